@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+/*! \file
+    What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else. */
+#pragma once
+
+#include <QEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+namespace QtCompat {
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+/// The event type of QWidget::enterEvent().
+using EnterEvent = QEnterEvent;
+#else
+using EnterEvent = QEvent;
+#endif
+
+/// Position of a mouse event in the receiving widget, in logical pixels.
+inline QPointF position(const QMouseEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->position();
+#else
+    return event->localPos();
+#endif
+}
+
+/// Position of a mouse event on the screen, in logical pixels.
+inline QPointF globalPosition(const QMouseEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->globalPosition();
+#else
+    return event->screenPos();
+#endif
+}
+
+} // namespace QtCompat

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vnatest.h"
+
+#include <QStringList>
+#include <QtTest>
+
+namespace VnaTest {
+
+namespace {
+
+QtMessageHandler s_next = nullptr;
+QStringList s_expected;
+QStringList s_unexpected;
+
+void watchMessages(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg && !s_expected.removeOne(message))
+        s_unexpected << message;
+    s_next(type, context, message);
+}
+
+} // namespace
+
+void TestCase::expectWarning(const QString &text)
+{
+    s_expected << text;
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(text));
+}
+
+void TestCase::init()
+{
+    s_expected.clear();
+    s_unexpected.clear();
+    s_next = qInstallMessageHandler(watchMessages);
+}
+
+void TestCase::cleanup()
+{
+    // Objects deleted later must not carry their warnings into the next test function.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    qInstallMessageHandler(s_next);
+    QVERIFY2(s_unexpected.isEmpty(), qPrintable(QStringLiteral("unexpected warning: ")
+                                                + s_unexpected.join(QLatin1Char('\n'))));
+}
+
+QString dataPath(const QString &name)
+{
+    return QStringLiteral(VNA_TEST_DATA_DIR "/") + name;
+}
+
+} // namespace VnaTest
