@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QMouseEvent>
+#include <QSettings>
 #include <QWheelEvent>
 
 namespace QtCompat {
@@ -34,6 +35,16 @@ inline QPointF globalPosition(const QMouseEvent *event)
     return event->globalPosition();
 #else
     return event->screenPos();
+#endif
+}
+
+/// Makes an INI file UTF-8, which Qt 6 takes for granted.
+inline void setUtf8(QSettings &settings)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    Q_UNUSED(settings)
+#else
+    settings.setIniCodec("UTF-8");
 #endif
 }
 

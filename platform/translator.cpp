@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/translator.h>
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace Utils
+{
+
+namespace
+{
+
+QString displayName(const QLocale &locale)
+{
+    // Qt would say "American English", and nothing at all for the C locale.
+    if (locale.language() == QLocale::English || locale.language() == QLocale::C)
+        return QStringLiteral("English");
+    return locale.nativeLanguageName();
+}
+
+} // namespace
+
+Translator *Translator::instance()
+{
+    static Translator *const translator = new Translator;
+    return translator;
+}
+
+void Translator::setLanguage(const QLocale &locale)
+{
+    const QString language = displayName(locale);
+    if (m_language == language)
+        return;
+    m_language = language;
+    QCoreApplication::removeTranslator(&m_catalogue);
+    if (m_catalogue.load(locale, QStringLiteral("vnawidgets"), QStringLiteral("_"),
+                         QStringLiteral(":/i18n")))
+        QCoreApplication::installTranslator(&m_catalogue);
+    Q_EMIT languageChanged(language);
+}
+
+} // namespace Utils

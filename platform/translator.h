@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <platform/vnaplatform_export.h>
+
+#include <QObject>
+#include <QTranslator>
+
+class QLocale;
+
+namespace Utils
+{
+
+/*! The language of the user interface, and its texts.
+
+    Texts come from the catalogues ":/i18n/vnawidgets_<language>.qm" of the application's resources.
+    Number formats do not follow: an instrument writes them the same way in every language.
+
+    \code
+    Utils::Translator *translator = Utils::Translator::instance();
+    connect(translator, &Utils::Translator::languageChanged, languageLabel, &QLabel::setText);
+    translator->setLanguage(QLocale(QLocale::Chinese));
+    \endcode */
+class VNAPLATFORM_EXPORT Translator : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The one instance, made at the first call and alive until the process ends.
+    static Translator *instance();
+
+    /// The language as its own speakers write it, for example "English" (the start value).
+    QString currentLanguage() const { return m_language; }
+
+public Q_SLOTS:
+    /*! Switches to the language of the locale. Where no catalogue exists the texts stay in English;
+        the language counts as switched all the same. */
+    void setLanguage(const QLocale &locale);
+
+Q_SIGNALS:
+    /// Fires after the texts were exchanged, with the new currentLanguage(); not for the same
+    /// language.
+    void languageChanged(const QString &language);
+
+private:
+    Translator() = default;
+
+    QString m_language = QStringLiteral("English");
+    QTranslator m_catalogue;
+};
+
+} // namespace Utils

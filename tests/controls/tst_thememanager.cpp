@@ -1,0 +1,357 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <controls/thememanager.h>
+#include <platform/guicontext.h>
+#include <platform/translator.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QImage>
+#include <QLocale>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cstdio>
+
+#include <vnatest.h>
+
+using Controls::ThemeManager;
+
+Q_DECLARE_METATYPE(Controls::ThemeManager::Theme)
+
+namespace
+{
+
+const char s_colorKeys[][24] = {
+    "borderColor",
+    "backgroundColor",
+    "textColor",
+    "highlightColor",
+    "buttonColor",
+    "statusBarColor",
+    "listItemEnabledColor",
+    "listItemSelectedColor",
+    "listItemHoverColor",
+    "listItemDefaultColor",
+    "labelButtonPressedColor",
+    "gridColor",
+};
+
+QString join(const QVector<QColor> &colors)
+{
+    QStringList names;
+    for (const QColor &color : colors)
+        names << color.name();
+    return names.join(QLatin1Char(' '));
+}
+
+/// The colours of the current theme that a settings file can change.
+QString adjustable()
+{
+    const auto *theme = ThemeManager::instance();
+    const auto name = [](const QColor &color) {
+        return color.isValid() ? color.name() : QStringLiteral("invalid");
+    };
+    return QStringList{name(theme->gridColor()), name(theme->borderColor()),
+                       name(theme->backgroundColor()), join(theme->getTracePalette()),
+                       join(theme->getMemoryTracePalette())}
+        .join(QLatin1Char('|'));
+}
+
+/// The settings are read once in a process, so each file is tried in a process of its own.
+int printAdjustable(int argc, char **argv)
+{
+    QCoreApplication app(argc, argv);
+    app.setProperty("vnaSettingsPath", QString::fromLocal8Bit(argv[2]));
+    const QString dark = adjustable();
+    ThemeManager::instance()->setTheme(ThemeManager::Light);
+    std::puts(qPrintable(dark + QLatin1Char('\n') + adjustable()));
+    return 0;
+}
+
+const char s_dark[] = "#292e33|#535b62|#000000|#ffff00 #ff55ff #00f5a0 #40b5ff|"
+                      "#ffb347 #ff7675 #ffd166 #ff9f1c";
+const char s_light[] = "#c7c2bd|#bab4af|#ece9e4|#007a52 #a84f00 #0068b0 #9c27b0|"
+                       "#d84315 #ad1457 #6d4c41 #5d4037";
+
+} // namespace
+
+class tst_ThemeManager : public VnaTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qRegisterMetaType<ThemeManager::Theme>();
+        // Built-in values, whatever stands beside the program.
+        qApp->setProperty("vnaSettingsPath", QStringLiteral("/nowhere/settings.ini"));
+        QCOMPARE(ThemeManager::instance()->currentTheme(), ThemeManager::Dark);
+        QVERIFY(qApp->styleSheet().isEmpty());
+    }
+
+    void cleanup()
+    {
+        ThemeManager::instance()->setTheme(ThemeManager::Dark);
+        TestCase::cleanup();
+    }
+
+    void namedColors_data()
+    {
+        QTest::addColumn<int>("theme");
+        QTest::addColumn<QString>("colors");
+        QTest::newRow("dark")
+            << int(ThemeManager::Dark)
+            << "#ff535b62 #ff000000 #ffffffff #641d6d9f #ff323232 #ff000000 #ff0000ce "
+               "#641d6d9f #ff2d2d2d #ff191919 #641d6d9f #ff292e33";
+        QTest::newRow("light")
+            << int(ThemeManager::Light)
+            << "#ffbab4af #ffece9e4 #ff2c3a45 #6463acf6 #ffd2cbc5 #ffece9e4 #ff63acf6 "
+               "#6463acf6 #ffe5ded9 #ffece9e4 #ff63acf6 #ffc7c2bd";
+    }
+
+    void namedColors()
+    {
+        QFETCH(int, theme);
+        QFETCH(QString, colors);
+        auto *manager = ThemeManager::instance();
+        manager->setTheme(ThemeManager::Theme(theme));
+        QStringList names;
+        for (const char *key : s_colorKeys)
+            names << manager->getColor(QLatin1String(key)).name(QColor::HexArgb);
+        QCOMPARE(names.join(QLatin1Char(' ')), colors);
+
+        QCOMPARE(manager->backgroundColor(), manager->getColor(QStringLiteral("backgroundColor")));
+        QCOMPARE(manager->borderColor(), manager->getColor(QStringLiteral("borderColor")));
+        QCOMPARE(manager->gridColor(), manager->getColor(QStringLiteral("gridColor")));
+        QCOMPARE(manager->highlightColor(), manager->getColor(QStringLiteral("highlightColor")));
+        QCOMPARE(manager->labelButtonPressedColor(),
+                 manager->getColor(QStringLiteral("labelButtonPressedColor")));
+        QCOMPARE(manager->textColor(), manager->getColor(QStringLiteral("textColor")));
+        QVERIFY(!manager->getColor(QStringLiteral("noSuchColor")).isValid());
+        QCOMPARE(adjustable(), QLatin1String(theme == ThemeManager::Dark ? s_dark : s_light));
+    }
+
+    void iconPaths()
+    {
+        auto *manager = ThemeManager::instance();
+        const auto paths = [manager] {
+            QStringList names;
+            for (int id = 0; id < 8; ++id) {
+                const QString path = manager->getIconPath(id);
+                if (path.startsWith(QLatin1String(":/image/resource/")))
+                    names << path.mid(17);
+            }
+            return names.join(QLatin1Char(' '));
+        };
+        QCOMPARE(paths(),
+                 QStringLiteral("logo.png logo.png enter.svg lock.svg unlock.svg screenshot.png "
+                                "hidepanel.png showpanel.png"));
+        manager->setTheme(ThemeManager::Light);
+        QCOMPARE(paths(),
+                 QStringLiteral("logo_light.png logo_light.png enter.svg lock_light.svg "
+                                "unlock_light.svg scrreenshot_light.png hidepanel_light.png "
+                                "showpanel_light.png"));
+        for (int id : {-1, 8}) {
+            QCOMPARE(manager->getIconPath(id), QString());
+            QVERIFY(manager->icon(id).isNull());
+        }
+    }
+
+    void logoOfCustomerBeatsLanguageBeatsBuiltIn()
+    {
+        auto *manager = ThemeManager::instance();
+        Utils::Translator::instance()->setLanguage(QLocale(QLocale::Chinese));
+        QCOMPARE(manager->getIconPath(0), QStringLiteral(":/image/resource/logochinese_dark.png"));
+        manager->setTheme(ThemeManager::Light);
+        QCOMPARE(manager->getIconPath(0), QStringLiteral(":/image/resource/logochinese_light.svg"));
+        QCOMPARE(manager->getIconPath(1), QStringLiteral(":/image/resource/logo_light.png"));
+
+        QTemporaryDir root;
+        const QString start = QDir::currentPath();
+        const QString logo = QFileInfo(root.path()).canonicalFilePath()
+            + QStringLiteral("/configuration/customized/logo.png");
+        QVERIFY(QDir(root.path()).mkpath(QStringLiteral("configuration/customized/logo.png")));
+        QVERIFY(QDir(root.path()).mkpath(QStringLiteral("work")));
+        QVERIFY(QDir::setCurrent(root.filePath(QStringLiteral("work"))));
+        const QString withFolder = manager->getIconPath(0);
+        QVERIFY(QDir().rmdir(logo));
+        QImage(4, 4, QImage::Format_RGB32).save(logo);
+        const QString light = manager->getIconPath(0);
+        manager->setTheme(ThemeManager::Dark);
+        const QString dark = manager->getIconPath(0);
+        const QString builtIn = manager->getIconPath(1);
+        QVERIFY(QDir::setCurrent(start));
+        Utils::Translator::instance()->setLanguage(QLocale(QLocale::English));
+
+        QCOMPARE(withFolder, QStringLiteral(":/image/resource/logochinese_light.svg"));
+        QCOMPARE(light, logo);
+        QCOMPARE(dark, logo);
+        QCOMPARE(builtIn, QStringLiteral(":/image/resource/logo.png"));
+        QCOMPARE(manager->getIconPath(0), QStringLiteral(":/image/resource/logo.png"));
+    }
+
+    void switchingTellsEveryTimeAndLast()
+    {
+        auto *manager = ThemeManager::instance();
+        QSignalSpy changed(manager, &ThemeManager::themeChanged);
+        QSignalSpy darkChanged(Utils::GUIContext::instance(), &Utils::GUIContext::darkThemeChanged);
+        QVector<bool> flagAtSignal;
+        QStringList sheetAtSignal;
+        const auto connection = connect(manager, &ThemeManager::themeChanged, this, [&] {
+            flagAtSignal << Utils::GUIContext::instance()->getIsDarkTheme();
+            sheetAtSignal << qApp->styleSheet();
+        });
+        manager->toggleTheme();
+        QVERIFY(manager->isLightTheme() && !manager->isDarkTheme());
+        manager->toggleTheme();
+        QVERIFY(manager->isDarkTheme() && !manager->isLightTheme());
+        manager->setTheme(ThemeManager::Dark);
+        disconnect(connection);
+
+        QCOMPARE(changed.count(), 3);
+        QCOMPARE(changed.at(0).at(0).value<ThemeManager::Theme>(), ThemeManager::Light);
+        QCOMPARE(changed.at(1).at(0).value<ThemeManager::Theme>(), ThemeManager::Dark);
+        QCOMPARE(changed.at(2).at(0).value<ThemeManager::Theme>(), ThemeManager::Dark);
+        QCOMPARE(flagAtSignal, (QVector<bool>{false, true, true}));
+        QCOMPARE(darkChanged.count(), 2);
+        // Dark again after light leaves nothing of light behind.
+        QVERIFY(sheetAtSignal.at(0) != sheetAtSignal.at(1));
+        QCOMPARE(sheetAtSignal.at(1), sheetAtSignal.at(2));
+    }
+
+    void settings_data()
+    {
+        const QString dark = QLatin1String(s_dark);
+        const QString light = QLatin1String(s_light);
+        const QString red = QString(light).replace(QLatin1String("#007a52 #a84f00 #0068b0 #9c27b0"),
+                                                   QLatin1String("#ff0000 #00ff00"));
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QString>("expectedDark");
+        QTest::addColumn<QString>("expectedLight");
+        const QByteArray group = "[ThemeColors]\n";
+
+        QTest::newRow("empty") << QByteArray() << dark << light;
+        QTest::newRow("binary") << QByteArray("\x7f\x45LF\0\x01\xff\xfe[\n=\"\0\r", 16) << dark
+                                << light;
+        QTest::newRow("other group")
+            << QByteArray("[Colors]\nDark\\gridColor=red\n") << dark << light;
+        QTest::newRow("list quoted")
+            << group + "Light\\tracePalette=\"#ff0000,#00ff00\"" << dark << red;
+        QTest::newRow("list bare") << group + "Light\\tracePalette=#ff0000,#00ff00" << dark << red;
+        QTest::newRow("list with blanks") << group + "Light/tracePalette = #ff0000 , #00ff00 \n"
+                                          << dark << red;
+        QTest::newRow("list quoted one by one")
+            << group + "Light/tracePalette=\"#ff0000\", \"#00ff00\"\r\n"
+            << dark << red;
+        QTest::newRow("list with gaps and words")
+            << group + "Light\\tracePalette=red, reddish, , lime" << dark << red;
+        QTest::newRow("list with Chinese after a mark")
+            << QByteArray("\xef\xbb\xbf") + group + "Light\\tracePalette=\"red,\xe7\xba\xa2,lime\""
+            << dark << red;
+        QTest::newRow("list of nothing valid")
+            << group + "Light\\tracePalette=12, #fffff, rgb(1,2,3)" << dark << light;
+        QTest::newRow("all palettes")
+            << group
+                + "Dark\\tracePalette=red\nDark\\memoryTracePalette="
+                  "lime\nLight\\memoryTracePalette=blue,red"
+            << "#292e33|#535b62|#000000|#ff0000|#00ff00"
+            << "#c7c2bd|#bab4af|#ece9e4|#007a52 #a84f00 #0068b0 #9c27b0|#0000ff #ff0000";
+        QTest::newRow("all colours")
+            << group
+                + "Dark\\gridColor=#111111\nDark\\borderColor=\"#222222\"\nDark\\backgroundColor="
+                  "red\n"
+                  "Light/gridColor=#444444 ; "
+                  "thin\nLight/borderColor=#555555\nLight/backgroundColor=#666"
+            << QString(dark).replace(0, 23, QStringLiteral("#111111|#222222|#ff0000"))
+            << QString(light).replace(0, 23, QStringLiteral("#444444|#555555|#666666"));
+        QTest::newRow("colour that is none")
+            << group + "Dark\\gridColor=greyish\nDark\\textColor=red\nLight\\gridColor="
+            << QString(dark).replace(0, 7, QStringLiteral("invalid"))
+            << QString(light).replace(0, 7, QStringLiteral("invalid"));
+    }
+
+    void settings()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QString, expectedDark);
+        QFETCH(QString, expectedLight);
+        QTemporaryFile settings;
+        QVERIFY(settings.open());
+        settings.write(file);
+        settings.close();
+        QCOMPARE(adjustableWith(settings.fileName()), QStringList({expectedDark, expectedLight}));
+        // Nothing is ever written back.
+        QVERIFY(settings.open());
+        QCOMPARE(settings.readAll(), file);
+    }
+
+    void settingsThatAreNoFile()
+    {
+        const QStringList defaults{QLatin1String(s_dark), QLatin1String(s_light)};
+        QTemporaryDir folder;
+        QCOMPARE(adjustableWith(folder.path()), defaults);
+        QCOMPARE(adjustableWith(folder.filePath(QStringLiteral("missing/../absent.ini"))),
+                 defaults);
+        QCOMPARE(adjustableWith(QStringLiteral("/dev/null")), defaults);
+    }
+
+    void invertedImage_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("ARGB32") << int(QImage::Format_ARGB32) << int(QImage::Format_ARGB32);
+        QTest::newRow("RGB32") << int(QImage::Format_RGB32) << int(QImage::Format_RGB32);
+        QTest::newRow("premultiplied")
+            << int(QImage::Format_ARGB32_Premultiplied) << int(QImage::Format_ARGB32);
+        QTest::newRow("16 bit") << int(QImage::Format_RGB16) << int(QImage::Format_ARGB32);
+        QTest::newRow("indexed") << int(QImage::Format_Indexed8) << int(QImage::Format_ARGB32);
+    }
+
+    void invertedImage()
+    {
+        QFETCH(int, format);
+        QFETCH(int, expected);
+        // Odd width: scan lines of 16-bit and indexed images are padded.
+        QImage source(3, 2, QImage::Format_ARGB32);
+        source.fill(Qt::white);
+        source.setPixelColor(1, 0, QColor(255, 0, 0));
+        source.setPixelColor(2, 1, QColor(0, 255, 255, 0));
+        const QImage image = source.convertToFormat(QImage::Format(format));
+        const QImage before = image.copy();
+        const QImage inverted = Controls::invertImageColors(image);
+        QCOMPARE(int(inverted.format()), expected);
+        QCOMPARE(inverted.pixel(0, 0), qRgb(0, 0, 0));
+        QCOMPARE(inverted.pixel(1, 0), qRgb(0, 255, 255));
+        QCOMPARE(qAlpha(inverted.pixel(2, 1)), image.hasAlphaChannel() ? 0 : 255);
+        QCOMPARE(image, before);
+    }
+
+    void invertedImageOfNothing() { QVERIFY(Controls::invertImageColors(QImage()).isNull()); }
+
+private:
+    static QStringList adjustableWith(const QString &settings)
+    {
+        QProcess process;
+        process.start(QCoreApplication::applicationFilePath(),
+                      {QStringLiteral("--print"), settings});
+        if (!process.waitForFinished() || process.exitCode() != 0)
+            return {QString::fromLocal8Bit(process.readAllStandardError())};
+        // A silent reading: nothing may be reported or logged.
+        const QByteArray text = process.readAllStandardError() + process.readAllStandardOutput();
+        return QString::fromLocal8Bit(text).trimmed().split(QLatin1Char('\n'));
+    }
+};
+
+int main(int argc, char **argv)
+{
+    if (argc == 3 && qstrcmp(argv[1], "--print") == 0)
+        return printAdjustable(argc, argv);
+    QApplication app(argc, argv);
+    tst_ThemeManager test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_thememanager.moc"
