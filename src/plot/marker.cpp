@@ -171,6 +171,7 @@ void Marker::createItems(QCustomPlot *plot)
     queueReplot();
 
     m_label = new QCPItemMarkerText(plot, m_tracer);
+    m_label->setText(QString()); // the owner's to choose; QCustomPlot starts with a placeholder
     m_label->position->setType(QCPItemPosition::ptAbsolute);
     m_label->position->setParentAnchor(m_tracer->position, false);
     m_label->setClipToAxisRect(false);

@@ -47,7 +47,10 @@ bool QCPItemTracerMarker::anchorInsideAxisRect() const
 {
     if (!position || !position->axisRect())
         return false;
-    return QRectF(position->axisRect()->rect()).contains(position->pixelPosition());
+    const QPointF anchor = position->pixelPosition();
+    // contains() takes a NaN for inside, and painting at one is undefined.
+    return std::isfinite(anchor.x()) && std::isfinite(anchor.y())
+        && QRectF(position->axisRect()->rect()).contains(anchor);
 }
 
 void QCPItemTracerMarker::draw(QCPPainter *painter)

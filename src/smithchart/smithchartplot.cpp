@@ -14,6 +14,8 @@ SmithChartPlot::SmithChartPlot(QCustomPlot *plot, QCPAxis *xAxis, QCPAxis *yAxis
     , m_plot(plot)
     , m_preset(preset)
 {
+    // For hosts that queue or spy on the double click signals.
+    qRegisterMetaType<Qt::KeyboardModifiers>("Qt::KeyboardModifiers");
     if (!plot)
         return;
     m_xAxis = xAxis ? xAxis : plot->xAxis;

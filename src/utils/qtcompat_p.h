@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
-    What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else. */
+    What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else.
+ */
 #pragma once
 
 #include <QEvent>
@@ -9,7 +10,8 @@
 #include <QSettings>
 #include <QWheelEvent>
 
-namespace QtCompat {
+namespace QtCompat
+{
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 /// The event type of QWidget::enterEvent().
