@@ -1,15 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
-    What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else. */
+    What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else.
+ */
 #pragma once
 
 #include <QEvent>
 #include <QMouseEvent>
 #include <QSettings>
+#include <QTouchEvent>
 #include <QWheelEvent>
 
-namespace QtCompat {
+namespace QtCompat
+{
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 /// The event type of QWidget::enterEvent().
@@ -35,6 +38,26 @@ inline QPointF globalPosition(const QMouseEvent *event)
     return event->globalPosition();
 #else
     return event->screenPos();
+#endif
+}
+
+/// How many fingers a touch event speaks of; none in some cancels.
+inline int touchPointCount(const QTouchEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return int(event->pointCount());
+#else
+    return int(event->touchPoints().count());
+#endif
+}
+
+/// Screen position of the first finger, in logical pixels; there must be one.
+inline QPointF firstTouchPosition(const QTouchEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->points().first().globalPosition();
+#else
+    return event->touchPoints().first().screenPos();
 #endif
 }
 
