@@ -26,6 +26,7 @@ function(vna_shared_library target export_name)
     if(NOT VNAWIDGETS_QT_MAJOR EQUAL 5)
         set(output ${target}-qt${VNAWIDGETS_QT_MAJOR})
     endif()
+    set_property(TARGET ${target} APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/CMakeLists.txt)
     set_target_properties(${target} PROPERTIES
         OUTPUT_NAME ${output}
         EXPORT_NAME ${export_name}

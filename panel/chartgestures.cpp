@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "chartgestures.h"
+
+#include "panelmodel.h"
+#include "smithview.h"
+
+#include <plot/qcp.h>
+#include <utils/qtcompat_p.h>
+
+#include <QApplication>
+#include <QGestureEvent>
+
+#include <cmath>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// Zoom for one notch of the wheel or one press of a key.
+constexpr double s_zoomStep = 1.25;
+/// Pixels that an arrow key moves the view.
+constexpr double s_panStep = 40.0;
+
+} // namespace
+
+ChartGestures::ChartGestures(PanelModel *model, SmithView *view, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_view(view)
+{
+    QCustomPlot *plot = view->plot();
+    // The chart connected first: a press that catches a marker has done so when it comes here.
+    connect(plot, &QCustomPlot::mouseWheel, this, &ChartGestures::onWheel);
+    connect(plot, &QCustomPlot::mousePress, this, &ChartGestures::onPress);
+    connect(plot, &QCustomPlot::mouseMove, this, &ChartGestures::onMove);
+    connect(plot, &QCustomPlot::mouseRelease, this, &ChartGestures::onRelease);
+    connect(plot, &QCustomPlot::mouseDoubleClick, this, &ChartGestures::onDoubleClick);
+    plot->grabGesture(Qt::PinchGesture);
+    plot->installEventFilter(this);
+    connect(view, &SmithView::chartReplaced, this, &ChartGestures::adoptChart);
+    adoptChart();
+}
+
+void ChartGestures::adoptChart()
+{
+    SmithChartPlot *chart = m_view->chart();
+    chart->setOnlyHandleActiveTrace(false);
+    connect(chart, &SmithChartPlot::pointDoubleClicked, m_model, &PanelModel::setActiveTrace);
+}
+
+bool ChartGestures::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Gesture:
+        return onGesture(static_cast<QGestureEvent *>(event));
+    case QEvent::KeyPress:
+        return onKey(static_cast<QKeyEvent *>(event));
+    case QEvent::Hide:
+    case QEvent::UngrabMouse:
+    case QEvent::WindowBlocked:
+    case QEvent::WindowDeactivate:
+    case QEvent::TouchCancel:
+        // The release may never come.
+        onRelease();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void ChartGestures::onWheel(QWheelEvent *event)
+{
+    const double notches = event->angleDelta().y() / 120.0;
+    m_view->zoomAt(event->position(), std::pow(s_zoomStep, notches));
+    event->accept();
+}
+
+void ChartGestures::onPress(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || m_view->chart()->isDraggingMarker())
+        return;
+    m_drag = Drag::Pressed;
+    m_pressed = QtCompat::position(event);
+}
+
+void ChartGestures::onMove(QMouseEvent *event)
+{
+    const QPointF position = QtCompat::position(event);
+    if (m_drag == Drag::Pressed) {
+        if ((position - m_pressed).manhattanLength() < QApplication::startDragDistance())
+            return;
+        // From here on, so that the view does not jump by the distance it took to be sure.
+        m_drag = Drag::Panning;
+        m_grabbed = m_view->chartPoint(position);
+    }
+    if (m_drag == Drag::Panning)
+        m_view->moveTo(m_grabbed, position);
+}
+
+void ChartGestures::onRelease()
+{
+    m_drag = Drag::None;
+}
+
+void ChartGestures::onDoubleClick(QMouseEvent *event)
+{
+    m_drag = Drag::None;
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (!m_view->chart()->handleDoubleClick(QtCompat::position(event).toPoint(),
+                                            event->modifiers()))
+        m_view->resetView();
+}
+
+bool ChartGestures::onGesture(QGestureEvent *event)
+{
+    const auto *pinch = static_cast<QPinchGesture *>(event->gesture(Qt::PinchGesture));
+    if (!pinch)
+        return false;
+    // The first finger of the two came as a mouse press.
+    m_drag = Drag::None;
+    const QPointF centre = m_view->plot()->mapFromGlobal(pinch->centerPoint().toPoint());
+    if (pinch->state() == Qt::GestureStarted)
+        m_grabbed = m_view->chartPoint(centre);
+    m_view->moveTo(m_grabbed, centre);
+    m_view->zoomAt(centre, pinch->scaleFactor());
+    return true;
+}
+
+bool ChartGestures::onKey(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        m_view->setZoom(m_view->zoom() * s_zoomStep);
+        return true;
+    case Qt::Key_Minus:
+        m_view->setZoom(m_view->zoom() / s_zoomStep);
+        return true;
+    case Qt::Key_0:
+        m_view->resetView();
+        return true;
+    case Qt::Key_Left:
+        pan(s_panStep, 0.0);
+        return true;
+    case Qt::Key_Right:
+        pan(-s_panStep, 0.0);
+        return true;
+    case Qt::Key_Up:
+        pan(0.0, s_panStep);
+        return true;
+    case Qt::Key_Down:
+        pan(0.0, -s_panStep);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void ChartGestures::pan(double right, double down)
+{
+    const QPointF from = m_view->plot()->axisRect()->center();
+    m_view->moveTo(m_view->chartPoint(from), from + QPointF(right, down));
+}
+
+} // namespace Panel

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commandline.h"
+
+#include <QRegularExpression>
+
+namespace Panel
+{
+
+namespace
+{
+
+constexpr QSize s_smallest(800, 480);
+constexpr QSize s_largest(7680, 4320);
+
+bool parseSize(const QString &text, QSize &size)
+{
+    static const QRegularExpression form(QStringLiteral("^(\\d{1,5})[xX](\\d{1,5})$"));
+    const QRegularExpressionMatch match = form.match(text);
+    size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+    return match.hasMatch() && size.boundedTo(s_largest) == size
+        && size.expandedTo(s_smallest) == size;
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const QStringList &arguments)
+{
+    CommandLine result;
+    bool options = true;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString argument = arguments.at(i);
+        if (!options || !argument.startsWith(QLatin1Char('-')) || argument.size() == 1) {
+            result.files << argument;
+            continue;
+        }
+        if (argument == QLatin1String("--")) {
+            options = false;
+            continue;
+        }
+        const int equals = argument.indexOf(QLatin1Char('='));
+        const QString name = argument.left(equals);
+        const bool takesValue = name == QLatin1String("--grab") || name == QLatin1String("--size");
+        QString value = equals < 0 ? QString() : argument.mid(equals + 1);
+        if (takesValue && equals < 0 && i + 1 < arguments.size())
+            value = arguments.at(++i);
+        if (takesValue ? value.isEmpty() : equals >= 0) {
+            result.error = takesValue ? QStringLiteral("%1 needs a value.").arg(name)
+                                      : QStringLiteral("%1 takes no value.").arg(name);
+            return result;
+        }
+        if (name == QLatin1String("--grab")) {
+            result.grabFolder = value;
+        } else if (name == QLatin1String("--size")) {
+            if (!parseSize(value, result.size)) {
+                result.error =
+                    QStringLiteral(
+                        "--size wants WIDTHxHEIGHT from 800x480 to 7680x4320, not \"%1\".")
+                        .arg(value);
+                return result;
+            }
+        } else if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
+            result.help = true;
+        } else if (name == QLatin1String("--version")) {
+            result.version = true;
+        } else {
+            result.error = QStringLiteral("There is no option %1.").arg(name);
+            return result;
+        }
+    }
+    return result;
+}
+
+QString helpText()
+{
+    return QStringLiteral(
+        "Usage: vnapanel [options] [files]\n"
+        "\n"
+        "Shows the reflection in Touchstone files (.s1p, .s2p) on a Smith chart.\n"
+        "Without files it shows a sample.\n"
+        "\n"
+        "Options:\n"
+        "  --grab DIR   write a PNG of each screen to DIR and quit; needs no display\n"
+        "  --size WxH   size of the window in pixels, at least 800x480 (default 1280x800)\n"
+        "  --help       show this text and quit\n"
+        "  --version    show the version and quit\n"
+        "\n"
+        "Exit status: 0 if all went well, 1 if a file could not be read or written,\n"
+        "2 if the command line was wrong.\n");
+}
+
+} // namespace Panel

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QSize>
+#include <QStringList>
+
+namespace Panel
+{
+
+/// What the user asked for on the command line.
+struct CommandLine {
+    QStringList files;
+    QString grabFolder; ///< empty: show the window
+    QSize size = QSize(1280, 800);
+    bool help = false;
+    bool version = false;
+    QString error; ///< one sentence; empty if all is well
+};
+
+/// Reads the arguments that follow the program's name.
+CommandLine parseCommandLine(const QStringList &arguments);
+
+/// The text of --help.
+QString helpText();
+
+} // namespace Panel

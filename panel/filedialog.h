@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+
+class QLabel;
+class QListWidget;
+class QListWidgetItem;
+class QPushButton;
+
+namespace Panel
+{
+
+/*! Picks Touchstone files with a finger: tall rows, one tap for a folder or to pick and unpick a
+   file, and the places one goes to most. It only picks; reading the files is for whoever asked. */
+class FileDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FileDialog(QWidget *parent = nullptr);
+
+    QString folder() const { return m_folder; }
+    void setFolder(const QString &folder);
+    /// Full paths of the picked files, in the order of the list.
+    QStringList pickedFiles() const;
+
+private:
+    void onItemClicked(QListWidgetItem *item);
+    void onItemActivated(QListWidgetItem *item);
+    void updateButtons();
+
+    QString m_folder;
+    QLabel *m_path;
+    QLabel *m_hint;
+    QListWidget *m_list;
+    QPushButton *m_up;
+    QPushButton *m_open;
+};
+
+} // namespace Panel

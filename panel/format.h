@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+/*! \file
+    Numbers as the panel shows them: engineering units, a decimal point and a true minus sign
+   everywhere. */
+#pragma once
+
+#include <QString>
+
+namespace Panel
+{
+
+/// "2.450 GHz": a frequency in Hz with at least three decimals, and as many more as it needs, up to
+/// nine.
+QString frequencyText(double hertz);
+/// "376.73 Ω": a resistance in Ohm with up to five significant digits.
+QString ohmsText(double ohms);
+
+} // namespace Panel

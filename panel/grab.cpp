@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grab.h"
+
+#include "filedialog.h"
+#include "messagebar.h"
+#include "panelmodel.h"
+#include "panelwindow.h"
+#include "samples.h"
+#include "smithview.h"
+#include "softkey.h"
+
+#include <controls/thememanager.h>
+#include <plot/qcp.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+
+#include <cstdio>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// Lets layouts, deferred re-fits and queued replots happen.
+void settle()
+{
+    for (int i = 0; i < 4; ++i) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
+class Grabber
+{
+public:
+    Grabber(PanelWindow *window, const QString &folder)
+        : m_window(window)
+        , m_folder(folder)
+    {
+    }
+
+    bool ok() const { return m_ok; }
+
+    void grab(const char *name, QWidget *widget = nullptr)
+    {
+        settle();
+        m_window->smithView()->plot()->replot();
+        const QString path = m_folder.filePath(QLatin1String(name) + QLatin1String(".png"));
+        if ((widget ? widget : m_window)->grab().save(path))
+            return;
+        std::fprintf(stderr, "vnapanel: %s: the picture cannot be written.\n",
+                     qUtf8Printable(path));
+        m_ok = false;
+    }
+
+private:
+    PanelWindow *m_window;
+    QDir m_folder;
+    bool m_ok = true;
+};
+
+} // namespace
+
+bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
+{
+    if (!QDir().mkpath(folder)) {
+        std::fprintf(stderr, "vnapanel: %s: the folder cannot be made.\n", qUtf8Printable(folder));
+        return false;
+    }
+    using Controls::ThemeManager;
+    Grabber grabber(window, folder);
+    SmithView *view = window->smithView();
+
+    // Keys are pressed as a user would, so that their values follow.
+    const auto pick = [](SoftKey *key, int index) { Q_EMIT key->choicePicked(index); };
+    pick(window->gridKey(), SmithChartPlot::Admittance);
+    grabber.grab("smith-admittance");
+    pick(window->gridKey(), SmithChartPlot::ImpedanceAndAdmittance);
+    grabber.grab("smith-both");
+    pick(window->gridKey(), SmithChartPlot::Impedance);
+    grabber.grab("smith-impedance");
+    pick(window->densityKey(), SmithChart::Basic);
+    grabber.grab("smith-basic");
+    pick(window->densityKey(), SmithChart::Detailed);
+    grabber.grab("smith-detailed");
+    pick(window->densityKey(), SmithChart::Standard);
+    view->setZoom(4.0);
+    grabber.grab("smith-zoomed");
+    view->resetView();
+
+    ThemeManager::instance()->setTheme(ThemeManager::Light);
+    grabber.grab("smith-light");
+    ThemeManager::instance()->setTheme(ThemeManager::Dark);
+
+    const QString message = window->messageBar()->message();
+    window->messageBar()->setMessage(
+        QStringLiteral("filter.s2p, line 12: the frequency falls back."));
+    grabber.grab("message");
+    window->messageBar()->setMessage(message);
+
+    const QVector<Network> networks = model->networks();
+    model->setNetworks({});
+    grabber.grab("empty");
+    model->setNetworks(networks);
+
+    FileDialog dialog(window);
+    dialog.setFolder(sampleFolder());
+    dialog.setAttribute(Qt::WA_DontShowOnScreen);
+    dialog.show();
+    grabber.grab("file-dialog", &dialog);
+    return grabber.ok();
+}
+
+} // namespace Panel

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "look.h"
+
+#include <controls/thememanager.h>
+
+namespace Panel
+{
+
+Look currentLook()
+{
+    const auto *theme = Controls::ThemeManager::instance();
+    const bool dark = theme->isDarkTheme();
+    Look look;
+    look.background = theme->backgroundColor();
+    look.text = theme->textColor();
+    look.border = theme->borderColor();
+    look.button = theme->getColor(QStringLiteral("buttonColor"));
+    look.traces = theme->getTracePalette();
+    // The same as in the theme's style sheets.
+    look.bar = dark ? QColor(0x14, 0x17, 0x1a) : QColor(0xe1, 0xdc, 0xd6);
+    look.dimText = dark ? QColor(0x9a, 0xa5, 0xaf) : QColor(0x4d, 0x58, 0x61);
+    look.accent = dark ? QColor(0x40, 0xb5, 0xff) : QColor(0x00, 0x68, 0xb0);
+    look.warning = dark ? QColor(0xff, 0xb3, 0x47) : QColor(0xa8, 0x4f, 0x00);
+    return look;
+}
+
+QString panelStyleSheet(const Look &look)
+{
+    QString sheet = QStringLiteral(R"(
+Panel--PanelWindow, QWidget#topBar, QWidget#softKeys, Panel--SweepBar, Panel--MessageBar { background: @bar; }
+QLabel#dim { color: @dimText; }
+QWidget#topBar { border-bottom: 1px solid @border; }
+QWidget#softKeys { border-left: 1px solid @border; }
+QStackedWidget#diagrams, QWidget#emptyPage { background: @background; }
+Panel--SmithView { background: @background; }
+Panel--SweepBar { border-top: 1px solid @border; }
+Panel--MessageBar { border: 1px solid @warning; }
+Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
+Panel--FileDialog QListWidget::item { padding: 10px; border-bottom: 1px solid @button; }
+)");
+    const std::pair<const char *, QColor> places[] = {
+        {"@background", look.background}, {"@bar", look.bar},       {"@dimText", look.dimText},
+        {"@border", look.border},         {"@button", look.button}, {"@warning", look.warning},
+    };
+    for (const auto &[place, color] : places)
+        sheet.replace(QLatin1String(place), color.name());
+    return sheet;
+}
+
+QColor textOn(const QColor &fill)
+{
+    return qGray(fill.rgb()) > 120 ? QColor(Qt::black) : QColor(Qt::white);
+}
+
+} // namespace Panel

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QVector>
+
+namespace Panel
+{
+
+/// The colours of the panel's own parts in the theme that is in force; ask again after
+/// themeChanged().
+struct Look {
+    QColor background; ///< behind diagrams
+    QColor bar; ///< top and bottom bars, dialogs
+    QColor text;
+    QColor dimText; ///< names and hints beside a value
+    QColor border;
+    QColor button;
+    QColor accent; ///< choice and focus
+    QColor warning; ///< edge of a message
+    QVector<QColor> traces;
+
+    /// The colour of a trace: its number picks from the palette, which starts over at its end.
+    QColor trace(int id) const { return traces.at((id - 1) % traces.size()); }
+};
+
+Look currentLook();
+
+/// The style sheet of the panel's window.
+QString panelStyleSheet(const Look &look);
+
+/// Text that can be read on a fill: black or white.
+QColor textOn(const QColor &fill);
+
+} // namespace Panel

@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panelcontroller.h"
+
+#include "chartgestures.h"
+#include "filedialog.h"
+#include "messagebar.h"
+#include "panelmodel.h"
+#include "panelwindow.h"
+#include "smithview.h"
+#include "softkey.h"
+#include "touchstone.h"
+#include "tracebar.h"
+
+#include <controls/thememanager.h>
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFileInfo>
+#include <QShortcut>
+
+#include <cstdio>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// What the zoom key offers.
+constexpr double s_zooms[] = {1.0, 2.0, 5.0, 10.0, 20.0};
+
+} // namespace
+
+PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_window(window)
+    , m_folder(QDir::currentPath())
+{
+    new ChartGestures(model, window->smithView(), this);
+    connectKeys();
+    addShortcuts();
+    showZoom();
+}
+
+void PanelController::connectKeys()
+{
+    SmithView *view = m_window->smithView();
+    connect(m_window->traceBar(), &TraceBar::activationRequested, m_model,
+            &PanelModel::setActiveTrace);
+    connect(m_window->fileKey(), &SoftKey::clicked, this, &PanelController::showFileDialog);
+    connect(m_window->emptyPageButton(), &QAbstractButton::clicked, this,
+            &PanelController::showFileDialog);
+    connect(m_window->themeButton(), &QAbstractButton::clicked, Controls::ThemeManager::instance(),
+            &Controls::ThemeManager::toggleTheme);
+
+    SoftKey *grid = m_window->gridKey();
+    grid->setChoices({tr("Impedance"), tr("Admittance"), tr("Both")});
+    connect(grid, &SoftKey::choicePicked, view, [grid, view](int index) {
+        view->setGridMode(SmithChartPlot::GridMode(index));
+        grid->setChoice(index);
+    });
+
+    SoftKey *density = m_window->densityKey();
+    density->setChoices({tr("Basic"), tr("Standard"), tr("Detailed")});
+    density->setChoice(view->density());
+    connect(density, &SoftKey::choicePicked, view, [density, view](int index) {
+        view->setDensity(SmithChart::Preset(index));
+        density->setChoice(index);
+    });
+
+    connect(m_window->traceKey(), &SoftKey::clicked, this, [this] {
+        if (const Trace *trace = m_model->activeTrace())
+            m_model->setTraceVisible(trace->id, !trace->visible);
+    });
+
+    QStringList zooms;
+    for (const double zoom : s_zooms)
+        zooms << (zoom == 1.0 ? tr("Whole chart") : QStringLiteral("%1 \u00d7").arg(zoom));
+    m_window->zoomKey()->setChoices(zooms);
+    connect(m_window->zoomKey(), &SoftKey::choicePicked, view,
+            [view](int index) { view->setZoom(s_zooms[index]); });
+    connect(view, &SmithView::viewChanged, this, &PanelController::showZoom);
+}
+
+void PanelController::addShortcuts()
+{
+    const auto add = [this](const QKeySequence &keys, auto action) {
+        connect(new QShortcut(keys, m_window), &QShortcut::activated, this, action);
+    };
+    add(QKeySequence::Open, [this] { showFileDialog(); });
+    add(QKeySequence::Quit, [this] { m_window->close(); });
+    add(Qt::CTRL | Qt::Key_T, [] { Controls::ThemeManager::instance()->toggleTheme(); });
+    add(Qt::Key_F11,
+        [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); });
+}
+
+bool PanelController::openFiles(const QStringList &paths)
+{
+    QVector<Network> networks;
+    QStringList refusals;
+    for (const QString &path : paths) {
+        const TouchstoneResult result = readTouchstone(path);
+        if (result.ok()) {
+            networks.append(result.network);
+            continue;
+        }
+        refusals << result.sentence(QFileInfo(path).fileName());
+        std::fprintf(stderr, "vnapanel: %s\n", qUtf8Printable(result.sentence(path)));
+    }
+    m_window->messageBar()->setMessage(refusals.join(QLatin1Char('\n')));
+    if (!networks.isEmpty()) {
+        m_window->smithView()->resetView();
+        m_model->setNetworks(networks);
+        m_folder = QFileInfo(paths.last()).absolutePath();
+    }
+    return refusals.isEmpty();
+}
+
+void PanelController::showFileDialog()
+{
+    auto *dialog = new FileDialog(m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFolder(m_folder);
+    const QSize room = m_window->size() - QSize(80, 40);
+    dialog->resize(QSize(640, 560).boundedTo(room));
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { openFiles(dialog->pickedFiles()); });
+    connect(dialog, &QDialog::finished, this, [this, dialog] { m_folder = dialog->folder(); });
+    dialog->open();
+}
+
+void PanelController::showZoom()
+{
+    m_window->zoomKey()->setValue(
+        QStringLiteral("%1 \u00d7").arg(m_window->smithView()->zoom(), 0, 'f', 2));
+}
+
+} // namespace Panel

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+namespace Panel
+{
+
+class PanelModel;
+class PanelWindow;
+
+/*! What the panel's keys do: the one place between window and model.
+
+    The window's parts report and the model tells; in between, this class decides. A pointer on the
+   chart has its answers in ChartGestures, which the controller makes. */
+class PanelController : public QObject
+{
+    Q_OBJECT
+
+public:
+    PanelController(PanelModel *model, PanelWindow *window, QObject *parent = nullptr);
+
+    /// Opens Touchstone files in place of those shown; true if all of them could be read. Refused
+    /// ones are told in the window and on the terminal; when none can be read, the panel keeps what
+    /// it shows.
+    bool openFiles(const QStringList &paths);
+    /// Lets the user pick files, and opens them.
+    void showFileDialog();
+
+private:
+    void connectKeys();
+    void addShortcuts();
+    void showZoom();
+
+    PanelModel *m_model;
+    PanelWindow *m_window;
+    /// Where the file dialog was left, or what was opened last.
+    QString m_folder;
+};
+
+} // namespace Panel

@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panelwindow.h"
+
+#include "icons.h"
+#include "look.h"
+#include "messagebar.h"
+#include "panelmodel.h"
+#include "smithview.h"
+#include "softkey.h"
+#include "sweepbar.h"
+#include "tracebar.h"
+
+#include <controls/thememanager.h>
+
+#include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// The panel's sign: a small Smith chart.
+QPixmap mark(int size, const QColor &color, double ratio)
+{
+    QPixmap pixmap(qRound(size * ratio), qRound(size * ratio));
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, qMax(1.2, size / 60.0)));
+    const double radius = size / 2.0 - 2.0;
+    painter.translate(size / 2.0, size / 2.0);
+    QPainterPath edge;
+    edge.addEllipse(QPointF(0.0, 0.0), radius, radius);
+    painter.drawPath(edge);
+    painter.setClipPath(edge);
+    painter.drawLine(QPointF(-radius, 0.0), QPointF(radius, 0.0));
+    painter.drawEllipse(QPointF(radius / 2.0, 0.0), radius / 2.0, radius / 2.0);
+    painter.drawEllipse(QPointF(radius, radius), radius, radius);
+    painter.drawEllipse(QPointF(radius, -radius), radius, radius);
+    return pixmap;
+}
+
+} // namespace
+
+PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_traceBar(new TraceBar(model))
+    , m_messageBar(new MessageBar)
+    , m_smithView(new SmithView(model))
+{
+    registerIcons();
+    setWindowTitle(tr("Vector network analyser"));
+    // A plain QWidget paints its style sheet's background only when asked to.
+    setAttribute(Qt::WA_StyledBackground);
+
+    auto *diagramColumn = new QVBoxLayout;
+    diagramColumn->setSpacing(0);
+    diagramColumn->addWidget(m_messageBar);
+    diagramColumn->addWidget(makeDiagrams(), 1);
+    diagramColumn->addWidget(new SweepBar(model));
+
+    auto *middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    middle->addLayout(diagramColumn, 1);
+    middle->addWidget(makeSoftKeys());
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(makeTopBar());
+    column->addLayout(middle, 1);
+
+    connect(m_model, &PanelModel::networksChanged, this, &PanelWindow::showModel);
+    connect(m_model, &PanelModel::activeTraceChanged, this, &PanelWindow::showModel);
+    connect(m_model, &PanelModel::traceVisibleChanged, this, &PanelWindow::showModel);
+    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
+            &PanelWindow::recolor);
+    showModel();
+    recolor();
+}
+
+QWidget *PanelWindow::makeTopBar()
+{
+    auto *bar = new QWidget;
+    bar->setObjectName(QStringLiteral("topBar"));
+    bar->setAttribute(Qt::WA_StyledBackground);
+    auto *row = new QHBoxLayout(bar);
+    row->setContentsMargins(10, 4, 6, 4);
+    row->setSpacing(10);
+    m_mark = new QLabel;
+    row->addWidget(m_mark);
+    auto *name = new QLabel(tr("VNA"));
+    QFont bold = name->font();
+    bold.setBold(true);
+    name->setFont(bold);
+    row->addWidget(name);
+    row->addWidget(m_traceBar, 1);
+    auto *theme = new QToolButton;
+    theme->setAccessibleName(tr("Dark or light"));
+    theme->setToolTip(tr("Dark or light"));
+    theme->setMinimumSize(44, 36);
+    theme->setIconSize(QSize(20, 20));
+    m_themeButton = theme;
+    row->addWidget(theme);
+    return bar;
+}
+
+QWidget *PanelWindow::makeDiagrams()
+{
+    m_pages = new QStackedWidget;
+    m_pages->setObjectName(QStringLiteral("diagrams"));
+    m_pages->addWidget(m_smithView);
+    m_pages->addWidget(makeEmptyPage());
+    return m_pages;
+}
+
+QWidget *PanelWindow::makeEmptyPage()
+{
+    auto *page = new QWidget;
+    page->setObjectName(QStringLiteral("emptyPage"));
+    page->setAttribute(Qt::WA_StyledBackground);
+    auto *column = new QVBoxLayout(page);
+    column->setSpacing(12);
+    column->addStretch();
+    m_emptyMark = new QLabel;
+    column->addWidget(m_emptyMark, 0, Qt::AlignHCenter);
+    auto *title = new QLabel(tr("No data"));
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    title->setFont(large);
+    column->addWidget(title, 0, Qt::AlignHCenter);
+    auto *hint = new QLabel(tr("Open a Touchstone file (.s1p, .s2p) to see its reflection."));
+    hint->setObjectName(QStringLiteral("dim"));
+    hint->setWordWrap(true);
+    hint->setAlignment(Qt::AlignHCenter);
+    column->addWidget(hint);
+    auto *button = new QPushButton(tr("Open file\u2026"));
+    button->setMinimumSize(160, 44);
+    m_emptyPageButton = button;
+    column->addWidget(button, 0, Qt::AlignHCenter);
+    column->addStretch();
+    return page;
+}
+
+QWidget *PanelWindow::makeSoftKeys()
+{
+    auto *keys = new QWidget;
+    keys->setObjectName(QStringLiteral("softKeys"));
+    keys->setAttribute(Qt::WA_StyledBackground);
+    auto *column = new QVBoxLayout(keys);
+    column->setContentsMargins(6, 6, 6, 6);
+    column->setSpacing(6);
+    const auto add = [column](const QString &name) {
+        auto *key = new SoftKey(name);
+        column->addWidget(key);
+        return key;
+    };
+    m_fileKey = add(tr("File"));
+    m_gridKey = add(tr("Grid"));
+    m_densityKey = add(tr("Density"));
+    m_traceKey = add(tr("Active trace"));
+    m_zoomKey = add(tr("Zoom"));
+    column->addStretch(1);
+    return keys;
+}
+
+void PanelWindow::showModel()
+{
+    const Trace *active = m_model->activeTrace();
+    m_pages->setCurrentIndex(active ? 0 : 1);
+    const int files = m_model->networks().size();
+    m_fileKey->setValue(files == 0       ? tr("Open\u2026")
+                            : files == 1 ? m_model->networks().first().name
+                                         : tr("%n files", nullptr, files));
+    m_traceKey->setEnabled(active);
+    m_traceKey->setValue(!active               ? QStringLiteral("\u2013")
+                             : active->visible ? tr("Shown")
+                                               : tr("Hidden"));
+    m_zoomKey->setEnabled(active);
+    m_gridKey->setEnabled(active);
+    m_densityKey->setEnabled(active);
+}
+
+void PanelWindow::recolor()
+{
+    const Look look = currentLook();
+    setStyleSheet(panelStyleSheet(look));
+    const double ratio = devicePixelRatioF();
+    m_mark->setPixmap(mark(24, look.text, ratio));
+    m_emptyMark->setPixmap(mark(120, look.border, ratio));
+    m_themeButton->setIcon(icon("theme"));
+}
+
+} // namespace Panel

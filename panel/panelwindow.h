@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+class QAbstractButton;
+class QLabel;
+class QStackedWidget;
+
+namespace Panel
+{
+
+class MessageBar;
+class PanelModel;
+class SmithView;
+class SoftKey;
+class TraceBar;
+
+/*! The panel's window: top bar, diagrams, sweep bar and the column of soft keys, for any size from
+   800 x 480.
+
+    It lays the parts out and follows model and theme. What a key or a gesture does is decided by
+    PanelController. */
+class PanelWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PanelWindow(const PanelModel *model, QWidget *parent = nullptr);
+
+    SmithView *smithView() const { return m_smithView; }
+    TraceBar *traceBar() const { return m_traceBar; }
+    MessageBar *messageBar() const { return m_messageBar; }
+
+    SoftKey *fileKey() const { return m_fileKey; }
+    SoftKey *gridKey() const { return m_gridKey; }
+    SoftKey *densityKey() const { return m_densityKey; }
+    SoftKey *traceKey() const { return m_traceKey; }
+    SoftKey *zoomKey() const { return m_zoomKey; }
+    QAbstractButton *themeButton() const { return m_themeButton; }
+    /// The button of the page that stands where there is nothing to show.
+    QAbstractButton *emptyPageButton() const { return m_emptyPageButton; }
+
+private:
+    QWidget *makeTopBar();
+    QWidget *makeDiagrams();
+    QWidget *makeEmptyPage();
+    QWidget *makeSoftKeys();
+    void showModel();
+    void recolor();
+
+    const PanelModel *m_model;
+    TraceBar *m_traceBar;
+    MessageBar *m_messageBar;
+    SmithView *m_smithView;
+    QStackedWidget *m_pages;
+    QLabel *m_mark;
+    QLabel *m_emptyMark;
+    QAbstractButton *m_themeButton;
+    QAbstractButton *m_emptyPageButton;
+    SoftKey *m_fileKey;
+    SoftKey *m_gridKey;
+    SoftKey *m_densityKey;
+    SoftKey *m_traceKey;
+    SoftKey *m_zoomKey;
+};
+
+} // namespace Panel

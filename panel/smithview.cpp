@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "smithview.h"
+
+#include "format.h"
+#include "look.h"
+#include "panelmodel.h"
+
+#include <controls/thememanager.h>
+#include <plot/qcp.h>
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace Panel
+{
+
+SmithView::SmithView(const PanelModel *model, QWidget *parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_title(new QLabel(this))
+    , m_plot(new QCustomPlot(this))
+{
+    m_title->setObjectName(QStringLiteral("dim"));
+    m_title->setTextFormat(Qt::PlainText);
+    m_title->setContentsMargins(10, 6, 10, 0);
+    // A long title must not widen the window.
+    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_title);
+    column->addWidget(m_plot, 1);
+
+    // The chart needs the axes as scales only.
+    m_plot->xAxis->setVisible(false);
+    m_plot->yAxis->setVisible(false);
+    m_plot->axisRect()->setAutoMargins(QCP::msNone);
+    m_plot->axisRect()->setMargins(QMargins(8, 4, 8, 8));
+    m_plot->setFocusPolicy(Qt::StrongFocus);
+    m_plot->setAccessibleName(tr("Smith chart"));
+    makeChart();
+    recolor();
+
+    connect(m_model, &PanelModel::networksChanged, this, &SmithView::loadTraces);
+    connect(m_model, &PanelModel::activeTraceChanged, this, &SmithView::showActiveTrace);
+    connect(m_model, &PanelModel::traceVisibleChanged, this, [this](int id, bool visible) {
+        m_chart->setCurveVisible(id, visible);
+        updateTitle();
+    });
+    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
+            &SmithView::recolor);
+}
+
+void SmithView::setGridMode(SmithChartPlot::GridMode mode)
+{
+    m_chart->setGridMode(mode);
+}
+
+void SmithView::setDensity(SmithChart::Preset density)
+{
+    if (density == m_density)
+        return;
+    m_density = density;
+    makeChart();
+}
+
+void SmithView::makeChart()
+{
+    const QCPRange x = m_plot->xAxis->range();
+    const QCPRange y = m_plot->yAxis->range();
+    const SmithChartPlot::GridMode mode = m_chart ? m_chart->gridMode() : SmithChartPlot::Impedance;
+    const bool replaced = m_chart;
+    delete m_chart;
+    // A chart leaves its grid on the plot.
+    m_plot->clearItems();
+    m_plot->clearPlottables();
+    m_chart = new SmithChartPlot(m_plot, m_density, this);
+    m_chart->setGridMode(mode);
+    loadTraces();
+    if (!replaced)
+        return;
+    m_chart->setViewFromRequestedRanges(x, y);
+    Q_EMIT chartReplaced();
+}
+
+void SmithView::loadTraces()
+{
+    m_chart->clearAllCurves();
+    const Look look = currentLook();
+    for (const Trace &trace : m_model->traces()) {
+        const Parameter &values = m_model->data(trace);
+        m_chart->addCurve(trace.id, QPen(look.trace(trace.id)));
+        m_chart->setCurveData(trace.id, m_model->network(trace).frequencies, values.real,
+                              values.imag);
+        m_chart->setCurveVisible(trace.id, trace.visible);
+    }
+    showActiveTrace();
+    updateTitle();
+}
+
+void SmithView::showActiveTrace()
+{
+    if (const Trace *trace = m_model->activeTrace())
+        m_chart->setActiveTrace(trace->id);
+    else
+        m_chart->clearActiveTrace();
+    updateTitle();
+}
+
+void SmithView::recolor()
+{
+    const Look look = currentLook();
+    m_plot->setBackground(look.background);
+    for (const Trace &trace : m_model->traces())
+        m_chart->setCurvePen(trace.id, QPen(look.trace(trace.id)));
+    m_plot->replot(QCustomPlot::rpQueuedReplot);
+}
+
+void SmithView::updateTitle()
+{
+    QStringList names;
+    for (const Trace &trace : m_model->traces()) {
+        const QString name = PanelModel::parameterName(trace);
+        if (trace.visible && !names.contains(name))
+            names << name;
+    }
+    const Trace *active = m_model->activeTrace();
+    const QString separator = QStringLiteral(" \u00b7 ");
+    QStringList parts;
+    if (!names.isEmpty())
+        parts << names.join(QStringLiteral(", "));
+    else if (active)
+        parts << tr("All traces are hidden");
+    if (active)
+        parts << tr("Z %1").arg(ohmsText(m_model->network(*active).referenceOhms))
+              << m_model->network(*active).name;
+    m_title->setText(parts.join(separator));
+}
+
+void SmithView::zoomAt(const QPointF &position, double factor)
+{
+    m_chart->zoomAt(chartPoint(position), factor);
+    showView();
+}
+
+void SmithView::setZoom(double zoom)
+{
+    const SmithChart::ViewState state = m_chart->viewState();
+    m_chart->zoomAt({state.centerX, state.centerY}, zoom / state.zoom);
+    showView();
+}
+
+QPointF SmithView::chartPoint(const QPointF &position) const
+{
+    return {m_plot->xAxis->pixelToCoord(position.x()), m_plot->yAxis->pixelToCoord(position.y())};
+}
+
+void SmithView::moveTo(const QPointF &chartPoint, const QPointF &position)
+{
+    if (!m_chart->isMagnified())
+        return;
+    const QPointF shift = chartPoint - this->chartPoint(position);
+    m_chart->setViewFromRequestedRanges(m_plot->xAxis->range() + shift.x(),
+                                        m_plot->yAxis->range() + shift.y());
+    showView();
+}
+
+void SmithView::resetView()
+{
+    m_chart->resetView();
+    showView();
+}
+
+void SmithView::showView()
+{
+    m_plot->replot(QCustomPlot::rpQueuedReplot);
+    Q_EMIT viewChanged();
+}
+
+} // namespace Panel

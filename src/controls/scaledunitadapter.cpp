@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <controls/scaledunitadapter.h>
+
+#include <utils/formatting.h>
+
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace Controls
+{
+
+namespace
+{
+
+/// value * factor. A power of ten below 1 has no exact double, but its inverse has: dividing by
+/// that makes "470ns" the double nearest to 470e-9.
+double scaled(double value, double factor)
+{
+    const double inverse = std::round(1.0 / factor);
+    return std::abs(inverse * factor - 1.0) < 1e-12 ? value / inverse : value * factor;
+}
+
+} // namespace
+
+ScaledUnitAdapter::ScaledUnitAdapter(const QVector<Unit> &units, QObject *parent)
+    : BaseUnitAdapter(parent)
+{
+    for (const Unit &unit : units) {
+        if (unit.name.isEmpty() || !(unit.factor > 0.0) || !std::isfinite(unit.factor))
+            continue;
+        m_units << unit.name;
+        m_unitFactors.insert(unit.name, unit.factor);
+    }
+    setRealValue(0.0);
+}
+
+QString ScaledUnitAdapter::adapterType()
+{
+    return QStringLiteral("Scaled");
+}
+
+void ScaledUnitAdapter::setUnitDecimals(const QString &unit, int decimals)
+{
+    m_unitDecimals.insert(unit, decimals);
+}
+
+QString ScaledUnitAdapter::convertFromBaseValue(double value, QString unit)
+{
+    unit = findUnit(unit);
+    if (unit.isEmpty())
+        unit = bestUnit(value);
+    const double number = scaled(value, 1.0 / m_unitFactors.value(unit, 1.0));
+    const int decimals = m_unitDecimals.value(unit, m_decimals);
+    QString text = m_preserveTrailingZeros ? QString::number(number, 'f', decimals)
+                                           : Utils::toString(number, decimals);
+    if (text.startsWith(QLatin1Char('-')) && text.toDouble() == 0.0)
+        text.remove(0, 1); // what rounds to zero has no sign
+    return text + unit;
+}
+
+double ScaledUnitAdapter::convertToBase(const QString &text)
+{
+    static const QRegularExpression syntax(QStringLiteral(
+        "^\\s*([+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?)\\s*(.*?)\\s*$"));
+    const QRegularExpressionMatch match = syntax.match(text);
+    const QString typedUnit = match.captured(2);
+    const QString unit = typedUnit.isEmpty() ? getCurrentUnit() : typedUnit;
+    bool ok = false;
+    const double number = match.captured(1).toDouble(&ok);
+    if (!ok || !(typedUnit.isEmpty() || m_unitFactors.contains(findUnit(unit))))
+        return qQNaN();
+    const double value = scaled(number, m_unitFactors.value(findUnit(unit), 1.0));
+    return std::isfinite(value) ? value : qQNaN();
+}
+
+/// The unit as it was registered: of the same spelling, or else of the same letters in another
+/// case.
+QString ScaledUnitAdapter::findUnit(const QString &name) const
+{
+    if (m_units.contains(name))
+        return name;
+    for (const QString &unit : m_units) {
+        if (unit.compare(name, Qt::CaseInsensitive) == 0)
+            return unit;
+    }
+    return {};
+}
+
+/// The first unit that the value holds at least once; the last one for what is smaller than all.
+QString ScaledUnitAdapter::bestUnit(double value) const
+{
+    if (m_units.isEmpty())
+        return {};
+    if (std::abs(value) < Utils::zeroThreshold)
+        return m_units.constLast();
+    for (const QString &unit : m_units) {
+        if (std::abs(value) >= m_unitFactors.value(unit))
+            return unit;
+    }
+    return m_units.constLast();
+}
+
+} // namespace Controls

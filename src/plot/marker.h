@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <plot/qcp.h>
+#include <plot/qcpitemtracermarker.h>
+
+#include <QBrush>
+#include <QPen>
+#include <QPointer>
+
+namespace Plot
+{
+
+/// On which side of its point a marker stands: below for PointingUp, above for every other value.
+enum MarkerType : int {
+    PointingDown = 0,
+    PointingUp = 1,
+};
+
+/*! A marker on a trace: a triangle whose apex touches the marked point, and a text beside it.
+
+    It works on QCPCurve and on QCPGraph, and draws on the layer "markers", which it keeps topmost.
+   It owns its two items: destroying the marker takes them off the plot, so it can be moved but not
+   copied. Items or a plot that are gone before the marker are survived. It is not selectable,
+   draggable or numbered by itself; SmithChartPlot adds that.
+
+    \code
+    Plot::Marker marker(plot, 101, Plot::PointingDown);
+    marker.setPosition(graph, 42.5); // half-way between the points 42 and 43
+    marker.setColors(QPen(Qt::yellow, 1.5), Qt::NoBrush);
+    marker.getLabel()->setText(QStringLiteral("1"));
+    \endcode */
+class VNAWIDGETS_EXPORT Marker
+{
+public:
+    /// A marker without items: id -1, pointing down.
+    Marker();
+    /// A marker with its two items on \a plot, not yet placed and without text; a null plot gives
+    /// no items.
+    Marker(QCustomPlot *plot, int id, MarkerType type);
+    ~Marker();
+    Marker(Marker &&other) noexcept;
+    Marker &operator=(Marker &&other) noexcept;
+
+    int getId() const { return m_id; }
+    MarkerType getType() const { return m_type; }
+    /// The text item, or null.
+    QCPItemText *getLabel() const { return m_label; }
+    /// The triangle item, or null.
+    QCPItemTracer *getTracer() const { return m_tracer; }
+    /// Whether both items exist and are visible.
+    bool isVisible() const;
+
+    void setVisible(bool visible);
+    void setType(MarkerType type);
+    void setShape(TracerShape shape);
+    /// Draws the triangle with \a pen and \a brush and the text in the pen's colour. Does not
+    /// replot.
+    void setColors(const QPen &pen, const QBrush &brush);
+
+    /// Places the marker on a data point; a fraction interpolates towards the next one, and an
+    /// index outside the data counts as its end. False without data. Does not replot.
+    bool setPosition(QCPCurve *curve, double index);
+    bool setPosition(QCPGraph *graph, double index);
+    /// Places the marker at plot coordinates on the plottable's axes; false, without moving it, for
+    /// coordinates that are not finite. Does not replot.
+    bool setPositionCoordinates(QCPCurve *curve, double x, double y);
+    bool setPositionCoordinates(QCPGraph *graph, double x, double y);
+
+private:
+    Q_DISABLE_COPY(Marker)
+
+    template<typename Plottable>
+    bool placeAtIndex(Plottable *plottable, double index);
+    bool placeAtCoordinates(QCPAbstractPlottable *plottable, double x, double y);
+    void createItems(QCustomPlot *plot);
+    void removeItems();
+    void updateLabelPlacement();
+    void queueReplot();
+
+    QPointer<QObject> m_plot; ///< a QObject, because a plot half destroyed must not pass for a plot
+    QPointer<QCPItemText> m_label;
+    QPointer<QCPItemTracerMarker> m_tracer;
+    int m_id = -1;
+    MarkerType m_type = PointingDown;
+};
+
+} // namespace Plot

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <plot/qcp.h>
+
+/*! The curve of a trace: strokes its line twice.
+
+    A thin anti-aliased line spreads over two pixel rows and looks faint; the second stroke gives it
+   full coverage. On a light background that is not enough, so there the second one is shifted by a
+   quarter of a device pixel. */
+class CoverageBoostCurve : public QCPCurve
+{
+    Q_OBJECT
+
+public:
+    CoverageBoostCurve(QCPAxis *keyAxis, QCPAxis *valueAxis);
+
+protected:
+    void drawCurveLine(QCPPainter *painter, const QVector<QPointF> &lines) const override;
+};

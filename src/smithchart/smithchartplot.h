@@ -1,0 +1,336 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <plot/marker.h>
+#include <plot/qcp.h>
+#include <smithchart/preset.h>
+#include <smithchart/viewport.h>
+#include <smithchart/viewstate.h>
+
+#include <QObject>
+#include <QPen>
+#include <QPointer>
+#include <QVector>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QMouseEvent;
+
+/*! Turns a QCustomPlot that the caller owns into a Smith chart.
+
+    The chart draws a grid, traces of reflection coefficients and markers on the plot, keeps the
+   view round at every size, and reports what the user does as request signals: it never moves a
+   marker, selects one or changes data by itself. It measures nothing, owns neither plot nor axes,
+   and does not pan or zoom on its own; the host calls zoomAt() and setViewFromRequestedRanges(). A
+   plot or an axis destroyed before the chart is survived: the chart then does nothing and its
+   setters return false.
+
+    \code
+    auto *plot = new QCustomPlot(window);
+    auto *chart = new SmithChartPlot(plot, SmithChart::Standard, window);
+    chart->addCurve(1, QPen(Qt::yellow));
+    chart->setCurveData(1, frequenciesHz, real, imag);
+    chart->setActiveTrace(1);
+    chart->addMarkerVisual(1, 1, 100.0, Plot::PointingDown);
+    connect(chart, &SmithChartPlot::markerPositionChanged, chart, &SmithChartPlot::setMarkerIndex);
+    connect(chart, &SmithChartPlot::markerSelectionRequested, chart, &SmithChartPlot::selectMarker);
+    \endcode
+
+    Table of contents, one room a file:
+      -# construction, layers, replot   smithchartplot.cpp
+      -# grid                           smithchartplot_grid.cpp
+      -# traces                         smithchartplot_traces.cpp
+      -# view                           smithchartplot_view.cpp
+      -# display                        smithchartplot_display.cpp
+      -# pointer                        smithchartplot_pointer.cpp
+      -# markers                        smithchartplot_markers.cpp
+
+    Layers, bottom to top: "smithGrid", "tracers", "tracers_active", "smithBoundary", the base layer
+    ("rect_traces" if the plot has it, else "main"), what stood above it, and "markers". */
+class VNAWIDGETS_EXPORT SmithChartPlot : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Which charts the grid shows.
+    enum GridMode : int {
+        Impedance = 0,
+        Admittance = 1,
+        ImpedanceAndAdmittance = 2,
+    };
+
+    /*! \name Construction, layers, replot (smithchartplot.cpp)
+        @{ */
+
+    /// A chart on \a xAxis (real part) and \a yAxis (imaginary part) of \a plot; a null axis stands
+    /// for the plot's own. With a null plot the chart does nothing.
+    SmithChartPlot(QCustomPlot *plot, QCPAxis *xAxis, QCPAxis *yAxis, SmithChart::Preset preset,
+                   QObject *parent = nullptr);
+    /// A chart on the plot's own axes.
+    SmithChartPlot(QCustomPlot *plot, SmithChart::Preset preset, QObject *parent = nullptr);
+    /// Takes traces and markers off the plot; the grid's items stay, hidden.
+    ~SmithChartPlot() override;
+
+    /// The plot, or null without one or once it has been destroyed.
+    QCustomPlot *getPlot() const { return plot(); }
+    /// Moves chart and traces to other axes; a null axis stands for the plot's own of that
+    /// direction.
+    void setAxes(QCPAxis *xAxis, QCPAxis *yAxis);
+    /// Called in place of a queued replot of the plot, so that a host can join several; empty
+    /// restores that.
+    void setQueuedReplotHandler(const std::function<void()> &handler);
+    /*! @} */
+
+    /*! \name Grid (smithchartplot_grid.cpp)
+        @{ */
+
+    /// Shows the impedance grid, the admittance grid or both. Default: Impedance.
+    void setGridMode(GridMode mode);
+    GridMode gridMode() const { return m_gridMode; }
+    /// Fills the point and label lists of a grid for normalised \a resistances and \a reactances,
+    /// with \a samples steps a full circle. Every output is cleared first; x and y lists have equal
+    /// lengths.
+    static void generateSmithChartGridExtended(
+        QVector<QVector<double>> &impedanceCircleX, QVector<QVector<double>> &impedanceCircleY,
+        QVector<QVector<double>> &admittanceCircleX, QVector<QVector<double>> &admittanceCircleY,
+        QVector<double> &boundaryX, QVector<double> &boundaryY, QVector<double> &realAxisX,
+        QVector<double> &realAxisY, QVector<double> &impedanceLabelX,
+        QVector<double> &impedanceLabelY, QVector<QString> &impedanceLabelText,
+        QVector<double> &admittanceLabelX, QVector<double> &admittanceLabelY,
+        QVector<QString> &admittanceLabelText, const QVector<double> &resistances,
+        const QVector<double> &reactances, int samples);
+    /*! @} */
+
+    /*! \name Traces (smithchartplot_traces.cpp)
+        @{ */
+
+    /// Adds an empty trace; false for an id below 1 or one that exists. Only the pen's colour and
+    /// style count: traces are drawn one pixel wide.
+    Q_INVOKABLE bool addCurve(int traceId, const QPen &pen);
+    /// Removes a trace with its markers; false if there is none of this id.
+    bool removeCurve(int traceId);
+    void clearAllCurves();
+    /// Replaces a trace's data: reflection coefficients by \a real and \a imag, cut to the shorter
+    /// of both, at the stimulus values \a frequencies (0, 1, 2, ... if these are fewer). NaN makes
+    /// a gap.
+    Q_INVOKABLE bool setCurveData(int traceId, const QVector<double> &frequencies,
+                                  const QVector<double> &real, const QVector<double> &imag);
+    /// Hands out the stored data, valid until the trace changes; false if there is no such trace.
+    bool sourceCurveData(int traceId, const QVector<double> *&frequencies,
+                         const QVector<double> *&real, const QVector<double> *&imag) const;
+    bool setCurvePen(int traceId, const QPen &pen);
+    /// Shows or hides a trace; the grid is shown exactly while at least one trace is.
+    bool setCurveVisible(int traceId, bool visible);
+    /// The ids of all traces, in the order they were added.
+    QVector<int> traceIds() const;
+    /// The curve that draws a trace, or null. It belongs to the plot.
+    QCPCurve *getCurve(int traceId) const;
+    /// Whether the trace has a finite value at this index; a fraction interpolates between two
+    /// points.
+    bool hasSourceDataAtIndex(int traceId, double index) const;
+    /// Whether the trace has a finite value at this stimulus value, interpolated where needed.
+    bool hasSourceDataAtParameter(int traceId, double frequency) const;
+    /// Draws a trace above the others; an id of 0 or less leaves none active. False for an unknown
+    /// id.
+    bool setActiveTrace(int traceId);
+    void clearActiveTrace();
+    /// The id given to setActiveTrace(), or -1 when there is none.
+    int activeTrace() const { return m_activeTraceId; }
+    bool hasActiveTrace() const { return m_activeTraceId > 0; }
+    /*! @} */
+
+    /*! \name View (smithchartplot_view.cpp)
+        @{ */
+
+    SmithChart::ViewState viewState() const { return m_viewState; }
+    /// Shows the whole chart.
+    void resetView();
+    /// Whether the view shows less than the whole chart.
+    bool isMagnified() const { return m_viewState.zoom > SmithChart::magnifiedThreshold; }
+    /// Multiplies the magnification (1 to 20) by \a factor about \a anchor in chart coordinates.
+    void zoomAt(const QPointF &anchor, double factor);
+    /// Shows both ranges, as large as square units and the limits of the view allow.
+    void setViewFromRequestedRanges(const QCPRange &xRange, const QCPRange &yRange);
+    /*! @} */
+
+    /*! \name Pointer (smithchartplot_pointer.cpp)
+        @{ */
+
+    /// Whether double clicks and marker drags are confined to the active trace. Default: true.
+    bool onlyHandleActiveTrace() const { return m_onlyHandleActiveTrace; }
+    void setOnlyHandleActiveTrace(bool only) { m_onlyHandleActiveTrace = only; }
+    /// Reports the trace point within 15 pixels of \a pos (plot widget pixels) through a signal;
+    /// false if there is none. The host calls it from its own double click or double tap.
+    bool handleDoubleClick(const QPoint &pos, Qt::KeyboardModifiers modifiers);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    /*! @} */
+
+    /*! \name Markers (smithchartplot_markers.cpp)
+        A marker is known by its trace and a number of 1 to 99 within the trace.
+        @{ */
+
+    /// traceId x 100 + localId.
+    static int makeMarkerId(int traceId, int localId);
+    static void parseMarkerId(int id, int &traceId, int &localId);
+    /// Adds a marker at a fractional index into the trace's data. One outside the data is kept
+    /// hidden until setMarkerIndex() and setMarkerVisible(). False for an unknown trace or a pair
+    /// that exists.
+    bool addMarkerVisual(int traceId, int localId, double sourceIndex, Plot::MarkerType type);
+    bool removeMarkerVisual(int traceId, int localId);
+    void clearAllMarkers();
+    /// Draws a marker selected; false if it does not exist or its trace is hidden.
+    bool selectMarker(int traceId, int localId);
+    void clearMarkerSelection();
+    bool getSelectedMarker(int &traceId, int &localId) const;
+    Plot::Marker *getMarker(int traceId, int localId);
+    const Plot::Marker *getMarker(int traceId, int localId) const;
+    QVector<const Plot::Marker *> markers(int traceId) const;
+    bool hasVisibleMarkers() const;
+    /// Moves a marker along its trace, interpolating between points; false outside the data.
+    bool setMarkerIndex(int traceId, int localId, double sourceIndex);
+    bool setMarkerLabelText(int traceId, int localId, const QString &text);
+    bool setMarkerVisible(int traceId, int localId, bool visible);
+    /// Drives a drag from input that does not reach the plot as mouse events; points are plot
+    /// widget pixels. True if a marker was caught.
+    bool beginMarkerDragAt(const QPoint &pos);
+    void updateMarkerDragAt(const QPoint &pos);
+    void endMarkerDragAt(const QPoint &pos);
+    bool isDraggingMarker() const { return m_draggingMarkerId >= 1; }
+    /// How near a press must be to catch a marker, in logical pixels. Default: 18.
+    double markerHitTolerancePx() const { return m_markerHitTolerancePx; }
+    void setMarkerHitTolerancePx(double px);
+    /*! @} */
+
+Q_SIGNALS:
+    /// A double click near a point of the active trace, at that point's stimulus value.
+    void activeTraceDoubleClicked(int activeTraceId, double stimulus,
+                                  Qt::KeyboardModifiers modifiers);
+    /// A double click near a point of any trace, while not confined to the active one.
+    void pointDoubleClicked(int traceId, int dataIndex, Qt::KeyboardModifiers modifiers);
+    /// Backspace or Delete while a marker is selected.
+    void markerDeleteRequested(int traceId, int localId);
+    /// A dragged marker is asked to move to a point of its trace.
+    void markerPositionChanged(int traceId, int localId, double dataIndex);
+    void markerSelected(int traceId, int localId);
+    void markerSelectionCleared();
+    void markerDragStarted(int traceId, int localId);
+    void markerDragFinished(int traceId, int localId, double finalDataIndex);
+    /// A press on or near a marker asks for it to be selected.
+    void markerSelectionRequested(int traceId, int localId);
+
+private:
+    /// A trace: its curve on the plot, its source data, and what was last drawn of it.
+    struct OwnedCurve {
+        int traceId = 0;
+        QPointer<QCPCurve> curve; ///< owned by the plot
+        QPen basePen; ///< as the caller gave it
+        QVector<double> frequencies;
+        QVector<double> real;
+        QVector<double> imag;
+        quint64 sourceRevision = 0;
+
+        SmithRender::Viewport cachedViewport;
+        bool cacheValid = false;
+        quint64 cachedSourceRevision = 0;
+        QVector<int> keptIndices;
+        quint64 markerRevision = 0;
+        quint64 cachedMarkerRevision = 0;
+        qint64 lastDecimationNs = -1; ///< -1: not measured
+        int displayedPointCount = 0;
+        qint64 lastReportMs = 0;
+    };
+
+    /// A marker: its items on the plot and the point of the trace it marks.
+    struct OwnedMarker {
+        std::unique_ptr<Plot::Marker> marker;
+        QPointer<QCPCurve> curve;
+        int traceId = 0;
+        int localId = 0;
+        double sourceIndex = -1.0; ///< -1: never placed
+    };
+
+    // Construction, layers, replot
+    QCustomPlot *plot() const;
+    QCPAxisRect *axisRect() const;
+    void initializePlot();
+    void connectAxes();
+    void requestQueuedReplot();
+
+    // Grid
+    void addSmithChartGrid();
+    void clearSmithChartGrid();
+    void rebuildSmithChartGrid();
+    void syncGridFlags();
+    void setGridVisible(bool visible);
+
+    // Traces
+    OwnedCurve *findTrace(int traceId);
+    const OwnedCurve *findTrace(int traceId) const;
+    int findCurveIndexByTraceId(int traceId) const;
+    OwnedCurve *findOwnedCurve(QCPCurve *curve);
+    const OwnedCurve *findOwnedCurve(QCPCurve *curve) const;
+    QVector<QCPCurve *> dataCurves() const;
+    bool anyCurveVisible() const;
+    void moveCurveToLayer(int traceId, const QString &layer);
+    void reportPerformance(OwnedCurve &record, qint64 elapsedNs);
+
+    // View
+    void applyViewState();
+    void applyFixedView();
+    void ensureAspectRatio();
+
+    // Display
+    SmithRender::Viewport currentRenderViewport() const;
+    bool refreshDisplayCurve(OwnedCurve &record, bool force);
+    void refreshAllDisplayCurves(bool force);
+    QVector<int> mandatorySourceIndices(const OwnedCurve &record) const;
+
+    // Pointer
+    const OwnedMarker *markerToCatchAt(const QPointF &pos) const;
+    bool dragIsConfined() const;
+    void finishDrag();
+    void onPlotMousePress(QMouseEvent *event);
+    void onPlotMouseMove(QMouseEvent *event);
+    void onPlotMouseRelease(QMouseEvent *event);
+    int nearestCurveDataIndex(QCPCurve *curve, const QPoint &pos, double *squaredDistance) const;
+    bool nearestCurveAndIndex(const QPoint &pos, QCPCurve *&curve, int &index,
+                              double &squaredDistance) const;
+
+    // Markers
+    const OwnedMarker *findMarker(int traceId, int localId) const;
+    OwnedMarker *findMarker(int traceId, int localId);
+    void removeMarkersOfTrace(int traceId);
+    void bumpMarkerRevision(OwnedCurve &record);
+    int findMarkerIndexByID(int traceId, int localId) const;
+    bool createMarkerVisualAt(int traceId, int localId, QCPCurve *curve, double sourceIndex,
+                              Plot::MarkerType type);
+    bool positionMarkerAtSourceIndex(OwnedMarker &record, double sourceIndex);
+    void drawMarkerSelection(const OwnedMarker &record, bool selected);
+    void updateMarkerVisualSelection(int traceId, int localId, bool selected);
+    void recolorMarkers(QCPCurve *curve);
+    void updateMarkersForCurve(QCPCurve *curve);
+
+    std::function<void()> m_queuedReplotHandler;
+    QPointer<QObject> m_plot; ///< a QObject, because a plot half destroyed must not pass for a plot
+    QPointer<QCPAxis> m_xAxis;
+    QPointer<QCPAxis> m_yAxis;
+    SmithChart::Preset m_preset;
+    SmithChart::ViewState m_viewState;
+    GridMode m_gridMode = Impedance;
+    bool m_showImpedanceGrid = true;
+    bool m_showAdmittanceGrid = false;
+    QVector<OwnedCurve> m_curves;
+    int m_activeTraceId = -1;
+    std::vector<OwnedMarker> m_ownedMarkers;
+    int m_draggingMarkerId = -1;
+    int m_selectedMarkerId = -1;
+    double m_markerHitTolerancePx = 18.0;
+    bool m_onlyHandleActiveTrace = true;
+    bool m_resizeRefitPending = false;
+};

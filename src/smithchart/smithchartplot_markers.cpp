@@ -1,0 +1,365 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "smithchartplot.h"
+
+#include "tracepoint.h"
+
+#include <QMouseEvent>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int markersPerTrace =
+    100; ///< a marker id is the trace id times this plus the marker's number
+constexpr double markerPenWidth = 1.5;
+constexpr double selectedMarkerPenWidth = 2.5;
+constexpr int selectedLighterPercent = 130;
+
+} // namespace
+
+int SmithChartPlot::makeMarkerId(int traceId, int localId)
+{
+    return traceId * markersPerTrace + localId;
+}
+
+void SmithChartPlot::parseMarkerId(int id, int &traceId, int &localId)
+{
+    traceId = id / markersPerTrace;
+    localId = id - traceId * markersPerTrace;
+}
+
+bool SmithChartPlot::addMarkerVisual(int traceId, int localId, double sourceIndex,
+                                     Plot::MarkerType type)
+{
+    OwnedCurve *const trace = findTrace(traceId);
+    return trace && trace->curve
+        && createMarkerVisualAt(traceId, localId, trace->curve, sourceIndex, type);
+}
+
+bool SmithChartPlot::createMarkerVisualAt(int traceId, int localId, QCPCurve *curve,
+                                          double sourceIndex, Plot::MarkerType type)
+{
+    if (!plot() || !curve || findMarker(traceId, localId))
+        return false;
+    OwnedCurve *const trace = findOwnedCurve(curve);
+    const auto count = trace ? std::min(trace->real.size(), trace->imag.size()) : 0;
+    const bool valid = sourceIndex >= 0.0 && sourceIndex < static_cast<double>(count);
+
+    OwnedMarker record;
+    record.marker = std::make_unique<Plot::Marker>(plot(), makeMarkerId(traceId, localId), type);
+    record.curve = curve;
+    record.traceId = traceId;
+    record.localId = localId;
+    record.sourceIndex = valid ? sourceIndex : -1.0;
+    if (!valid) {
+        record.marker->setVisible(false);
+        record.marker->getTracer()->setSelectable(false);
+        record.marker->getLabel()->setSelectable(false);
+    } else if (!positionMarkerAtSourceIndex(record, sourceIndex)) {
+        return false;
+    }
+    drawMarkerSelection(record, false);
+    record.marker->getLabel()->setText(QString::number(localId));
+    m_ownedMarkers.push_back(std::move(record));
+    if (trace)
+        bumpMarkerRevision(*trace);
+    requestQueuedReplot();
+    return true;
+}
+
+bool SmithChartPlot::removeMarkerVisual(int traceId, int localId)
+{
+    const int index = findMarkerIndexByID(traceId, localId);
+    if (index < 0)
+        return false;
+    const QPointer<QCPCurve> curve = m_ownedMarkers[static_cast<std::size_t>(index)].curve;
+    m_ownedMarkers.erase(m_ownedMarkers.begin() + index);
+    if (OwnedCurve *const trace = findOwnedCurve(curve))
+        bumpMarkerRevision(*trace);
+    const int id = makeMarkerId(traceId, localId);
+    if (m_draggingMarkerId == id)
+        m_draggingMarkerId = -1;
+    if (m_selectedMarkerId == id) {
+        m_selectedMarkerId = -1;
+        const QPointer<SmithChartPlot> self(this);
+        Q_EMIT markerSelectionCleared();
+        if (!self)
+            return true;
+    }
+    requestQueuedReplot();
+    return true;
+}
+
+/// Removes all markers of a trace; the chart may be gone afterwards, deleted by a slot.
+void SmithChartPlot::removeMarkersOfTrace(int traceId)
+{
+    const QPointer<SmithChartPlot> self(this);
+    while (self) {
+        const auto found = std::find_if(
+            m_ownedMarkers.cbegin(), m_ownedMarkers.cend(),
+            [traceId](const OwnedMarker &record) { return record.traceId == traceId; });
+        if (found == m_ownedMarkers.cend())
+            return;
+        removeMarkerVisual(traceId, found->localId);
+    }
+}
+
+void SmithChartPlot::clearAllMarkers()
+{
+    if (!plot())
+        return;
+    m_draggingMarkerId = -1;
+    m_selectedMarkerId = -1; // no signal: whoever clears everything knows
+    m_ownedMarkers.clear();
+    for (OwnedCurve &trace : m_curves)
+        bumpMarkerRevision(trace);
+    requestQueuedReplot();
+}
+
+bool SmithChartPlot::selectMarker(int traceId, int localId)
+{
+    const OwnedCurve *const trace = findTrace(traceId);
+    if (!findMarker(traceId, localId) || !trace || !trace->curve || !trace->curve->visible())
+        return false;
+    const int id = makeMarkerId(traceId, localId);
+    if (id != m_selectedMarkerId) {
+        int oldTraceId = 0;
+        int oldLocalId = 0;
+        if (getSelectedMarker(oldTraceId, oldLocalId))
+            updateMarkerVisualSelection(oldTraceId, oldLocalId, false);
+        m_selectedMarkerId = id;
+        const QPointer<SmithChartPlot> self(this);
+        Q_EMIT markerSelected(traceId, localId);
+        if (!self || m_selectedMarkerId != id) // a slot may have chosen otherwise
+            return true;
+    }
+    updateMarkerVisualSelection(traceId, localId, true);
+    return true;
+}
+
+void SmithChartPlot::clearMarkerSelection()
+{
+    int traceId = 0;
+    int localId = 0;
+    if (!getSelectedMarker(traceId, localId))
+        return;
+    updateMarkerVisualSelection(traceId, localId, false);
+    m_selectedMarkerId = -1;
+    const QPointer<SmithChartPlot> self(this);
+    Q_EMIT markerSelectionCleared();
+    if (self)
+        requestQueuedReplot();
+}
+
+bool SmithChartPlot::getSelectedMarker(int &traceId, int &localId) const
+{
+    if (m_selectedMarkerId < 1)
+        return false;
+    parseMarkerId(m_selectedMarkerId, traceId, localId);
+    return true;
+}
+
+Plot::Marker *SmithChartPlot::getMarker(int traceId, int localId)
+{
+    const OwnedMarker *const record = findMarker(traceId, localId);
+    return record ? record->marker.get() : nullptr;
+}
+
+const Plot::Marker *SmithChartPlot::getMarker(int traceId, int localId) const
+{
+    const OwnedMarker *const record = findMarker(traceId, localId);
+    return record ? record->marker.get() : nullptr;
+}
+
+QVector<const Plot::Marker *> SmithChartPlot::markers(int traceId) const
+{
+    QVector<const Plot::Marker *> found;
+    for (const OwnedMarker &record : m_ownedMarkers) {
+        if (record.traceId == traceId && record.marker)
+            found.append(record.marker.get());
+    }
+    return found;
+}
+
+bool SmithChartPlot::hasVisibleMarkers() const
+{
+    return std::any_of(
+        m_ownedMarkers.cbegin(), m_ownedMarkers.cend(),
+        [](const OwnedMarker &record) { return record.marker && record.marker->isVisible(); });
+}
+
+bool SmithChartPlot::setMarkerIndex(int traceId, int localId, double sourceIndex)
+{
+    OwnedMarker *const record = findMarker(traceId, localId);
+    if (!record)
+        return false;
+    OwnedCurve *const trace = findOwnedCurve(record->curve);
+    const auto count = trace ? std::min(trace->real.size(), trace->imag.size()) : 0;
+    if (sourceIndex < 0.0 || sourceIndex >= static_cast<double>(count)
+        || !positionMarkerAtSourceIndex(*record, sourceIndex))
+        return false;
+    if (record->sourceIndex != sourceIndex) {
+        record->sourceIndex = sourceIndex;
+        ++trace->markerRevision;
+    }
+    refreshDisplayCurve(*trace, false);
+    requestQueuedReplot();
+    return true;
+}
+
+bool SmithChartPlot::setMarkerLabelText(int traceId, int localId, const QString &text)
+{
+    Plot::Marker *const marker = getMarker(traceId, localId);
+    if (!marker || !marker->getLabel())
+        return false;
+    marker->getLabel()->setText(text);
+    requestQueuedReplot();
+    return true;
+}
+
+bool SmithChartPlot::setMarkerVisible(int traceId, int localId, bool visible)
+{
+    Plot::Marker *const marker = getMarker(traceId, localId);
+    if (!marker)
+        return false;
+    marker->setVisible(visible);
+    if (marker->getTracer())
+        marker->getTracer()->setSelectable(visible);
+    if (marker->getLabel())
+        marker->getLabel()->setSelectable(visible);
+    requestQueuedReplot();
+    return true;
+}
+
+bool SmithChartPlot::beginMarkerDragAt(const QPoint &pos)
+{
+    if (!plot())
+        return false;
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(pos), plot()->mapToGlobal(pos),
+                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    const QPointer<SmithChartPlot> self(this);
+    onPlotMousePress(&press);
+    return self && isDraggingMarker();
+}
+
+void SmithChartPlot::updateMarkerDragAt(const QPoint &pos)
+{
+    if (!plot() || !isDraggingMarker())
+        return;
+    QMouseEvent move(QEvent::MouseMove, QPointF(pos), plot()->mapToGlobal(pos), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    onPlotMouseMove(&move);
+}
+
+void SmithChartPlot::endMarkerDragAt(const QPoint &pos)
+{
+    if (!plot() || !isDraggingMarker())
+        return;
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(pos), plot()->mapToGlobal(pos),
+                        Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    onPlotMouseRelease(&release);
+}
+
+void SmithChartPlot::setMarkerHitTolerancePx(double px)
+{
+    m_markerHitTolerancePx = px > 0.0 ? px : 0.0; // NaN gives 0
+    if (QCustomPlot *const plot = this->plot())
+        plot->setSelectionTolerance(qRound(m_markerHitTolerancePx));
+}
+
+const SmithChartPlot::OwnedMarker *SmithChartPlot::findMarker(int traceId, int localId) const
+{
+    const int index = findMarkerIndexByID(traceId, localId);
+    return index < 0 ? nullptr : &m_ownedMarkers[static_cast<std::size_t>(index)];
+}
+
+SmithChartPlot::OwnedMarker *SmithChartPlot::findMarker(int traceId, int localId)
+{
+    const int index = findMarkerIndexByID(traceId, localId);
+    return index < 0 ? nullptr : &m_ownedMarkers[static_cast<std::size_t>(index)];
+}
+
+int SmithChartPlot::findMarkerIndexByID(int traceId, int localId) const
+{
+    const auto found =
+        std::find_if(m_ownedMarkers.cbegin(), m_ownedMarkers.cend(),
+                     [traceId, localId](const OwnedMarker &record) {
+                         return record.traceId == traceId && record.localId == localId;
+                     });
+    return found == m_ownedMarkers.cend() ? -1 : static_cast<int>(found - m_ownedMarkers.cbegin());
+}
+
+/// Lets the display pick up that a trace's markers changed.
+void SmithChartPlot::bumpMarkerRevision(OwnedCurve &record)
+{
+    ++record.markerRevision;
+    refreshDisplayCurve(record, false);
+}
+
+bool SmithChartPlot::positionMarkerAtSourceIndex(OwnedMarker &record, double sourceIndex)
+{
+    const OwnedCurve *const trace = findOwnedCurve(record.curve);
+    if (!record.marker || !trace)
+        return false;
+    const auto point = SmithChart::tracePoint(trace->real, trace->imag, sourceIndex);
+    return point && record.marker->setPositionCoordinates(record.curve, point->x(), point->y());
+}
+
+/// Draws a marker in its trace's colour: outlined, or filled, lighter and bolder when selected.
+void SmithChartPlot::drawMarkerSelection(const OwnedMarker &record, bool selected)
+{
+    if (!record.marker || !record.curve)
+        return;
+    QPen pen = record.curve->pen();
+    QBrush brush;
+    pen.setWidthF(markerPenWidth);
+    if (selected) {
+        pen.setWidthF(selectedMarkerPenWidth);
+        pen.setColor(pen.color().lighter(selectedLighterPercent));
+        brush = QBrush(pen.color());
+    }
+    record.marker->setColors(pen, brush);
+    if (QCPItemText *const label = record.marker->getLabel()) {
+        QFont font = label->font();
+        font.setWeight(QFont::Normal);
+        label->setFont(font);
+    }
+}
+
+void SmithChartPlot::updateMarkerVisualSelection(int traceId, int localId, bool selected)
+{
+    if (const OwnedMarker *const record = findMarker(traceId, localId)) {
+        drawMarkerSelection(*record, selected);
+        requestQueuedReplot();
+    }
+}
+
+/// Gives a trace's markers the colour that its pen has now.
+void SmithChartPlot::recolorMarkers(QCPCurve *curve)
+{
+    for (const OwnedMarker &record : m_ownedMarkers) {
+        if (record.curve == curve)
+            drawMarkerSelection(record,
+                                makeMarkerId(record.traceId, record.localId) == m_selectedMarkerId);
+    }
+}
+
+/// Puts the markers of a trace whose data changed back on their indices; one beyond the new end
+/// stays where it was.
+void SmithChartPlot::updateMarkersForCurve(QCPCurve *curve)
+{
+    const OwnedCurve *const trace = findOwnedCurve(curve);
+    if (!trace)
+        return;
+    const auto count = std::min(trace->real.size(), trace->imag.size());
+    if (count < 1)
+        return;
+    for (OwnedMarker &record : m_ownedMarkers) {
+        if (record.curve == curve && record.sourceIndex >= 0.0
+            && record.sourceIndex < static_cast<double>(count))
+            positionMarkerAtSourceIndex(record, record.sourceIndex);
+    }
+    requestQueuedReplot();
+}

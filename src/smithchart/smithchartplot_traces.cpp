@@ -1,0 +1,318 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "smithchartplot.h"
+
+#include "coverageboostcurve_p.h"
+#include "smithchartlayers_p.h"
+#include "smithperformance_p.h"
+#include "tracepoint.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr qint64 reportIntervalMs = 2000;
+
+void applyTracePen(QCPCurve *curve, const QPen &basePen)
+{
+    QPen pen = basePen;
+    pen.setWidth(1);
+    pen.setCosmetic(true);
+    pen.setCapStyle(Qt::RoundCap);
+    pen.setJoinStyle(Qt::RoundJoin);
+    curve->setPen(pen);
+    curve->setAntialiased(true);
+}
+
+} // namespace
+
+bool SmithChartPlot::addCurve(int traceId, const QPen &pen)
+{
+    if (!axisRect() || traceId < 1 || findTrace(traceId))
+        return false;
+    auto *const curve = new CoverageBoostCurve(m_xAxis, m_yAxis);
+    curve->setLayer(SmithLayers::tracers());
+    curve->setName(QString::number(traceId));
+    applyTracePen(curve, pen);
+    curve->setSelectable(QCP::stNone);
+    curve->removeFromLegend();
+
+    OwnedCurve record;
+    record.traceId = traceId;
+    record.curve = curve;
+    record.basePen = pen;
+    m_curves.append(record);
+    setGridVisible(true);
+    requestQueuedReplot();
+    return true;
+}
+
+bool SmithChartPlot::removeCurve(int traceId)
+{
+    QCustomPlot *const plot = this->plot();
+    if (!plot || !findTrace(traceId))
+        return false;
+    const QPointer<SmithChartPlot> self(this);
+    removeMarkersOfTrace(traceId);
+    if (!self)
+        return true;
+    // Looked up anew: a slot of the selection's signal may have changed the traces.
+    const int index = findCurveIndexByTraceId(traceId);
+    if (index >= 0) {
+        if (QCPCurve *const curve = m_curves.at(index).curve)
+            plot->removePlottable(curve);
+        m_curves.remove(index);
+    }
+    if (m_activeTraceId == traceId)
+        m_activeTraceId = -1;
+    setGridVisible(anyCurveVisible());
+    requestQueuedReplot();
+    return true;
+}
+
+void SmithChartPlot::clearAllCurves()
+{
+    QCustomPlot *const plot = this->plot();
+    if (!plot)
+        return;
+    clearAllMarkers();
+    for (const OwnedCurve &record : qAsConst(m_curves)) {
+        if (record.curve)
+            plot->removePlottable(record.curve);
+    }
+    m_curves.clear();
+    m_activeTraceId = -1;
+    setGridVisible(false);
+    requestQueuedReplot();
+}
+
+bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencies,
+                                  const QVector<double> &real, const QVector<double> &imag)
+{
+    OwnedCurve *const record = findTrace(traceId);
+    if (!plot() || !record || !record->curve)
+        return false;
+    QElapsedTimer timer;
+    if (smithPerformance().isDebugEnabled())
+        timer.start();
+
+    const int n = std::min(real.size(), imag.size());
+    // A vector that is taken whole is shared with the caller, not copied.
+    const auto firstN = [n](const QVector<double> &values) {
+        return values.size() == n ? values : values.mid(0, n);
+    };
+    record->real = firstN(real);
+    record->imag = firstN(imag);
+    if (frequencies.size() >= n) {
+        record->frequencies = firstN(frequencies);
+    } else {
+        record->frequencies.resize(n);
+        for (int i = 0; i < n; ++i)
+            record->frequencies[i] = i;
+    }
+    ++record->sourceRevision;
+    record->cacheValid = false;
+    refreshDisplayCurve(*record, true);
+    updateMarkersForCurve(record->curve);
+    if (timer.isValid())
+        reportPerformance(*record, timer.nsecsElapsed());
+    requestQueuedReplot();
+    return true;
+}
+
+/// Tells the log what new data cost, at most every two seconds a trace.
+void SmithChartPlot::reportPerformance(OwnedCurve &record, qint64 elapsedNs)
+{
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    if (record.lastReportMs != 0 && now - record.lastReportMs < reportIntervalMs)
+        return;
+    record.lastReportMs = now;
+    qCDebug(smithPerformance).nospace()
+        << "trace " << record.traceId << ": " << record.real.size() << " points, "
+        << record.displayedPointCount << " displayed, setCurveData "
+        << static_cast<double>(elapsedNs) / 1e6 << " ms, decimation "
+        << static_cast<double>(record.lastDecimationNs) / 1e6 << " ms";
+}
+
+bool SmithChartPlot::sourceCurveData(int traceId, const QVector<double> *&frequencies,
+                                     const QVector<double> *&real,
+                                     const QVector<double> *&imag) const
+{
+    const OwnedCurve *const record = findTrace(traceId);
+    if (!record)
+        return false;
+    frequencies = &record->frequencies;
+    real = &record->real;
+    imag = &record->imag;
+    return true;
+}
+
+bool SmithChartPlot::setCurvePen(int traceId, const QPen &pen)
+{
+    OwnedCurve *const record = findTrace(traceId);
+    if (!record || !record->curve)
+        return false;
+    record->basePen = pen;
+    applyTracePen(record->curve, pen);
+    recolorMarkers(record->curve);
+    requestQueuedReplot();
+    return true;
+}
+
+bool SmithChartPlot::setCurveVisible(int traceId, bool visible)
+{
+    OwnedCurve *const record = findTrace(traceId);
+    if (!record || !record->curve)
+        return false;
+    record->curve->setVisible(visible);
+    setGridVisible(anyCurveVisible());
+    requestQueuedReplot();
+    return true;
+}
+
+QVector<int> SmithChartPlot::traceIds() const
+{
+    QVector<int> ids;
+    ids.reserve(m_curves.size());
+    for (const OwnedCurve &record : m_curves)
+        ids.append(record.traceId);
+    return ids;
+}
+
+QCPCurve *SmithChartPlot::getCurve(int traceId) const
+{
+    const OwnedCurve *const record = findTrace(traceId);
+    return record ? record->curve.data() : nullptr;
+}
+
+bool SmithChartPlot::hasSourceDataAtIndex(int traceId, double index) const
+{
+    const OwnedCurve *const record = findTrace(traceId);
+    if (!record || !std::isfinite(index) || index < 0.0)
+        return false;
+    if (index > std::min(record->frequencies.size(), record->real.size()) - 1.0)
+        return false;
+    const auto below = static_cast<int>(std::floor(index));
+    const auto above = static_cast<int>(std::ceil(index));
+    return std::isfinite(record->frequencies.at(below))
+        && std::isfinite(record->frequencies.at(above))
+        && SmithChart::tracePoint(record->real, record->imag, index).has_value();
+}
+
+bool SmithChartPlot::hasSourceDataAtParameter(int traceId, double frequency) const
+{
+    const OwnedCurve *const record = findTrace(traceId);
+    if (!record || !std::isfinite(frequency))
+        return false;
+    const QVector<double> &f = record->frequencies;
+    for (int i = 0; i < f.size(); ++i) {
+        if (f.at(i) == frequency && hasSourceDataAtIndex(traceId, i))
+            return true;
+    }
+    for (int i = 0; i + 1 < f.size(); ++i) {
+        const double a = f.at(i);
+        const double b = f.at(i + 1);
+        if (!std::isfinite(a) || !std::isfinite(b) || a == b)
+            continue;
+        if (std::min(a, b) <= frequency && frequency <= std::max(a, b)
+            && hasSourceDataAtIndex(traceId, i + (frequency - a) / (b - a)))
+            return true;
+    }
+    return false;
+}
+
+bool SmithChartPlot::setActiveTrace(int traceId)
+{
+    if (traceId > 0 && !findTrace(traceId)) {
+        qWarning() << "SmithChartPlot::setActiveTrace: traceId" << traceId << "not found";
+        return false;
+    }
+    moveCurveToLayer(m_activeTraceId, SmithLayers::tracers());
+    m_activeTraceId = traceId;
+    moveCurveToLayer(m_activeTraceId, SmithLayers::activeTracers());
+    requestQueuedReplot();
+    return true;
+}
+
+void SmithChartPlot::clearActiveTrace()
+{
+    moveCurveToLayer(m_activeTraceId, SmithLayers::tracers());
+    m_activeTraceId = -1;
+    requestQueuedReplot();
+}
+
+/// Moves a trace to another layer; does nothing for a trace that does not exist.
+void SmithChartPlot::moveCurveToLayer(int traceId, const QString &layer)
+{
+    const OwnedCurve *const record = traceId > 0 ? findTrace(traceId) : nullptr;
+    if (!plot() || !record || !record->curve)
+        return;
+    record->curve->setLayer(layer);
+    applyTracePen(record->curve, record->basePen);
+}
+
+SmithChartPlot::OwnedCurve *SmithChartPlot::findTrace(int traceId)
+{
+    const int index = findCurveIndexByTraceId(traceId);
+    return index < 0 ? nullptr : &m_curves[index];
+}
+
+const SmithChartPlot::OwnedCurve *SmithChartPlot::findTrace(int traceId) const
+{
+    const int index = findCurveIndexByTraceId(traceId);
+    return index < 0 ? nullptr : &m_curves.at(index);
+}
+
+int SmithChartPlot::findCurveIndexByTraceId(int traceId) const
+{
+    const auto found =
+        std::find_if(m_curves.cbegin(), m_curves.cend(),
+                     [traceId](const OwnedCurve &record) { return record.traceId == traceId; });
+    return found == m_curves.cend() ? -1 : static_cast<int>(found - m_curves.cbegin());
+}
+
+SmithChartPlot::OwnedCurve *SmithChartPlot::findOwnedCurve(QCPCurve *curve)
+{
+    for (OwnedCurve &record : m_curves) {
+        if (curve && record.curve == curve)
+            return &record;
+    }
+    return nullptr;
+}
+
+const SmithChartPlot::OwnedCurve *SmithChartPlot::findOwnedCurve(QCPCurve *curve) const
+{
+    return const_cast<SmithChartPlot *>(this)->findOwnedCurve(curve);
+}
+
+/// The visible trace curves on the chart's axes, in the plot's order.
+QVector<QCPCurve *> SmithChartPlot::dataCurves() const
+{
+    QVector<QCPCurve *> curves;
+    QCustomPlot *const plot = this->plot();
+    if (!plot)
+        return curves;
+    for (int i = 0; i < plot->plottableCount(); ++i) {
+        auto *const curve = qobject_cast<QCPCurve *>(plot->plottable(i));
+        if (!curve || !curve->visible() || !curve->layer() || curve->keyAxis() != m_xAxis
+            || curve->valueAxis() != m_yAxis)
+            continue;
+        const QString layer = curve->layer()->name();
+        if (layer == SmithLayers::tracers() || layer == SmithLayers::activeTracers())
+            curves.append(curve);
+    }
+    return curves;
+}
+
+bool SmithChartPlot::anyCurveVisible() const
+{
+    return std::any_of(m_curves.cbegin(), m_curves.cend(), [](const OwnedCurve &record) {
+        return record.curve && record.curve->visible();
+    });
+}

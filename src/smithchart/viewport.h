@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cmath>
+
+/// What turns long traces into what a screen can show of them.
+namespace SmithRender
+{
+
+/// The part of the plane that is on screen and how finely: all that a trace's displayed points
+/// depend on.
+struct Viewport {
+    double xMin = -1.0; ///< lower end of the x axis (real part)
+    double xMax = 1.0;
+    double yMin = -1.0; ///< lower end of the y axis (imaginary part)
+    double yMax = 1.0;
+    int width = 0; ///< of the axis rectangle, in logical pixels
+    int height = 0;
+    double devicePixelRatio = 1.0; ///< device pixels per logical pixel, at least 1
+    double tolerancePx = 0.5; ///< how far a drawn line may stray from the points, in device pixels
+
+    double xSpan() const { return xMax - xMin; }
+    double ySpan() const { return yMax - yMin; }
+    double deviceWidth() const { return width * devicePixelRatio; }
+    double deviceHeight() const { return height * devicePixelRatio; }
+
+    /// Whether points can be projected: finite ranges of positive span, a size, a ratio of at least
+    /// 1 and a finite tolerance of at least 0.
+    bool isUsable() const
+    {
+        return std::isfinite(xMin) && std::isfinite(xMax) && std::isfinite(yMin)
+            && std::isfinite(yMax) && std::isfinite(xSpan()) && std::isfinite(ySpan())
+            && xSpan() > 0.0 && ySpan() > 0.0 && width > 0 && height > 0
+            && std::isfinite(devicePixelRatio) && devicePixelRatio >= 1.0
+            && std::isfinite(tolerancePx) && tolerancePx >= 0.0;
+    }
+};
+
+/// Exact comparison, field by field: a NaN equals nothing, itself included.
+inline bool operator==(const Viewport &a, const Viewport &b)
+{
+    return a.xMin == b.xMin && a.xMax == b.xMax && a.yMin == b.yMin && a.yMax == b.yMax
+        && a.width == b.width && a.height == b.height && a.devicePixelRatio == b.devicePixelRatio
+        && a.tolerancePx == b.tolerancePx;
+}
+
+inline bool operator!=(const Viewport &a, const Viewport &b)
+{
+    return !(a == b);
+}
+
+/// Maps a point of the plane to device pixels from the axis rectangle's top-left corner, y
+/// downwards.
+class Projection
+{
+public:
+    /// \a viewport must be usable.
+    explicit Projection(const Viewport &viewport)
+        : m_xMin(viewport.xMin)
+        , m_yMax(viewport.yMax)
+        , m_xSpan(viewport.xSpan())
+        , m_ySpan(viewport.ySpan())
+        , m_width(viewport.deviceWidth())
+        , m_height(viewport.deviceHeight())
+    {
+    }
+
+    double x(double real) const { return (real - m_xMin) / m_xSpan * m_width; }
+    double y(double imag) const { return (m_yMax - imag) / m_ySpan * m_height; }
+
+private:
+    double m_xMin;
+    double m_yMax;
+    double m_xSpan;
+    double m_ySpan;
+    double m_width;
+    double m_height;
+};
+
+} // namespace SmithRender

@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <QListView>
+#include <QWidget>
+
+class QLabel;
+class QListWidget;
+class QListWidgetItem;
+class QVBoxLayout;
+
+/*! The list of choices that opens from a button: one column (list mode) or a grid of tiles (icon
+    mode), with an optional title by which it can be dragged. A tap on an enabled item reports its
+    text and closes the list; a tap on a disabled one changes nothing. Return, Enter and Space pick
+    the current item, Escape and a tap outside close. A list taller than its screen follows the
+    finger, the wheel and the arrow keys, since it never scrolls inside itself.
+
+    It is not a menu: it holds neither separators nor submenus, and its owner places and shows it.
+
+    \code
+    auto *popup = new PopupWidget(button);
+    popup->addItems({tr("LogM"), tr("Phase"), tr("Smith")}, 0);
+    popup->setCurrentItem(tr("Smith"));
+    connect(popup, &PopupWidget::currentItemChanged, this, &Panel::setFormat);
+    popup->popup(); // takes its size from the items
+    popup->move(button->mapToGlobal(button->rect().bottomLeft()));
+    popup->show();
+    \endcode
+
+    Style sheets address the list as "ListModeView" or "IconModeView" and the title as
+    "IconModeViewTitle". In icon mode the list must not have a frame, or a column falls off. */
+class VNAWIDGETS_EXPORT PopupWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// An empty list in list mode; the window flags are Qt::Popup.
+    explicit PopupWidget(QWidget *parent = nullptr);
+    ~PopupWidget() override;
+
+    /// Appends one item.
+    void addItem(const QString &text);
+    /// Appends items and highlights row \a currentRow, which does not count as a choice.
+    void addItems(const QList<QString> &texts, int currentRow);
+    /// Removes all items; what was chosen last is still remembered.
+    void clear();
+
+    /// Makes the first item of exactly this text the chosen one, or none; emits nothing.
+    void setCurrentItem(const QString &text);
+    /// Enables or disables the first item of exactly this text.
+    void setItemEnabled(const QString &text, bool enabled);
+    /// Enables or disables an item by its row; other rows are ignored.
+    void setItemEnabled(int index, bool enabled);
+
+    /// Horizontal alignment of the items; the vertical one is always centred. Default: left.
+    Qt::Alignment itemTextAlignment() const { return m_itemTextAlignment; }
+    void setItemTextAlignment(Qt::Alignment alignment);
+
+    QString titleText() const;
+    /// Sets the title and shows it, when the text differs.
+    void setTitleText(const QString &text);
+    /// Whether the title takes part in the pop-up, shown or not yet. Default: false.
+    bool titleVisible() const;
+    void setTitleVisible(bool visible);
+
+    QListView::ViewMode viewMode() const { return m_viewMode; }
+    void setViewMode(QListView::ViewMode mode);
+
+    /// Width of the list in list mode, in pixels, from the next popup(). Default: 100.
+    int widgetFixedWidth() const { return m_widgetFixedWidth; }
+    void setWidgetFixedWidth(int width);
+
+    /// Size of a tile in icon mode, in pixels, from the next popup(). Default: 120 x 100.
+    QSize iconSize() const { return m_iconSize; }
+    void setIconSize(int width, int height);
+
+    /// Number of columns in icon mode, from the next popup(). Default: 4; less than 1 counts as 1.
+    int itemCountPerRow() const { return m_itemCountPerRow; }
+    void setItemCountPerRow(int count);
+
+    /// Fits the size to the items, without scroll bars; the caller moves and shows the pop-up.
+    void popup();
+
+Q_SIGNALS:
+    /// The user picked an item whose text is not the chosen one's.
+    void currentItemChanged(const QString &text);
+    /// The pop-up closed, whoever closed it.
+    void widgetClosed();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void onItemClicked(QListWidgetItem *item);
+    void selectChosenItem();
+    bool filterTitle(QEvent *event);
+    bool filterList(QEvent *event);
+    bool slideTo(int top);
+    void slideToCurrentItem();
+
+    QLabel *m_titleLabel;
+    QVBoxLayout *m_layout;
+    QListWidget *m_listWidget;
+    QListView::ViewMode m_viewMode = QListView::ListMode;
+    QPoint m_dragOffset;
+    bool m_dragging = false;
+    int m_widgetFixedWidth = 100;
+    QSize m_iconSize = {120, 100};
+    int m_itemCountPerRow = 4;
+    QString m_currentText;
+    Qt::Alignment m_itemTextAlignment = Qt::AlignLeft | Qt::AlignVCenter;
+    QPoint m_pressPosition; ///< of the finger on the list, on the screen
+    int m_pressTop = 0; ///< of the pop-up when the finger came down
+    bool m_sliding = false;
+    bool m_picking = false;
+};

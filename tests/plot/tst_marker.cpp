@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <plot/marker.h>
+
+#include <QtTest>
+
+#include <vnatest.h>
+
+#include <memory>
+
+using Plot::Marker;
+
+class tst_Marker : public VnaTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        m_plot = std::make_unique<QCustomPlot>();
+        m_curve = new QCPCurve(m_plot->xAxis, m_plot->yAxis);
+        m_curve->setData(QVector<double>{0, 1, 2, 3}, QVector<double>{10, 20, 40, 80});
+        m_graph = m_plot->addGraph();
+        m_graph->setData(QVector<double>{0, 1, 2, 3}, QVector<double>{10, 20, 40, 80});
+    }
+
+    void cleanup()
+    {
+        m_plot.reset();
+        TestCase::cleanup();
+    }
+
+    void look()
+    {
+        const Marker marker(m_plot.get(), 307, Plot::PointingDown);
+        QCOMPARE(marker.getId(), 307);
+        const auto *tracer = qobject_cast<Plot::QCPItemTracerMarker *>(marker.getTracer());
+        QVERIFY(tracer && tracer->selectable() && !tracer->clipToAxisRect());
+        QCOMPARE(tracer->size(), 15.0);
+        QCOMPARE(tracer->pen(), QPen(QBrush(Qt::darkGreen), 1.5));
+        QCOMPARE(tracer->layer()->name(), QStringLiteral("markers"));
+        const QCPItemText *label = marker.getLabel();
+        QCOMPARE(label->font().family(), QStringLiteral("HarmonyOS Sans SC"));
+        QCOMPARE(label->font().pointSize(), 11);
+        QCOMPARE(label->color(), QColor(Qt::darkGreen));
+        QVERIFY(label->text().isEmpty());
+        QVERIFY(marker.isVisible());
+    }
+
+    void labelHangsOnTheTrianglesSide()
+    {
+        Marker marker(m_plot.get(), 1, Plot::PointingDown);
+        const auto *tracer = qobject_cast<Plot::QCPItemTracerMarker *>(marker.getTracer());
+        QCOMPARE(marker.getLabel()->position->coords(), QPointF(0, -20));
+        QCOMPARE(marker.getLabel()->positionAlignment(), Qt::AlignHCenter | Qt::AlignBottom);
+        marker.setType(Plot::PointingUp);
+        QVERIFY(!tracer->isPointingDown());
+        QCOMPARE(marker.getLabel()->position->coords(), QPointF(0, 20));
+        QCOMPARE(marker.getLabel()->positionAlignment(), Qt::AlignHCenter | Qt::AlignTop);
+        marker.setType(static_cast<Plot::MarkerType>(2));
+        QVERIFY(tracer->isPointingDown());
+        marker.setPosition(m_curve, 1.0);
+        QCOMPARE(marker.getLabel()->position->pixelPosition() - tracer->position->pixelPosition(),
+                 QPointF(0, -20));
+    }
+
+    void positionAtIndex_data()
+    {
+        QTest::addColumn<double>("index");
+        QTest::addColumn<QPointF>("point");
+        QTest::newRow("before the first") << -5.0 << QPointF(0, 10);
+        QTest::newRow("beyond the last") << 99.0 << QPointF(3, 80);
+        QTest::newRow("between") << 1.5 << QPointF(1.5, 30);
+        QTest::newRow("snaps") << 2.0000005 << QPointF(2, 40);
+        QTest::newRow("NaN") << qQNaN() << QPointF(0, 10);
+    }
+
+    void positionAtIndex()
+    {
+        QFETCH(double, index);
+        QFETCH(QPointF, point);
+        Marker marker(m_plot.get(), 1, Plot::PointingDown);
+        QVERIFY(marker.setPosition(m_curve, index));
+        QCOMPARE(marker.getTracer()->position->coords(), point);
+        QVERIFY(marker.setPosition(m_graph, index));
+        QCOMPARE(marker.getTracer()->position->coords(), point);
+    }
+
+    void positionsThatFail()
+    {
+        Marker marker(m_plot.get(), 1, Plot::PointingDown);
+        QVERIFY(marker.setPositionCoordinates(m_curve, 1.0, 2.0));
+        QVERIFY(!marker.setPositionCoordinates(m_curve, qQNaN(), 2.0));
+        QVERIFY(!marker.setPositionCoordinates(m_graph, 1.0, qInf()));
+        QVERIFY(!marker.setPositionCoordinates(static_cast<QCPCurve *>(nullptr), 1.0, 1.0));
+        QVERIFY(!marker.setPosition(static_cast<QCPGraph *>(nullptr), 1.0));
+        QCOMPARE(marker.getTracer()->position->coords(), QPointF(1, 2));
+
+        // An empty trace cannot place the marker but takes it to its axes.
+        const auto *empty = new QCPCurve(m_plot->xAxis2, m_plot->yAxis2);
+        QVERIFY(!marker.setPosition(const_cast<QCPCurve *>(empty), 0.0));
+        QCOMPARE(marker.getTracer()->position->keyAxis(), m_plot->xAxis2);
+    }
+
+    void markersLayerStaysOnTop()
+    {
+        const Marker first(m_plot.get(), 1, Plot::PointingDown);
+        m_plot->addLayer(QStringLiteral("host"));
+        const Marker second(m_plot.get(), 2, Plot::PointingDown);
+        QCOMPARE(m_plot->layer(m_plot->layerCount() - 1)->name(), QStringLiteral("markers"));
+    }
+
+    void itemsGoWithTheMarker()
+    {
+        {
+            Marker marker(m_plot.get(), 1, Plot::PointingDown);
+            QCOMPARE(m_plot->itemCount(), 2);
+            Marker moved(std::move(marker));
+            QCOMPARE(moved.getId(), 1);
+            QVERIFY(
+                !marker.getTracer()); // NOLINT(bugprone-use-after-move): a moved marker is empty
+            moved = Marker(m_plot.get(), 2, Plot::PointingUp);
+            QCOMPARE(m_plot->itemCount(), 2);
+            moved.setVisible(false);
+            QVERIFY(!moved.isVisible());
+        }
+        QCOMPARE(m_plot->itemCount(), 0);
+    }
+
+    void survivesItemsAndPlotGoneFirst()
+    {
+        Marker orphan(m_plot.get(), 1, Plot::PointingDown);
+        Marker bare(m_plot.get(), 2, Plot::PointingDown);
+        m_plot->removeItem(bare.getLabel());
+        QVERIFY(!bare.isVisible());
+        bare.setColors(QPen(Qt::red), Qt::NoBrush);
+        bare.setType(Plot::PointingUp);
+        m_plot.reset();
+        QVERIFY(!orphan.getLabel() && !orphan.getTracer());
+        orphan.setVisible(true);
+        orphan.setShape(Plot::Narrow);
+        QVERIFY(!orphan.setPositionCoordinates(static_cast<QCPCurve *>(nullptr), 0, 0));
+        const Marker empty;
+        QCOMPARE(empty.getId(), -1);
+        QVERIFY(!empty.isVisible());
+        Marker withoutPlot(nullptr, 5, Plot::PointingUp);
+        withoutPlot.setVisible(true);
+        QCOMPARE(withoutPlot.getId(), 5);
+    }
+
+private:
+    std::unique_ptr<QCustomPlot> m_plot;
+    QCPCurve *m_curve = nullptr;
+    QCPGraph *m_graph = nullptr;
+};
+
+QTEST_MAIN(tst_Marker)
+#include "tst_marker.moc"

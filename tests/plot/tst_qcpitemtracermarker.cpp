@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <plot/qcpitemtracermarker.h>
+
+#include <QtTest>
+
+#include <vnatest.h>
+
+using Plot::QCPItemTracerMarker;
+
+class tst_QCPItemTracerMarker : public VnaTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        m_plot = std::make_unique<QCustomPlot>();
+        m_plot->axisRect()->setAutoMargins(QCP::msNone);
+        m_plot->axisRect()->setMargins(QMargins(20, 20, 20, 20));
+        m_plot->setViewport(QRect(0, 0, 240, 240));
+        m_plot->xAxis->setRange(0, 200); // one unit a pixel
+        m_plot->yAxis->setRange(0, 200);
+        m_plot->replot();
+        m_tracer = new QCPItemTracerMarker(m_plot.get());
+        m_tracer->position->setType(QCPItemPosition::ptPlotCoords);
+        m_tracer->position->setAxes(m_plot->xAxis, m_plot->yAxis);
+        m_tracer->setClipToAxisRect(false);
+        m_tracer->setSize(15);
+        m_tracer->position->setCoords(100, 100);
+    }
+
+    void cleanup()
+    {
+        m_plot.reset();
+        TestCase::cleanup();
+    }
+
+    void startsAsAnInvisibleBaseTracer()
+    {
+        QCOMPARE(m_tracer->style(), QCPItemTracer::tsNone);
+        QCOMPARE(m_tracer->shape(), Plot::Equilateral);
+        QVERIFY(m_tracer->isPointingDown());
+    }
+
+    void hitDistance_data()
+    {
+        QTest::addColumn<int>("shape");
+        QTest::addColumn<bool>("down");
+        QTest::addColumn<double>("size");
+        QTest::addColumn<QPointF>("offset"); // from the apex, in pixels
+        QTest::addColumn<double>("distance");
+        const double halfBase = 15 * 0.57735;
+        QTest::newRow("apex") << 1 << true << 15.0 << QPointF(0, 0) << 0.0;
+        QTest::newRow("inside") << 1 << true << 15.0 << QPointF(0, -10) << 0.0;
+        QTest::newRow("on the corner") << 1 << true << 15.0 << QPointF(halfBase - 1e-9, -15) << 0.0;
+        QTest::newRow("8 px beside the apex") << 1 << true << 15.0 << QPointF(8, 0) << 8.0;
+        QTest::newRow("just too far") << 1 << true << 15.0 << QPointF(8.01, 0) << -1.0;
+        QTest::newRow("below, near") << 1 << true << 15.0 << QPointF(0, 5) << 5.0;
+        QTest::newRow("beyond the base") << 1 << true << 15.0 << QPointF(0, -15.5) << -1.0;
+        QTest::newRow("pointing up, inside") << 1 << false << 15.0 << QPointF(0, 14) << 0.0;
+        QTest::newRow("pointing up, above") << 1 << false << 15.0 << QPointF(0, -14) << -1.0;
+        QTest::newRow("narrow misses") << 0 << true << 15.0 << QPointF(6, -14) << -1.0;
+        QTest::newRow("unknown shape is narrow") << 2 << true << 15.0 << QPointF(6, -14) << -1.0;
+        QTest::newRow("narrow hits") << 0 << true << 15.0 << QPointF(3, -14) << 0.0;
+        QTest::newRow("size 0 counts as 1") << 1 << true << 0.0 << QPointF(0, -0.9) << 0.0;
+        QTest::newRow("negative size counts as 1") << 1 << true << -9.0 << QPointF(0, -8) << 8.0;
+    }
+
+    void hitDistance()
+    {
+        QFETCH(int, shape);
+        QFETCH(bool, down);
+        QFETCH(double, size);
+        QFETCH(QPointF, offset);
+        m_tracer->setShape(static_cast<Plot::TracerShape>(shape));
+        m_tracer->setPointingDown(down);
+        m_tracer->setSize(size);
+        QTEST(m_tracer->selectTest(apex() + offset, false), "distance");
+    }
+
+    void unselectableIsMissedOnlyWhenAsked()
+    {
+        m_tracer->setSelectable(false);
+        QCOMPARE(m_tracer->selectTest(apex(), true), -1.0);
+        QCOMPARE(m_tracer->selectTest(apex(), false), 0.0);
+    }
+
+    void pannedOutIsNeitherHitNorDrawn()
+    {
+        m_tracer->setPen(QPen(Qt::red, 3));
+        m_tracer->setBrush(Qt::red);
+        const auto redPixels = [this] {
+            const QImage image = m_plot->toPixmap(240, 240).toImage();
+            int count = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x)
+                    count += image.pixelColor(x, y) == QColor(Qt::red);
+            }
+            return count;
+        };
+        QVERIFY(redPixels() > 50);
+        m_tracer->position->setCoords(100, 199); // on the edge: still to be seen
+        QVERIFY(m_tracer->anchorInsideAxisRect());
+        QVERIFY(redPixels() > 50);
+        m_tracer->position->setCoords(100, 201);
+        QCOMPARE(m_tracer->selectTest(m_tracer->position->pixelPosition(), false), -1.0);
+        QCOMPARE(redPixels(), 0);
+        m_tracer->position->setCoords(qQNaN(), 100);
+        QCOMPARE(m_tracer->selectTest(QPointF(120, 120), false), -1.0);
+        QCOMPARE(redPixels(), 0);
+    }
+
+private:
+    QPointF apex() const { return m_tracer->position->pixelPosition(); }
+
+    std::unique_ptr<QCustomPlot> m_plot;
+    QCPItemTracerMarker *m_tracer = nullptr;
+};
+
+QTEST_MAIN(tst_QCPItemTracerMarker)
+#include "tst_qcpitemtracermarker.moc"

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <smithchart/gridgeometry.h>
+#include <smithchart/preset.h>
+
+#include <QtTest>
+
+#include <vnatest.h>
+
+#include <cmath>
+#include <complex>
+
+using namespace SmithChart;
+
+class tst_GridGeometry : public VnaTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void presets_data()
+    {
+        QTest::addColumn<int>("preset");
+        QTest::addColumn<int>("resistances");
+        QTest::addColumn<int>("reactances");
+        QTest::newRow("basic") << int(Basic) << 4 << 6;
+        QTest::newRow("standard") << int(Standard) << 6 << 10;
+        QTest::newRow("detailed") << int(Detailed) << 8 << 14;
+        QTest::newRow("below the range") << -1 << 0 << 0;
+        QTest::newRow("above the range") << 3 << 0 << 0;
+    }
+
+    void presets()
+    {
+        QFETCH(int, preset);
+        const GridValues values = gridValues(static_cast<Preset>(preset));
+        QTEST(values.resistances.size(), "resistances");
+        QTEST(values.reactances.size(), "reactances");
+        QVERIFY(std::is_sorted(values.resistances.cbegin(), values.resistances.cend()));
+        for (const double x : values.reactances)
+            QVERIFY2(values.reactances.contains(-x), "each magnitude comes with both signs");
+    }
+
+    // Every drawn point must have the resistance or reactance that its circle stands for.
+    void circlesCarryTheirValue()
+    {
+        const GridValues values = gridValues(Detailed);
+        const Grid grid = gridGeometry(values.resistances, values.reactances, 720);
+        for (int side : {1, -1}) {
+            const Runs &runs = side > 0 ? grid.impedance.circles : grid.admittance.circles;
+            QCOMPARE(runs.x.size(), runs.y.size());
+            for (int run = 0; run < runs.x.size(); ++run) {
+                QCOMPARE(runs.x.at(run).size(), runs.y.at(run).size());
+                for (int i = 0; i < runs.x.at(run).size(); ++i) {
+                    const std::complex<double> g(runs.x.at(run).at(i) * side,
+                                                 runs.y.at(run).at(i) * side);
+                    QVERIFY(std::norm(g) <= 1.000001);
+                    if (std::abs(1.0 - g) < 1e-6)
+                        continue; // the open circuit lies on every circle
+                    const std::complex<double> z = (1.0 + g) / (1.0 - g);
+                    if (run < values.resistances.size()) {
+                        QVERIFY(std::abs(z.real() - values.resistances.at(run))
+                                < 1e-6 * std::norm(1.0 + z));
+                        QCOMPARE(runs.x.at(run).size(), 721);
+                    } else {
+                        const bool known = std::any_of(
+                            values.reactances.cbegin(), values.reactances.cend(), [z](double x) {
+                                return std::abs(z.imag() - x) < 1e-6 * std::norm(1.0 + z);
+                            });
+                        QVERIFY(known);
+                    }
+                }
+            }
+        }
+    }
+
+    void circlesAreCutAtTheRimAndAtAngleZero()
+    {
+        const auto runsOf = [](double cx, double cy, double radius) {
+            Runs runs;
+            appendCircleInsideUnitDisk(cx, cy, radius, 720, runs);
+            return runs.x.size();
+        };
+        QCOMPARE(runsOf(0.5, 0.0, 0.5), 1); // wholly inside
+        QCOMPARE(runsOf(1.0, 0.5, 0.5), 1); // one arc that does not span angle 0
+        QCOMPARE(runsOf(1.0, -0.5, -0.5), 2); // the walk starts inside the disk
+        QCOMPARE(runsOf(1.0, 10.0, 0.05), 0); // far outside
+        QCOMPARE(runsOf(2.0, 0.0, -1.0),
+                 2); // touches the disk in the point where the walk starts and ends
+        Runs none;
+        appendCircleInsideUnitDisk(0.0, 0.0, 1.0, 0, none);
+        QVERIFY(none.x.isEmpty());
+    }
+
+    void labels()
+    {
+        const Grid grid = gridGeometry({0, 0.5}, {-0.2, 10}, 36);
+        QCOMPARE(grid.impedance.labels.text,
+                 (QVector<QString>{QStringLiteral("0"), QStringLiteral("0.5"),
+                                   QStringLiteral("-0.2"), QStringLiteral("10")}));
+        QCOMPARE(grid.impedance.labels.x.at(1), -1.0 / 3.0);
+        QCOMPARE(grid.impedance.labels.y.at(1), -0.03);
+        QCOMPARE(grid.admittance.labels.x.at(1), 1.0 / 3.0);
+        QCOMPARE(grid.admittance.labels.y.at(1), -0.03);
+        // On the rim at the angle whose reflection coefficient has that reactance.
+        const std::complex<double> jx(0.0, -0.2);
+        const std::complex<double> g = (jx - 1.0) / (jx + 1.0);
+        QVERIFY(std::abs(grid.impedance.labels.x.at(2) - g.real()) < 1e-15);
+        QVERIFY(std::abs(grid.impedance.labels.y.at(2) - g.imag()) < 1e-15);
+        QVERIFY(std::abs(grid.admittance.labels.x.at(2) + g.real()) < 1e-15);
+        QVERIFY(std::abs(grid.admittance.labels.y.at(2) + g.imag()) < 1e-15);
+        QCOMPARE(grid.boundaryX.size(), 37);
+        QCOMPARE(grid.realAxisX, (QVector<double>{-1.0, 1.0}));
+    }
+
+    void labelAlignments_data()
+    {
+        QTest::addColumn<double>("x");
+        QTest::addColumn<double>("y");
+        QTest::addColumn<int>("alignment");
+        QTest::newRow("real axis") << 0.8 << -0.03 << 36;
+        QTest::newRow("top") << 0.0 << 1.0 << (4 | 192);
+        QTest::newRow("bottom left") << -0.6 << -0.8 << (6 | 160);
+        QTest::newRow("right, middle") << 0.99 << 0.1 << (5 | 128);
+        QTest::newRow("centre") << 0.1 << -0.1 << 132;
+    }
+
+    void labelAlignments()
+    {
+        QFETCH(double, x);
+        QFETCH(double, y);
+        QTEST(int(labelAlignment(x, y)), "alignment");
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_GridGeometry)
+#include "tst_gridgeometry.moc"

@@ -1,0 +1,43 @@
+# SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Fails when a folder includes one that stands above or beside it (docs/architecture.md), when a file other than
+# the door includes QCustomPlot, or when one other than qtcompat_p.h tests the Qt version.
+
+cmake_minimum_required(VERSION 3.25)
+
+set(allowed_platform "platform")
+set(allowed_utils "utils")
+set(allowed_plot "plot;utils;platform")
+set(allowed_controls "controls;utils;platform")
+set(allowed_widgets "widgets;controls;plot;utils;platform")
+set(allowed_smithchart "smithchart;controls;plot;utils;platform")
+set(folders platform utils plot controls widgets smithchart panel samples examples)
+
+set(faults "")
+foreach(folder ${folders})
+    set(root ${SOURCE_DIR}/src/${folder})
+    if(NOT EXISTS ${root})
+        set(root ${SOURCE_DIR}/${folder})
+    endif()
+    file(GLOB_RECURSE files ${root}/*.h ${root}/*.cpp)
+    if(NOT files AND NOT folder STREQUAL "examples")
+        message(SEND_ERROR "no sources found in ${root}")
+    endif()
+    foreach(file ${files})
+        file(STRINGS ${file} lines REGEX "#[ \t]*(include|if|elif)")
+        foreach(line IN LISTS lines)
+            if(line MATCHES "include[ \t]*<(platform|utils|plot|controls|widgets|smithchart|panel)/")
+                if(DEFINED allowed_${folder} AND NOT CMAKE_MATCH_1 IN_LIST allowed_${folder})
+                    list(APPEND faults "${file}: ${line}")
+                endif()
+            elseif(line MATCHES "qcustomplot" AND NOT file MATCHES "/plot/qcp.h$")
+                list(APPEND faults "${file}: ${line}")
+            elseif(line MATCHES "QT_VERSION" AND NOT file MATCHES "/utils/qtcompat_p.h$")
+                list(APPEND faults "${file}: ${line}")
+            endif()
+        endforeach()
+    endforeach()
+endforeach()
+foreach(fault IN LISTS faults)
+    message(SEND_ERROR "not allowed: ${fault}")
+endforeach()
