@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/guicontext.h>
 
-namespace Utils {
+namespace Utils
+{
 
 GUIContext *GUIContext::instance()
 {

@@ -6,7 +6,8 @@
 
 #include <QObject>
 
-namespace Utils {
+namespace Utils
+{
 
 /*! What every window of the application shares about its look: today, whether it is dark.
     The theme manager sets it; widgets outside the theme manager's reach listen to it. */

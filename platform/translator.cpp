@@ -29,14 +29,19 @@ Translator *Translator::instance()
 
 void Translator::setLanguage(const QLocale &locale)
 {
-    const QString language = displayName(locale);
-    if (m_language == language)
+    // English has a catalogue too, for texts whose source carries a note to translators.
+    if (m_locale == locale)
         return;
-    m_language = language;
+    m_locale = locale;
     QCoreApplication::removeTranslator(&m_catalogue);
     if (m_catalogue.load(locale, QStringLiteral("vnawidgets"), QStringLiteral("_"),
                          QStringLiteral(":/i18n")))
         QCoreApplication::installTranslator(&m_catalogue);
+
+    const QString language = displayName(locale);
+    if (m_language == language)
+        return;
+    m_language = language;
     Q_EMIT languageChanged(language);
 }
 

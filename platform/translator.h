@@ -4,10 +4,9 @@
 
 #include <platform/vnaplatform_export.h>
 
+#include <QLocale>
 #include <QObject>
 #include <QTranslator>
-
-class QLocale;
 
 namespace Utils
 {
@@ -35,7 +34,7 @@ public:
 
 public Q_SLOTS:
     /*! Switches to the language of the locale. Where no catalogue exists the texts stay in English;
-        the language counts as switched all the same. */
+        the language counts as switched all the same. Call it at the start for English too. */
     void setLanguage(const QLocale &locale);
 
 Q_SIGNALS:
@@ -46,6 +45,7 @@ Q_SIGNALS:
 private:
     Translator() = default;
 
+    QLocale m_locale = QLocale::c();
     QString m_language = QStringLiteral("English");
     QTranslator m_catalogue;
 };

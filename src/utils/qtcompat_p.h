@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QSettings>
+#include <QTouchEvent>
 #include <QWheelEvent>
 
 namespace QtCompat
@@ -37,6 +38,26 @@ inline QPointF globalPosition(const QMouseEvent *event)
     return event->globalPosition();
 #else
     return event->screenPos();
+#endif
+}
+
+/// How many fingers a touch event speaks of; none in some cancels.
+inline int touchPointCount(const QTouchEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return int(event->pointCount());
+#else
+    return int(event->touchPoints().count());
+#endif
+}
+
+/// Screen position of the first finger, in logical pixels; there must be one.
+inline QPointF firstTouchPosition(const QTouchEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->points().first().globalPosition();
+#else
+    return event->touchPoints().first().screenPos();
 #endif
 }
 

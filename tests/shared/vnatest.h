@@ -5,7 +5,8 @@
 #include <QObject>
 #include <QString>
 
-namespace VnaTest {
+namespace VnaTest
+{
 
 /*! Base of every test class: a warning that nobody expected fails the test function that caused it.
     A class with its own init() or cleanup() calls these first and last. */

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <platform/vnaplatform_export.h>
+
+#include <QComboBox>
+#include <QPointer>
+#include <QStringList>
+
+namespace Profile
+{
+
+class IEnumProfileAdapter;
+
+/*! A combo box bound to a value of a profile: the profile's changes show, choices are written back.
+
+    Where the profile refuses a choice, the box returns to the profile's value. The adapter is not
+    owned; when it goes, the entries stay and choices have no effect. Not for lists that the box's
+    owner fills by hand: use a plain combo box for those.
+
+    \code
+    box->reset();
+    box->setProfile(adapter);
+    box->afterSetProfile();
+    box->setIcons({":/Graph/Image/layout1", ":/Graph/Image/layout2"}); // before or after, as you
+   like \endcode */
+class VNAPLATFORM_EXPORT TabletComboBox2 : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit TabletComboBox2(QWidget *parent = nullptr);
+
+    /// Null before setProfile(), after reset() and when the adapter was deleted.
+    IEnumProfileAdapter *profile() const;
+
+    /// Lets go of the adapter and removes the entries; icons stay known.
+    void reset();
+    /// Makes \a adapter (may be null) the source of entries and value; shown by afterSetProfile().
+    void setProfile(IEnumProfileAdapter *adapter);
+    /// Fills in the adapter's entries and shows the profile's value; call again when entries
+    /// change.
+    void afterSetProfile();
+    /// Files or resources of the entries' icons in entry order; entries beyond the list have none.
+    void setIcons(const QList<QString> &paths);
+
+private:
+    void showCurrent();
+    void applyIcons();
+    void writeBack(int index);
+
+    QPointer<IEnumProfileAdapter> m_adapter;
+    QStringList m_icons;
+};
+
+} // namespace Profile

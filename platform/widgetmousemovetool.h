@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <platform/vnaplatform_export.h>
+
+#include <QObject>
+#include <QPoint>
+
+class QWidget;
+
+namespace Utils
+{
+
+/*! Lets a mouse or a finger drag a widget about, and tells a tap from a drag.
+
+    A child widget stays inside its parent, a window inside the available part of its screen. The
+   tool takes all presses of the left button and all touches of the widget; put it on a handle or on
+   a floating button, not on a widget with contents to press.
+
+    \code
+    auto *tool = new Utils::WidgetMouseMoveTool(padlock);
+    connect(tool, &Utils::WidgetMouseMoveTool::clicked, this, &Panel::toggleLock);
+    tool->setMovable(false); // a tap still counts
+    \endcode */
+class VNAPLATFORM_EXPORT WidgetMouseMoveTool : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Works on \a widget from now on and becomes its child.
+    explicit WidgetMouseMoveTool(QWidget *widget);
+
+    /// Whether dragging moves the widget; true at the start.
+    bool isMovable() const { return m_movable; }
+    void setMovable(bool movable);
+
+Q_SIGNALS:
+    /*! A press and a release with less way between them than QApplication::startDragDistance(), by
+       the left button or one finger. A second finger or a cancelled touch makes it no tap. */
+    void clicked();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    enum State {
+        Idle,
+        Pressed,
+        Dragging,
+    };
+
+    bool filterTouch(QEvent *event);
+    void press(const QPoint &global);
+    void moveTo(const QPoint &global);
+    void release(const QPoint &global);
+
+    QWidget *m_widget;
+    bool m_movable = true;
+    State m_state = Idle;
+    QPoint m_pressPosition;
+    QPoint m_startPosition;
+};
+
+} // namespace Utils

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <widgets/displaypanel.h>
+
+#include <platform/enumprofileadapter.h>
+#include <platform/guicontext.h>
+#include <platform/layoutmanagerprofile.h>
+
+#include "ui_displaypanel.h"
+
+#include <QEvent>
+
+using Graph::LayoutManagerProifle;
+using Graph::LayoutType;
+
+DisplayPanel::DisplayPanel(LayoutManagerProifle *profile, QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::DisplayPanel>())
+    , m_profile(profile)
+{
+    ui->setupUi(this);
+    auto *context = Utils::GUIContext::instance();
+    updateThemeIcons(context->getIsDarkTheme());
+    bindProfile();
+    connect(context, &Utils::GUIContext::darkThemeChanged, this, &DisplayPanel::updateThemeIcons);
+    if (profile) {
+        connect(profile, &LayoutManagerProifle::layoutTypeChanged, this,
+                [this](LayoutType type) { Q_EMIT layoutChanged(int(type)); });
+    }
+}
+
+DisplayPanel::~DisplayPanel() = default;
+
+void DisplayPanel::updateThemeIcons(bool dark)
+{
+    const QString suffix = dark ? QString() : QStringLiteral("_light");
+    QList<QString> paths;
+    for (int layout = 1; layout <= 4; ++layout)
+        paths << QStringLiteral(":/Graph/Image/layout%1%2").arg(QString::number(layout), suffix);
+    ui->layoutSelectEdit->setIcons(paths);
+}
+
+void DisplayPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        bindProfile();
+}
+
+/// (Re)builds the entries in the current language.
+void DisplayPanel::bindProfile()
+{
+    ui->layoutSelectEdit->setAccessibleName(tr("Diagram layout"));
+    ui->layoutSelectEdit->reset();
+    delete m_adapter;
+    using Adapter = Profile::EnumProfileAdapter<LayoutType>;
+    m_adapter = new Adapter({{LayoutType::Single, tr("One diagram")},
+                             {LayoutType::SideBySide, tr("Two side by side")},
+                             {LayoutType::Stacked, tr("Two stacked")},
+                             {LayoutType::Quad, tr("Four diagrams")}},
+                            m_profile.data(), &LayoutManagerProifle::layoutType,
+                            &LayoutManagerProifle::setLayoutType,
+                            &LayoutManagerProifle::layoutTypeChanged, this);
+    ui->layoutSelectEdit->setProfile(m_adapter);
+    ui->layoutSelectEdit->afterSetProfile();
+}

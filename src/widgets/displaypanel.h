@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+
+namespace Graph
+{
+class LayoutManagerProifle;
+}
+namespace Profile
+{
+class IEnumProfileAdapter;
+}
+namespace Ui
+{
+class DisplayPanel;
+}
+
+/*! The panel that chooses how the diagrams share the window.
+
+    Its combo box is bound to the layout profile: a choice is written there, and a change made
+   elsewhere shows here. The icons follow the dark flag of Utils::GUIContext. The profile is not
+   owned; it may be null or die first, and choices then have no effect.
+
+    \code
+    auto *panel = new DisplayPanel(settings->layoutProfile(), sidebar);
+    connect(panel, &DisplayPanel::layoutChanged, this,
+            [this](int type) { arrange(Graph::LayoutType(type)); });
+    \endcode */
+class VNAWIDGETS_EXPORT DisplayPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DisplayPanel(Graph::LayoutManagerProifle *profile, QWidget *parent = nullptr);
+    ~DisplayPanel() override;
+
+    /// Shows the icons made for the dark or for the light theme; the choice stays.
+    void updateThemeIcons(bool dark);
+
+Q_SIGNALS:
+    /// The profile's layout changed, here or elsewhere; \a layoutType is a Graph::LayoutType.
+    void layoutChanged(int layoutType);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void bindProfile();
+
+    std::unique_ptr<Ui::DisplayPanel> ui;
+    QPointer<Graph::LayoutManagerProifle> m_profile;
+    Profile::IEnumProfileAdapter *m_adapter = nullptr;
+};

@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <widgets/lockwidget.h>
+
+#include <controls/thememanager.h>
+#include <platform/widgetmousemovetool.h>
+#include <utils/qtcompat_p.h>
+
+#include "ui_lockwidget.h"
+
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QGraphicsOpacityEffect>
+#include <QKeyEvent>
+#include <QPropertyAnimation>
+#include <QSequentialAnimationGroup>
+#include <QTimer>
+
+using Controls::ThemeManager;
+
+/// To a screen reader the padlock is a check box, checked while locked.
+class LockWidget::Accessible : public QAccessibleWidget
+{
+public:
+    explicit Accessible(LockWidget *lock)
+        : QAccessibleWidget(lock, QAccessible::CheckBox)
+    {
+    }
+
+    static QAccessibleInterface *create(const QString &className, QObject *object)
+    {
+        Q_UNUSED(className)
+        auto *lock = qobject_cast<LockWidget *>(object);
+        return lock ? new Accessible(lock) : nullptr;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = lock()->locked;
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        return QStringList{toggleAction()} + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString &actionName) override
+    {
+        if (actionName == toggleAction())
+            lock()->setLocked(!lock()->locked);
+        else
+            QAccessibleWidget::doAction(actionName);
+    }
+
+private:
+    LockWidget *lock() const { return static_cast<LockWidget *>(widget()); }
+};
+
+LockWidget::LockWidget(QWidget *parent, QWidget *target_)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::LockWidget>())
+    , target(target_)
+{
+    static const bool accessibleInstalled =
+        (QAccessible::installFactory(&Accessible::create), true);
+    Q_UNUSED(accessibleInstalled)
+
+    ui->setupUi(this);
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(QStringLiteral("LockWidget { background-color: transparent; }"));
+    ui->label->setStyleSheet(QStringLiteral("QLabel { background-color: transparent; }"));
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAccessibleName(tr("Screen lock"));
+    // Tab reaches it; a tap leaves the focus with the editor that has it.
+    setFocusPolicy(Qt::TabFocus);
+
+    mouseMoveTool = new Utils::WidgetMouseMoveTool(this);
+    connect(mouseMoveTool, &Utils::WidgetMouseMoveTool::clicked, this,
+            [this] { setLocked(!locked); });
+    setWindowFlags(windowFlags() | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    if (target)
+        target->installEventFilter(this);
+    qApp->installEventFilter(this);
+
+    connect(ThemeManager::instance(), &ThemeManager::themeChanged, this, &LockWidget::loadPixmaps);
+    addAnimation();
+    hide();
+    loadPixmaps();
+}
+
+LockWidget::~LockWidget() = default;
+
+void LockWidget::setScreenLockEnable(bool enable)
+{
+    if (enable) {
+        show();
+        scheduleDefaultPosition();
+    } else {
+        hide();
+        setLocked(false);
+    }
+}
+
+bool LockWidget::getScreenLockEnable() const
+{
+    return isVisible();
+}
+
+bool LockWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == target && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
+        scheduleDefaultPosition();
+    if (!locked || !isVisible() || mustPass(watched, event))
+        return false;
+    blinkGroup->stop();
+    blinkGroup->start();
+    event->accept();
+    return true;
+}
+
+void LockWidget::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Select:
+        if (!event->isAutoRepeat())
+            setLocked(!locked);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void LockWidget::onClick()
+{
+    ui->label->setPixmap(locked ? lockedPixmap : unlockedPixmap);
+    mouseMoveTool->setMovable(!locked);
+    if (!locked)
+        stopBlinking();
+}
+
+void LockWidget::addAnimation()
+{
+    constexpr int dip = 100; // ms, either way
+    constexpr int dips = 4;
+
+    opacityEffect = new QGraphicsOpacityEffect(ui->label);
+    opacityEffect->setOpacity(1.0);
+    ui->label->setGraphicsEffect(opacityEffect);
+
+    blinkGroup = new QSequentialAnimationGroup(this);
+    const auto addFade = [this](double from, double to) {
+        auto *fade = new QPropertyAnimation(opacityEffect, "opacity", blinkGroup);
+        fade->setDuration(dip);
+        fade->setStartValue(from);
+        fade->setEndValue(to);
+        blinkGroup->addAnimation(fade);
+        return fade;
+    };
+    fadeOut = addFade(1.0, 0.5);
+    fadeIn = addFade(0.5, 1.0);
+    blinkGroup->setLoopCount(dips);
+}
+
+void LockWidget::scheduleDefaultPosition()
+{
+    QTimer::singleShot(0, this, [this] {
+        if (!target)
+            return;
+        const QRect area = target->geometry();
+        move(area.right() - width(), area.center().y() - height() / 2);
+        raise();
+    });
+}
+
+void LockWidget::loadPixmaps()
+{
+    unlockedPixmap = QPixmap(ThemeManager::instance()->getIconPath(4));
+    lockedPixmap = QPixmap(ThemeManager::instance()->getIconPath(3));
+    ui->label->setPixmap(locked ? lockedPixmap : unlockedPixmap);
+}
+
+void LockWidget::setLocked(bool lock)
+{
+    if (locked == lock)
+        return;
+    locked = lock;
+    onClick();
+
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void LockWidget::stopBlinking()
+{
+    blinkGroup->stop();
+    // Stopped in the middle of a dip it would stay faded.
+    opacityEffect->setOpacity(1.0);
+}
+
+/// While locked: whether the event is none that is blocked, or one for the padlock itself.
+bool LockWidget::mustPass(QObject *watched, QEvent *event) const
+{
+    QPoint global;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        global = QtCompat::globalPosition(static_cast<QMouseEvent *>(event)).toPoint();
+        break;
+    case QEvent::TouchBegin: {
+        const auto *touch = static_cast<QTouchEvent *>(event);
+        if (QtCompat::touchPointCount(touch) == 0)
+            return true;
+        global = QtCompat::firstTouchPosition(touch).toPoint();
+        break;
+    }
+    default:
+        return true;
+    }
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (widget && (widget == this || isAncestorOf(widget)))
+        return true;
+    return QRect(mapToGlobal(QPoint(0, 0)), size()).contains(global);
+}

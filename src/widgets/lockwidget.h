@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <QPixmap>
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+
+class QGraphicsOpacityEffect;
+class QPropertyAnimation;
+class QSequentialAnimationGroup;
+
+namespace Ui
+{
+class LockWidget;
+}
+namespace Utils
+{
+class WidgetMouseMoveTool;
+}
+
+/*! A floating padlock against accidental touches, docked at the right edge of a target widget.
+
+    A tap (or Space) locks and unlocks. While locked, presses and touches anywhere else in the
+    application are swallowed, and the padlock blinks to say why; keys, wheel and releases pass.
+   While unlocked the padlock can be dragged out of the way. Not a protection: there is no code to
+   enter.
+
+    The padlock and the target share one coordinate system: give it the target's parent as parent,
+   or none when the target is a window. The target may be null or die first; the padlock stays then.
+
+    \code
+    auto *lock = new LockWidget(centralWidget, diagramArea); // diagramArea is a child of
+   centralWidget connect(lockAction, &QAction::toggled, lock, [lock](bool on) {
+   lock->setScreenLockEnable(on); }); \endcode */
+class VNAWIDGETS_EXPORT LockWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    LockWidget(QWidget *parent, QWidget *target);
+    ~LockWidget() override;
+
+    /// Shows the padlock docked, or hides it and unlocks; off at the start.
+    void setScreenLockEnable(bool enable);
+    /// Whether the padlock is visible.
+    bool getScreenLockEnable() const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private Q_SLOTS:
+    void onClick();
+
+private:
+    class Accessible;
+
+    void addAnimation();
+    void scheduleDefaultPosition();
+    void loadPixmaps();
+    void setLocked(bool lock);
+    void stopBlinking();
+    bool mustPass(QObject *watched, QEvent *event) const;
+
+    std::unique_ptr<Ui::LockWidget> ui;
+    bool locked = false;
+    QPointer<QWidget> target;
+    Utils::WidgetMouseMoveTool *mouseMoveTool = nullptr;
+    QGraphicsOpacityEffect *opacityEffect = nullptr;
+    QPropertyAnimation *fadeOut = nullptr;
+    QPropertyAnimation *fadeIn = nullptr;
+    QSequentialAnimationGroup *blinkGroup = nullptr;
+    QPixmap unlockedPixmap;
+    QPixmap lockedPixmap;
+};

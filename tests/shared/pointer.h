@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QTouchEvent>
+#include <QWidget>
+#include <QWindow>
+#include <QtTest>
+
+/*! Mouse and touch on shown widgets, sent through their window as the platform would; positions are
+   in the widget. */
+namespace VnaTest
+{
+
+inline QPoint inWindow(const QWidget *widget, const QPoint &pos)
+{
+    return widget->mapTo(widget->window(), pos);
+}
+
+inline void mousePress(const QWidget *widget, const QPoint &pos,
+                       Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mousePress(widget->window()->windowHandle(), button, Qt::NoModifier,
+                      inWindow(widget, pos));
+}
+
+inline void mouseMove(const QWidget *widget, const QPoint &pos)
+{
+    QTest::mouseMove(widget->window()->windowHandle(), inWindow(widget, pos));
+}
+
+inline void mouseRelease(const QWidget *widget, const QPoint &pos,
+                         Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mouseRelease(widget->window()->windowHandle(), button, Qt::NoModifier,
+                        inWindow(widget, pos));
+}
+
+inline void mouseClick(const QWidget *widget)
+{
+    const QPoint center = widget->rect().center();
+    mousePress(widget, center);
+    mouseRelease(widget, center);
+}
+
+/// Press at \a from, some moves, release at \a to, both in the window's coordinates.
+inline void mouseDrag(QWindow *window, const QPoint &from, const QPoint &to)
+{
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
+    for (int step = 1; step <= 3; ++step)
+        QTest::mouseMove(window, from + (to - from) * step / 3);
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, to);
+}
+
+/// A touch screen under the fingers of one window; positions are in the window.
+class TouchScreen
+{
+public:
+    explicit TouchScreen(const QWidget *widget)
+        : m_window(widget->window()->windowHandle())
+    {
+    }
+
+    void press(const QPoint &pos) { QTest::touchEvent(m_window, m_device).press(0, pos, m_window); }
+    void move(const QPoint &pos) { QTest::touchEvent(m_window, m_device).move(0, pos, m_window); }
+    void release(const QPoint &pos)
+    {
+        QTest::touchEvent(m_window, m_device).release(0, pos, m_window);
+    }
+    void tap(const QPoint &pos)
+    {
+        press(pos);
+        release(pos);
+    }
+
+    /// A second finger comes, while the first rests.
+    void pressSecond(const QPoint &pos)
+    {
+        QTest::touchEvent(m_window, m_device).stationary(0).press(1, pos, m_window);
+    }
+    /// The first finger leaves, the second stays and then leaves at another place.
+    void releaseBoth(const QPoint &first, const QPoint &second)
+    {
+        QTest::touchEvent(m_window, m_device).stationary(1).release(0, first, m_window);
+        QTest::touchEvent(m_window, m_device).move(1, second, m_window);
+        QTest::touchEvent(m_window, m_device).release(1, second, m_window);
+    }
+
+private:
+    QWindow *m_window;
+    decltype(QTest::createTouchDevice()) m_device = QTest::createTouchDevice();
+};
+
+/// A touch event without points, as a driver sends it that lost the finger.
+inline bool sendTouchWithoutPoints(QWidget *widget, QEvent::Type type)
+{
+    QTouchEvent event(type);
+    event.ignore();
+    QCoreApplication::sendEvent(widget, &event);
+    return event.isAccepted();
+}
+
+} // namespace VnaTest
