@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QSettings>
+#include <QTouchEvent>
 #include <QWheelEvent>
 
 namespace QtCompat
@@ -37,6 +38,36 @@ inline QPointF globalPosition(const QMouseEvent *event)
     return event->globalPosition();
 #else
     return event->screenPos();
+#endif
+}
+
+/// Number of fingers in a touch event; the two functions below ask for the first one.
+inline int touchPointCount(const QTouchEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return int(event->points().size());
+#else
+    return event->touchPoints().size();
+#endif
+}
+
+/// Position of the first finger in the receiving widget, in logical pixels.
+inline QPointF firstTouchPosition(const QTouchEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->points().first().position();
+#else
+    return event->touchPoints().first().pos();
+#endif
+}
+
+/// Position of the first finger on the screen, in logical pixels.
+inline QPointF firstTouchGlobalPosition(const QTouchEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->points().first().globalPosition();
+#else
+    return event->touchPoints().first().screenPos();
 #endif
 }
 
