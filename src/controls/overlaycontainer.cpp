@@ -170,9 +170,11 @@ bool OverlayContainer::eventFilter(QObject *object, QEvent *event)
 {
     if (object == m_host && event->type() == QEvent::Resize) {
         updateGeometryToHost();
-    } else if (object == m_dialog && event->type() == QEvent::Hide && !event->spontaneous()
-               && m_dialog->isHidden()) {
-        // Hidden without having finished, the dialog must not leave the host blocked.
+    } else if (object == m_dialog && event->type() == QEvent::Resize) {
+        Utils::clampWidgetToHost(m_dialog, dialogArea());
+    } else if (object == m_dialog && event->type() == QEvent::HideToParent) {
+        // Hidden without having finished, the dialog must not leave the host blocked. This event
+        // comes last, when the dialog has seen to its focus.
         releaseDialog();
     }
     return QFrame::eventFilter(object, event);
@@ -212,10 +214,16 @@ void OverlayContainer::updateGeometryToHost()
         setGeometry(m_host->rect());
 }
 
+/// What the dialog has to stay inside of.
+QWidget *OverlayContainer::dialogArea()
+{
+    return m_dialog->parentWidget() == this || !m_host ? this : m_host.data();
+}
+
 /// Puts the dialog beside the anchor, or into the middle.
 void OverlayContainer::placeDialog()
 {
-    QWidget *area = m_dialog->parentWidget() == this || !m_host ? this : m_host.data();
+    QWidget *area = dialogArea();
     if (m_placement != LeftOfAnchor || !m_anchor) {
         Utils::centerWidgetInHost(m_dialog, area);
         return;

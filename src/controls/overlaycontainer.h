@@ -15,19 +15,23 @@ namespace Controls
 {
 
 /*! Covers a widget completely and carries one dialog above it: input beside the dialog goes
-   nowhere, and can accept or reject the dialog. The layer hides with the dialog, however that ends.
+    nowhere, and can accept or reject the dialog. The layer hides with the dialog, however that
+    ends.
 
-    Not for several dialogs at a time, and not for dialogs that must leave the window: give those a
-   window and a modality of their own. \code auto *overlay = new
-   Controls::OverlayContainer(mainWindow); auto *dialog = new QDialog(mainWindow, Qt::Widget);    //
-   embedded: moves into the layer overlay->showWithDialog(dialog,
-   Controls::OverlayContainer::Reject, true, Controls::OverlayContainer::LeftOfAnchor, softKey);
+    Not for several dialogs at a time, and not for dialogs that must leave the window: give those
+    a window and a modality of their own.
+    \code
+    auto *overlay = new Controls::OverlayContainer(mainWindow);
+    auto *dialog = new QDialog(mainWindow);
+    dialog->setWindowFlags(Qt::Widget); // no window of its own: it moves into the layer
+    overlay->showWithDialog(dialog, Controls::OverlayContainer::Reject, true,
+                            Controls::OverlayContainer::LeftOfAnchor, softKey);
     connect(dialog, &QDialog::accepted, this, &Panel::apply);
     \endcode
 
     A press beside the dialog leaves the keyboard focus where it is. Dimming is the rule
-   "#overlayContainer" of its own style sheet. Host, dialog and anchor are not owned and may go at
-   any time. */
+    "#overlayContainer" of its own style sheet. Host, dialog and anchor are not owned and may go
+    at any time. */
 class VNAWIDGETS_EXPORT OverlayContainer : public QFrame
 {
     Q_OBJECT
@@ -76,6 +80,7 @@ private:
     void handleOutsideClick();
     void updateBackground();
     void updateGeometryToHost();
+    QWidget *dialogArea();
     void placeDialog();
     bool isOutside(const QPointF &position, const QPointF &globalPosition) const;
     void releaseDialog();

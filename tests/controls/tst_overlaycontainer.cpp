@@ -92,7 +92,11 @@ private Q_SLOTS:
         QCOMPARE(dialog->geometry(), QRect(220, 190, 200, 100));
         QVERIFY(m_window->updatesEnabled());
 
-        // The host changes below it.
+        // It grows past the edge, and the host changes below it.
+        dialog->move(440, 380);
+        dialog->setFixedSize(220, 120);
+        QCOMPARE(dialog->pos(), QPoint(420, 360));
+        dialog->setFixedSize(200, 100);
         m_window->resize(400, 300);
         QCOMPARE(dialog->pos(), QPoint(100, 100));
         m_window->resize(150, 60);
