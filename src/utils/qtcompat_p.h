@@ -41,18 +41,28 @@ inline QPointF globalPosition(const QMouseEvent *event)
 #endif
 }
 
-/// How many fingers a touch event speaks of; none in some cancels.
+/// Number of fingers in a touch event; the two functions below ask for the first one.
 inline int touchPointCount(const QTouchEvent *event)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    return int(event->pointCount());
+    return int(event->points().size());
 #else
-    return int(event->touchPoints().count());
+    return event->touchPoints().size();
 #endif
 }
 
-/// Screen position of the first finger, in logical pixels; there must be one.
+/// Position of the first finger in the receiving widget, in logical pixels.
 inline QPointF firstTouchPosition(const QTouchEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->points().first().position();
+#else
+    return event->touchPoints().first().pos();
+#endif
+}
+
+/// Position of the first finger on the screen, in logical pixels.
+inline QPointF firstTouchGlobalPosition(const QTouchEvent *event)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
     return event->points().first().globalPosition();
