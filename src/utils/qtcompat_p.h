@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
-    What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else. */
+    What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else.
+ */
 #pragma once
 
 #include <QEvent>
@@ -9,14 +10,30 @@
 #include <QSettings>
 #include <QWheelEvent>
 
-namespace QtCompat {
-
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-/// The event type of QWidget::enterEvent().
-using EnterEvent = QEnterEvent;
+#include <QInputDevice>
+
+#include <algorithm>
 #else
-using EnterEvent = QEvent;
+#include <QTouchDevice>
 #endif
+
+namespace QtCompat
+{
+
+/// Whether the system has a device that fingers touch.
+inline bool hasTouchDevice()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const QList<const QInputDevice *> devices = QInputDevice::devices();
+    return std::any_of(devices.begin(), devices.end(), [](const QInputDevice *device) {
+        return device->type() == QInputDevice::DeviceType::TouchScreen
+            || device->type() == QInputDevice::DeviceType::TouchPad;
+    });
+#else
+    return !QTouchDevice::devices().isEmpty();
+#endif
+}
 
 /// Position of a mouse event in the receiving widget, in logical pixels.
 inline QPointF position(const QMouseEvent *event)
