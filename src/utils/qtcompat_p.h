@@ -11,15 +11,30 @@
 #include <QTouchEvent>
 #include <QWheelEvent>
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QInputDevice>
+
+#include <algorithm>
+#else
+#include <QTouchDevice>
+#endif
+
 namespace QtCompat
 {
 
+/// Whether the system has a device that fingers touch.
+inline bool hasTouchDevice()
+{
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-/// The event type of QWidget::enterEvent().
-using EnterEvent = QEnterEvent;
+    const QList<const QInputDevice *> devices = QInputDevice::devices();
+    return std::any_of(devices.begin(), devices.end(), [](const QInputDevice *device) {
+        return device->type() == QInputDevice::DeviceType::TouchScreen
+            || device->type() == QInputDevice::DeviceType::TouchPad;
+    });
 #else
-using EnterEvent = QEvent;
+    return !QTouchDevice::devices().isEmpty();
 #endif
+}
 
 /// Position of a mouse event in the receiving widget, in logical pixels.
 inline QPointF position(const QMouseEvent *event)
