@@ -5,7 +5,7 @@
 
 cmake_minimum_required(VERSION 3.25)
 
-set(allowed_platform "platform")
+set(allowed_platform "platform;utils")
 set(allowed_utils "utils")
 set(allowed_plot "plot;utils;platform")
 set(allowed_controls "controls;utils;platform")
