@@ -168,9 +168,14 @@ bool MarkerStatusItem::eventFilter(QObject *watched, QEvent *event)
 void MarkerStatusItem::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    // The labels have taken over the font by now, and line breaks and heights depend on it.
-    if (event->type() == QEvent::FontChange)
-        updateResponsiveLayout();
+    if (event->type() != QEvent::FontChange)
+        return;
+    // Where a style sheet is in force, labels do not take over their parent's font by themselves.
+    const QList<QLabel *> labels = findChildren<QLabel *>();
+    for (QLabel *label : labels)
+        label->setFont(font());
+    // Line breaks and heights depend on the font.
+    updateResponsiveLayout();
 }
 
 void MarkerStatusItem::keyPressEvent(QKeyEvent *event)
