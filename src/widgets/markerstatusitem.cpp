@@ -217,6 +217,7 @@ void MarkerStatusItem::showOnOneLine()
     ui->keyLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->nameLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->selectedStatusLabel->setAlignment(Qt::AlignCenter);
+    ui->horizontalLayout->setAlignment(ui->selectedStatusLabel, Qt::Alignment());
 
     const struct {
         Controls::RoundLabel *label;
@@ -244,6 +245,7 @@ void MarkerStatusItem::showFolded()
     const Qt::Alignment alignment = Qt::AlignTop | (rightAligned ? Qt::AlignRight : Qt::AlignLeft);
     ui->nameLabel->setAlignment(alignment);
     ui->selectedStatusLabel->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
+    ui->horizontalLayout->setAlignment(ui->selectedStatusLabel, Qt::AlignTop | Qt::AlignHCenter);
 
     QStringList values;
     for (Controls::RoundLabel *label : {ui->valueLabel1, ui->valueLabel2, ui->valueLabel3})
