@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "filedialog.h"
 
+#include "elidedlabel.h"
+#include "icons.h"
 #include "samples.h"
 
 #include <QDir>
-#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScroller>
-#include <QStyle>
 #include <QVBoxLayout>
 
 namespace Panel
@@ -41,7 +41,7 @@ QString fileSize(qint64 bytes)
 
 FileDialog::FileDialog(QWidget *parent)
     : QDialog(parent)
-    , m_path(new QLabel)
+    , m_path(new ElidedLabel(Qt::ElideLeft))
     , m_hint(new QLabel)
     , m_list(new QListWidget)
 {
@@ -57,10 +57,9 @@ FileDialog::FileDialog(QWidget *parent)
     connect(addButton(places, tr("Samples"), "samples"), &QPushButton::clicked, this,
             [this] { setFolder(sampleFolder()); });
     m_path->setObjectName(QStringLiteral("dim"));
-    m_path->setTextFormat(Qt::PlainText);
-    m_path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    places->addWidget(m_path, 1);
+    places->addStretch();
     column->addLayout(places);
+    column->addWidget(m_path);
 
     m_list->setSelectionMode(QAbstractItemView::MultiSelection);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -99,11 +98,9 @@ void FileDialog::setFolder(const QString &folder)
                           QDir::Name | QDir::IgnoreCase);
     for (const QFileInfo &info : folders + files) {
         const QString text = info.isDir()
-            ? info.fileName() + QLatin1Char('/')
+            ? info.fileName()
             : info.fileName() + QStringLiteral("   \u00b7   ") + fileSize(info.size());
-        auto *item = new QListWidgetItem(
-            style()->standardIcon(info.isDir() ? QStyle::SP_DirIcon : QStyle::SP_FileIcon), text,
-            m_list);
+        auto *item = new QListWidgetItem(info.isDir() ? icon("open") : QIcon(), text, m_list);
         item->setData(s_pathRole, info.filePath());
         item->setData(s_folderRole, info.isDir());
         if (info.isDir())

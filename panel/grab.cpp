@@ -109,9 +109,12 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
 
     FileDialog dialog(window);
     dialog.setFolder(sampleFolder());
+    dialog.resize(600, 440);
     dialog.setAttribute(Qt::WA_DontShowOnScreen);
     dialog.show();
     grabber.grab("file-dialog", &dialog);
+    if (grabber.ok())
+        std::printf("The pictures are in %s\n", qUtf8Printable(QDir(folder).absolutePath()));
     return grabber.ok();
 }
 

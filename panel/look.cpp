@@ -2,10 +2,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "look.h"
 
+#include "icons.h"
+
 #include <controls/thememanager.h>
+
+#include <QApplication>
+#include <QFont>
 
 namespace Panel
 {
+
+void setUpApplication()
+{
+    registerIcons();
+    // In pixels, because the panel's screen is made for its pixels and reports any resolution.
+    QFont font = QApplication::font();
+    font.setPixelSize(14);
+    QApplication::setFont(font);
+    Controls::ThemeManager::instance()->setTheme(Controls::ThemeManager::Dark);
+}
 
 Look currentLook()
 {
@@ -37,7 +52,7 @@ Panel--SmithView { background: @background; }
 Panel--SweepBar { border-top: 1px solid @border; }
 Panel--MessageBar { border: 1px solid @warning; }
 Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
-Panel--FileDialog QListWidget::item { padding: 10px; border-bottom: 1px solid @button; }
+Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @button; }
 )");
     const std::pair<const char *, QColor> places[] = {
         {"@background", look.background}, {"@bar", look.bar},       {"@dimText", look.dimText},

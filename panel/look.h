@@ -26,6 +26,10 @@ struct Look {
     QColor trace(int id) const { return traces.at((id - 1) % traces.size()); }
 };
 
+/// Gives the program the panel's font, the pictures of the library and the dark theme; called once
+/// at the start.
+void setUpApplication();
+
 Look currentLook();
 
 /// The style sheet of the panel's window.

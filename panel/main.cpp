@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commandline.h"
 #include "grab.h"
+#include "look.h"
 #include "panelcontroller.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
 #include "samples.h"
-
-#include <controls/thememanager.h>
 
 #include <QApplication>
 #include <QFile>
@@ -26,6 +25,16 @@ QStringList decoded(int argc, char **argv)
     for (int i = 1; i < argc; ++i)
         arguments << QFile::decodeName(argv[i]);
     return arguments;
+}
+
+QtMessageHandler s_handleMessage = nullptr;
+
+/// Qt's offscreen platform complains of every window that it has nobody to tell the window's limits
+/// to.
+void dropOffscreenNoise(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (!message.contains(QLatin1String("propagateSizeHints")))
+        s_handleMessage(type, context, message);
 }
 
 } // namespace
@@ -52,9 +61,11 @@ int main(int argc, char **argv)
     const auto unset = [](const char *name) { return qEnvironmentVariableIsEmpty(name); };
     if (grabs && unset("DISPLAY") && unset("WAYLAND_DISPLAY") && unset("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (grabs)
+        s_handleMessage = qInstallMessageHandler(dropOffscreenNoise);
 
     QApplication application(argc, argv);
-    Controls::ThemeManager::instance()->setTheme(Controls::ThemeManager::Dark);
+    setUpApplication();
 
     PanelModel model;
     PanelWindow window(&model);

@@ -28,7 +28,7 @@ MessageBar::MessageBar(QWidget *parent)
     auto *close = new QToolButton(this);
     close->setObjectName(QStringLiteral("closeMessage"));
     close->setAccessibleName(tr("Close message"));
-    close->setMinimumSize(40, 36);
+    close->setMinimumSize(44, 40);
     connect(close, &QToolButton::clicked, this, [this] { setMessage(QString()); });
     row->addWidget(close, 0, Qt::AlignTop);
     const auto recolor = [close] { close->setIcon(icon("close")); };

@@ -58,7 +58,6 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
     , m_messageBar(new MessageBar)
     , m_smithView(new SmithView(model))
 {
-    registerIcons();
     setWindowTitle(tr("Vector network analyser"));
     // A plain QWidget paints its style sheet's background only when asked to.
     setAttribute(Qt::WA_StyledBackground);
@@ -108,7 +107,7 @@ QWidget *PanelWindow::makeTopBar()
     auto *theme = new QToolButton;
     theme->setAccessibleName(tr("Dark or light"));
     theme->setToolTip(tr("Dark or light"));
-    theme->setMinimumSize(44, 36);
+    theme->setMinimumSize(44, 40);
     theme->setIconSize(QSize(20, 20));
     m_themeButton = theme;
     row->addWidget(theme);
@@ -136,7 +135,7 @@ QWidget *PanelWindow::makeEmptyPage()
     column->addWidget(m_emptyMark, 0, Qt::AlignHCenter);
     auto *title = new QLabel(tr("No data"));
     QFont large = title->font();
-    large.setPointSizeF(large.pointSizeF() * 1.5);
+    large.setPixelSize(QFontInfo(large).pixelSize() * 3 / 2);
     title->setFont(large);
     column->addWidget(title, 0, Qt::AlignHCenter);
     auto *hint = new QLabel(tr("Open a Touchstone file (.s1p, .s2p) to see its reflection."));

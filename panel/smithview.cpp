@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smithview.h"
 
+#include "elidedlabel.h"
 #include "format.h"
 #include "look.h"
 #include "panelmodel.h"
@@ -9,7 +10,6 @@
 #include <controls/thememanager.h>
 #include <plot/qcp.h>
 
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace Panel
@@ -18,14 +18,11 @@ namespace Panel
 SmithView::SmithView(const PanelModel *model, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
-    , m_title(new QLabel(this))
+    , m_title(new ElidedLabel(Qt::ElideRight, this))
     , m_plot(new QCustomPlot(this))
 {
     m_title->setObjectName(QStringLiteral("dim"));
-    m_title->setTextFormat(Qt::PlainText);
     m_title->setContentsMargins(10, 6, 10, 0);
-    // A long title must not widen the window.
-    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);

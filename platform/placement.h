@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-/*! \file
-    Where to put a floating widget: the rules that pop-ups, dialogs and the keypad share.
+/*! \file Where to put a floating widget: the rules that pop-ups, dialogs and the keypad share.
 
     \code
     const QPoint wanted = button->mapToGlobal(QPoint(0, button->height()));
-    popup->move(Utils::boundedTopLeft(wanted, popup->size(), screen->availableGeometry(), 5));
+    const QRect bounds = button->screen()->availableGeometry();
+    popup->move(Utils::boundedTopLeft(wanted, popup->size(), bounds, 5));
     \endcode
 
-    The functions that take widgets move \a widget in whatever coordinates it lives in: global ones
-   for a window, its parent's otherwise. \a host may be any widget of any window. Null arguments are
-   ignored. */
+    The functions that take widgets move \a widget in whatever coordinates it lives in: global
+    ones for a window, its parent's otherwise. \a host may be any widget of any window. Null
+    arguments are ignored. */
 #pragma once
 
 #include <platform/vnaplatform_export.h>

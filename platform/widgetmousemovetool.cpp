@@ -82,7 +82,7 @@ bool WidgetMouseMoveTool::filterTouch(QEvent *event)
         m_state = Idle;
         return true;
     }
-    const QPoint global = QtCompat::firstTouchPosition(touch).toPoint();
+    const QPoint global = QtCompat::firstTouchGlobalPosition(touch).toPoint();
     if (event->type() == QEvent::TouchBegin)
         press(global);
     else if (m_state != Idle && event->type() == QEvent::TouchUpdate)

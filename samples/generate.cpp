@@ -260,7 +260,7 @@ std::vector<Sample> samples()
          Format::MagnitudeAngle, 1.8e9, 6.6e9, 481,
          [](double w) { return std::vector<Complex>{antenna(w)}; }},
         {"band-pass.s2p", "Band-pass filter, 2.4 GHz to 2.5 GHz", "# GHz S DB R 50", 1e9,
-         Format::DecibelAngle, 2.3e9, 2.6e9, 601, [](double w) { return byColumns(bandPass(w)); }},
+         Format::DecibelAngle, 2.3e9, 2.6e9, 1201, [](double w) { return byColumns(bandPass(w)); }},
         {"amplifier.s2p", "Amplifier stage with shunt feedback", "# MHz S MA R 50", 1e6,
          Format::MagnitudeAngle, 100e6, 8100e6, 401,
          [](double w) { return byColumns(amplifier(w)); }},

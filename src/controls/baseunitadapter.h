@@ -26,27 +26,32 @@ namespace Controls
 {
 
 /*! The model behind a numeric entry field: a value in base units, the text shown for it, and the
-   meaning of the keys that an editor or the on-screen keypad delivers. Parses, clamps and reformats
-   what was typed.
+    meaning of the keys that an editor or the on-screen keypad delivers. Parses, clamps and
+    reformats what was typed.
 
-    Not an editor: that is EditableWidget or KeypadEditor. Not for whole quantities as it stands
-   either: it knows no units. Derive from it, set m_unit, and override the conversions and
-   availableUnits(): \code class LevelAdapter : public Controls::BaseUnitAdapter { QStringList
-   availableUnits() override { return {QStringLiteral("dBm")}; } double convertToBase(const QString
-   &text) override; // NaN for text to be refused QString convertFromBaseValue(double value, QString
-   unit) override;
+    Not an editor: that is EditableWidget or KeypadEditor. It knows no units itself: use
+    ScaledUnitAdapter where units differ by a factor, or derive, set m_unit and override the
+    conversions and availableUnits():
+    \code
+    class LevelAdapter : public Controls::BaseUnitAdapter
+    {
+        QStringList availableUnits() override { return {QStringLiteral("dBm")}; }
+        double convertToBase(const QString &text) override; // NaN for text to be refused
+        QString convertFromBaseValue(double value, QString unit) override;
     };
-    auto *level = new LevelAdapter(keypad);             // a commit closes the parent, if it is a
-   dialog level->setValidator(new QDoubleValidator(-40, 10, 2, level)); level->setRealValue(-12.5);
+    auto *level = new LevelAdapter(keypad); // a commit closes the parent, if it is a dialog
+    level->setValidator(new QDoubleValidator(-40, 10, 2, level));
+    level->setRealValue(-12.5);
     connect(level, &LevelAdapter::editingFinished, source, &Source::setLevel);
     \endcode
 
     The editor writes its state into the dynamic properties "inputText", "cursorPos",
-   "selectionStart" and "selectionLen" of the adapter, and sends it the key presses of Return,
-   Enter, Escape, the arrows up and down, Page Up and Down, the point and plus-minus. A unit key is
-   Return with the unit's name as its text. Numbers are read and written with a point, whatever the
-   locale of the process. Units are ASCII letters, with other characters allowed in front of the
-   last ones: "MHz", "dBm", "µs". */
+    "selectionStart" and "selectionLen" of the adapter, and sends it the key presses of Return,
+    Enter, Escape, the arrows up and down, Page Up and Down, the point and plus-minus. A unit key
+    is Return with the unit's name as its text.
+
+    Numbers are read and written with a point, whatever the locale of the process. Units are ASCII
+    letters, with other characters allowed in front of the last ones: "MHz", "dBm", "µs". */
 class VNAWIDGETS_EXPORT BaseUnitAdapter : public QObject
 {
     Q_OBJECT

@@ -226,7 +226,7 @@ bool DraggableFramelessDialog::resolveGlobalPosFromEvent(QEvent *event, QPoint &
         const auto *touch = static_cast<QTouchEvent *>(event);
         if (QtCompat::touchPointCount(touch) == 0)
             return false;
-        position = QtCompat::firstTouchPosition(touch).toPoint();
+        position = QtCompat::firstTouchGlobalPosition(touch).toPoint();
         return true;
     }
     default:

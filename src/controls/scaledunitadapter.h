@@ -10,20 +10,23 @@ namespace Controls
 {
 
 /*! An adapter for a quantity whose units differ by a factor: frequencies, times, resistances,
-   levels. Refuses what is no number, so that a slip of the finger never becomes a zero.
+    levels. Refuses what is no number, so that a slip of the finger never becomes a zero.
 
     Not for units with an offset (degrees Celsius) or a logarithm between them (W and dBm): derive
-   from BaseUnitAdapter for those. \code auto *stop = new
-   Controls::ScaledUnitAdapter({{QStringLiteral("GHz"), 1e9}, {QStringLiteral("MHz"), 1e6},
-                                                  {QStringLiteral("kHz"), 1e3},
-   {QStringLiteral("Hz"), 1}}, keypad); stop->setDecimals(9); stop->setValidator(new
-   QDoubleValidator(100e3, 8.5e9, 0, stop)); stop->setRealValue(2.9e9);                          //
-   "2.9GHz" connect(stop, &Controls::ScaledUnitAdapter::editingFinished, sweep, &Sweep::setStop);
+    from BaseUnitAdapter for those.
+    \code
+    auto *stop = new Controls::ScaledUnitAdapter({{QStringLiteral("GHz"), 1e9},
+                                                  {QStringLiteral("MHz"), 1e6},
+                                                  {QStringLiteral("kHz"), 1e3}}, keypad);
+    stop->setDecimals(9);
+    stop->setValidator(new QDoubleValidator(100e3, 8.5e9, 0, stop));
+    stop->setRealValue(2.9e9); // "2.9GHz"
+    connect(stop, &Controls::ScaledUnitAdapter::editingFinished, sweep, &Sweep::setStop);
     \endcode
 
-    A number without a unit is taken in the unit on show. A value set from code is shown in the unit
-   that leaves the fewest digits before the point; one that was typed keeps the unit it was typed
-   in. */
+    A number without a unit is taken in the unit on show. A value set from code is shown in the
+    unit that leaves the fewest digits before the point; one that was typed keeps the unit it was
+    typed in. */
 class VNAWIDGETS_EXPORT ScaledUnitAdapter : public BaseUnitAdapter
 {
     Q_OBJECT

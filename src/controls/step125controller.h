@@ -8,13 +8,15 @@ namespace Controls
 {
 
 /*! Steps along 1-2-5: ... 0.5, 1, 2, 5, 10, 20, 50 ..., as spans, bandwidths and scales do. A
-   request moves one position, however many it asks for; a value between two positions goes to the
-   next one.
+    request moves one position, however many it asks for; a value between two positions goes to
+    the next one.
 
     Meant for quantities that are not negative; zero is never left. Towards larger magnitudes a
-   negative value goes to the 1 of its own decade; towards smaller ones it mirrors what its
-   magnitude does. \code auto *stepper = new Controls::Step125Controller(span);
-    stepper->setAdapter(span);   // Up on 3.3 MHz gives 5 MHz, then 10 MHz
+    negative value goes to the 1 of its own decade; towards smaller ones it mirrors what its
+    magnitude does.
+    \code
+    auto *stepper = new Controls::Step125Controller(span);
+    stepper->setAdapter(span); // Up on 3.3 MHz gives 5 MHz, then 10 MHz
     \endcode */
 class VNAWIDGETS_EXPORT Step125Controller : public StepController
 {

@@ -13,13 +13,13 @@ namespace Controls
 class BaseUnitAdapter;
 
 /*! Answers the arrow keys of a numeric entry field: steps the value of one adapter by a fixed
-   amount. Not for sequences: Step125Controller walks 1-2-5, and a derived class overrides stepBy()
-   for others.
+    amount. Not for sequences: Step125Controller walks 1-2-5, and a derived class overrides
+    stepBy() for others.
 
     \code
     auto *stepper = new Controls::StepController(adapter);
     stepper->setSingleStep(0.1);
-    stepper->setAdapter(adapter);   // from now on Up adds 0.1, within the adapter's limits
+    stepper->setAdapter(adapter); // from now on Up adds 0.1, within the adapter's limits
     \endcode
 
     The adapter is not owned and may go at any time. */

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-/*! \file
-    Numbers as text, and the 1-2-5 sequence. Pure functions, without a unit, a prefix or a locale.
+/*! \file Numbers as text, and the 1-2-5 sequence. Pure functions, without a unit, a prefix or a
+    locale.
 
     \code
-    Utils::toString(2.450, 3);                // "2.45"
-    Utils::getScientificNotation(-2500);      // {-2.5, 3}
-    Utils::isStep125Value(0.02);              // true
+    Utils::toString(2.450, 3);           // "2.45"
+    Utils::getScientificNotation(-2500); // {-2.5, 3}
+    Utils::isStep125Value(0.02);         // true
     \endcode */
 #pragma once
 

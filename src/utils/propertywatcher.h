@@ -15,7 +15,8 @@ namespace Utils
 {
 
 /*! Reports changes of dynamic properties: those set with QObject::setProperty() under a name that
-   the class does not declare. Not for declared properties, which have notify signals of their own.
+    the class does not declare. Not for declared properties, which have notify signals of their
+    own.
 
     \code
     auto *watcher = new Utils::PropertyWatcher(this);
@@ -26,8 +27,8 @@ namespace Utils
     \endcode
 
     The watcher consumes the change events of watched properties, so one property of one object is
-   for one watcher. It must live in the thread of the objects that it watches. Objects, and the
-   watcher itself, may be destroyed at any time, also by a slot or callback of this class. */
+    for one watcher. It must live in the thread of the objects that it watches. Objects, and the
+    watcher itself, may be destroyed at any time, also by a slot or callback of this class. */
 class VNAWIDGETS_EXPORT PropertyWatcher : public QObject
 {
     Q_OBJECT

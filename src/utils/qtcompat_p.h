@@ -11,15 +11,30 @@
 #include <QTouchEvent>
 #include <QWheelEvent>
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QInputDevice>
+
+#include <algorithm>
+#else
+#include <QTouchDevice>
+#endif
+
 namespace QtCompat
 {
 
+/// Whether the system has a device that fingers touch.
+inline bool hasTouchDevice()
+{
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-/// The event type of QWidget::enterEvent().
-using EnterEvent = QEnterEvent;
+    const QList<const QInputDevice *> devices = QInputDevice::devices();
+    return std::any_of(devices.begin(), devices.end(), [](const QInputDevice *device) {
+        return device->type() == QInputDevice::DeviceType::TouchScreen
+            || device->type() == QInputDevice::DeviceType::TouchPad;
+    });
 #else
-using EnterEvent = QEvent;
+    return !QTouchDevice::devices().isEmpty();
 #endif
+}
 
 /// Position of a mouse event in the receiving widget, in logical pixels.
 inline QPointF position(const QMouseEvent *event)
@@ -41,18 +56,28 @@ inline QPointF globalPosition(const QMouseEvent *event)
 #endif
 }
 
-/// How many fingers a touch event speaks of; none in some cancels.
+/// Number of fingers in a touch event; the two functions below ask for the first one.
 inline int touchPointCount(const QTouchEvent *event)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    return int(event->pointCount());
+    return int(event->points().size());
 #else
-    return int(event->touchPoints().count());
+    return event->touchPoints().size();
 #endif
 }
 
-/// Screen position of the first finger, in logical pixels; there must be one.
+/// Position of the first finger in the receiving widget, in logical pixels.
 inline QPointF firstTouchPosition(const QTouchEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->points().first().position();
+#else
+    return event->touchPoints().first().pos();
+#endif
+}
+
+/// Position of the first finger on the screen, in logical pixels.
+inline QPointF firstTouchGlobalPosition(const QTouchEvent *event)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
     return event->points().first().globalPosition();

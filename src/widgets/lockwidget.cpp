@@ -231,7 +231,7 @@ bool LockWidget::mustPass(QObject *watched, QEvent *event) const
         const auto *touch = static_cast<QTouchEvent *>(event);
         if (QtCompat::touchPointCount(touch) == 0)
             return true;
-        global = QtCompat::firstTouchPosition(touch).toPoint();
+        global = QtCompat::firstTouchGlobalPosition(touch).toPoint();
         break;
     }
     default:

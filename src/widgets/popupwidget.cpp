@@ -43,6 +43,22 @@ private:
     QListView *m_view;
 };
 
+/// A list that takes the keyboard without making an item current, as Qt's own does.
+class ChoiceList : public QListWidget
+{
+public:
+    using QListWidget::QListWidget;
+
+protected:
+    void focusInEvent(QFocusEvent *event) override
+    {
+        const bool noneCurrent = !currentItem();
+        QListWidget::focusInEvent(event);
+        if (noneCurrent)
+            setCurrentItem(nullptr);
+    }
+};
+
 /// First item of exactly this text, or null.
 QListWidgetItem *findItem(const QListWidget *list, const QString &text)
 {
@@ -65,7 +81,7 @@ PopupWidget::PopupWidget(QWidget *parent)
     : QWidget(parent, Qt::Popup)
     , m_titleLabel(new QLabel(this))
     , m_layout(new QVBoxLayout(this))
-    , m_listWidget(new QListWidget(this))
+    , m_listWidget(new ChoiceList(this))
 {
     setAttribute(Qt::WA_StyledBackground); // a plain QWidget ignores the sheet's background
 
@@ -89,6 +105,8 @@ PopupWidget::PopupWidget(QWidget *parent)
     m_layout->addWidget(m_titleLabel);
     m_layout->addWidget(m_listWidget);
 
+    if (parent)
+        parent->installEventFilter(this);
     connect(m_listWidget, &QListWidget::itemClicked, this, &PopupWidget::onItemClicked);
     connect(m_listWidget, &QListWidget::currentRowChanged, this, &PopupWidget::slideToCurrentItem);
 }
@@ -238,6 +256,10 @@ void PopupWidget::popup()
 
 bool PopupWidget::eventFilter(QObject *watched, QEvent *event)
 {
+    // Queued, since a parent hides in its destructor too, where nobody must hear of it.
+    const bool mayLeave = event->type() == QEvent::Hide || event->type() == QEvent::EnabledChange;
+    if (mayLeave && watched == parentWidget() && isVisible())
+        QTimer::singleShot(0, this, &PopupWidget::closeWithoutParent);
     if (watched == m_titleLabel && filterTitle(event))
         return true;
     if ((watched == m_listWidget || watched == m_listWidget->viewport()) && filterList(event))
@@ -277,6 +299,13 @@ void PopupWidget::selectChosenItem()
 {
     if (QListWidgetItem *const item = findItem(m_listWidget, m_currentText))
         m_listWidget->setCurrentItem(item);
+}
+
+/// Closes a pop-up whose button is gone from the screen or no longer answers.
+void PopupWidget::closeWithoutParent()
+{
+    if (isVisible() && !(parentWidget()->isVisible() && parentWidget()->isEnabled()))
+        close();
 }
 
 /// Drags the pop-up by its title.

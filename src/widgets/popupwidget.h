@@ -97,6 +97,7 @@ protected:
 private:
     void onItemClicked(QListWidgetItem *item);
     void selectChosenItem();
+    void closeWithoutParent();
     bool filterTitle(QEvent *event);
     bool filterList(QEvent *event);
     bool slideTo(int top);

@@ -55,6 +55,15 @@ inline void click(const QWidget *widget)
     click(Spot(widget));
 }
 
+/// A value for the message of QVERIFY2.
+template<typename T>
+QByteArray printed(const T &value)
+{
+    QString text;
+    QDebug(&text) << value;
+    return text.trimmed().toUtf8();
+}
+
 /// Press and release of one key, with the text that a keyboard would send.
 inline void key(QWindow *window, Qt::Key code, const QString &text = QString())
 {

@@ -382,8 +382,12 @@ void tst_PopupWidget::touch()
 
     // A second finger does not pick, and an event without points harms nobody.
     QTest::touchEvent(window, screen).press(0, f.item(0).point, window);
-    QTest::touchEvent(window, screen).stationary(0).press(1, f.item(2).point, window);
-    QTest::touchEvent(window, screen).stationary(0).release(1, f.item(2).point, window);
+    QTest::touchEvent(window, screen)
+        .move(0, f.item(0).point, window)
+        .press(1, f.item(2).point, window);
+    QTest::touchEvent(window, screen)
+        .move(0, f.item(0).point, window)
+        .release(1, f.item(2).point, window);
     for (const QEvent::Type type : {QEvent::TouchUpdate, QEvent::TouchCancel}) {
         QTouchEvent event(type, screen);
         QCoreApplication::sendEvent(f.list()->viewport(), &event);

@@ -1,0 +1,704 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <controls/touchnumkeyboard.h>
+
+#include "ui_touchnumkeyboard.h"
+
+#include <controls/keypadedit_p.h>
+#include <controls/overlaycontainer.h>
+#include <controls/thememanager.h>
+#include <platform/placement.h>
+#include <utils/qtcompat_p.h>
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMap>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Controls
+{
+
+using KeySpec = TouchNumKeyboard::KeySpec;
+
+namespace
+{
+
+constexpr int s_enterIcon = 2; // its id at the theme manager
+constexpr Qt::WindowFlags s_dialogFlags = Qt::Dialog | Qt::FramelessWindowHint;
+
+/// Presses and releases a key on an object that either event may destroy. Without one, or without a
+/// key, nothing is sent.
+void typeKey(QObject *target, const KeySpec &spec)
+{
+    if (spec.key == Qt::Key_unknown)
+        return;
+    const QPointer<QObject> alive(target);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        if (!alive)
+            return;
+        QKeyEvent event(type, spec.key, Qt::NoModifier, spec.text, false, 1);
+        QCoreApplication::sendEvent(alive, &event);
+    }
+}
+
+void setKeyRole(QPushButton *button, const QString &role)
+{
+    if (button->property("keyRole") == role)
+        return;
+    button->setProperty("keyRole", role);
+    button->style()->unpolish(button);
+    button->style()->polish(button);
+}
+
+/// A font of the same kind, so many times its size.
+QFont scaledFont(QFont font, double factor)
+{
+    if (font.pixelSize() > 0)
+        font.setPixelSize(int(std::lround(font.pixelSize() * factor)));
+    else
+        font.setPointSizeF(font.pointSizeF() * factor);
+    return font;
+}
+
+} // namespace
+
+class TouchNumKeyboardPrivate
+{
+public:
+    explicit TouchNumKeyboardPrivate(TouchNumKeyboard *keyboard)
+        : q(keyboard)
+    {
+    }
+
+    bool isPaging() const { return shortcutKeys.size() > unitButtons.size(); }
+    int page() const { return (startIndex - 1) / 2; }
+
+    QList<QPushButton *> keys() const { return basicButtons.keys() + unitButtons; }
+
+    void addKey(QPushButton *button, int key, const QString &text, const char *role);
+    void assignUnit(QPushButton *button, const KeySpec &spec);
+    void assignPaging(QPushButton *button, const QString &caption);
+    void labelKeys();
+    void updateEnterKey();
+    void updateMetrics();
+
+    QMainWindow *hostWindow() const;
+    void leaveOverlay();
+    void pressOutside();
+    void letGo();
+    void giveFocusBack();
+    void handleIndicatorMouse(const QMouseEvent *event);
+
+    TouchNumKeyboard *const q;
+    Ui::TouchNumKeyboard ui;
+    QMap<QPushButton *, KeySpec> basicButtons;
+    QList<KeySpec> shortcutKeys;
+    QList<QPushButton *> unitButtons;
+    QMap<QPushButton *, KeySpec> shortcutMap;
+    int startIndex = 0;
+    QPointer<QObject> receiver;
+    QPointer<QWidget> popupAnchor;
+    QPointer<QWidget> titleWidget;
+    TouchNumKeyboard::PressOutsidePolicy pressOutsidePolicy = TouchNumKeyboard::PressOutsideCancels;
+
+    QPointer<OverlayContainer> overlay;
+    QPointer<QWidget> home; ///< the parent when the overlay is not
+    QMetaObject::Connection homeGone;
+    bool goesWithHost = false; ///< the home is part of the host window
+    QPointer<QWidget> formerFocus;
+    QPointer<QEventLoop> loop;
+    bool dragging = false;
+    QPoint dragOffset; ///< from the pointer to the keypad's position
+};
+
+/// Enters a key into the basic-button map.
+void TouchNumKeyboardPrivate::addKey(QPushButton *button, int key, const QString &text,
+                                     const char *role)
+{
+    basicButtons.insert(button, {key, QString(), text});
+    button->setProperty("keyRole", QString::fromLatin1(role));
+    QObject::connect(button, &QPushButton::clicked, q, &TouchNumKeyboard::clickedKey);
+}
+
+void TouchNumKeyboardPrivate::assignUnit(QPushButton *button, const KeySpec &spec)
+{
+    shortcutMap.insert(button, spec);
+    button->setText(spec.label);
+    setKeyRole(button, QStringLiteral("unit"));
+    button->show();
+}
+
+void TouchNumKeyboardPrivate::assignPaging(QPushButton *button, const QString &caption)
+{
+    button->setText(caption);
+    setKeyRole(button, QStringLiteral("page"));
+    button->show();
+}
+
+/// Captions, and names for who cannot see them.
+void TouchNumKeyboardPrivate::labelKeys()
+{
+    const auto label = [this](QPushButton *button, const QString &caption, const QString &name) {
+        basicButtons[button].label = caption;
+        button->setText(caption);
+        button->setAccessibleName(name);
+    };
+    const QList<QPushButton *> digits{ui.btn0, ui.btn1, ui.btn2, ui.btn3, ui.btn4,
+                                      ui.btn5, ui.btn6, ui.btn7, ui.btn8, ui.btn9};
+    for (QPushButton *digit : digits)
+        label(digit, basicButtons.value(digit).text, basicButtons.value(digit).text);
+    label(ui.btnP, QStringLiteral("."), q->tr("Point"));
+    label(ui.btnC, QStringLiteral("\u00b1"), q->tr("Plus minus"));
+    label(ui.btnEsc, q->tr("Esc", "key that cancels"), q->tr("Cancel"));
+    label(ui.btnBack, QStringLiteral("\u232b"), q->tr("Backspace"));
+    label(ui.btnDown, QStringLiteral("\u25bc"), q->tr("Step down"));
+    label(ui.btnUp, QStringLiteral("\u25b2"), q->tr("Step up"));
+    label(ui.btnLeft, QStringLiteral("\u25c0"), q->tr("Cursor left"));
+    label(ui.btnRight, QStringLiteral("\u25b6"), q->tr("Cursor right"));
+    label(ui.btnOk, q->tr("OK", "key that enters"), q->tr("Enter"));
+    updateEnterKey();
+}
+
+/// The enter key shows the theme's icon, or its caption where the application brings none.
+void TouchNumKeyboardPrivate::updateEnterKey()
+{
+    const ThemeManager *theme = ThemeManager::instance();
+    const bool exists = QFile::exists(theme->getIconPath(s_enterIcon));
+    ui.btnOk->setIcon(exists ? theme->icon(s_enterIcon) : QIcon());
+    ui.btnOk->setText(exists ? QString() : basicButtons.value(ui.btnOk).label);
+}
+
+/// Keys fit a finger and their captions, whatever the resolution and the font.
+void TouchNumKeyboardPrivate::updateMetrics()
+{
+    const auto pixels = [this](double millimetres, int dpi) {
+        return int(std::ceil(millimetres / 25.4 * dpi));
+    };
+    const auto wide = [&](double mm) { return pixels(mm, q->logicalDpiX()); };
+    const auto high = [&](double mm) { return pixels(mm, q->logicalDpiY()); };
+
+    const QFont keyFont = scaledFont(q->font(), 1.35);
+    for (QPushButton *key : keys()) {
+        key->setFont(keyFont);
+        const QFontMetrics metrics(key->font());
+        const bool isSide = unitButtons.contains(key) || key == ui.btnOk;
+        key->setMinimumSize(
+            std::max(wide(18.0),
+                     metrics.horizontalAdvance(TouchNumKeyboard::tr("PgDn")) + metrics.height()),
+            std::max(high(isSide ? 9.0 : 11.5), metrics.height() * 3 / 2));
+    }
+    QFont titleFont = q->font();
+    titleFont.setBold(true);
+    ui.nameLabel->setFont(titleFont);
+    ui.nameLabel->setMinimumHeight(std::max(high(9.0), QFontMetrics(titleFont).height() * 3 / 2));
+    ui.edit->setFont(scaledFont(q->font(), 1.7));
+    ui.edit->setMinimumHeight(std::max(high(11.0), ui.edit->fontMetrics().height() * 3 / 2));
+}
+
+/// The main window that the keypad covers: that of its parent, or else the first there is.
+QMainWindow *TouchNumKeyboardPrivate::hostWindow() const
+{
+    if (const QWidget *parent = q->parentWidget()) {
+        if (auto *window = qobject_cast<QMainWindow *>(parent->window()))
+            return window;
+    }
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (auto *mainWindow = qobject_cast<QMainWindow *>(window))
+            return mainWindow;
+    }
+    return nullptr;
+}
+
+/// Gives the keypad back to its own parent, so that it does not go with a host it was only shown
+/// on.
+void TouchNumKeyboardPrivate::leaveOverlay()
+{
+    if (!overlay || q->parentWidget() != overlay)
+        return;
+    QObject::disconnect(homeGone);
+    q->setParent(home, s_dialogFlags);
+}
+
+/// Return or Escape for the receiver, by the policy.
+void TouchNumKeyboardPrivate::pressOutside()
+{
+    if (!receiver || pressOutsidePolicy == TouchNumKeyboard::PressOutsideIgnored)
+        return;
+    if (pressOutsidePolicy == TouchNumKeyboard::PressOutsideCommits)
+        typeKey(receiver, {Qt::Key_Return, QString(), QStringLiteral("\n")});
+    else
+        typeKey(receiver, {Qt::Key_Escape, QString(), QString()});
+}
+
+/// Ends what a hidden keypad would never see the end of: a held key and a drag.
+void TouchNumKeyboardPrivate::letGo()
+{
+    dragging = false;
+    for (QPushButton *key : keys())
+        key->setDown(false);
+}
+
+/// The focus returns to who had it before the keypad appeared, not to whoever comes next in the
+/// window.
+void TouchNumKeyboardPrivate::giveFocusBack()
+{
+    QWidget *now = QApplication::focusWidget();
+    if (!now || (now != q && !q->isAncestorOf(now)))
+        return;
+    if (formerFocus)
+        formerFocus->setFocus(Qt::OtherFocusReason);
+    else
+        now->clearFocus();
+}
+
+void TouchNumKeyboardPrivate::handleIndicatorMouse(const QMouseEvent *event)
+{
+    const int position = ui.edit->cursorPositionAt(QtCompat::position(event).toPoint());
+    const bool left = event->button() == Qt::LeftButton;
+    if (event->type() == QEvent::MouseMove) {
+        if (event->buttons() & Qt::LeftButton)
+            Q_EMIT q->indicatorMove(position);
+    } else if (left && event->type() == QEvent::MouseButtonPress) {
+        Q_EMIT q->indicatorPress(position);
+    } else if (left && event->type() == QEvent::MouseButtonDblClick) {
+        Q_EMIT q->indicatorDoubleClick(position);
+    } else if (left && event->type() == QEvent::MouseButtonRelease) {
+        Q_EMIT q->indicatorRelease(position);
+    }
+}
+
+TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
+    : QDialog(parent, s_dialogFlags)
+    , d_ptr(std::make_unique<TouchNumKeyboardPrivate>(this))
+{
+    Q_D(TouchNumKeyboard);
+    d->ui.setupUi(this);
+    // The size follows the font, the title widget and the indicator.
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    setAccessibleName(tr("Numeric keypad"));
+    // An entry that is committed accepts a modal dialog, and only closes one that is not.
+    setWindowModality(Qt::WindowModal);
+
+    const QList<QPushButton *> digits{d->ui.btn0, d->ui.btn1, d->ui.btn2, d->ui.btn3, d->ui.btn4,
+                                      d->ui.btn5, d->ui.btn6, d->ui.btn7, d->ui.btn8, d->ui.btn9};
+    for (int digit = 0; digit < digits.size(); ++digit)
+        d->addKey(digits.at(digit), Qt::Key_0 + digit, QString::number(digit), "digit");
+    d->addKey(d->ui.btnP, Qt::Key_Period, QStringLiteral("."), "point");
+    d->addKey(d->ui.btnC, Qt::Key_plusminus, QStringLiteral("\u00b1"), "sign");
+    d->addKey(d->ui.btnEsc, Qt::Key_Escape, {}, "cancel");
+    d->addKey(d->ui.btnBack, Qt::Key_Backspace, {}, "erase");
+    d->addKey(d->ui.btnDown, Qt::Key_Down, {}, "step");
+    d->addKey(d->ui.btnUp, Qt::Key_Up, {}, "step");
+    d->addKey(d->ui.btnLeft, Qt::Key_Left, {}, "cursor");
+    d->addKey(d->ui.btnRight, Qt::Key_Right, {}, "cursor");
+    d->addKey(d->ui.btnOk, Qt::Key_Return, QStringLiteral("\n"), "enter");
+    for (QPushButton *key :
+         {d->ui.btnBack, d->ui.btnDown, d->ui.btnUp, d->ui.btnLeft, d->ui.btnRight})
+        key->setAutoRepeat(true);
+
+    d->unitButtons = {d->ui.btnUnit1, d->ui.btnUnit2, d->ui.btnUnit3, d->ui.btnUnit4};
+    for (QPushButton *button : d->unitButtons) {
+        button->setProperty("keyRole", QStringLiteral("unit"));
+        button->hide();
+        connect(button, &QPushButton::clicked, this, &TouchNumKeyboard::shortCutsKeyClicked);
+    }
+
+    setWindowTitleAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setIndicatorTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    d->ui.edit->setReadOnly(true);
+    d->ui.edit->setFocusPolicy(Qt::NoFocus);
+    d->ui.edit->hide();
+    d->ui.edit->installEventFilter(this);
+
+    d->labelKeys();
+    d->updateMetrics();
+    connect(this, &QDialog::finished, this, &TouchNumKeyboard::onFinished);
+    connect(ThemeManager::instance(), &ThemeManager::themeChanged, this,
+            [d] { d->updateEnterKey(); });
+}
+
+TouchNumKeyboard::~TouchNumKeyboard()
+{
+    // The overlay may be destroying this keypad, its child, just now: a later deletion then comes
+    // to nothing.
+    if (d_ptr->overlay)
+        d_ptr->overlay->deleteLater();
+}
+
+TouchNumKeyboard::PressOutsidePolicy TouchNumKeyboard::pressOutsidePolicy() const
+{
+    return d_ptr->pressOutsidePolicy;
+}
+
+QObject *TouchNumKeyboard::receiver() const
+{
+    return d_ptr->receiver;
+}
+
+QList<KeySpec> TouchNumKeyboard::shortcutKeys() const
+{
+    return d_ptr->shortcutKeys;
+}
+
+QWidget *TouchNumKeyboard::titleWidget() const
+{
+    return d_ptr->titleWidget;
+}
+
+QString TouchNumKeyboard::windowTitle() const
+{
+    return QDialog::windowTitle();
+}
+
+Qt::Alignment TouchNumKeyboard::windowTitleAlignment() const
+{
+    return d_ptr->ui.nameLabel->alignment();
+}
+
+QString TouchNumKeyboard::indicatorText() const
+{
+    return d_ptr->ui.edit->text();
+}
+
+Qt::Alignment TouchNumKeyboard::indicatorTextAlignment() const
+{
+    return d_ptr->ui.edit->alignment();
+}
+
+void TouchNumKeyboard::setPopupAnchorWidget(QWidget *anchor)
+{
+    d_ptr->popupAnchor = anchor;
+}
+
+void TouchNumKeyboard::setPressOutsidePolicy(PressOutsidePolicy policy)
+{
+    d_ptr->pressOutsidePolicy = policy;
+}
+
+void TouchNumKeyboard::setReceiver(QObject *receiver)
+{
+    d_ptr->receiver = receiver;
+}
+
+bool TouchNumKeyboard::setShortcutKeys(const QList<KeySpec> &keys)
+{
+    Q_D(TouchNumKeyboard);
+    const auto sendsNothing = [](const KeySpec &spec) { return spec.key == Qt::Key_unknown; };
+    if (std::any_of(keys.begin(), keys.end(), sendsNothing))
+        return false;
+
+    d->shortcutKeys = keys;
+    d->shortcutMap.clear();
+    d->startIndex = 0;
+    // While the column pages, a key must not move under the finger because another one is not
+    // there.
+    for (QPushButton *button : d->unitButtons) {
+        QSizePolicy policy = button->sizePolicy();
+        policy.setRetainSizeWhenHidden(d->isPaging());
+        button->setSizePolicy(policy);
+    }
+    if (d->isPaging()) {
+        updateButtons();
+        return true;
+    }
+    for (int i = 0; i < d->unitButtons.size(); ++i) {
+        if (i < keys.size())
+            d->assignUnit(d->unitButtons.at(i), keys.at(i));
+        else
+            d->unitButtons.at(i)->hide();
+    }
+    return true;
+}
+
+void TouchNumKeyboard::setTitleWidget(QWidget *widget, Qt::Alignment alignment)
+{
+    Q_D(TouchNumKeyboard);
+    if (d->titleWidget && d->titleWidget != widget)
+        delete d->titleWidget;
+    d->titleWidget = widget;
+    if (!widget)
+        return;
+    d->ui.titleGridLayout->removeWidget(widget);
+    d->ui.titleGridLayout->addWidget(widget, 0, 1, alignment);
+    widget->show();
+}
+
+void TouchNumKeyboard::setWindowTitle(const QString &title)
+{
+    QDialog::setWindowTitle(title);
+    d_ptr->ui.nameLabel->setText(title);
+}
+
+void TouchNumKeyboard::setWindowTitleAlignment(Qt::Alignment alignment)
+{
+    d_ptr->ui.nameLabel->setAlignment(alignment);
+}
+
+void TouchNumKeyboard::setIndicatorText(const QString &text, int selectionStart,
+                                        int selectionLength, int cursorPosition)
+{
+    Q_D(TouchNumKeyboard);
+    showText(d->ui.edit, text, selectionStart, selectionLength, cursorPosition);
+    d->ui.edit->show();
+}
+
+void TouchNumKeyboard::setIndicatorTextAlignment(Qt::Alignment alignment)
+{
+    d_ptr->ui.edit->setAlignment(alignment);
+}
+
+void TouchNumKeyboard::open()
+{
+    Q_D(TouchNumKeyboard);
+    setWindowModality(Qt::WindowModal);
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
+    QMainWindow *host = d->hostWindow();
+    if (!host) {
+        if (windowFlags() != s_dialogFlags)
+            setWindowFlags(s_dialogFlags);
+        QDialog::open();
+        return;
+    }
+
+    if (!d->overlay || d->overlay->parentWidget() != host) {
+        d->leaveOverlay();
+        if (d->overlay)
+            d->overlay->deleteLater();
+        d->overlay = new OverlayContainer(host);
+        connect(d->overlay, &QObject::destroyed, this, [d] {
+            if (!d->goesWithHost)
+                d->leaveOverlay();
+        });
+    }
+    if (parentWidget() != d->overlay) {
+        d->home = parentWidget();
+        d->goesWithHost = d->home && d->home->window() == host;
+        if (d->home)
+            d->homeGone = connect(d->home, &QObject::destroyed, this, &QObject::deleteLater);
+        setParent(d->overlay, Qt::Widget);
+    }
+    disconnect(d->overlay, &OverlayContainer::outsideClicked, this, nullptr);
+    connect(d->overlay, &OverlayContainer::outsideClicked, this, [d] { d->pressOutside(); });
+    d->overlay->showWithDialog(this, OverlayContainer::None, false,
+                               d->popupAnchor ? OverlayContainer::LeftOfAnchor
+                                              : OverlayContainer::Centered,
+                               d->popupAnchor);
+}
+
+int TouchNumKeyboard::exec()
+{
+    Q_D(TouchNumKeyboard);
+    const QPointer<TouchNumKeyboard> self(this);
+    QEventLoop loop;
+    connect(this, &QDialog::finished, &loop, &QEventLoop::quit);
+    connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
+    d->loop = &loop;
+    setResult(Rejected);
+    open();
+    if (self && !isHidden())
+        loop.exec();
+    return self ? result() : int(Rejected);
+}
+
+void TouchNumKeyboard::showGlobal()
+{
+    Q_D(TouchNumKeyboard);
+    hide();
+    d->leaveOverlay();
+    setWindowModality(Qt::NonModal);
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
+                   | Qt::WindowDoesNotAcceptFocus);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    ensurePolished();
+    adjustSize();
+    const QWidget *focused = QApplication::focusWidget();
+    const QRect available = (focused ? focused : this)->screen()->availableGeometry();
+    const QPoint bottomCentre(available.center().x() - width() / 2, available.bottom());
+    move(Utils::boundedTopLeft(bottomCentre, size(), available, 5));
+    show();
+}
+
+bool TouchNumKeyboard::event(QEvent *event)
+{
+    Q_D(TouchNumKeyboard);
+    switch (event->type()) {
+    case QEvent::KeyPress: {
+        // With the focus on the keypad itself, or a child that leaves these keys alone, they still
+        // end the entry the way its owner wants.
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if ((key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape)
+            && sendEvent(event))
+            return true;
+        break;
+    }
+    case QEvent::Hide:
+        if (isHidden()) {
+            d->letGo();
+            d->giveFocusBack();
+            if (d->loop)
+                d->loop->quit();
+        }
+        break;
+    case QEvent::LanguageChange:
+        d->labelKeys();
+        if (d->isPaging())
+            updateButtons();
+        break;
+    case QEvent::Polish:
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        d->updateMetrics();
+        break;
+    default:
+        break;
+    }
+    return QDialog::event(event);
+}
+
+bool TouchNumKeyboard::eventFilter(QObject *object, QEvent *event)
+{
+    Q_D(TouchNumKeyboard);
+    if (object != d->ui.edit)
+        return QDialog::eventFilter(object, event);
+
+    const QPointer<QLineEdit> edit(d->ui.edit);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+        d->handleIndicatorMouse(static_cast<QMouseEvent *>(event));
+        // What mirrors another editor has no selection of its own to drag.
+        return !edit || edit->isReadOnly();
+    case QEvent::Wheel:
+        event->ignore();
+        Q_EMIT indicatorWheel(static_cast<QWheelEvent *>(event));
+        return !edit || event->isAccepted();
+    default:
+        return false;
+    }
+}
+
+void TouchNumKeyboard::showEvent(QShowEvent *event)
+{
+    Q_D(TouchNumKeyboard);
+    QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    QWidget *focused = QApplication::focusWidget();
+    if (focused != this && !isAncestorOf(focused))
+        d->formerFocus = focused;
+    if (!d->ui.edit->isReadOnly())
+        d->ui.edit->setFocus(Qt::OtherFocusReason);
+}
+
+void TouchNumKeyboard::mousePressEvent(QMouseEvent *event)
+{
+    Q_D(TouchNumKeyboard);
+    const int titleBottom = d->ui.titleGridLayout->geometry().bottom();
+    if (event->button() != Qt::LeftButton || QtCompat::position(event).y() > titleBottom) {
+        QDialog::mousePressEvent(event);
+        return;
+    }
+    d->dragging = true;
+    d->dragOffset = pos() - QtCompat::globalPosition(event).toPoint();
+    event->accept();
+}
+
+void TouchNumKeyboard::mouseMoveEvent(QMouseEvent *event)
+{
+    Q_D(TouchNumKeyboard);
+    if (!d->dragging) {
+        QDialog::mouseMoveEvent(event);
+        return;
+    }
+    move(QtCompat::globalPosition(event).toPoint() + d->dragOffset);
+    if (isWindow())
+        move(Utils::boundedTopLeft(pos(), size(), screen()->availableGeometry(), 0));
+    else
+        Utils::clampWidgetToHost(this, parentWidget());
+    event->accept();
+}
+
+void TouchNumKeyboard::mouseReleaseEvent(QMouseEvent *event)
+{
+    d_ptr->dragging = false;
+    QDialog::mouseReleaseEvent(event);
+}
+
+/// Sends the key of the pressed button to the focused widget.
+void TouchNumKeyboard::clickedKey()
+{
+    Q_D(TouchNumKeyboard);
+    typeKey(QApplication::focusWidget(),
+            d->basicButtons.value(qobject_cast<QPushButton *>(sender())));
+}
+
+/// Pages the unit column, or sends the unit of the pressed button to the focused widget.
+void TouchNumKeyboard::shortCutsKeyClicked()
+{
+    Q_D(TouchNumKeyboard);
+    auto *button = qobject_cast<QPushButton *>(sender());
+    if (!button)
+        return;
+    const QString caption = button->text();
+    const int start = d->startIndex;
+    if (d->isPaging() && caption == tr("PgUp"))
+        d->startIndex -= start == 3 || start == 4 ? 3 : 2;
+    else if (d->isPaging() && caption == tr("PgDn"))
+        d->startIndex += d->page() == 0 ? 3 : 2;
+    else if (d->isPaging() && caption == tr("More"))
+        d->startIndex = d->page() == 0 ? 3 : 0;
+
+    if (d->startIndex != start) {
+        updateButtons();
+        return;
+    }
+    typeKey(QApplication::focusWidget(), d->shortcutMap.value(button));
+}
+
+/// Lays out the current page of more unit keys than there are buttons: three units on the first
+/// page, two on each that follows, up to three on the last.
+void TouchNumKeyboard::updateButtons()
+{
+    Q_D(TouchNumKeyboard);
+    for (QPushButton *button : d->unitButtons)
+        button->hide();
+    d->shortcutMap.clear();
+
+    const int count = d->shortcutKeys.size();
+    const int lastPage = count <= 6 ? 1 : (count - 5) / 2 + 1;
+    const bool isMiddle = d->page() != 0 && d->page() != lastPage;
+    d->assignPaging(d->unitButtons.last(), isMiddle ? tr("PgDn") : tr("More"));
+    if (isMiddle)
+        d->assignPaging(d->unitButtons.first(), tr("PgUp"));
+    const int first = isMiddle ? 1 : 0;
+    const int shown = isMiddle ? 2 : std::min(3, count - d->startIndex);
+    for (int i = 0; i < shown; ++i)
+        d->assignUnit(d->unitButtons.at(first + i), d->shortcutKeys.at(d->startIndex + i));
+}
+
+/// Takes the keypad off the host when the entry has ended.
+void TouchNumKeyboard::onFinished(int result)
+{
+    Q_UNUSED(result)
+    d_ptr->leaveOverlay();
+}
+
+/// Passes an event on to the receiver; false without one.
+bool TouchNumKeyboard::sendEvent(QEvent *event)
+{
+    return d_ptr->receiver && QCoreApplication::sendEvent(d_ptr->receiver, event);
+}
+
+} // namespace Controls

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <QDialog>
+#include <QList>
+
+#include <memory>
+
+QT_BEGIN_NAMESPACE
+class QWheelEvent;
+QT_END_NAMESPACE
+
+namespace Controls
+{
+
+class TouchNumKeyboardPrivate;
+
+/*! The on-screen keypad of numeric entry: digits, editing keys and a column of unit keys. It
+    edits nothing itself: each key goes as a key event to the widget that has the focus, which the
+    keypad never takes away. Hardware keys work at the same time.
+
+    Not for text: it has no letters. It needs an editor, either a field of the host
+    (EditableWidget, any line edit) or a KeypadEditor, which makes the keypad's own text area the
+    editor:
+    \code
+    auto *keypad = new Controls::TouchNumKeyboard(mainWindow);
+    auto *adapter = new FrequencyAdapter(keypad); // its commit closes the keypad
+    new Controls::KeypadEditor(keypad, adapter);
+    keypad->setWindowTitle(tr("Stop"));
+    keypad->setPopupAnchorWidget(softKey);
+    connect(adapter, &FrequencyAdapter::editingFinished, sweep, &Sweep::setStop);
+    keypad->open();
+    \endcode
+
+    open() and exec() show it embedded in the host's main window, above an OverlayContainer, and
+    so work on platforms with a single window; without a main window it is a dialog of its own,
+    and then the editor must be inside it. showGlobal() is for editors in other windows. The title
+    bar drags the keypad.
+
+    Keys: digits, "." (Qt::Key_Period), "±" (Qt::Key_plusminus), Esc, Backspace, the four arrows
+    and OK (Qt::Key_Return without a unit). Backspace and the arrows repeat while they are held. A
+    unit key finishes the entry in its unit; above four units the column pages.
+
+    Indicator: the text area "edit" stays hidden until setIndicatorText() fills it or a
+    KeypadEditor takes it. Pointer gestures on it are told by the indicator signals, with the
+    nearest cursor position in its text.
+
+    Style sheets reach the keys by object name (btn0 to btn9, btnP, btnC, btnEsc, btnBack, btnUp,
+    btnDown, btnLeft, btnRight, btnUnit1 to btnUnit4, btnOk) and by the dynamic property
+    "keyRole": "digit", "point", "sign", "cancel", "erase", "cursor", "step", "unit", "page" or
+    "enter". A key is at least 9 mm high and wide, and grows with the font. */
+class VNAWIDGETS_EXPORT TouchNumKeyboard : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// One key of the keypad.
+    struct KeySpec {
+        int key = Qt::Key_unknown; ///< what it sends; Qt::Key_unknown sends nothing
+        QString label; ///< its caption
+        QString text; ///< the text of its key events
+    };
+
+    /// What a press beside the keypad does to the entry. Any other value cancels too.
+    enum PressOutsidePolicy {
+        PressOutsideIgnored = 0,
+        PressOutsideCommits = 1, ///< as Return would
+        PressOutsideCancels = 2, ///< as Escape would; the default: a stray touch changes no setting
+    };
+
+    explicit TouchNumKeyboard(QWidget *parent = nullptr);
+    ~TouchNumKeyboard() override;
+
+    PressOutsidePolicy pressOutsidePolicy() const;
+    /// Who commits or cancels on a press outside, normally the adapter; null at first. Not owned.
+    QObject *receiver() const;
+    QList<KeySpec> shortcutKeys() const;
+    QWidget *titleWidget() const;
+    QString windowTitle() const;
+    Qt::Alignment windowTitleAlignment() const;
+    QString indicatorText() const;
+    Qt::Alignment indicatorTextAlignment() const;
+
+    /// Shows the keypad left of this widget instead of centred; null centres. Not owned.
+    void setPopupAnchorWidget(QWidget *anchor);
+    void setPressOutsidePolicy(PressOutsidePolicy policy);
+    void setReceiver(QObject *receiver);
+    /// The unit keys in order, shown from the first. Returns false, and changes nothing, if one of
+    /// them has no key code.
+    bool setShortcutKeys(const QList<KeySpec> &keys);
+    /// Puts a widget behind the title and owns it; the one before is deleted. Null leaves the place
+    /// empty.
+    void setTitleWidget(QWidget *widget, Qt::Alignment alignment = {});
+    /// The title left of the title widget, and of the window where there is one.
+    void setWindowTitle(const QString &title);
+    /// Left and vertically centred by default.
+    void setWindowTitleAlignment(Qt::Alignment alignment);
+    /// Fills the indicator; the order is that of every hand-over of a selection.
+    void setIndicatorText(const QString &text, int selectionStart, int selectionLength,
+                          int cursorPosition);
+    /// Right and vertically centred by default.
+    void setIndicatorTextAlignment(Qt::Alignment alignment);
+
+    /// Shows the keypad above the host window and returns at once.
+    void open() override;
+    /// Like open(), but returns when the entry has ended: QDialog::Accepted or QDialog::Rejected.
+    int exec() override;
+    /// Shows the keypad as a tool window at the bottom of the screen. It blocks nothing and leaves
+    /// the active window alone, so that its keys reach the focused editor of any window.
+    void showGlobal();
+
+Q_SIGNALS:
+    /// Gestures on the indicator: the cursor position in its text that is nearest to the pointer.
+    /// Moves are told between press and release.
+    void indicatorDoubleClick(int position);
+    void indicatorPress(int position);
+    void indicatorMove(int position);
+    void indicatorRelease(int position);
+    /// A wheel turn over the indicator; accept the event to use it up.
+    void indicatorWheel(QWheelEvent *event);
+
+protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private Q_SLOTS:
+    void clickedKey();
+    void shortCutsKeyClicked();
+    void updateButtons();
+    void onFinished(int result);
+    bool sendEvent(QEvent *event);
+
+private:
+    Q_DECLARE_PRIVATE(TouchNumKeyboard)
+
+    std::unique_ptr<TouchNumKeyboardPrivate> d_ptr;
+};
+
+} // namespace Controls

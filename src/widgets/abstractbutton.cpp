@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <widgets/abstractbutton.h>
+
+#include <utils/fingersize_p.h>
+#include <widgets/buttonaccessible_p.h>
+
+#include <QKeyEvent>
+#include <QLayout>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionButton>
+
+AbstractButton::AbstractButton(QWidget *parent)
+    : QAbstractButton(parent)
+{
+    ButtonAccessible::install();
+}
+
+void AbstractButton::setClickable(bool clickable)
+{
+    m_clickable = clickable;
+}
+
+QSize AbstractButton::sizeHint() const
+{
+    const int finger = Utils::fingerSize(this);
+    if (layout())
+        return QAbstractButton::sizeHint().expandedTo({finger, finger});
+    QStyleOptionButton option = styleOption();
+    const QSize text = fontMetrics().size(Qt::TextShowMnemonic, option.text);
+    option.rect.setSize(text);
+    return style()
+        ->sizeFromContents(QStyle::CT_PushButton, &option, text, this)
+        .expandedTo({finger, finger});
+}
+
+QSize AbstractButton::minimumSizeHint() const
+{
+    const int finger = Utils::fingerSize(this);
+    return layout() ? QAbstractButton::minimumSizeHint().expandedTo({finger, finger}) : sizeHint();
+}
+
+void AbstractButton::mousePressEvent(QMouseEvent *event)
+{
+    if (m_clickable)
+        QAbstractButton::mousePressEvent(event);
+    else
+        event->ignore();
+}
+
+void AbstractButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    // A button that became inert under the finger comes up without a click: one that is not down
+    // ignores the release.
+    if (!m_clickable)
+        setDown(false);
+    QAbstractButton::mouseReleaseEvent(event);
+}
+
+void AbstractButton::keyPressEvent(QKeyEvent *event)
+{
+    const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
+    if (presses && !m_clickable)
+        event->ignore();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void AbstractButton::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!m_clickable)
+        setDown(false);
+    QAbstractButton::keyReleaseEvent(event);
+}
+
+void AbstractButton::paintEvent(QPaintEvent *)
+{
+    const QStyleOptionButton option = styleOption();
+    QPainter painter(this);
+    style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);
+}
+
+QStyleOptionButton AbstractButton::styleOption() const
+{
+    QStyleOptionButton option;
+    option.initFrom(this);
+    option.text = QAbstractButton::text();
+    option.state |= isDown() ? QStyle::State_Sunken : QStyle::State_Raised;
+    option.state |= isChecked() ? QStyle::State_On : QStyle::State_Off;
+    return option;
+}

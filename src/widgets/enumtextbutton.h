@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <widgets/labelbutton.h>
+
+#include <QList>
+#include <QListView>
+
+class PopupWidget;
+class QTimer;
+
+/*! A button for a setting with a fixed set of values: it shows the current choice, and a tap opens
+    the list of all of them, as rows below (or above) it or as tiles in the middle of the window.
+
+    Not for commands: MenuButton remembers nothing.
+
+    \code
+    auto *format = new EnumTextButton(this);
+    format->setText(tr("Format"));
+    format->setEnums({{LogM, tr("Log mag")}, {Phase, tr("Phase")}, {Smith, tr("R + jX")}});
+    format->setCurrentEnum(LogM);
+    connect(format, &EnumTextButton::currentItemEdited, this, &Panel::setFormat);
+    \endcode
+
+    Style hooks are those of LabelButton and PopupWidget. A tap that closes the list never opens it
+    again. */
+class VNAWIDGETS_EXPORT EnumTextButton : public LabelButton
+{
+    Q_OBJECT
+
+public:
+    /// One choice: what it means to the host, and what the user reads.
+    struct EnumSpec {
+        int value;
+        QString text;
+
+        friend bool operator==(const EnumSpec &a, const EnumSpec &b)
+        {
+            return a.value == b.value && a.text == b.text;
+        }
+        friend bool operator!=(const EnumSpec &a, const EnumSpec &b) { return !(a == b); }
+    };
+
+    explicit EnumTextButton(QWidget *parent = nullptr);
+
+    /// The choices in display order. Setting them leaves the current choice as it is.
+    QList<EnumSpec> enums() const { return m_enums; }
+    void setEnums(const QList<EnumSpec> &enums);
+
+    /// Value 0 and no text until something is chosen.
+    EnumSpec currentEnumSpec() const { return {m_currentValue, m_currentText}; }
+    /// Shows any value and text, also one that is not in the list. False when it is shown already.
+    bool setCurrentEnum(const EnumSpec &spec);
+    /// Shows the first choice of that value, and tells so even when it was shown already. False,
+    /// and nothing changes, when there is none.
+    bool setCurrentEnum(int value);
+
+    /// \name The list, see PopupWidget
+    ///@{
+    void setIconSize(int width, int height);
+    QSize iconSize() const;
+    void setItemCountPerRow(int count);
+    int itemCountPerRow() const;
+    void setItemEnabled(const QString &text, bool enabled);
+    void setItemEnabled(int index, bool enabled);
+    void setTitleText(const QString &text);
+    QString titleText() const;
+    void setTitleVisible(bool visible);
+    bool titleVisible() const;
+    void setViewMode(QListView::ViewMode mode);
+    ///@}
+
+Q_SIGNALS:
+    /// The user picked a choice; follows currentItemToggled().
+    void currentItemEdited(int value);
+    /// The current choice was set, by the user or by the host.
+    void currentItemToggled(int value);
+
+public Q_SLOTS:
+    /// Opens the list, unless it was this tap that closed it or there is nothing to choose.
+    void onClicked(bool checked);
+    /// Takes over what the user picked.
+    void onPopupWidgetItemChanged(const QString &text);
+    /// Marks the current choice in the list.
+    void onCurrentItemToggled(int value);
+    /// Moves the list to its place: at the button for rows, centred on the window for tiles.
+    void updatePopupPosition();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    int popupWidth() const { return width() * 3 / 2; }
+
+    QList<EnumSpec> m_enums;
+    QList<int> m_values;
+    QStringList m_texts;
+    int m_currentValue = 0;
+    QString m_currentText;
+    PopupWidget *m_popup;
+    QTimer *m_reopenGuard;
+    bool m_closedByPress = false; ///< the finger now on the button closed the list
+};

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <widgets/abstractbutton.h>
+
+#include <QMargins>
+#include <QPointer>
+
+class QGridLayout;
+class QLabel;
+
+/*! A button of two cells: a name, and a widget that says something about it. The name stands above,
+    left of, below or right of the widget.
+
+    For a value as text use LabelButton, for a choice EnumTextButton, for on and off SwitchButton.
+
+    \code
+    auto *button = new InfoButton(this);
+    button->setText(tr("Averaging"));
+    auto *progress = new QProgressBar;
+    progress->setFocusPolicy(Qt::NoFocus);
+    button->setInfoWidget(progress); // the button owns it from here on
+    button->setLayoutType(InfoButton::LeftRight);
+    button->setTextMargins({8, 0, 8, 0});
+    \endcode
+
+    Style sheets address the name as QLabel#nameLabel. */
+class VNAWIDGETS_EXPORT InfoButton : public AbstractButton
+{
+    Q_OBJECT
+
+    Q_PROPERTY(LayoutType layoutType READ layoutType WRITE setLayoutType)
+    Q_PROPERTY(Qt::Alignment textAlignment READ textAlignment WRITE setTextAlignment)
+    Q_PROPERTY(QMargins textMargins READ textMargins WRITE setTextMargins)
+
+public:
+    /// Where the name stands, then where the information stands.
+    enum LayoutType {
+        TopBottom = 0,
+        LeftRight = 1,
+        BottomTop = 2,
+        RightLeft = 3,
+    };
+    Q_ENUM(LayoutType)
+
+    explicit InfoButton(QWidget *parent = nullptr);
+
+    /// The name. The text of QAbstractButton stays empty.
+    QString text() const;
+    void setText(const QString &text);
+
+    /// The widget in the information cell; null after somebody deleted it or took it away.
+    QWidget *infoWidget() const;
+    /// Takes over a widget and deletes the one before it. Refuses null, the name and our parents.
+    void setInfoWidget(QWidget *widget);
+
+    /// Default: TopBottom, which also stands in for unknown values.
+    LayoutType layoutType() const { return m_layoutType; }
+    void setLayoutType(LayoutType type);
+
+    /// Alignment of the name in its cell. Default: left and vertically centred.
+    Qt::Alignment textAlignment() const { return m_textAlignment; }
+    void setTextAlignment(Qt::Alignment alignment);
+
+    /// Room around the name, in pixels. Default: none.
+    QMargins textMargins() const { return m_textMargins; }
+    void setTextMargins(QMargins margins);
+
+private:
+    void placeCells();
+
+    LayoutType m_layoutType = TopBottom;
+    QGridLayout *m_layout;
+    QPointer<QWidget> m_infoWidget;
+    QLabel *m_nameLabel;
+    Qt::Alignment m_textAlignment = Qt::AlignLeft | Qt::AlignVCenter;
+    QMargins m_textMargins;
+};

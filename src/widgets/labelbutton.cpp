@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <widgets/labelbutton.h>
+
+#include <utils/fingersize_p.h>
+#include <utils/qtcompat_p.h>
+
+#include <QAccessible>
+#include <QDebug>
+#include <QDynamicPropertyChangeEvent>
+#include <QLabel>
+
+namespace
+{
+
+constexpr char MultilineProperty[] = "multilineLabel";
+constexpr int MultilineOverhang = 10;
+
+} // namespace
+
+LabelButton::LabelButton(QWidget *parent)
+    : InfoButton(parent)
+{
+    auto *const value = new QLabel(this);
+    value->setObjectName(QStringLiteral("valueLabel"));
+    value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    value->setMinimumWidth(0);
+    value->setAlignment(m_labelAlignment);
+    setLabel(value);
+    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
+            &LabelButton::onThemeChanged);
+}
+
+QLabel *LabelButton::label() const
+{
+    return isAncestorOf(m_label) ? m_label.data() : nullptr;
+}
+
+void LabelButton::setLabel(QLabel *newLabel)
+{
+    if (newLabel && newLabel == label())
+        return;
+    setInfoWidget(newLabel);
+    if (!newLabel || infoWidget() != newLabel)
+        return; // refused with a warning
+    m_label = newLabel;
+    m_label->installEventFilter(this);
+    elidedText();
+}
+
+void LabelButton::setLabelText(const QString &text)
+{
+    if (m_labelText == text)
+        return;
+    m_labelText = text;
+    if (QLabel *const value = label())
+        value->setText(text);
+    elidedText();
+    updateGeometry();
+    QAccessibleValueChangeEvent change(this, text);
+    QAccessible::updateAccessibility(&change);
+}
+
+void LabelButton::setLabelAlignment(Qt::Alignment alignment)
+{
+    if (m_labelAlignment == alignment)
+        return;
+    m_labelAlignment = alignment;
+    if (QLabel *const value = label())
+        value->setAlignment(alignment);
+}
+
+void LabelButton::setLabelMargins(QMargins margins)
+{
+    if (m_labelMargins == margins)
+        return;
+    m_labelMargins = margins;
+    if (QLabel *const value = label())
+        value->setContentsMargins(margins);
+}
+
+void LabelButton::setLabelFont(const QFont &font)
+{
+    if (m_labelFont == font)
+        return;
+    m_labelFont = font;
+    if (QLabel *const value = label())
+        value->setFont(font);
+}
+
+void LabelButton::elidedText()
+{
+    QLabel *const value = label();
+    if (!value)
+        return;
+    if (isMultiline()) {
+        value->setWordWrap(true);
+        value->setMaximumWidth(width() + MultilineOverhang);
+        value->setText(m_labelText);
+        return;
+    }
+    value->setWordWrap(false);
+    value->setMaximumWidth(QWIDGETSIZE_MAX);
+    const QMargins margins = value->contentsMargins();
+    const int available = width() - margins.left() - margins.right();
+    const QFontMetrics metrics = value->fontMetrics();
+    // The end of a value tells more than its beginning.
+    const bool tooWide = metrics.horizontalAdvance(m_labelText) >= available;
+    value->setText(tooWide ? metrics.elidedText(m_labelText, Qt::ElideLeft, available)
+                           : m_labelText);
+}
+
+QSize LabelButton::sizeHint() const
+{
+    QSize hint = InfoButton::sizeHint();
+    const QLabel *const value = label();
+    if (!value || isMultiline())
+        return hint;
+    // Ask for the whole value, whatever is shown of it now, and for the pixel that keeps it whole.
+    const QFontMetrics metrics = value->fontMetrics();
+    const int missing =
+        metrics.horizontalAdvance(m_labelText) + 1 - metrics.horizontalAdvance(value->text());
+    const bool sideBySide = layoutType() == LeftRight || layoutType() == RightLeft;
+    if (missing > 0)
+        hint.setWidth(sideBySide ? hint.width() + missing
+                                 : qMax(hint.width(), value->sizeHint().width() + missing));
+    return hint;
+}
+
+QSize LabelButton::minimumSizeHint() const
+{
+    // The name must fit; the value can be shortened.
+    const int name =
+        fontMetrics().horizontalAdvance(text()) + textMargins().left() + textMargins().right();
+    return {qMax(name, Utils::fingerSize(this)), InfoButton::minimumSizeHint().height()};
+}
+
+void LabelButton::onThemeChanged(Controls::ThemeManager::Theme) { }
+
+bool LabelButton::event(QEvent *event)
+{
+    const bool result = InfoButton::event(event);
+    if (event->type() == QEvent::DynamicPropertyChange
+        && static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == MultilineProperty) {
+        elidedText();
+        updateGeometry();
+    }
+    return result;
+}
+
+bool LabelButton::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool result = InfoButton::eventFilter(watched, event);
+    // Fonts and margins change by the setters, and by a style sheet when the label is first shown.
+    const bool refit =
+        event->type() == QEvent::FontChange || event->type() == QEvent::ContentsRectChange;
+    if (refit && watched == label())
+        elidedText();
+    return result;
+}
+
+void LabelButton::enterEvent(EnterEvent *event)
+{
+    if (QtCompat::hasTouchDevice())
+        setAttribute(Qt::WA_UnderMouse, false); // a finger leaves no hover behind
+    else
+        InfoButton::enterEvent(event);
+}
+
+void LabelButton::leaveEvent(QEvent *event)
+{
+    if (!QtCompat::hasTouchDevice())
+        InfoButton::leaveEvent(event);
+}
+
+void LabelButton::mousePressEvent(QMouseEvent *event)
+{
+    AbstractButton::mousePressEvent(event);
+}
+
+void LabelButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    AbstractButton::mouseReleaseEvent(event);
+}
+
+void LabelButton::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    elidedText();
+}
+
+bool LabelButton::isMultiline() const
+{
+    return property(MultilineProperty).toBool();
+}

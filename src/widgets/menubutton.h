@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <QList>
+#include <QListView>
+#include <QPushButton>
+
+class PopupWidget;
+class QTimer;
+
+/*! A push button that offers a menu of commands in a list sized for fingers. A press, Space or
+    click() opens the list; picking an entry reports it, and nothing is remembered.
+
+    Not for a setting: EnumTextButton shows what is chosen.
+
+    \code
+    auto *search = new MenuButton(tr("Search"), this);
+    search->addMenuItem(MaximumPeak, tr("Maximum"));
+    search->addMenuItem(MinimumPeak, tr("Minimum"));
+    search->addMenuItem(NextPeak, tr("Next peak"));
+    connect(search, qOverload<int>(&MenuButton::menuItemClicked), this, &Panel::search);
+    \endcode
+
+    The button is checked while its list is open. Style hooks are those of QPushButton and
+    PopupWidget. */
+class VNAWIDGETS_EXPORT MenuButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    /// One command: what it means to the host, and what the user reads.
+    struct MenuSpec {
+        int value;
+        QString text;
+
+        friend bool operator==(const MenuSpec &a, const MenuSpec &b)
+        {
+            return a.value == b.value && a.text == b.text;
+        }
+        friend bool operator!=(const MenuSpec &a, const MenuSpec &b) { return !(a == b); }
+    };
+
+    explicit MenuButton(QWidget *parent = nullptr);
+    explicit MenuButton(const QString &text, QWidget *parent = nullptr);
+
+    /// The commands in display order.
+    QList<MenuSpec> menuItems() const { return m_menuItems; }
+    void setMenuItems(const QList<MenuSpec> &items);
+    /// Appends one command.
+    void addMenuItem(int value, const QString &text);
+    void clearMenuItems();
+
+    /// Value of the first command of that text, or -1.
+    int getValueByDisplayName(const QString &text) const;
+
+    /// Horizontal alignment of the entries. Default: left.
+    void setItemTextAlignment(Qt::Alignment alignment);
+
+    /// \name The list, see PopupWidget
+    ///@{
+    void setIconSize(int width, int height);
+    QSize iconSize() const;
+    void setItemCountPerRow(int count);
+    int itemCountPerRow() const;
+    void setItemEnabled(const QString &text, bool enabled);
+    void setItemEnabled(int index, bool enabled);
+    void setTitleText(const QString &text);
+    QString titleText() const;
+    void setTitleVisible(bool visible);
+    bool titleVisible() const;
+    void setViewMode(QListView::ViewMode mode);
+    ///@}
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// The user picked a command; -1 for a text that belongs to none.
+    void menuItemClicked(int value);
+    /// The same pick by its text; follows at once.
+    void menuItemClicked(const QString &text);
+
+public Q_SLOTS:
+    /// Reports what the user picked and puts the list away.
+    void onPopupWidgetItemChanged(const QString &text);
+    /// Moves the open list to its place below the button, or above it.
+    void updatePopupPosition();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+
+private:
+    void openPopup();
+
+    QList<MenuSpec> m_menuItems;
+    QList<int> m_values;
+    QStringList m_texts;
+    PopupWidget *m_popup;
+    QTimer *m_reopenGuard;
+    Qt::Alignment m_itemTextAlignment = Qt::AlignLeft;
+};

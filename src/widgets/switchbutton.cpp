@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <widgets/switchbutton.h>
+
+#include <QButtonGroup>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+SwitchButton::SwitchButton(QWidget *parent)
+    : InfoButton(parent)
+    , m_container(new QWidget(this))
+    , m_onButton(new QPushButton(tr("On"), m_container))
+    , m_offButton(new QPushButton(tr("Off"), m_container))
+    , m_layout(new QHBoxLayout(m_container))
+    , m_lastClicked(m_offButton)
+{
+    m_layout->setContentsMargins(10, 0, 10, 0);
+    m_layout->setSpacing(0);
+    auto *const group = new QButtonGroup(this);
+    group->setExclusive(true);
+    m_onButton->setObjectName(QStringLiteral("btnOn"));
+    m_offButton->setObjectName(QStringLiteral("btnOff"));
+    for (QPushButton *const button : {m_onButton, m_offButton}) {
+        button->setCheckable(true);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+        button->installEventFilter(this);
+        group->addButton(button);
+        m_layout->addWidget(button);
+    }
+    setStatus(false);
+    setFocusPolicy(Qt::NoFocus); // the two buttons take it
+
+    setInfoWidget(m_container);
+    setLayoutType(LeftRight);
+    connect(group, qOverload<QAbstractButton *>(&QButtonGroup::buttonClicked), this,
+            &SwitchButton::onButtonClicked);
+}
+
+bool SwitchButton::status() const
+{
+    return m_onButton->isChecked();
+}
+
+void SwitchButton::setStatus(bool on)
+{
+    QPushButton *const checked = on ? m_onButton : m_offButton;
+    QPushButton *const unchecked = on ? m_offButton : m_onButton;
+    checked->setChecked(true);
+    unchecked->setChecked(false);
+    // One stop for the tab key, as for radio buttons.
+    checked->setFocusPolicy(Qt::StrongFocus);
+    unchecked->setFocusPolicy(Qt::ClickFocus);
+}
+
+/// Makes the two buttons as inert as the switch itself: what they ignore travels on to the parent.
+bool SwitchButton::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        if (clickable())
+            break;
+        event->ignore();
+        return true;
+    default:
+        break;
+    }
+    return InfoButton::eventFilter(watched, event);
+}
+
+void SwitchButton::onButtonClicked(QAbstractButton *button)
+{
+    m_lastClicked = button;
+    setStatus(button == m_onButton);
+    Q_EMIT statusChanged(button == m_onButton);
+}

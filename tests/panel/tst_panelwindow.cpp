@@ -1,0 +1,467 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vnatest.h"
+
+#include <controls/thememanager.h>
+#include <panel/filedialog.h>
+#include <panel/look.h>
+#include <panel/messagebar.h>
+#include <panel/panelcontroller.h>
+#include <panel/panelmodel.h>
+#include <panel/panelwindow.h>
+#include <panel/samples.h>
+#include <panel/smithview.h>
+#include <panel/softkey.h>
+#include <panel/tracebar.h>
+#include <plot/qcp.h>
+
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QToolButton>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Panel;
+
+namespace
+{
+
+/// The panel as main() makes it, on screen, with pointer events sent to its window.
+struct Desk {
+    PanelModel model;
+    PanelWindow window;
+    PanelController controller;
+
+    explicit Desk(const QSize &size = QSize(1024, 600))
+        : window(&model)
+        , controller(&model, &window)
+    {
+        window.resize(size);
+        controller.openFiles({startSample()});
+        window.show();
+        settle();
+    }
+
+    SmithView *view() const { return window.smithView(); }
+    SmithChartPlot *chart() const { return view()->chart(); }
+
+    static void settle()
+    {
+        for (int i = 0; i < 4; ++i)
+            QCoreApplication::processEvents();
+    }
+
+    /// A point of the plot, given as a share of its size, in pixels of the plot.
+    QPoint onPlot(double x, double y) const
+    {
+        const QRect area = view()->plot()->axisRect()->rect();
+        return {area.left() + qRound(x * area.width()), area.top() + qRound(y * area.height())};
+    }
+    QPoint inWindow(const QPoint &onPlot) const { return view()->plot()->mapTo(&window, onPlot); }
+    QPointF chartPoint(const QPoint &onPlot) const { return view()->chartPoint(onPlot); }
+
+    void turnWheel(const QPoint &onPlot, int notches)
+    {
+        const QPoint position = inWindow(onPlot);
+        QWheelEvent wheel(position, window.mapToGlobal(position), QPoint(),
+                          QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(window.windowHandle(), &wheel);
+        settle();
+    }
+
+    void drag(const QPoint &from, const QPoint &to)
+    {
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(from));
+        for (int step = 1; step <= 10; ++step)
+            QTest::mouseMove(window.windowHandle(), inWindow(from + (to - from) * step / 10));
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(to));
+        settle();
+    }
+
+    void click(const QWidget *widget)
+    {
+        QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          widget->mapTo(widget->window(), widget->rect().center()));
+        settle();
+    }
+
+    /// Picks a choice of a soft key from its list, as a finger would.
+    void pick(SoftKey *key, int index)
+    {
+        click(key);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          menu->actionGeometry(menu->actions().at(index)).center());
+        settle();
+    }
+};
+
+/// Distance of two chart points in pixels of the chart.
+double pixels(const Desk &desk, const QPointF &a, const QPointF &b)
+{
+    const QCPAxis *axis = desk.view()->plot()->xAxis;
+    return QLineF(a, b).length() / axis->range().size() * axis->axisRect()->width();
+}
+
+} // namespace
+
+class PanelWindowTest : public VnaTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { setUpApplication(); }
+    void cleanup();
+    void showsAFile();
+    void picksGridModes();
+    void densityKeepsEverythingElse();
+    void activatesAndHidesTraces();
+    void wheelKeepsThePointUnderThePointer();
+    void dragMovesTheMagnifiedView();
+    void unmagnifiedViewStays();
+    void doubleClickResetsOnFreeSpace();
+    void doubleClickActivatesTheTrace();
+    void twoFingersZoom();
+    void keysMoveTheView();
+    void badFileKeepsWhatWasShown();
+    void startsEmptyWithoutAReadableFile();
+    void fileDialogOpensPickedFiles();
+    void followsTheTheme();
+    void nothingIsClipped_data();
+    void nothingIsClipped();
+};
+
+void PanelWindowTest::cleanup()
+{
+    Controls::ThemeManager::instance()->setTheme(Controls::ThemeManager::Dark);
+    TestCase::cleanup();
+}
+
+void PanelWindowTest::showsAFile()
+{
+    const Desk desk;
+    QCOMPARE(desk.chart()->traceIds(), (QVector<int>{1, 2}));
+    QCOMPARE(desk.chart()->activeTrace(), 1);
+    const QVector<double> *frequencies = nullptr, *real = nullptr, *imag = nullptr;
+    QVERIFY(desk.chart()->sourceCurveData(2, frequencies, real, imag));
+    QCOMPARE(*real, desk.model.networks().first().s(2, 2).real);
+    QCOMPARE(*frequencies, desk.model.networks().first().frequencies);
+    QCOMPARE(desk.window.fileKey()->value(), QStringLiteral("band-pass.s2p"));
+    QVERIFY(desk.view()->isVisible());
+}
+
+void PanelWindowTest::picksGridModes()
+{
+    Desk desk;
+    for (const auto mode : {SmithChartPlot::Admittance, SmithChartPlot::ImpedanceAndAdmittance,
+                            SmithChartPlot::Impedance}) {
+        desk.pick(desk.window.gridKey(), mode);
+        QCOMPARE(desk.view()->gridMode(), mode);
+        QCOMPARE(desk.window.gridKey()->choice(), int(mode));
+    }
+}
+
+void PanelWindowTest::densityKeepsEverythingElse()
+{
+    Desk desk;
+    desk.model.setActiveTrace(2);
+    desk.model.setTraceVisible(1, false);
+    desk.view()->setGridMode(SmithChartPlot::ImpedanceAndAdmittance);
+    desk.turnWheel(desk.onPlot(0.7, 0.4), 5);
+    const QCPRange x = desk.view()->plot()->xAxis->range();
+    const QCPRange y = desk.view()->plot()->yAxis->range();
+    const int items = desk.view()->plot()->itemCount();
+    const int plottables = desk.view()->plot()->plottableCount();
+
+    for (const auto density : {SmithChart::Basic, SmithChart::Detailed, SmithChart::Standard}) {
+        desk.pick(desk.window.densityKey(), density);
+        QCOMPARE(desk.view()->density(), density);
+        QCOMPARE(desk.chart()->gridMode(), SmithChartPlot::ImpedanceAndAdmittance);
+        QCOMPARE(desk.chart()->activeTrace(), 2);
+        QVERIFY(!desk.chart()->getCurve(1)->visible());
+        QVERIFY(desk.chart()->getCurve(2)->visible());
+        QVERIFY(std::abs(desk.view()->plot()->xAxis->range().lower - x.lower) < 1e-9);
+        QVERIFY(std::abs(desk.view()->plot()->yAxis->range().upper - y.upper) < 1e-9);
+    }
+    // Nothing of the charts in between has stayed on the plot.
+    QCOMPARE(desk.view()->plot()->itemCount(), items);
+    QCOMPARE(desk.view()->plot()->plottableCount(), plottables);
+    // And the new chart answers to gestures.
+    QTest::mouseDClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       desk.inWindow(desk.onPlot(0.01, 0.01)));
+    QVERIFY(!desk.chart()->isMagnified());
+}
+
+void PanelWindowTest::activatesAndHidesTraces()
+{
+    Desk desk;
+    const auto buttons = desk.window.traceBar()->findChildren<QAbstractButton *>();
+    QCOMPARE(buttons.size(), 2);
+    QVERIFY(buttons.at(0)->isChecked());
+    desk.click(buttons.at(1));
+    QCOMPARE(desk.chart()->activeTrace(), 2);
+    QVERIFY(buttons.at(1)->isChecked() && !buttons.at(0)->isChecked());
+
+    desk.click(desk.window.traceKey());
+    QVERIFY(!desk.chart()->getCurve(2)->visible());
+    QCOMPARE(desk.window.traceKey()->value(), QStringLiteral("Hidden"));
+    desk.click(desk.window.traceKey());
+    QVERIFY(desk.chart()->getCurve(2)->visible());
+}
+
+void PanelWindowTest::wheelKeepsThePointUnderThePointer()
+{
+    Desk desk;
+    const QPoint pointer = desk.onPlot(0.62, 0.35);
+    const QPointF before = desk.chartPoint(pointer);
+    desk.turnWheel(pointer, 6);
+    QVERIFY(desk.view()->zoom() > 3.0);
+    QVERIFY(pixels(desk, desk.chartPoint(pointer), before) < 0.01);
+    QCOMPARE(desk.window.zoomKey()->value(), QStringLiteral("3.81 \u00d7"));
+
+    desk.turnWheel(pointer, -20);
+    QVERIFY(!desk.chart()->isMagnified());
+    desk.turnWheel(pointer, 100);
+    QCOMPARE(desk.view()->zoom(), 20.0);
+}
+
+void PanelWindowTest::dragMovesTheMagnifiedView()
+{
+    Desk desk;
+    desk.view()->setZoom(4.0);
+    const QPoint from = desk.onPlot(0.5, 0.5);
+    const QPoint to = desk.onPlot(0.6, 0.7);
+    const QPointF grabbed = desk.chartPoint(from);
+    desk.drag(from, to);
+    // A drag is known only after some pixels; until then the view stands still.
+    QVERIFY(pixels(desk, desk.chartPoint(to), grabbed) < 2.0 * QApplication::startDragDistance());
+    QVERIFY(pixels(desk, desk.chartPoint(from), grabbed) > 50.0);
+    QCOMPARE(desk.view()->zoom(), 4.0);
+
+    // Beyond the edge the view stops.
+    for (int i = 0; i < 12; ++i)
+        desk.drag(desk.onPlot(0.1, 0.5), desk.onPlot(0.9, 0.5));
+    const QCPRange range = desk.view()->plot()->xAxis->range();
+    desk.drag(desk.onPlot(0.1, 0.5), desk.onPlot(0.9, 0.5));
+    QCOMPARE(desk.view()->plot()->xAxis->range(), range);
+}
+
+void PanelWindowTest::unmagnifiedViewStays()
+{
+    Desk desk;
+    const QCPRange range = desk.view()->plot()->xAxis->range();
+    desk.drag(desk.onPlot(0.2, 0.2), desk.onPlot(0.8, 0.8));
+    QCOMPARE(desk.view()->plot()->xAxis->range(), range);
+
+    // A press whose release is lost does not drag the view along later.
+    desk.view()->setZoom(4.0);
+    const SmithChart::ViewState state = desk.chart()->viewState();
+    QTest::mousePress(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      desk.inWindow(desk.onPlot(0.5, 0.5)));
+    desk.window.hide();
+    desk.window.show();
+    Desk::settle();
+    QTest::mouseMove(desk.window.windowHandle(), desk.inWindow(desk.onPlot(0.8, 0.5)));
+    QTest::mouseMove(desk.window.windowHandle(), desk.inWindow(desk.onPlot(0.9, 0.5)));
+    QCOMPARE(desk.chart()->viewState().centerX, state.centerX);
+    QTest::mouseRelease(desk.window.windowHandle(), Qt::LeftButton);
+}
+
+void PanelWindowTest::doubleClickResetsOnFreeSpace()
+{
+    Desk desk;
+    desk.turnWheel(desk.onPlot(0.5, 0.5), 2);
+    QVERIFY(desk.chart()->isMagnified());
+    QTest::mouseDClick(desk.window.windowHandle(), Qt::RightButton, Qt::NoModifier,
+                       desk.inWindow(desk.onPlot(0.02, 0.02)));
+    QVERIFY(desk.chart()->isMagnified());
+    QTest::mouseDClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       desk.inWindow(desk.onPlot(0.02, 0.02)));
+    QVERIFY(!desk.chart()->isMagnified());
+    QCOMPARE(desk.window.zoomKey()->value(), QStringLiteral("1.00 \u00d7"));
+}
+
+void PanelWindowTest::doubleClickActivatesTheTrace()
+{
+    Desk desk;
+    desk.view()->setZoom(2.0);
+    // The first point of S22 lies far from S11.
+    const Parameter &s22 = desk.model.networks().first().s(2, 2);
+    const QCustomPlot *plot = desk.view()->plot();
+    const auto pixel = [plot](const Parameter &p, int i) {
+        return QPointF(plot->xAxis->coordToPixel(p.real.at(i)),
+                       plot->yAxis->coordToPixel(p.imag.at(i)))
+            .toPoint();
+    };
+    int index = 0;
+    while (index < s22.real.size() && !plot->axisRect()->rect().contains(pixel(s22, index)))
+        ++index;
+    QVERIFY(index < s22.real.size());
+    QTest::mouseDClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       desk.inWindow(pixel(s22, index)));
+    QCOMPARE(desk.model.activeTrace()->id, 2);
+    QCOMPARE(desk.view()->zoom(), 2.0);
+}
+
+void PanelWindowTest::twoFingersZoom()
+{
+    Desk desk;
+    static auto *device = QTest::createTouchDevice();
+    const QPoint centre = desk.onPlot(0.6, 0.45);
+    const QPointF before = desk.chartPoint(centre);
+    const auto at = [&desk, centre](int distance) {
+        return desk.inWindow(centre + QPoint(distance, 0));
+    };
+    QWindow *target = desk.window.windowHandle();
+    QTest::touchEvent(target, device).press(0, at(-40), target).press(1, at(40), target);
+    for (int distance = 40; distance <= 120; distance += 10)
+        QTest::touchEvent(target, device)
+            .move(0, at(-distance), target)
+            .move(1, at(distance), target);
+    QTest::touchEvent(target, device).release(0, at(-120), target).release(1, at(120), target);
+    QVERIFY2(desk.view()->zoom() > 2.0 && desk.view()->zoom() < 4.0,
+             qPrintable(QString::number(desk.view()->zoom())));
+    QVERIFY(pixels(desk, desk.chartPoint(centre), before) < 4.0);
+}
+
+void PanelWindowTest::keysMoveTheView()
+{
+    Desk desk;
+    desk.view()->plot()->setFocus();
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Plus);
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Plus);
+    QCOMPARE(desk.view()->zoom(), 1.25 * 1.25);
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Right);
+    QVERIFY(desk.chart()->viewState().centerX > 0.01);
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Down);
+    QVERIFY(desk.chart()->viewState().centerY < -0.01);
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_0);
+    QVERIFY(!desk.chart()->isMagnified());
+}
+
+void PanelWindowTest::badFileKeepsWhatWasShown()
+{
+    const QTemporaryDir folder;
+    QFile bad(folder.filePath(QStringLiteral("bad.s1p")));
+    QVERIFY(bad.open(QIODevice::WriteOnly));
+    bad.write("# Hz S RI\n2 0 0\n1 0 0\n");
+    bad.close();
+
+    Desk desk;
+    const QSignalSpy changed(&desk.model, &PanelModel::networksChanged);
+    QVERIFY(!desk.controller.openFiles({bad.fileName()}));
+    QCOMPARE(changed.count(), 0);
+    MessageBar *bar = desk.window.messageBar();
+    QVERIFY(bar->isVisible());
+    QCOMPARE(bar->message(), QStringLiteral("bad.s1p, line 3: the frequency falls back."));
+    desk.click(bar->findChild<QToolButton *>(QStringLiteral("closeMessage")));
+    QVERIFY(!bar->isVisible());
+
+    // A good file beside the bad one is shown, and the bad one told.
+    QVERIFY(!desk.controller.openFiles(
+        {bad.fileName(), sampleFolder() + QStringLiteral("/antenna.s1p")}));
+    QCOMPARE(desk.model.networks().size(), 1);
+    QCOMPARE(desk.window.fileKey()->value(), QStringLiteral("antenna.s1p"));
+    QVERIFY(bar->isVisible());
+    QVERIFY(desk.controller.openFiles({startSample()}));
+    QVERIFY(!bar->isVisible());
+}
+
+void PanelWindowTest::startsEmptyWithoutAReadableFile()
+{
+    Desk desk;
+    desk.model.setNetworks({});
+    Desk::settle();
+    QVERIFY(!desk.view()->isVisible());
+    QVERIFY(desk.window.emptyPageButton()->isVisible());
+    QVERIFY(!desk.window.gridKey()->isEnabled());
+    desk.click(desk.window.emptyPageButton());
+    QVERIFY(desk.window.findChild<FileDialog *>());
+}
+
+void PanelWindowTest::fileDialogOpensPickedFiles()
+{
+    Desk desk;
+    desk.click(desk.window.fileKey());
+    QPointer<FileDialog> dialog = desk.window.findChild<FileDialog *>();
+    QVERIFY(dialog);
+    dialog->setFolder(QStringLiteral("/"));
+    desk.click(dialog->findChild<QPushButton *>(QStringLiteral("samples")));
+    const auto *list = dialog->findChild<QListWidget *>();
+    QCOMPARE(list->count(), 4);
+    auto *open = dialog->findChild<QPushButton *>(QStringLiteral("open"));
+    QVERIFY(!open->isEnabled());
+    const auto tap = [&](int row) {
+        const QPoint centre = list->visualItemRect(list->item(row)).center();
+        QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          list->viewport()->mapTo(dialog, centre));
+    };
+    tap(0);
+    tap(1);
+    tap(3);
+    tap(1);
+    desk.click(open);
+    QCOMPARE(desk.window.fileKey()->value(), QStringLiteral("2 files"));
+    QCOMPARE(desk.model.networks().first().name, QStringLiteral("amplifier.s2p"));
+    QCOMPARE(desk.chart()->traceIds(), (QVector<int>{1, 2, 3}));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!dialog);
+}
+
+void PanelWindowTest::followsTheTheme()
+{
+    Desk desk;
+    const auto pixel = [&desk] {
+        return desk.window.grab().toImage().pixelColor(desk.inWindow(desk.onPlot(0.01, 0.01)));
+    };
+    const auto *theme = Controls::ThemeManager::instance();
+    QCOMPARE(pixel(), theme->backgroundColor());
+    desk.click(desk.window.themeButton());
+    desk.view()->plot()->replot();
+    QVERIFY(theme->isLightTheme());
+    QCOMPARE(pixel(), theme->backgroundColor());
+    QCOMPARE(desk.chart()->getCurve(2)->pen().color(), theme->getTracePalette().at(1));
+}
+
+void PanelWindowTest::nothingIsClipped_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("smallest") << QSize(800, 480);
+    QTest::newRow("wide") << QSize(1280, 800);
+    QTest::newRow("tall") << QSize(800, 1280);
+    QTest::newRow("largest") << QSize(1920, 1080);
+}
+
+void PanelWindowTest::nothingIsClipped()
+{
+    QFETCH(QSize, size);
+    Desk desk(size);
+    desk.window.messageBar()->setMessage(
+        QStringLiteral("a sentence that takes several lines ").repeated(6));
+    Desk::settle();
+    QCOMPARE(desk.window.size(), size);
+    const auto widgets = desk.window.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (!widget->isVisible() || widget->isWindow())
+            continue;
+        const QString who = QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ')
+            + widget->objectName();
+        QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()), qPrintable(who));
+        const QSize least = widget->minimumSizeHint();
+        const QString sizes = QStringLiteral(": %1x%2 of %3x%4")
+                                  .arg(widget->width())
+                                  .arg(widget->height())
+                                  .arg(least.width())
+                                  .arg(least.height());
+        QVERIFY2(widget->size().expandedTo(least) == widget->size(), qPrintable(who + sizes));
+    }
+}
+
+QTEST_MAIN(PanelWindowTest)
+#include "tst_panelwindow.moc"
