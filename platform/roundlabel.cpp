@@ -55,15 +55,27 @@ void RoundLabel::changeEvent(QEvent *event)
 
 void RoundLabel::paintEvent(QPaintEvent *event)
 {
-    if (m_shown == text() || hasSelectedText()) {
+    if (hasSelectedText() || textFormat() == Qt::RichText || wordWrap()) {
         QLabel::paintEvent(event);
         return;
     }
     QPainter painter(this);
     drawFrame(&painter);
-    style()->drawItemText(&painter, textRect(),
-                          int(QStyle::visualAlignment(layoutDirection(), alignment())), palette(),
-                          isEnabled(), m_shown, foregroundRole());
+    // Line by line at the font's line spacing; a label that lets its text be selected would round
+    // the spacing up and need more height than its size hint says.
+    const QStringList lines = m_shown.split(QLatin1Char('\n'));
+    const int spacing = fontMetrics().lineSpacing();
+    const QRect block =
+        QStyle::alignedRect(layoutDirection(), alignment() & Qt::AlignVertical_Mask,
+                            {textRect().width(), spacing * int(lines.count())}, textRect());
+    const auto horizontal =
+        QStyle::visualAlignment(layoutDirection(), alignment()) & Qt::AlignHorizontal_Mask;
+    QRect line(block.left(), block.top(), block.width(), spacing);
+    for (const QString &text : lines) {
+        style()->drawItemText(&painter, line, int(horizontal | Qt::AlignVCenter), palette(),
+                              isEnabled(), text, foregroundRole());
+        line.translate(0, spacing);
+    }
 }
 
 void RoundLabel::resizeEvent(QResizeEvent *event)

@@ -19,6 +19,7 @@ DisplayPanel::DisplayPanel(LayoutManagerProifle *profile, QWidget *parent)
     , m_profile(profile)
 {
     ui->setupUi(this);
+    ui->layoutSelectEdit->setIconSize({24, 24});
     auto *context = Utils::GUIContext::instance();
     updateThemeIcons(context->getIsDarkTheme());
     bindProfile();

@@ -12,8 +12,10 @@
 #include <QApplication>
 #include <QGraphicsOpacityEffect>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPropertyAnimation>
 #include <QSequentialAnimationGroup>
+#include <QStyleOption>
 #include <QTimer>
 
 using Controls::ThemeManager;
@@ -134,6 +136,17 @@ void LockWidget::keyPressEvent(QKeyEvent *event)
     default:
         QWidget::keyPressEvent(event);
     }
+}
+
+void LockWidget::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event)
+    // Qt draws no styled background for a translucent widget; the style sheets' focus ring is part
+    // of it.
+    QStyleOption option;
+    option.initFrom(this);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
 }
 
 void LockWidget::onClick()

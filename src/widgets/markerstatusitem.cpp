@@ -168,9 +168,14 @@ bool MarkerStatusItem::eventFilter(QObject *watched, QEvent *event)
 void MarkerStatusItem::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    // The labels have taken over the font by now, and line breaks and heights depend on it.
-    if (event->type() == QEvent::FontChange)
-        updateResponsiveLayout();
+    if (event->type() != QEvent::FontChange)
+        return;
+    // Where a style sheet is in force, labels do not take over their parent's font by themselves.
+    const QList<QLabel *> labels = findChildren<QLabel *>();
+    for (QLabel *label : labels)
+        label->setFont(font());
+    // Line breaks and heights depend on the font.
+    updateResponsiveLayout();
 }
 
 void MarkerStatusItem::keyPressEvent(QKeyEvent *event)
@@ -212,6 +217,7 @@ void MarkerStatusItem::showOnOneLine()
     ui->keyLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->nameLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->selectedStatusLabel->setAlignment(Qt::AlignCenter);
+    ui->horizontalLayout->setAlignment(ui->selectedStatusLabel, Qt::Alignment());
 
     const struct {
         Controls::RoundLabel *label;
@@ -239,6 +245,7 @@ void MarkerStatusItem::showFolded()
     const Qt::Alignment alignment = Qt::AlignTop | (rightAligned ? Qt::AlignRight : Qt::AlignLeft);
     ui->nameLabel->setAlignment(alignment);
     ui->selectedStatusLabel->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
+    ui->horizontalLayout->setAlignment(ui->selectedStatusLabel, Qt::AlignTop | Qt::AlignHCenter);
 
     QStringList values;
     for (Controls::RoundLabel *label : {ui->valueLabel1, ui->valueLabel2, ui->valueLabel3})

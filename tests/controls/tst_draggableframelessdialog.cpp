@@ -45,7 +45,7 @@ struct Scene {
         dialog->show();
     }
 
-    QPoint position() const { return dialog->pos() - host.pos(); }
+    QPoint position() const { return dialog->pos() - host.geometry().topLeft(); }
     QWindow *window() const { return dialog->windowHandle(); }
 
     void press(const QPoint &pos)
@@ -176,7 +176,7 @@ private Q_SLOTS:
     void staysInAShrinkingParent()
     {
         Scene scene;
-        scene.dialog->move(scene.host.pos() + QPoint(400, 250));
+        scene.dialog->move(scene.host.geometry().topLeft() + QPoint(400, 250));
         scene.host.resize(500, 300);
         QTRY_COMPARE(scene.position(), QPoint(300, 150));
     }

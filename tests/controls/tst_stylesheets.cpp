@@ -1,0 +1,257 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <controls/combobox.h>
+#include <controls/draggableframelessdialog.h>
+#include <controls/thememanager.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <cmath>
+#include <memory>
+
+#include <vnatest.h>
+
+using Controls::ThemeManager;
+
+namespace
+{
+
+QString sheet(const QString &name)
+{
+    QFile file(QCoreApplication::applicationDirPath()
+               + QStringLiteral("/../configuration/theme-%1.css").arg(name));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QString text = QString::fromUtf8(file.readAll());
+    return text.remove(QRegularExpression(QStringLiteral("/\\*.*?\\*/"),
+                                          QRegularExpression::DotMatchesEverythingOption));
+}
+
+/// What a sheet styles, rule by rule: "selector: property property".
+QStringList rules(const QString &text)
+{
+    static const QRegularExpression rule(QStringLiteral("([^{}]+)\\{([^{}]*)\\}"));
+    static const QRegularExpression property(QStringLiteral("([a-z-]+)\\s*:"));
+    QStringList found;
+    for (auto it = rule.globalMatch(text); it.hasNext();) {
+        const auto match = it.next();
+        QString line = match.captured(1).simplified() + QLatin1Char(':');
+        QString body = match.captured(2);
+        body.remove(QRegularExpression(QStringLiteral("url\\([^)]*\\)")));
+        for (auto p = property.globalMatch(body); p.hasNext();)
+            line += QLatin1Char(' ') + p.next().captured(1);
+        found << line;
+    }
+    return found;
+}
+
+/// Contrast of two colours after the formula of the web's accessibility guidelines, 1 to 21.
+double contrast(const QColor &a, const QColor &b)
+{
+    const auto luminance = [](const QColor &color) {
+        const auto linear = [](double value) {
+            return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+            + 0.0722 * linear(color.blueF());
+    };
+    const double lighter = qMax(luminance(a), luminance(b)) + 0.05;
+    return lighter / (qMin(luminance(a), luminance(b)) + 0.05);
+}
+
+/// The background and the strongest colour on it.
+QPair<QColor, QColor> paperAndInk(QWidget *widget)
+{
+    const QImage image = widget->grab().toImage();
+    const QColor paper = image.pixelColor(image.width() / 2, 5);
+    QColor ink = paper;
+    for (int y = 8; y < image.height() - 8; ++y) {
+        for (int x = 8; x < image.width() - 8; ++x) {
+            if (contrast(paper, image.pixelColor(x, y)) > contrast(paper, ink))
+                ink = image.pixelColor(x, y);
+        }
+    }
+    return {paper, ink};
+}
+
+} // namespace
+
+class tst_StyleSheets : public VnaTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void themesStyleTheSameThings()
+    {
+        const QStringList dark = rules(sheet(QStringLiteral("dark")));
+        const QStringList light = rules(sheet(QStringLiteral("light")));
+        QVERIFY(dark.count() > 50);
+        for (int i = 0; i < qMin(dark.count(), light.count()); ++i)
+            QCOMPARE(light.at(i), dark.at(i));
+        QCOMPARE(light.count(), dark.count());
+    }
+
+    void pictureFilesExist_data() { themes(); }
+
+    void pictureFilesExist()
+    {
+        QFETCH(QString, name);
+        static const QRegularExpression url(QStringLiteral("url\\(\"([^\"]*)\"\\)"));
+        int count = 0;
+        for (auto it = url.globalMatch(sheet(name)); it.hasNext(); ++count) {
+            const QString path = it.next().captured(1);
+            QVERIFY2(QFile::exists(path), qPrintable(path));
+            QVERIFY2(!QIcon(path).pixmap(16, 16).isNull(), qPrintable(path));
+            QCOMPARE(path.endsWith(QLatin1String("_light.svg")), name == QLatin1String("light"));
+        }
+        QVERIFY(count > 5);
+    }
+
+    void everyWidgetTakesIt_data() { themes(); }
+
+    // A sheet that does not parse, or a property of the wrong type, warns: and a warning fails the
+    // test.
+    void everyWidgetTakesIt()
+    {
+        QFETCH(int, theme);
+        ThemeManager::instance()->setTheme(ThemeManager::Theme(theme));
+        QVERIFY(qApp->styleSheet().contains(QLatin1String("QPushButton")));
+
+        QMainWindow window;
+        auto *page = new QWidget;
+        auto *layout = new QVBoxLayout(page);
+        for (QWidget *widget : std::initializer_list<QWidget *>{
+                 new QPushButton(QStringLiteral("b")), new QToolButton, new QCheckBox,
+                 new QRadioButton, new QLineEdit, new QSpinBox, new QComboBox,
+                 new Controls::ComboBox, new QPlainTextEdit, new QSlider, new QProgressBar,
+                 new QTableWidget(2, 2), new QListWidget, new QTreeWidget, new QTabWidget,
+                 new QGroupBox(QStringLiteral("g")), new QScrollBar, new QLabel})
+            layout->addWidget(widget);
+        window.setCentralWidget(page);
+        window.show();
+        Controls::DraggableFramelessDialog dialog(&window);
+        dialog.setHeaderButton(QFlags<Controls::DraggableDialogTitleBar::Button>(7));
+        dialog.show();
+        QMenu menu;
+        menu.addAction(QStringLiteral("a"));
+        menu.popup({});
+        QVERIFY(!window.grab().isNull() && !dialog.grab().isNull() && !menu.grab().isNull());
+
+        const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
+        for (QPushButton *button : buttons)
+            QVERIFY2(hasDrawnIcon(button), qPrintable(button->objectName()));
+    }
+
+    void statesLookDifferent_data() { themes(); }
+
+    void statesLookDifferent()
+    {
+        QFETCH(int, theme);
+        ThemeManager::instance()->setTheme(ThemeManager::Theme(theme));
+        QWidget window;
+        QPushButton other(&window);
+        QPushButton button(QStringLiteral("Preset"), &window);
+        button.setCheckable(true);
+        button.resize(120, 40);
+        button.setAutoDefault(false);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        other.setFocus();
+
+        QVector<QImage> looks{button.grab().toImage()};
+        button.setFocus();
+        looks << button.grab().toImage();
+        other.setFocus();
+        button.setDown(true);
+        looks << button.grab().toImage();
+        button.setDown(false);
+        button.setChecked(true);
+        looks << button.grab().toImage();
+        button.setChecked(false);
+        button.setEnabled(false);
+        looks << button.grab().toImage();
+        for (int a = 0; a < looks.count(); ++a) {
+            for (int b = 0; b < a; ++b)
+                QVERIFY2(looks.at(a) != looks.at(b),
+                         qPrintable(QStringLiteral("%1 %2").arg(a).arg(b)));
+        }
+    }
+
+    void textsAreLegible_data() { themes(); }
+
+    void textsAreLegible()
+    {
+        QFETCH(int, theme);
+        ThemeManager::instance()->setTheme(ThemeManager::Theme(theme));
+        QMainWindow window;
+        auto *page = new QWidget;
+        window.setCentralWidget(page);
+        auto *layout = new QVBoxLayout(page);
+        auto *plain = new QPushButton(QStringLiteral("HHH"));
+        auto *checked = new QPushButton(QStringLiteral("HHH"));
+        auto *down = new QPushButton(QStringLiteral("HHH"));
+        auto *edit = new QLineEdit(QStringLiteral("HHH"));
+        auto *box = new Controls::ComboBox;
+        auto *disabled = new QPushButton(QStringLiteral("HHH"));
+        box->addItem(QStringLiteral("HHH"));
+        checked->setCheckable(true);
+        checked->setChecked(true);
+        down->setDown(true);
+        disabled->setEnabled(false);
+        for (QWidget *widget :
+             std::initializer_list<QWidget *>{plain, checked, down, edit, box, disabled}) {
+            QFont font = widget->font();
+            font.setPixelSize(24);
+            widget->setFont(font);
+            layout->addWidget(widget);
+        }
+        window.show();
+        for (QWidget *widget : std::initializer_list<QWidget *>{plain, checked, down, edit, box}) {
+            const auto [paper, ink] = paperAndInk(widget);
+            QVERIFY2(contrast(paper, ink) >= 4.5,
+                     qPrintable(paper.name() + QLatin1Char(' ') + ink.name()));
+        }
+        // Greyed out, and yet to be read.
+        const auto [paper, ink] = paperAndInk(disabled);
+        QVERIFY2(contrast(paper, ink) >= 2.0 && contrast(paper, ink) < 4.5,
+                 qPrintable(paper.name() + QLatin1Char(' ') + ink.name()));
+    }
+
+    void maximizedButtonChangesItsIcon()
+    {
+        ThemeManager::instance()->setTheme(ThemeManager::Dark);
+        Controls::DraggableFramelessDialog dialog;
+        dialog.setHeaderButton(Controls::DraggableDialogTitleBar::MaximizeButton);
+        dialog.show();
+        auto *button = dialog.findChild<QPushButton *>();
+        const QImage normal = button->grab().toImage();
+        button->click();
+        QVERIFY(button->property("max").toBool());
+        QVERIFY(button->grab().toImage() != normal);
+    }
+
+private:
+    static void themes()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("theme");
+        QTest::newRow("dark") << "dark" << int(ThemeManager::Dark);
+        QTest::newRow("light") << "light" << int(ThemeManager::Light);
+    }
+
+    static bool hasDrawnIcon(QPushButton *button)
+    {
+        const QImage image = button->grab().toImage();
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixel(x, y) != image.pixel(0, 0))
+                    return true;
+            }
+        }
+        return false;
+    }
+};
+
+QTEST_MAIN(tst_StyleSheets)
+#include "tst_stylesheets.moc"
