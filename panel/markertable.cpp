@@ -22,7 +22,7 @@ namespace
 constexpr int s_margin = 10;
 /// Widths of the cells in average characters: dot and number, frequency, resistance, reactance,
 /// element.
-constexpr std::array<int, 5> s_cells = {6, 15, 12, 13, 11};
+constexpr std::array<int, 5> s_cells = {6, 15, 12, 13, 14};
 
 } // namespace
 
