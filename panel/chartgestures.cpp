@@ -48,7 +48,13 @@ void ChartGestures::adoptChart()
 {
     SmithChartPlot *chart = m_view->chart();
     chart->setOnlyHandleActiveTrace(false);
-    connect(chart, &SmithChartPlot::pointDoubleClicked, m_model, &PanelModel::setActiveTrace);
+    connect(chart, &SmithChartPlot::pointDoubleClicked, this, [this](int traceId, int index) {
+        m_model->setActiveTrace(traceId);
+        m_model->addMarker(traceId, index);
+    });
+    connect(chart, &SmithChartPlot::markerSelectionRequested, m_model, &PanelModel::selectMarker);
+    connect(chart, &SmithChartPlot::markerPositionChanged, m_model, &PanelModel::moveMarker);
+    connect(chart, &SmithChartPlot::markerDeleteRequested, m_model, &PanelModel::removeMarker);
 }
 
 bool ChartGestures::eventFilter(QObject *watched, QEvent *event)
@@ -64,7 +70,7 @@ bool ChartGestures::eventFilter(QObject *watched, QEvent *event)
     case QEvent::WindowDeactivate:
     case QEvent::TouchCancel:
         // The release may never come.
-        onRelease();
+        m_drag = Drag::None;
         break;
     default:
         break;
@@ -81,7 +87,10 @@ void ChartGestures::onWheel(QWheelEvent *event)
 
 void ChartGestures::onPress(QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton || m_view->chart()->isDraggingMarker())
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_pressedMarker = m_view->chart()->isDraggingMarker();
+    if (m_pressedMarker)
         return;
     m_drag = Drag::Pressed;
     m_pressed = QtCompat::position(event);
@@ -103,13 +112,16 @@ void ChartGestures::onMove(QMouseEvent *event)
 
 void ChartGestures::onRelease()
 {
+    // A tap beside all markers.
+    if (m_drag == Drag::Pressed)
+        m_model->selectMarker(0, 0);
     m_drag = Drag::None;
 }
 
 void ChartGestures::onDoubleClick(QMouseEvent *event)
 {
     m_drag = Drag::None;
-    if (event->button() != Qt::LeftButton)
+    if (event->button() != Qt::LeftButton || m_pressedMarker)
         return;
     if (!m_view->chart()->handleDoubleClick(QtCompat::position(event).toPoint(),
                                             event->modifiers()))
@@ -145,10 +157,12 @@ bool ChartGestures::onKey(QKeyEvent *event)
         m_view->resetView();
         return true;
     case Qt::Key_Left:
-        pan(s_panStep, 0.0);
+        if (!stepMarker(-1))
+            pan(s_panStep, 0.0);
         return true;
     case Qt::Key_Right:
-        pan(-s_panStep, 0.0);
+        if (!stepMarker(1))
+            pan(-s_panStep, 0.0);
         return true;
     case Qt::Key_Up:
         pan(0.0, s_panStep);
@@ -156,9 +170,21 @@ bool ChartGestures::onKey(QKeyEvent *event)
     case Qt::Key_Down:
         pan(0.0, -s_panStep);
         return true;
+    case Qt::Key_Escape:
+        m_model->selectMarker(0, 0);
+        return true;
     default:
         return false;
     }
+}
+
+bool ChartGestures::stepMarker(int points)
+{
+    const Marker *marker = m_model->selectedMarker();
+    if (!marker)
+        return false;
+    m_model->moveMarker(marker->trace, marker->number, marker->index + points);
+    return true;
 }
 
 void ChartGestures::pan(double right, double down)

@@ -18,10 +18,11 @@ class SmithView;
 
 /*! Answers pointer, touch and keys on a Smith chart.
 
-    The chart reports and never acts; this is where the panel decides what a gesture does: the wheel
-   and two fingers zoom about their point, a drag moves a magnified view, a double tap makes the
-   trace under it active or, on free space, shows the whole chart. Keys on the focused chart: + and
-   -, 0, and the arrows. */
+    The chart reports and never acts; this is where the panel decides what a gesture does. The wheel
+    and two fingers zoom about their point; a drag moves the marker under it or else a magnified
+    view; a tap selects a marker, or none; a double tap marks the trace under it or, on free space,
+    shows the whole chart. Keys on the focused chart: + and -, 0, the arrows, of which left and
+   right move a selected marker, Escape and Delete. */
 class ChartGestures : public QObject
 {
     Q_OBJECT
@@ -40,6 +41,8 @@ private:
     void onDoubleClick(QMouseEvent *event);
     bool onGesture(QGestureEvent *event);
     bool onKey(QKeyEvent *event);
+    /// Moves the selected marker by so many points; false if there is none.
+    bool stepMarker(int points);
     /// Shifts the view by so many pixels.
     void pan(double right, double down);
 
@@ -54,6 +57,8 @@ private:
     SmithView *m_view;
     Drag m_drag = Drag::None;
     QPointF m_pressed;
+    /// Whether the last press caught a marker: a double tap then means that marker.
+    bool m_pressedMarker = false;
     /// Chart coordinates under the pointer or between two fingers when the move began: they stay
     /// there.
     QPointF m_grabbed;

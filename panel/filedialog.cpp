@@ -148,7 +148,7 @@ void FileDialog::updateButtons()
     const int picked = pickedFiles().size();
     m_open->setEnabled(picked > 0);
     if (picked > 0)
-        m_hint->setText(tr("%n file(s) picked", nullptr, picked));
+        m_hint->setText(tr("Picked: %n", nullptr, picked));
     else if (m_list->count() == 0)
         m_hint->setText(QFileInfo(m_folder).isReadable() ? tr("No .s1p or .s2p files here")
                                                          : tr("This folder cannot be read"));

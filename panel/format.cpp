@@ -24,6 +24,22 @@ QString frequencyText(double hertz)
     return digits + QLatin1Char(' ') + QLatin1String(unit->name);
 }
 
+QString engineeringText(double value, const QString &unit)
+{
+    static const QString prefixes = QStringLiteral("fpn\u00b5m kMGT");
+    // Rounded first: 999.96 has to become 1.000 k.
+    const QString rounded = QString::number(value, 'e', 3);
+    const int exponent = rounded.mid(rounded.indexOf(QLatin1Char('e')) + 1).toInt();
+    const int group = qBound(-5, exponent >= 0 ? exponent / 3 : (exponent - 2) / 3, 4);
+    const int decimals = qBound(0, 3 - (exponent - 3 * group), 3);
+    QString text = QString::number(rounded.toDouble() / std::pow(10.0, 3 * group), 'f', decimals);
+    text.replace(QLatin1Char('-'), QChar(0x2212));
+    text += QLatin1Char(' ');
+    if (group != 0)
+        text += prefixes.at(group + 5);
+    return text + unit;
+}
+
 QString ohmsText(double ohms)
 {
     return QString::number(ohms, 'g', 5) + QStringLiteral(" \u03a9");

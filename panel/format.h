@@ -13,6 +13,8 @@ namespace Panel
 /// "2.450 GHz": a frequency in Hz with at least three decimals, and as many more as it needs, up to
 /// nine.
 QString frequencyText(double hertz);
+/// "204.5 pH": four significant digits and an SI prefix, with a true minus sign.
+QString engineeringText(double value, const QString &unit);
 /// "376.73 Ω": a resistance in Ohm with up to five significant digits.
 QString ohmsText(double ohms);
 

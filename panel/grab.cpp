@@ -75,6 +75,13 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     Grabber grabber(window, folder);
     SmithView *view = window->smithView();
 
+    if (const Trace *trace = model->activeTrace()) {
+        const int last = model->network(*trace).frequencies.size() - 1;
+        model->addMarker(trace->id, last / 3);
+        model->addMarker(trace->id, last / 2);
+    }
+    grabber.grab("panel");
+
     // Keys are pressed as a user would, so that their values follow.
     const auto pick = [](SoftKey *key, int index) { Q_EMIT key->choicePicked(index); };
     pick(window->gridKey(), SmithChartPlot::Admittance);
@@ -82,7 +89,6 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     pick(window->gridKey(), SmithChartPlot::ImpedanceAndAdmittance);
     grabber.grab("smith-both");
     pick(window->gridKey(), SmithChartPlot::Impedance);
-    grabber.grab("smith-impedance");
     pick(window->densityKey(), SmithChart::Basic);
     grabber.grab("smith-basic");
     pick(window->densityKey(), SmithChart::Detailed);

@@ -29,11 +29,11 @@ QStringList decoded(int argc, char **argv)
 
 QtMessageHandler s_handleMessage = nullptr;
 
-/// Qt's offscreen platform complains of every window that it has nobody to tell the window's limits
-/// to.
+/// Without a display Qt complains of what only a display needs: window limits and a runtime folder.
 void dropOffscreenNoise(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (!message.contains(QLatin1String("propagateSizeHints")))
+    if (!message.contains(QLatin1String("propagateSizeHints"))
+        && !message.contains(QLatin1String("XDG_RUNTIME_DIR not set")))
         s_handleMessage(type, context, message);
 }
 

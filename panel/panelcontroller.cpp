@@ -4,6 +4,7 @@
 
 #include "chartgestures.h"
 #include "filedialog.h"
+#include "markertable.h"
 #include "messagebar.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
@@ -19,6 +20,7 @@
 #include <QFileInfo>
 #include <QShortcut>
 
+#include <cmath>
 #include <cstdio>
 
 namespace Panel
@@ -41,6 +43,7 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     new ChartGestures(model, window->smithView(), this);
     connectKeys();
     addShortcuts();
+    showMarker();
     showZoom();
 }
 
@@ -57,6 +60,7 @@ void PanelController::connectKeys()
 
     SoftKey *grid = m_window->gridKey();
     grid->setChoices({tr("Impedance"), tr("Admittance"), tr("Both")});
+    grid->setChoice(view->gridMode());
     connect(grid, &SoftKey::choicePicked, view, [grid, view](int index) {
         view->setGridMode(SmithChartPlot::GridMode(index));
         grid->setChoice(index);
@@ -73,6 +77,18 @@ void PanelController::connectKeys()
     connect(m_window->traceKey(), &SoftKey::clicked, this, [this] {
         if (const Trace *trace = m_model->activeTrace())
             m_model->setTraceVisible(trace->id, !trace->visible);
+    });
+
+    m_window->markerKey()->setChoices({tr("Add"), tr("Remove"), tr("Remove all")});
+    connect(m_window->markerKey(), &SoftKey::choicePicked, this, &PanelController::onMarkerPicked);
+    connect(view->markerTable(), &MarkerTable::selectionRequested, m_model,
+            &PanelModel::selectMarker);
+    connect(m_model, &PanelModel::selectedMarkerChanged, this, &PanelController::showMarker);
+    connect(m_model, &PanelModel::markersExhausted, this, [this](int traceId) {
+        m_window->messageBar()->setMessage(
+            tr("Trace %1 has all its %2 markers: remove one to set another.")
+                .arg(traceId)
+                .arg(PanelModel::markersPerTrace));
     });
 
     QStringList zooms;
@@ -104,6 +120,7 @@ bool PanelController::openFiles(const QStringList &paths)
         const TouchstoneResult result = readTouchstone(path);
         if (result.ok()) {
             networks.append(result.network);
+            m_folder = QFileInfo(path).absolutePath();
             continue;
         }
         refusals << result.sentence(QFileInfo(path).fileName());
@@ -113,7 +130,6 @@ bool PanelController::openFiles(const QStringList &paths)
     if (!networks.isEmpty()) {
         m_window->smithView()->resetView();
         m_model->setNetworks(networks);
-        m_folder = QFileInfo(paths.last()).absolutePath();
     }
     return refusals.isEmpty();
 }
@@ -128,6 +144,36 @@ void PanelController::showFileDialog()
     connect(dialog, &QDialog::accepted, this, [this, dialog] { openFiles(dialog->pickedFiles()); });
     connect(dialog, &QDialog::finished, this, [this, dialog] { m_folder = dialog->folder(); });
     dialog->open();
+}
+
+void PanelController::onMarkerPicked(int index)
+{
+    // In the order of the key's list.
+    enum { Add, Remove, RemoveAll };
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
+        return;
+    if (index == Add) {
+        // Each further marker halves the largest gap that the ones before have left.
+        static constexpr double places[PanelModel::markersPerTrace] = {0.5,   0.25,  0.75,
+                                                                       0.125, 0.625, 0.375};
+        const int count = m_model->activeMarkers().size();
+        const int last = m_model->network(*trace).frequencies.size() - 1;
+        m_model->addMarker(trace->id,
+                           std::floor(last * places[qMin(count, PanelModel::markersPerTrace - 1)]));
+    } else if (index == Remove) {
+        if (const Marker *marker = m_model->selectedMarker())
+            m_model->removeMarker(marker->trace, marker->number);
+    } else if (index == RemoveAll) {
+        for (const Marker &marker : m_model->activeMarkers())
+            m_model->removeMarker(marker.trace, marker.number);
+    }
+}
+
+void PanelController::showMarker()
+{
+    const Marker *marker = m_model->selectedMarker();
+    m_window->markerKey()->setValue(marker ? tr("M%1").arg(marker->number) : tr("None"));
 }
 
 void PanelController::showZoom()

@@ -32,6 +32,8 @@ public:
 private:
     void connectKeys();
     void addShortcuts();
+    void onMarkerPicked(int index);
+    void showMarker();
     void showZoom();
 
     PanelModel *m_model;

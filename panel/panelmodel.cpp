@@ -27,9 +27,13 @@ void PanelModel::setNetworks(const QVector<Network> &networks)
         for (int port = 1; port <= m_networks.at(i).ports; ++port)
             m_traces.append({m_traces.size() + 1, i, port, port, true});
     }
+    m_markers.clear();
+    m_selectedTrace = 0;
+    m_selectedNumber = 0;
     m_activeTrace = m_traces.isEmpty() ? 0 : m_traces.first().id;
     Q_EMIT networksChanged();
     Q_EMIT activeTraceChanged();
+    Q_EMIT selectedMarkerChanged();
 }
 
 void PanelModel::setActiveTrace(int id)
@@ -38,6 +42,8 @@ void PanelModel::setActiveTrace(int id)
         return;
     m_activeTrace = id;
     Q_EMIT activeTraceChanged();
+    if (m_selectedTrace != id)
+        selectMarker(0, 0);
 }
 
 void PanelModel::setTraceVisible(int id, bool visible)
@@ -49,6 +55,84 @@ void PanelModel::setTraceVisible(int id, bool visible)
             return;
         }
     }
+}
+
+QVector<Marker> PanelModel::activeMarkers() const
+{
+    QVector<Marker> result;
+    for (int number = 1; number <= markersPerTrace; ++number) {
+        if (const Marker *found = marker(m_activeTrace, number))
+            result.append(*found);
+    }
+    return result;
+}
+
+const Marker *PanelModel::marker(int traceId, int number) const
+{
+    const auto found = std::find_if(m_markers.begin(), m_markers.end(), [=](const Marker &marker) {
+        return marker.trace == traceId && marker.number == number;
+    });
+    return found == m_markers.end() ? nullptr : &*found;
+}
+
+bool PanelModel::holdsIndex(int traceId, double index) const
+{
+    const Trace *owner = trace(traceId);
+    return owner && index >= 0.0 && index <= network(*owner).frequencies.size() - 1;
+}
+
+int PanelModel::addMarker(int traceId, double index)
+{
+    int number = 1;
+    while (marker(traceId, number))
+        ++number;
+    if (!holdsIndex(traceId, index))
+        return 0;
+    if (number > markersPerTrace) {
+        Q_EMIT markersExhausted(traceId);
+        return 0;
+    }
+    m_markers.append({traceId, number, index});
+    Q_EMIT markerAdded(traceId, number);
+    selectMarker(traceId, number);
+    return number;
+}
+
+void PanelModel::moveMarker(int traceId, int number, double index)
+{
+    if (!holdsIndex(traceId, index))
+        return;
+    for (Marker &marker : m_markers) {
+        if (marker.trace == traceId && marker.number == number && marker.index != index) {
+            marker.index = index;
+            Q_EMIT markerMoved(traceId, number);
+            return;
+        }
+    }
+}
+
+void PanelModel::removeMarker(int traceId, int number)
+{
+    const Marker *found = marker(traceId, number);
+    if (!found)
+        return;
+    const bool selected = found == selectedMarker();
+    m_markers.remove(int(found - m_markers.constData()));
+    Q_EMIT markerRemoved(traceId, number);
+    if (selected)
+        selectMarker(0, 0);
+}
+
+void PanelModel::selectMarker(int traceId, int number)
+{
+    if (!marker(traceId, number))
+        traceId = number = 0;
+    if (traceId == m_selectedTrace && number == m_selectedNumber)
+        return;
+    m_selectedTrace = traceId;
+    m_selectedNumber = number;
+    setActiveTrace(traceId);
+    Q_EMIT selectedMarkerChanged();
 }
 
 } // namespace Panel

@@ -18,6 +18,13 @@ struct Trace {
     bool visible = true;
 };
 
+/// A marked point of a trace.
+struct Marker {
+    int trace = 0; ///< id of the trace
+    int number = 0; ///< from 1 within the trace
+    double index = 0.0; ///< into the trace's data; a fraction lies between two points
+};
+
 /*! What the panel shows, apart from how: the networks, the traces made from them and which one is
    active.
 
@@ -54,22 +61,53 @@ public:
     /// "S11".
     static QString parameterName(const Trace &trace);
 
-    /// Replaces all networks and makes new traces of them; the first becomes active.
+    /// All markers in the order they were added.
+    const QVector<Marker> &markers() const { return m_markers; }
+    /// The markers of the active trace by their numbers.
+    QVector<Marker> activeMarkers() const;
+    /// The marker of this trace and number, or null.
+    const Marker *marker(int traceId, int number) const;
+    /// The selected marker, or null.
+    const Marker *selectedMarker() const { return marker(m_selectedTrace, m_selectedNumber); }
+    /// How many markers a trace can have.
+    static constexpr int markersPerTrace = 6;
+
+    /// Replaces all networks and makes new traces of them; the first becomes active. Markers go.
     void setNetworks(const QVector<Network> &networks);
-    /// An unknown id is ignored.
+    /// A selected marker of another trace is deselected. An unknown id is ignored.
     void setActiveTrace(int id);
     void setTraceVisible(int id, bool visible);
+    /// Marks a point with the lowest free number and selects the marker. Returns the number, or 0
+    /// for an unknown trace, an index outside its data, or a trace that has all its markers.
+    int addMarker(int traceId, double index);
+    /// An index outside the trace's data is ignored, like an unknown marker.
+    void moveMarker(int traceId, int number, double index);
+    void removeMarker(int traceId, int number);
+    /// Also makes its trace active. A marker that does not exist, such as number 0, leaves none
+    /// selected.
+    void selectMarker(int traceId, int number);
 
 Q_SIGNALS:
     /// All networks and traces are new.
     void networksChanged();
     void activeTraceChanged();
     void traceVisibleChanged(int id, bool visible);
+    /// A marker was asked for on a trace that has all its markers.
+    void markersExhausted(int traceId);
+    void markerAdded(int traceId, int number);
+    void markerMoved(int traceId, int number);
+    void markerRemoved(int traceId, int number);
+    void selectedMarkerChanged();
 
 private:
+    bool holdsIndex(int traceId, double index) const;
+
     QVector<Network> m_networks;
     QVector<Trace> m_traces;
+    QVector<Marker> m_markers;
     int m_activeTrace = 0;
+    int m_selectedTrace = 0;
+    int m_selectedNumber = 0;
 };
 
 } // namespace Panel

@@ -168,6 +168,7 @@ QWidget *PanelWindow::makeSoftKeys()
     m_gridKey = add(tr("Grid"));
     m_densityKey = add(tr("Density"));
     m_traceKey = add(tr("Active trace"));
+    m_markerKey = add(tr("Marker"));
     m_zoomKey = add(tr("Zoom"));
     column->addStretch(1);
     return keys;
@@ -185,6 +186,7 @@ void PanelWindow::showModel()
     m_traceKey->setValue(!active               ? QStringLiteral("\u2013")
                              : active->visible ? tr("Shown")
                                                : tr("Hidden"));
+    m_markerKey->setEnabled(active);
     m_zoomKey->setEnabled(active);
     m_gridKey->setEnabled(active);
     m_densityKey->setEnabled(active);

@@ -37,6 +37,7 @@ public:
     SoftKey *gridKey() const { return m_gridKey; }
     SoftKey *densityKey() const { return m_densityKey; }
     SoftKey *traceKey() const { return m_traceKey; }
+    SoftKey *markerKey() const { return m_markerKey; }
     SoftKey *zoomKey() const { return m_zoomKey; }
     QAbstractButton *themeButton() const { return m_themeButton; }
     /// The button of the page that stands where there is nothing to show.
@@ -63,6 +64,7 @@ private:
     SoftKey *m_gridKey;
     SoftKey *m_densityKey;
     SoftKey *m_traceKey;
+    SoftKey *m_markerKey;
     SoftKey *m_zoomKey;
 };
 

@@ -5,6 +5,7 @@
 #include "elidedlabel.h"
 #include "format.h"
 #include "look.h"
+#include "markertable.h"
 #include "panelmodel.h"
 
 #include <controls/thememanager.h>
@@ -19,14 +20,16 @@ SmithView::SmithView(const PanelModel *model, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
     , m_title(new ElidedLabel(Qt::ElideRight, this))
+    , m_markerTable(new MarkerTable(model, this))
     , m_plot(new QCustomPlot(this))
 {
     m_title->setObjectName(QStringLiteral("dim"));
-    m_title->setContentsMargins(10, 6, 10, 0);
+    m_title->setContentsMargins(10, 6, 10, 2);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_title);
+    column->addWidget(m_markerTable);
     column->addWidget(m_plot, 1);
 
     // The chart needs the axes as scales only.
@@ -41,10 +44,14 @@ SmithView::SmithView(const PanelModel *model, QWidget *parent)
 
     connect(m_model, &PanelModel::networksChanged, this, &SmithView::loadTraces);
     connect(m_model, &PanelModel::activeTraceChanged, this, &SmithView::showActiveTrace);
-    connect(m_model, &PanelModel::traceVisibleChanged, this, [this](int id, bool visible) {
-        m_chart->setCurveVisible(id, visible);
-        updateTitle();
+    connect(m_model, &PanelModel::traceVisibleChanged, this, &SmithView::setTraceVisible);
+    connect(m_model, &PanelModel::markerAdded, this, &SmithView::addMarker);
+    connect(m_model, &PanelModel::markerMoved, this, [this](int traceId, int number) {
+        m_chart->setMarkerIndex(traceId, number, m_model->marker(traceId, number)->index);
     });
+    connect(m_model, &PanelModel::markerRemoved, this,
+            [this](int traceId, int number) { m_chart->removeMarkerVisual(traceId, number); });
+    connect(m_model, &PanelModel::selectedMarkerChanged, this, &SmithView::showSelectedMarker);
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
             &SmithView::recolor);
 }
@@ -92,8 +99,34 @@ void SmithView::loadTraces()
                               values.imag);
         m_chart->setCurveVisible(trace.id, trace.visible);
     }
+    for (const Marker &marker : m_model->markers())
+        addMarker(marker.trace, marker.number);
     showActiveTrace();
+    showSelectedMarker();
+}
+
+void SmithView::setTraceVisible(int id, bool visible)
+{
+    m_chart->setCurveVisible(id, visible);
+    for (const Marker &marker : m_model->markers()) {
+        if (marker.trace == id)
+            m_chart->setMarkerVisible(id, marker.number, visible);
+    }
     updateTitle();
+}
+
+void SmithView::addMarker(int traceId, int number)
+{
+    m_chart->addMarkerVisual(traceId, number, m_model->marker(traceId, number)->index,
+                             Plot::PointingDown);
+    m_chart->setMarkerVisible(traceId, number, m_model->trace(traceId)->visible);
+}
+
+void SmithView::showSelectedMarker()
+{
+    const Marker *selected = m_model->selectedMarker();
+    if (!selected || !m_chart->selectMarker(selected->trace, selected->number))
+        m_chart->clearMarkerSelection();
 }
 
 void SmithView::showActiveTrace()

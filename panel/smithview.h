@@ -12,14 +12,15 @@ class QLabel;
 namespace Panel
 {
 
+class MarkerTable;
 class PanelModel;
 
-/*! A diagram with the reflection traces of the model on a Smith chart, and a line above that names
-   them.
+/*! A diagram with the reflection traces of the model on a Smith chart, below a line that names them
+    and the read-outs of the active trace's markers.
 
     It follows the model and the theme by itself. Pointer and keys are not its business:
-   ChartGestures answers them. The chart is a new object after every change of density, which is
-   fixed when a chart is made. */
+    ChartGestures answers them. The chart is a new object after every change of density, which is
+    fixed when a chart is made. */
 class SmithView : public QWidget
 {
     Q_OBJECT
@@ -29,6 +30,7 @@ public:
 
     QCustomPlot *plot() const { return m_plot; }
     SmithChartPlot *chart() const { return m_chart; }
+    MarkerTable *markerTable() const { return m_markerTable; }
 
     SmithChartPlot::GridMode gridMode() const { return m_chart->gridMode(); }
     void setGridMode(SmithChartPlot::GridMode mode);
@@ -58,12 +60,16 @@ private:
     void makeChart();
     void loadTraces();
     void showActiveTrace();
+    void setTraceVisible(int id, bool visible);
+    void addMarker(int traceId, int number);
+    void showSelectedMarker();
     void recolor();
     void updateTitle();
     void showView();
 
     const PanelModel *m_model;
     QLabel *m_title;
+    MarkerTable *m_markerTable;
     QCustomPlot *m_plot;
     SmithChartPlot *m_chart = nullptr;
     SmithChart::Preset m_density = SmithChart::Standard;

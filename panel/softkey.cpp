@@ -49,8 +49,7 @@ void SoftKey::setChoices(const QStringList &choices)
     if (m_choices.isEmpty())
         connect(this, &QPushButton::clicked, this, &SoftKey::openChoices);
     m_choices = choices;
-    m_choice = 0;
-    setValue(m_choices.value(0));
+    setChoice(-1);
 }
 
 void SoftKey::setChoice(int index)

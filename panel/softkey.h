@@ -23,9 +23,9 @@ public:
     QString name() const { return m_name; }
     QString value() const { return m_value; }
     void setValue(const QString &value);
-    /// Makes the key open a list; the first choice is shown.
+    /// Makes the key open a list, of which none is chosen yet.
     void setChoices(const QStringList &choices);
-    /// Shows a choice without reporting it.
+    /// Shows a choice without reporting it; -1 shows none.
     void setChoice(int index);
     int choice() const { return m_choice; }
 
@@ -46,7 +46,7 @@ private:
     QString m_name;
     QString m_value;
     QStringList m_choices;
-    int m_choice = 0;
+    int m_choice = -1;
 };
 
 } // namespace Panel

@@ -10,7 +10,6 @@
 #include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QScrollBar>
 #include <QScroller>
 
 namespace Panel
@@ -33,7 +32,6 @@ public:
     }
 
     int traceId() const { return m_traceId; }
-    bool shown() const { return m_shown; }
     void setShown(bool shown)
     {
         m_shown = shown;
@@ -124,6 +122,7 @@ void TraceBar::rebuild()
             trace.id,
             tr("Tr%1 %2").arg(QString::number(trace.id), PanelModel::parameterName(trace)),
             widget());
+        button->setToolTip(m_model->network(trace).name);
         const int id = trace.id;
         connect(button, &QAbstractButton::clicked, this,
                 [this, id] { Q_EMIT activationRequested(id); });

@@ -5,6 +5,7 @@
 #include <controls/thememanager.h>
 #include <panel/filedialog.h>
 #include <panel/look.h>
+#include <panel/markertable.h>
 #include <panel/messagebar.h>
 #include <panel/panelcontroller.h>
 #include <panel/panelmodel.h>
@@ -90,6 +91,20 @@ struct Desk {
         settle();
     }
 
+    /// A point of a trace in pixels of the plot.
+    QPoint onTrace(int traceId, int index) const
+    {
+        const Parameter &data = model.data(*model.trace(traceId));
+        return {qRound(view()->plot()->xAxis->coordToPixel(data.real.at(index))),
+                qRound(view()->plot()->yAxis->coordToPixel(data.imag.at(index)))};
+    }
+
+    void doubleClick(const QPoint &onPlot)
+    {
+        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(onPlot));
+        settle();
+    }
+
     /// Picks a choice of a soft key from its list, as a finger would.
     void pick(SoftKey *key, int index)
     {
@@ -126,7 +141,9 @@ private Q_SLOTS:
     void dragMovesTheMagnifiedView();
     void unmagnifiedViewStays();
     void doubleClickResetsOnFreeSpace();
-    void doubleClickActivatesTheTrace();
+    void doubleClickMarksTheTrace();
+    void markersFollowTheirPointer();
+    void markerKeyAddsAndRemoves();
     void twoFingersZoom();
     void keysMoveTheView();
     void badFileKeepsWhatWasShown();
@@ -193,8 +210,7 @@ void PanelWindowTest::densityKeepsEverythingElse()
     QCOMPARE(desk.view()->plot()->itemCount(), items);
     QCOMPARE(desk.view()->plot()->plottableCount(), plottables);
     // And the new chart answers to gestures.
-    QTest::mouseDClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                       desk.inWindow(desk.onPlot(0.01, 0.01)));
+    desk.doubleClick(desk.onPlot(0.01, 0.01));
     QVERIFY(!desk.chart()->isMagnified());
 }
 
@@ -287,26 +303,83 @@ void PanelWindowTest::doubleClickResetsOnFreeSpace()
     QCOMPARE(desk.window.zoomKey()->value(), QStringLiteral("1.00 \u00d7"));
 }
 
-void PanelWindowTest::doubleClickActivatesTheTrace()
+void PanelWindowTest::doubleClickMarksTheTrace()
 {
     Desk desk;
-    desk.view()->setZoom(2.0);
-    // The first point of S22 lies far from S11.
-    const Parameter &s22 = desk.model.networks().first().s(2, 2);
-    const QCustomPlot *plot = desk.view()->plot();
-    const auto pixel = [plot](const Parameter &p, int i) {
-        return QPointF(plot->xAxis->coordToPixel(p.real.at(i)),
-                       plot->yAxis->coordToPixel(p.imag.at(i)))
-            .toPoint();
-    };
-    int index = 0;
-    while (index < s22.real.size() && !plot->axisRect()->rect().contains(pixel(s22, index)))
-        ++index;
-    QVERIFY(index < s22.real.size());
-    QTest::mouseDClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                       desk.inWindow(pixel(s22, index)));
+    // The end of S22 lies far from S11, which is active and would win nearby.
+    const int last = desk.model.networks().first().frequencies.size() - 1;
+    desk.doubleClick(desk.onTrace(2, last));
     QCOMPARE(desk.model.activeTrace()->id, 2);
-    QCOMPARE(desk.view()->zoom(), 2.0);
+    QCOMPARE(desk.model.markers().size(), 1);
+    QVERIFY(desk.model.marker(2, 1)->index > last - 20.0);
+    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+    QVERIFY(desk.view()->markerTable()->height() > 10);
+
+    // On a marker a double click means that marker, and adds none.
+    desk.doubleClick(desk.onTrace(2, int(desk.model.marker(2, 1)->index)));
+    QCOMPARE(desk.model.markers().size(), 1);
+
+    // A new chart and a hidden trace take the marker with them.
+    desk.view()->setDensity(SmithChart::Basic);
+    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+    desk.model.setTraceVisible(2, false);
+    QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
+    desk.view()->setDensity(SmithChart::Standard);
+    QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
+    desk.model.setTraceVisible(2, true);
+    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+}
+
+void PanelWindowTest::markersFollowTheirPointer()
+{
+    Desk desk;
+    desk.model.addMarker(1, 0.0);
+    desk.model.addMarker(2, 0.0);
+    Desk::settle();
+    const SmithChart::ViewState view = desk.chart()->viewState();
+    desk.drag(desk.onTrace(1, 0), desk.onTrace(1, 100));
+    QVERIFY2(std::abs(desk.model.marker(1, 1)->index - 100.0) < 10.0,
+             qPrintable(QString::number(desk.model.marker(1, 1)->index)));
+    QCOMPARE(desk.model.selectedMarker(), desk.model.marker(1, 1));
+    QCOMPARE(desk.model.activeTrace()->id, 1);
+    QCOMPARE(desk.chart()->viewState().zoom, view.zoom);
+
+    const double index = desk.model.marker(1, 1)->index;
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Right);
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Right);
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Left);
+    QCOMPARE(desk.model.marker(1, 1)->index, index + 1.0);
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Delete);
+    QVERIFY(!desk.model.marker(1, 1));
+    QVERIFY(desk.model.marker(2, 1));
+
+    // A tap on free space selects none, one on a marker that marker.
+    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      desk.inWindow(desk.onTrace(2, 0)));
+    QCOMPARE(desk.model.selectedMarker(), desk.model.marker(2, 1));
+    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      desk.inWindow(desk.onPlot(0.01, 0.01)));
+    QVERIFY(!desk.model.selectedMarker());
+}
+
+void PanelWindowTest::markerKeyAddsAndRemoves()
+{
+    Desk desk;
+    for (int number = 1; number <= PanelModel::markersPerTrace + 1; ++number)
+        desk.pick(desk.window.markerKey(), 0);
+    QCOMPARE(desk.model.activeMarkers().size(), PanelModel::markersPerTrace);
+    QVERIFY(desk.window.messageBar()->isVisible());
+    QCOMPARE(desk.window.markerKey()->value(), QStringLiteral("M6"));
+
+    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      desk.view()->markerTable()->mapTo(&desk.window, QPoint(20, 8)));
+    QCOMPARE(desk.window.markerKey()->value(), QStringLiteral("M1"));
+    desk.pick(desk.window.markerKey(), 1);
+    QVERIFY(!desk.model.marker(1, 1));
+    QCOMPARE(desk.window.markerKey()->value(), QStringLiteral("None"));
+    desk.pick(desk.window.markerKey(), 2);
+    QVERIFY(desk.model.markers().isEmpty());
+    QCOMPARE(desk.view()->markerTable()->height(), 0);
 }
 
 void PanelWindowTest::twoFingersZoom()
