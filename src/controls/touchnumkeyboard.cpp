@@ -2,283 +2,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/touchnumkeyboard.h>
 
-#include "ui_touchnumkeyboard.h"
+#include "touchnumkeyboard_p.h"
 
 #include <controls/keypadedit_p.h>
-#include <controls/overlaycontainer.h>
 #include <controls/thememanager.h>
 #include <platform/placement.h>
 #include <utils/qtcompat_p.h>
 
 #include <QApplication>
-#include <QEventLoop>
-#include <QFile>
 #include <QKeyEvent>
 #include <QMainWindow>
-#include <QMap>
-#include <QPointer>
-#include <QPushButton>
 #include <QScreen>
-#include <QStyle>
 
 #include <algorithm>
-#include <cmath>
 
 namespace Controls
 {
 
-using KeySpec = TouchNumKeyboard::KeySpec;
-
-namespace
-{
-
-constexpr int s_enterIcon = 2; // its id at the theme manager
-constexpr Qt::WindowFlags s_dialogFlags = Qt::Dialog | Qt::FramelessWindowHint;
-
-/// Presses and releases a key on an object that either event may destroy. Without one, or without a
-/// key, nothing is sent.
-void typeKey(QObject *target, const KeySpec &spec)
-{
-    if (spec.key == Qt::Key_unknown)
-        return;
-    const QPointer<QObject> alive(target);
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        if (!alive)
-            return;
-        QKeyEvent event(type, spec.key, Qt::NoModifier, spec.text, false, 1);
-        QCoreApplication::sendEvent(alive, &event);
-    }
-}
-
-void setKeyRole(QPushButton *button, const QString &role)
-{
-    if (button->property("keyRole") == role)
-        return;
-    button->setProperty("keyRole", role);
-    button->style()->unpolish(button);
-    button->style()->polish(button);
-}
-
-/// A font of the same kind, so many times its size.
-QFont scaledFont(QFont font, double factor)
-{
-    if (font.pixelSize() > 0)
-        font.setPixelSize(int(std::lround(font.pixelSize() * factor)));
-    else
-        font.setPointSizeF(font.pointSizeF() * factor);
-    return font;
-}
-
-} // namespace
-
-class TouchNumKeyboardPrivate
-{
-public:
-    explicit TouchNumKeyboardPrivate(TouchNumKeyboard *keyboard)
-        : q(keyboard)
-    {
-    }
-
-    bool isPaging() const { return shortcutKeys.size() > unitButtons.size(); }
-    int page() const { return (startIndex - 1) / 2; }
-
-    QList<QPushButton *> keys() const { return basicButtons.keys() + unitButtons; }
-
-    void addKey(QPushButton *button, int key, const QString &text, const char *role);
-    void assignUnit(QPushButton *button, const KeySpec &spec);
-    void assignPaging(QPushButton *button, const QString &caption);
-    void labelKeys();
-    void updateEnterKey();
-    void updateMetrics();
-
-    QMainWindow *hostWindow() const;
-    void leaveOverlay();
-    void pressOutside();
-    void letGo();
-    void giveFocusBack();
-    void handleIndicatorMouse(const QMouseEvent *event);
-
-    TouchNumKeyboard *const q;
-    Ui::TouchNumKeyboard ui;
-    QMap<QPushButton *, KeySpec> basicButtons;
-    QList<KeySpec> shortcutKeys;
-    QList<QPushButton *> unitButtons;
-    QMap<QPushButton *, KeySpec> shortcutMap;
-    int startIndex = 0;
-    QPointer<QObject> receiver;
-    QPointer<QWidget> popupAnchor;
-    QPointer<QWidget> titleWidget;
-    TouchNumKeyboard::PressOutsidePolicy pressOutsidePolicy = TouchNumKeyboard::PressOutsideCancels;
-
-    QPointer<OverlayContainer> overlay;
-    QPointer<QWidget> home; ///< the parent when the overlay is not
-    QMetaObject::Connection homeGone;
-    bool goesWithHost = false; ///< the home is part of the host window
-    QPointer<QWidget> formerFocus;
-    QPointer<QEventLoop> loop;
-    bool dragging = false;
-    QPoint dragOffset; ///< from the pointer to the keypad's position
-};
-
-/// Enters a key into the basic-button map.
-void TouchNumKeyboardPrivate::addKey(QPushButton *button, int key, const QString &text,
-                                     const char *role)
-{
-    basicButtons.insert(button, {key, QString(), text});
-    button->setProperty("keyRole", QString::fromLatin1(role));
-    QObject::connect(button, &QPushButton::clicked, q, &TouchNumKeyboard::clickedKey);
-}
-
-void TouchNumKeyboardPrivate::assignUnit(QPushButton *button, const KeySpec &spec)
-{
-    shortcutMap.insert(button, spec);
-    button->setText(spec.label);
-    setKeyRole(button, QStringLiteral("unit"));
-    button->show();
-}
-
-void TouchNumKeyboardPrivate::assignPaging(QPushButton *button, const QString &caption)
-{
-    button->setText(caption);
-    setKeyRole(button, QStringLiteral("page"));
-    button->show();
-}
-
-/// Captions, and names for who cannot see them.
-void TouchNumKeyboardPrivate::labelKeys()
-{
-    const auto label = [this](QPushButton *button, const QString &caption, const QString &name) {
-        basicButtons[button].label = caption;
-        button->setText(caption);
-        button->setAccessibleName(name);
-    };
-    const QList<QPushButton *> digits{ui.btn0, ui.btn1, ui.btn2, ui.btn3, ui.btn4,
-                                      ui.btn5, ui.btn6, ui.btn7, ui.btn8, ui.btn9};
-    for (QPushButton *digit : digits)
-        label(digit, basicButtons.value(digit).text, basicButtons.value(digit).text);
-    label(ui.btnP, QStringLiteral("."), q->tr("Point"));
-    label(ui.btnC, QStringLiteral("\u00b1"), q->tr("Plus minus"));
-    label(ui.btnEsc, q->tr("Esc", "key that cancels"), q->tr("Cancel"));
-    label(ui.btnBack, QStringLiteral("\u232b"), q->tr("Backspace"));
-    label(ui.btnDown, QStringLiteral("\u25bc"), q->tr("Step down"));
-    label(ui.btnUp, QStringLiteral("\u25b2"), q->tr("Step up"));
-    label(ui.btnLeft, QStringLiteral("\u25c0"), q->tr("Cursor left"));
-    label(ui.btnRight, QStringLiteral("\u25b6"), q->tr("Cursor right"));
-    label(ui.btnOk, q->tr("OK", "key that enters"), q->tr("Enter"));
-    updateEnterKey();
-}
-
-/// The enter key shows the theme's icon, or its caption where the application brings none.
-void TouchNumKeyboardPrivate::updateEnterKey()
-{
-    const ThemeManager *theme = ThemeManager::instance();
-    const bool exists = QFile::exists(theme->getIconPath(s_enterIcon));
-    ui.btnOk->setIcon(exists ? theme->icon(s_enterIcon) : QIcon());
-    ui.btnOk->setText(exists ? QString() : basicButtons.value(ui.btnOk).label);
-}
-
-/// Keys fit a finger and their captions, whatever the resolution and the font.
-void TouchNumKeyboardPrivate::updateMetrics()
-{
-    const auto pixels = [this](double millimetres, int dpi) {
-        return int(std::ceil(millimetres / 25.4 * dpi));
-    };
-    const auto wide = [&](double mm) { return pixels(mm, q->logicalDpiX()); };
-    const auto high = [&](double mm) { return pixels(mm, q->logicalDpiY()); };
-
-    const QFont keyFont = scaledFont(q->font(), 1.35);
-    for (QPushButton *key : keys()) {
-        key->setFont(keyFont);
-        const QFontMetrics metrics(key->font());
-        const bool isSide = unitButtons.contains(key) || key == ui.btnOk;
-        key->setMinimumSize(
-            std::max(wide(18.0),
-                     metrics.horizontalAdvance(TouchNumKeyboard::tr("PgDn")) + metrics.height()),
-            std::max(high(isSide ? 9.0 : 11.5), metrics.height() * 3 / 2));
-    }
-    QFont titleFont = q->font();
-    titleFont.setBold(true);
-    ui.nameLabel->setFont(titleFont);
-    ui.nameLabel->setMinimumHeight(std::max(high(9.0), QFontMetrics(titleFont).height() * 3 / 2));
-    ui.edit->setFont(scaledFont(q->font(), 1.7));
-    ui.edit->setMinimumHeight(std::max(high(11.0), ui.edit->fontMetrics().height() * 3 / 2));
-}
-
-/// The main window that the keypad covers: that of its parent, or else the first there is.
-QMainWindow *TouchNumKeyboardPrivate::hostWindow() const
-{
-    if (const QWidget *parent = q->parentWidget()) {
-        if (auto *window = qobject_cast<QMainWindow *>(parent->window()))
-            return window;
-    }
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (auto *mainWindow = qobject_cast<QMainWindow *>(window))
-            return mainWindow;
-    }
-    return nullptr;
-}
-
-/// Gives the keypad back to its own parent, so that it does not go with a host it was only shown
-/// on.
-void TouchNumKeyboardPrivate::leaveOverlay()
-{
-    if (!overlay || q->parentWidget() != overlay)
-        return;
-    QObject::disconnect(homeGone);
-    q->setParent(home, s_dialogFlags);
-}
-
-/// Return or Escape for the receiver, by the policy.
-void TouchNumKeyboardPrivate::pressOutside()
-{
-    if (!receiver || pressOutsidePolicy == TouchNumKeyboard::PressOutsideIgnored)
-        return;
-    if (pressOutsidePolicy == TouchNumKeyboard::PressOutsideCommits)
-        typeKey(receiver, {Qt::Key_Return, QString(), QStringLiteral("\n")});
-    else
-        typeKey(receiver, {Qt::Key_Escape, QString(), QString()});
-}
-
-/// Ends what a hidden keypad would never see the end of: a held key and a drag.
-void TouchNumKeyboardPrivate::letGo()
-{
-    dragging = false;
-    for (QPushButton *key : keys())
-        key->setDown(false);
-}
-
-/// The focus returns to who had it before the keypad appeared, not to whoever comes next in the
-/// window.
-void TouchNumKeyboardPrivate::giveFocusBack()
-{
-    QWidget *now = QApplication::focusWidget();
-    if (!now || (now != q && !q->isAncestorOf(now)))
-        return;
-    if (formerFocus)
-        formerFocus->setFocus(Qt::OtherFocusReason);
-    else
-        now->clearFocus();
-}
-
-void TouchNumKeyboardPrivate::handleIndicatorMouse(const QMouseEvent *event)
-{
-    const int position = ui.edit->cursorPositionAt(QtCompat::position(event).toPoint());
-    const bool left = event->button() == Qt::LeftButton;
-    if (event->type() == QEvent::MouseMove) {
-        if (event->buttons() & Qt::LeftButton)
-            Q_EMIT q->indicatorMove(position);
-    } else if (left && event->type() == QEvent::MouseButtonPress) {
-        Q_EMIT q->indicatorPress(position);
-    } else if (left && event->type() == QEvent::MouseButtonDblClick) {
-        Q_EMIT q->indicatorDoubleClick(position);
-    } else if (left && event->type() == QEvent::MouseButtonRelease) {
-        Q_EMIT q->indicatorRelease(position);
-    }
-}
-
 TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
-    : QDialog(parent, s_dialogFlags)
+    : QDialog(parent, keypadDialogFlags)
     , d_ptr(std::make_unique<TouchNumKeyboardPrivate>(this))
 {
     Q_D(TouchNumKeyboard);
@@ -329,6 +71,10 @@ TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
 
 TouchNumKeyboard::~TouchNumKeyboard()
 {
+    // While there still is somebody to give the focus back. The focus of the proxy counts as that of
+    // this widget, and would be taken from it.
+    setFocusProxy(nullptr);
+    hide();
     // The overlay may be destroying this keypad, its child, just now: a later deletion then comes
     // to nothing.
     if (d_ptr->overlay)
@@ -464,8 +210,8 @@ void TouchNumKeyboard::open()
     setAttribute(Qt::WA_ShowWithoutActivating, false);
     QMainWindow *host = d->hostWindow();
     if (!host) {
-        if (windowFlags() != s_dialogFlags)
-            setWindowFlags(s_dialogFlags);
+        if (windowFlags() != keypadDialogFlags)
+            setWindowFlags(keypadDialogFlags);
         QDialog::open();
         return;
     }

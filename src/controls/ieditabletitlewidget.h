@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QKeyEvent;
+class QLineEdit;
+QT_END_NAMESPACE
+
+namespace Controls
+{
+
+class BaseUnitAdapter;
+class TouchNumKeyboard;
+
+/*! Wires one editor to one adapter and one keypad: what is typed reaches the adapter, the keys
+    that are its business too, and its answers come back to the editor. The base of EditableWidget
+    and KeypadEditor.
+
+    Not an editor itself: a derived class brings a line edit and shows what setEditorText() says.
+    \code
+    MyField::MyField(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter, QWidget *parent)
+        : IEditableTitleWidget(keyboard, adapter, parent)
+    {
+        attachEditor(new QLineEdit(this));
+    }
+    \endcode
+
+    An edit begins when the editor gets the focus and ends with Return or a unit key (commit),
+    with Escape (cancel), or when the focus goes anywhere but into the keypad (commit). It commits
+    once, whatever way it ends. While the editor has the focus and is not part of the keypad, the
+    indicator of the keypad mirrors it, and gestures there move its cursor and selection. */
+class VNAWIDGETS_EXPORT IEditableTitleWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Neither the keypad nor the adapter is owned; each may be null, and may go at any time.
+    IEditableTitleWidget(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter,
+                         QWidget *parent = nullptr);
+    ~IEditableTitleWidget() override;
+
+    /// Units for the keypad's unit keys when the adapter has none.
+    void setDummyDisplayUnits(const QStringList &units);
+    /// Sends the keypad's focus to \a widget, and remembers where it went before.
+    void overrideKeyboardFocusProxy(QWidget *widget);
+    /// Takes overrideKeyboardFocusProxy() back.
+    void restoreKeyboardFocusProxy();
+
+Q_SIGNALS:
+    /// The edit has ended because the focus went elsewhere.
+    void focusedOut();
+
+public Q_SLOTS:
+    /// Begins an edit: the keypad gets the units and the adapter, the editor its text.
+    virtual void onFocus();
+    /// Shows a text with a selection and the cursor in the editor.
+    virtual void setEditorText(QString text, int selectionStart, int selectionLength,
+                               int cursorPosition) = 0;
+
+protected:
+    /// Makes a line edit the editor. Derived classes call it once, in their constructor.
+    void attachEditor(QLineEdit *editor);
+    QLineEdit *editor() const;
+    TouchNumKeyboard *keyboard() const;
+    /// True once the edit has been committed or cancelled, until the next one begins.
+    bool isCommitting() const { return m_committing; }
+    /// Gives the keypad the unit keys and the receiver of this editor.
+    void registerAtKeyboard();
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+
+private:
+    void publishSelection();
+    void mirror();
+    bool isMirrored() const;
+    void showValue();
+    bool forwardKey(QKeyEvent *event);
+    void finishEdit(QKeyEvent *event);
+    void handleFocusChange(QWidget *old, QWidget *now);
+
+    QPointer<QWidget> m_keyboard;
+    QPointer<BaseUnitAdapter> m_adapter;
+    bool m_committing = false;
+    QPointer<QWidget> m_savedFocusProxy;
+    bool m_focusProxyOverridden = false;
+    QStringList m_dummyDisplayUnits;
+
+    QPointer<QLineEdit> m_editor;
+    int m_gestureStart = 0;
+};
+
+} // namespace Controls

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <controls/keypadeditor.h>
+
+#include <controls/keypadedit_p.h>
+#include <controls/touchnumkeyboard.h>
+
+namespace Controls
+{
+
+KeypadEditor::KeypadEditor(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter)
+    : IEditableTitleWidget(keyboard, adapter, keyboard)
+{
+    hide();
+    auto *edit =
+        keyboard->findChild<QLineEdit *>(QStringLiteral("edit"), Qt::FindDirectChildrenOnly);
+    edit->setReadOnly(false);
+    edit->setFocusPolicy(Qt::StrongFocus);
+    edit->setAccessibleName(tr("Value"));
+    edit->show();
+    attachEditor(edit);
+    connect(keyboard, &QDialog::finished, this, [this] { m_entryOpen = false; });
+}
+
+KeypadEditor::~KeypadEditor() = default;
+
+void KeypadEditor::setEditorText(QString text, int selectionStart, int selectionLength,
+                                 int cursorPosition)
+{
+    if (editor())
+        showText(editor(), text, selectionStart, selectionLength, cursorPosition);
+}
+
+void KeypadEditor::onFocus()
+{
+    // Back from another field of the keypad, what was typed here still stands.
+    if (m_entryOpen && !isCommitting())
+        registerAtKeyboard();
+    else
+        IEditableTitleWidget::onFocus();
+    m_entryOpen = true;
+    overrideKeyboardFocusProxy(editor());
+}
+
+} // namespace Controls

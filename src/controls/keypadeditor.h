@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <controls/ieditabletitlewidget.h>
+
+namespace Controls
+{
+
+/*! Makes the text area of a keypad the editor of an adapter: for values that are entered from a
+    soft key and have no field of their own on the page.
+
+    Not for more than one adapter a keypad: the keypad is made anew for each value, or kept with
+    it.
+    \code
+    auto *keypad = new Controls::TouchNumKeyboard(mainWindow);
+    keypad->setAttribute(Qt::WA_DeleteOnClose);
+    auto *adapter = new FrequencyAdapter(keypad);
+    new Controls::KeypadEditor(keypad, adapter);
+    adapter->setRealValue(stop);
+    connect(adapter, &FrequencyAdapter::editingFinished, sweep, &Sweep::setStop);
+    keypad->open(); // shows the value, its number selected
+    \endcode
+
+    Other fields in the keypad may take the focus meanwhile: what was typed here stands when it
+    comes back. Closing the keypad without a commit leaves the value as it was. */
+class VNAWIDGETS_EXPORT KeypadEditor : public IEditableTitleWidget
+{
+    Q_OBJECT
+
+public:
+    /// Becomes a hidden child of the keypad, which owns it. The keypad must not be null.
+    KeypadEditor(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter);
+    ~KeypadEditor() override;
+
+public Q_SLOTS:
+    void setEditorText(QString text, int selectionStart, int selectionLength,
+                       int cursorPosition) override;
+    void onFocus() override;
+
+private:
+    bool m_entryOpen = false;
+};
+
+} // namespace Controls

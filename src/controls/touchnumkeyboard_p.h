@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui_touchnumkeyboard.h"
+
+#include <controls/overlaycontainer.h>
+#include <controls/touchnumkeyboard.h>
+
+#include <QEventLoop>
+#include <QList>
+#include <QMap>
+#include <QPointer>
+#include <QPushButton>
+
+QT_BEGIN_NAMESPACE
+class QMainWindow;
+class QMouseEvent;
+QT_END_NAMESPACE
+
+namespace Controls
+{
+
+using KeySpec = TouchNumKeyboard::KeySpec;
+
+/// Window flags of a keypad that is not embedded.
+constexpr Qt::WindowFlags keypadDialogFlags = Qt::Dialog | Qt::FramelessWindowHint;
+
+/// Presses and releases a key on an object that either event may destroy. Without one, or without
+/// a key, nothing is sent.
+void typeKey(QObject *target, const KeySpec &spec);
+
+class TouchNumKeyboardPrivate
+{
+public:
+    explicit TouchNumKeyboardPrivate(TouchNumKeyboard *keyboard)
+        : q(keyboard)
+    {
+    }
+
+    bool isPaging() const { return shortcutKeys.size() > unitButtons.size(); }
+    int page() const { return (startIndex - 1) / 2; }
+
+    QList<QPushButton *> keys() const { return basicButtons.keys() + unitButtons; }
+
+    void addKey(QPushButton *button, int key, const QString &text, const char *role);
+    void assignUnit(QPushButton *button, const KeySpec &spec);
+    void assignPaging(QPushButton *button, const QString &caption);
+    void labelKeys();
+    void updateEnterKey();
+    void updateMetrics();
+
+    QMainWindow *hostWindow() const;
+    void leaveOverlay();
+    void pressOutside();
+    void letGo();
+    void giveFocusBack();
+    void handleIndicatorMouse(const QMouseEvent *event);
+
+    TouchNumKeyboard *const q;
+    Ui::TouchNumKeyboard ui;
+    QMap<QPushButton *, KeySpec> basicButtons;
+    QList<KeySpec> shortcutKeys;
+    QList<QPushButton *> unitButtons;
+    QMap<QPushButton *, KeySpec> shortcutMap;
+    int startIndex = 0;
+    QPointer<QObject> receiver;
+    QPointer<QWidget> popupAnchor;
+    QPointer<QWidget> titleWidget;
+    TouchNumKeyboard::PressOutsidePolicy pressOutsidePolicy = TouchNumKeyboard::PressOutsideCancels;
+
+    QPointer<OverlayContainer> overlay;
+    QPointer<QWidget> home; ///< the parent when the overlay is not
+    QMetaObject::Connection homeGone;
+    bool goesWithHost = false; ///< the home is part of the host window
+    QPointer<QWidget> formerFocus;
+    QPointer<QEventLoop> loop;
+    bool dragging = false;
+    QPoint dragOffset; ///< from the pointer to the keypad's position
+};
+
+} // namespace Controls
