@@ -326,6 +326,23 @@ private Q_SLOTS:
         QCOMPARE(im->constData(), values.constData());
     }
 
+    void dataMayComeFromTheTraceItself()
+    {
+        const auto plot = makePlot();
+        SmithChartPlot chart(plot.get(), SmithChart::Basic);
+        chart.addCurve(1, QPen());
+        chart.setCurveData(1, {}, {0.1, 0.2}, {0.3, 0.4});
+        const QVector<double> *frequencies = nullptr;
+        const QVector<double> *real = nullptr;
+        const QVector<double> *imag = nullptr;
+        QVERIFY(chart.sourceCurveData(1, frequencies, real, imag));
+        QVERIFY(chart.setCurveData(1, *imag, *imag, *real));
+        QVERIFY(chart.sourceCurveData(1, frequencies, real, imag));
+        QCOMPARE(*frequencies, QVector<double>({0.3, 0.4}));
+        QCOMPARE(*real, QVector<double>({0.3, 0.4}));
+        QCOMPARE(*imag, QVector<double>({0.1, 0.2}));
+    }
+
     void hasSourceData_data()
     {
         QTest::addColumn<double>("index");
