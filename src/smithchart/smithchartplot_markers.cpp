@@ -21,7 +21,9 @@ constexpr int selectedLighterPercent = 130;
 
 int SmithChartPlot::makeMarkerId(int traceId, int localId)
 {
-    return traceId * markersPerTrace + localId;
+    // Unsigned, because any trace id is allowed: one beyond the ids' range wraps around.
+    return static_cast<int>(static_cast<unsigned>(traceId) * markersPerTrace
+                            + static_cast<unsigned>(localId));
 }
 
 void SmithChartPlot::parseMarkerId(int id, int &traceId, int &localId)

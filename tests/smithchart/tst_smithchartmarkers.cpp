@@ -8,6 +8,7 @@
 #include <vnatest.h>
 
 #include <cmath>
+#include <limits>
 #include <memory>
 
 class tst_SmithChartMarkers : public VnaTest::TestCase
@@ -83,6 +84,15 @@ private Q_SLOTS:
         QCOMPARE(qMakePair(trace, local), qMakePair(3, 7));
         SmithChartPlot::parseMarkerId(-1, trace, local);
         QCOMPARE(qMakePair(trace, local), qMakePair(0, -1));
+
+        // Trace ids are the host's choice; a marker whose id does not fit can still be used.
+        const int huge = std::numeric_limits<int>::max();
+        QVERIFY(m_chart->addCurve(huge, QPen()));
+        m_chart->setCurveData(huge, {}, {0.0}, {0.0});
+        QVERIFY(m_chart->addMarkerVisual(huge, huge, 0.0, Plot::PointingDown));
+        m_chart->beginMarkerDragAt(dataPixel(0.0, 0.0).toPoint());
+        QVERIFY(m_chart->selectMarker(huge, huge));
+        QVERIFY(m_chart->removeMarkerVisual(huge, huge));
     }
 
     void creation()
