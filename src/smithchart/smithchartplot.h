@@ -329,6 +329,7 @@ private:
     int m_activeTraceId = -1;
     std::vector<OwnedMarker> m_ownedMarkers;
     int m_draggingMarkerId = -1;
+    bool m_finishingDrag = false;
     int m_selectedMarkerId = -1;
     double m_markerHitTolerancePx = 18.0;
     bool m_onlyHandleActiveTrace = true;

@@ -457,6 +457,20 @@ private Q_SLOTS:
         QCOMPARE(m_log.last(), QStringLiteral("finish 1.1 5"));
     }
 
+    void hidingThePlotAtTheEndOfADragEndsItOnce()
+    {
+        m_chart->addMarkerVisual(1, 1, 5.0, Plot::PointingDown);
+        connect(m_chart.get(), &SmithChartPlot::markerDragFinished, m_plot.get(), &QWidget::hide);
+        QVERIFY(m_chart->beginMarkerDragAt(pixelOf(1, 1).toPoint()));
+        m_chart->endMarkerDragAt({});
+        QCOMPARE(m_log, lines("request 1.1|start 1.1|finish 1.1 5"));
+        m_plot->show(); // and the next drag ends as any other
+        m_log.clear();
+        QVERIFY(m_chart->beginMarkerDragAt(pixelOf(1, 1).toPoint()));
+        m_chart->endMarkerDragAt({});
+        QCOMPARE(m_log, lines("request 1.1|start 1.1|finish 1.1 5"));
+    }
+
 private:
     static QStringList lines(const char *text)
     {
