@@ -315,6 +315,7 @@ private:
     void updateMarkerVisualSelection(int traceId, int localId, bool selected);
     void recolorMarkers(QCPCurve *curve);
     void updateMarkersForCurve(QCPCurve *curve);
+    void replaceMarkers(const OwnedCurve &trace);
 
     std::function<void()> m_queuedReplotHandler;
     QPointer<QObject> m_plot; ///< a QObject, because a plot half destroyed must not pass for a plot

@@ -26,7 +26,6 @@ bool SmithChartPlot::eventFilter(QObject *watched, QEvent *event)
 
     switch (event->type()) {
     case QEvent::Resize:
-        requestQueuedReplot();
         if (!m_resizeRefitPending) {
             m_resizeRefitPending = true;
             // Several resizes in one pass of the event loop cost one fit.
@@ -37,6 +36,7 @@ bool SmithChartPlot::eventFilter(QObject *watched, QEvent *event)
                 }
             });
         }
+        requestQueuedReplot();
         break;
     case QEvent::Hide:
         finishDrag(); // a hidden plot gets no release

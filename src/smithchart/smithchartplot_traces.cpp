@@ -82,7 +82,10 @@ void SmithChartPlot::clearAllCurves()
     QCustomPlot *const plot = this->plot();
     if (!plot)
         return;
+    const QPointer<SmithChartPlot> self(this);
     clearAllMarkers();
+    if (!self)
+        return;
     for (const OwnedCurve &record : qAsConst(m_curves)) {
         if (record.curve)
             plot->removePlottable(record.curve);
@@ -124,10 +127,12 @@ bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencie
     ++record->sourceRevision;
     record->cacheValid = false;
     refreshDisplayCurve(*record, true);
-    updateMarkersForCurve(record->curve);
     if (timer.isValid())
         reportPerformance(*record, timer.nsecsElapsed());
-    requestQueuedReplot();
+    const QPointer<SmithChartPlot> self(this);
+    updateMarkersForCurve(record->curve);
+    if (self)
+        requestQueuedReplot();
     return true;
 }
 
