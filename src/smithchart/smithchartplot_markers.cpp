@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <limits>
 
 namespace
 {
@@ -274,8 +275,9 @@ void SmithChartPlot::endMarkerDragAt(const QPoint &pos)
 void SmithChartPlot::setMarkerHitTolerancePx(double px)
 {
     m_markerHitTolerancePx = px > 0.0 ? px : 0.0; // NaN gives 0
+    constexpr double highest = std::numeric_limits<int>::max();
     if (QCustomPlot *const plot = this->plot())
-        plot->setSelectionTolerance(qRound(m_markerHitTolerancePx));
+        plot->setSelectionTolerance(qRound(std::min(m_markerHitTolerancePx, highest)));
 }
 
 const SmithChartPlot::OwnedMarker *SmithChartPlot::findMarker(int traceId, int localId) const

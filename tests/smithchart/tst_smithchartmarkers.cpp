@@ -312,6 +312,9 @@ private Q_SLOTS:
         QCOMPARE(m_chart->markerHitTolerancePx(), 0.0);
         m_chart->setMarkerHitTolerancePx(qQNaN());
         QCOMPARE(m_chart->markerHitTolerancePx(), 0.0);
+        m_chart->setMarkerHitTolerancePx(1e300);
+        QCOMPARE(m_chart->markerHitTolerancePx(), 1e300);
+        QCOMPARE(m_plot->selectionTolerance(), std::numeric_limits<int>::max());
     }
 
     void deleteKey()
