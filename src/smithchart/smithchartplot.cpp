@@ -62,11 +62,14 @@ void SmithChartPlot::setAxes(QCPAxis *xAxis, QCPAxis *yAxis)
     }
     clearSmithChartGrid();
     connectAxes();
+    for (const OwnedCurve &record : qAsConst(m_curves))
+        replaceMarkers(record);
+    const QPointer<SmithChartPlot> self(this);
     addSmithChartGrid();
+    if (!self)
+        return;
     setGridVisible(anyCurveVisible());
     applyViewState();
-    for (const OwnedCurve &record : qAsConst(m_curves))
-        updateMarkersForCurve(record.curve);
     requestQueuedReplot();
 }
 
@@ -126,6 +129,7 @@ void SmithChartPlot::connectAxes()
     }
 }
 
+/// Calls the host's handler, which may change or delete the chart like any slot.
 void SmithChartPlot::requestQueuedReplot()
 {
     // A copy, because the handler may replace itself or delete the chart.

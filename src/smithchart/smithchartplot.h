@@ -315,6 +315,7 @@ private:
     void updateMarkerVisualSelection(int traceId, int localId, bool selected);
     void recolorMarkers(QCPCurve *curve);
     void updateMarkersForCurve(QCPCurve *curve);
+    void replaceMarkers(const OwnedCurve &trace);
 
     std::function<void()> m_queuedReplotHandler;
     QPointer<QObject> m_plot; ///< a QObject, because a plot half destroyed must not pass for a plot
@@ -329,6 +330,7 @@ private:
     int m_activeTraceId = -1;
     std::vector<OwnedMarker> m_ownedMarkers;
     int m_draggingMarkerId = -1;
+    bool m_finishingDrag = false;
     int m_selectedMarkerId = -1;
     double m_markerHitTolerancePx = 18.0;
     bool m_onlyHandleActiveTrace = true;

@@ -198,8 +198,10 @@ void SmithChartPlot::rebuildSmithChartGrid()
     if (!plot())
         return;
     clearSmithChartGrid();
+    const QPointer<SmithChartPlot> self(this);
     addSmithChartGrid();
-    applyFixedView();
+    if (self)
+        applyFixedView();
 }
 
 void SmithChartPlot::setGridMode(GridMode mode)
@@ -208,8 +210,10 @@ void SmithChartPlot::setGridMode(GridMode mode)
         return;
     m_gridMode = mode;
     syncGridFlags();
+    const QPointer<SmithChartPlot> self(this);
     rebuildSmithChartGrid();
-    setGridVisible(anyCurveVisible());
+    if (self)
+        setGridVisible(anyCurveVisible());
 }
 
 /// Derives what to show from the mode; a value that is no mode leaves it as it was.

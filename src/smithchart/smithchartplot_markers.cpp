@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <limits>
 
 namespace
 {
@@ -21,7 +22,9 @@ constexpr int selectedLighterPercent = 130;
 
 int SmithChartPlot::makeMarkerId(int traceId, int localId)
 {
-    return traceId * markersPerTrace + localId;
+    // Unsigned, because any trace id is allowed: one beyond the ids' range wraps around.
+    return static_cast<int>(static_cast<unsigned>(traceId) * markersPerTrace
+                            + static_cast<unsigned>(localId));
 }
 
 void SmithChartPlot::parseMarkerId(int id, int &traceId, int &localId)
@@ -127,12 +130,17 @@ bool SmithChartPlot::selectMarker(int traceId, int localId)
     if (id != m_selectedMarkerId) {
         int oldTraceId = 0;
         int oldLocalId = 0;
-        if (getSelectedMarker(oldTraceId, oldLocalId))
-            updateMarkerVisualSelection(oldTraceId, oldLocalId, false);
+        const bool hadSelection = getSelectedMarker(oldTraceId, oldLocalId);
         m_selectedMarkerId = id;
         const QPointer<SmithChartPlot> self(this);
+        // The replot's handler or a slot may choose otherwise.
+        const auto overruled = [&self, id] { return !self || self->m_selectedMarkerId != id; };
+        if (hadSelection)
+            updateMarkerVisualSelection(oldTraceId, oldLocalId, false);
+        if (overruled())
+            return true;
         Q_EMIT markerSelected(traceId, localId);
-        if (!self || m_selectedMarkerId != id) // a slot may have chosen otherwise
+        if (overruled())
             return true;
     }
     updateMarkerVisualSelection(traceId, localId, true);
@@ -145,9 +153,11 @@ void SmithChartPlot::clearMarkerSelection()
     int localId = 0;
     if (!getSelectedMarker(traceId, localId))
         return;
-    updateMarkerVisualSelection(traceId, localId, false);
     m_selectedMarkerId = -1;
     const QPointer<SmithChartPlot> self(this);
+    updateMarkerVisualSelection(traceId, localId, false);
+    if (!self || m_selectedMarkerId >= 1) // the replot's handler may have selected another
+        return;
     Q_EMIT markerSelectionCleared();
     if (self)
         requestQueuedReplot();
@@ -265,8 +275,9 @@ void SmithChartPlot::endMarkerDragAt(const QPoint &pos)
 void SmithChartPlot::setMarkerHitTolerancePx(double px)
 {
     m_markerHitTolerancePx = px > 0.0 ? px : 0.0; // NaN gives 0
+    constexpr double highest = std::numeric_limits<int>::max();
     if (QCustomPlot *const plot = this->plot())
-        plot->setSelectionTolerance(qRound(m_markerHitTolerancePx));
+        plot->setSelectionTolerance(qRound(std::min(m_markerHitTolerancePx, highest)));
 }
 
 const SmithChartPlot::OwnedMarker *SmithChartPlot::findMarker(int traceId, int localId) const
@@ -351,15 +362,16 @@ void SmithChartPlot::recolorMarkers(QCPCurve *curve)
 void SmithChartPlot::updateMarkersForCurve(QCPCurve *curve)
 {
     const OwnedCurve *const trace = findOwnedCurve(curve);
-    if (!trace)
+    if (!trace || trace->real.isEmpty() || trace->imag.isEmpty())
         return;
-    const auto count = std::min(trace->real.size(), trace->imag.size());
-    if (count < 1)
-        return;
+    replaceMarkers(*trace);
+    requestQueuedReplot();
+}
+
+void SmithChartPlot::replaceMarkers(const OwnedCurve &trace)
+{
     for (OwnedMarker &record : m_ownedMarkers) {
-        if (record.curve == curve && record.sourceIndex >= 0.0
-            && record.sourceIndex < static_cast<double>(count))
+        if (record.curve == trace.curve)
             positionMarkerAtSourceIndex(record, record.sourceIndex);
     }
-    requestQueuedReplot();
 }

@@ -26,7 +26,6 @@ bool SmithChartPlot::eventFilter(QObject *watched, QEvent *event)
 
     switch (event->type()) {
     case QEvent::Resize:
-        requestQueuedReplot();
         if (!m_resizeRefitPending) {
             m_resizeRefitPending = true;
             // Several resizes in one pass of the event loop cost one fit.
@@ -37,6 +36,7 @@ bool SmithChartPlot::eventFilter(QObject *watched, QEvent *event)
                 }
             });
         }
+        requestQueuedReplot();
         break;
     case QEvent::Hide:
         finishDrag(); // a hidden plot gets no release
@@ -135,15 +135,19 @@ void SmithChartPlot::onPlotMouseRelease(QMouseEvent *event)
 /// Ends a drag where the host last put the marker.
 void SmithChartPlot::finishDrag()
 {
+    if (m_finishingDrag) // a slot hides the plot, or ends the drag once more
+        return;
     if (isDraggingMarker() && !dragIsConfined()) {
         int traceId = 0;
         int localId = 0;
         parseMarkerId(m_draggingMarkerId, traceId, localId);
         if (const OwnedMarker *const record = findMarker(traceId, localId)) {
             const QPointer<SmithChartPlot> self(this);
+            m_finishingDrag = true;
             Q_EMIT markerDragFinished(traceId, localId, record->sourceIndex);
             if (!self)
                 return;
+            m_finishingDrag = false;
         }
     }
     m_draggingMarkerId = -1;

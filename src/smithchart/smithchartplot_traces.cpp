@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace
 {
@@ -81,7 +82,10 @@ void SmithChartPlot::clearAllCurves()
     QCustomPlot *const plot = this->plot();
     if (!plot)
         return;
+    const QPointer<SmithChartPlot> self(this);
     clearAllMarkers();
+    if (!self)
+        return;
     for (const OwnedCurve &record : qAsConst(m_curves)) {
         if (record.curve)
             plot->removePlottable(record.curve);
@@ -107,22 +111,28 @@ bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencie
     const auto firstN = [n](const QVector<double> &values) {
         return values.size() == n ? values : values.mid(0, n);
     };
-    record->real = firstN(real);
-    record->imag = firstN(imag);
+    // The arguments may be the record's own vectors, in any order: read all before writing any.
+    const QVector<double> newReal = firstN(real);
+    const QVector<double> newImag = firstN(imag);
+    QVector<double> newFrequencies;
     if (frequencies.size() >= n) {
-        record->frequencies = firstN(frequencies);
+        newFrequencies = firstN(frequencies);
     } else {
-        record->frequencies.resize(n);
-        for (int i = 0; i < n; ++i)
-            record->frequencies[i] = i;
+        newFrequencies.resize(n);
+        std::iota(newFrequencies.begin(), newFrequencies.end(), 0.0);
     }
+    record->real = newReal;
+    record->imag = newImag;
+    record->frequencies = newFrequencies;
     ++record->sourceRevision;
     record->cacheValid = false;
     refreshDisplayCurve(*record, true);
-    updateMarkersForCurve(record->curve);
     if (timer.isValid())
         reportPerformance(*record, timer.nsecsElapsed());
-    requestQueuedReplot();
+    const QPointer<SmithChartPlot> self(this);
+    updateMarkersForCurve(record->curve);
+    if (self)
+        requestQueuedReplot();
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include <vnatest.h>
 
 #include <cmath>
+#include <limits>
 #include <memory>
 
 class tst_SmithChartMarkers : public VnaTest::TestCase
@@ -83,6 +84,15 @@ private Q_SLOTS:
         QCOMPARE(qMakePair(trace, local), qMakePair(3, 7));
         SmithChartPlot::parseMarkerId(-1, trace, local);
         QCOMPARE(qMakePair(trace, local), qMakePair(0, -1));
+
+        // Trace ids are the host's choice; a marker whose id does not fit can still be used.
+        const int huge = std::numeric_limits<int>::max();
+        QVERIFY(m_chart->addCurve(huge, QPen()));
+        m_chart->setCurveData(huge, {}, {0.0}, {0.0});
+        QVERIFY(m_chart->addMarkerVisual(huge, huge, 0.0, Plot::PointingDown));
+        m_chart->beginMarkerDragAt(dataPixel(0.0, 0.0).toPoint());
+        QVERIFY(m_chart->selectMarker(huge, huge));
+        QVERIFY(m_chart->removeMarkerVisual(huge, huge));
     }
 
     void creation()
@@ -302,6 +312,9 @@ private Q_SLOTS:
         QCOMPARE(m_chart->markerHitTolerancePx(), 0.0);
         m_chart->setMarkerHitTolerancePx(qQNaN());
         QCOMPARE(m_chart->markerHitTolerancePx(), 0.0);
+        m_chart->setMarkerHitTolerancePx(1e300);
+        QCOMPARE(m_chart->markerHitTolerancePx(), 1e300);
+        QCOMPARE(m_plot->selectionTolerance(), std::numeric_limits<int>::max());
     }
 
     void deleteKey()
@@ -445,6 +458,20 @@ private Q_SLOTS:
         m_plot->hide();
         QVERIFY(!m_chart->isDraggingMarker());
         QCOMPARE(m_log.last(), QStringLiteral("finish 1.1 5"));
+    }
+
+    void hidingThePlotAtTheEndOfADragEndsItOnce()
+    {
+        m_chart->addMarkerVisual(1, 1, 5.0, Plot::PointingDown);
+        connect(m_chart.get(), &SmithChartPlot::markerDragFinished, m_plot.get(), &QWidget::hide);
+        QVERIFY(m_chart->beginMarkerDragAt(pixelOf(1, 1).toPoint()));
+        m_chart->endMarkerDragAt({});
+        QCOMPARE(m_log, lines("request 1.1|start 1.1|finish 1.1 5"));
+        m_plot->show(); // and the next drag ends as any other
+        m_log.clear();
+        QVERIFY(m_chart->beginMarkerDragAt(pixelOf(1, 1).toPoint()));
+        m_chart->endMarkerDragAt({});
+        QCOMPARE(m_log, lines("request 1.1|start 1.1|finish 1.1 5"));
     }
 
 private:
