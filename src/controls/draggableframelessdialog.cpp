@@ -236,10 +236,12 @@ bool DraggableFramelessDialog::resolveGlobalPosFromEvent(QEvent *event, QPoint &
 
 bool DraggableFramelessDialog::eventFilter(QObject *watched, QEvent *event)
 {
+    // The cast fails for a bar that is being destroyed, which still sends events to its filters.
+    const auto *bar = qobject_cast<DraggableDialogTitleBar *>(watched);
+    if (bar && bar == m_titleBar && filterTitleBar(event))
+        return true;
     if (watched == parentWidget() && event->type() == QEvent::Resize)
         clampToParentVisibleRect();
-    else if (m_titleBar && watched == m_titleBar && filterTitleBar(event))
-        return true;
     return QDialog::eventFilter(watched, event);
 }
 

@@ -234,7 +234,7 @@ private Q_SLOTS:
         const QByteArray group = "[ThemeColors]\n";
 
         QTest::newRow("empty") << QByteArray() << dark << light;
-        QTest::newRow("binary") << QByteArray("\x7f\x45LF\0\x01\xff\xfe[\n=\"\0\r", 16) << dark
+        QTest::newRow("binary") << QByteArrayLiteral("\x7f\x45LF\0\x01\xff\xfe[\n=\"\0\r") << dark
                                 << light;
         QTest::newRow("other group")
             << QByteArray("[Colors]\nDark\\gridColor=red\n") << dark << light;
