@@ -51,8 +51,8 @@ IEditableTitleWidget::IEditableTitleWidget(TouchNumKeyboard *keyboard, BaseUnitA
 IEditableTitleWidget::~IEditableTitleWidget()
 {
     // The editor goes after this class has ended, and what it says in going concerns nobody.
-    if (m_editor)
-        m_editor->disconnect(this);
+    if (m_editorWidget)
+        m_editorWidget->disconnect(this);
     if (qApp)
         qApp->disconnect(this);
     restoreKeyboardFocusProxy();
@@ -98,26 +98,26 @@ void IEditableTitleWidget::onFocus()
     });
 }
 
-void IEditableTitleWidget::attachEditor(QLineEdit *editor)
+void IEditableTitleWidget::attachEditor(QLineEdit *lineEdit)
 {
-    m_editor = editor;
-    editor->installEventFilter(this);
-    connect(editor, &QLineEdit::textChanged, this, [this](const QString &text) {
+    m_editorWidget = lineEdit;
+    lineEdit->installEventFilter(this);
+    connect(lineEdit, &QLineEdit::textChanged, this, [this](const QString &text) {
+        mirror();
         if (m_adapter)
             m_adapter->setProperty("inputText", text);
-        mirror();
     });
-    connect(editor, &QLineEdit::cursorPositionChanged, this, [this](int, int position) {
+    connect(lineEdit, &QLineEdit::cursorPositionChanged, this, [this](int, int position) {
+        mirror();
         if (m_adapter)
             m_adapter->setProperty("cursorPos", position);
-        mirror();
     });
-    connect(editor, &QLineEdit::selectionChanged, this, [this] {
-        publishSelection();
+    connect(lineEdit, &QLineEdit::selectionChanged, this, [this] {
         mirror();
+        publishSelection();
     });
     // Typing after Return begins a new edit, though the focus never left.
-    connect(editor, &QLineEdit::textEdited, this, [this] { m_committing = false; });
+    connect(lineEdit, &QLineEdit::textEdited, this, [this] { m_committing = false; });
     connect(qApp, &QApplication::focusChanged, this, &IEditableTitleWidget::handleFocusChange);
     if (m_adapter) {
         connect(m_adapter, &BaseUnitAdapter::editingFinished, this,
@@ -131,27 +131,26 @@ void IEditableTitleWidget::attachEditor(QLineEdit *editor)
         if (!isMirrored())
             return;
         m_gestureStart = position;
-        m_editor->setCursorPosition(position);
+        editor()->setCursorPosition(position);
     });
     connect(keyboard(), &TouchNumKeyboard::indicatorMove, this, [this](int position) {
         if (isMirrored())
-            m_editor->setSelection(m_gestureStart, position - m_gestureStart);
+            editor()->setSelection(m_gestureStart, position - m_gestureStart);
     });
     connect(keyboard(), &TouchNumKeyboard::indicatorDoubleClick, this, [this] {
         if (isMirrored())
-            m_editor->selectAll();
+            editor()->selectAll();
     });
 }
 
 QLineEdit *IEditableTitleWidget::editor() const
 {
-    return m_editor;
+    return qobject_cast<QLineEdit *>(m_editorWidget);
 }
 
-/// Null from the moment its destructor has run, which is before a guarded pointer notices.
 TouchNumKeyboard *IEditableTitleWidget::keyboard() const
 {
-    return qobject_cast<TouchNumKeyboard *>(m_keyboard.data());
+    return qobject_cast<TouchNumKeyboard *>(m_keyboard);
 }
 
 void IEditableTitleWidget::registerAtKeyboard()
@@ -173,7 +172,7 @@ bool IEditableTitleWidget::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {
         auto *keyEvent = static_cast<QKeyEvent *>(event);
-        if (object == m_editor && m_adapter)
+        if (object == m_editorWidget && m_adapter)
             return forwardKey(keyEvent);
         if (object == m_adapter && endsEdit(keyEvent->key()))
             m_committing = true;
@@ -188,10 +187,10 @@ void IEditableTitleWidget::mousePressEvent(QMouseEvent *event)
 
 void IEditableTitleWidget::publishSelection()
 {
-    if (!m_adapter || !m_editor)
+    if (!m_adapter || !editor())
         return;
-    m_adapter->setProperty("selectionStart", std::max(0, m_editor->selectionStart()));
-    m_adapter->setProperty("selectionLen", m_editor->selectionLength());
+    m_adapter->setProperty("selectionStart", std::max(0, editor()->selectionStart()));
+    m_adapter->setProperty("selectionLen", editor()->selectionLength());
 }
 
 /// Shows what is typed in the keypad's indicator, since the keypad may cover the editor.
@@ -199,21 +198,21 @@ void IEditableTitleWidget::mirror()
 {
     if (!isMirrored())
         return;
-    const int cursor = m_editor->cursorPosition();
-    const bool selected = m_editor->hasSelectedText();
-    keyboard()->setIndicatorText(m_editor->text(), selected ? m_editor->selectionStart() : cursor,
-                                 m_editor->selectionLength(), cursor);
+    const int cursor = editor()->cursorPosition();
+    const bool selected = editor()->hasSelectedText();
+    keyboard()->setIndicatorText(editor()->text(), selected ? editor()->selectionStart() : cursor,
+                                 editor()->selectionLength(), cursor);
 }
 
 bool IEditableTitleWidget::isMirrored() const
 {
-    return keyboard() && m_editor && m_editor->hasFocus() && !keyboard()->isAncestorOf(m_editor);
+    return keyboard() && editor() && editor()->hasFocus() && !keyboard()->isAncestorOf(editor());
 }
 
 /// Shows the adapter's text as it stands after a commit or a step.
 void IEditableTitleWidget::showValue()
 {
-    if (!m_adapter || !m_editor)
+    if (!m_adapter || !editor())
         return;
     const QString text = m_adapter->getInputText();
     const int numberEnd = int(text.length() - m_adapter->getCurrentUnit().length());
@@ -243,11 +242,11 @@ void IEditableTitleWidget::finishEdit(QKeyEvent *event)
     if (!self)
         return;
     restoreKeyboardFocusProxy();
-    if (!keyboard() || !m_editor || !m_editor->hasFocus())
+    if (!keyboard() || !editor() || !editor()->hasFocus())
         return;
-    // With the keypad gone the window gets it, so that the next tap on the editor begins a new edit.
-    // The editor may be destroyed when it loses the focus, and so must not be the one to act.
-    QWidget *next = keyboard()->isVisible() ? keyboard() : m_editor->window();
+    // With the keypad gone the window gets it, so that the next tap on the editor begins a new
+    // edit. The editor may be destroyed when it loses the focus, and so must not be the one to act.
+    QWidget *next = keyboard()->isVisible() ? keyboard() : editor()->window();
     next->setFocus(Qt::OtherFocusReason);
 }
 
@@ -256,14 +255,14 @@ void IEditableTitleWidget::finishEdit(QKeyEvent *event)
 void IEditableTitleWidget::handleFocusChange(QWidget *old, QWidget *now)
 {
     const QPointer<IEditableTitleWidget> self(this);
-    if (now && now == m_editor) {
+    if (now && now == m_editorWidget) {
         onFocus();
         if (!self)
             return;
         mirror();
     }
-    // An editor that loses the focus in its destructor is no line edit any more.
-    if (!old || old != m_editor || !qobject_cast<QLineEdit *>(old))
+    // One that loses the focus in its destructor is not the editor any more.
+    if (!old || old != editor())
         return;
 
     const QWidget *keypad = m_keyboard;
@@ -274,12 +273,12 @@ void IEditableTitleWidget::handleFocusChange(QWidget *old, QWidget *now)
             return;
     }
     // An editor that disappears with its keypad was closed without a commit.
-    const bool closed = keypad && keypad->isHidden() && keypad->isAncestorOf(m_editor);
+    const bool closed = keypad && keypad->isHidden() && keypad->isAncestorOf(old);
     if (!m_committing && !closed) {
         for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\n"));
-            if (self && m_editor)
-                QCoreApplication::sendEvent(m_editor, &event);
+            if (self && editor())
+                QCoreApplication::sendEvent(editor(), &event);
         }
     }
     if (!self)

@@ -66,7 +66,9 @@ public Q_SLOTS:
 
 protected:
     /// Makes a line edit the editor. Derived classes call it once, in their constructor.
-    void attachEditor(QLineEdit *editor);
+    void attachEditor(QLineEdit *lineEdit);
+    /// Editor and keypad are null from the moment their destructors have run, which is before a
+    /// guarded pointer notices.
     QLineEdit *editor() const;
     TouchNumKeyboard *keyboard() const;
     /// True once the edit has been committed or cancelled, until the next one begins.
@@ -86,14 +88,14 @@ private:
     void finishEdit(QKeyEvent *event);
     void handleFocusChange(QWidget *old, QWidget *now);
 
-    QPointer<QWidget> m_keyboard;
+    QPointer<QWidget> m_keyboard; ///< see keyboard()
     QPointer<BaseUnitAdapter> m_adapter;
     bool m_committing = false;
     QPointer<QWidget> m_savedFocusProxy;
     bool m_focusProxyOverridden = false;
     QStringList m_dummyDisplayUnits;
 
-    QPointer<QLineEdit> m_editor;
+    QPointer<QWidget> m_editorWidget; ///< see editor()
     int m_gestureStart = 0;
 };
 

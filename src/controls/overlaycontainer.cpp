@@ -5,6 +5,7 @@
 #include <platform/placement.h>
 #include <utils/qtcompat_p.h>
 
+#include <QApplication>
 #include <QDialog>
 #include <QLayout>
 #include <QTouchEvent>
@@ -79,7 +80,6 @@ void OverlayContainer::showWithDialog(QDialog *dialog, OutsideClickAction action
         dialog->setParent(this);
     m_dialog = dialog;
     connect(dialog, &QDialog::finished, this, &OverlayContainer::releaseDialog);
-    connect(dialog, &QObject::destroyed, this, &OverlayContainer::releaseDialog);
     dialog->installEventFilter(this);
     // A press on this layer gives the focus to whoever has it already, and so takes it from nobody.
     setFocusProxy(dialog);
@@ -185,6 +185,25 @@ void OverlayContainer::resizeEvent(QResizeEvent *event)
     QFrame::resizeEvent(event);
     if (m_dialog)
         placeDialog();
+}
+
+bool OverlayContainer::focusNextPrevChild(bool next)
+{
+    if (!m_dialog || m_dialog->isWindow())
+        return QFrame::focusNextPrevChild(next);
+
+    QWidget *const current = QApplication::focusWidget();
+    QWidget *const start = current && m_dialog->isAncestorOf(current) ? current : m_dialog.data();
+    QWidget *widget = start;
+    do {
+        widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();
+        if (m_dialog->isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus)
+            && !widget->focusProxy() && widget->isEnabled() && widget->isVisible()) {
+            widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            return true;
+        }
+    } while (widget != start);
+    return true;
 }
 
 void OverlayContainer::handleOutsideClick()

@@ -75,6 +75,8 @@ protected:
     bool event(QEvent *event) override;
     bool eventFilter(QObject *object, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    /// Tab goes around inside the dialog, not into the host below.
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void handleOutsideClick();

@@ -15,9 +15,18 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <array>
 
 namespace Controls
 {
+
+namespace
+{
+
+/// Where the unit keys stand in their grid.
+constexpr std::array<int, 4> s_unitRows{0, 1, 2, 4};
+
+} // namespace
 
 TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
     : QDialog(parent, keypadDialogFlags)
@@ -27,7 +36,11 @@ TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
     d->ui.setupUi(this);
     // The size follows the font, the title widget and the indicator.
     layout()->setSizeConstraint(QLayout::SetFixedSize);
+    d->titleWidgetLayout = new QVBoxLayout;
+    d->titleWidgetLayout->setContentsMargins(6, 4, 0, 4);
+    d->ui.titleGridLayout->addLayout(d->titleWidgetLayout, 0, 1);
     setAccessibleName(tr("Numeric keypad"));
+    setAutoFillBackground(true); // embedded, it would let the host show through
     // An entry that is committed accepts a modal dialog, and only closes one that is not.
     setWindowModality(Qt::WindowModal);
 
@@ -50,10 +63,9 @@ TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
 
     d->unitButtons = {d->ui.btnUnit1, d->ui.btnUnit2, d->ui.btnUnit3, d->ui.btnUnit4};
     for (QPushButton *button : d->unitButtons) {
-        button->setProperty("keyRole", QStringLiteral("unit"));
-        button->hide();
         connect(button, &QPushButton::clicked, this, &TouchNumKeyboard::shortCutsKeyClicked);
     }
+    setShortcutKeys({});
 
     setWindowTitleAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setIndicatorTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -71,14 +83,14 @@ TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
 
 TouchNumKeyboard::~TouchNumKeyboard()
 {
-    // While there still is somebody to give the focus back. The focus of the proxy counts as that of
-    // this widget, and would be taken from it.
+    // While there still is somebody to give the focus back. The focus of the proxy counts as that
+    // of this widget, and would be taken from it.
     setFocusProxy(nullptr);
     hide();
     // The overlay may be destroying this keypad, its child, just now: a later deletion then comes
     // to nothing.
-    if (d_ptr->overlay)
-        d_ptr->overlay->deleteLater();
+    if (d_ptr->overlayWidget)
+        d_ptr->overlayWidget->deleteLater();
 }
 
 TouchNumKeyboard::PressOutsidePolicy TouchNumKeyboard::pressOutsidePolicy() const
@@ -146,12 +158,14 @@ bool TouchNumKeyboard::setShortcutKeys(const QList<KeySpec> &keys)
     d->shortcutKeys = keys;
     d->shortcutMap.clear();
     d->startIndex = 0;
-    // While the column pages, a key must not move under the finger because another one is not
-    // there.
-    for (QPushButton *button : d->unitButtons) {
+    // Keys share the column alike. While it pages, none moves under the finger because another one
+    // is not there.
+    for (int i = 0; i < d->unitButtons.size(); ++i) {
+        QPushButton *button = d->unitButtons.at(i);
         QSizePolicy policy = button->sizePolicy();
         policy.setRetainSizeWhenHidden(d->isPaging());
         button->setSizePolicy(policy);
+        d->ui.gridLayout_2->setRowStretch(s_unitRows.at(std::size_t(i)), i < keys.size() ? 1 : 0);
     }
     if (d->isPaging()) {
         updateButtons();
@@ -174,8 +188,8 @@ void TouchNumKeyboard::setTitleWidget(QWidget *widget, Qt::Alignment alignment)
     d->titleWidget = widget;
     if (!widget)
         return;
-    d->ui.titleGridLayout->removeWidget(widget);
-    d->ui.titleGridLayout->addWidget(widget, 0, 1, alignment);
+    d->titleWidgetLayout->removeWidget(widget);
+    d->titleWidgetLayout->addWidget(widget, 0, alignment);
     widget->show();
 }
 
@@ -216,29 +230,31 @@ void TouchNumKeyboard::open()
         return;
     }
 
-    if (!d->overlay || d->overlay->parentWidget() != host) {
+    OverlayContainer *overlay = d->overlay();
+    if (!overlay || overlay->parentWidget() != host) {
         d->leaveOverlay();
-        if (d->overlay)
-            d->overlay->deleteLater();
-        d->overlay = new OverlayContainer(host);
-        connect(d->overlay, &QObject::destroyed, this, [d] {
+        if (overlay)
+            overlay->deleteLater();
+        overlay = new OverlayContainer(host);
+        d->overlayWidget = overlay;
+        connect(overlay, &QObject::destroyed, this, [d] {
             if (!d->goesWithHost)
                 d->leaveOverlay();
         });
     }
-    if (parentWidget() != d->overlay) {
+    if (parentWidget() != overlay) {
         d->home = parentWidget();
         d->goesWithHost = d->home && d->home->window() == host;
         if (d->home)
             d->homeGone = connect(d->home, &QObject::destroyed, this, &QObject::deleteLater);
-        setParent(d->overlay, Qt::Widget);
+        setParent(overlay, Qt::Widget);
     }
-    disconnect(d->overlay, &OverlayContainer::outsideClicked, this, nullptr);
-    connect(d->overlay, &OverlayContainer::outsideClicked, this, [d] { d->pressOutside(); });
-    d->overlay->showWithDialog(this, OverlayContainer::None, false,
-                               d->popupAnchor ? OverlayContainer::LeftOfAnchor
-                                              : OverlayContainer::Centered,
-                               d->popupAnchor);
+    disconnect(overlay, &OverlayContainer::outsideClicked, this, nullptr);
+    connect(overlay, &OverlayContainer::outsideClicked, this, [d] { d->pressOutside(); });
+    overlay->showWithDialog(this, OverlayContainer::None, false,
+                            d->popupAnchor ? OverlayContainer::LeftOfAnchor
+                                           : OverlayContainer::Centered,
+                            d->popupAnchor);
 }
 
 int TouchNumKeyboard::exec()

@@ -159,7 +159,7 @@ QMainWindow *TouchNumKeyboardPrivate::hostWindow() const
 /// on.
 void TouchNumKeyboardPrivate::leaveOverlay()
 {
-    if (!overlay || q->parentWidget() != overlay)
+    if (!overlayWidget || q->parentWidget() != overlayWidget)
         return;
     QObject::disconnect(homeGone);
     q->setParent(home, keypadDialogFlags);

@@ -51,6 +51,8 @@ public:
     void updateMetrics();
 
     QMainWindow *hostWindow() const;
+    /// Null from the moment the overlay's destructor has run, when its guarded pointer is not yet.
+    OverlayContainer *overlay() const { return qobject_cast<OverlayContainer *>(overlayWidget); }
     void leaveOverlay();
     void pressOutside();
     void letGo();
@@ -67,9 +69,10 @@ public:
     QPointer<QObject> receiver;
     QPointer<QWidget> popupAnchor;
     QPointer<QWidget> titleWidget;
+    QVBoxLayout *titleWidgetLayout = nullptr; ///< keeps the title widget off the edges
     TouchNumKeyboard::PressOutsidePolicy pressOutsidePolicy = TouchNumKeyboard::PressOutsideCancels;
 
-    QPointer<OverlayContainer> overlay;
+    QPointer<QWidget> overlayWidget; ///< see overlay()
     QPointer<QWidget> home; ///< the parent when the overlay is not
     QMetaObject::Connection homeGone;
     bool goesWithHost = false; ///< the home is part of the host window

@@ -252,6 +252,29 @@ private Q_SLOTS:
         QVERIFY(editor.hasFocus());
     }
 
+    void tabStaysInsideTheDialog()
+    {
+        OverlayContainer overlay(m_window.get());
+        QDialog *dialog = makeDialog(m_window.get());
+        QLineEdit first(dialog);
+        QLineEdit second(dialog);
+        QLineEdit disabled(dialog);
+        disabled.setEnabled(false);
+        overlay.showWithDialog(dialog, OverlayContainer::None, false, OverlayContainer::Centered,
+                               nullptr);
+        first.setFocus();
+        for (QLineEdit *expected : {&second, &first, &second}) {
+            QTest::keyClick(m_window->windowHandle(), Qt::Key_Tab);
+            QVERIFY(expected->hasFocus());
+        }
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_Backtab);
+        QVERIFY(first.hasFocus());
+        second.hide();
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_Tab);
+        QVERIFY(first.hasFocus());
+        dialog->accept();
+    }
+
     void neverBlocksTheHostWithoutADialog_data()
     {
         QTest::addColumn<QString>("how");

@@ -141,6 +141,10 @@ private Q_SLOTS:
                          qPrintable(key->objectName()));
                 QVERIFY(key->focusPolicy() == Qt::NoFocus);
                 QVERIFY(m_keypad->rect().contains(key->geometry()));
+                QVERIFY2(!key->isVisible() || m_keypad->childAt(key->geometry().center()) == key,
+                         qPrintable(key->objectName()));
+                if (key->objectName().startsWith(QLatin1String("btnUnit")))
+                    QVERIFY(qAbs(key->height() - button(QStringLiteral("btnOk"))->height()) <= 1);
                 QVERIFY(key->fontMetrics().horizontalAdvance(key->text()) < key->width());
             }
         };
