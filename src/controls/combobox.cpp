@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/combobox.h>
 
-#include <platform/placement.h>
+#include <controls/popupplacement_p.h>
 
 #include <QFrame>
-#include <QGuiApplication>
 #include <QListView>
-#include <QScreen>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 
@@ -67,16 +65,8 @@ int ComboBox::popupWidgetCalculateWidth()
 
 QPoint ComboBox::popupWidgetTopLeftConer(const QSize &size)
 {
-    constexpr int margin = 5;
-    const QScreen *screenBelow = QGuiApplication::screenAt(mapToGlobal(rect().center()));
-    if (!screenBelow)
-        screenBelow = QGuiApplication::primaryScreen();
-    const QRect available = screenBelow->availableGeometry();
-
-    QPoint wanted = mapToGlobal(rect().bottomLeft()) + QPoint(0, 1);
-    if (wanted.y() + size.height() > available.top() + available.height() - margin)
-        wanted.setY(mapToGlobal(QPoint(0, 0)).y() - size.height() - 1);
-    return Utils::boundedTopLeft(wanted, size, available, margin);
+    const QRect box(mapToGlobal(QPoint()), this->size());
+    return popupTopLeft(box, size, availableGeometryAt(box.center()), 1);
 }
 
 QSize ComboBox::popupWidgetAdjustSize()

@@ -38,7 +38,7 @@ class VNAWIDGETS_EXPORT InfoButton : public AbstractButton
 
 public:
     /// Where the name stands, then where the information stands.
-    enum LayoutType {
+    enum LayoutType : int {
         TopBottom = 0,
         LeftRight = 1,
         BottomTop = 2,

@@ -21,7 +21,8 @@ namespace
 
 constexpr int ScreenMargin = 5;
 
-/// Makes items that a finger can hit: rows of its height, and tiles that fill their cell.
+/// Makes items that a finger can hit: rows of its height, and tiles that fill their cell and have
+/// their text in the middle.
 class TouchItemDelegate : public QStyledItemDelegate
 {
 public:
@@ -37,6 +38,14 @@ public:
             return m_view->gridSize();
         const QSize hint = QStyledItemDelegate::sizeHint(option, index);
         return hint.expandedTo({0, Utils::fingerSize(m_view)});
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (m_view->viewMode() == QListView::IconMode)
+            option->displayAlignment = Qt::AlignCenter;
     }
 
 private:
@@ -231,13 +240,13 @@ void PopupWidget::setItemCountPerRow(int count)
 
 void PopupWidget::popup()
 {
+    m_listWidget->ensurePolished(); // a sheet may set the frame and the height of the rows
     const int count = m_listWidget->count();
     const int frame = 2 * m_listWidget->frameWidth();
     QSize size;
     if (m_viewMode == QListView::ListMode) {
         for (int row = 0; row < count; ++row)
             m_listWidget->item(row)->setTextAlignment(m_itemTextAlignment | Qt::AlignVCenter);
-        m_listWidget->ensurePolished(); // a sheet may set the row height
         size = {m_widgetFixedWidth, frame + count * m_listWidget->sizeHintForRow(0)};
     } else {
         const int columns = qMax(1, m_itemCountPerRow);

@@ -55,7 +55,8 @@ public:
     /// Enables or disables an item by its row; other rows are ignored.
     void setItemEnabled(int index, bool enabled);
 
-    /// Horizontal alignment of the items; the vertical one is always centred. Default: left.
+    /// Horizontal alignment of the rows, which are always centred vertically. Default: left. Tiles
+    /// have their text in the middle.
     Qt::Alignment itemTextAlignment() const { return m_itemTextAlignment; }
     void setItemTextAlignment(Qt::Alignment alignment);
 

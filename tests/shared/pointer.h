@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPointer>
 #include <QTouchEvent>
 #include <QWidget>
 #include <QWindow>
 #include <QtTest>
 
-/*! Mouse and touch on shown widgets, sent through their window as the platform would; positions are
-   in the widget. */
+/*! Mouse, touch and keys on shown widgets, sent through their window as the platform would;
+   positions are in the widget. */
 namespace VnaTest
 {
 
@@ -36,11 +37,34 @@ inline void mouseRelease(const QWidget *widget, const QPoint &pos,
                         inWindow(widget, pos));
 }
 
+inline void mousePress(const QWidget *widget)
+{
+    mousePress(widget, widget->rect().center());
+}
+
+inline void mouseRelease(const QWidget *widget)
+{
+    mouseRelease(widget, widget->rect().center());
+}
+
+inline void mouseClick(const QWidget *widget, const QPoint &pos)
+{
+    mousePress(widget, pos);
+    mouseRelease(widget, pos);
+}
+
 inline void mouseClick(const QWidget *widget)
 {
-    const QPoint center = widget->rect().center();
-    mousePress(widget, center);
-    mouseRelease(widget, center);
+    mouseClick(widget, widget->rect().center());
+}
+
+/// Press and release of one key, with the text that a keyboard would send, to a widget's window.
+inline void typeKey(const QWidget *widget, Qt::Key key, const QString &text = QString())
+{
+    const QPointer<QWindow> window = widget->window()->windowHandle();
+    QTest::sendKeyEvent(QTest::Press, window, key, text, Qt::NoModifier);
+    if (window)
+        QTest::sendKeyEvent(QTest::Release, window, key, text, Qt::NoModifier);
 }
 
 /// Press at \a from, some moves, release at \a to, both in the window's coordinates.
@@ -61,8 +85,16 @@ public:
     {
     }
 
-    void press(const QPoint &pos) { QTest::touchEvent(m_window, m_device).press(0, pos, m_window); }
-    void move(const QPoint &pos) { QTest::touchEvent(m_window, m_device).move(0, pos, m_window); }
+    void press(const QPoint &pos)
+    {
+        m_first = pos;
+        QTest::touchEvent(m_window, m_device).press(0, pos, m_window);
+    }
+    void move(const QPoint &pos)
+    {
+        m_first = pos;
+        QTest::touchEvent(m_window, m_device).move(0, pos, m_window);
+    }
     void release(const QPoint &pos)
     {
         QTest::touchEvent(m_window, m_device).release(0, pos, m_window);
@@ -76,18 +108,24 @@ public:
     /// A second finger comes, while the first rests.
     void pressSecond(const QPoint &pos)
     {
-        QTest::touchEvent(m_window, m_device).stationary(0).press(1, pos, m_window);
+        QTest::touchEvent(m_window, m_device).move(0, m_first, m_window).press(1, pos, m_window);
+    }
+    /// The second finger leaves again.
+    void releaseSecond(const QPoint &pos)
+    {
+        QTest::touchEvent(m_window, m_device).move(0, m_first, m_window).release(1, pos, m_window);
     }
     /// The first finger leaves, the second stays and then leaves at another place.
     void releaseBoth(const QPoint &first, const QPoint &second)
     {
-        QTest::touchEvent(m_window, m_device).stationary(1).release(0, first, m_window);
+        QTest::touchEvent(m_window, m_device).move(1, second, m_window).release(0, first, m_window);
         QTest::touchEvent(m_window, m_device).move(1, second, m_window);
         QTest::touchEvent(m_window, m_device).release(1, second, m_window);
     }
 
 private:
     QWindow *m_window;
+    QPoint m_first; ///< where the first finger is
     decltype(QTest::createTouchDevice()) m_device = QTest::createTouchDevice();
 };
 

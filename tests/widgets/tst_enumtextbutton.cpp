@@ -10,11 +10,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <pointer.h>
 #include <vnatest.h>
-
-#include "gestures.h"
-
-using Gestures::Spot;
 
 class tst_EnumTextButton : public VnaTest::TestCase
 {
@@ -59,10 +56,8 @@ struct Fixture {
     bool expose() { return QTest::qWaitForWindowExposed(&window); }
     PopupWidget *popup() const { return button->findChild<PopupWidget *>(); }
     QListWidget *list() const { return button->findChild<QListWidget *>(); }
-    Spot item(int row) const
-    {
-        return {list()->viewport(), list()->visualItemRect(list()->item(row)).center()};
-    }
+    void clickItem(int row) const { VnaTest::mouseClick(list()->viewport(), itemCentre(row)); }
+    QPoint itemCentre(int row) const { return list()->visualItemRect(list()->item(row)).center(); }
 
     QWidget window;
     QPointer<EnumTextButton> button = new EnumTextButton(&window);
@@ -118,19 +113,19 @@ void tst_EnumTextButton::picksFromTheList()
     QVERIFY(f.expose());
     f.button->setCurrentEnum(10);
     f.told.clear();
-    Gestures::click(f.button);
+    VnaTest::mouseClick(f.button);
     QVERIFY(f.popup()->isVisible());
     QCOMPARE(f.popup()->width(), 180);
     QCOMPARE(f.list()->currentRow(), 0);
-    Gestures::click(f.item(2));
+    f.clickItem(2);
     QVERIFY(!f.popup()->isVisible());
     QCOMPARE(f.told, QStringList({QStringLiteral("toggled 30"), QStringLiteral("edited 30")}));
     QCOMPARE(f.button->labelText(), QStringLiteral("R + jX"));
 
     QTest::qWait(250);
-    Gestures::click(f.button);
+    VnaTest::mouseClick(f.button);
     QCOMPARE(f.list()->currentRow(), 2);
-    Gestures::click(f.item(2)); // the same again: closes without a word
+    f.clickItem(2); // the same again: closes without a word
     QVERIFY(!f.popup()->isVisible());
     QCOMPARE(f.told.count(), 2);
 }
@@ -149,20 +144,20 @@ void tst_EnumTextButton::theTapThatClosesDoesNotReopen()
 {
     QFETCH(bool, byTouch);
     QFETCH(int, holdMs);
-    static auto *const screen = QTest::createTouchDevice();
     Fixture f;
     QVERIFY(f.expose());
-    const auto tap = [&f, byTouch](int hold) {
-        const Spot spot(f.button);
+    VnaTest::TouchScreen screen(&f.window);
+    const auto tap = [&f, &screen, byTouch](int hold) {
+        const QPoint centre = f.button->geometry().center();
         if (byTouch)
-            QTest::touchEvent(spot.window, screen).press(0, spot.point, spot.window);
+            screen.press(centre);
         else
-            Gestures::press(spot);
+            VnaTest::mousePress(&f.window, centre);
         QTest::qWait(hold);
         if (byTouch)
-            QTest::touchEvent(spot.window, screen).release(0, spot.point, spot.window);
+            screen.release(centre);
         else
-            Gestures::release(spot);
+            VnaTest::mouseRelease(&f.window, centre);
     };
     tap(0);
     QVERIFY(f.popup()->isVisible());
@@ -199,7 +194,7 @@ void tst_EnumTextButton::opensOnTheScreen()
     for (int round = 0; round < 2; ++round) {
         button.click();
         const QRect shown = popup->geometry();
-        QVERIFY2(screen.adjusted(5, 5, -5, -5).contains(shown), Gestures::printed(shown));
+        QVERIFY(screen.adjusted(5, 5, -5, -5).contains(shown));
         QVERIFY(corner.y() ? shown.bottom() < button.y() : shown.top() >= button.y() + 49);
         QTest::keyClick(popup->windowHandle(), Qt::Key_Escape);
         QVERIFY(!popup->isVisible());
@@ -214,11 +209,11 @@ void tst_EnumTextButton::tilesOpenInTheMiddleOfTheWindow()
     f.button->setIconSize(80, 70);
     f.button->setItemCountPerRow(2);
     QVERIFY(f.expose());
-    Gestures::click(f.button);
+    VnaTest::mouseClick(f.button);
     QCOMPARE(f.popup()->width(), 161);
     const QPoint middle = f.window.mapToGlobal(f.window.rect().center());
     const QPoint offset = f.popup()->geometry().center() - middle;
-    QVERIFY2(offset.manhattanLength() <= 4, Gestures::printed(offset));
+    QVERIFY(offset.manhattanLength() <= 4);
 }
 
 void tst_EnumTextButton::worksByKeyboard()
@@ -226,11 +221,11 @@ void tst_EnumTextButton::worksByKeyboard()
     Fixture f;
     f.button->setFocus();
     QVERIFY(QTest::qWaitForWindowActive(&f.window));
-    Gestures::key(f.window.windowHandle(), Qt::Key_Space, QStringLiteral(" "));
+    VnaTest::typeKey(&f.window, Qt::Key_Space, QStringLiteral(" "));
     QVERIFY(f.popup()->isVisible());
-    Gestures::key(f.popup()->windowHandle(), Qt::Key_Down);
-    Gestures::key(f.popup()->windowHandle(), Qt::Key_Down);
-    Gestures::key(f.popup()->windowHandle(), Qt::Key_Return, QStringLiteral("\r"));
+    VnaTest::typeKey(f.popup(), Qt::Key_Down);
+    VnaTest::typeKey(f.popup(), Qt::Key_Down);
+    VnaTest::typeKey(f.popup(), Qt::Key_Return, QStringLiteral("\r"));
     QVERIFY(!f.popup()->isVisible());
     QCOMPARE(f.told.last(), QStringLiteral("edited 20"));
     QVERIFY(f.button->hasFocus());
@@ -240,7 +235,7 @@ void tst_EnumTextButton::doesNotOpenAnEmptyList()
 {
     Fixture f(QList<EnumTextButton::EnumSpec>{});
     QVERIFY(f.expose());
-    Gestures::click(f.button);
+    VnaTest::mouseClick(f.button);
     QVERIFY(!f.popup()->isVisible());
 }
 
@@ -250,7 +245,7 @@ void tst_EnumTextButton::listLeavesWithItsButton()
     QVERIFY(f.expose());
     const auto open = [&f] {
         QTest::qWait(250);
-        Gestures::click(f.button);
+        VnaTest::mouseClick(f.button);
         return f.popup()->isVisible();
     };
     QVERIFY(open());
@@ -275,9 +270,9 @@ void tst_EnumTextButton::slotsMayDeleteTheButton()
          {&EnumTextButton::currentItemToggled, &EnumTextButton::currentItemEdited}) {
         Fixture f;
         QVERIFY(f.expose());
-        Gestures::click(f.button);
+        VnaTest::mouseClick(f.button);
         connect(f.button, signal, &f.window, [&f] { delete f.button.data(); });
-        Gestures::click(f.item(1));
+        f.clickItem(1);
         QVERIFY(!f.button);
         QCOMPARE(f.told.count(), signal == &EnumTextButton::currentItemToggled ? 1 : 2);
     }

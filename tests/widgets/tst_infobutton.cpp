@@ -8,9 +8,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <pointer.h>
 #include <vnatest.h>
-
-#include "gestures.h"
 
 /// The button base and the two-cell button above it.
 class tst_InfoButton : public VnaTest::TestCase
@@ -67,33 +66,31 @@ void tst_InfoButton::inertButtonLetsTheParentHaveTheTap()
     QSignalSpy childPressed(child, &AbstractButton::pressed);
 
     QVERIFY(child->clickable());
-    Gestures::click(child);
+    VnaTest::mouseClick(child);
     QCOMPARE(childClicked.count(), 1);
     QCOMPARE(parentClicked.count(), 0);
 
     child->setClickable(false);
-    Gestures::press(child);
+    VnaTest::mousePress(child);
     QVERIFY(!child->isDown());
     QVERIFY(child->isEnabled());
     QVERIFY(parent.isDown());
-    Gestures::release(child);
+    VnaTest::mouseRelease(child);
     QCOMPARE(parentClicked.count(), 1);
     QCOMPARE(childClicked.count(), 1);
     QCOMPARE(childPressed.count(), 1);
 
     // A finger takes the same way as the mouse.
-    auto *const screen = QTest::createTouchDevice();
-    QWindow *const window = parent.windowHandle();
+    VnaTest::TouchScreen screen(&parent);
     const QPoint at = child->geometry().center();
-    QTest::touchEvent(window, screen).press(0, at, window);
-    QTest::touchEvent(window, screen).release(0, at, window);
+    screen.tap(at);
     QCOMPARE(parentClicked.count(), 2);
     child->setClickable(true);
-    QTest::touchEvent(window, screen).press(0, at, window);
-    QTest::touchEvent(window, screen).move(0, at, window).press(1, {150, 90}, window);
-    QTest::touchEvent(window, screen).move(0, at, window).release(1, {150, 90}, window);
+    screen.press(at);
+    screen.pressSecond({150, 90});
+    screen.releaseSecond({150, 90});
     QVERIFY(child->isDown());
-    QTest::touchEvent(window, screen).release(0, at, window);
+    screen.release(at);
     QCOMPARE(childClicked.count(), 2);
     QCOMPARE(parentClicked.count(), 2);
 }
@@ -104,10 +101,10 @@ void tst_InfoButton::becomesInertUnderTheFinger()
     button.show();
     QVERIFY(QTest::qWaitForWindowExposed(&button));
     QSignalSpy clicked(&button, &AbstractButton::clicked);
-    Gestures::press(&button);
+    VnaTest::mousePress(&button);
     QVERIFY(button.isDown());
     button.setClickable(false);
-    Gestures::release(&button);
+    VnaTest::mouseRelease(&button);
     QVERIFY(!button.isDown());
     QCOMPARE(clicked.count(), 0);
 }
@@ -119,10 +116,10 @@ void tst_InfoButton::inertButtonIgnoresKeys()
     button.setFocus();
     QVERIFY(QTest::qWaitForWindowActive(&button));
     QSignalSpy clicked(&button, &AbstractButton::clicked);
-    Gestures::key(button.windowHandle(), Qt::Key_Space, QStringLiteral(" "));
+    VnaTest::typeKey(&button, Qt::Key_Space, QStringLiteral(" "));
     QCOMPARE(clicked.count(), 1);
     button.setClickable(false);
-    Gestures::key(button.windowHandle(), Qt::Key_Space, QStringLiteral(" "));
+    VnaTest::typeKey(&button, Qt::Key_Space, QStringLiteral(" "));
     QCOMPARE(clicked.count(), 1);
     QVERIFY(!button.isDown());
 }
@@ -236,8 +233,9 @@ void tst_InfoButton::refusesImpossibleInfoWidgets()
     QWidget *const before = button->infoWidget();
     for (QWidget *const bad : {static_cast<QWidget *>(nullptr), static_cast<QWidget *>(button),
                                &window, static_cast<QWidget *>(nameOf(*button))}) {
-        expectWarning(QStringLiteral("InfoButton::setInfoWidget: cannot show ")
-                      + QString::fromUtf8(Gestures::printed(bad)));
+        QString text;
+        QDebug(&text) << "InfoButton::setInfoWidget: cannot show" << bad;
+        expectWarning(text.trimmed());
         button->setInfoWidget(bad);
         QCOMPARE(button->infoWidget(), before);
     }
@@ -282,7 +280,7 @@ void tst_InfoButton::slotsMayDeleteTheButton()
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     connect(button, onPress ? &InfoButton::pressed : &InfoButton::released,
             [button] { delete button.data(); });
-    Gestures::click(Gestures::Spot(&window));
+    VnaTest::mouseClick(&window);
     QVERIFY(!button);
 }
 

@@ -8,9 +8,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <pointer.h>
 #include <vnatest.h>
-
-#include "gestures.h"
 
 class tst_LabelButton : public VnaTest::TestCase
 {

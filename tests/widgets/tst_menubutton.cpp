@@ -10,11 +10,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <pointer.h>
 #include <vnatest.h>
-
-#include "gestures.h"
-
-using Gestures::Spot;
 
 class tst_MenuButton : public VnaTest::TestCase
 {
@@ -53,10 +50,8 @@ struct Fixture {
     bool expose() { return QTest::qWaitForWindowExposed(&window); }
     PopupWidget *popup() const { return button->findChild<PopupWidget *>(); }
     QListWidget *list() const { return button->findChild<QListWidget *>(); }
-    Spot item(int row) const
-    {
-        return {list()->viewport(), list()->visualItemRect(list()->item(row)).center()};
-    }
+    void clickItem(int row) const { VnaTest::mouseClick(list()->viewport(), itemCentre(row)); }
+    QPoint itemCentre(int row) const { return list()->visualItemRect(list()->item(row)).center(); }
 
     QWidget window;
     QPointer<MenuButton> button = new MenuButton(QStringLiteral("Search"), &window);
@@ -90,14 +85,14 @@ void tst_MenuButton::opensOnPressAndReportsThePick()
     Fixture f;
     QVERIFY(f.expose());
     for (int round = 1; round <= 2; ++round) {
-        Gestures::press(f.button);
+        VnaTest::mousePress(f.button);
         QVERIFY(f.popup()->isVisible());
         QVERIFY(f.button->isChecked());
         QCOMPARE(f.popup()->width(), 180);
         QVERIFY(!f.list()->currentItem()); // a menu remembers nothing
-        Gestures::release(f.button);
+        VnaTest::mouseRelease(f.button);
         QVERIFY(f.popup()->isVisible());
-        Gestures::click(f.item(1));
+        f.clickItem(1);
         QVERIFY(!f.popup()->isVisible());
         QVERIFY(!f.button->isChecked());
         QCOMPARE(f.told.count(), 2 * round);
@@ -112,26 +107,26 @@ void tst_MenuButton::theTapThatClosesDoesNotReopen()
     Fixture f;
     QVERIFY(f.expose());
     for (const int holdMs : {0, 300}) {
-        Gestures::click(f.button);
+        VnaTest::mouseClick(f.button);
         QVERIFY(f.popup()->isVisible());
-        Gestures::press(f.button);
+        VnaTest::mousePress(f.button);
         QTest::qWait(holdMs);
-        Gestures::release(f.button);
+        VnaTest::mouseRelease(f.button);
         QVERIFY(!f.popup()->isVisible());
         QVERIFY(!f.button->isChecked());
         QVERIFY(f.told.isEmpty());
         QTest::qWait(250);
     }
-    Gestures::press(f.button);
+    VnaTest::mousePress(f.button);
     QVERIFY(f.popup()->isVisible());
-    Gestures::release(f.button);
+    VnaTest::mouseRelease(f.button);
 }
 
 void tst_MenuButton::comesUpWhenTheGuardRunsOut()
 {
     Fixture f;
     QVERIFY(f.expose());
-    Gestures::click(f.button); // the list takes the release
+    VnaTest::mouseClick(f.button); // the list takes the release
     QVERIFY(f.button->isDown());
     f.popup()->close();
     QVERIFY(f.button->isDown());
@@ -144,10 +139,10 @@ void tst_MenuButton::withoutItemsItIsACheckableButton()
     Fixture f;
     f.button->clearMenuItems();
     QVERIFY(f.expose());
-    Gestures::click(f.button);
+    VnaTest::mouseClick(f.button);
     QVERIFY(!f.popup()->isVisible());
     QVERIFY(f.button->isChecked());
-    Gestures::click(f.button);
+    VnaTest::mouseClick(f.button);
     QVERIFY(!f.button->isChecked());
 }
 
@@ -156,10 +151,10 @@ void tst_MenuButton::opensByKeyAndByClick()
     Fixture f;
     f.button->setFocus();
     QVERIFY(QTest::qWaitForWindowActive(&f.window));
-    Gestures::key(f.window.windowHandle(), Qt::Key_Space, QStringLiteral(" "));
+    VnaTest::typeKey(&f.window, Qt::Key_Space, QStringLiteral(" "));
     QVERIFY(f.popup()->isVisible());
     QVERIFY(f.button->isChecked());
-    Gestures::key(f.popup()->windowHandle(), Qt::Key_Escape);
+    VnaTest::typeKey(f.popup(), Qt::Key_Escape);
     QVERIFY(!f.popup()->isVisible());
     QVERIFY(!f.button->isChecked());
     QTest::qWait(250);
@@ -183,8 +178,8 @@ void tst_MenuButton::opensAboveWhenThereIsNoRoomBelow()
     QVERIFY(QTest::qWaitForWindowExposed(&button));
     button.click();
     const QRect shown = button.findChild<PopupWidget *>()->geometry();
-    QVERIFY2(shown.bottom() < button.y(), Gestures::printed(shown));
-    QVERIFY2(shown.right() <= screen.right() - 5, Gestures::printed(shown));
+    QVERIFY(shown.bottom() < button.y());
+    QVERIFY(shown.right() <= screen.right() - 5);
 }
 
 void tst_MenuButton::centredEntriesGetTheirPadding()
@@ -224,8 +219,8 @@ void tst_MenuButton::slotsMayDeleteTheButton()
     else
         connect(f.button, qOverload<const QString &>(&MenuButton::menuItemClicked), &f.window,
                 deleteButton);
-    Gestures::click(f.button);
-    Gestures::click(f.item(0));
+    VnaTest::mouseClick(f.button);
+    f.clickItem(0);
     QVERIFY(!f.button);
     QCOMPARE(f.told.count(), first ? 1 : 2);
 }

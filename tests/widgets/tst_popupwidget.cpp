@@ -10,11 +10,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <pointer.h>
 #include <vnatest.h>
-
-#include "gestures.h"
-
-using Gestures::Spot;
 
 class tst_PopupWidget : public VnaTest::TestCase
 {
@@ -57,10 +54,8 @@ struct Fixture {
     {
         return popup->findChild<QLabel *>(QStringLiteral("IconModeViewTitle"));
     }
-    Spot item(int row) const
-    {
-        return {list()->viewport(), list()->visualItemRect(list()->item(row)).center()};
-    }
+    void clickItem(int row) const { VnaTest::mouseClick(list()->viewport(), itemCentre(row)); }
+    QPoint itemCentre(int row) const { return list()->visualItemRect(list()->item(row)).center(); }
     bool open(const QPoint &at = {200, 200})
     {
         popup->popup();
@@ -200,14 +195,14 @@ void tst_PopupWidget::picksByTap()
 {
     Fixture f(Formats);
     QVERIFY(f.open());
-    Gestures::click(f.item(1));
+    f.clickItem(1);
     QCOMPARE(f.texts(), QStringList{QStringLiteral("Phase")});
     QCOMPARE(f.closed.count(), 1);
     QVERIFY(!f.popup->isVisible());
 
     // The choice outlives the closing: picking it again closes without a word.
     QVERIFY(f.open());
-    Gestures::click(f.item(1));
+    f.clickItem(1);
     QCOMPARE(f.changed.count(), 1);
     QCOMPARE(f.closed.count(), 2);
     QVERIFY(!f.popup->isVisible());
@@ -222,14 +217,14 @@ void tst_PopupWidget::disabledItemKeepsTheChoice()
     f.popup->setItemEnabled(-1, false);
     f.popup->setItemEnabled(3, false);
     QVERIFY(f.open());
-    Gestures::click(f.item(1));
+    f.clickItem(1);
     QTRY_COMPARE(f.list()->currentRow(), 2);
     QVERIFY(f.list()->item(2)->isSelected());
     QVERIFY(f.popup->isVisible());
     QCOMPARE(f.changed.count() + f.closed.count(), 0);
 
     f.popup->setItemEnabled(1, true);
-    Gestures::click(f.item(1));
+    f.clickItem(1);
     QCOMPARE(f.texts(), QStringList{QStringLiteral("Phase")});
 }
 
@@ -241,7 +236,7 @@ void tst_PopupWidget::unknownTextClearsTheChoice()
     QVERIFY(!f.list()->currentItem());
     QVERIFY(f.list()->selectedItems().isEmpty());
     QVERIFY(f.open());
-    Gestures::click(f.item(2));
+    f.clickItem(2);
     QCOMPARE(f.texts(), QStringList{QStringLiteral("Smith")});
 }
 
@@ -253,10 +248,10 @@ void tst_PopupWidget::firstOfEqualTextsStandsForAll()
     f.popup->setItemEnabled(QStringLiteral("a"), false);
     QVERIFY(f.list()->item(2)->flags() & Qt::ItemIsEnabled);
     QVERIFY(f.open());
-    Gestures::click(f.item(2));
+    f.clickItem(2);
     QCOMPARE(f.changed.count(), 0);
     QVERIFY(f.open());
-    Gestures::click(f.item(3));
+    f.clickItem(3);
     QCOMPARE(f.texts(), QStringList{QString()});
 }
 
@@ -266,16 +261,16 @@ void tst_PopupWidget::picksByKey()
     f.popup->setCurrentItem(QStringLiteral("LogM"));
     f.popup->setItemEnabled(1, false);
     QVERIFY(f.open());
-    Gestures::key(f.popup->windowHandle(), Qt::Key_Down); // over the disabled one
+    VnaTest::typeKey(f.popup, Qt::Key_Down); // over the disabled one
     QCOMPARE(f.list()->currentRow(), 2);
     QCOMPARE(f.changed.count(), 0);
-    Gestures::key(f.popup->windowHandle(), Qt::Key_Return, QStringLiteral("\r"));
+    VnaTest::typeKey(f.popup, Qt::Key_Return, QStringLiteral("\r"));
     QCOMPARE(f.texts(), QStringList{QStringLiteral("Smith")});
     QVERIFY(!f.popup->isVisible());
 
     QVERIFY(f.open());
-    Gestures::key(f.popup->windowHandle(), Qt::Key_Up);
-    Gestures::key(f.popup->windowHandle(), Qt::Key_Space, QStringLiteral(" "));
+    VnaTest::typeKey(f.popup, Qt::Key_Up);
+    VnaTest::typeKey(f.popup, Qt::Key_Space, QStringLiteral(" "));
     QCOMPARE(f.texts().last(), QStringLiteral("LogM"));
     QVERIFY(!f.popup->isVisible());
 }
@@ -284,7 +279,7 @@ void tst_PopupWidget::closesByEscapeAndOutsideTap()
 {
     Fixture f(Formats);
     QVERIFY(f.open());
-    Gestures::key(f.popup->windowHandle(), Qt::Key_Escape);
+    VnaTest::typeKey(f.popup, Qt::Key_Escape);
     QVERIFY(!f.popup->isVisible());
     QCOMPARE(f.closed.count(), 1);
 
@@ -293,7 +288,7 @@ void tst_PopupWidget::closesByEscapeAndOutsideTap()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QVERIFY(f.open());
-    Gestures::click(Spot(&window, {10, 10}));
+    VnaTest::mouseClick(&window, {10, 10});
     QVERIFY(!f.popup->isVisible());
     QCOMPARE(f.closed.count(), 2);
     QCOMPARE(f.changed.count(), 0);
@@ -305,12 +300,12 @@ void tst_PopupWidget::titleDragsThePopup()
     f.popup->setTitleText(QStringLiteral("Format"));
     QVERIFY(f.open({200, 200}));
     QWindow *const window = f.popup->windowHandle();
-    Gestures::press(Spot(f.title(), {20, 10}));
+    VnaTest::mousePress(f.title(), {20, 10});
     QTest::mouseMove(window, QPoint(50, 45)); // window coordinates; the window follows
     QCOMPARE(f.popup->pos(), QPoint(230, 235));
     QTest::mouseMove(window, QPoint(10, 10));
     QCOMPARE(f.popup->pos(), QPoint(220, 235));
-    Gestures::release(Spot(f.title(), {20, 10}));
+    VnaTest::mouseRelease(f.title(), {20, 10});
     QTest::mouseMove(window, QPoint(60, 12));
     QCOMPARE(f.popup->pos(), QPoint(220, 235));
     QVERIFY(f.popup->isVisible());
@@ -347,59 +342,54 @@ void tst_PopupWidget::slidesWhenTallerThanTheScreen()
         return QRect(f.list()->viewport()->mapToGlobal(row.topLeft()), row.size());
     };
     for (int i = 0; i < 40; ++i)
-        Gestures::key(f.popup->windowHandle(), Qt::Key_Down);
+        VnaTest::typeKey(f.popup, Qt::Key_Down);
     QCOMPARE(f.list()->currentRow(), 43);
     QVERIFY(screen.contains(currentOnScreen()));
-    Gestures::key(f.popup->windowHandle(), Qt::Key_End);
+    VnaTest::typeKey(f.popup, Qt::Key_End);
     QCOMPARE(f.list()->currentRow(), 499);
     QVERIFY(screen.contains(currentOnScreen()));
-    Gestures::key(f.popup->windowHandle(), Qt::Key_Home);
+    VnaTest::typeKey(f.popup, Qt::Key_Home);
     QCOMPARE(f.list()->currentRow(), 0);
     QVERIFY(screen.contains(currentOnScreen()));
 
     // A finger pulls the list along, and its release picks nothing.
     QWindow *const window = f.popup->windowHandle();
     const int before = f.popup->y();
-    Gestures::press(Spot(f.list()->viewport(), {50, 400}));
+    VnaTest::mousePress(f.list()->viewport(), {50, 400});
     QTest::mouseMove(window, {50, 395}); // a tap may tremble
     QCOMPARE(f.popup->y(), before);
     QTest::mouseMove(window, {50, 200});
     QVERIFY(f.popup->y() < before - 190);
-    Gestures::release(Spot(f.list()->viewport(), {50, 400}));
+    VnaTest::mouseRelease(f.list()->viewport(), {50, 400});
     QVERIFY(f.popup->isVisible());
     QCOMPARE(f.changed.count(), 0);
     QCOMPARE(f.list()->currentRow(), 3);
-    Gestures::click(f.item(12));
+    f.clickItem(12);
     QCOMPARE(f.texts(), QStringList{QStringLiteral("12")});
 }
 
 void tst_PopupWidget::touch()
 {
-    auto *const screen = QTest::createTouchDevice();
     Fixture f(Formats);
     QVERIFY(f.open());
-    QWindow *const window = f.popup->windowHandle();
+    VnaTest::TouchScreen screen(f.popup);
+    const auto item = [&f](int row) {
+        return f.list()->viewport()->mapTo(f.popup, f.itemCentre(row));
+    };
 
     // A second finger does not pick, and an event without points harms nobody.
-    QTest::touchEvent(window, screen).press(0, f.item(0).point, window);
-    QTest::touchEvent(window, screen)
-        .move(0, f.item(0).point, window)
-        .press(1, f.item(2).point, window);
-    QTest::touchEvent(window, screen)
-        .move(0, f.item(0).point, window)
-        .release(1, f.item(2).point, window);
-    for (const QEvent::Type type : {QEvent::TouchUpdate, QEvent::TouchCancel}) {
-        QTouchEvent event(type, screen);
-        QCoreApplication::sendEvent(f.list()->viewport(), &event);
-    }
+    screen.press(item(0));
+    screen.pressSecond(item(2));
+    screen.releaseSecond(item(2));
+    for (const QEvent::Type type : {QEvent::TouchUpdate, QEvent::TouchCancel})
+        QVERIFY(!VnaTest::sendTouchWithoutPoints(f.list()->viewport(), type));
     QVERIFY(f.popup->isVisible());
     QCOMPARE(f.changed.count(), 0);
-    QTest::touchEvent(window, screen).release(0, f.item(0).point, window);
+    screen.release(item(0));
     QCOMPARE(f.texts(), QStringList{QStringLiteral("LogM")});
 
     QVERIFY(f.open());
-    QTest::touchEvent(window, screen).press(0, f.item(1).point, window);
-    QTest::touchEvent(window, screen).release(0, f.item(1).point, window);
+    screen.tap(item(1));
     QCOMPARE(f.texts().last(), QStringLiteral("Phase"));
 }
 
@@ -423,12 +413,11 @@ void tst_PopupWidget::survivesSlotsThatDeleteIt()
     else
         connect(f.popup, &PopupWidget::currentItemChanged, [&f] { delete f.popup; });
     QVERIFY(f.open());
-    const Spot spot = f.item(1);
     if (byKey) {
         f.list()->setCurrentRow(1);
-        QTest::sendKeyEvent(QTest::Press, spot.window, Qt::Key_Return, QString(), Qt::NoModifier);
+        VnaTest::typeKey(f.popup, Qt::Key_Return);
     } else {
-        Gestures::click(spot);
+        f.clickItem(1);
     }
     QVERIFY(!f.popup);
     QCOMPARE(f.texts(), QStringList{QStringLiteral("Phase")});

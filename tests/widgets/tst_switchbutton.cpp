@@ -8,9 +8,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <pointer.h>
 #include <vnatest.h>
-
-#include "gestures.h"
 
 class tst_SwitchButton : public VnaTest::TestCase
 {
@@ -65,10 +64,10 @@ void tst_SwitchButton::tellsEveryTap()
 {
     Fixture f;
     QVERIFY(f.activate());
-    Gestures::click(f.on());
-    Gestures::click(f.on());
+    VnaTest::mouseClick(f.on());
+    VnaTest::mouseClick(f.on());
     QVERIFY(f.button->status());
-    Gestures::click(f.off());
+    VnaTest::mouseClick(f.off());
     QVERIFY(!f.button->status());
     QCOMPARE(f.changed.count(), 3);
     QCOMPARE(f.changed.at(1).at(0).toBool(), true);
@@ -90,13 +89,13 @@ void tst_SwitchButton::worksByKeyboard()
 {
     Fixture f;
     QVERIFY(f.activate());
-    Gestures::key(f.window.windowHandle(), Qt::Key_Tab);
+    VnaTest::typeKey(&f.window, Qt::Key_Tab);
     QVERIFY(f.off()->hasFocus());
-    Gestures::key(f.window.windowHandle(), Qt::Key_Left);
+    VnaTest::typeKey(&f.window, Qt::Key_Left);
     QVERIFY(f.on()->hasFocus());
     QVERIFY(f.button->status());
     QCOMPARE(f.changed.count(), 1);
-    Gestures::key(f.window.windowHandle(), Qt::Key_Right);
+    VnaTest::typeKey(&f.window, Qt::Key_Right);
     QVERIFY(!f.button->status());
 }
 
@@ -106,12 +105,12 @@ void tst_SwitchButton::inertSwitchStaysAsItIs()
     QVERIFY(f.activate());
     f.on()->setFocus();
     f.button->setClickable(false);
-    Gestures::click(f.on());
-    Gestures::key(f.window.windowHandle(), Qt::Key_Space, QStringLiteral(" "));
+    VnaTest::mouseClick(f.on());
+    VnaTest::typeKey(&f.window, Qt::Key_Space, QStringLiteral(" "));
     QVERIFY(!f.button->status());
     QCOMPARE(f.changed.count(), 0);
     f.button->setClickable(true);
-    Gestures::click(f.on());
+    VnaTest::mouseClick(f.on());
     QCOMPARE(f.changed.count(), 1);
 }
 
@@ -133,7 +132,7 @@ void tst_SwitchButton::slotMayDeleteTheSwitch()
     Fixture f;
     QVERIFY(f.activate());
     connect(f.button, &SwitchButton::statusChanged, &f.window, [&f] { delete f.button.data(); });
-    Gestures::click(f.on());
+    VnaTest::mouseClick(f.on());
     QVERIFY(!f.button);
 }
 
