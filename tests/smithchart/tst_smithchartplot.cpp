@@ -9,7 +9,6 @@
 
 #include <vnatest.h>
 
-#include <functional>
 #include <limits>
 #include <memory>
 
@@ -333,12 +332,9 @@ private Q_SLOTS:
         SmithChartPlot chart(plot.get(), SmithChart::Basic);
         chart.addCurve(1, QPen());
         chart.setCurveData(1, {}, {0.1, 0.2}, {0.3, 0.4});
-        const QVector<double> *frequencies = nullptr;
-        const QVector<double> *real = nullptr;
-        const QVector<double> *imag = nullptr;
+        const QVector<double> *frequencies, *real, *imag;
         QVERIFY(chart.sourceCurveData(1, frequencies, real, imag));
         QVERIFY(chart.setCurveData(1, *imag, *imag, *real));
-        QVERIFY(chart.sourceCurveData(1, frequencies, real, imag));
         QCOMPARE(*frequencies, QVector<double>({0.3, 0.4}));
         QCOMPARE(*real, QVector<double>({0.3, 0.4}));
         QCOMPARE(*imag, QVector<double>({0.1, 0.2}));
@@ -446,62 +442,6 @@ private Q_SLOTS:
         QCOMPARE(replots.count(), 0);
         chart.setCurveVisible(1, false);
         QTRY_COMPARE(replots.count(), 1);
-    }
-
-    /// Some setters ask for several replots, and the host may act on the first.
-    void replotHandlerMayChangeOrDeleteTheChart()
-    {
-        using Chart = SmithChartPlot;
-        const std::function<void(Chart &)> setters[] = {
-            [](Chart &chart) { chart.setGridMode(Chart::Admittance); },
-            [](Chart &chart) { chart.setAxes(chart.getPlot()->xAxis2, chart.getPlot()->yAxis2); },
-            [](Chart &chart) { chart.clearAllCurves(); },
-            [](Chart &chart) { chart.setCurveData(1, {}, {0.3}, {0.3}); },
-            [](Chart &chart) { chart.selectMarker(1, 2); },
-            [](Chart &chart) { chart.clearMarkerSelection(); },
-            [](Chart &chart) {
-                QResizeEvent resize({}, {});
-                QCoreApplication::sendEvent(chart.getPlot(), &resize);
-            },
-        };
-        const std::function<void(Chart &)> reactions[] = {
-            [](Chart &chart) { delete &chart; },
-            [](Chart &chart) { chart.removeCurve(1); },
-            [](Chart &chart) { chart.clearAllCurves(); },
-            [](Chart &chart) {
-                for (int id = 10; id < 30; ++id)
-                    chart.addCurve(id, QPen());
-            },
-        };
-        QLoggingCategory::setFilterRules(QStringLiteral("vna.smith.render.performance.debug=true"));
-        for (const auto &setter : setters) {
-            for (const auto &reaction : reactions) {
-                for (int when = 1; when <= 3; ++when) {
-                    const auto plot = makePlot();
-                    QPointer<Chart> chart = new Chart(plot.get(), SmithChart::Basic, plot.get());
-                    for (int id : {1, 2}) {
-                        chart->addCurve(id, QPen());
-                        chart->setCurveData(id, {}, {0.1, 0.2}, {0.1, 0.2});
-                    }
-                    chart->addMarkerVisual(1, 1, 0.0, Plot::PointingDown);
-                    chart->addMarkerVisual(1, 2, 1.0, Plot::PointingDown);
-                    chart->selectMarker(1, 1);
-                    int calls = 0;
-                    chart->setQueuedReplotHandler([&] {
-                        if (++calls == when)
-                            reaction(*chart);
-                    });
-                    setter(*chart);
-                    int trace = 0;
-                    int local = 0;
-                    if (chart && chart->getSelectedMarker(trace, local))
-                        QVERIFY(chart->getMarker(trace, local));
-                    if (chart)
-                        chart->setQueuedReplotHandler({});
-                }
-            }
-        }
-        QLoggingCategory::setFilterRules(QString());
     }
 
     void otherAxes()
