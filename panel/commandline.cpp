@@ -38,7 +38,7 @@ CommandLine parseCommandLine(const QStringList &arguments)
             options = false;
             continue;
         }
-        const int equals = argument.indexOf(QLatin1Char('='));
+        const int equals = int(argument.indexOf(QLatin1Char('=')));
         const QString name = argument.left(equals);
         const bool takesValue = name == QLatin1String("--grab") || name == QLatin1String("--size");
         QString value = equals < 0 ? QString() : argument.mid(equals + 1);

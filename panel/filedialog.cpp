@@ -145,7 +145,7 @@ void FileDialog::onItemActivated(QListWidgetItem *item)
 
 void FileDialog::updateButtons()
 {
-    const int picked = pickedFiles().size();
+    const int picked = int(pickedFiles().size());
     m_open->setEnabled(picked > 0);
     if (picked > 0)
         m_hint->setText(tr("Picked: %n", nullptr, picked));

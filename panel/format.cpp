@@ -18,7 +18,7 @@ QString frequencyText(double hertz)
     while (unit->size > 1.0 && std::abs(hertz) < unit->size)
         ++unit;
     QString digits = QString::number(hertz / unit->size, 'f', 9);
-    const int shortest = digits.indexOf(QLatin1Char('.')) + 4;
+    const int shortest = int(digits.indexOf(QLatin1Char('.'))) + 4;
     while (digits.size() > shortest && digits.endsWith(QLatin1Char('0')))
         digits.chop(1);
     return digits + QLatin1Char(' ') + QLatin1String(unit->name);

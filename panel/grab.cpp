@@ -76,7 +76,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     SmithView *view = window->smithView();
 
     if (const Trace *trace = model->activeTrace()) {
-        const int last = model->network(*trace).frequencies.size() - 1;
+        const int last = model->network(*trace).points() - 1;
         model->addMarker(trace->id, last / 3);
         model->addMarker(trace->id, last / 2);
     }

@@ -15,7 +15,7 @@ namespace
 
 double interpolated(const QVector<double> &values, double index)
 {
-    const int i = qBound(0, int(index), values.size() - 1);
+    const int i = qBound(0, int(index), int(values.size()) - 1);
     const double fraction = index - i;
     return fraction > 0.0 && i + 1 < values.size()
         ? values.at(i) + (values.at(i + 1) - values.at(i)) * fraction

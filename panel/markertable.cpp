@@ -42,7 +42,7 @@ MarkerTable::MarkerTable(const PanelModel *model, QWidget *parent)
 
 void MarkerTable::refresh()
 {
-    const int rows = m_model->activeMarkers().size();
+    const int rows = int(m_model->activeMarkers().size());
     setFixedHeight((rows + columns() - 1) / columns() * rowHeight());
     update();
 }

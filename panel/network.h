@@ -26,6 +26,7 @@ struct Network {
     /// S11 of a one-port; S11, S21, S12, S22 of a two-port.
     QVector<Parameter> parameters;
 
+    int points() const { return int(frequencies.size()); }
     /// The wave leaving port `to` over the wave entering port `from`; ports count from 1.
     const Parameter &s(int to, int from) const
     {

@@ -157,8 +157,8 @@ void PanelController::onMarkerPicked(int index)
         // Each further marker halves the largest gap that the ones before have left.
         static constexpr double places[PanelModel::markersPerTrace] = {0.5,   0.25,  0.75,
                                                                        0.125, 0.625, 0.375};
-        const int count = m_model->activeMarkers().size();
-        const int last = m_model->network(*trace).frequencies.size() - 1;
+        const int count = int(m_model->activeMarkers().size());
+        const int last = m_model->network(*trace).points() - 1;
         m_model->addMarker(trace->id,
                            std::floor(last * places[qMin(count, PanelModel::markersPerTrace - 1)]));
     } else if (index == Remove) {

@@ -25,7 +25,7 @@ void PanelModel::setNetworks(const QVector<Network> &networks)
     m_traces.clear();
     for (int i = 0; i < m_networks.size(); ++i) {
         for (int port = 1; port <= m_networks.at(i).ports; ++port)
-            m_traces.append({m_traces.size() + 1, i, port, port, true});
+            m_traces.append({int(m_traces.size()) + 1, i, port, port, true});
     }
     m_markers.clear();
     m_selectedTrace = 0;
@@ -78,7 +78,7 @@ const Marker *PanelModel::marker(int traceId, int number) const
 bool PanelModel::holdsIndex(int traceId, double index) const
 {
     const Trace *owner = trace(traceId);
-    return owner && index >= 0.0 && index <= network(*owner).frequencies.size() - 1;
+    return owner && index >= 0.0 && index <= network(*owner).points() - 1;
 }
 
 int PanelModel::addMarker(int traceId, double index)

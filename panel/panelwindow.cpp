@@ -178,7 +178,7 @@ void PanelWindow::showModel()
 {
     const Trace *active = m_model->activeTrace();
     m_pages->setCurrentIndex(active ? 0 : 1);
-    const int files = m_model->networks().size();
+    const int files = int(m_model->networks().size());
     m_fileKey->setValue(files == 0       ? tr("Open\u2026")
                             : files == 1 ? m_model->networks().first().name
                                          : tr("%n files", nullptr, files));

@@ -1,121 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk.h"
 #include "vnatest.h"
 
 #include <controls/thememanager.h>
 #include <panel/filedialog.h>
 #include <panel/look.h>
-#include <panel/markertable.h>
-#include <panel/messagebar.h>
-#include <panel/panelcontroller.h>
-#include <panel/panelmodel.h>
-#include <panel/panelwindow.h>
-#include <panel/samples.h>
-#include <panel/smithview.h>
-#include <panel/softkey.h>
 #include <panel/tracebar.h>
-#include <plot/qcp.h>
 
 #include <QListWidget>
-#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
 
-#include <memory>
-
 using namespace Panel;
 
 namespace
 {
-
-/// The panel as main() makes it, on screen, with pointer events sent to its window.
-struct Desk {
-    PanelModel model;
-    PanelWindow window;
-    PanelController controller;
-
-    explicit Desk(const QSize &size = QSize(1024, 600))
-        : window(&model)
-        , controller(&model, &window)
-    {
-        window.resize(size);
-        controller.openFiles({startSample()});
-        window.show();
-        settle();
-    }
-
-    SmithView *view() const { return window.smithView(); }
-    SmithChartPlot *chart() const { return view()->chart(); }
-
-    static void settle()
-    {
-        for (int i = 0; i < 4; ++i)
-            QCoreApplication::processEvents();
-    }
-
-    /// A point of the plot, given as a share of its size, in pixels of the plot.
-    QPoint onPlot(double x, double y) const
-    {
-        const QRect area = view()->plot()->axisRect()->rect();
-        return {area.left() + qRound(x * area.width()), area.top() + qRound(y * area.height())};
-    }
-    QPoint inWindow(const QPoint &onPlot) const { return view()->plot()->mapTo(&window, onPlot); }
-    QPointF chartPoint(const QPoint &onPlot) const { return view()->chartPoint(onPlot); }
-
-    void turnWheel(const QPoint &onPlot, int notches)
-    {
-        const QPoint position = inWindow(onPlot);
-        QWheelEvent wheel(position, window.mapToGlobal(position), QPoint(),
-                          QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
-                          false);
-        QCoreApplication::sendEvent(window.windowHandle(), &wheel);
-        settle();
-    }
-
-    void drag(const QPoint &from, const QPoint &to)
-    {
-        QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(from));
-        for (int step = 1; step <= 10; ++step)
-            QTest::mouseMove(window.windowHandle(), inWindow(from + (to - from) * step / 10));
-        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(to));
-        settle();
-    }
-
-    void click(const QWidget *widget)
-    {
-        QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          widget->mapTo(widget->window(), widget->rect().center()));
-        settle();
-    }
-
-    /// A point of a trace in pixels of the plot.
-    QPoint onTrace(int traceId, int index) const
-    {
-        const Parameter &data = model.data(*model.trace(traceId));
-        return {qRound(view()->plot()->xAxis->coordToPixel(data.real.at(index))),
-                qRound(view()->plot()->yAxis->coordToPixel(data.imag.at(index)))};
-    }
-
-    void doubleClick(const QPoint &onPlot)
-    {
-        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(onPlot));
-        settle();
-    }
-
-    /// Picks a choice of a soft key from its list, as a finger would.
-    void pick(SoftKey *key, int index)
-    {
-        click(key);
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        QVERIFY(menu);
-        QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          menu->actionGeometry(menu->actions().at(index)).center());
-        settle();
-    }
-};
 
 /// Distance of two chart points in pixels of the chart.
 double pixels(const Desk &desk, const QPointF &a, const QPointF &b)
@@ -141,9 +44,6 @@ private Q_SLOTS:
     void dragMovesTheMagnifiedView();
     void unmagnifiedViewStays();
     void doubleClickResetsOnFreeSpace();
-    void doubleClickMarksTheTrace();
-    void markersFollowTheirPointer();
-    void markerKeyAddsAndRemoves();
     void twoFingersZoom();
     void keysMoveTheView();
     void badFileKeepsWhatWasShown();
@@ -301,85 +201,6 @@ void PanelWindowTest::doubleClickResetsOnFreeSpace()
                        desk.inWindow(desk.onPlot(0.02, 0.02)));
     QVERIFY(!desk.chart()->isMagnified());
     QCOMPARE(desk.window.zoomKey()->value(), QStringLiteral("1.00 \u00d7"));
-}
-
-void PanelWindowTest::doubleClickMarksTheTrace()
-{
-    Desk desk;
-    // The end of S22 lies far from S11, which is active and would win nearby.
-    const int last = desk.model.networks().first().frequencies.size() - 1;
-    desk.doubleClick(desk.onTrace(2, last));
-    QCOMPARE(desk.model.activeTrace()->id, 2);
-    QCOMPARE(desk.model.markers().size(), 1);
-    QVERIFY(desk.model.marker(2, 1)->index > last - 20.0);
-    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
-    QVERIFY(desk.view()->markerTable()->height() > 10);
-
-    // On a marker a double click means that marker, and adds none.
-    desk.doubleClick(desk.onTrace(2, int(desk.model.marker(2, 1)->index)));
-    QCOMPARE(desk.model.markers().size(), 1);
-
-    // A new chart and a hidden trace take the marker with them.
-    desk.view()->setDensity(SmithChart::Basic);
-    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
-    desk.model.setTraceVisible(2, false);
-    QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
-    desk.view()->setDensity(SmithChart::Standard);
-    QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
-    desk.model.setTraceVisible(2, true);
-    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
-}
-
-void PanelWindowTest::markersFollowTheirPointer()
-{
-    Desk desk;
-    desk.model.addMarker(1, 0.0);
-    desk.model.addMarker(2, 0.0);
-    Desk::settle();
-    const SmithChart::ViewState view = desk.chart()->viewState();
-    desk.drag(desk.onTrace(1, 0), desk.onTrace(1, 100));
-    QVERIFY2(std::abs(desk.model.marker(1, 1)->index - 100.0) < 10.0,
-             qPrintable(QString::number(desk.model.marker(1, 1)->index)));
-    QCOMPARE(desk.model.selectedMarker(), desk.model.marker(1, 1));
-    QCOMPARE(desk.model.activeTrace()->id, 1);
-    QCOMPARE(desk.chart()->viewState().zoom, view.zoom);
-
-    const double index = desk.model.marker(1, 1)->index;
-    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Right);
-    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Right);
-    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Left);
-    QCOMPARE(desk.model.marker(1, 1)->index, index + 1.0);
-    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Delete);
-    QVERIFY(!desk.model.marker(1, 1));
-    QVERIFY(desk.model.marker(2, 1));
-
-    // A tap on free space selects none, one on a marker that marker.
-    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                      desk.inWindow(desk.onTrace(2, 0)));
-    QCOMPARE(desk.model.selectedMarker(), desk.model.marker(2, 1));
-    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                      desk.inWindow(desk.onPlot(0.01, 0.01)));
-    QVERIFY(!desk.model.selectedMarker());
-}
-
-void PanelWindowTest::markerKeyAddsAndRemoves()
-{
-    Desk desk;
-    for (int number = 1; number <= PanelModel::markersPerTrace + 1; ++number)
-        desk.pick(desk.window.markerKey(), 0);
-    QCOMPARE(desk.model.activeMarkers().size(), PanelModel::markersPerTrace);
-    QVERIFY(desk.window.messageBar()->isVisible());
-    QCOMPARE(desk.window.markerKey()->value(), QStringLiteral("M6"));
-
-    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                      desk.view()->markerTable()->mapTo(&desk.window, QPoint(20, 8)));
-    QCOMPARE(desk.window.markerKey()->value(), QStringLiteral("M1"));
-    desk.pick(desk.window.markerKey(), 1);
-    QVERIFY(!desk.model.marker(1, 1));
-    QCOMPARE(desk.window.markerKey()->value(), QStringLiteral("None"));
-    desk.pick(desk.window.markerKey(), 2);
-    QVERIFY(desk.model.markers().isEmpty());
-    QCOMPARE(desk.view()->markerTable()->height(), 0);
 }
 
 void PanelWindowTest::twoFingersZoom()

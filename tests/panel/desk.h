@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <panel/messagebar.h>
+#include <panel/panelcontroller.h>
+#include <panel/panelmodel.h>
+#include <panel/panelwindow.h>
+#include <panel/samples.h>
+#include <panel/smithview.h>
+#include <panel/softkey.h>
+#include <plot/qcp.h>
+
+#include <QMenu>
+#include <QtTest>
+
+/// The panel as main() makes it, on screen, with pointer events sent to its window.
+struct Desk {
+    Panel::PanelModel model;
+    Panel::PanelWindow window;
+    Panel::PanelController controller;
+
+    explicit Desk(const QSize &size = QSize(1024, 600))
+        : window(&model)
+        , controller(&model, &window)
+    {
+        window.resize(size);
+        controller.openFiles({Panel::startSample()});
+        window.show();
+        settle();
+    }
+
+    Panel::SmithView *view() const { return window.smithView(); }
+    SmithChartPlot *chart() const { return view()->chart(); }
+
+    static void settle()
+    {
+        for (int i = 0; i < 4; ++i)
+            QCoreApplication::processEvents();
+    }
+
+    /// A point of the plot, given as a share of its size, in pixels of the plot.
+    QPoint onPlot(double x, double y) const
+    {
+        const QRect area = view()->plot()->axisRect()->rect();
+        return {area.left() + qRound(x * area.width()), area.top() + qRound(y * area.height())};
+    }
+    QPoint inWindow(const QPoint &onPlot) const { return view()->plot()->mapTo(&window, onPlot); }
+    QPointF chartPoint(const QPoint &onPlot) const { return view()->chartPoint(onPlot); }
+
+    void turnWheel(const QPoint &onPlot, int notches)
+    {
+        const QPoint position = inWindow(onPlot);
+        QWheelEvent wheel(position, window.mapToGlobal(position), QPoint(),
+                          QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(window.windowHandle(), &wheel);
+        settle();
+    }
+
+    void drag(const QPoint &from, const QPoint &to)
+    {
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(from));
+        for (int step = 1; step <= 10; ++step)
+            QTest::mouseMove(window.windowHandle(), inWindow(from + (to - from) * step / 10));
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(to));
+        settle();
+    }
+
+    void click(const QWidget *widget)
+    {
+        QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          widget->mapTo(widget->window(), widget->rect().center()));
+        settle();
+    }
+
+    /// A point of a trace in pixels of the plot.
+    QPoint onTrace(int traceId, int index) const
+    {
+        const Panel::Parameter &data = model.data(*model.trace(traceId));
+        return {qRound(view()->plot()->xAxis->coordToPixel(data.real.at(index))),
+                qRound(view()->plot()->yAxis->coordToPixel(data.imag.at(index)))};
+    }
+
+    void doubleClick(const QPoint &onPlot)
+    {
+        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(onPlot));
+        settle();
+    }
+
+    /// Picks a choice of a soft key from its list, as a finger would.
+    void pick(Panel::SoftKey *key, int index)
+    {
+        click(key);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          menu->actionGeometry(menu->actions().at(index)).center());
+        settle();
+    }
+};

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk.h"
+#include "vnatest.h"
+
+#include <panel/look.h>
+#include <panel/markertable.h>
+
+using namespace Panel;
+
+class PanelMarkersTest : public VnaTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { setUpApplication(); }
+    void doubleClickMarksTheTrace();
+    void markersFollowTheirPointer();
+    void markerKeyAddsAndRemoves();
+};
+
+void PanelMarkersTest::doubleClickMarksTheTrace()
+{
+    Desk desk;
+    // The end of S22 lies far from S11, which is active and would win nearby.
+    const int last = desk.model.networks().first().frequencies.size() - 1;
+    desk.doubleClick(desk.onTrace(2, last));
+    QCOMPARE(desk.model.activeTrace()->id, 2);
+    QCOMPARE(desk.model.markers().size(), 1);
+    QVERIFY(desk.model.marker(2, 1)->index > last - 20.0);
+    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+    QVERIFY(desk.view()->markerTable()->height() > 10);
+
+    // On a marker a double click means that marker, and adds none.
+    desk.doubleClick(desk.onTrace(2, int(desk.model.marker(2, 1)->index)));
+    QCOMPARE(desk.model.markers().size(), 1);
+
+    // A new chart and a hidden trace take the marker with them.
+    desk.view()->setDensity(SmithChart::Basic);
+    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+    desk.model.setTraceVisible(2, false);
+    QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
+    desk.view()->setDensity(SmithChart::Standard);
+    QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
+    desk.model.setTraceVisible(2, true);
+    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+}
+
+void PanelMarkersTest::markersFollowTheirPointer()
+{
+    Desk desk;
+    desk.model.addMarker(1, 0.0);
+    desk.model.addMarker(2, 0.0);
+    Desk::settle();
+    const SmithChart::ViewState view = desk.chart()->viewState();
+    desk.drag(desk.onTrace(1, 0), desk.onTrace(1, 100));
+    QVERIFY2(std::abs(desk.model.marker(1, 1)->index - 100.0) < 10.0,
+             qPrintable(QString::number(desk.model.marker(1, 1)->index)));
+    QCOMPARE(desk.model.selectedMarker(), desk.model.marker(1, 1));
+    QCOMPARE(desk.model.activeTrace()->id, 1);
+    QCOMPARE(desk.chart()->viewState().zoom, view.zoom);
+
+    const double index = desk.model.marker(1, 1)->index;
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Right);
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Right);
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Left);
+    QCOMPARE(desk.model.marker(1, 1)->index, index + 1.0);
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Delete);
+    QVERIFY(!desk.model.marker(1, 1));
+    QVERIFY(desk.model.marker(2, 1));
+
+    // A tap on free space selects none, one on a marker that marker.
+    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      desk.inWindow(desk.onTrace(2, 0)));
+    QCOMPARE(desk.model.selectedMarker(), desk.model.marker(2, 1));
+    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      desk.inWindow(desk.onPlot(0.01, 0.01)));
+    QVERIFY(!desk.model.selectedMarker());
+}
+
+void PanelMarkersTest::markerKeyAddsAndRemoves()
+{
+    Desk desk;
+    for (int number = 1; number <= PanelModel::markersPerTrace + 1; ++number)
+        desk.pick(desk.window.markerKey(), 0);
+    QCOMPARE(desk.model.activeMarkers().size(), PanelModel::markersPerTrace);
+    QVERIFY(desk.window.messageBar()->isVisible());
+    QCOMPARE(desk.window.markerKey()->value(), QStringLiteral("M6"));
+
+    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      desk.view()->markerTable()->mapTo(&desk.window, QPoint(20, 8)));
+    QCOMPARE(desk.window.markerKey()->value(), QStringLiteral("M1"));
+    desk.pick(desk.window.markerKey(), 1);
+    QVERIFY(!desk.model.marker(1, 1));
+    QCOMPARE(desk.window.markerKey()->value(), QStringLiteral("None"));
+    desk.pick(desk.window.markerKey(), 2);
+    QVERIFY(desk.model.markers().isEmpty());
+    QCOMPARE(desk.view()->markerTable()->height(), 0);
+}
+
+QTEST_MAIN(PanelMarkersTest)
+#include "tst_panelmarkers.moc"
