@@ -66,10 +66,7 @@ LockWidget::LockWidget(QWidget *parent, QWidget *target_)
     , ui(std::make_unique<Ui::LockWidget>())
     , target(target_)
 {
-    static const bool accessibleInstalled =
-        (QAccessible::installFactory(&Accessible::create), true);
-    Q_UNUSED(accessibleInstalled)
-
+    QAccessible::installFactory(&Accessible::create);
     ui->setupUi(this);
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("LockWidget { background-color: transparent; }"));

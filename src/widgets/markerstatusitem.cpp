@@ -4,6 +4,7 @@
 
 #include "ui_markerstatusitem.h"
 
+#include <QAccessibleWidget>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -15,12 +16,68 @@ namespace
 /// What dot and name take of a line.
 constexpr int s_dotAndNameWidth = 50;
 
+/// Dynamic property of the dot's label: the picture that it shows.
+constexpr char s_pathProperty[] = "PixmapPath";
+
 } // namespace
+
+/// To a screen reader the read-out is a list item: named after the marker, with the readings as
+/// value.
+class MarkerStatusItem::Accessible : public QAccessibleWidget
+{
+public:
+    explicit Accessible(MarkerStatusItem *item)
+        : QAccessibleWidget(item, QAccessible::ListItem)
+    {
+    }
+
+    static QAccessibleInterface *create(const QString &className, QObject *object)
+    {
+        Q_UNUSED(className)
+        auto *item = qobject_cast<MarkerStatusItem *>(object);
+        return item ? new Accessible(item) : nullptr;
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Name)
+            return item()->nameText;
+        if (kind == QAccessible::Value)
+            return item()->readings().join(QLatin1Char(' '));
+        return QAccessibleWidget::text(kind);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.selectable = true;
+        state.selected =
+            !item()->ui->selectedStatusLabel->property(s_pathProperty).toString().isEmpty();
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString &actionName) override
+    {
+        if (actionName == pressAction())
+            Q_EMIT item()->clicked();
+        else
+            QAccessibleWidget::doAction(actionName);
+    }
+
+private:
+    MarkerStatusItem *item() const { return static_cast<MarkerStatusItem *>(widget()); }
+};
 
 MarkerStatusItem::MarkerStatusItem(QWidget *parent)
     : QWidget(parent)
     , ui(std::make_unique<Ui::MarkerStatusItem>())
 {
+    QAccessible::installFactory(&Accessible::create);
     ui->setupUi(this);
     // Spare width goes between the stimulus and the values.
     ui->horizontalLayout->setStretch(2, 0);
@@ -61,21 +118,17 @@ void MarkerStatusItem::setText(const QString &name, const QString &key, const QS
     valueText1 = value1;
     valueText2 = value2;
     valueText3 = value3;
-    setAccessibleName(name);
-    setAccessibleDescription(
-        QStringList{key, value1, value2, value3}.join(QLatin1Char(' ')).simplified());
     updateResponsiveLayout();
 }
 
 void MarkerStatusItem::setSelectedStatus(bool selected)
 {
-    static const char pathProperty[] = "PixmapPath";
     const QString path =
         selected ? QStringLiteral(":/image/resource/marker_selected.svg") : QString();
-    if (ui->selectedStatusLabel->property(pathProperty).toString() == path)
+    if (ui->selectedStatusLabel->property(s_pathProperty).toString() == path)
         return;
     ui->selectedStatusLabel->setPixmap(QPixmap(path));
-    ui->selectedStatusLabel->setProperty(pathProperty, path);
+    ui->selectedStatusLabel->setProperty(s_pathProperty, path);
 }
 
 void MarkerStatusItem::setColor(const QColor &color)
@@ -253,13 +306,9 @@ void MarkerStatusItem::showFolded()
     ui->selectedStatusLabel->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
     ui->horizontalLayout->setAlignment(ui->selectedStatusLabel, Qt::AlignTop | Qt::AlignHCenter);
 
-    QStringList values;
     for (Controls::RoundLabel *label : {ui->valueLabel1, ui->valueLabel2, ui->valueLabel3})
         label->hide();
-    for (const QString &text : {valueText1, valueText2, valueText3}) {
-        if (!text.isEmpty())
-            values << text;
-    }
+    const QStringList values = readings().mid(keyText.isEmpty() ? 0 : 1);
     QString block = wrapTextToWidth(keyText, available);
     if (!values.isEmpty())
         block += QLatin1Char('\n') + wrapTextToWidth(values.join(QLatin1Char(' ')), available);
@@ -270,6 +319,14 @@ void MarkerStatusItem::showFolded()
     ui->keyLabel->setFixedWidth(available);
     const int lines = int(block.count(QLatin1Char('\n'))) + 1;
     setFixedHeight(ui->keyLabel->fontMetrics().lineSpacing() * lines + 2);
+}
+
+/// Stimulus and values, without the empty ones.
+QStringList MarkerStatusItem::readings() const
+{
+    QStringList texts{keyText, valueText1, valueText2, valueText3};
+    texts.removeAll(QString());
+    return texts;
 }
 
 QString MarkerStatusItem::wrapTextToWidth(const QString &text, int maxWidth) const

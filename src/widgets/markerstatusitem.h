@@ -75,9 +75,12 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    class Accessible;
+
     void updateResponsiveLayout();
     void showOnOneLine();
     void showFolded();
+    QStringList readings() const;
     QString wrapTextToWidth(const QString &text, int maxWidth) const;
     bool filterPress(QMouseEvent *event);
 

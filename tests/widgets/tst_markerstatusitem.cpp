@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/markerstatusitem.h>
 
+#include <QAccessible>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -153,8 +154,13 @@ private Q_SLOTS:
         QCOMPARE(textOf(&item, "keyLabel"), QStringLiteral("untouched"));
         fill(&item, QStringLiteral("2"));
         QCOMPARE(textOf(&item, "keyLabel"), QStringLiteral("2.412GHz"));
-        QCOMPARE(item.accessibleName(), QStringLiteral("M1:"));
-        QCOMPARE(item.accessibleDescription(), QStringLiteral("2.412GHz -1.32dB 2"));
+
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&item);
+        QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("M1:"));
+        QCOMPARE(accessible->text(QAccessible::Value), QStringLiteral("2.412GHz -1.32dB 2"));
+        QVERIFY(!accessible->state().selected);
+        item.setSelectedStatus(true);
+        QVERIFY(accessible->state().selected);
     }
 
     void dotColourAndWeight()
