@@ -38,13 +38,13 @@ class VNAWIDGETS_EXPORT OverlayContainer : public QFrame
 
 public:
     /// What a press beside the dialog does after outsideClicked().
-    enum OutsideClickAction {
+    enum OutsideClickAction : int {
         None = 0,
         Accept = 1,
         Reject = 2,
     };
     /// Where the dialog appears. Without an anchor it is always centred.
-    enum DialogPlacement {
+    enum DialogPlacement : int {
         Centered = 0,
         LeftOfAnchor = 1, ///< touching the anchor's left edge, level with its top, inside the host
     };

@@ -44,10 +44,8 @@ TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
     // An entry that is committed accepts a modal dialog, and only closes one that is not.
     setWindowModality(Qt::WindowModal);
 
-    const QList<QPushButton *> digits{d->ui.btn0, d->ui.btn1, d->ui.btn2, d->ui.btn3, d->ui.btn4,
-                                      d->ui.btn5, d->ui.btn6, d->ui.btn7, d->ui.btn8, d->ui.btn9};
-    for (int digit = 0; digit < digits.size(); ++digit)
-        d->addKey(digits.at(digit), Qt::Key_0 + digit, QString::number(digit), "digit");
+    for (int digit = 0; digit < 10; ++digit)
+        d->addKey(d->digits().at(digit), Qt::Key_0 + digit, QString::number(digit), "digit");
     d->addKey(d->ui.btnP, Qt::Key_Period, QStringLiteral("."), "point");
     d->addKey(d->ui.btnC, Qt::Key_plusminus, QStringLiteral("\u00b1"), "sign");
     d->addKey(d->ui.btnEsc, Qt::Key_Escape, {}, "cancel");
@@ -62,9 +60,8 @@ TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
         key->setAutoRepeat(true);
 
     d->unitButtons = {d->ui.btnUnit1, d->ui.btnUnit2, d->ui.btnUnit3, d->ui.btnUnit4};
-    for (QPushButton *button : d->unitButtons) {
+    for (QPushButton *button : d->unitButtons)
         connect(button, &QPushButton::clicked, this, &TouchNumKeyboard::shortCutsKeyClicked);
-    }
     setShortcutKeys({});
 
     setWindowTitleAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -414,19 +411,20 @@ void TouchNumKeyboard::shortCutsKeyClicked()
     if (!button)
         return;
     const QString caption = button->text();
-    const int start = d->startIndex;
-    if (d->isPaging() && caption == tr("PgUp"))
-        d->startIndex -= start == 3 || start == 4 ? 3 : 2;
-    else if (d->isPaging() && caption == tr("PgDn"))
-        d->startIndex += d->page() == 0 ? 3 : 2;
-    else if (d->isPaging() && caption == tr("More"))
-        d->startIndex = d->page() == 0 ? 3 : 0;
-
-    if (d->startIndex != start) {
-        updateButtons();
+    int start = d->startIndex;
+    if (d->isPaging() && caption == tr("PgUp")) {
+        start -= start == 3 || start == 4 ? 3 : 2;
+    } else if (d->isPaging() && caption == tr("PgDn")) {
+        start += d->page() == 0 ? 3 : 2;
+    } else if (d->isPaging() && caption == tr("More")) {
+        start = d->page() == 0 ? 3 : 0;
+    } else {
+        typeKey(QApplication::focusWidget(), d->shortcutMap.value(button));
         return;
     }
-    typeKey(QApplication::focusWidget(), d->shortcutMap.value(button));
+    // A unit may be called like a page key, and then ask for a page that there is not.
+    d->startIndex = std::clamp(start, 0, 2 * d->lastPage() + 1);
+    updateButtons();
 }
 
 /// Lays out the current page of more unit keys than there are buttons: three units on the first
@@ -438,14 +436,12 @@ void TouchNumKeyboard::updateButtons()
         button->hide();
     d->shortcutMap.clear();
 
-    const int count = d->shortcutKeys.size();
-    const int lastPage = count <= 6 ? 1 : (count - 5) / 2 + 1;
-    const bool isMiddle = d->page() != 0 && d->page() != lastPage;
+    const bool isMiddle = d->page() != 0 && d->page() != d->lastPage();
     d->assignPaging(d->unitButtons.last(), isMiddle ? tr("PgDn") : tr("More"));
     if (isMiddle)
         d->assignPaging(d->unitButtons.first(), tr("PgUp"));
     const int first = isMiddle ? 1 : 0;
-    const int shown = isMiddle ? 2 : std::min(3, count - d->startIndex);
+    const int shown = isMiddle ? 2 : std::min(3, int(d->shortcutKeys.size()) - d->startIndex);
     for (int i = 0; i < shown; ++i)
         d->assignUnit(d->unitButtons.at(first + i), d->shortcutKeys.at(d->startIndex + i));
 }

@@ -65,7 +65,7 @@ public:
     };
 
     /// What a press beside the keypad does to the entry. Any other value cancels too.
-    enum PressOutsidePolicy {
+    enum PressOutsidePolicy : int {
         PressOutsideIgnored = 0,
         PressOutsideCommits = 1, ///< as Return would
         PressOutsideCancels = 2, ///< as Escape would; the default: a stray touch changes no setting

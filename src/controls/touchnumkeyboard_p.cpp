@@ -88,9 +88,7 @@ void TouchNumKeyboardPrivate::labelKeys()
         button->setText(caption);
         button->setAccessibleName(name);
     };
-    const QList<QPushButton *> digits{ui.btn0, ui.btn1, ui.btn2, ui.btn3, ui.btn4,
-                                      ui.btn5, ui.btn6, ui.btn7, ui.btn8, ui.btn9};
-    for (QPushButton *digit : digits)
+    for (QPushButton *digit : digits())
         label(digit, basicButtons.value(digit).text, basicButtons.value(digit).text);
     label(ui.btnP, QStringLiteral("."), q->tr("Point"));
     label(ui.btnC, QStringLiteral("\u00b1"), q->tr("Plus minus"));

@@ -13,6 +13,8 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include <algorithm>
+
 QT_BEGIN_NAMESPACE
 class QMainWindow;
 class QMouseEvent;
@@ -40,8 +42,14 @@ public:
 
     bool isPaging() const { return shortcutKeys.size() > unitButtons.size(); }
     int page() const { return (startIndex - 1) / 2; }
+    int lastPage() const { return std::max(1, (int(shortcutKeys.size()) - 5) / 2 + 1); }
 
     QList<QPushButton *> keys() const { return basicButtons.keys() + unitButtons; }
+    QList<QPushButton *> digits() const
+    {
+        return {ui.btn0, ui.btn1, ui.btn2, ui.btn3, ui.btn4,
+                ui.btn5, ui.btn6, ui.btn7, ui.btn8, ui.btn9};
+    }
 
     void addKey(QPushButton *button, int key, const QString &text, const char *role);
     void assignUnit(QPushButton *button, const KeySpec &spec);

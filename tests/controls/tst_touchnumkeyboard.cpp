@@ -255,11 +255,24 @@ private Q_SLOTS:
         QVERIFY(!m_keypad->setShortcutKeys(broken));
         QCOMPARE(m_keypad->shortcutKeys().size(), 2);
 
-        // A unit called like a page key is one, but only while there are pages.
-        m_keypad->setShortcutKeys(
-            {{Qt::Key_Return, QStringLiteral("More"), QStringLiteral("More")}});
+        // A unit called like a page key is one, but only while there are pages, and only to pages
+        // that are.
+        const TouchNumKeyboard::KeySpec up{Qt::Key_Return, QStringLiteral("PgUp"),
+                                           QStringLiteral("x")};
+        m_keypad->setShortcutKeys({up});
         click(QStringLiteral("btnUnit1"));
-        QCOMPARE(m_editor->log.value(0), QStringLiteral("+1000004:More"));
+        QCOMPARE(m_editor->log.value(0), QStringLiteral("+1000004:x"));
+        auto pages = units(7);
+        pages[0] = up;
+        pages[5].label = QStringLiteral("PgDn");
+        m_keypad->setShortcutKeys(pages);
+        click(QStringLiteral("btnUnit1"));
+        QCOMPARE(unitColumn(), QStringLiteral("PgUp u1 u2 More"));
+        click(QStringLiteral("btnUnit4"));
+        click(QStringLiteral("btnUnit4"));
+        click(QStringLiteral("btnUnit1"));
+        QCOMPARE(unitColumn(), QStringLiteral("PgDn u6 - More"));
+        QCOMPARE(m_editor->log.size(), 2);
     }
 
     void pressOutside_data()
