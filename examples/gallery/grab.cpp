@@ -7,7 +7,7 @@
 
 #include <controls/thememanager.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QPixmap>
 
@@ -28,6 +28,15 @@ void settle()
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
     }
+}
+
+/// Gives the focus to a widget, or to none.
+void focus(QWidget *widget)
+{
+    if (widget)
+        widget->setFocus();
+    else if (QWidget *const focused = QApplication::focusWidget())
+        focused->clearFocus();
 }
 
 bool save(QWidget *widget, const QDir &folder, const QString &id, const char *theme)
@@ -59,14 +68,14 @@ bool grabPictures(GalleryWindow *window, const QString &folder)
             window->showPage(i);
             settle();
             for (Section *const section : page->sections()) {
-                if (section->focusSample())
-                    section->focusSample()->setFocus();
+                focus(section->focusSample());
                 section->togglePose();
                 const bool saved = save(section, target, section->id(), name);
                 section->togglePose();
                 if (!saved)
                     return false;
             }
+            focus(nullptr);
             if (!save(page->widget(), target, QLatin1String("gallery-") + page->id(), name))
                 return false;
         }

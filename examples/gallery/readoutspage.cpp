@@ -51,7 +51,7 @@ Section *markerItems(Page *page)
     selected->setSelectedStatus(true);
     selected->setBold(true);
     section->addRow();
-    add("folded", 260);
+    section->setFocusSample(add("folded, with the focus", 260));
     add("folded, right-aligned", 260)->setRightAligned(true);
     return section;
 }

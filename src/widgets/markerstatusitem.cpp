@@ -144,12 +144,6 @@ void MarkerStatusItem::setBold(bool bold)
     QFont wanted = font();
     wanted.setWeight(bold ? QFont::Bold : QFont::Normal);
     setFont(wanted);
-    // Labels that a style sheet reaches take no font from their parent.
-    QFont weight;
-    weight.setWeight(wanted.weight());
-    const QList<QLabel *> labels = findChildren<QLabel *>();
-    for (QLabel *label : labels)
-        label->setFont(weight);
 }
 
 void MarkerStatusItem::setKeyColumnWidth(int width)

@@ -190,20 +190,6 @@ private Q_SLOTS:
         QCOMPARE(item.font().weight(), int(QFont::Normal));
     }
 
-    void isBoldUnderAStyleSheetToo()
-    {
-        qApp->setStyleSheet(QStringLiteral("QWidget { color: #ffffff; }"));
-        MarkerStatusItem item;
-        fill(&item);
-        item.setBold(true);
-        item.show();
-        QVERIFY(labelOf(&item, "nameLabel")->font().bold());
-        QVERIFY(labelOf(&item, "valueLabel1")->font().bold());
-        item.setBold(false);
-        QVERIFY(!labelOf(&item, "valueLabel1")->font().bold());
-        qApp->setStyleSheet({});
-    }
-
     void pressesOfAnyButtonClick()
     {
         MarkerStatusItem item;
