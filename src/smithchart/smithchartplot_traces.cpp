@@ -116,6 +116,7 @@ bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencie
         for (int i = 0; i < n; ++i)
             record->frequencies[i] = i;
     }
+    record->tree.setSource(record->real, record->imag);
     ++record->sourceRevision;
     record->cacheValid = false;
     refreshDisplayCurve(*record, true);
