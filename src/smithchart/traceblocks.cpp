@@ -153,7 +153,7 @@ void TraceBlocks::push(int level, int firstBlock, int lastBlock, const Promise &
     }
 }
 
-Farthest TraceBlocks::farthest(int first, int end, const Segment &segment, double enough)
+Farthest TraceBlocks::farthest(int first, int end, const Segment &segment)
 {
     const VectorKernels &kernels = vectorKernels();
     Farthest best;
@@ -162,7 +162,7 @@ Farthest TraceBlocks::farthest(int first, int end, const Segment &segment, doubl
         return best;
     }
     if (end - first <= fewChords << chordShift) {
-        farthestByChords(first, end, segment, enough, best);
+        farthestByChords(first, end, segment, best);
         return best;
     }
 
@@ -188,7 +188,7 @@ Farthest TraceBlocks::farthest(int first, int end, const Segment &segment, doubl
         const int from = top.block << shiftOf(0);
         if (top.level == 0) {
             farthestByChords(std::max(first, from), std::min(end, from + (1 << blockShift)),
-                             segment, -1.0, best);
+                             segment, best);
         } else {
             const int child = top.block << fanOutShift;
             pushOverlapping(top.level - 1, child, child + (1 << fanOutShift) - 1);
@@ -197,8 +197,7 @@ Farthest TraceBlocks::farthest(int first, int end, const Segment &segment, doubl
     return best;
 }
 
-void TraceBlocks::farthestByChords(int first, int end, const Segment &segment, double enough,
-                                   Farthest &best) const
+void TraceBlocks::farthestByChords(int first, int end, const Segment &segment, Farthest &best) const
 {
     const VectorKernels &kernels = vectorKernels();
     const int firstChord = first >> chordShift;
@@ -206,15 +205,6 @@ void TraceBlocks::farthestByChords(int first, int end, const Segment &segment, d
     std::array<double, fewChords + 2 + VectorKernels::widest> distances;
     const auto at = static_cast<size_t>(firstChord);
     kernels.squaredDistances(&m_chordX[at], &m_chordY[at], chords + 1, segment, distances.data());
-    if (enough >= 0.0) {
-        const double largest =
-            std::sqrt(*std::max_element(distances.begin(), distances.begin() + chords + 1))
-            + *std::max_element(m_sag.begin() + firstChord, m_sag.begin() + firstChord + chords);
-        if (largest * largest <= enough) {
-            best.squaredDistance = largest * largest;
-            return;
-        }
-    }
     for (int k = 1; k < chords; ++k)
         best.offer(distances[static_cast<size_t>(k)], (firstChord + k) << chordShift);
 

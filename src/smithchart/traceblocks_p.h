@@ -31,10 +31,8 @@ public:
     void clear();
     bool isEmpty() const { return m_levels.empty(); }
 
-    /// The farthest from \a segment of the points \a first to \a end - 1, all finite. Where it is
-    /// cheaper to tell that no squared distance exceeds \a enough, a bound of them and the index
-    /// -1.
-    Farthest farthest(int first, int end, const Segment &segment, double enough);
+    /// The farthest from \a segment of the points \a first to \a end - 1, all finite.
+    Farthest farthest(int first, int end, const Segment &segment);
     /// Shows \a scan every point and line that can matter to it.
     void nearest(const Viewport &viewport, NearestScan &scan);
 
@@ -65,8 +63,7 @@ private:
     }
     void buildBlock(int block);
     void buildLevels();
-    void farthestByChords(int first, int end, const Segment &segment, double enough,
-                          Farthest &best) const;
+    void farthestByChords(int first, int end, const Segment &segment, Farthest &best) const;
     void nearestByChords(int block, double x, double y, double scale, double slack,
                          NearestScan &scan) const;
     template<typename Promise>

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <vector>
 
 namespace SmithRender
@@ -27,9 +26,6 @@ constexpr double largestExtent = 1e10;
 constexpr double rounding = 1e-4;
 /// How far the scales of both axes may differ and still count as equal, relatively.
 constexpr double squareness = 1e-11;
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-
 } // namespace
 
 class TraceTree::Private
@@ -43,8 +39,8 @@ public:
 private:
     /// Where a run splits, and the nodes of its two parts.
     struct Node {
-        double squaredDistance = infinity; ///< of the split from the line between the ends
-        int split = -1; ///< -1: all that is known is that no distance is larger
+        double squaredDistance = -1.0; ///< of the split from the line between the ends
+        int split = -1; ///< -1: not searched yet
         int children = -1; ///< of two nodes in a row; -1: none yet
     };
 
@@ -83,8 +79,8 @@ private:
     void build();
     void findRuns();
     bool fits(const Viewport &viewport) const;
-    Farthest search(int first, int last, double enough);
-    Farthest splitOf(const Part &part, double enough);
+    Farthest search(int first, int last);
+    Farthest splitOf(const Part &part);
     bool isSplit(const Part &part, const Farthest &farthest, const View &view) const;
     void simplify(const Run &run, const View &view, QVector<int> &kept);
 
@@ -172,19 +168,19 @@ bool TraceTree::Private::fits(const Viewport &viewport) const
         && scale > 1e-100 && scale < 1e100 && extent < 1e140 && viewport.tolerancePx < 1e100;
 }
 
-Farthest TraceTree::Private::search(int first, int last, double enough)
+Farthest TraceTree::Private::search(int first, int last)
 {
-    return m_blocks.farthest(first + 1, last, Segment(m_x[first], m_y[first], m_x[last], m_y[last]),
-                             enough);
+    return m_blocks.farthest(first + 1, last,
+                             Segment(m_x[first], m_y[first], m_x[last], m_y[last]));
 }
 
-Farthest TraceTree::Private::splitOf(const Part &part, double enough)
+Farthest TraceTree::Private::splitOf(const Part &part)
 {
     if (part.node < 0)
-        return search(part.first, part.last, enough);
+        return search(part.first, part.last);
     Node &node = m_nodes[static_cast<size_t>(part.node)];
-    if (node.split < 0 && node.squaredDistance > enough) {
-        const Farthest farthest = search(part.first, part.last, enough);
+    if (node.split < 0) {
+        const Farthest farthest = search(part.first, part.last);
         node.squaredDistance = farthest.squaredDistance;
         node.split = farthest.index;
     }
@@ -195,7 +191,7 @@ bool TraceTree::Private::isSplit(const Part &part, const Farthest &farthest, con
 {
     if (farthest.squaredDistance > view.surely)
         return true;
-    if (farthest.squaredDistance <= view.surelyNot)
+    if (farthest.squaredDistance < view.surelyNot)
         return false;
     // So near the tolerance, decide as the plain routine does.
     const auto x = [&](int i) { return view.projection.x(m_x[i]); };
@@ -219,7 +215,7 @@ void TraceTree::Private::simplify(const Run &run, const View &view, QVector<int>
             kept.append(part.last);
             continue;
         }
-        const Farthest farthest = splitOf(part, view.surelyNot);
+        const Farthest farthest = splitOf(part);
         if (!isSplit(part, farthest, view)) {
             kept.append(part.last);
             continue;

@@ -298,7 +298,7 @@ VNA_INLINE bool encloseBody(const double *x, const double *y, int first, int end
         return encloseBody<Width>(x, y, first, end, polygon);                                      \
     }                                                                                              \
     constexpr VectorKernels kernels##Name{farthest##Name, squaredDistances##Name,                  \
-                                          farthestOf##Name, enclose##Name, #Name};
+                                          farthestOf##Name, enclose##Name};
 
 VNA_KERNELS(Plain, 1, )
 #ifdef VNA_VECTOR_TYPES
@@ -306,7 +306,6 @@ VNA_KERNELS(Wide2, 2, )
 #endif
 #ifdef VNA_X86_TARGETS
 VNA_KERNELS(Wide4, 4, __attribute__((target("avx2"))))
-VNA_KERNELS(Wide8, 8, __attribute__((target("avx512f"))))
 #endif
 
 } // namespace
@@ -319,17 +318,15 @@ double distanceAtLeast(const Polygon &polygon, double x, double y)
     return distance;
 }
 
-std::array<const VectorKernels *, 4> allVectorKernels()
+std::array<const VectorKernels *, 3> allVectorKernels()
 {
-    std::array<const VectorKernels *, 4> kernels{&kernelsPlain};
+    std::array<const VectorKernels *, 3> kernels{&kernelsPlain};
 #ifdef VNA_VECTOR_TYPES
     kernels[1] = &kernelsWide2;
 #endif
 #ifdef VNA_X86_TARGETS
     if (__builtin_cpu_supports("avx2"))
         kernels[2] = &kernelsWide4;
-    if (__builtin_cpu_supports("avx512f"))
-        kernels[3] = &kernelsWide8;
 #endif
     return kernels;
 }

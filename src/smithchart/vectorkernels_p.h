@@ -76,13 +76,12 @@ struct VectorKernels {
     /// The polygon around the points \a first to \a end - 1; false, with a useless polygon, unless
     /// all of them are finite.
     bool (*enclose)(const double *x, const double *y, int first, int end, Polygon &polygon);
-    const char *name;
 
-    static constexpr int widest = 8; ///< points in the widest vector of any set
+    static constexpr int widest = 4; ///< points in the widest vector of any set
 };
 
-/// The sets this processor can run, narrowest first.
-[[nodiscard]] VNAWIDGETS_EXPORT std::array<const VectorKernels *, 4> allVectorKernels();
+/// The sets this processor can run, narrowest first; null for those it cannot.
+[[nodiscard]] VNAWIDGETS_EXPORT std::array<const VectorKernels *, 3> allVectorKernels();
 
 /// The widest of them, chosen once.
 [[nodiscard]] const VectorKernels &vectorKernels();
