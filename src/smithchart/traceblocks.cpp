@@ -20,7 +20,7 @@ namespace
 constexpr double infinity = std::numeric_limits<double>::infinity();
 /// Polygons are made larger by this share of the largest coordinate: far more than all rounding in
 /// distances to them, far less than matters.
-constexpr double margin = 1e-12;
+constexpr double margin = 1e-13;
 /// Runs of up to this many chords are searched by chords alone.
 constexpr int fewChords = 16;
 
@@ -65,12 +65,12 @@ void TraceBlocks::build(const double *x, const double *y, int count)
     for (int block = 0; block < blocks; ++block)
         buildBlock(block);
 
-    const double room = margin * m_largest;
+    m_room = margin * m_largest;
     for (double &sag : m_sag)
-        sag += room;
+        sag += m_room;
     for (Polygon &polygon : m_levels[0]) {
         for (double &reach : polygon.reach)
-            reach += room;
+            reach += m_room;
     }
     buildLevels();
 }
@@ -122,7 +122,7 @@ void TraceBlocks::buildLevels()
 
 void TraceBlocks::clear()
 {
-    m_levels.clear();
+    m_count = 0; // what is built next reuses the memory
 }
 
 size_t TraceBlocks::memoryUsed() const
@@ -142,12 +142,11 @@ void TraceBlocks::push(int level, int firstBlock, int lastBlock, const Promise &
     const size_t base = m_stack.size();
     for (int block = firstBlock; block <= lastBlock; ++block) {
         Candidate candidate{0.0, level, block};
-        if (!promise(m_levels[static_cast<size_t>(level)][static_cast<size_t>(block)],
-                     candidate.promise))
+        if (!promise(m_levels[static_cast<size_t>(level)][static_cast<size_t>(block)], candidate))
             continue;
         size_t at = m_stack.size();
         m_stack.push_back(candidate);
-        for (; at > base && m_stack[at - 1].promise > candidate.promise; --at)
+        for (; at > base && m_stack[at - 1].promise >= candidate.promise; --at)
             m_stack[at] = m_stack[at - 1];
         m_stack[at] = candidate;
     }
@@ -166,13 +165,20 @@ Farthest TraceBlocks::farthest(int first, int end, const Segment &segment)
         return best;
     }
 
-    const auto promise = [&](const Polygon &polygon, double &bound) {
-        bound = kernels.farthestOf(polygon, segment);
-        return bound > best.squaredDistance;
+    // Behind the best so far, a block must promise more than the polygons' room: where values
+    // repeat, most blocks hold a point as far as the best, and the first of them is the one to
+    // find.
+    double tie = -1.0;
+    const auto canWin = [&](double bound, int level, int block) {
+        return bound > ((block << shiftOf(level)) > best.index ? tie : best.squaredDistance);
     };
     const auto pushOverlapping = [&](int level, int from, int to) {
         const int shift = shiftOf(level);
-        push(level, std::max(from, first >> shift), std::min(to, (end - 1) >> shift), promise);
+        push(level, std::max(from, first >> shift), std::min(to, (end - 1) >> shift),
+             [&](const Polygon &polygon, Candidate &candidate) {
+                 candidate.promise = kernels.farthestOf(polygon, segment);
+                 return canWin(candidate.promise, candidate.level, candidate.block);
+             });
     };
     int level = 0;
     while (level + 1 < static_cast<int>(m_levels.size())
@@ -183,12 +189,14 @@ Farthest TraceBlocks::farthest(int first, int end, const Segment &segment)
     while (!m_stack.empty()) {
         const Candidate top = m_stack.back();
         m_stack.pop_back();
-        if (top.promise <= best.squaredDistance)
+        if (!canWin(top.promise, top.level, top.block))
             continue;
-        const int from = top.block << shiftOf(0);
         if (top.level == 0) {
+            const int from = top.block << blockShift;
             farthestByChords(std::max(first, from), std::min(end, from + (1 << blockShift)),
                              segment, best);
+            const double distance = std::sqrt(best.squaredDistance) + 2.0 * m_room;
+            tie = distance * distance;
         } else {
             const int child = top.block << fanOutShift;
             pushOverlapping(top.level - 1, child, child + (1 << fanOutShift) - 1);
@@ -234,10 +242,10 @@ void TraceBlocks::nearest(const Viewport &viewport, NearestScan &scan)
            + std::max(std::fabs(viewport.yMin), std::fabs(viewport.yMax)) + std::fabs(x)
            + std::fabs(y));
 
-    const auto promise = [&](const Polygon &polygon, double &bound) {
+    const auto promise = [&](const Polygon &polygon, Candidate &candidate) {
         const double distance = std::max(distanceAtLeast(polygon, x, y) - slack, 0.0) * scale;
-        bound = -distance * distance;
-        return !(-bound > scan.best());
+        candidate.promise = -distance * distance;
+        return !(-candidate.promise > scan.best());
     };
     m_stack.clear();
     const int top = static_cast<int>(m_levels.size()) - 1;

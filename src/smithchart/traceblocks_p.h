@@ -29,7 +29,7 @@ public:
     /// Builds the bounds of \a count points, at least 1, which must stay where they are.
     void build(const double *x, const double *y, int count);
     void clear();
-    bool isEmpty() const { return m_levels.empty(); }
+    bool isEmpty() const { return m_count == 0; }
 
     /// The farthest from \a segment of the points \a first to \a end - 1, all finite.
     Farthest farthest(int first, int end, const Segment &segment);
@@ -73,6 +73,7 @@ private:
     const double *m_y = nullptr;
     int m_count = 0;
     double m_largest = 0.0;
+    double m_room = 0.0; ///< by which sags and polygons are larger than they need be
     std::vector<double>
         m_chordX; ///< the ends of chords; padded, so that vectors can be read at any
     std::vector<double> m_chordY;

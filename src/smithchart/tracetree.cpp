@@ -41,7 +41,7 @@ private:
     struct Node {
         double squaredDistance = -1.0; ///< of the split from the line between the ends
         int split = -1; ///< -1: not searched yet
-        int children = -1; ///< of two nodes in a row; -1: none yet
+        int children = -1; ///< the first of one for each part that is long; -1: none yet
     };
 
     /// Finite points between gaps or ends.
@@ -98,6 +98,10 @@ private:
 
 void TraceTree::Private::setSource(const QVector<double> &real, const QVector<double> &imag)
 {
+    if (real.isEmpty() || imag.isEmpty()) {
+        *this = Private();
+        return;
+    }
     m_real = real;
     m_imag = imag;
     m_x = m_real.constData();
@@ -221,18 +225,19 @@ void TraceTree::Private::simplify(const Run &run, const View &view, QVector<int>
             continue;
         }
         const int split = farthest.index;
-        int left = -1;
-        int right = -1;
-        if (part.node >= 0 && std::max(split - part.first, part.last - split) > shortRun) {
-            int children = m_nodes[static_cast<size_t>(part.node)].children;
-            if (children < 0) {
-                children = static_cast<int>(m_nodes.size());
-                m_nodes.resize(m_nodes.size() + 2);
-                m_nodes[static_cast<size_t>(part.node)].children = children;
+        const bool isLeftLong = split - part.first > shortRun;
+        const bool isRightLong = part.last - split > shortRun;
+        int child = -1;
+        if (isLeftLong || isRightLong) {
+            child = m_nodes[static_cast<size_t>(part.node)].children;
+            if (child < 0) {
+                child = static_cast<int>(m_nodes.size());
+                m_nodes.resize(m_nodes.size() + (isLeftLong && isRightLong ? 2 : 1));
+                m_nodes[static_cast<size_t>(part.node)].children = child;
             }
-            left = split - part.first > shortRun ? children : -1;
-            right = part.last - split > shortRun ? children + 1 : -1;
         }
+        const int left = isLeftLong ? child++ : -1;
+        const int right = isRightLong ? child : -1;
         // The left part is next, so that points are kept in ascending order.
         m_parts.push_back({split, part.last, right});
         m_parts.push_back({part.first, split, left});

@@ -29,8 +29,13 @@ public:
         , m_tolerance(viewport.tolerancePx)
     {
         const Projection projection(viewport);
-        for (int i = 0; i < trace.real.size(); ++i)
+        for (int i = 0; i < trace.real.size(); ++i) {
             m_points.append(QPointF(projection.x(trace.real[i]), projection.y(trace.imag[i])));
+            if (isValid(i)) {
+                m_slack = std::max({m_slack, 1e-12 * std::fabs(m_points[i].x()),
+                                    1e-12 * std::fabs(m_points[i].y())});
+            }
+        }
     }
 
     bool accepts()
@@ -70,14 +75,6 @@ private:
         return std::hypot(e.x(), e.y());
     }
 
-    double rounding(int i, int a, int b) const
-    {
-        double largest = 0.0;
-        for (const int k : {i, a, b})
-            largest = std::max({largest, std::fabs(m_points[k].x()), std::fabs(m_points[k].y())});
-        return 1e-14 * largest + 1e-12;
-    }
-
     /// Whether the kept points between a and b are those of some order of right splits.
     bool explains(int a, int b)
     {
@@ -87,15 +84,12 @@ private:
         const auto anyKept = std::upper_bound(m_kept.begin(), m_kept.end(), a) != m_kept.end()
             && *std::upper_bound(m_kept.begin(), m_kept.end(), a) < b;
         double farthest = -1.0;
-        double slack = 0.0;
-        for (int i = a + 1; i < b; ++i) {
+        for (int i = a + 1; i < b; ++i)
             farthest = std::max(farthest, distance(i, a, b));
-            slack = std::max(slack, rounding(i, a, b));
-        }
-        bool right = !anyKept && farthest <= m_tolerance + slack;
-        if (!right && anyKept && farthest > m_tolerance - slack) {
+        bool right = !anyKept && farthest <= m_tolerance + m_slack;
+        if (!right && anyKept && farthest > m_tolerance - m_slack) {
             for (int i = a + 1; i < b && !right; ++i) {
-                right = isKept(i) && distance(i, a, b) >= farthest - slack && explains(a, i)
+                right = isKept(i) && distance(i, a, b) >= farthest - m_slack && explains(a, i)
                     && explains(i, b);
             }
         }
@@ -105,6 +99,7 @@ private:
 
     const QVector<int> m_kept;
     const double m_tolerance;
+    double m_slack = 1e-12;
     QVector<QPointF> m_points;
     std::map<std::pair<int, int>, bool> m_explained;
 };
