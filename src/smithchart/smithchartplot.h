@@ -7,6 +7,7 @@
 #include <plot/marker.h>
 #include <plot/qcp.h>
 #include <smithchart/preset.h>
+#include <smithchart/tracetree.h>
 #include <smithchart/viewport.h>
 #include <smithchart/viewstate.h>
 
@@ -233,6 +234,7 @@ private:
         QVector<double> frequencies;
         QVector<double> real;
         QVector<double> imag;
+        SmithRender::TraceTree tree; ///< over the source data
         quint64 sourceRevision = 0;
 
         SmithRender::Viewport cachedViewport;

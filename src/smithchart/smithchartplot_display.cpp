@@ -56,7 +56,7 @@ bool SmithChartPlot::refreshDisplayCurve(OwnedCurve &record, bool force)
         QElapsedTimer timer;
         if (smithPerformance().isDebugEnabled())
             timer.start();
-        record.keptIndices = SmithRender::decimate(record.real, record.imag, viewport).keptIndices;
+        record.keptIndices = record.tree.decimate(viewport).keptIndices;
         if (timer.isValid())
             record.lastDecimationNs = timer.nsecsElapsed();
         record.cachedSourceRevision = record.sourceRevision;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smithchartplot.h"
 
-#include "decimation.h"
+#include "tracetree.h"
 
 #include <utils/qtcompat_p.h>
 
@@ -215,8 +215,7 @@ int SmithChartPlot::nearestCurveDataIndex(QCPCurve *curve, const QPoint &pos,
     viewport.height = rect->height();
     viewport.devicePixelRatio = plot() ? plot()->devicePixelRatioF() : 1.0;
     viewport.tolerancePx = 0.5;
-    return SmithRender::nearestIndex(record->real, record->imag, viewport, pos - rect->topLeft(),
-                                     squaredDistance);
+    return record->tree.nearestIndex(viewport, pos - rect->topLeft(), squaredDistance);
 }
 
 bool SmithChartPlot::nearestCurveAndIndex(const QPoint &pos, QCPCurve *&curve, int &index,

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "charts.h"
+
+#include <smithchart/smithchartplot.h>
+
+#include <numeric>
+
+namespace Bench
+{
+
+namespace
+{
+
+constexpr int sizePx = 800;
+
+void layOut(QCustomPlot &plot)
+{
+    plot.axisRect()->setAutoMargins(QCP::msNone);
+    plot.axisRect()->setMargins(QMargins());
+    plot.setGeometry(0, 0, sizePx, sizePx);
+    plot.replot();
+}
+
+QVector<double> indices(int count)
+{
+    QVector<double> values(count);
+    std::iota(values.begin(), values.end(), 0.0);
+    return values;
+}
+
+} // namespace
+
+void zoomAndReplot(benchmark::State &state, const Trace &trace)
+{
+    const QVector<double> frequencies = indices(static_cast<int>(trace.real.size()));
+    QCustomPlot plot;
+    SmithChartPlot chart(&plot, SmithChart::Standard);
+    layOut(plot);
+    for (int id = 1; id <= 4; ++id) {
+        // Four traces, not one shared: each turned by a quarter.
+        Trace turned = trace;
+        for (int i = 0; i < trace.real.size(); ++i) {
+            const double x = trace.real.at(i);
+            const double y = trace.imag.at(i);
+            turned.real[i] = id == 1 ? x : id == 2 ? -y : id == 3 ? -x : y;
+            turned.imag[i] = id == 1 ? y : id == 2 ? x : id == 3 ? -y : -x;
+        }
+        chart.addCurve(id, QPen(Qt::GlobalColor(Qt::red + id)));
+        chart.setCurveData(id, frequencies, turned.real, turned.imag);
+    }
+    plot.replot();
+
+    bool in = true;
+    for (auto _ : state) {
+        chart.zoomAt(QPointF(0.3, 0.2), in ? 1.25 : 0.8);
+        plot.replot(QCustomPlot::rpImmediateRefresh);
+        in = !in;
+    }
+    state.counters["displayed"] = chart.getCurve(1)->dataCount();
+}
+
+void setDataAndReplot(benchmark::State &state, const Trace &trace)
+{
+    const QVector<double> frequencies = indices(static_cast<int>(trace.real.size()));
+    QCustomPlot plot;
+    SmithChartPlot chart(&plot, SmithChart::Standard);
+    layOut(plot);
+    chart.addCurve(1, QPen(Qt::red));
+    for (auto _ : state) {
+        chart.setCurveData(1, frequencies, trace.real, trace.imag);
+        plot.replot(QCustomPlot::rpImmediateRefresh);
+    }
+    state.counters["displayed"] = chart.getCurve(1)->dataCount();
+}
+
+void setDataAndReplotPlainCurve(benchmark::State &state, const Trace &trace)
+{
+    const QVector<double> frequencies = indices(static_cast<int>(trace.real.size()));
+    const SmithRender::Viewport view = fullView();
+    QCustomPlot plot;
+    layOut(plot);
+    plot.xAxis->setRange(view.xMin, view.xMax);
+    plot.yAxis->setRange(view.yMin, view.yMax);
+    auto *curve = new QCPCurve(plot.xAxis, plot.yAxis);
+    curve->setPen(QPen(QBrush(Qt::red), 1.0));
+    for (auto _ : state) {
+        curve->setData(frequencies, trace.real, trace.imag, true);
+        plot.replot(QCustomPlot::rpImmediateRefresh);
+    }
+}
+
+} // namespace Bench

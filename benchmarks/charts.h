@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "traces.h"
+
+#include <benchmark/benchmark.h>
+
+/// Whole charts, replot included, on an axis rectangle of 800 x 800 pixels without a screen.
+namespace Bench
+{
+
+/// Magnifies four traces like \a trace by a step and back, and draws after each.
+void zoomAndReplot(benchmark::State &state, const Trace &trace);
+
+/// Gives a chart new data and draws it.
+void setDataAndReplot(benchmark::State &state, const Trace &trace);
+
+/// The same with QCustomPlot's own curve on an empty plot.
+void setDataAndReplotPlainCurve(benchmark::State &state, const Trace &trace);
+
+} // namespace Bench

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "traces.h"
+
+#include <cmath>
+#include <random>
+
+namespace Bench
+{
+
+namespace
+{
+
+constexpr double pi = 3.14159265358979323846;
+constexpr double halfRange = 1.05;
+constexpr int sizePx = 800;
+constexpr double pixel = 2.0 * halfRange / sizePx;
+
+} // namespace
+
+Trace spiral(int count, double turns, double noisePx)
+{
+    std::mt19937 random(1);
+    std::normal_distribution<double> noise(0.0, 1.0);
+    Trace trace;
+    for (int i = 0; i < count; ++i) {
+        const double radius = 0.95 - 0.8 * i / count;
+        const double angle = 2.0 * pi * turns * i / count;
+        trace.real.append(radius * std::cos(angle) + noisePx * pixel * noise(random));
+        trace.imag.append(radius * std::sin(angle) + noisePx * pixel * noise(random));
+    }
+    return trace;
+}
+
+Trace lissajous(int count, double xPeriods, double yPeriods)
+{
+    Trace trace;
+    for (int i = 0; i < count; ++i) {
+        const double phase = 2.0 * pi * i / count;
+        trace.real.append(0.95 * std::sin(xPeriods * phase));
+        trace.imag.append(0.95 * std::sin(yPeriods * phase + 0.5));
+    }
+    return trace;
+}
+
+SmithRender::Viewport fullView(double zoom)
+{
+    SmithRender::Viewport viewport;
+    viewport.xMin = viewport.yMin = -halfRange / zoom;
+    viewport.xMax = viewport.yMax = halfRange / zoom;
+    viewport.width = viewport.height = sizePx;
+    return viewport;
+}
+
+double tolerance()
+{
+    return fullView().tolerancePx * pixel;
+}
+
+} // namespace Bench

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <smithchart/viewport.h>
+
+#include <QVector>
+
+/// The data that the benchmarks work on.
+namespace Bench
+{
+
+struct Trace {
+    QVector<double> real;
+    QVector<double> imag;
+};
+
+/// A spiral from the rim inwards, with normally distributed noise of \a noisePx pixels in both
+/// directions, as seen in fullView().
+Trace spiral(int count, double turns, double noisePx = 0.0);
+
+/// The figure of two sines of \a xPeriods and \a yPeriods periods.
+Trace lissajous(int count, double xPeriods, double yPeriods);
+
+/// The whole chart on 800 x 800 pixels, magnified by \a zoom, at a tolerance of half a pixel.
+SmithRender::Viewport fullView(double zoom = 1.0);
+
+/// That tolerance in the units of the data at zoom 1.
+double tolerance();
+
+} // namespace Bench

@@ -1,0 +1,345 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vectorkernels_p.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+// GCC and Clang turn their vector types into whatever the target has; a function's target may go
+// beyond that of the build on x86-64.
+#if defined(__GNUC__)
+#define VNA_VECTOR_TYPES
+#define VNA_INLINE [[gnu::always_inline]] inline
+#else
+#define VNA_INLINE inline
+#endif
+#if defined(VNA_VECTOR_TYPES) && defined(__x86_64__)
+#define VNA_X86_TARGETS
+#endif
+
+namespace SmithRender
+{
+
+namespace
+{
+
+template<int Width>
+struct Vector {
+#ifdef VNA_VECTOR_TYPES
+    typedef double Doubles __attribute__((vector_size(Width * 8)));
+    typedef std::int64_t Integers __attribute__((vector_size(Width * 8)));
+#endif
+};
+
+template<>
+struct Vector<1> {
+    using Doubles = double;
+    using Integers = std::int64_t;
+};
+
+template<int Width>
+VNA_INLINE void load(const double *from, typename Vector<Width>::Doubles &to)
+{
+    std::memcpy(&to, from, sizeof to);
+}
+
+template<typename V>
+VNA_INLINE double lane(const V &vector, int i)
+{
+    double value;
+    std::memcpy(&value, reinterpret_cast<const char *>(&vector) + i * 8, sizeof value);
+    return value;
+}
+
+template<typename V>
+VNA_INLINE std::int64_t integerLane(const V &vector, int i)
+{
+    std::int64_t value;
+    std::memcpy(&value, reinterpret_cast<const char *>(&vector) + i * 8, sizeof value);
+    return value;
+}
+
+template<typename V>
+VNA_INLINE void squaredDistances(const V &x, const V &y, const Segment &s, V &result)
+{
+    const V zero = V() + 0.0;
+    const V one = V() + 1.0;
+    const V px = x - s.ax;
+    const V py = y - s.ay;
+    V u = (px * s.dx + py * s.dy) * s.inverse;
+    u = u < zero ? zero : u;
+    u = u > one ? one : u;
+    const V qx = px - u * s.dx;
+    const V qy = py - u * s.dy;
+    result = qx * qx + qy * qy;
+}
+
+/// So few points are looked at sooner one by one.
+constexpr int fewPoints = 4;
+
+template<int Width>
+VNA_INLINE void farthestBody(const double *x, const double *y, int first, int end, int readable,
+                             const Segment &segment, Farthest &best)
+{
+    using Doubles = typename Vector<Width>::Doubles;
+    using Integers = typename Vector<Width>::Integers;
+
+    if (end - first <= fewPoints) {
+        for (int i = first; i < end; ++i) {
+            double distance;
+            squaredDistances(x[i], y[i], segment, distance);
+            best.offer(distance, i);
+        }
+        return;
+    }
+    Integers index = Integers() + first;
+    if constexpr (Width > 1) {
+        for (int i = 0; i < Width; ++i)
+            index[i] += i;
+    }
+    Doubles farthest = Doubles() - 1.0;
+    Integers where = Integers();
+    Doubles px;
+    Doubles py;
+    Doubles distance;
+    int i = first;
+    for (; i + Width <= end; i += Width) {
+        load<Width>(x + i, px);
+        load<Width>(y + i, py);
+        squaredDistances(px, py, segment, distance);
+        where = distance > farthest ? index : where;
+        farthest = distance > farthest ? distance : farthest;
+        index += Width;
+    }
+    if (i < end) {
+        if (i + Width <= readable) {
+            load<Width>(x + i, px);
+            load<Width>(y + i, py);
+        } else {
+            px = Doubles() + segment.ax;
+            py = Doubles() + segment.ay;
+            std::memcpy(&px, x + i, static_cast<size_t>(end - i) * sizeof(double));
+            std::memcpy(&py, y + i, static_cast<size_t>(end - i) * sizeof(double));
+        }
+        squaredDistances(px, py, segment, distance);
+        distance = index < (Integers() + end) ? distance : (Doubles() - 1.0);
+        where = distance > farthest ? index : where;
+        farthest = distance > farthest ? distance : farthest;
+    }
+
+    for (int k = 0; k < Width; ++k)
+        best.offer(lane(farthest, k), static_cast<int>(integerLane(where, k)));
+}
+
+template<int Width>
+VNA_INLINE void squaredDistancesBody(const double *x, const double *y, int count,
+                                     const Segment &segment, double *result)
+{
+    typename Vector<Width>::Doubles px, py, distance;
+    for (int i = 0; i < count; i += Width) {
+        load<Width>(x + i, px);
+        load<Width>(y + i, py);
+        squaredDistances(px, py, segment, distance);
+        std::memcpy(result + i, &distance, sizeof distance);
+    }
+}
+
+// The cosines and sines of the polygon's directions, and what makes a corner of two neighbouring
+// reaches: corner = reach[j] * near[j] + reach[j + 1] * far[j].
+constexpr double cos1 = 0.92387953251128675613; // cos(pi/8)
+constexpr double cos2 = 0.70710678118654752440;
+constexpr double cos3 = 0.38268343236508977173;
+
+constexpr std::array<double, 17> cosines{1.0,   cos1,  cos2,  cos3, 0.0,  -cos3, -cos2, -cos1, -1.0,
+                                         -cos1, -cos2, -cos3, 0.0,  cos3, cos2,  cos1,  1.0};
+constexpr std::array<double, 17> sines{0.0,   cos3,  cos2,  cos1, 1.0,   cos1,  cos2,  cos3, 0.0,
+                                       -cos3, -cos2, -cos1, -1.0, -cos1, -cos2, -cos3, 0.0};
+
+struct CornerWeights {
+    double nearX[Polygon::directions];
+    double nearY[Polygon::directions];
+    double farX[Polygon::directions];
+    double farY[Polygon::directions];
+};
+
+constexpr CornerWeights makeCornerWeights()
+{
+    CornerWeights w{};
+    for (size_t j = 0; j < Polygon::directions; ++j) {
+        w.nearX[j] = sines[j + 1] / cos3;
+        w.nearY[j] = -cosines[j + 1] / cos3;
+        w.farX[j] = -sines[j] / cos3;
+        w.farY[j] = cosines[j] / cos3;
+    }
+    return w;
+}
+
+constexpr CornerWeights weights = makeCornerWeights();
+
+template<int Width>
+VNA_INLINE double farthestOfBody(const Polygon &polygon, const Segment &segment)
+{
+    using Doubles = typename Vector<Width>::Doubles;
+    Doubles farthest = Doubles();
+    for (int j = 0; j < Polygon::directions; j += Width) {
+        Doubles reach, next, nearX, nearY, farX, farY, distance;
+        load<Width>(polygon.reach.data() + j, reach);
+        load<Width>(polygon.reach.data() + j + 1, next);
+        load<Width>(weights.nearX + j, nearX);
+        load<Width>(weights.nearY + j, nearY);
+        load<Width>(weights.farX + j, farX);
+        load<Width>(weights.farY + j, farY);
+        const Doubles x = reach * nearX + next * farX;
+        const Doubles y = reach * nearY + next * farY;
+        squaredDistances(x, y, segment, distance);
+        farthest = distance > farthest ? distance : farthest;
+    }
+    double result = lane(farthest, 0);
+    for (int k = 1; k < Width; ++k)
+        result = std::max(result, lane(farthest, k));
+    return result;
+}
+
+/// The reaches along \a Axes axes from the one numbered \a from, both ways.
+template<int Width, int From, int Axes>
+VNA_INLINE void encloseAlong(const double *x, const double *y, int first, int end, Polygon &polygon)
+{
+    using Doubles = typename Vector<Width>::Doubles;
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    Doubles low[Axes];
+    Doubles high[Axes];
+    for (int k = 0; k < Axes; ++k) {
+        low[k] = Doubles() + infinity;
+        high[k] = Doubles() - infinity;
+    }
+    Doubles px;
+    Doubles py;
+    int i = first;
+    const auto takeIn = [&]() __attribute__((always_inline))
+    {
+        for (int k = 0; k < Axes; ++k) {
+            const auto axis = static_cast<size_t>(From + k);
+            const Doubles p = px * cosines[axis] + py * sines[axis];
+            low[k] = p < low[k] ? p : low[k];
+            high[k] = p > high[k] ? p : high[k];
+        }
+    };
+    for (; i + Width <= end; i += Width) {
+        load<Width>(x + i, px);
+        load<Width>(y + i, py);
+        takeIn();
+    }
+    for (; i < end; ++i) {
+        px = Doubles() + x[i];
+        py = Doubles() + y[i];
+        takeIn();
+    }
+    for (int k = 0; k < Axes; ++k) {
+        double lowest = lane(low[k], 0);
+        double highest = lane(high[k], 0);
+        for (int l = 1; l < Width; ++l) {
+            lowest = std::min(lowest, lane(low[k], l));
+            highest = std::max(highest, lane(high[k], l));
+        }
+        polygon.reach[static_cast<size_t>(From + k)] = highest;
+        polygon.reach[static_cast<size_t>(From + k + Polygon::directions / 2)] = -lowest;
+    }
+}
+
+template<int Width>
+VNA_INLINE bool encloseBody(const double *x, const double *y, int first, int end, Polygon &polygon)
+{
+    using Doubles = typename Vector<Width>::Doubles;
+    // 0 times a value is 0 if the value is finite, NaN otherwise, and a NaN stays one.
+    Doubles check = Doubles();
+    Doubles px;
+    Doubles py;
+    int i = first;
+    for (; i + Width <= end; i += Width) {
+        load<Width>(x + i, px);
+        load<Width>(y + i, py);
+        check += px * 0.0 + py * 0.0;
+    }
+    double sum = 0.0;
+    for (; i < end; ++i)
+        sum += x[i] * 0.0 + y[i] * 0.0;
+    for (int k = 0; k < Width; ++k)
+        sum += lane(check, k);
+    if (sum != 0.0)
+        return false;
+
+    // Two halves, so that the running extremes stay in registers.
+    constexpr int axes = Polygon::directions / 4;
+    encloseAlong<Width, 0, axes>(x, y, first, end, polygon);
+    encloseAlong<Width, axes, axes>(x, y, first, end, polygon);
+    polygon.reach[Polygon::directions] = polygon.reach[0];
+    return true;
+}
+
+#define VNA_KERNELS(Name, Width, Attribute)                                                        \
+    Attribute void farthest##Name(const double *x, const double *y, int first, int end,            \
+                                  int readable, const Segment &segment, Farthest &best)            \
+    {                                                                                              \
+        farthestBody<Width>(x, y, first, end, readable, segment, best);                            \
+    }                                                                                              \
+    Attribute void squaredDistances##Name(const double *x, const double *y, int count,             \
+                                          const Segment &segment, double *result)                  \
+    {                                                                                              \
+        squaredDistancesBody<Width>(x, y, count, segment, result);                                 \
+    }                                                                                              \
+    Attribute double farthestOf##Name(const Polygon &polygon, const Segment &segment)              \
+    {                                                                                              \
+        return farthestOfBody<Width>(polygon, segment);                                            \
+    }                                                                                              \
+    Attribute bool enclose##Name(const double *x, const double *y, int first, int end,             \
+                                 Polygon &polygon)                                                 \
+    {                                                                                              \
+        return encloseBody<Width>(x, y, first, end, polygon);                                      \
+    }                                                                                              \
+    constexpr VectorKernels kernels##Name{farthest##Name, squaredDistances##Name,                  \
+                                          farthestOf##Name, enclose##Name};
+
+VNA_KERNELS(Plain, 1, )
+#ifdef VNA_VECTOR_TYPES
+VNA_KERNELS(Wide2, 2, )
+#endif
+#ifdef VNA_X86_TARGETS
+VNA_KERNELS(Wide4, 4, __attribute__((target("avx2"))))
+#endif
+
+} // namespace
+
+double distanceAtLeast(const Polygon &polygon, double x, double y)
+{
+    double distance = -std::numeric_limits<double>::infinity();
+    for (size_t j = 0; j < Polygon::directions; ++j)
+        distance = std::max(distance, x * cosines[j] + y * sines[j] - polygon.reach[j]);
+    return distance;
+}
+
+std::array<const VectorKernels *, 3> allVectorKernels()
+{
+    std::array<const VectorKernels *, 3> kernels{&kernelsPlain};
+#ifdef VNA_VECTOR_TYPES
+    kernels[1] = &kernelsWide2;
+#endif
+#ifdef VNA_X86_TARGETS
+    if (__builtin_cpu_supports("avx2"))
+        kernels[2] = &kernelsWide4;
+#endif
+    return kernels;
+}
+
+const VectorKernels &vectorKernels()
+{
+    static const VectorKernels &widest = []() -> const VectorKernels & {
+        const VectorKernels *found = nullptr;
+        for (const VectorKernels *kernels : allVectorKernels())
+            found = kernels ? kernels : found;
+        return *found;
+    }();
+    return widest;
+}
+
+} // namespace SmithRender

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+/*! \file
+    The inner loops over a trace's points, in the widest vectors the processor has. Every width does
+   the same operations on each point and never fuses multiply and add, so results are identical, bit
+   for bit. */
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <array>
+#include <limits>
+
+namespace SmithRender
+{
+
+/// A segment from a to b, prepared for many distances to it.
+struct Segment {
+    Segment(double fromX, double fromY, double toX, double toY)
+        : ax(fromX)
+        , ay(fromY)
+        , dx(toX - fromX)
+        , dy(toY - fromY)
+    {
+        // One too short for a reciprocal counts as the point a.
+        const double squaredLength = dx * dx + dy * dy;
+        if (squaredLength >= 4.0 * std::numeric_limits<double>::min())
+            inverse = 1.0 / squaredLength;
+    }
+
+    double ax;
+    double ay;
+    double dx;
+    double dy;
+    double inverse = 0.0; ///< of the squared length
+};
+
+/// The point farthest from a segment so far; of several equally far, the one of lowest index.
+struct Farthest {
+    double squaredDistance = -1.0;
+    int index = -1;
+
+    void offer(double newSquaredDistance, int newIndex)
+    {
+        if (newSquaredDistance > squaredDistance
+            || (newSquaredDistance == squaredDistance && newIndex < index)) {
+            squaredDistance = newSquaredDistance;
+            index = newIndex;
+        }
+    }
+};
+
+/*! A convex polygon of fixed edge directions around a set of points: how far the set reaches in
+   each of 16 directions, the first along x, then anticlockwise. The last value repeats the first.
+   An empty set reaches to minus infinity. */
+struct Polygon {
+    static constexpr int directions = 16;
+    std::array<double, directions + 1> reach;
+};
+
+/// No point of the set is nearer to (\a x, \a y) than this; below 0 inside.
+[[nodiscard]] double distanceAtLeast(const Polygon &polygon, double x, double y);
+
+/// One set of inner loops. All pointers are to the first point of a trace.
+struct VectorKernels {
+    /// Puts the farthest from \a segment of the points \a first to \a end - 1, which must be
+    /// finite, into \a best if it beats that. Memory may be read up to the point \a readable - 1.
+    void (*farthest)(const double *x, const double *y, int first, int end, int readable,
+                     const Segment &segment, Farthest &best);
+    /// The squared distances to \a segment of \a count points. Reads and writes up to the next
+    /// multiple of the widest vector.
+    void (*squaredDistances)(const double *x, const double *y, int count, const Segment &segment,
+                             double *result);
+    /// The largest squared distance to \a segment of any point in \a polygon.
+    double (*farthestOf)(const Polygon &polygon, const Segment &segment);
+    /// The polygon around the points \a first to \a end - 1; false, with a useless polygon, unless
+    /// all of them are finite.
+    bool (*enclose)(const double *x, const double *y, int first, int end, Polygon &polygon);
+
+    static constexpr int widest = 4; ///< points in the widest vector of any set
+};
+
+/// The sets this processor can run, narrowest first; null for those it cannot.
+[[nodiscard]] VNAWIDGETS_EXPORT std::array<const VectorKernels *, 3> allVectorKernels();
+
+/// The widest of them, chosen once.
+[[nodiscard]] const VectorKernels &vectorKernels();
+
+} // namespace SmithRender
