@@ -74,7 +74,7 @@ int main(int argc, char **argv)
     window.show();
 
     const QStringList arguments = QApplication::arguments();
-    const int grab = arguments.indexOf(QStringLiteral("--grab"));
+    const auto grab = arguments.indexOf(QStringLiteral("--grab"));
     if (grab > 0 && grab + 1 < arguments.size()) {
         window.activateWindow();
         field->setFocus();

@@ -34,7 +34,7 @@ QString unitSuffix(const QString &text)
             --end;
         return end;
     };
-    const int letters = skipBack(text.length(), isAsciiLetter);
+    const int letters = skipBack(int(text.length()), isAsciiLetter);
     if (letters == text.length())
         return {};
     const int others = skipBack(letters, [](QChar c) { return c.unicode() > 127; });

@@ -13,7 +13,7 @@ QString toString(double value, int precision)
     if (precision < 1 || !text.contains(QLatin1Char('.')))
         return text; // the second case is "inf" and "nan"
 
-    int length = text.length();
+    auto length = text.length();
     while (text.at(length - 1) == QLatin1Char('0'))
         --length;
     if (text.at(length - 1) == QLatin1Char('.'))

@@ -59,7 +59,7 @@ void PropertyWatcher::watchProperty(QObject *object, const QString &propertyName
 
 void PropertyWatcher::stopWatching(QObject *object, const QString &propertyName)
 {
-    for (int i = m_entries.size() - 1; i >= 0; --i) {
+    for (int i = int(m_entries.size()) - 1; i >= 0; --i) {
         const Entry &entry = *m_entries.at(i);
         if (entry.object == object && entry.propertyName == propertyName) {
             removeAt(i);
@@ -71,7 +71,7 @@ void PropertyWatcher::stopWatching(QObject *object, const QString &propertyName)
 void PropertyWatcher::stopWatchingObject(QObject *object)
 {
     bool watched = false;
-    for (int i = m_entries.size() - 1; i >= 0; --i) {
+    for (int i = int(m_entries.size()) - 1; i >= 0; --i) {
         if (m_entries.at(i)->object == object) {
             removeAt(i);
             watched = true;

@@ -432,7 +432,7 @@ private Q_SLOTS:
         BaseUnitAdapter adapter;
         adapter.setInputText(text);
         for (const int key : {Qt::Key_plusminus, Qt::Key_Period, Qt::Key_Escape, Qt::Key_Return}) {
-            publish(&adapter, text, text.length());
+            publish(&adapter, text, int(text.length()));
             press(&adapter, key);
         }
         QCOMPARE(adapter.getLastAcceptedInputText(), text.trimmed());
