@@ -75,8 +75,6 @@ Section *overlays()
     key->setFocusPolicy(Qt::NoFocus);
     key->setText(tr("Marker"));
     key->setLabelText(QStringLiteral("2.412 GHz"));
-    key->setTextMargins({12, 0, 12, 0});
-    key->setLabelMargins({12, 0, 12, 0});
     key->setGeometry(376, 40, 130, 84);
     auto *const overlay = new Controls::OverlayContainer(panel);
     auto *const dialog = new QDialog(panel);

@@ -102,8 +102,6 @@ Section *opener(Page *page)
     auto *const key = new LabelButton;
     key->setText(tr("Stop"));
     key->setLabelText(QStringLiteral("2.9 GHz"));
-    key->setTextMargins({12, 0, 12, 0});
-    key->setLabelMargins({12, 0, 12, 0});
     QObject::connect(key, &LabelButton::clicked, page, [page, key] {
         TouchNumKeyboard *const keypad = frequencyKeypad(tr("Stop"), 2.9e9, page->window());
         keypad->setAttribute(Qt::WA_DeleteOnClose);
