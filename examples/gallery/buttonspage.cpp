@@ -217,7 +217,7 @@ Section *switchButtons(Page *page)
 
 Page *createButtonsPage()
 {
-    auto *const page = new Page(QStringLiteral("buttons"), tr("Buttons"));
+    auto *const page = new Page(tr("Buttons"));
     page->add(abstractButtons(page));
     page->add(infoButtons(page));
     page->add(labelButtons(page));

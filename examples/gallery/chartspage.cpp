@@ -161,7 +161,7 @@ Section *markers(Page *)
 
 Page *createChartsPage()
 {
-    auto *const page = new Page(QStringLiteral("charts"), tr("Charts"));
+    auto *const page = new Page(tr("Charts"));
     page->add(smithCharts(page));
     page->add(markers(page));
     return page;

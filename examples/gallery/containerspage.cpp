@@ -126,7 +126,7 @@ Section *displayPanels(Page *page)
 
 Page *createContainersPage()
 {
-    auto *const page = new Page(QStringLiteral("containers"), tr("Containers"));
+    auto *const page = new Page(tr("Containers"));
     page->add(overlays());
     page->addBeside(dialogs());
     page->add(locks());

@@ -120,7 +120,7 @@ Section *opener(Page *page)
 
 Page *createEntryPage()
 {
-    auto *const page = new Page(QStringLiteral("entry"), tr("Numeric entry"));
+    auto *const page = new Page(tr("Numeric entry"));
     page->add(keypads());
     page->add(fields());
     page->addBeside(opener(page));

@@ -72,7 +72,7 @@ Section *comboBoxes()
 
 Page *createListsPage()
 {
-    auto *const page = new Page(QStringLiteral("lists"), tr("Lists"));
+    auto *const page = new Page(tr("Lists"));
     page->add(popups());
     page->add(comboBoxes());
     return page;

@@ -78,7 +78,7 @@ Section *sweepBars()
 
 Page *createReadoutsPage()
 {
-    auto *const page = new Page(QStringLiteral("readouts"), tr("Read-outs"));
+    auto *const page = new Page(tr("Read-outs"));
     page->add(markerItems(page));
     page->add(sweepBars());
     return page;
