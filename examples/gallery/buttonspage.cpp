@@ -19,11 +19,6 @@ namespace
 constexpr QSize s_key(150, 84);
 constexpr QSize s_plain(120, 44);
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 template<typename Button>
 Button *report(Page *page, Button *button, const QString &name)
 {

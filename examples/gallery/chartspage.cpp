@@ -20,11 +20,6 @@ namespace
 
 using Controls::ThemeManager;
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 constexpr int s_points = 401;
 
 /// Reflection of a resonant load behind a length of line.

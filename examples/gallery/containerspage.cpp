@@ -23,11 +23,6 @@ namespace Gallery
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 /// A piece of a front panel for something to stand on.
 QFrame *stage(const QSize &size)
 {

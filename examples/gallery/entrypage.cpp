@@ -20,11 +20,6 @@ namespace
 using Controls::ScaledUnitAdapter;
 using Controls::TouchNumKeyboard;
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 ScaledUnitAdapter *frequency(double value, QObject *parent)
 {
     auto *const adapter = new ScaledUnitAdapter({{QStringLiteral("GHz"), 1e9},

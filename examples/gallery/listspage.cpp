@@ -12,11 +12,6 @@ namespace Gallery
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 /// A pop-up that stays open as a part of the page.
 PopupWidget *embeddedPopup(const QString &chosen)
 {

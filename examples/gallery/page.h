@@ -15,6 +15,12 @@ class QVBoxLayout;
 namespace Gallery
 {
 
+/// A text of a page, translated.
+inline QString tr(const char *text)
+{
+    return QObject::tr(text);
+}
+
 /// One widget of the library: its name, what it is for, and samples of it, each with a caption.
 class Section : public QFrame
 {

@@ -13,11 +13,6 @@ namespace Gallery
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 /// Colours an item as the first trace, in whichever theme.
 void followTrace(MarkerStatusItem *item)
 {
