@@ -7,7 +7,6 @@
 #include <widgets/menubutton.h>
 #include <widgets/switchbutton.h>
 
-#include <QLabel>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
@@ -19,12 +18,6 @@ namespace
 
 constexpr QSize s_key(150, 84);
 constexpr QSize s_plain(120, 44);
-constexpr QMargins s_margins(12, 0, 12, 0);
-
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
 
 template<typename Button>
 Button *report(Page *page, Button *button, const QString &name)
@@ -47,9 +40,7 @@ Button *softKey(const char *name, const QString &value = QString())
 {
     auto *const button = new Button;
     button->setText(tr(name));
-    button->setTextMargins(s_margins);
     button->setTextAlignment(Qt::AlignLeft | Qt::AlignBottom);
-    button->setLabelMargins(s_margins);
     button->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
     button->setLabelFont(valueFont());
     button->setLabelText(value);
@@ -91,11 +82,10 @@ Section *infoButtons(Page *page)
         progress->setFixedSize(110, 22);
         auto *const frame = new QWidget;
         auto *const layout = new QVBoxLayout(frame);
-        layout->setContentsMargins(s_margins);
+        layout->setContentsMargins(10, 0, 10, 0);
         layout->addWidget(progress);
         frame->setAttribute(Qt::WA_TransparentForMouseEvents);
         button->setText(tr("Averaging"));
-        button->setTextMargins(s_margins);
         button->setInfoWidget(frame);
         button->setLayoutType(type);
         section->add(button, tr(caption),
@@ -131,7 +121,9 @@ Section *labelButtons(Page *page)
     add("too long", "Marker", "2.412 345 678 901 GHz");
     LabelButton *const wrapped = add("\"multilineLabel\"", "Trigger", "External, rising edge");
     wrapped->setProperty("multilineLabel", true);
-    wrapped->setLabelFont(QFont());
+    QFont small;
+    small.setPixelSize(13);
+    wrapped->setLabelFont(small);
     LabelButton *const beside = add("LeftRight", "IF bandwidth", "10 kHz");
     beside->setLayoutType(InfoButton::LeftRight);
     beside->setFixedSize(240, 52);
@@ -199,7 +191,6 @@ Section *switchButtons(Page *page)
     const auto add = [page, section](const char *caption, bool on) {
         auto *const button = new SwitchButton;
         button->setText(tr("Sweep"));
-        button->setTextMargins(s_margins);
         button->setStatus(on);
         QObject::connect(button, &SwitchButton::statusChanged, page, [page](bool state) {
             Q_EMIT page->told(QStringLiteral("SwitchButton: statusChanged(%1)")
@@ -221,7 +212,7 @@ Section *switchButtons(Page *page)
 
 Page *createButtonsPage()
 {
-    auto *const page = new Page(QStringLiteral("buttons"), tr("Buttons"));
+    auto *const page = new Page(tr("Buttons"));
     page->add(abstractButtons(page));
     page->add(infoButtons(page));
     page->add(labelButtons(page));

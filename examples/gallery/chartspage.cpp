@@ -20,11 +20,6 @@ namespace
 
 using Controls::ThemeManager;
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 constexpr int s_points = 401;
 
 /// Reflection of a resonant load behind a length of line.
@@ -161,7 +156,7 @@ Section *markers(Page *)
 
 Page *createChartsPage()
 {
-    auto *const page = new Page(QStringLiteral("charts"), tr("Charts"));
+    auto *const page = new Page(tr("Charts"));
     page->add(smithCharts(page));
     page->add(markers(page));
     return page;

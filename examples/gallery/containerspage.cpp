@@ -23,11 +23,6 @@ namespace Gallery
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 /// A piece of a front panel for something to stand on.
 QFrame *stage(const QSize &size)
 {
@@ -75,8 +70,6 @@ Section *overlays()
     key->setFocusPolicy(Qt::NoFocus);
     key->setText(tr("Marker"));
     key->setLabelText(QStringLiteral("2.412 GHz"));
-    key->setTextMargins({12, 0, 12, 0});
-    key->setLabelMargins({12, 0, 12, 0});
     key->setGeometry(376, 40, 130, 84);
     auto *const overlay = new Controls::OverlayContainer(panel);
     auto *const dialog = new QDialog(panel);
@@ -128,7 +121,7 @@ Section *displayPanels(Page *page)
 
 Page *createContainersPage()
 {
-    auto *const page = new Page(QStringLiteral("containers"), tr("Containers"));
+    auto *const page = new Page(tr("Containers"));
     page->add(overlays());
     page->addBeside(dialogs());
     page->add(locks());

@@ -20,11 +20,6 @@ namespace
 using Controls::ScaledUnitAdapter;
 using Controls::TouchNumKeyboard;
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 ScaledUnitAdapter *frequency(double value, QObject *parent)
 {
     auto *const adapter = new ScaledUnitAdapter({{QStringLiteral("GHz"), 1e9},
@@ -102,8 +97,6 @@ Section *opener(Page *page)
     auto *const key = new LabelButton;
     key->setText(tr("Stop"));
     key->setLabelText(QStringLiteral("2.9 GHz"));
-    key->setTextMargins({12, 0, 12, 0});
-    key->setLabelMargins({12, 0, 12, 0});
     QObject::connect(key, &LabelButton::clicked, page, [page, key] {
         TouchNumKeyboard *const keypad = frequencyKeypad(tr("Stop"), 2.9e9, page->window());
         keypad->setAttribute(Qt::WA_DeleteOnClose);
@@ -122,7 +115,7 @@ Section *opener(Page *page)
 
 Page *createEntryPage()
 {
-    auto *const page = new Page(QStringLiteral("entry"), tr("Numeric entry"));
+    auto *const page = new Page(tr("Numeric entry"));
     page->add(keypads());
     page->add(fields());
     page->addBeside(opener(page));

@@ -75,9 +75,6 @@ bool grabPictures(GalleryWindow *window, const QString &folder)
                 if (!saved)
                     return false;
             }
-            focus(nullptr);
-            if (!save(page->widget(), target, QLatin1String("gallery-") + page->id(), name))
-                return false;
         }
     }
     std::printf("The pictures are in %s\n", qUtf8Printable(target.absolutePath()));

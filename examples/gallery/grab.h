@@ -9,7 +9,7 @@ namespace Gallery
 
 class GalleryWindow;
 
-/*! Writes a PNG of every page and of every section, dark and light, into \a folder, which is made
+/*! Writes a PNG of every section, dark and light, into \a folder, which is made
     where it is missing: <id>-dark.png and <id>-light.png. False, with a message, when one cannot be
     written. */
 bool grabPictures(GalleryWindow *window, const QString &folder);

@@ -12,11 +12,6 @@ namespace Gallery
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 /// A pop-up that stays open as a part of the page.
 PopupWidget *embeddedPopup(const QString &chosen)
 {
@@ -72,7 +67,7 @@ Section *comboBoxes()
 
 Page *createListsPage()
 {
-    auto *const page = new Page(QStringLiteral("lists"), tr("Lists"));
+    auto *const page = new Page(tr("Lists"));
     page->add(popups());
     page->add(comboBoxes());
     return page;

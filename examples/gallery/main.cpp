@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -24,6 +25,20 @@ void dropPlatformNoise(QtMsgType type, const QMessageLogContext &context, const 
     if (!message.startsWith(QLatin1String("This plugin does not support")))
         s_handleMessage(type, context, message);
 }
+
+/// The English captions of texts whose source says for translators where they stand.
+class Captions : public QTranslator
+{
+public:
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        QString text = QString::fromUtf8(source);
+        return text.endsWith(QLatin1String("(GraphLabel)"))
+            ? text.remove(QLatin1String("(GraphLabel)"))
+            : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
 
 int fail(const QString &message)
 {
@@ -71,6 +86,8 @@ int main(int argc, char **argv)
         std::fputs(qUtf8Printable(parser.helpText()), stdout);
         return 0;
     }
+    Captions captions;
+    QCoreApplication::installTranslator(&captions);
     QFont font = QApplication::font();
     font.setPixelSize(14);
     QApplication::setFont(font);

@@ -49,9 +49,8 @@ void Section::addRow()
     m_rows->addLayout(m_row);
 }
 
-Page::Page(const QString &id, const QString &title)
-    : m_id(id)
-    , m_title(title)
+Page::Page(const QString &title)
+    : m_title(title)
 {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);

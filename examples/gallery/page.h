@@ -15,6 +15,12 @@ class QVBoxLayout;
 namespace Gallery
 {
 
+/// A text of a page, translated.
+inline QString tr(const char *text)
+{
+    return QObject::tr(text);
+}
+
 /// One widget of the library: its name, what it is for, and samples of it, each with a caption.
 class Section : public QFrame
 {
@@ -57,10 +63,8 @@ class Page : public QScrollArea
     Q_OBJECT
 
 public:
-    /// \a id names the picture of the page.
-    Page(const QString &id, const QString &title);
+    explicit Page(const QString &title);
 
-    QString id() const { return m_id; }
     QString title() const { return m_title; }
     const QVector<Section *> &sections() const { return m_sections; }
 
@@ -72,7 +76,6 @@ Q_SIGNALS:
     void told(const QString &what);
 
 private:
-    QString m_id;
     QString m_title;
     QVBoxLayout *m_rows;
     QHBoxLayout *m_row = nullptr;

@@ -13,11 +13,6 @@ namespace Gallery
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QObject::tr(text);
-}
-
 /// Colours an item as the first trace, in whichever theme.
 void followTrace(MarkerStatusItem *item)
 {
@@ -78,7 +73,7 @@ Section *sweepBars()
 
 Page *createReadoutsPage()
 {
-    auto *const page = new Page(QStringLiteral("readouts"), tr("Read-outs"));
+    auto *const page = new Page(tr("Read-outs"));
     page->add(markerItems(page));
     page->add(sweepBars());
     return page;

@@ -18,6 +18,7 @@ InfoButton::InfoButton(QWidget *parent)
     m_nameLabel->setObjectName(QStringLiteral("nameLabel"));
     m_nameLabel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_nameLabel->setMinimumWidth(0);
+    m_nameLabel->setIndent(0); // or a style sheet's padding would bring an indent along
     m_nameLabel->setAlignment(m_textAlignment);
     placeCells();
 }

@@ -65,7 +65,7 @@ public:
     Qt::Alignment textAlignment() const { return m_textAlignment; }
     void setTextAlignment(Qt::Alignment alignment);
 
-    /// Room around the name, in pixels. Default: none.
+    /// Room around the name, in pixels, beside the style sheet's padding. Default: none.
     QMargins textMargins() const { return m_textMargins; }
     void setTextMargins(QMargins margins);
 

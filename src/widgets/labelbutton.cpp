@@ -25,6 +25,7 @@ LabelButton::LabelButton(QWidget *parent)
     value->setObjectName(QStringLiteral("valueLabel"));
     value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     value->setMinimumWidth(0);
+    value->setIndent(0); // or a style sheet's padding would bring an indent that elides too late
     value->setAlignment(m_labelAlignment);
     setLabel(value);
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,

@@ -23,8 +23,8 @@ class QEnterEvent;
     auto *start = new LabelButton(this);
     start->setText(tr("Start"));
     start->setLabelText(tr("2.000 GHz"));
-    start->setTextMargins({8, 0, 8, 0});
-    start->setLabelMargins({8, 0, 8, 0});
+    start->setTextAlignment(Qt::AlignLeft | Qt::AlignBottom); // the two lines close up
+    start->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
     connect(start, &LabelButton::clicked, this, &Panel::editStart);
     start->setProperty("multilineLabel", true); // for a value of several words
     \endcode
@@ -56,7 +56,7 @@ public:
     Qt::Alignment labelAlignment() const { return m_labelAlignment; }
     void setLabelAlignment(Qt::Alignment alignment);
 
-    /// Room around the value, in pixels. Default: none.
+    /// Room around the value, in pixels, beside the style sheet's padding. Default: none.
     QMargins labelMargins() const { return m_labelMargins; }
     void setLabelMargins(QMargins margins);
 

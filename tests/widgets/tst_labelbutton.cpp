@@ -91,6 +91,7 @@ void tst_LabelButton::fitsAgainWhenSomethingChanges()
     // A style sheet counts as well.
     f.button->setStyleSheet(QStringLiteral("QLabel#valueLabel { padding-left: 20px; }"));
     QVERIFY(f.shown() != LongValue);
+    QVERIFY(f.button->label()->sizeHint().width() <= f.button->width());
     f.button->setLabelText(QStringLiteral("1 Hz"));
     QCOMPARE(f.shown(), QStringLiteral("1 Hz"));
 }

@@ -130,7 +130,7 @@ void tst_MenuButton::comesUpWhenTheGuardRunsOut()
     QVERIFY(f.button->isDown());
     f.popup()->close();
     QVERIFY(f.button->isDown());
-    QTRY_VERIFY_WITH_TIMEOUT(!f.button->isDown(), 400);
+    QTRY_VERIFY_WITH_TIMEOUT(!f.button->isDown(), 2000);
     QVERIFY(!f.button->isChecked());
 }
 
