@@ -352,6 +352,23 @@ private Q_SLOTS:
         }
     }
 
+    /// A point so far out that pixel coordinates lose their fractions.
+    void wildPoints()
+    {
+        const Viewport viewport = squareViewport(0.1, 0.0, 1.05, 100, 100);
+        for (double far = 1e3; far < 1e17; far *= 10.0) {
+            Trace trace = spiral(2000, 0.01, 0.01);
+            trace.real[700] = far;
+            trace.imag[1300] = -far / 3.0;
+            TraceTree tree;
+            tree.setSource(trace.real, trace.imag);
+            QCOMPARE(tree.decimate(viewport).keptIndices,
+                     decimate(trace.real, trace.imag, viewport).keptIndices);
+            QCOMPARE(tree.nearestIndex(viewport, {30.0, 40.0}),
+                     nearestIndex(trace.real, trace.imag, viewport, {30.0, 40.0}));
+        }
+    }
+
     /// A distance of exactly the tolerance does not split, whatever the rounding in other units.
     void aPointAtExactlyTheToleranceIsDropped()
     {
