@@ -137,7 +137,9 @@ void TraceTree::Private::findRuns()
     };
     for (int block = 0; block < m_blocks.blockCount(); ++block) {
         const int blockFirst = block << TraceBlocks::blockShift;
-        const int blockEnd = std::min(blockFirst + (1 << TraceBlocks::blockShift), m_count);
+        const int blockEnd = block + 1 < m_blocks.blockCount()
+            ? blockFirst + (1 << TraceBlocks::blockShift)
+            : m_count; // the last block has its last point for itself
         if (m_blocks.isFinite(block)) {
             if (first < 0)
                 first = blockFirst;
@@ -150,11 +152,6 @@ void TraceTree::Private::findRuns()
                 first = i;
         }
     }
-    // The last block's last point belongs to it alone.
-    if (!isFinite(m_count - 1))
-        endRun(m_count - 1);
-    else if (first < 0)
-        first = m_count - 1;
     endRun(m_count);
 }
 

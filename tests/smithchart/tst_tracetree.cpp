@@ -275,6 +275,27 @@ private Q_SLOTS:
             QCOMPARE(disagreement.ties, 0);
     }
 
+    void gapsMayLieAnywhere()
+    {
+        const Viewport viewport = squareViewport(0.0, 0.0, 1.05, 100, 100);
+        for (const int count : {300, 512, 513, 514, 1024, 1025, 1026}) {
+            for (const int hole : {0, 1, 63, 64, 65, 511, 512, 513, count - 2, count - 1}) {
+                if (hole >= count)
+                    continue;
+                Trace trace = spiral(count, 0.01, 0.005);
+                trace.imag[hole] = notANumber;
+                TraceTree tree;
+                tree.setSource(trace.real, trace.imag);
+                QCOMPARE(tree.decimate(viewport).keptIndices,
+                         decimate(trace.real, trace.imag, viewport).keptIndices);
+                for (int x = 0; x < 100; x += 7) {
+                    QCOMPARE(tree.nearestIndex(viewport, {x + 0.5, 40.0}),
+                             nearestIndex(trace.real, trace.imag, viewport, {x + 0.5, 40.0}));
+                }
+            }
+        }
+    }
+
     /// The same view asked again, before and after others, has the same answer.
     void answersDoNotDependOnWhatWasAskedBefore()
     {
@@ -328,6 +349,23 @@ private Q_SLOTS:
         for (const QPointF &pointer : {QPointF(40.0, 40.0), QPointF(notANumber, 0.0)}) {
             QCOMPARE(tree.nearestIndex(viewport, pointer),
                      nearestIndex(trace.real, trace.imag, viewport, pointer));
+        }
+    }
+
+    /// A point so far out that pixel coordinates lose their fractions.
+    void wildPoints()
+    {
+        const Viewport viewport = squareViewport(0.1, 0.0, 1.05, 100, 100);
+        for (double far = 1e3; far < 1e17; far *= 10.0) {
+            Trace trace = spiral(2000, 0.01, 0.01);
+            trace.real[700] = far;
+            trace.imag[1300] = -far / 3.0;
+            TraceTree tree;
+            tree.setSource(trace.real, trace.imag);
+            QCOMPARE(tree.decimate(viewport).keptIndices,
+                     decimate(trace.real, trace.imag, viewport).keptIndices);
+            QCOMPARE(tree.nearestIndex(viewport, {30.0, 40.0}),
+                     nearestIndex(trace.real, trace.imag, viewport, {30.0, 40.0}));
         }
     }
 
