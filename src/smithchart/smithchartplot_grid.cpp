@@ -79,7 +79,7 @@ public:
             if (std::abs(r) > 1e-12) // r = 0 is the rim itself, drawn by the boundary
                 addCircle(side * r / (r + 1.0), 1.0 / (r + 1.0), gridPen(), SmithLayers::grid());
         }
-        for (int i = resistances.size(); i < chart.circles.x.size(); ++i)
+        for (auto i = resistances.size(); i < chart.circles.x.size(); ++i)
             addLine(chart.circles.x.at(i), chart.circles.y.at(i));
     }
 

@@ -106,7 +106,7 @@ bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencie
     if (smithPerformance().isDebugEnabled())
         timer.start();
 
-    const int n = std::min(real.size(), imag.size());
+    const auto n = std::min(real.size(), imag.size());
     // A vector that is taken whole is shared with the caller, not copied.
     const auto firstN = [n](const QVector<double> &values) {
         return values.size() == n ? values : values.mid(0, n);
@@ -207,7 +207,7 @@ bool SmithChartPlot::hasSourceDataAtIndex(int traceId, double index) const
     const OwnedCurve *const record = findTrace(traceId);
     if (!record || !std::isfinite(index) || index < 0.0)
         return false;
-    if (index > std::min(record->frequencies.size(), record->real.size()) - 1.0)
+    if (index > static_cast<double>(std::min(record->frequencies.size(), record->real.size()) - 1))
         return false;
     const auto below = static_cast<int>(std::floor(index));
     const auto above = static_cast<int>(std::ceil(index));
