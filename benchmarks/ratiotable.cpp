@@ -72,8 +72,12 @@ void RatioTable::ReportRuns(const std::vector<Run> &runs)
         measured.milliseconds = run.GetAdjustedCPUTime();
         for (const auto &[name, counter] : run.counters)
             measured.counters[name] = counter.value;
-        std::fprintf(stderr, "%s: %.4g ms\n", run.run_name.function_name.c_str(),
+        // Counters too: "kept" shows that the peers did the same work.
+        std::fprintf(stderr, "%s: %.4g ms", run.run_name.function_name.c_str(),
                      measured.milliseconds);
+        for (const auto &[name, value] : measured.counters)
+            std::fprintf(stderr, ", %s %.6g", name.c_str(), value);
+        std::fprintf(stderr, "\n");
     }
 }
 

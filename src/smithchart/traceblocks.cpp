@@ -141,7 +141,7 @@ void TraceBlocks::push(int level, int firstBlock, int lastBlock, const Promise &
 {
     const size_t base = m_stack.size();
     for (int block = firstBlock; block <= lastBlock; ++block) {
-        Candidate candidate{0.0, level, block};
+        Candidate candidate{0.0, 0.0, level, block};
         if (!promise(m_levels[static_cast<size_t>(level)][static_cast<size_t>(block)], candidate))
             continue;
         size_t at = m_stack.size();
@@ -169,15 +169,17 @@ Farthest TraceBlocks::farthest(int first, int end, const Segment &segment)
     // repeat, most blocks hold a point as far as the best, and the first of them is the one to
     // find.
     double tie = -1.0;
-    const auto canWin = [&](double bound, int level, int block) {
-        return bound > ((block << shiftOf(level)) > best.index ? tie : best.squaredDistance);
+    const auto canWin = [&](const Candidate &candidate) {
+        const bool isBehind = (candidate.block << shiftOf(candidate.level)) > best.index;
+        return candidate.bound > (isBehind ? tie : best.squaredDistance);
     };
     const auto pushOverlapping = [&](int level, int from, int to) {
         const int shift = shiftOf(level);
         push(level, std::max(from, first >> shift), std::min(to, (end - 1) >> shift),
              [&](const Polygon &polygon, Candidate &candidate) {
-                 candidate.promise = kernels.farthestOf(polygon, segment);
-                 return canWin(candidate.promise, candidate.level, candidate.block);
+                 candidate.bound = kernels.farthestOf(polygon, segment);
+                 candidate.promise = candidate.bound;
+                 return canWin(candidate);
              });
     };
     int level = 0;
@@ -189,7 +191,7 @@ Farthest TraceBlocks::farthest(int first, int end, const Segment &segment)
     while (!m_stack.empty()) {
         const Candidate top = m_stack.back();
         m_stack.pop_back();
-        if (!canWin(top.promise, top.level, top.block))
+        if (!canWin(top))
             continue;
         if (top.level == 0) {
             const int from = top.block << blockShift;
@@ -243,9 +245,12 @@ void TraceBlocks::nearest(const Viewport &viewport, NearestScan &scan)
            + std::fabs(y));
 
     const auto promise = [&](const Polygon &polygon, Candidate &candidate) {
-        const double distance = std::max(distanceAtLeast(polygon, x, y) - slack, 0.0) * scale;
-        candidate.promise = -distance * distance;
-        return !(-candidate.promise > scan.best());
+        const double toPolygon = distanceAtLeast(polygon, x, y) - slack;
+        const double distance = std::max(toPolygon, 0.0) * scale;
+        candidate.bound = distance * distance;
+        // Points of a winding trace lie along the polygon rather than in its middle.
+        candidate.promise = -std::fabs(toPolygon);
+        return !(candidate.bound > scan.best());
     };
     m_stack.clear();
     const int top = static_cast<int>(m_levels.size()) - 1;
@@ -253,7 +258,7 @@ void TraceBlocks::nearest(const Viewport &viewport, NearestScan &scan)
     while (!m_stack.empty()) {
         const Candidate candidate = m_stack.back();
         m_stack.pop_back();
-        if (-candidate.promise > scan.best())
+        if (candidate.bound > scan.best())
             continue;
         if (candidate.level == 0) {
             nearestByChords(candidate.block, x, y, scale, slack, scan);

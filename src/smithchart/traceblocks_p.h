@@ -51,7 +51,8 @@ private:
 
     /// A block, of one level or another, that may hold what is looked for.
     struct Candidate {
-        double promise;
+        double promise; ///< the higher, the sooner it is looked at
+        double bound; ///< of the squared distances of its points
         int level;
         int block;
     };

@@ -40,7 +40,7 @@ public:
 
     bool accepts()
     {
-        const int count = m_points.size();
+        const int count = static_cast<int>(m_points.size());
         for (int first = 0; first < count; ++first) {
             if (!isValid(first)) {
                 if (!isKept(first))
@@ -398,7 +398,7 @@ private Q_SLOTS:
             if (tree.decimate(viewport).keptIndices.size() < kept)
                 return infinity;
             (void)tree.nearestIndex(viewport, {100.0, 100.0});
-            return static_cast<double>(tree.memoryUsed()) / trace.real.size();
+            return static_cast<double>(tree.memoryUsed()) / static_cast<double>(trace.real.size());
         };
         QVERIFY(bytesAPoint(spiral(200000, 20.0 / 200000), 1000) <= 2.0);
         QVERIFY(bytesAPoint(spiral(20000, 0.7), 20000) <= 48.0);
