@@ -4,6 +4,7 @@
 
 #include "format.h"
 
+#include <algorithm>
 #include <cmath>
 #include <complex>
 
@@ -24,9 +25,25 @@ double interpolated(const QVector<double> &values, double index)
 
 } // namespace
 
+double frequencyAt(const Network &network, double index)
+{
+    return interpolated(network.frequencies, index);
+}
+
+double indexAt(const Network &network, double hertz)
+{
+    const QVector<double> &frequencies = network.frequencies;
+    const auto begin = frequencies.begin();
+    const int above = int(std::lower_bound(begin, frequencies.end(), hertz) - begin);
+    if (above == 0 || above == frequencies.size())
+        return qMax(0, qMin(above, frequencies.size() - 1));
+    const double lower = frequencies.at(above - 1);
+    return above - 1 + (hertz - lower) / (frequencies.at(above) - lower);
+}
+
 MarkerReading readMarker(const Network &network, const Parameter &parameter, double index)
 {
-    const double hertz = interpolated(network.frequencies, index);
+    const double hertz = frequencyAt(network, index);
     const std::complex<double> gamma(interpolated(parameter.real, index),
                                      interpolated(parameter.imag, index));
     MarkerReading reading;

@@ -13,11 +13,11 @@
 #include <panel/samples.h>
 #include <panel/smithview.h>
 #include <panel/softkey.h>
+#include <panel/softkeymenu.h>
 #include <panel/tracebar.h>
 #include <plot/qcp.h>
 
 #include <QListWidget>
-#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -86,6 +86,10 @@ struct Desk {
 
     void click(const QWidget *widget)
     {
+        if (const auto *key = qobject_cast<const SoftKey *>(widget)) {
+            window.softKeys()->showKey(key);
+            settle();
+        }
         QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                           widget->mapTo(widget->window(), widget->rect().center()));
         settle();
@@ -109,10 +113,14 @@ struct Desk {
     void pick(SoftKey *key, int index)
     {
         click(key);
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        QVERIFY(menu);
-        QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          menu->actionGeometry(menu->actions().at(index)).center());
+        QWidget *popup = QApplication::activePopupWidget();
+        QVERIFY(popup);
+        const auto *list = popup->findChild<QListWidget *>();
+        const QPoint row = list->visualItemRect(list->item(index)).center();
+        QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          list->viewport()->mapTo(popup, row));
+        // A tap right after the list closed counts as the one that closed it.
+        QTest::qWait(220);
         settle();
     }
 };

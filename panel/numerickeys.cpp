@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "numerickeys.h"
+
+#include "format.h"
+#include "markerreading.h"
+#include "messagebar.h"
+#include "panelmodel.h"
+#include "panelwindow.h"
+#include "smithview.h"
+#include "softkey.h"
+#include "units.h"
+
+#include <QStyle>
+
+#include <cmath>
+
+namespace Panel
+{
+
+namespace
+{
+
+const QString s_nothing = QStringLiteral("\u2013");
+
+/// A tenth, a hundredth and a thousandth of a span, as powers of ten.
+QVector<double> decadeSteps(double span)
+{
+    const double tenth = span > 0.0 ? std::pow(10.0, std::floor(std::log10(span) - 1.0)) : 1.0;
+    return {tenth, tenth / 10.0, tenth / 100.0};
+}
+
+} // namespace
+
+NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_window(window)
+{
+    m_stimulusNumbers = {
+        {window->startKey(), [](const Stimulus &s) { return s.start; }, withStart},
+        {window->stopKey(), [](const Stimulus &s) { return s.stop; }, withStop},
+        {window->centerKey(), [](const Stimulus &s) { return s.center(); }, withCenter},
+        {window->spanKey(), [](const Stimulus &s) { return s.span(); }, withSpan},
+    };
+    for (const StimulusNumber &number : qAsConst(m_stimulusNumbers))
+        connect(number.key, &SoftKey::clicked, this, [this, number] { editStimulus(number); });
+    connect(window->markerStimulusKey(), &SoftKey::clicked, this, &NumericKeys::editMarkerStimulus);
+    connect(window->zoomKey(), &SoftKey::clicked, this, &NumericKeys::editZoom);
+
+    connect(model, &PanelModel::activeTraceChanged, this, &NumericKeys::showStimulus);
+    connect(model, &PanelModel::stimulusChanged, this, &NumericKeys::showStimulus);
+    connect(model, &PanelModel::stimulusChanged, this, &NumericKeys::showMarkerStimulus);
+    connect(model, &PanelModel::selectedMarkerChanged, this, &NumericKeys::showMarkerStimulus);
+    connect(model, &PanelModel::markerMoved, this, &NumericKeys::showMarkerStimulus);
+    connect(window->smithView(), &SmithView::viewChanged, this, &NumericKeys::showZoom);
+    showStimulus();
+    showMarkerStimulus();
+    showZoom();
+}
+
+template<typename Apply>
+void NumericKeys::edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps,
+                       Apply apply)
+{
+    auto *dialog = new NumericDialog(key->name(), adapter, m_window);
+    dialog->setSteps(steps);
+    dialog->setPopupAnchorWidget(key);
+    MessageBar *bar = m_window->messageBar();
+    bar->setMessage({}); // of the last entry
+    connect(dialog, &NumericDialog::valueChanged, this, apply);
+    connect(dialog, &NumericDialog::limited, bar, &MessageBar::setMessage);
+    // Networks that come and go would leave it with another range, or nothing to edit.
+    connect(m_model, &PanelModel::networksChanged, dialog, [this, dialog] {
+        dialog->disconnect(this); // nor do they take the old value back
+        dialog->reject();
+    });
+    const auto mark = [key](bool editing) {
+        key->setProperty("editing", editing);
+        key->style()->polish(key);
+    };
+    connect(dialog, &QDialog::finished, key, [mark] { mark(false); });
+    mark(true);
+    dialog->open();
+}
+
+void NumericKeys::editStimulus(const StimulusNumber &number)
+{
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
+        return;
+    const Stimulus limits = m_model->limits(*trace);
+    // What the entry began with: steps go back and forth from there.
+    const Stimulus before = m_model->stimulus(*trace);
+    const bool isSpan = number.key == m_window->spanKey();
+    auto *adapter = new FrequencyAdapter;
+    adapter->setRange(isSpan ? 0.0 : limits.start, isSpan ? limits.span() : limits.stop);
+    adapter->setRealValue(number.value(before));
+    QVector<double> steps = decadeSteps(limits.span());
+    if (isSpan)
+        steps.prepend(NumericDialog::Step125);
+    else
+        steps.append(NumericDialog::Step125);
+    edit(number.key, adapter, steps, [=, id = trace->id](double value) {
+        if (const Trace *edited = m_model->trace(id))
+            m_model->setStimulus(*edited, number.changed(before, value, limits));
+    });
+}
+
+void NumericKeys::editMarkerStimulus()
+{
+    const Marker *marker = m_model->selectedMarker();
+    if (!marker)
+        return;
+    const Network &network = m_model->network(*m_model->trace(marker->trace));
+    auto *adapter = new FrequencyAdapter;
+    adapter->setRange(network.frequencies.constFirst(), network.frequencies.constLast());
+    adapter->setRealValue(frequencyAt(network, marker->index));
+    QVector<double> steps = decadeSteps(adapter->maximum() - adapter->minimum());
+    edit(m_window->markerStimulusKey(), adapter, steps,
+         [this, traceId = marker->trace, number = marker->number](double value) {
+             if (const Trace *trace = m_model->trace(traceId))
+                 m_model->moveMarker(traceId, number, indexAt(m_model->network(*trace), value));
+         });
+}
+
+void NumericKeys::editZoom()
+{
+    auto *adapter = new NumberAdapter(2);
+    adapter->setRange(1.0, 20.0);
+    adapter->setRealValue(m_window->smithView()->zoom());
+    edit(m_window->zoomKey(), adapter, {NumericDialog::Step125, 1.0, 0.1},
+         [view = m_window->smithView()](double value) { view->setZoom(value); });
+}
+
+void NumericKeys::showStimulus()
+{
+    const Trace *trace = m_model->activeTrace();
+    for (const StimulusNumber &number : qAsConst(m_stimulusNumbers)) {
+        number.key->setEnabled(trace);
+        number.key->setValue(trace ? frequencyText(number.value(m_model->stimulus(*trace)))
+                                   : s_nothing);
+    }
+    // A file has the points that it has.
+    m_window->pointsKey()->setEnabled(false);
+    m_window->pointsKey()->setValue(
+        trace ? QString::number(m_model->network(*trace).frequencies.size()) : s_nothing);
+}
+
+void NumericKeys::showMarkerStimulus()
+{
+    const Marker *marker = m_model->selectedMarker();
+    SoftKey *key = m_window->markerStimulusKey();
+    key->setEnabled(marker);
+    key->setValue(marker ? frequencyText(
+                      frequencyAt(m_model->network(*m_model->trace(marker->trace)), marker->index))
+                         : s_nothing);
+}
+
+void NumericKeys::showZoom()
+{
+    m_window->zoomKey()->setValue(
+        QStringLiteral("%1 \u00d7").arg(m_window->smithView()->zoom(), 0, 'f', 2));
+}
+
+} // namespace Panel

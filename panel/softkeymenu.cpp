@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "softkeymenu.h"
+
+#include "softkey.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace Panel
+{
+
+SoftKeyMenu::SoftKeyMenu(QWidget *parent)
+    : QWidget(parent)
+    , m_tabs(new QButtonGroup(this))
+    , m_tabRow(new QHBoxLayout)
+    , m_pages(new QStackedWidget)
+{
+    setObjectName(QStringLiteral("softKeys"));
+    setAttribute(Qt::WA_StyledBackground);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(6, 2, 6, 6);
+    column->setSpacing(6);
+    m_tabRow->setSpacing(0);
+    column->addLayout(m_tabRow);
+    column->addWidget(m_pages, 1);
+    connect(m_tabs, &QButtonGroup::idToggled, this, [this](int page, bool checked) {
+        if (checked)
+            m_pages->setCurrentIndex(page);
+    });
+}
+
+void SoftKeyMenu::addPage(const QString &name)
+{
+    auto *page = new QWidget;
+    m_column = new QVBoxLayout(page);
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(6);
+    m_pages->addWidget(page);
+
+    auto *tab = new QPushButton(name);
+    tab->setObjectName(QStringLiteral("pageTab"));
+    tab->setCheckable(true);
+    tab->setMinimumHeight(40);
+    m_tabRow->addWidget(tab);
+    m_tabs->addButton(tab, m_pages->count() - 1);
+    tab->setChecked(m_pages->count() == 1);
+}
+
+SoftKey *SoftKeyMenu::addKey(const QString &name)
+{
+    auto *key = new SoftKey(name);
+    m_column->addWidget(key);
+    return key;
+}
+
+int SoftKeyMenu::page() const
+{
+    return m_pages->currentIndex();
+}
+
+int SoftKeyMenu::pageCount() const
+{
+    return m_pages->count();
+}
+
+void SoftKeyMenu::setPage(int page)
+{
+    if (QAbstractButton *tab = m_tabs->button(page))
+        tab->setChecked(true);
+}
+
+void SoftKeyMenu::turnPage(int step)
+{
+    setPage((page() + step + pageCount()) % pageCount());
+}
+
+void SoftKeyMenu::showKey(const SoftKey *key)
+{
+    setPage(m_pages->indexOf(key->parentWidget()));
+}
+
+} // namespace Panel

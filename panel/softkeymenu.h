@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+class QButtonGroup;
+class QHBoxLayout;
+class QStackedWidget;
+class QVBoxLayout;
+
+namespace Panel
+{
+
+class SoftKey;
+
+/*! The column of soft keys: pages of keys below a row of tabs that name them. Tab and the arrow
+   keys reach all of it. */
+class SoftKeyMenu : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SoftKeyMenu(QWidget *parent = nullptr);
+
+    /// Begins a page; the first is the one on show.
+    void addPage(const QString &name);
+    /// Appends a key to the page that was begun last. The menu owns it.
+    SoftKey *addKey(const QString &name);
+
+    int page() const;
+    int pageCount() const;
+    void setPage(int page);
+    /// Goes to the next page (1) or the one before (-1), around the ends.
+    void turnPage(int step);
+    /// Shows the page that a key is on.
+    void showKey(const SoftKey *key);
+
+private:
+    QButtonGroup *m_tabs;
+    QHBoxLayout *m_tabRow;
+    QStackedWidget *m_pages;
+    QVBoxLayout *m_column = nullptr; ///< of the page that was begun last
+};
+
+} // namespace Panel
