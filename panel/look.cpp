@@ -56,7 +56,7 @@ QPushButton#pageTab { border: none; border-bottom: 2px solid @border; border-rad
 QPushButton#pageTab:checked { border-bottom-color: @accent; color: @text; }
 QPushButton#pageTab:focus { border: 2px solid @accent; padding: 2px 3px; }
 Panel--SoftKey[editing="true"] { border-color: @accent; }
-Panel--SoftKey:disabled QLabel { color: @dimText; }
+Panel--SoftKey QLabel#valueLabel:disabled { color: @dimText; }
 Panel--NumericDialog QLabel#range { color: @dimText; font-size: 12px; padding-right: 6px; }
 Panel--NumericDialog LabelButton QLabel#nameLabel { font-weight: normal; padding: 0px 10px; }
 Panel--NumericDialog QLabel#range[warning="true"] { color: @warning; }

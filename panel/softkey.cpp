@@ -29,7 +29,7 @@ SoftKey::SoftKey(const QString &name, QWidget *parent)
     setTextAlignment(Qt::AlignLeft | Qt::AlignBottom);
     setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
     setLabelFont(scaled(font(), 1.12));
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     connect(this, &EnumTextButton::currentItemEdited, this, [this](int index) {
         showValue(); // until the owner agrees
         Q_EMIT choicePicked(index);

@@ -39,6 +39,7 @@ void SoftKeyMenu::addPage(const QString &name)
     m_column = new QVBoxLayout(page);
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(6);
+    m_column->addStretch(1);
     m_pages->addWidget(page);
 
     auto *tab = new QPushButton(name);
@@ -53,7 +54,7 @@ void SoftKeyMenu::addPage(const QString &name)
 SoftKey *SoftKeyMenu::addKey(const QString &name)
 {
     auto *key = new SoftKey(name);
-    m_column->addWidget(key);
+    m_column->insertWidget(m_column->count() - 1, key);
     return key;
 }
 
