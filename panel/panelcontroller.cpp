@@ -10,6 +10,7 @@
 #include "panelwindow.h"
 #include "smithview.h"
 #include "softkey.h"
+#include "sweepcontroller.h"
 #include "touchstone.h"
 #include "tracebar.h"
 
@@ -38,9 +39,11 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     : QObject(parent)
     , m_model(model)
     , m_window(window)
+    , m_sweeps(new SweepController(model, window, this))
     , m_folder(QDir::currentPath())
 {
     new ChartGestures(model, window->smithView(), this);
+    connect(m_sweeps, &SweepController::fileRequested, this, &PanelController::showFileDialog);
     connectKeys();
     addShortcuts();
     showMarker();

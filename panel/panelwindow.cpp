@@ -9,6 +9,8 @@
 #include "smithview.h"
 #include "softkey.h"
 #include "sweepbar.h"
+#include "sweepkeys.h"
+#include "timingline.h"
 #include "tracebar.h"
 
 #include <controls/thememanager.h>
@@ -57,6 +59,8 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
     , m_traceBar(new TraceBar(model))
     , m_messageBar(new MessageBar)
     , m_smithView(new SmithView(model))
+    , m_sweepKeys(new SweepKeys)
+    , m_timingLine(new TimingLine(m_smithView))
 {
     setWindowTitle(tr("Vector network analyser"));
     // A plain QWidget paints its style sheet's background only when asked to.
@@ -66,6 +70,7 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
     diagramColumn->setSpacing(0);
     diagramColumn->addWidget(m_messageBar);
     diagramColumn->addWidget(makeDiagrams(), 1);
+    diagramColumn->addWidget(m_timingLine);
     diagramColumn->addWidget(new SweepBar(model));
 
     auto *middle = new QHBoxLayout;
@@ -153,9 +158,25 @@ QWidget *PanelWindow::makeEmptyPage()
 
 QWidget *PanelWindow::makeSoftKeys()
 {
+    auto *pages = new QStackedWidget;
+    pages->setObjectName(QStringLiteral("softKeys"));
+    pages->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    QWidget *keys[] = {makeFirstKeys(), m_sweepKeys};
+    for (QWidget *page : keys) {
+        auto *key = new SoftKey(tr("Page"));
+        key->setValue(tr("%1 of 2").arg(pages->count() + 1));
+        static_cast<QVBoxLayout *>(page->layout())->addWidget(key);
+        connect(key, &SoftKey::clicked, pages,
+                [pages] { pages->setCurrentIndex(1 - pages->currentIndex()); });
+        m_pageKeys.append(key);
+        pages->addWidget(page);
+    }
+    return pages;
+}
+
+QWidget *PanelWindow::makeFirstKeys()
+{
     auto *keys = new QWidget;
-    keys->setObjectName(QStringLiteral("softKeys"));
-    keys->setAttribute(Qt::WA_StyledBackground);
     auto *column = new QVBoxLayout(keys);
     column->setContentsMargins(6, 6, 6, 6);
     column->setSpacing(6);

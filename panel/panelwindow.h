@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QVector>
 #include <QWidget>
 
 class QAbstractButton;
@@ -15,6 +16,8 @@ class MessageBar;
 class PanelModel;
 class SmithView;
 class SoftKey;
+class SweepKeys;
+class TimingLine;
 class TraceBar;
 
 /*! The panel's window: top bar, diagrams, sweep bar and the column of soft keys, for any size from
@@ -39,6 +42,11 @@ public:
     SoftKey *traceKey() const { return m_traceKey; }
     SoftKey *markerKey() const { return m_markerKey; }
     SoftKey *zoomKey() const { return m_zoomKey; }
+    /// The second page of the keys.
+    SweepKeys *sweepKeys() const { return m_sweepKeys; }
+    /// Turns the pages of the keys; each has one.
+    SoftKey *pageKey(int page) const { return m_pageKeys.at(page); }
+    TimingLine *timingLine() const { return m_timingLine; }
     QAbstractButton *themeButton() const { return m_themeButton; }
     /// The button of the page that stands where there is nothing to show.
     QAbstractButton *emptyPageButton() const { return m_emptyPageButton; }
@@ -48,6 +56,7 @@ private:
     QWidget *makeDiagrams();
     QWidget *makeEmptyPage();
     QWidget *makeSoftKeys();
+    QWidget *makeFirstKeys();
     void showModel();
     void recolor();
 
@@ -55,6 +64,8 @@ private:
     TraceBar *m_traceBar;
     MessageBar *m_messageBar;
     SmithView *m_smithView;
+    SweepKeys *m_sweepKeys;
+    TimingLine *m_timingLine;
     QStackedWidget *m_pages;
     QLabel *m_mark;
     QLabel *m_emptyMark;
@@ -66,6 +77,7 @@ private:
     SoftKey *m_traceKey;
     SoftKey *m_markerKey;
     SoftKey *m_zoomKey;
+    QVector<SoftKey *> m_pageKeys;
 };
 
 } // namespace Panel
