@@ -4,48 +4,17 @@
 
 #include "format.h"
 
-#include <algorithm>
 #include <cmath>
 #include <complex>
 
 namespace Panel
 {
 
-namespace
-{
-
-double interpolated(const QVector<double> &values, double index)
-{
-    const int i = qBound(0, int(index), values.size() - 1);
-    const double fraction = index - i;
-    return fraction > 0.0 && i + 1 < values.size()
-        ? values.at(i) + (values.at(i + 1) - values.at(i)) * fraction
-        : values.at(i);
-}
-
-} // namespace
-
-double frequencyAt(const Network &network, double index)
-{
-    return interpolated(network.frequencies, index);
-}
-
-double indexAt(const Network &network, double hertz)
-{
-    const QVector<double> &frequencies = network.frequencies;
-    const auto begin = frequencies.begin();
-    const int above = int(std::lower_bound(begin, frequencies.end(), hertz) - begin);
-    if (above == 0 || above == frequencies.size())
-        return qMax(0, qMin(above, frequencies.size() - 1));
-    const double lower = frequencies.at(above - 1);
-    return above - 1 + (hertz - lower) / (frequencies.at(above) - lower);
-}
-
 MarkerReading readMarker(const Network &network, const Parameter &parameter, double index)
 {
-    const double hertz = frequencyAt(network, index);
-    const std::complex<double> gamma(interpolated(parameter.real, index),
-                                     interpolated(parameter.imag, index));
+    const double hertz = valueAt(network.frequencies, index);
+    const std::complex<double> gamma(valueAt(parameter.real, index),
+                                     valueAt(parameter.imag, index));
     MarkerReading reading;
     reading.frequency = frequencyText(hertz);
     const QString ohm = QStringLiteral("\u03a9");

@@ -17,11 +17,6 @@ struct MarkerReading {
     QString element;
 };
 
-/// The stimulus in Hz at a fractional index into the data.
-double frequencyAt(const Network &network, double index);
-/// The fractional index that has this stimulus, or that of the end which is nearer to it.
-double indexAt(const Network &network, double hertz);
-
 /*! Reads a reflection parameter at a fractional index into its data as the impedance R (1 + Γ) / (1
    - Γ), with R the reference resistance. The index must lie within the data. */
 MarkerReading readMarker(const Network &network, const Parameter &parameter, double index);

@@ -3,12 +3,12 @@
 #include "numerickeys.h"
 
 #include "format.h"
-#include "markerreading.h"
 #include "messagebar.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
 #include "smithview.h"
 #include "softkey.h"
+#include "sweepcontroller.h"
 #include "units.h"
 
 #include <QStyle>
@@ -32,10 +32,12 @@ QVector<double> decadeSteps(double span)
 
 } // namespace
 
-NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, QObject *parent)
+NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, const SweepController *sweeps,
+                         QObject *parent)
     : QObject(parent)
     , m_model(model)
     , m_window(window)
+    , m_sweeps(sweeps)
 {
     m_stimulusNumbers = {
         {window->startKey(), [](const Stimulus &s) { return s.start; }, withStart},
@@ -45,11 +47,13 @@ NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, QObject *parent
     };
     for (const StimulusNumber &number : qAsConst(m_stimulusNumbers))
         connect(number.key, &SoftKey::clicked, this, [this, number] { editStimulus(number); });
+    connect(window->pointsKey(), &SoftKey::clicked, this, &NumericKeys::editPoints);
     connect(window->markerStimulusKey(), &SoftKey::clicked, this, &NumericKeys::editMarkerStimulus);
     connect(window->zoomKey(), &SoftKey::clicked, this, &NumericKeys::editZoom);
 
     connect(model, &PanelModel::activeTraceChanged, this, &NumericKeys::showStimulus);
     connect(model, &PanelModel::stimulusChanged, this, &NumericKeys::showStimulus);
+    connect(model, &PanelModel::sweepChanged, this, &NumericKeys::showStimulus);
     connect(model, &PanelModel::stimulusChanged, this, &NumericKeys::showMarkerStimulus);
     connect(model, &PanelModel::selectedMarkerChanged, this, &NumericKeys::showMarkerStimulus);
     connect(model, &PanelModel::markerMoved, this, &NumericKeys::showMarkerStimulus);
@@ -89,22 +93,59 @@ void NumericKeys::editStimulus(const StimulusNumber &number)
     const Trace *trace = m_model->activeTrace();
     if (!trace)
         return;
-    const Stimulus limits = m_model->limits(*trace);
+    const Stimulus limits = this->limits(*trace);
     // What the entry began with: steps go back and forth from there.
-    const Stimulus before = m_model->stimulus(*trace);
+    const Stimulus before = stimulus(*trace);
     const bool isSpan = number.key == m_window->spanKey();
+    const double leastSpan = m_sweeps->isSimulating() ? Sweep::leastSpan : 0.0;
     auto *adapter = new FrequencyAdapter;
-    adapter->setRange(isSpan ? 0.0 : limits.start, isSpan ? limits.span() : limits.stop);
+    adapter->setRange(isSpan ? leastSpan : limits.start, isSpan ? limits.span() : limits.stop);
     adapter->setRealValue(number.value(before));
-    QVector<double> steps = decadeSteps(limits.span());
+    QVector<double> steps = decadeSteps(before.span());
     if (isSpan)
         steps.prepend(NumericDialog::Step125);
     else
         steps.append(NumericDialog::Step125);
     edit(number.key, adapter, steps, [=, id = trace->id](double value) {
         if (const Trace *edited = m_model->trace(id))
-            m_model->setStimulus(*edited, number.changed(before, value, limits));
+            setStimulus(*edited, number.changed(before, value, limits));
     });
+}
+
+void NumericKeys::editPoints()
+{
+    auto *adapter = new NumberAdapter(0);
+    adapter->setRange(Sweep::fewestPoints, Sweep::mostPoints);
+    adapter->setRealValue(m_model->sweep().points);
+    edit(m_window->pointsKey(), adapter, {NumericDialog::Step125, 100.0, 1.0},
+         [this](double value) {
+             Sweep sweep = m_model->sweep();
+             sweep.points = qRound(value);
+             m_model->setSweep(sweep);
+         });
+}
+
+Stimulus NumericKeys::stimulus(const Trace &trace) const
+{
+    return m_sweeps->isSimulating() ? Stimulus{m_model->sweep().start, m_model->sweep().stop}
+                                    : m_model->stimulus(trace);
+}
+
+Stimulus NumericKeys::limits(const Trace &trace) const
+{
+    return m_sweeps->isSimulating() ? Stimulus{Sweep::lowest, Sweep::highest}
+                                    : m_model->limits(trace);
+}
+
+void NumericKeys::setStimulus(const Trace &trace, Stimulus stimulus)
+{
+    if (!m_sweeps->isSimulating()) {
+        m_model->setStimulus(trace, stimulus);
+        return;
+    }
+    if (stimulus.span() < Sweep::leastSpan)
+        stimulus = withSpan(stimulus, Sweep::leastSpan, limits(trace));
+    m_model->setSweep({stimulus.start, stimulus.stop, m_model->sweep().points});
 }
 
 void NumericKeys::editMarkerStimulus()
@@ -115,12 +156,13 @@ void NumericKeys::editMarkerStimulus()
     const Network &network = m_model->network(*m_model->trace(marker->trace));
     auto *adapter = new FrequencyAdapter;
     adapter->setRange(network.frequencies.constFirst(), network.frequencies.constLast());
-    adapter->setRealValue(frequencyAt(network, marker->index));
+    adapter->setRealValue(valueAt(network.frequencies, marker->index));
     QVector<double> steps = decadeSteps(adapter->maximum() - adapter->minimum());
     edit(m_window->markerStimulusKey(), adapter, steps,
          [this, traceId = marker->trace, number = marker->number](double value) {
              if (const Trace *trace = m_model->trace(traceId))
-                 m_model->moveMarker(traceId, number, indexAt(m_model->network(*trace), value));
+                 m_model->moveMarker(traceId, number,
+                                     indexOfFrequency(m_model->network(*trace).frequencies, value));
          });
 }
 
@@ -138,13 +180,15 @@ void NumericKeys::showStimulus()
     const Trace *trace = m_model->activeTrace();
     for (const StimulusNumber &number : qAsConst(m_stimulusNumbers)) {
         number.key->setEnabled(trace);
-        number.key->setValue(trace ? frequencyText(number.value(m_model->stimulus(*trace)))
-                                   : s_nothing);
+        number.key->setValue(trace ? frequencyText(number.value(stimulus(*trace))) : s_nothing);
     }
     // A file has the points that it has.
-    m_window->pointsKey()->setEnabled(false);
+    const bool simulating = m_sweeps->isSimulating();
+    m_window->pointsKey()->setEnabled(trace && simulating);
     m_window->pointsKey()->setValue(
-        trace ? QString::number(m_model->network(*trace).frequencies.size()) : s_nothing);
+        !trace           ? s_nothing
+            : simulating ? QString::number(m_model->sweep().points)
+                         : QString::number(m_model->network(*trace).frequencies.size()));
 }
 
 void NumericKeys::showMarkerStimulus()
@@ -152,9 +196,12 @@ void NumericKeys::showMarkerStimulus()
     const Marker *marker = m_model->selectedMarker();
     SoftKey *key = m_window->markerStimulusKey();
     key->setEnabled(marker);
-    key->setValue(marker ? frequencyText(
-                      frequencyAt(m_model->network(*m_model->trace(marker->trace)), marker->index))
-                         : s_nothing);
+    if (!marker) {
+        key->setValue(s_nothing);
+        return;
+    }
+    const Network &network = m_model->network(*m_model->trace(marker->trace));
+    key->setValue(frequencyText(valueAt(network.frequencies, marker->index)));
 }
 
 void NumericKeys::showZoom()

@@ -13,6 +13,7 @@ namespace Panel
 class PanelModel;
 class PanelWindow;
 class SoftKey;
+class SweepController;
 struct Trace;
 
 /*! The soft keys that stand for a number: shows it on the key, and lets the user edit it in a
@@ -22,7 +23,9 @@ class NumericKeys : public QObject
     Q_OBJECT
 
 public:
-    NumericKeys(PanelModel *model, PanelWindow *window, QObject *parent = nullptr);
+    /// The numbers of a simulated device go to its sweep; of a file they pick the part on show.
+    NumericKeys(PanelModel *model, PanelWindow *window, const SweepController *sweeps,
+                QObject *parent = nullptr);
 
 private:
     /// One number of the active trace's stimulus.
@@ -33,8 +36,13 @@ private:
     };
 
     void editStimulus(const StimulusNumber &number);
+    void editPoints();
     void editMarkerStimulus();
     void editZoom();
+    /// What the stimulus keys are about, and what they can go to.
+    Stimulus stimulus(const Trace &trace) const;
+    Stimulus limits(const Trace &trace) const;
+    void setStimulus(const Trace &trace, Stimulus stimulus);
     /// Opens the dialog of a key for a value that the adapter holds.
     template<typename Apply>
     void edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps, Apply apply);
@@ -45,6 +53,7 @@ private:
 
     PanelModel *m_model;
     PanelWindow *m_window;
+    const SweepController *m_sweeps;
     QVector<StimulusNumber> m_stimulusNumbers;
 };
 

@@ -12,6 +12,7 @@
 #include "smithview.h"
 #include "softkey.h"
 #include "softkeymenu.h"
+#include "sweepcontroller.h"
 #include "touchstone.h"
 #include "tracebar.h"
 
@@ -32,10 +33,12 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     : QObject(parent)
     , m_model(model)
     , m_window(window)
+    , m_sweeps(new SweepController(model, window, this))
     , m_folder(QDir::currentPath())
 {
     new ChartGestures(model, window->smithView(), this);
-    new NumericKeys(model, window, this);
+    new NumericKeys(model, window, m_sweeps, this);
+    connect(m_sweeps, &SweepController::fileRequested, this, &PanelController::showFileDialog);
     connectKeys();
     addShortcuts();
     showMarker();

@@ -10,6 +10,7 @@ namespace Panel
 
 class PanelModel;
 class PanelWindow;
+class SweepController;
 
 /*! What the panel's keys do: the one place between window and model.
 
@@ -27,6 +28,8 @@ public:
     /// ones are told in the window and on the terminal; when none can be read, the panel keeps what
     /// it shows.
     bool openFiles(const QStringList &paths);
+    /// What runs the simulated devices.
+    SweepController *sweepController() const { return m_sweeps; }
     /// Lets the user pick files, and opens them.
     void showFileDialog();
 
@@ -38,6 +41,7 @@ private:
 
     PanelModel *m_model;
     PanelWindow *m_window;
+    SweepController *m_sweeps;
     /// Where the file dialog was left, or what was opened last.
     QString m_folder;
 };

@@ -102,6 +102,32 @@ void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
     Q_EMIT stimulusChanged(index);
 }
 
+bool PanelModel::updateNetwork(int index, const Network &network)
+{
+    if (index < 0 || index >= m_networks.size() || network.ports != m_networks.at(index).ports
+        || network.frequencies.isEmpty())
+        return false;
+    const QVector<double> before = m_shown.at(index).frequencies;
+    m_networks[index] = network;
+    m_shown[index] = network;
+    m_firstShown[index] = 0;
+    m_stimuli[index] = limits(index);
+    QVector<Marker> moved;
+    for (Marker &marker : m_markers) {
+        if (trace(marker.trace)->network != index || sameSweep(before, network.frequencies))
+            continue;
+        marker.index = indexOfFrequency(network.frequencies, valueAt(before, marker.index));
+        moved.append(marker);
+    }
+    Q_EMIT networkUpdated(index);
+    for (const Marker &changed : moved) {
+        // A slot may have removed it.
+        if (marker(changed.trace, changed.number))
+            Q_EMIT markerMoved(changed.trace, changed.number);
+    }
+    return true;
+}
+
 void PanelModel::setActiveTrace(int id)
 {
     if (id == m_activeTrace || !trace(id))
@@ -199,6 +225,22 @@ void PanelModel::selectMarker(int traceId, int number)
     m_selectedNumber = number;
     setActiveTrace(traceId);
     Q_EMIT selectedMarkerChanged();
+}
+
+void PanelModel::setSweep(const Sweep &sweep)
+{
+    if (sweep == m_sweep || !sweep.isValid())
+        return;
+    m_sweep = sweep;
+    Q_EMIT sweepChanged();
+}
+
+void PanelModel::setSweeping(bool sweeping)
+{
+    if (sweeping == m_sweeping)
+        return;
+    m_sweeping = sweeping;
+    Q_EMIT sweepingChanged();
 }
 
 } // namespace Panel

@@ -4,6 +4,7 @@
 
 #include "network.h"
 #include "stimulus.h"
+#include "sweep.h"
 
 #include <QObject>
 
@@ -75,6 +76,10 @@ public:
     const Marker *marker(int traceId, int number) const;
     /// The selected marker, or null.
     const Marker *selectedMarker() const { return marker(m_selectedTrace, m_selectedNumber); }
+    /// The sweep that is measured, or would be; what files hold does not depend on it.
+    const Sweep &sweep() const { return m_sweep; }
+    /// Whether measurements go on; otherwise the last one is held.
+    bool isSweeping() const { return m_sweeping; }
     /// How many markers a trace can have.
     static constexpr int markersPerTrace = 6;
 
@@ -85,6 +90,10 @@ public:
     void setStimulus(const Trace &trace, const Stimulus &stimulus);
     /// A selected marker of another trace is deselected. An unknown id is ignored.
     void setActiveTrace(int id);
+    /// Replaces the data of one network by a new measurement of it, which is shown whole; traces
+    /// and markers stay. A marker keeps its index or, in another sweep, its frequency. False,
+    /// without a change, for an index without a network, another number of ports, or no points.
+    bool updateNetwork(int index, const Network &network);
     void setTraceVisible(int id, bool visible);
     /// Marks a point with the lowest free number and selects the marker. Returns the number, or 0
     /// for an unknown trace, an index outside its data, or a trace that has all its markers.
@@ -95,10 +104,15 @@ public:
     /// Also makes its trace active. A marker that does not exist, such as number 0, leaves none
     /// selected.
     void selectMarker(int traceId, int number);
+    /// A sweep outside the limits is ignored.
+    void setSweep(const Sweep &sweep);
+    void setSweeping(bool sweeping);
 
 Q_SIGNALS:
     /// All networks and traces are new.
     void networksChanged();
+    /// A network has new data; markers that moved with it are told afterwards.
+    void networkUpdated(int index);
     void activeTraceChanged();
     /// Another part of a network is on show; indices of its markers have changed with it.
     void stimulusChanged(int network);
@@ -109,6 +123,8 @@ Q_SIGNALS:
     void markerMoved(int traceId, int number);
     void markerRemoved(int traceId, int number);
     void selectedMarkerChanged();
+    void sweepChanged();
+    void sweepingChanged();
 
 private:
     bool holdsIndex(int traceId, double index) const;
@@ -123,6 +139,8 @@ private:
     int m_activeTrace = 0;
     int m_selectedTrace = 0;
     int m_selectedNumber = 0;
+    Sweep m_sweep;
+    bool m_sweeping = true;
 };
 
 } // namespace Panel

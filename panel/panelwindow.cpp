@@ -10,6 +10,8 @@
 #include "softkey.h"
 #include "softkeymenu.h"
 #include "sweepbar.h"
+#include "sweepkeys.h"
+#include "timingline.h"
 #include "tracebar.h"
 
 #include <controls/thememanager.h>
@@ -58,6 +60,8 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
     , m_traceBar(new TraceBar(model))
     , m_messageBar(new MessageBar)
     , m_smithView(new SmithView(model))
+    , m_sweepKeys(new SweepKeys)
+    , m_timingLine(new TimingLine(m_smithView))
 {
     setWindowTitle(tr("Vector network analyser"));
 
@@ -65,6 +69,7 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
     diagramColumn->setSpacing(0);
     diagramColumn->addWidget(m_messageBar);
     diagramColumn->addWidget(makeDiagrams(), 1);
+    diagramColumn->addWidget(m_timingLine);
     diagramColumn->addWidget(new SweepBar(model));
 
     auto *middle = new QHBoxLayout;
@@ -169,6 +174,7 @@ QWidget *PanelWindow::makeSoftKeys()
     m_gridKey = m_softKeys->addKey(tr("Grid"));
     m_densityKey = m_softKeys->addKey(tr("Density"));
     m_zoomKey = m_softKeys->addKey(tr("Scale"));
+    m_softKeys->addPage(tr("Sweep"), m_sweepKeys);
     return m_softKeys;
 }
 

@@ -16,6 +16,8 @@ class PanelModel;
 class SmithView;
 class SoftKey;
 class SoftKeyMenu;
+class SweepKeys;
+class TimingLine;
 class TraceBar;
 
 /*! The panel's window: top bar, diagrams, sweep bar and the column of soft keys, for any size from
@@ -47,6 +49,8 @@ public:
     SoftKey *markerKey() const { return m_markerKey; }
     SoftKey *markerStimulusKey() const { return m_markerStimulusKey; }
     SoftKey *zoomKey() const { return m_zoomKey; }
+    SweepKeys *sweepKeys() const { return m_sweepKeys; }
+    TimingLine *timingLine() const { return m_timingLine; }
     QAbstractButton *themeButton() const { return m_themeButton; }
     /// The button of the page that stands where there is nothing to show.
     QAbstractButton *emptyPageButton() const { return m_emptyPageButton; }
@@ -63,6 +67,8 @@ private:
     TraceBar *m_traceBar;
     MessageBar *m_messageBar;
     SmithView *m_smithView;
+    SweepKeys *m_sweepKeys;
+    TimingLine *m_timingLine;
     QStackedWidget *m_pages;
     QLabel *m_mark;
     QLabel *m_emptyMark;

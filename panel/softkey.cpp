@@ -29,6 +29,8 @@ SoftKey::SoftKey(const QString &name, QWidget *parent)
     setTextAlignment(Qt::AlignLeft | Qt::AlignBottom);
     setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
     setLabelFont(scaled(font(), 1.12));
+    // In place of a padding in the style sheet: a value too long is shortened to what these leave.
+    setLabelMargins({10, 0, 10, 0});
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     connect(this, &EnumTextButton::currentItemEdited, this, [this](int index) {
         showValue(); // until the owner agrees
@@ -38,6 +40,8 @@ SoftKey::SoftKey(const QString &name, QWidget *parent)
 
 void SoftKey::setValue(const QString &value)
 {
+    if (value == m_value)
+        return; // at the rate of a live sweep
     m_value = value;
     showValue();
 }
@@ -55,7 +59,8 @@ void SoftKey::setChoices(const QStringList &choices)
 void SoftKey::setChoice(int index)
 {
     m_choice = index;
-    setValue(m_choices.value(index));
+    m_value = m_choices.value(index);
+    showValue();
 }
 
 void SoftKey::showValue()
@@ -69,7 +74,7 @@ void SoftKey::showValue()
 QSize SoftKey::sizeHint() const
 {
     const QFontMetrics metrics(font());
-    return {metrics.averageCharWidth() * 20, metrics.height() * 5};
+    return {metrics.averageCharWidth() * 22, metrics.height() * 5};
 }
 
 QSize SoftKey::minimumSizeHint() const

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
+#include <QGridLayout>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -16,7 +17,7 @@ namespace Panel
 SoftKeyMenu::SoftKeyMenu(QWidget *parent)
     : QWidget(parent)
     , m_tabs(new QButtonGroup(this))
-    , m_tabRow(new QHBoxLayout)
+    , m_tabGrid(new QGridLayout)
     , m_pages(new QStackedWidget)
 {
     setObjectName(QStringLiteral("softKeys"));
@@ -24,8 +25,8 @@ SoftKeyMenu::SoftKeyMenu(QWidget *parent)
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(6, 2, 6, 6);
     column->setSpacing(6);
-    m_tabRow->setSpacing(0);
-    column->addLayout(m_tabRow);
+    m_tabGrid->setSpacing(0);
+    column->addLayout(m_tabGrid);
     column->addWidget(m_pages, 1);
     connect(m_tabs, &QButtonGroup::idToggled, this, [this](int page, bool checked) {
         if (checked)
@@ -40,15 +41,20 @@ void SoftKeyMenu::addPage(const QString &name)
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(6);
     m_column->addStretch(1);
-    m_pages->addWidget(page);
+    addPage(name, page);
+}
 
+void SoftKeyMenu::addPage(const QString &name, QWidget *page)
+{
+    const int index = m_pages->addWidget(page);
     auto *tab = new QPushButton(name);
     tab->setObjectName(QStringLiteral("pageTab"));
     tab->setCheckable(true);
-    tab->setMinimumHeight(40);
-    m_tabRow->addWidget(tab);
-    m_tabs->addButton(tab, m_pages->count() - 1);
-    tab->setChecked(m_pages->count() == 1);
+    tab->setMinimumHeight(36);
+    // Two in a row leave room for a finger and for longer names.
+    m_tabGrid->addWidget(tab, index / 2, index % 2);
+    m_tabs->addButton(tab, index);
+    tab->setChecked(index == 0);
 }
 
 SoftKey *SoftKeyMenu::addKey(const QString &name)

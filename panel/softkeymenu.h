@@ -5,7 +5,7 @@
 #include <QWidget>
 
 class QButtonGroup;
-class QHBoxLayout;
+class QGridLayout;
 class QStackedWidget;
 class QVBoxLayout;
 
@@ -14,7 +14,7 @@ namespace Panel
 
 class SoftKey;
 
-/*! The column of soft keys: pages of keys below a row of tabs that name them. Tab and the arrow
+/*! The column of soft keys: pages of keys below the tabs that name them. Tab and the arrow
    keys reach all of it. */
 class SoftKeyMenu : public QWidget
 {
@@ -25,6 +25,8 @@ public:
 
     /// Begins a page; the first is the one on show.
     void addPage(const QString &name);
+    /// The same with a widget that has its keys already, as its children.
+    void addPage(const QString &name, QWidget *page);
     /// Appends a key to the page that was begun last. The menu owns it.
     SoftKey *addKey(const QString &name);
 
@@ -38,7 +40,7 @@ public:
 
 private:
     QButtonGroup *m_tabs;
-    QHBoxLayout *m_tabRow;
+    QGridLayout *m_tabGrid;
     QStackedWidget *m_pages;
     QVBoxLayout *m_column = nullptr; ///< of the page that was begun last
 };

@@ -14,6 +14,7 @@
 #include <panel/smithview.h>
 #include <panel/softkey.h>
 #include <panel/softkeymenu.h>
+#include <panel/sweepcontroller.h>
 #include <panel/units.h>
 
 #include <QAbstractButton>
@@ -124,6 +125,7 @@ private Q_SLOTS:
     void markerGoesToItsStimulus();
     void scaleZoomsTheChart();
     void newFilesEndTheEntry();
+    void simulatedDeviceIsSweptAnew();
 };
 
 void NumericDialogTest::opensOverTheDimmedPanel_data()
@@ -205,7 +207,7 @@ void NumericDialogTest::keyboardAlone()
 {
     Desk desk;
     SoftKeyMenu *menu = desk.window.softKeys();
-    for (const int page : {1, 2, 0}) {
+    for (const int page : {1, 2, 3, 0}) {
         QTest::keyClick(desk.window.windowHandle(), Qt::Key_PageDown, Qt::ControlModifier);
         QCOMPARE(menu->page(), page);
     }
@@ -411,6 +413,37 @@ void NumericDialogTest::newFilesEndTheEntry()
     Desk::settle();
     QVERIFY(!desk.dialog());
     QVERIFY(desk.stimulus() == desk.model.limits(*desk.model.activeTrace()));
+}
+
+void NumericDialogTest::simulatedDeviceIsSweptAnew()
+{
+    Desk desk;
+    desk.controller.sweepController()->simulate(SimulatedDevice::Antenna);
+    const auto frequencies = [&desk] { return desk.model.networks().first().frequencies; };
+    QTRY_COMPARE(frequencies().size(), 1001);
+
+    desk.open(desk.window.pointsKey());
+    QCOMPARE(desk.range(), QStringLiteral("201 \u2026 1000001"));
+    desk.type(
+        {QStringLiteral("5"), QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("Ok")});
+    QTRY_COMPARE(frequencies().size(), 501);
+    desk.open(desk.window.startKey());
+    desk.type({QStringLiteral("1")});
+    desk.tapUnit(QStringLiteral("GHz"));
+    QTRY_COMPARE(frequencies().first(), 1e9);
+    desk.open(desk.window.spanKey());
+    desk.type({QStringLiteral("0"), QStringLiteral("Ok")});
+    QVERIFY(desk.window.messageBar()->isVisible());
+    QTRY_COMPARE(frequencies().last() - frequencies().first(), Sweep::leastSpan);
+
+    // Frames that come meanwhile leave the typed text alone.
+    desk.open(desk.window.centerKey());
+    desk.type(s_2450);
+    QTest::qWait(4 * SweepSource::frameInterval);
+    QCOMPARE(desk.edit()->text(), QStringLiteral("2.45GHz"));
+    desk.tapUnit(QStringLiteral("GHz"));
+    QTRY_COMPARE((frequencies().first() + frequencies().last()) / 2.0, 2.45e9);
+    QCOMPARE(desk.window.centerKey()->value(), QStringLiteral("2.450 GHz"));
 }
 
 QTEST_MAIN(NumericDialogTest)
