@@ -23,10 +23,10 @@ namespace
 
 const QString s_nothing = QStringLiteral("\u2013");
 
-/// A tenth, a hundredth and a thousandth of a span, as powers of ten.
+/// A tenth, a hundredth and a thousandth of a span as powers of ten, but whole Hz.
 QVector<double> decadeSteps(double span)
 {
-    const double tenth = span > 0.0 ? std::pow(10.0, std::floor(std::log10(span) - 1.0)) : 1.0;
+    const double tenth = std::pow(10.0, std::floor(std::log10(qMax(span, 1e3)) - 1.0));
     return {tenth, tenth / 10.0, tenth / 100.0};
 }
 

@@ -1,19 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "pointer.h"
+#include "desk.h"
 #include "vnatest.h"
 
 #include <controls/overlaycontainer.h>
 #include <panel/look.h>
 #include <panel/messagebar.h>
 #include <panel/numericdialog.h>
-#include <panel/panelcontroller.h>
-#include <panel/panelmodel.h>
-#include <panel/panelwindow.h>
-#include <panel/samples.h>
-#include <panel/smithview.h>
-#include <panel/softkey.h>
-#include <panel/softkeymenu.h>
 #include <panel/sweepcontroller.h>
 #include <panel/units.h>
 
@@ -28,27 +21,13 @@ using namespace Panel;
 namespace
 {
 
-/// The panel on screen with the band-pass sample, 2.3 to 2.6 GHz, and fingers to tap it.
-struct Desk {
-    PanelModel model;
-    PanelWindow window;
-    PanelController controller;
+struct Desk : PanelDesk {
+    using PanelDesk::PanelDesk;
 
-    explicit Desk(const QSize &size = QSize(1024, 600))
-        : window(&model)
-        , controller(&model, &window)
-    {
-        window.resize(size);
-        controller.openFiles({startSample()});
-        window.show();
-        window.activateWindow();
-        settle();
-    }
-
+    /// Also lets a closed dialog go.
     static void settle()
     {
-        for (int i = 0; i < 4; ++i)
-            QCoreApplication::processEvents();
+        PanelDesk::settle();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
@@ -59,14 +38,8 @@ struct Desk {
 
     void tap(const QWidget *widget)
     {
-        VnaTest::mouseClick(widget);
+        click(widget);
         settle();
-    }
-    void open(SoftKey *key)
-    {
-        window.softKeys()->showKey(key);
-        settle();
-        tap(key);
     }
     /// Taps keys of the keypad: digits, "." and the object names of others, without "btn".
     void type(const QStringList &keys)
@@ -142,7 +115,7 @@ void NumericDialogTest::opensOverTheDimmedPanel()
     const QPoint beside(size.width() / 4, size.height() / 2);
     const QImage before = desk.window.grab().toImage();
     for (SoftKey *key : {desk.window.startKey(), desk.window.spanKey()}) {
-        desk.open(key);
+        desk.tap(key);
         QVERIFY(desk.dialog());
         QVERIFY(!desk.dialog()->isWindow());
         const QRect place(desk.dialog()->mapTo(&desk.window, QPoint()), desk.dialog()->size());
@@ -159,7 +132,7 @@ void NumericDialogTest::opensOverTheDimmedPanel()
     }
     // The same picture as before, but for the focus.
     QCOMPARE(desk.window.grab().toImage().pixelColor(beside), before.pixelColor(beside));
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     const auto *overlay = qobject_cast<QWidget *>(desk.dialog()->parent());
     QVERIFY(overlay && overlay->testAttribute(Qt::WA_StyledBackground));
     QCOMPARE(overlay->geometry(), desk.window.rect());
@@ -168,7 +141,7 @@ void NumericDialogTest::opensOverTheDimmedPanel()
 void NumericDialogTest::entersByTheKeypad()
 {
     Desk desk;
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.type(s_2450);
     QCOMPARE(desk.edit()->text(), QStringLiteral("2.45GHz"));
     QCOMPARE(desk.stimulus().stop, 2.6e9); // nothing before the unit key
@@ -179,11 +152,11 @@ void NumericDialogTest::entersByTheKeypad()
     QVERIFY(!desk.window.messageBar()->isVisible());
 
     // Another unit, and OK with the unit on show.
-    desk.open(desk.window.startKey());
+    desk.tap(desk.window.startKey());
     desk.type({QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("5"), QStringLiteral("0")});
     desk.tapUnit(QStringLiteral("MHz"));
     QCOMPARE(desk.stimulus().start, 2.35e9);
-    desk.open(desk.window.startKey());
+    desk.tap(desk.window.startKey());
     desk.type({QStringLiteral("Right"), QStringLiteral("Back"), QStringLiteral("6"),
                QStringLiteral("Ok")});
     QCOMPARE(desk.stimulus().start, 2.36e9);
@@ -192,7 +165,7 @@ void NumericDialogTest::entersByTheKeypad()
 void NumericDialogTest::entersByKeypadAndKeyboard()
 {
     Desk desk;
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.type({QStringLiteral("2"), QStringLiteral(".")});
     desk.press(Qt::Key_4, QStringLiteral("4"));
     desk.type({QStringLiteral("9")});
@@ -228,14 +201,14 @@ void NumericDialogTest::escapeRestores()
 {
     Desk desk;
     const Stimulus before = desk.stimulus();
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.type(s_2450);
     desk.type({QStringLiteral("Esc")});
     QVERIFY(!desk.dialog());
     QCOMPARE(desk.stimulus().stop, before.stop);
 
     // Steps show at once, and are taken back.
-    desk.open(desk.window.centerKey());
+    desk.tap(desk.window.centerKey());
     desk.type({QStringLiteral("Up"), QStringLiteral("Up")});
     QCOMPARE(desk.stimulus().center(), 2.47e9);
     desk.press(Qt::Key_Escape);
@@ -246,14 +219,14 @@ void NumericDialogTest::tapBesideFollowsThePolicy()
 {
     Desk desk;
     const QPoint beside(60, 300);
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.type(s_2450);
     VnaTest::mouseClick(&desk.window, beside);
     Desk::settle();
     QVERIFY(!desk.dialog());
     QCOMPARE(desk.stimulus().stop, 2.6e9);
 
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.dialog()->setPressOutsidePolicy(NumericDialog::PressOutsideCommits);
     desk.type(s_2450);
     VnaTest::mouseClick(&desk.window, beside);
@@ -265,7 +238,7 @@ void NumericDialogTest::tapBesideFollowsThePolicy()
 void NumericDialogTest::outOfRangeIsLimitedAndTold()
 {
     Desk desk;
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.type({QStringLiteral("9")});
     desk.tapUnit(QStringLiteral("GHz"));
     QVERIFY(!desk.dialog());
@@ -275,7 +248,7 @@ void NumericDialogTest::outOfRangeIsLimitedAndTold()
              QStringLiteral("Stop: 9 GHz is out of range, limited to 2.6 GHz."));
 
     // The next entry clears it; a step against the limit is told in the dialog.
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     QVERIFY(!desk.window.messageBar()->isVisible());
     desk.type({QStringLiteral("Up")});
     QCOMPARE(desk.range(), QStringLiteral("Highest value: 2.6 GHz"));
@@ -287,7 +260,7 @@ void NumericDialogTest::outOfRangeIsLimitedAndTold()
 void NumericDialogTest::noValueKeepsTheDialog()
 {
     Desk desk;
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.type({QStringLiteral("Back"), QStringLiteral("Ok")});
     QVERIFY(desk.dialog());
     QCOMPARE(desk.range(), QStringLiteral("Not a value"));
@@ -299,7 +272,7 @@ void NumericDialogTest::noValueKeepsTheDialog()
 void NumericDialogTest::stepsByTheChosenStep()
 {
     Desk desk;
-    desk.open(desk.window.spanKey());
+    desk.tap(desk.window.spanKey());
     auto *stepKey = desk.dialog()->findChild<QAbstractButton *>(QStringLiteral("stepKey"));
     QCOMPARE(desk.dialog()->step(), NumericDialog::Step125);
     desk.type({QStringLiteral("Down"), QStringLiteral("Down")});
@@ -322,7 +295,7 @@ void NumericDialogTest::stepsByTheChosenStep()
 void NumericDialogTest::stepsStartFromWhatWasTyped()
 {
     Desk desk;
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.type(s_2450);
     desk.type({QStringLiteral("Up")});
     QCOMPARE(desk.stimulus().stop, 2.46e9);
@@ -333,11 +306,11 @@ void NumericDialogTest::untouchedValueStaysExact()
     Desk desk;
     const double third = 2.4e9 + 1.0 / 3.0;
     desk.model.setStimulus(*desk.model.activeTrace(), {2.3e9, third});
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.type({QStringLiteral("Ok")});
     QVERIFY(!desk.dialog());
     QCOMPARE(desk.stimulus().stop, third);
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.tapUnit(QStringLiteral("MHz")); // 2.4 GHz is not 2.4 MHz
     QCOMPARE(desk.stimulus().stop, 2.3e9);
 }
@@ -347,7 +320,7 @@ void NumericDialogTest::centerAndSpanCutTheTraces()
     Desk desk;
     desk.model.addMarker(1, 0.0);
     desk.model.addMarker(1, 600.0);
-    desk.open(desk.window.spanKey());
+    desk.tap(desk.window.spanKey());
     desk.type({QStringLiteral("1"), QStringLiteral("0")});
     desk.tapUnit(QStringLiteral("MHz"));
     const QVector<double> *frequencies = nullptr, *real = nullptr, *imag = nullptr;
@@ -364,13 +337,13 @@ void NumericDialogTest::centerAndSpanCutTheTraces()
     QCOMPARE(desk.model.marker(1, 1)->index, 0.0);
 
     // Less than the distance of two points still shows a line.
-    desk.open(desk.window.spanKey());
+    desk.tap(desk.window.spanKey());
     desk.type({QStringLiteral("1")});
     desk.tapUnit(QStringLiteral("Hz"));
     QCOMPARE(desk.window.pointsKey()->value(), QStringLiteral("2"));
     QCOMPARE(desk.window.spanKey()->value(), QStringLiteral("1.000 Hz"));
 
-    desk.open(desk.window.spanKey());
+    desk.tap(desk.window.spanKey());
     desk.type({QStringLiteral("3"), QStringLiteral("0"), QStringLiteral("0")});
     desk.tapUnit(QStringLiteral("MHz"));
     QCOMPARE(desk.window.pointsKey()->value(), QStringLiteral("1201"));
@@ -382,7 +355,7 @@ void NumericDialogTest::markerGoesToItsStimulus()
     Desk desk;
     QVERIFY(!desk.window.markerStimulusKey()->isEnabled());
     desk.model.addMarker(1, 0.0);
-    desk.open(desk.window.markerStimulusKey());
+    desk.tap(desk.window.markerStimulusKey());
     desk.type(s_2450);
     desk.type({QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("5")});
     desk.tapUnit(QStringLiteral("GHz"));
@@ -394,7 +367,7 @@ void NumericDialogTest::markerGoesToItsStimulus()
 void NumericDialogTest::scaleZoomsTheChart()
 {
     Desk desk;
-    desk.open(desk.window.zoomKey());
+    desk.tap(desk.window.zoomKey());
     QCOMPARE(desk.range(), QStringLiteral("1 \u2026 20"));
     desk.type({QStringLiteral("Up"), QStringLiteral("Up")});
     QCOMPARE(desk.window.smithView()->zoom(), 5.0);
@@ -407,7 +380,7 @@ void NumericDialogTest::scaleZoomsTheChart()
 void NumericDialogTest::newFilesEndTheEntry()
 {
     Desk desk;
-    desk.open(desk.window.stopKey());
+    desk.tap(desk.window.stopKey());
     desk.type({QStringLiteral("Down")});
     desk.controller.openFiles({sampleFolder() + QStringLiteral("/antenna.s1p")});
     Desk::settle();
@@ -422,22 +395,22 @@ void NumericDialogTest::simulatedDeviceIsSweptAnew()
     const auto frequencies = [&desk] { return desk.model.networks().first().frequencies; };
     QTRY_COMPARE(frequencies().size(), 1001);
 
-    desk.open(desk.window.pointsKey());
+    desk.tap(desk.window.pointsKey());
     QCOMPARE(desk.range(), QStringLiteral("201 \u2026 1000001"));
     desk.type(
         {QStringLiteral("5"), QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("Ok")});
     QTRY_COMPARE(frequencies().size(), 501);
-    desk.open(desk.window.startKey());
+    desk.tap(desk.window.startKey());
     desk.type({QStringLiteral("1")});
     desk.tapUnit(QStringLiteral("GHz"));
     QTRY_COMPARE(frequencies().first(), 1e9);
-    desk.open(desk.window.spanKey());
+    desk.tap(desk.window.spanKey());
     desk.type({QStringLiteral("0"), QStringLiteral("Ok")});
     QVERIFY(desk.window.messageBar()->isVisible());
     QTRY_COMPARE(frequencies().last() - frequencies().first(), Sweep::leastSpan);
 
     // Frames that come meanwhile leave the typed text alone.
-    desk.open(desk.window.centerKey());
+    desk.tap(desk.window.centerKey());
     desk.type(s_2450);
     QTest::qWait(4 * SweepSource::frameInterval);
     QCOMPARE(desk.edit()->text(), QStringLiteral("2.45GHz"));

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk.h"
 #include "vnatest.h"
 
 #include <controls/thememanager.h>
@@ -7,13 +8,6 @@
 #include <panel/look.h>
 #include <panel/markertable.h>
 #include <panel/messagebar.h>
-#include <panel/panelcontroller.h>
-#include <panel/panelmodel.h>
-#include <panel/panelwindow.h>
-#include <panel/samples.h>
-#include <panel/smithview.h>
-#include <panel/softkey.h>
-#include <panel/softkeymenu.h>
 #include <panel/tracebar.h>
 #include <plot/qcp.h>
 
@@ -31,30 +25,8 @@ using namespace Panel;
 namespace
 {
 
-/// The panel as main() makes it, on screen, with pointer events sent to its window.
-struct Desk {
-    PanelModel model;
-    PanelWindow window;
-    PanelController controller;
-
-    explicit Desk(const QSize &size = QSize(1024, 600))
-        : window(&model)
-        , controller(&model, &window)
-    {
-        window.resize(size);
-        controller.openFiles({startSample()});
-        window.show();
-        settle();
-    }
-
-    SmithView *view() const { return window.smithView(); }
-    SmithChartPlot *chart() const { return view()->chart(); }
-
-    static void settle()
-    {
-        for (int i = 0; i < 4; ++i)
-            QCoreApplication::processEvents();
-    }
+struct Desk : PanelDesk {
+    using PanelDesk::PanelDesk;
 
     /// A point of the plot, given as a share of its size, in pixels of the plot.
     QPoint onPlot(double x, double y) const
@@ -81,17 +53,6 @@ struct Desk {
         for (int step = 1; step <= 10; ++step)
             QTest::mouseMove(window.windowHandle(), inWindow(from + (to - from) * step / 10));
         QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(to));
-        settle();
-    }
-
-    void click(const QWidget *widget)
-    {
-        if (const auto *key = qobject_cast<const SoftKey *>(widget)) {
-            window.softKeys()->showKey(key);
-            settle();
-        }
-        QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          widget->mapTo(widget->window(), widget->rect().center()));
         settle();
     }
 

@@ -1,16 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk.h"
 #include "vnatest.h"
 
 #include <panel/filedialog.h>
 #include <panel/look.h>
-#include <panel/panelcontroller.h>
-#include <panel/panelmodel.h>
-#include <panel/panelwindow.h>
-#include <panel/samples.h>
-#include <panel/smithview.h>
-#include <panel/softkey.h>
-#include <panel/softkeymenu.h>
 #include <panel/sweepcontroller.h>
 #include <panel/sweepkeys.h>
 #include <panel/timingline.h>
@@ -23,37 +17,12 @@ using namespace Panel;
 namespace
 {
 
-struct Desk {
-    PanelModel model;
-    PanelWindow window;
-    PanelController controller;
-
-    Desk()
-        : window(&model)
-        , controller(&model, &window)
-    {
-        window.resize(1024, 600);
-        controller.openFiles({startSample()});
-        window.show();
-        QCoreApplication::processEvents();
-    }
-
+struct Desk : PanelDesk {
     SweepController *sweeps() const { return controller.sweepController(); }
     const SweepKeys *keys() const { return window.sweepKeys(); }
-    SmithChartPlot *chart() const { return window.smithView()->chart(); }
     QString shown() const { return model.networks().first().name; }
     int points() const { return model.networks().first().frequencies.size(); }
 
-    void click(const QWidget *widget)
-    {
-        if (const auto *key = qobject_cast<const SoftKey *>(widget)) {
-            window.softKeys()->showKey(key);
-            QCoreApplication::processEvents();
-        }
-        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          widget->mapTo(&window, widget->rect().center()));
-        QCoreApplication::processEvents();
-    }
     void pick(SoftKey *key, int index) { Q_EMIT key->choicePicked(index); }
 };
 
