@@ -85,8 +85,8 @@ private:
     void showRange();
 
     UnitAdapter *m_adapter;
-    Controls::KeypadEditor *m_editor;
-    QLineEdit *m_edit;
+    Controls::KeypadEditor *m_editor = nullptr;
+    QLineEdit *m_edit = nullptr; ///< events reach the filter before it is found
     QLabel *m_range;
     LabelButton *m_stepKey;
     QTimer *m_flashEnd;
