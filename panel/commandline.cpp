@@ -59,6 +59,8 @@ CommandLine parseCommandLine(const QStringList &arguments)
                         .arg(value);
                 return result;
             }
+        } else if (name == QLatin1String("--simulate")) {
+            result.simulate = true;
         } else if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
             result.help = true;
         } else if (name == QLatin1String("--version")) {
@@ -82,6 +84,7 @@ QString helpText()
         "Options:\n"
         "  --grab DIR   write a PNG of each screen to DIR and quit; needs no display\n"
         "  --size WxH   size of the window in pixels, at least 800x480 (default 1280x800)\n"
+        "  --simulate   measure a simulated device live\n"
         "  --help       show this text and quit\n"
         "  --version    show the version and quit\n"
         "\n"

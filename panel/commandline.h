@@ -13,6 +13,7 @@ struct CommandLine {
     QStringList files;
     QString grabFolder; ///< empty: show the window
     QSize size = QSize(1280, 800);
+    bool simulate = false;
     bool help = false;
     bool version = false;
     QString error; ///< one sentence; empty if all is well

@@ -4,11 +4,13 @@
 
 #include "filedialog.h"
 #include "messagebar.h"
+#include "numericdialog.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
 #include "samples.h"
 #include "smithview.h"
 #include "softkey.h"
+#include "softkeymenu.h"
 
 #include <controls/thememanager.h>
 #include <plot/qcp.h>
@@ -16,6 +18,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
+#include <QPointer>
 
 #include <cstdio>
 
@@ -81,6 +84,20 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
         model->addMarker(trace->id, last / 2);
     }
     grabber.grab("panel");
+
+    for (const auto &[page, name] : {std::pair(1, "page-marker"), std::pair(2, "page-display")}) {
+        window->softKeys()->setPage(page);
+        grabber.grab(name);
+    }
+    window->softKeys()->setPage(0);
+    window->stopKey()->click();
+    const QPointer<NumericDialog> keypad(window->findChild<NumericDialog *>());
+    grabber.grab("keypad");
+    ThemeManager::instance()->setTheme(ThemeManager::Light);
+    grabber.grab("keypad-light");
+    ThemeManager::instance()->setTheme(ThemeManager::Dark);
+    if (keypad)
+        keypad->reject();
 
     // Keys are pressed as a user would, so that their values follow.
     const auto pick = [](SoftKey *key, int index) { Q_EMIT key->choicePicked(index); };

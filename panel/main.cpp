@@ -7,6 +7,7 @@
 #include "panelmodel.h"
 #include "panelwindow.h"
 #include "samples.h"
+#include "sweepcontroller.h"
 
 #include <QApplication>
 #include <QFile>
@@ -73,6 +74,8 @@ int main(int argc, char **argv)
     window.resize(commandLine.size);
     const bool opened = controller.openFiles(
         commandLine.files.isEmpty() ? QStringList{startSample()} : commandLine.files);
+    if (commandLine.simulate)
+        controller.sweepController()->simulate(SimulatedDevice::Filter);
     if (grabs) {
         window.setAttribute(Qt::WA_DontShowOnScreen);
         window.show();

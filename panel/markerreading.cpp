@@ -10,25 +10,11 @@
 namespace Panel
 {
 
-namespace
-{
-
-double interpolated(const QVector<double> &values, double index)
-{
-    const int i = qBound(0, int(index), int(values.size()) - 1);
-    const double fraction = index - i;
-    return fraction > 0.0 && i + 1 < values.size()
-        ? values.at(i) + (values.at(i + 1) - values.at(i)) * fraction
-        : values.at(i);
-}
-
-} // namespace
-
 MarkerReading readMarker(const Network &network, const Parameter &parameter, double index)
 {
-    const double hertz = interpolated(network.frequencies, index);
-    const std::complex<double> gamma(interpolated(parameter.real, index),
-                                     interpolated(parameter.imag, index));
+    const double hertz = valueAt(network.frequencies, index);
+    const std::complex<double> gamma(valueAt(parameter.real, index),
+                                     valueAt(parameter.imag, index));
     MarkerReading reading;
     reading.frequency = frequencyText(hertz);
     const QString ohm = QStringLiteral("\u03a9");

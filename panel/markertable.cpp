@@ -32,6 +32,8 @@ MarkerTable::MarkerTable(const PanelModel *model, QWidget *parent)
 {
     setAccessibleName(tr("Markers"));
     connect(m_model, &PanelModel::networksChanged, this, &MarkerTable::refresh);
+    connect(m_model, &PanelModel::stimulusChanged, this, &MarkerTable::refresh);
+    connect(m_model, &PanelModel::networkUpdated, this, qOverload<>(&MarkerTable::update));
     connect(m_model, &PanelModel::activeTraceChanged, this, &MarkerTable::refresh);
     connect(m_model, &PanelModel::markerAdded, this, &MarkerTable::refresh);
     connect(m_model, &PanelModel::markerMoved, this, &MarkerTable::refresh);

@@ -34,4 +34,15 @@ struct Network {
     }
 };
 
+/// A value of a sweep at a fractional index, interpolated linearly; an index outside counts as the
+/// end next to it. The values must not be empty.
+double valueAt(const QVector<double> &values, double index);
+
+/// The fractional index of a frequency, or the end of the sweep next to it. The frequencies must
+/// not be empty.
+double indexOfFrequency(const QVector<double> &frequencies, double hertz);
+
+/// Whether two sweeps of evenly spaced frequencies are the same.
+bool sameSweep(const QVector<double> &a, const QVector<double> &b);
+
 } // namespace Panel

@@ -11,6 +11,7 @@
 #include <controls/thememanager.h>
 #include <plot/qcp.h>
 
+#include <QElapsedTimer>
 #include <QVBoxLayout>
 
 namespace Panel
@@ -43,12 +44,12 @@ SmithView::SmithView(const PanelModel *model, QWidget *parent)
     recolor();
 
     connect(m_model, &PanelModel::networksChanged, this, &SmithView::loadTraces);
+    connect(m_model, &PanelModel::stimulusChanged, this, &SmithView::loadTraces);
     connect(m_model, &PanelModel::activeTraceChanged, this, &SmithView::showActiveTrace);
     connect(m_model, &PanelModel::traceVisibleChanged, this, &SmithView::setTraceVisible);
     connect(m_model, &PanelModel::markerAdded, this, &SmithView::addMarker);
-    connect(m_model, &PanelModel::markerMoved, this, [this](int traceId, int number) {
-        m_chart->setMarkerIndex(traceId, number, m_model->marker(traceId, number)->index);
-    });
+    connect(m_model, &PanelModel::networkUpdated, this, &SmithView::updateTraces);
+    connect(m_model, &PanelModel::markerMoved, this, &SmithView::moveMarker);
     connect(m_model, &PanelModel::markerRemoved, this,
             [this](int traceId, int number) { m_chart->removeMarkerVisual(traceId, number); });
     connect(m_model, &PanelModel::selectedMarkerChanged, this, &SmithView::showSelectedMarker);
@@ -103,6 +104,41 @@ void SmithView::loadTraces()
         addMarker(marker.trace, marker.number);
     showActiveTrace();
     showSelectedMarker();
+}
+
+void SmithView::updateTraces(int network)
+{
+    QElapsedTimer timer;
+    timer.start();
+    for (const Trace &trace : m_model->traces()) {
+        if (trace.network != network)
+            continue;
+        const Parameter &values = m_model->data(trace);
+        m_chart->setCurveData(trace.id, m_model->network(trace).frequencies, values.real,
+                              values.imag);
+    }
+    m_dataMilliseconds = double(timer.nsecsElapsed()) / 1e6;
+}
+
+void SmithView::moveMarker(int traceId, int number)
+{
+    m_chart->setMarkerIndex(traceId, number, m_model->marker(traceId, number)->index);
+    if (m_chart->getMarker(traceId, number)->isVisible())
+        return;
+    // Shorter data had no place for it.
+    m_chart->setMarkerVisible(traceId, number, m_model->trace(traceId)->visible);
+    showSelectedMarker();
+}
+
+int SmithView::drawnPoints() const
+{
+    int count = 0;
+    for (const Trace &trace : m_model->traces()) {
+        const QCPCurve *curve = m_chart->getCurve(trace.id);
+        if (curve && curve->visible())
+            count += curve->dataCount();
+    }
+    return count;
 }
 
 void SmithView::setTraceVisible(int id, bool visible)

@@ -51,6 +51,11 @@ public:
     void moveTo(const QPointF &chartPoint, const QPointF &position);
     void resetView();
 
+    /// How many points of the traces on show are drawn.
+    int drawnPoints() const;
+    /// What the last new measurement cost the chart, in milliseconds.
+    double dataMilliseconds() const { return m_dataMilliseconds; }
+
 Q_SIGNALS:
     void chartReplaced();
     /// Zoom or centre of the view changed.
@@ -59,6 +64,8 @@ Q_SIGNALS:
 private:
     void makeChart();
     void loadTraces();
+    void updateTraces(int network);
+    void moveMarker(int traceId, int number);
     void showActiveTrace();
     void setTraceVisible(int id, bool visible);
     void addMarker(int traceId, int number);
@@ -73,6 +80,7 @@ private:
     QCustomPlot *m_plot;
     SmithChartPlot *m_chart = nullptr;
     SmithChart::Preset m_density = SmithChart::Standard;
+    double m_dataMilliseconds = 0.0;
 };
 
 } // namespace Panel

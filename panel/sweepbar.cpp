@@ -14,12 +14,17 @@ namespace Panel
 namespace
 {
 
-QLabel *addField(QHBoxLayout *row, const QString &name)
+/// The speed is told this often, in milliseconds.
+constexpr qint64 s_speedInterval = 500;
+
+QLabel *addField(QHBoxLayout *row, const QString &name, QLabel **nameField = nullptr)
 {
     auto *nameLabel = new QLabel(name);
     nameLabel->setObjectName(QStringLiteral("dim"));
     auto *value = new QLabel;
     value->setAccessibleName(name);
+    if (nameField)
+        *nameField = nameLabel;
     row->addWidget(nameLabel);
     row->addWidget(value);
     return value;
@@ -37,20 +42,57 @@ SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
     row->addStretch();
     m_points = addField(row, tr("Points"));
     row->addStretch();
+    m_speed = addField(row, tr("Speed"), &m_speedName);
+    row->addStretch();
     m_stop = addField(row, tr("Stop"));
+    showSpeed(QString());
     connect(m_model, &PanelModel::activeTraceChanged, this, &SweepBar::refresh);
+    connect(m_model, &PanelModel::stimulusChanged, this, &SweepBar::refresh);
+    connect(m_model, &PanelModel::networksChanged, this, [this] {
+        m_clock.invalidate();
+        showSpeed(QString());
+    });
+    connect(m_model, &PanelModel::networkUpdated, this, &SweepBar::countSweep);
+    connect(m_model, &PanelModel::sweepingChanged, this, [this] {
+        if (!m_model->isSweeping() && m_clock.isValid())
+            showSpeed(tr("Hold"));
+        m_clock.invalidate();
+    });
     refresh();
 }
 
 void SweepBar::refresh()
 {
     const Trace *trace = m_model->activeTrace();
-    const QVector<double> frequencies =
-        trace ? m_model->network(*trace).frequencies : QVector<double>();
     const QString none = QStringLiteral("\u2013");
-    m_start->setText(frequencies.isEmpty() ? none : frequencyText(frequencies.first()));
-    m_points->setText(frequencies.isEmpty() ? none : QString::number(frequencies.size()));
-    m_stop->setText(frequencies.isEmpty() ? none : frequencyText(frequencies.last()));
+    m_start->setText(trace ? frequencyText(m_model->stimulus(*trace).start) : none);
+    m_points->setText(trace ? QString::number(m_model->network(*trace).frequencies.size()) : none);
+    m_stop->setText(trace ? frequencyText(m_model->stimulus(*trace).stop) : none);
+}
+
+void SweepBar::countSweep()
+{
+    refresh();
+    if (!m_clock.isValid()) {
+        m_clock.start();
+        m_sweeps = 0;
+        return;
+    }
+    ++m_sweeps;
+    const qint64 elapsed = m_clock.elapsed();
+    if (elapsed < s_speedInterval || !m_model->isSweeping())
+        return;
+    const double speed = m_sweeps * 1000.0 / double(elapsed);
+    showSpeed(tr("%1 sweeps/s").arg(speed, 0, 'f', speed < 9.95 ? 1 : 0));
+    m_clock.start();
+    m_sweeps = 0;
+}
+
+void SweepBar::showSpeed(const QString &speed)
+{
+    m_speedName->setVisible(!speed.isEmpty());
+    m_speed->setVisible(!speed.isEmpty());
+    m_speed->setText(speed);
 }
 
 } // namespace Panel

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "pointer.h"
+
 #include <panel/messagebar.h>
 #include <panel/panelcontroller.h>
 #include <panel/panelmodel.h>
@@ -9,24 +11,26 @@
 #include <panel/samples.h>
 #include <panel/smithview.h>
 #include <panel/softkey.h>
+#include <panel/softkeymenu.h>
 #include <plot/qcp.h>
 
-#include <QMenu>
+#include <QListWidget>
 #include <QtTest>
 
-/// The panel as main() makes it, on screen, with pointer events sent to its window.
-struct Desk {
+/// The panel as main() makes it, on screen with a sample of 2.3 to 2.6 GHz, and a finger to tap it.
+struct PanelDesk {
     Panel::PanelModel model;
     Panel::PanelWindow window;
     Panel::PanelController controller;
 
-    explicit Desk(const QSize &size = QSize(1024, 600))
+    explicit PanelDesk(const QSize &size = QSize(1024, 600))
         : window(&model)
         , controller(&model, &window)
     {
         window.resize(size);
         controller.openFiles({Panel::startSample()});
         window.show();
+        window.activateWindow();
         settle();
     }
 
@@ -38,6 +42,22 @@ struct Desk {
         for (int i = 0; i < 4; ++i)
             QCoreApplication::processEvents();
     }
+
+    /// Taps a widget; a soft key is looked up on its page first.
+    void click(const QWidget *widget)
+    {
+        if (const auto *key = qobject_cast<const Panel::SoftKey *>(widget)) {
+            window.softKeys()->showKey(key);
+            settle();
+        }
+        VnaTest::mouseClick(widget);
+        settle();
+    }
+};
+
+/// The same, with hands on the chart and on lists.
+struct ChartDesk : PanelDesk {
+    using PanelDesk::PanelDesk;
 
     /// A point of the plot, given as a share of its size, in pixels of the plot.
     QPoint onPlot(double x, double y) const
@@ -67,13 +87,6 @@ struct Desk {
         settle();
     }
 
-    void click(const QWidget *widget)
-    {
-        QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          widget->mapTo(widget->window(), widget->rect().center()));
-        settle();
-    }
-
     /// A point of a trace in pixels of the plot.
     QPoint onTrace(int traceId, int index) const
     {
@@ -92,10 +105,14 @@ struct Desk {
     void pick(Panel::SoftKey *key, int index)
     {
         click(key);
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        QVERIFY(menu);
-        QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          menu->actionGeometry(menu->actions().at(index)).center());
+        QWidget *popup = QApplication::activePopupWidget();
+        QVERIFY(popup);
+        const auto *list = popup->findChild<QListWidget *>();
+        const QPoint row = list->visualItemRect(list->item(index)).center();
+        QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          list->viewport()->mapTo(popup, row));
+        // A tap right after the list closed counts as the one that closed it.
+        QTest::qWait(220);
         settle();
     }
 };

@@ -21,7 +21,7 @@ private Q_SLOTS:
 
 void PanelMarkersTest::doubleClickMarksTheTrace()
 {
-    Desk desk;
+    ChartDesk desk;
     // The end of S22 lies far from S11, which is active and would win nearby.
     const int last = desk.model.networks().first().frequencies.size() - 1;
     desk.doubleClick(desk.onTrace(2, last));
@@ -48,10 +48,10 @@ void PanelMarkersTest::doubleClickMarksTheTrace()
 
 void PanelMarkersTest::markersFollowTheirPointer()
 {
-    Desk desk;
+    ChartDesk desk;
     desk.model.addMarker(1, 0.0);
     desk.model.addMarker(2, 0.0);
-    Desk::settle();
+    ChartDesk::settle();
     const SmithChart::ViewState view = desk.chart()->viewState();
     desk.drag(desk.onTrace(1, 0), desk.onTrace(1, 100));
     QVERIFY2(std::abs(desk.model.marker(1, 1)->index - 100.0) < 10.0,
@@ -80,7 +80,7 @@ void PanelMarkersTest::markersFollowTheirPointer()
 
 void PanelMarkersTest::markerKeyAddsAndRemoves()
 {
-    Desk desk;
+    ChartDesk desk;
     for (int number = 1; number <= PanelModel::markersPerTrace + 1; ++number)
         desk.pick(desk.window.markerKey(), 0);
     QCOMPARE(desk.model.activeMarkers().size(), PanelModel::markersPerTrace);

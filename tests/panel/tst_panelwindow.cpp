@@ -21,7 +21,7 @@ namespace
 {
 
 /// Distance of two chart points in pixels of the chart.
-double pixels(const Desk &desk, const QPointF &a, const QPointF &b)
+double pixels(const ChartDesk &desk, const QPointF &a, const QPointF &b)
 {
     const QCPAxis *axis = desk.view()->plot()->xAxis;
     return QLineF(a, b).length() / axis->range().size() * axis->axisRect()->width();
@@ -62,7 +62,7 @@ void PanelWindowTest::cleanup()
 
 void PanelWindowTest::showsAFile()
 {
-    const Desk desk;
+    const ChartDesk desk;
     QCOMPARE(desk.chart()->traceIds(), (QVector<int>{1, 2}));
     QCOMPARE(desk.chart()->activeTrace(), 1);
     const QVector<double> *frequencies = nullptr, *real = nullptr, *imag = nullptr;
@@ -75,7 +75,7 @@ void PanelWindowTest::showsAFile()
 
 void PanelWindowTest::picksGridModes()
 {
-    Desk desk;
+    ChartDesk desk;
     for (const auto mode : {SmithChartPlot::Admittance, SmithChartPlot::ImpedanceAndAdmittance,
                             SmithChartPlot::Impedance}) {
         desk.pick(desk.window.gridKey(), mode);
@@ -86,7 +86,7 @@ void PanelWindowTest::picksGridModes()
 
 void PanelWindowTest::densityKeepsEverythingElse()
 {
-    Desk desk;
+    ChartDesk desk;
     desk.model.setActiveTrace(2);
     desk.model.setTraceVisible(1, false);
     desk.view()->setGridMode(SmithChartPlot::ImpedanceAndAdmittance);
@@ -116,7 +116,7 @@ void PanelWindowTest::densityKeepsEverythingElse()
 
 void PanelWindowTest::activatesAndHidesTraces()
 {
-    Desk desk;
+    ChartDesk desk;
     const auto buttons = desk.window.traceBar()->findChildren<QAbstractButton *>();
     QCOMPARE(buttons.size(), 2);
     QVERIFY(buttons.at(0)->isChecked());
@@ -133,7 +133,7 @@ void PanelWindowTest::activatesAndHidesTraces()
 
 void PanelWindowTest::wheelKeepsThePointUnderThePointer()
 {
-    Desk desk;
+    ChartDesk desk;
     const QPoint pointer = desk.onPlot(0.62, 0.35);
     const QPointF before = desk.chartPoint(pointer);
     desk.turnWheel(pointer, 6);
@@ -149,7 +149,7 @@ void PanelWindowTest::wheelKeepsThePointUnderThePointer()
 
 void PanelWindowTest::dragMovesTheMagnifiedView()
 {
-    Desk desk;
+    ChartDesk desk;
     desk.view()->setZoom(4.0);
     const QPoint from = desk.onPlot(0.5, 0.5);
     const QPoint to = desk.onPlot(0.6, 0.7);
@@ -170,7 +170,7 @@ void PanelWindowTest::dragMovesTheMagnifiedView()
 
 void PanelWindowTest::unmagnifiedViewStays()
 {
-    Desk desk;
+    ChartDesk desk;
     const QCPRange range = desk.view()->plot()->xAxis->range();
     desk.drag(desk.onPlot(0.2, 0.2), desk.onPlot(0.8, 0.8));
     QCOMPARE(desk.view()->plot()->xAxis->range(), range);
@@ -182,7 +182,7 @@ void PanelWindowTest::unmagnifiedViewStays()
                       desk.inWindow(desk.onPlot(0.5, 0.5)));
     desk.window.hide();
     desk.window.show();
-    Desk::settle();
+    ChartDesk::settle();
     QTest::mouseMove(desk.window.windowHandle(), desk.inWindow(desk.onPlot(0.8, 0.5)));
     QTest::mouseMove(desk.window.windowHandle(), desk.inWindow(desk.onPlot(0.9, 0.5)));
     QCOMPARE(desk.chart()->viewState().centerX, state.centerX);
@@ -191,7 +191,7 @@ void PanelWindowTest::unmagnifiedViewStays()
 
 void PanelWindowTest::doubleClickResetsOnFreeSpace()
 {
-    Desk desk;
+    ChartDesk desk;
     desk.turnWheel(desk.onPlot(0.5, 0.5), 2);
     QVERIFY(desk.chart()->isMagnified());
     QTest::mouseDClick(desk.window.windowHandle(), Qt::RightButton, Qt::NoModifier,
@@ -205,7 +205,7 @@ void PanelWindowTest::doubleClickResetsOnFreeSpace()
 
 void PanelWindowTest::twoFingersZoom()
 {
-    Desk desk;
+    ChartDesk desk;
     static auto *device = QTest::createTouchDevice();
     const QPoint centre = desk.onPlot(0.6, 0.45);
     const QPointF before = desk.chartPoint(centre);
@@ -226,7 +226,7 @@ void PanelWindowTest::twoFingersZoom()
 
 void PanelWindowTest::keysMoveTheView()
 {
-    Desk desk;
+    ChartDesk desk;
     desk.view()->plot()->setFocus();
     QTest::keyClick(desk.window.windowHandle(), Qt::Key_Plus);
     QTest::keyClick(desk.window.windowHandle(), Qt::Key_Plus);
@@ -247,7 +247,7 @@ void PanelWindowTest::badFileKeepsWhatWasShown()
     bad.write("# Hz S RI\n2 0 0\n1 0 0\n");
     bad.close();
 
-    Desk desk;
+    ChartDesk desk;
     const QSignalSpy changed(&desk.model, &PanelModel::networksChanged);
     QVERIFY(!desk.controller.openFiles({bad.fileName()}));
     QCOMPARE(changed.count(), 0);
@@ -269,9 +269,9 @@ void PanelWindowTest::badFileKeepsWhatWasShown()
 
 void PanelWindowTest::startsEmptyWithoutAReadableFile()
 {
-    Desk desk;
+    ChartDesk desk;
     desk.model.setNetworks({});
-    Desk::settle();
+    ChartDesk::settle();
     QVERIFY(!desk.view()->isVisible());
     QVERIFY(desk.window.emptyPageButton()->isVisible());
     QVERIFY(!desk.window.gridKey()->isEnabled());
@@ -281,7 +281,7 @@ void PanelWindowTest::startsEmptyWithoutAReadableFile()
 
 void PanelWindowTest::fileDialogOpensPickedFiles()
 {
-    Desk desk;
+    ChartDesk desk;
     desk.click(desk.window.fileKey());
     QPointer<FileDialog> dialog = desk.window.findChild<FileDialog *>();
     QVERIFY(dialog);
@@ -310,7 +310,7 @@ void PanelWindowTest::fileDialogOpensPickedFiles()
 
 void PanelWindowTest::followsTheTheme()
 {
-    Desk desk;
+    ChartDesk desk;
     const auto pixel = [&desk] {
         return desk.window.grab().toImage().pixelColor(desk.inWindow(desk.onPlot(0.01, 0.01)));
     };
@@ -335,10 +335,10 @@ void PanelWindowTest::nothingIsClipped_data()
 void PanelWindowTest::nothingIsClipped()
 {
     QFETCH(QSize, size);
-    Desk desk(size);
+    ChartDesk desk(size);
     desk.window.messageBar()->setMessage(
         QStringLiteral("a sentence that takes several lines ").repeated(6));
-    Desk::settle();
+    ChartDesk::settle();
     QCOMPARE(desk.window.size(), size);
     const auto widgets = desk.window.findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {

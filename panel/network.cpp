@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "network.h"
+
+#include <algorithm>
+
+namespace Panel
+{
+
+double valueAt(const QVector<double> &values, double index)
+{
+    const int last = int(values.size()) - 1;
+    const int i = int(qBound(0.0, index, double(last)));
+    const double fraction = index - i;
+    return fraction > 0.0 && i < last ? values.at(i) + (values.at(i + 1) - values.at(i)) * fraction
+                                      : values.at(i);
+}
+
+double indexOfFrequency(const QVector<double> &frequencies, double hertz)
+{
+    const auto above = std::upper_bound(frequencies.begin(), frequencies.end(), hertz);
+    if (above == frequencies.begin())
+        return 0.0;
+    const auto below = double(above - frequencies.begin() - 1);
+    // The frequency above is larger than the one below, which is at most hertz.
+    return above == frequencies.end() ? below
+                                      : below + (hertz - *(above - 1)) / (*above - *(above - 1));
+}
+
+bool sameSweep(const QVector<double> &a, const QVector<double> &b)
+{
+    return a.size() == b.size()
+        && (a.isEmpty() || (a.first() == b.first() && a.last() == b.last()));
+}
+
+} // namespace Panel

@@ -1,0 +1,207 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vnatest.h"
+
+#include <panel/simulateddevice.h>
+#include <panel/sweepsource.h>
+
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <cmath>
+
+using namespace Panel;
+
+Q_DECLARE_METATYPE(Panel::SimulatedDevice::Kind)
+Q_DECLARE_METATYPE(Panel::Sweep)
+
+namespace
+{
+
+SimulatedDevice prepared(SimulatedDevice::Kind kind, const Sweep &sweep)
+{
+    SimulatedDevice device(kind, sweep);
+    while (!device.isPrepared())
+        device.prepare(1000);
+    return device;
+}
+
+double magnitude(const Parameter &parameter, int index)
+{
+    return std::hypot(parameter.real.at(index), parameter.imag.at(index));
+}
+
+} // namespace
+
+class SimulatedDeviceTest : public VnaTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void measuresPassively_data();
+    void measuresPassively();
+    void filterPassesItsBand();
+    void driftsAndRepeats();
+    void checksSweeps_data();
+    void checksSweeps();
+    void sourceSweepsOn();
+    void sourceDropsWhatRanBefore();
+};
+
+void SimulatedDeviceTest::measuresPassively_data()
+{
+    QTest::addColumn<SimulatedDevice::Kind>("kind");
+    QTest::addColumn<Sweep>("sweep");
+    QTest::addColumn<int>("ports");
+    const auto usual = SimulatedDevice::usualSweep;
+    QTest::newRow("antenna") << SimulatedDevice::Antenna << usual(SimulatedDevice::Antenna, 1001)
+                             << 1;
+    QTest::newRow("antenna, most points")
+        << SimulatedDevice::Antenna << usual(SimulatedDevice::Antenna, Sweep::mostPoints) << 1;
+    QTest::newRow("filter") << SimulatedDevice::Filter << usual(SimulatedDevice::Filter, 100001)
+                            << 2;
+    QTest::newRow("filter, all frequencies")
+        << SimulatedDevice::Filter << Sweep{Sweep::lowest, Sweep::highest, 201} << 2;
+    QTest::newRow("cable, all frequencies")
+        << SimulatedDevice::Cable << Sweep{Sweep::lowest, Sweep::highest, 100001} << 1;
+    QTest::newRow("cable, least span")
+        << SimulatedDevice::Cable
+        << Sweep{Sweep::lowest, Sweep::lowest + Sweep::leastSpan, Sweep::fewestPoints} << 1;
+}
+
+void SimulatedDeviceTest::measuresPassively()
+{
+    QFETCH(SimulatedDevice::Kind, kind);
+    QFETCH(Sweep, sweep);
+    QFETCH(int, ports);
+    QVERIFY(sweep.isValid());
+    const SimulatedDevice device = prepared(kind, sweep);
+    // Both ends of the drift are among these.
+    for (const quint64 number : {0ULL, 90ULL, 270ULL}) {
+        const Network network = device.frame(number);
+        QCOMPARE(network.ports, ports);
+        QCOMPARE(network.frequencies.size(), sweep.points);
+        QCOMPARE(network.frequencies.first(), sweep.start);
+        QCOMPARE(network.frequencies.last(), sweep.stop);
+        QVERIFY(std::is_sorted(network.frequencies.begin(), network.frequencies.end()));
+        QCOMPARE(network.parameters.size(), ports * ports);
+        for (const Parameter &parameter : network.parameters) {
+            QCOMPARE(parameter.real.size(), sweep.points);
+            QCOMPARE(parameter.imag.size(), sweep.points);
+            double largest = 0.0;
+            for (int i = 0; i < sweep.points; ++i) {
+                if (!std::isfinite(magnitude(parameter, i)))
+                    QFAIL("not finite");
+                largest = qMax(largest, magnitude(parameter, i));
+            }
+            QVERIFY2(largest <= 1.0, qPrintable(QString::number(largest, 'g', 12)));
+        }
+    }
+}
+
+void SimulatedDeviceTest::filterPassesItsBand()
+{
+    const Network network = prepared(SimulatedDevice::Filter, {2.3e9, 2.6e9, 301}).frame(0);
+    const int centre = 150, edge = 0;
+    QVERIFY(magnitude(network.s(2, 1), centre) > 0.7);
+    QVERIFY(magnitude(network.s(1, 1), centre) < 0.4);
+    QVERIFY(magnitude(network.s(2, 1), edge) < 0.01);
+    QVERIFY(magnitude(network.s(1, 1), edge) > 0.9);
+    // Reciprocal but for the noise.
+    QVERIFY(std::abs(network.s(2, 1).real.at(centre) - network.s(1, 2).real.at(centre)) < 1e-3);
+}
+
+void SimulatedDeviceTest::driftsAndRepeats()
+{
+    const SimulatedDevice device = prepared(SimulatedDevice::Cable, {10e6, 1e9, 2001});
+    const QVector<double> first = device.frame(7).parameters.first().real;
+    QCOMPARE(device.frame(7).parameters.first().real, first);
+    QVERIFY(device.frame(8).parameters.first().real != first);
+
+    // The noise is there, has no bias to speak of and keeps its limit.
+    const double limit = SimulatedDevice::noise(SimulatedDevice::Cable);
+    const QVector<double> second = device.frame(367).parameters.first().real; // one drift later
+    double sum = 0.0, largest = 0.0;
+    for (int i = 0; i < first.size(); ++i) {
+        sum += second.at(i) - first.at(i);
+        largest = qMax(largest, std::abs(second.at(i) - first.at(i)));
+    }
+    QVERIFY(largest > limit / 2.0 && largest <= 2.0 * limit);
+    QVERIFY(std::abs(sum / first.size()) < limit / 10.0);
+}
+
+void SimulatedDeviceTest::checksSweeps_data()
+{
+    QTest::addColumn<Sweep>("sweep");
+    QTest::addColumn<bool>("valid");
+    QTest::newRow("limits") << Sweep{1e6, 9e9, 1000001} << true;
+    QTest::newRow("fewest") << Sweep{1e9, 2e9, 201} << true;
+    QTest::newRow("too few") << Sweep{1e9, 2e9, 200} << false;
+    QTest::newRow("too many") << Sweep{1e9, 2e9, 1000002} << false;
+    QTest::newRow("reversed") << Sweep{2e9, 1e9, 201} << false;
+    QTest::newRow("no span") << Sweep{2e9, 2e9, 201} << false;
+    QTest::newRow("too high") << Sweep{2e9, 1e10, 201} << false;
+    QTest::newRow("NaN") << Sweep{std::nan(""), 1e9, 201} << false;
+}
+
+void SimulatedDeviceTest::checksSweeps()
+{
+    QFETCH(Sweep, sweep);
+    QTEST(sweep.isValid(), "valid");
+}
+
+void SimulatedDeviceTest::sourceSweepsOn()
+{
+    SweepSource source;
+    QVector<QVector<double>> frames;
+    connect(&source, &SweepSource::swept, this,
+            [&frames](const Network &frame) { frames.append(frame.parameters.first().real); });
+    const Sweep sweep{1e9, 2e9, 201};
+    source.start(SimulatedDevice::Antenna, sweep);
+    QVERIFY(frames.isEmpty());
+    QTRY_VERIFY(frames.size() >= 3);
+    QVERIFY(frames.at(0) != frames.at(1) && frames.at(1) != frames.at(2));
+
+    source.setHeld(true);
+    const int held = frames.size();
+    QTest::qWait(5 * SweepSource::frameInterval);
+    QCOMPARE(frames.size(), held);
+    // A new sweep is shown once even so.
+    source.start(SimulatedDevice::Antenna, {1e9, 2e9, 301});
+    QTRY_COMPARE(frames.size(), held + 1);
+    QCOMPARE(frames.last().size(), 301);
+    QTest::qWait(5 * SweepSource::frameInterval);
+    QCOMPARE(frames.size(), held + 1);
+    source.setHeld(false);
+    QTRY_VERIFY(frames.size() > held + 1);
+
+    source.stop();
+    const int stopped = frames.size();
+    QTest::qWait(5 * SweepSource::frameInterval);
+    QCOMPARE(frames.size(), stopped);
+}
+
+void SimulatedDeviceTest::sourceDropsWhatRanBefore()
+{
+    QVector<int> sizes;
+    {
+        SweepSource source;
+        connect(&source, &SweepSource::swept, this, [&](const Network &frame) {
+            sizes.append(frame.frequencies.size());
+            // A host may start anew in the answer.
+            if (sizes.size() == 1)
+                source.start(SimulatedDevice::Cable, {1e9, 2e9, 301});
+        });
+        source.start(SimulatedDevice::Filter, {1e9, 2e9, Sweep::mostPoints});
+        source.start(SimulatedDevice::Antenna, {1e9, 2e9, 201});
+        QTRY_VERIFY(sizes.size() >= 3);
+        // Destroyed in the middle of a long computation.
+        source.start(SimulatedDevice::Filter, {1e9, 2e9, Sweep::mostPoints});
+    }
+    QCOMPARE(sizes.takeFirst(), 201);
+    for (const int size : sizes)
+        QCOMPARE(size, 301);
+}
+
+QTEST_GUILESS_MAIN(SimulatedDeviceTest)
+#include "tst_simulateddevice.moc"

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk.h"
+#include "vnatest.h"
+
+#include <panel/filedialog.h>
+#include <panel/look.h>
+#include <panel/sweepcontroller.h>
+#include <panel/sweepkeys.h>
+#include <panel/timingline.h>
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace Panel;
+
+namespace
+{
+
+struct Desk : PanelDesk {
+    SweepController *sweeps() const { return controller.sweepController(); }
+    const SweepKeys *keys() const { return window.sweepKeys(); }
+    QString shown() const { return model.networks().first().name; }
+    int points() const { return model.networks().first().frequencies.size(); }
+
+    void pick(SoftKey *key, int index) { Q_EMIT key->choicePicked(index); }
+};
+
+} // namespace
+
+class SweepControllerTest : public VnaTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { setUpApplication(); }
+    void switchesBetweenFilesAndDevices();
+    void answersClicksWhileSweeping();
+    void markersStayOverNewData();
+    void holdsTheSweep();
+    void openedFileEndsTheSimulation();
+    void asksForAFileWhenThereIsNone();
+    void tellsTheTimingOnRequest();
+};
+
+void SweepControllerTest::switchesBetweenFilesAndDevices()
+{
+    Desk desk;
+    QCOMPARE(desk.keys()->sourceKey()->choice(), 0);
+    QVERIFY(!desk.keys()->pointsKey()->isEnabled());
+
+    desk.pick(desk.keys()->sourceKey(), 1);
+    QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Antenna));
+    QCOMPARE(desk.keys()->sourceKey()->choice(), 1);
+    QVERIFY(desk.keys()->pointsKey()->isEnabled());
+    QCOMPARE(desk.points(), 1001);
+    desk.pick(desk.keys()->pointsKey(), 1);
+    QTRY_COMPARE(desk.points(), 100001);
+    QCOMPARE(desk.keys()->pointsKey()->value(), QStringLiteral("100 k"));
+
+    // The points stay, the frequencies become those of the device.
+    desk.pick(desk.keys()->sourceKey(), 3);
+    QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Cable));
+    QCOMPARE(desk.points(), 100001);
+    QCOMPARE(desk.model.networks().first().frequencies.first(),
+             SimulatedDevice::usualSweep(SimulatedDevice::Cable, 1001).start);
+    desk.model.setSweep({1e8, 2e8, 501});
+    QTRY_COMPARE(desk.points(), 501);
+    QCOMPARE(desk.keys()->pointsKey()->value(), QStringLiteral("501"));
+
+    desk.pick(desk.keys()->sourceKey(), 0);
+    QCOMPARE(desk.shown(), QStringLiteral("band-pass.s2p"));
+    QVERIFY(!desk.sweeps()->isSimulating());
+    QCOMPARE(desk.keys()->sourceKey()->choice(), 0);
+}
+
+void SweepControllerTest::answersClicksWhileSweeping()
+{
+    Desk desk;
+    Sweep most = desk.model.sweep();
+    most.points = Sweep::mostPoints;
+    desk.model.setSweep(most);
+    const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
+    desk.sweeps()->simulate(SimulatedDevice::Antenna);
+    QTRY_VERIFY_WITH_TIMEOUT(updated.count() >= 2, 60000);
+    QCOMPARE(desk.points(), Sweep::mostPoints);
+
+    // Drawn are the points of the picture, not those of the data.
+    QVERIFY(desk.window.smithView()->drawnPoints() > 100);
+    QVERIFY(desk.window.smithView()->drawnPoints() < 20000);
+
+    desk.click(desk.window.traceKey());
+    QVERIFY(!desk.model.activeTrace()->visible);
+    const int before = updated.count();
+    QTRY_VERIFY_WITH_TIMEOUT(updated.count() > before, 60000);
+    QVERIFY(!desk.model.activeTrace()->visible);
+    desk.click(desk.keys()->sweepKey());
+    QVERIFY(!desk.model.isSweeping());
+}
+
+void SweepControllerTest::markersStayOverNewData()
+{
+    Desk desk;
+    desk.model.setSweeping(false);
+    desk.sweeps()->simulate(SimulatedDevice::Antenna);
+    QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Antenna));
+    desk.model.addMarker(1, 800.0);
+    const double hertz = desk.model.networks().first().frequencies.at(800);
+
+    const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
+    desk.model.setSweeping(true);
+    QTRY_VERIFY(updated.count() >= 3);
+    QCOMPARE(desk.model.marker(1, 1)->index, 800.0);
+    const auto isOnTheTrace = [&desk] {
+        const Parameter &data = desk.model.networks().first().parameters.first();
+        const double index = desk.model.marker(1, 1)->index;
+        const QPointF position = desk.chart()->getMarker(1, 1)->getTracer()->position->coords();
+        return desk.chart()->getMarker(1, 1)->isVisible()
+            && qAbs(position.x() - valueAt(data.real, index)) < 1e-9
+            && qAbs(position.y() - valueAt(data.imag, index)) < 1e-9;
+    };
+    QVERIFY(isOnTheTrace());
+
+    // With other points it keeps its frequency, shorter data or longer.
+    Sweep sweep = desk.model.sweep();
+    for (const int points : {Sweep::fewestPoints, 100001}) {
+        sweep.points = points;
+        desk.model.setSweep(sweep);
+        QTRY_COMPARE(desk.points(), points);
+        const Marker *marker = desk.model.marker(1, 1);
+        QVERIFY(qAbs(valueAt(desk.model.networks().first().frequencies, marker->index) - hertz)
+                < 1.0);
+        QVERIFY(isOnTheTrace());
+        int trace = 0, number = 0;
+        QVERIFY(desk.chart()->getSelectedMarker(trace, number));
+        QCOMPARE(desk.model.selectedMarker(), marker);
+    }
+}
+
+void SweepControllerTest::holdsTheSweep()
+{
+    Desk desk;
+    desk.sweeps()->simulate(SimulatedDevice::Antenna);
+    const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
+    QTRY_VERIFY(updated.count() >= 2);
+    desk.click(desk.keys()->sweepKey());
+    QCOMPARE(desk.keys()->sweepKey()->value(), QStringLiteral("Off"));
+    const int held = updated.count();
+    QTest::qWait(5 * SweepSource::frameInterval);
+    QCOMPARE(updated.count(), held);
+    desk.click(desk.keys()->sweepKey());
+    QTRY_VERIFY(updated.count() > held);
+}
+
+void SweepControllerTest::openedFileEndsTheSimulation()
+{
+    Desk desk;
+    desk.sweeps()->simulate(SimulatedDevice::Filter);
+    QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Filter));
+    QVERIFY(desk.controller.openFiles({sampleFolder() + QStringLiteral("/antenna.s1p")}));
+    QVERIFY(!desk.sweeps()->isSimulating());
+    QTest::qWait(5 * SweepSource::frameInterval);
+    QCOMPARE(desk.shown(), QStringLiteral("antenna.s1p"));
+    // Also one that was opened while the first frame was on its way.
+    desk.sweeps()->simulate(SimulatedDevice::Filter);
+    QVERIFY(desk.controller.openFiles({startSample()}));
+    QTest::qWait(5 * SweepSource::frameInterval);
+    QCOMPARE(desk.shown(), QStringLiteral("band-pass.s2p"));
+}
+
+void SweepControllerTest::asksForAFileWhenThereIsNone()
+{
+    Desk desk;
+    desk.model.setNetworks({});
+    desk.sweeps()->simulate(SimulatedDevice::Antenna);
+    QTRY_VERIFY(!desk.model.networks().isEmpty());
+    desk.pick(desk.keys()->sourceKey(), 0);
+    QVERIFY(desk.window.findChild<FileDialog *>());
+    QVERIFY(desk.sweeps()->isSimulating());
+}
+
+void SweepControllerTest::tellsTheTimingOnRequest()
+{
+    Desk desk;
+    QVERIFY(!desk.window.timingLine()->isVisible());
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_F3);
+    QVERIFY(desk.window.timingLine()->isVisible());
+    const QString points = QString::number(desk.window.smithView()->drawnPoints());
+    QVERIFY(desk.window.timingLine()->text().startsWith(points + QLatin1Char(' ')));
+    desk.click(desk.keys()->timingKey());
+    QVERIFY(!desk.window.timingLine()->isVisible());
+}
+
+QTEST_MAIN(SweepControllerTest)
+#include "tst_sweepcontroller.moc"
