@@ -120,11 +120,6 @@ void TraceBlocks::buildLevels()
     }
 }
 
-void TraceBlocks::clear()
-{
-    m_count = 0; // what is built next reuses the memory
-}
-
 size_t TraceBlocks::memoryUsed() const
 {
     size_t bytes = (m_chordX.capacity() + m_chordY.capacity() + m_sag.capacity()) * sizeof(double)

@@ -28,8 +28,6 @@ class TraceBlocks
 public:
     /// Builds the bounds of \a count points, at least 1, which must stay where they are.
     void build(const double *x, const double *y, int count);
-    void clear();
-    bool isEmpty() const { return m_count == 0; }
 
     /// The farthest from \a segment of the points \a first to \a end - 1, all finite.
     Farthest farthest(int first, int end, const Segment &segment);

@@ -58,7 +58,6 @@ private:
         int node; ///< -1: too short to have one
     };
 
-    bool isFinite(int i) const { return std::isfinite(m_x[i]) && std::isfinite(m_y[i]); }
     /// What a viewport asks of the tree.
     struct View {
         explicit View(const Viewport &viewport)
@@ -76,6 +75,7 @@ private:
         double surelyNot;
     };
 
+    bool isFinite(int i) const { return std::isfinite(m_x[i]) && std::isfinite(m_y[i]); }
     void build();
     void findRuns();
     bool fits(const Viewport &viewport) const;
@@ -84,12 +84,13 @@ private:
     bool isSplit(const Part &part, const Farthest &farthest, const View &view) const;
     void simplify(const Run &run, const View &view, QVector<int> &kept);
 
-    QVector<double>
-        m_real; ///< shared with the caller: read through the pointers, which never detach it
+    // Shared with the caller; read only through the pointers, as QVector's own access would detach.
+    QVector<double> m_real;
     QVector<double> m_imag;
     const double *m_x = nullptr;
     const double *m_y = nullptr;
     int m_count = 0;
+    bool m_isBuilt = false;
     TraceBlocks m_blocks;
     std::vector<Run> m_runs;
     std::vector<Node> m_nodes;
@@ -107,22 +108,22 @@ void TraceTree::Private::setSource(const QVector<double> &real, const QVector<do
     m_x = m_real.constData();
     m_y = m_imag.constData();
     m_count = static_cast<int>(std::min(real.size(), imag.size()));
-    m_blocks.clear();
-    m_runs.clear();
-    m_nodes.clear();
+    m_isBuilt = false; // what is built next reuses the memory
 }
 
 void TraceTree::Private::build()
 {
-    if (!m_blocks.isEmpty())
+    if (m_isBuilt)
         return;
     m_blocks.build(m_x, m_y, m_count);
+    findRuns();
+    m_isBuilt = true;
 }
 
 void TraceTree::Private::findRuns()
 {
-    if (!m_runs.empty())
-        return;
+    m_runs.clear();
+    m_nodes.clear();
     int first = -1;
     const auto endRun = [&](int end) {
         if (first < 0)
@@ -248,7 +249,6 @@ DecimationResult TraceTree::Private::decimate(const Viewport &viewport)
     build();
     if (!fits(viewport))
         return SmithRender::decimate(m_real, m_imag, viewport);
-    findRuns();
 
     const View view(viewport);
     DecimationResult result;

@@ -30,7 +30,8 @@ class VNAWIDGETS_EXPORT TraceTree
 public:
     TraceTree();
 
-    /// Takes up another trace, cut to the shorter of both; drops what was grown for the last one.
+    /// Takes up another trace, cut to the shorter of both. The memory of what was grown is reused
+    /// for it; an empty trace gives it back.
     void setSource(const QVector<double> &real, const QVector<double> &imag);
 
     /// As SmithRender::decimate() of the source.
