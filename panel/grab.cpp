@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "grab.h"
 
+#include "cartesianview.h"
+#include "diagrams.h"
 #include "filedialog.h"
 #include "messagebar.h"
 #include "panelmodel.h"
@@ -9,6 +11,7 @@
 #include "samples.h"
 #include "smithview.h"
 #include "softkey.h"
+#include "sweepkeys.h"
 
 #include <controls/thememanager.h>
 #include <plot/qcp.h>
@@ -49,6 +52,7 @@ public:
     {
         settle();
         m_window->smithView()->plot()->replot();
+        m_window->cartesianView()->plot()->replot();
         const QString path = m_folder.filePath(QLatin1String(name) + QLatin1String(".png"));
         if ((widget ? widget : m_window)->grab().save(path))
             return;
@@ -77,13 +81,32 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
 
     if (const Trace *trace = model->activeTrace()) {
         const int last = model->network(*trace).frequencies.size() - 1;
-        model->addMarker(trace->id, last / 3);
-        model->addMarker(trace->id, last / 2);
+        const int id = trace->id;
+        if (const Trace *transmission = model->activeTrace(Trace::Transmission)) {
+            model->addMarker(transmission->id, last / 3);
+            model->addMarker(transmission->id, last / 2);
+        }
+        model->addMarker(id, last / 3);
+        model->addMarker(id, last / 2);
     }
     grabber.grab("panel");
 
     // Keys are pressed as a user would, so that their values follow.
     const auto pick = [](SoftKey *key, int index) { Q_EMIT key->choicePicked(index); };
+    const SweepKeys *keys = window->sweepKeys();
+    Q_EMIT window->pageKey(0)->clicked();
+    grabber.grab("keys-sweep");
+    Q_EMIT window->pageKey(1)->clicked();
+    pick(keys->formatKey(), int(CartesianFormat::Phase));
+    grabber.grab("cartesian-phase");
+    pick(keys->formatKey(), int(CartesianFormat::LogMagnitude));
+    pick(keys->diagramsKey(), Diagrams::Cartesian);
+    grabber.grab("cartesian");
+    ThemeManager::instance()->setTheme(ThemeManager::Light);
+    pick(keys->diagramsKey(), Diagrams::Both);
+    grabber.grab("panel-light");
+    ThemeManager::instance()->setTheme(ThemeManager::Dark);
+    pick(keys->diagramsKey(), Diagrams::Smith);
     pick(window->gridKey(), SmithChartPlot::Admittance);
     grabber.grab("smith-admittance");
     pick(window->gridKey(), SmithChartPlot::ImpedanceAndAdmittance);
@@ -101,6 +124,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     ThemeManager::instance()->setTheme(ThemeManager::Light);
     grabber.grab("smith-light");
     ThemeManager::instance()->setTheme(ThemeManager::Dark);
+    pick(keys->diagramsKey(), Diagrams::Both);
 
     const QString message = window->messageBar()->message();
     window->messageBar()->setMessage(

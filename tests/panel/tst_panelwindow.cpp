@@ -3,6 +3,7 @@
 #include "vnatest.h"
 
 #include <controls/thememanager.h>
+#include <panel/diagrams.h>
 #include <panel/filedialog.h>
 #include <panel/look.h>
 #include <panel/markertable.h>
@@ -13,6 +14,7 @@
 #include <panel/samples.h>
 #include <panel/smithview.h>
 #include <panel/softkey.h>
+#include <panel/timingline.h>
 #include <panel/tracebar.h>
 #include <plot/qcp.h>
 
@@ -42,6 +44,7 @@ struct Desk {
         , controller(&model, &window)
     {
         window.resize(size);
+        window.diagrams()->setDiagramLayout(Diagrams::Smith);
         controller.openFiles({startSample()});
         window.show();
         settle();
@@ -218,7 +221,7 @@ void PanelWindowTest::activatesAndHidesTraces()
 {
     Desk desk;
     const auto buttons = desk.window.traceBar()->findChildren<QAbstractButton *>();
-    QCOMPARE(buttons.size(), 2);
+    QCOMPARE(buttons.size(), 4);
     QVERIFY(buttons.at(0)->isChecked());
     desk.click(buttons.at(1));
     QCOMPARE(desk.chart()->activeTrace(), 2);
@@ -482,7 +485,7 @@ void PanelWindowTest::fileDialogOpensPickedFiles()
     desk.click(open);
     QCOMPARE(desk.window.fileKey()->value(), QStringLiteral("2 files"));
     QCOMPARE(desk.model.networks().first().name, QStringLiteral("amplifier.s2p"));
-    QCOMPARE(desk.chart()->traceIds(), (QVector<int>{1, 2, 3}));
+    QCOMPARE(desk.chart()->traceIds(), (QVector<int>{1, 2, 5}));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!dialog);
 }
@@ -515,6 +518,8 @@ void PanelWindowTest::nothingIsClipped()
 {
     QFETCH(QSize, size);
     Desk desk(size);
+    desk.window.diagrams()->setDiagramLayout(Diagrams::Both);
+    desk.window.timingLine()->setVisible(true);
     desk.window.messageBar()->setMessage(
         QStringLiteral("a sentence that takes several lines ").repeated(6));
     Desk::settle();

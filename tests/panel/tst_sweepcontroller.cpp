@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
+#include <panel/cartesianview.h>
 #include <panel/filedialog.h>
 #include <panel/look.h>
 #include <panel/panelcontroller.h>
@@ -216,7 +217,8 @@ void SweepControllerTest::tellsTheTimingOnRequest()
     QVERIFY(!desk.window.timingLine()->isVisible());
     QTest::keyClick(desk.window.windowHandle(), Qt::Key_F3);
     QVERIFY(desk.window.timingLine()->isVisible());
-    const QString points = QString::number(desk.window.smithView()->drawnPoints());
+    const QString points = QString::number(desk.window.smithView()->drawnPoints()
+                                           + desk.window.cartesianView()->drawnPoints());
     QVERIFY(desk.window.timingLine()->text().startsWith(points + QLatin1Char(' ')));
     desk.click(desk.window.pageKey(0));
     desk.click(desk.keys()->timingKey());
