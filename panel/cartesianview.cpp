@@ -57,6 +57,7 @@ CartesianView::CartesianView(const PanelModel *model, QWidget *parent)
     recolor();
 
     connect(m_model, &PanelModel::networksChanged, this, &CartesianView::loadTraces);
+    connect(m_model, &PanelModel::stimulusChanged, this, &CartesianView::loadTraces);
     connect(m_model, &PanelModel::networkUpdated, this, &CartesianView::updateTraces);
     connect(m_model, &PanelModel::activeTraceChanged, this, &CartesianView::showActiveTrace);
     connect(m_model, &PanelModel::traceVisibleChanged, this, &CartesianView::setTraceVisible);

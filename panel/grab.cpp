@@ -6,11 +6,13 @@
 #include "diagrams.h"
 #include "filedialog.h"
 #include "messagebar.h"
+#include "numericdialog.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
 #include "samples.h"
 #include "smithview.h"
 #include "softkey.h"
+#include "softkeymenu.h"
 #include "sweepkeys.h"
 
 #include <controls/thememanager.h>
@@ -19,6 +21,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
+#include <QPointer>
 
 #include <cstdio>
 
@@ -91,12 +94,26 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     }
     grabber.grab("panel");
 
+    for (const auto &[page, name] : {std::pair(1, "page-marker"), std::pair(2, "page-display")}) {
+        window->softKeys()->setPage(page);
+        grabber.grab(name);
+    }
+    window->softKeys()->setPage(0);
+    window->stopKey()->click();
+    const QPointer<NumericDialog> keypad(window->findChild<NumericDialog *>());
+    grabber.grab("keypad");
+    ThemeManager::instance()->setTheme(ThemeManager::Light);
+    grabber.grab("keypad-light");
+    ThemeManager::instance()->setTheme(ThemeManager::Dark);
+    if (keypad)
+        keypad->reject();
+
     // Keys are pressed as a user would, so that their values follow.
     const auto pick = [](SoftKey *key, int index) { Q_EMIT key->choicePicked(index); };
     const SweepKeys *keys = window->sweepKeys();
-    Q_EMIT window->pageKey(0)->clicked();
+    window->softKeys()->showKey(keys->sourceKey());
     grabber.grab("keys-sweep");
-    Q_EMIT window->pageKey(1)->clicked();
+    window->softKeys()->setPage(0);
     pick(keys->formatKey(), int(CartesianFormat::Phase));
     grabber.grab("cartesian-phase");
     pick(keys->formatKey(), int(CartesianFormat::LogMagnitude));

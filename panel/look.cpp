@@ -52,11 +52,21 @@ Panel--SmithView, Panel--CartesianView, Panel--TimingLine { background: @backgro
 Panel--SweepBar { border-top: 1px solid @border; }
 Panel--MessageBar { border: 1px solid @warning; }
 Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
+QPushButton#pageTab { border: none; border-bottom: 2px solid @border; border-radius: 0px; padding: 4px 5px; background: transparent; color: @dimText; }
+QPushButton#pageTab:checked { border-bottom-color: @accent; color: @text; }
+QPushButton#pageTab:focus { border: 2px solid @accent; padding: 2px 3px; }
+Panel--SoftKey[editing="true"] { border-color: @accent; }
+Panel--SoftKey QLabel#valueLabel { padding: 0px; }
+Panel--SoftKey QLabel#valueLabel:disabled { color: @dimText; }
+Panel--NumericDialog QLabel#range { color: @dimText; font-size: 12px; padding-right: 6px; }
+Panel--NumericDialog LabelButton QLabel#nameLabel { font-weight: normal; padding: 0px 10px; }
+Panel--NumericDialog QLabel#range[warning="true"] { color: @warning; }
 Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @button; }
 )");
     const std::pair<const char *, QColor> places[] = {
         {"@background", look.background}, {"@bar", look.bar},       {"@dimText", look.dimText},
         {"@border", look.border},         {"@button", look.button}, {"@warning", look.warning},
+        {"@accent", look.accent},         {"@text", look.text},
     };
     for (const auto &[place, color] : places)
         sheet.replace(QLatin1String(place), color.name());

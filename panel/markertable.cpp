@@ -33,6 +33,7 @@ MarkerTable::MarkerTable(const PanelModel *model, Trace::Kind kind, QWidget *par
 {
     setAccessibleName(tr("Markers"));
     connect(m_model, &PanelModel::networksChanged, this, &MarkerTable::refresh);
+    connect(m_model, &PanelModel::stimulusChanged, this, &MarkerTable::refresh);
     connect(m_model, &PanelModel::networkUpdated, this, qOverload<>(&MarkerTable::update));
     connect(m_model, &PanelModel::activeTraceChanged, this, &MarkerTable::refresh);
     connect(m_model, &PanelModel::markerAdded, this, &MarkerTable::refresh);

@@ -7,10 +7,12 @@
 #include "filedialog.h"
 #include "markertable.h"
 #include "messagebar.h"
+#include "numerickeys.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
 #include "smithview.h"
 #include "softkey.h"
+#include "softkeymenu.h"
 #include "sweepcontroller.h"
 #include "touchstone.h"
 #include "tracebar.h"
@@ -28,14 +30,6 @@
 namespace Panel
 {
 
-namespace
-{
-
-/// What the zoom key offers.
-constexpr double s_zooms[] = {1.0, 2.0, 5.0, 10.0, 20.0};
-
-} // namespace
-
 PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject *parent)
     : QObject(parent)
     , m_model(model)
@@ -45,11 +39,11 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
 {
     new ChartGestures(model, window->smithView(), this);
     new DiagramController(model, window, this);
+    new NumericKeys(model, window, m_sweeps, this);
     connect(m_sweeps, &SweepController::fileRequested, this, &PanelController::showFileDialog);
     connectKeys();
     addShortcuts();
     showMarker();
-    showZoom();
 }
 
 void PanelController::connectKeys()
@@ -95,14 +89,6 @@ void PanelController::connectKeys()
                 .arg(traceId)
                 .arg(PanelModel::markersPerTrace));
     });
-
-    QStringList zooms;
-    for (const double zoom : s_zooms)
-        zooms << (zoom == 1.0 ? tr("Whole chart") : QStringLiteral("%1 \u00d7").arg(zoom));
-    m_window->zoomKey()->setChoices(zooms);
-    connect(m_window->zoomKey(), &SoftKey::choicePicked, view,
-            [view](int index) { view->setZoom(s_zooms[index]); });
-    connect(view, &SmithView::viewChanged, this, &PanelController::showZoom);
 }
 
 void PanelController::addShortcuts()
@@ -113,6 +99,8 @@ void PanelController::addShortcuts()
     add(QKeySequence::Open, [this] { showFileDialog(); });
     add(QKeySequence::Quit, [this] { m_window->close(); });
     add(Qt::CTRL | Qt::Key_T, [] { Controls::ThemeManager::instance()->toggleTheme(); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_PageDown), [this] { m_window->softKeys()->turnPage(1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [this] { m_window->softKeys()->turnPage(-1); });
     add(Qt::Key_F11,
         [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); });
 }
@@ -179,12 +167,6 @@ void PanelController::showMarker()
 {
     const Marker *marker = m_model->selectedMarker();
     m_window->markerKey()->setValue(marker ? tr("M%1").arg(marker->number) : tr("None"));
-}
-
-void PanelController::showZoom()
-{
-    m_window->zoomKey()->setValue(
-        QStringLiteral("%1 \u00d7").arg(m_window->smithView()->zoom(), 0, 'f', 2));
 }
 
 } // namespace Panel

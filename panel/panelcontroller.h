@@ -15,7 +15,8 @@ class SweepController;
 /*! What the panel's keys do: the one place between window and model.
 
     The window's parts report and the model tells; in between, this class decides. A pointer on the
-   chart has its answers in ChartGestures, which the controller makes. */
+   chart has its answers in ChartGestures and a key that is a number in NumericKeys; the controller
+   makes both. */
 class PanelController : public QObject
 {
     Q_OBJECT
@@ -37,7 +38,6 @@ private:
     void addShortcuts();
     void onMarkerPicked(int index);
     void showMarker();
-    void showZoom();
 
     PanelModel *m_model;
     PanelWindow *m_window;

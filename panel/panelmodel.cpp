@@ -7,6 +7,39 @@
 namespace Panel
 {
 
+namespace
+{
+
+/// First and last index of the points on show.
+std::pair<int, int> shownPoints(const QVector<double> &frequencies, const Stimulus &stimulus)
+{
+    const auto begin = frequencies.begin();
+    const int last = frequencies.size() - 1;
+    int from = int(std::lower_bound(begin, frequencies.end(), stimulus.start) - begin);
+    int to = int(std::upper_bound(begin, frequencies.end(), stimulus.stop) - begin) - 1;
+    if (from >= to) {
+        // Less than a line: show the one that it lies on.
+        to = std::clamp(to + 1, 0, last);
+        from = std::max(0, to - 1);
+        to = std::min(from + 1, last);
+    }
+    return {from, to};
+}
+
+Network part(const Network &network, int from, int to)
+{
+    Network result = network;
+    if (from == 0 && to == network.frequencies.size() - 1)
+        return result; // shares all its data
+    const int count = to - from + 1;
+    result.frequencies = network.frequencies.mid(from, count);
+    for (Parameter &parameter : result.parameters)
+        parameter = {parameter.real.mid(from, count), parameter.imag.mid(from, count)};
+    return result;
+}
+
+} // namespace
+
 const Trace *PanelModel::trace(int id) const
 {
     const auto found = std::find_if(m_traces.begin(), m_traces.end(),
@@ -22,6 +55,11 @@ QString PanelModel::parameterName(const Trace &trace)
 void PanelModel::setNetworks(const QVector<Network> &networks)
 {
     m_networks = networks;
+    m_shown = networks;
+    m_firstShown.fill(0, m_networks.size());
+    m_stimuli.clear();
+    for (int i = 0; i < m_networks.size(); ++i)
+        m_stimuli.append(limits(i));
     m_traces.clear();
     for (int i = 0; i < m_networks.size(); ++i) {
         for (int port = 1; port <= m_networks.at(i).ports; ++port)
@@ -46,13 +84,44 @@ void PanelModel::setNetworks(const QVector<Network> &networks)
     Q_EMIT selectedMarkerChanged();
 }
 
+Stimulus PanelModel::limits(int network) const
+{
+    const QVector<double> &frequencies = m_networks.at(network).frequencies;
+    return frequencies.isEmpty() ? Stimulus()
+                                 : Stimulus{frequencies.constFirst(), frequencies.constLast()};
+}
+
+void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
+{
+    const int index = trace.network;
+    const Network &whole = m_networks.at(index);
+    const Stimulus bounds = limits(index);
+    const Stimulus wanted{std::clamp(stimulus.start, bounds.start, bounds.stop),
+                          std::clamp(stimulus.stop, bounds.start, bounds.stop)};
+    if (wanted == m_stimuli.at(index) || wanted.span() < 0.0 || whole.frequencies.isEmpty())
+        return;
+    m_stimuli[index] = wanted;
+    const auto [from, to] = shownPoints(whole.frequencies, wanted);
+    const int shift = m_firstShown.at(index) - from;
+    m_firstShown[index] = from;
+    m_shown[index] = part(whole, from, to);
+    for (Marker &marker : m_markers) {
+        if (this->trace(marker.trace)->network == index)
+            marker.index = std::clamp(marker.index + shift, 0.0, double(to - from));
+    }
+    Q_EMIT stimulusChanged(index);
+}
+
 bool PanelModel::updateNetwork(int index, const Network &network)
 {
     if (index < 0 || index >= m_networks.size() || network.ports != m_networks.at(index).ports
         || network.frequencies.isEmpty())
         return false;
-    const QVector<double> before = m_networks.at(index).frequencies;
+    const QVector<double> before = m_shown.at(index).frequencies;
     m_networks[index] = network;
+    m_shown[index] = network;
+    m_firstShown[index] = 0;
+    m_stimuli[index] = limits(index);
     QVector<Marker> moved;
     for (Marker &marker : m_markers) {
         if (trace(marker.trace)->network != index || sameSweep(before, network.frequencies))

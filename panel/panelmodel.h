@@ -3,6 +3,7 @@
 #pragma once
 
 #include "network.h"
+#include "stimulus.h"
 #include "sweep.h"
 
 #include <QObject>
@@ -31,7 +32,7 @@ struct Trace {
 struct Marker {
     int trace = 0; ///< id of the trace
     int number = 0; ///< from 1 within the trace
-    double index = 0.0; ///< into the trace's data; a fraction lies between two points
+    double index = 0.0; ///< into the trace's data on show; a fraction lies between two points
 };
 
 /*! What the panel shows, apart from how: the networks, the traces made from them and which one is
@@ -66,11 +67,16 @@ public:
     /// The trace of this kind that is active or was last, or null when there is none.
     const Trace *activeTrace(Trace::Kind kind) const { return trace(m_lastActive[kind]); }
 
-    const Network &network(const Trace &trace) const { return m_networks.at(trace.network); }
+    /// The part of the trace's network that is on show.
+    const Network &network(const Trace &trace) const { return m_shown.at(trace.network); }
     const Parameter &data(const Trace &trace) const
     {
         return network(trace).s(trace.to, trace.from);
     }
+    /// The frequencies that the user asked to see; points at both ends need not lie on them.
+    const Stimulus &stimulus(const Trace &trace) const { return m_stimuli.at(trace.network); }
+    /// The frequencies that the trace's whole network has.
+    Stimulus limits(const Trace &trace) const { return limits(trace.network); }
     /// "S11".
     static QString parameterName(const Trace &trace);
 
@@ -93,17 +99,20 @@ public:
 
     /// Replaces all networks and makes new traces of them; the first becomes active. Markers go.
     void setNetworks(const QVector<Network> &networks);
+    /// Shows a part of the trace's network: the points within, and never less than the two around
+    /// it. Markers keep their frequency, or go to the edge of the part.
+    void setStimulus(const Trace &trace, const Stimulus &stimulus);
     /// A selected marker of another trace is deselected. An unknown id is ignored.
     void setActiveTrace(int id);
-    /// Replaces the data of one network by a new measurement of it; traces and markers stay. A
-    /// marker keeps its index or, in another sweep, its frequency. False, without a change, for an
-    /// index without a network, another number of ports, or no points.
+    /// Replaces the data of one network by a new measurement of it, which is shown whole; traces
+    /// and markers stay. A marker keeps its index or, in another sweep, its frequency. False,
+    /// without a change, for an index without a network, another number of ports, or no points.
     bool updateNetwork(int index, const Network &network);
     void setTraceVisible(int id, bool visible);
     /// Marks a point with the lowest free number and selects the marker. Returns the number, or 0
     /// for an unknown trace, an index outside its data, or a trace that has all its markers.
     int addMarker(int traceId, double index);
-    /// An index outside the trace's data is ignored, like an unknown marker.
+    /// An index outside the trace's data on show is ignored, like an unknown marker.
     void moveMarker(int traceId, int number, double index);
     void removeMarker(int traceId, int number);
     /// Also makes its trace active. A marker that does not exist, such as number 0, leaves none
@@ -119,6 +128,8 @@ Q_SIGNALS:
     /// A network has new data; markers that moved with it are told afterwards.
     void networkUpdated(int index);
     void activeTraceChanged();
+    /// Another part of a network is on show; indices of its markers have changed with it.
+    void stimulusChanged(int network);
     void traceVisibleChanged(int id, bool visible);
     /// A marker was asked for on a trace that has all its markers.
     void markersExhausted(int traceId);
@@ -131,8 +142,12 @@ Q_SIGNALS:
 
 private:
     bool holdsIndex(int traceId, double index) const;
+    Stimulus limits(int network) const;
 
     QVector<Network> m_networks;
+    QVector<Network> m_shown; ///< the part of each network that the stimulus leaves
+    QVector<Stimulus> m_stimuli;
+    QVector<int> m_firstShown; ///< index of its first point within the whole network
     QVector<Trace> m_traces;
     QVector<Marker> m_markers;
     int m_activeTrace = 0;

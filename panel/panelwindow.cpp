@@ -8,6 +8,7 @@
 #include "messagebar.h"
 #include "panelmodel.h"
 #include "softkey.h"
+#include "softkeymenu.h"
 #include "sweepbar.h"
 #include "sweepkeys.h"
 #include "timingline.h"
@@ -54,7 +55,7 @@ QPixmap mark(int size, const QColor &color, double ratio)
 } // namespace
 
 PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
-    : QWidget(parent)
+    : QMainWindow(parent)
     , m_model(model)
     , m_traceBar(new TraceBar(model))
     , m_messageBar(new MessageBar)
@@ -63,8 +64,6 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
     , m_timingLine(new TimingLine(m_diagrams))
 {
     setWindowTitle(tr("Vector network analyser"));
-    // A plain QWidget paints its style sheet's background only when asked to.
-    setAttribute(Qt::WA_StyledBackground);
 
     auto *diagramColumn = new QVBoxLayout;
     diagramColumn->setSpacing(0);
@@ -78,7 +77,8 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
     middle->addLayout(diagramColumn, 1);
     middle->addWidget(makeSoftKeys());
 
-    auto *column = new QVBoxLayout(this);
+    setCentralWidget(new QWidget);
+    auto *column = new QVBoxLayout(centralWidget());
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeTopBar());
@@ -168,41 +168,24 @@ QWidget *PanelWindow::makeEmptyPage()
 
 QWidget *PanelWindow::makeSoftKeys()
 {
-    auto *pages = new QStackedWidget;
-    pages->setObjectName(QStringLiteral("softKeys"));
-    pages->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    QWidget *keys[] = {makeFirstKeys(), m_sweepKeys};
-    for (QWidget *page : keys) {
-        auto *key = new SoftKey(tr("Page"));
-        key->setValue(tr("%1 of 2").arg(pages->count() + 1));
-        static_cast<QVBoxLayout *>(page->layout())->addWidget(key);
-        connect(key, &SoftKey::clicked, pages,
-                [pages] { pages->setCurrentIndex(1 - pages->currentIndex()); });
-        m_pageKeys.append(key);
-        pages->addWidget(page);
-    }
-    return pages;
-}
-
-QWidget *PanelWindow::makeFirstKeys()
-{
-    auto *keys = new QWidget;
-    auto *column = new QVBoxLayout(keys);
-    column->setContentsMargins(6, 6, 6, 6);
-    column->setSpacing(6);
-    const auto add = [column](const QString &name) {
-        auto *key = new SoftKey(name);
-        column->addWidget(key);
-        return key;
-    };
-    m_fileKey = add(tr("File"));
-    m_gridKey = add(tr("Grid"));
-    m_densityKey = add(tr("Density"));
-    m_traceKey = add(tr("Active trace"));
-    m_markerKey = add(tr("Marker"));
-    m_zoomKey = add(tr("Zoom"));
-    column->addStretch(1);
-    return keys;
+    m_softKeys = new SoftKeyMenu;
+    m_softKeys->addPage(tr("Stimulus"));
+    m_fileKey = m_softKeys->addKey(tr("File"));
+    m_startKey = m_softKeys->addKey(tr("Start"));
+    m_stopKey = m_softKeys->addKey(tr("Stop"));
+    m_centerKey = m_softKeys->addKey(tr("Center"));
+    m_spanKey = m_softKeys->addKey(tr("Span"));
+    m_pointsKey = m_softKeys->addKey(tr("Points"));
+    m_softKeys->addPage(tr("Marker"));
+    m_markerKey = m_softKeys->addKey(tr("Marker"));
+    m_markerStimulusKey = m_softKeys->addKey(tr("Stimulus"));
+    m_softKeys->addPage(tr("Display"));
+    m_traceKey = m_softKeys->addKey(tr("Active trace"));
+    m_gridKey = m_softKeys->addKey(tr("Grid"));
+    m_densityKey = m_softKeys->addKey(tr("Density"));
+    m_zoomKey = m_softKeys->addKey(tr("Scale"));
+    m_softKeys->addPage(tr("Sweep"), m_sweepKeys);
+    return m_softKeys;
 }
 
 void PanelWindow::showModel()

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QVector>
-#include <QWidget>
+#include <QMainWindow>
 
 class QAbstractButton;
 class QLabel;
@@ -18,6 +17,7 @@ class SmithView;
 class CartesianView;
 class Diagrams;
 class SoftKey;
+class SoftKeyMenu;
 class SweepKeys;
 class TimingLine;
 class TraceBar;
@@ -27,7 +27,7 @@ class TraceBar;
 
     It lays the parts out and follows model and theme. What a key or a gesture does is decided by
     PanelController. */
-class PanelWindow : public QWidget
+class PanelWindow : public QMainWindow
 {
     Q_OBJECT
 
@@ -40,16 +40,20 @@ public:
     TraceBar *traceBar() const { return m_traceBar; }
     MessageBar *messageBar() const { return m_messageBar; }
 
+    SoftKeyMenu *softKeys() const { return m_softKeys; }
     SoftKey *fileKey() const { return m_fileKey; }
+    SoftKey *startKey() const { return m_startKey; }
+    SoftKey *stopKey() const { return m_stopKey; }
+    SoftKey *centerKey() const { return m_centerKey; }
+    SoftKey *spanKey() const { return m_spanKey; }
+    SoftKey *pointsKey() const { return m_pointsKey; }
     SoftKey *gridKey() const { return m_gridKey; }
     SoftKey *densityKey() const { return m_densityKey; }
     SoftKey *traceKey() const { return m_traceKey; }
     SoftKey *markerKey() const { return m_markerKey; }
+    SoftKey *markerStimulusKey() const { return m_markerStimulusKey; }
     SoftKey *zoomKey() const { return m_zoomKey; }
-    /// The second page of the keys.
     SweepKeys *sweepKeys() const { return m_sweepKeys; }
-    /// Turns the pages of the keys; each has one.
-    SoftKey *pageKey(int page) const { return m_pageKeys.at(page); }
     TimingLine *timingLine() const { return m_timingLine; }
     QAbstractButton *themeButton() const { return m_themeButton; }
     /// The button of the page that stands where there is nothing to show.
@@ -60,7 +64,6 @@ private:
     QWidget *makeDiagrams();
     QWidget *makeEmptyPage();
     QWidget *makeSoftKeys();
-    QWidget *makeFirstKeys();
     void showModel();
     void recolor();
 
@@ -75,13 +78,19 @@ private:
     QLabel *m_emptyMark;
     QAbstractButton *m_themeButton;
     QAbstractButton *m_emptyPageButton;
+    SoftKeyMenu *m_softKeys;
     SoftKey *m_fileKey;
+    SoftKey *m_startKey;
+    SoftKey *m_stopKey;
+    SoftKey *m_centerKey;
+    SoftKey *m_spanKey;
+    SoftKey *m_pointsKey;
     SoftKey *m_gridKey;
     SoftKey *m_densityKey;
     SoftKey *m_traceKey;
     SoftKey *m_markerKey;
+    SoftKey *m_markerStimulusKey;
     SoftKey *m_zoomKey;
-    QVector<SoftKey *> m_pageKeys;
 };
 
 } // namespace Panel

@@ -44,6 +44,7 @@ SmithView::SmithView(const PanelModel *model, QWidget *parent)
     recolor();
 
     connect(m_model, &PanelModel::networksChanged, this, &SmithView::loadTraces);
+    connect(m_model, &PanelModel::stimulusChanged, this, &SmithView::loadTraces);
     connect(m_model, &PanelModel::activeTraceChanged, this, &SmithView::showActiveTrace);
     connect(m_model, &PanelModel::traceVisibleChanged, this, &SmithView::setTraceVisible);
     connect(m_model, &PanelModel::markerAdded, this, &SmithView::addMarker);

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QPushButton>
+#include <widgets/enumtextbutton.h>
+
 #include <QStringList>
 
 namespace Panel
@@ -11,16 +12,16 @@ namespace Panel
 /*! A key of the panel's right-hand column: its name, small and dim, over its value.
 
     A key either acts (clicked()) or, once it has choices, opens their list and reports which one
-   was picked (choicePicked()); the value follows only when its owner calls setChoice(). The panel
-   knows its keys by this class alone. */
-class SoftKey : public QPushButton
+   was picked (choicePicked()); the value follows only when its owner calls setChoice(). Return
+   presses it, as Space does. The panel knows its keys by this class alone. */
+class SoftKey : public EnumTextButton
 {
     Q_OBJECT
 
 public:
     explicit SoftKey(const QString &name, QWidget *parent = nullptr);
 
-    QString name() const { return m_name; }
+    QString name() const { return text(); }
     QString value() const { return m_value; }
     void setValue(const QString &value);
     /// Makes the key open a list, of which none is chosen yet.
@@ -36,14 +37,12 @@ Q_SIGNALS:
     void choicePicked(int index);
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void openChoices();
-    QFont nameFont() const;
-    QFont valueFont() const;
+    void showValue();
 
-    QString m_name;
     QString m_value;
     QStringList m_choices;
     int m_choice = -1;

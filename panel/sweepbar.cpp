@@ -47,6 +47,7 @@ SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
     m_stop = addField(row, tr("Stop"));
     showSpeed(QString());
     connect(m_model, &PanelModel::activeTraceChanged, this, &SweepBar::refresh);
+    connect(m_model, &PanelModel::stimulusChanged, this, &SweepBar::refresh);
     connect(m_model, &PanelModel::networksChanged, this, [this] {
         m_clock.invalidate();
         showSpeed(QString());
@@ -63,12 +64,10 @@ SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
 void SweepBar::refresh()
 {
     const Trace *trace = m_model->activeTrace();
-    const QVector<double> frequencies =
-        trace ? m_model->network(*trace).frequencies : QVector<double>();
     const QString none = QStringLiteral("\u2013");
-    m_start->setText(frequencies.isEmpty() ? none : frequencyText(frequencies.first()));
-    m_points->setText(frequencies.isEmpty() ? none : QString::number(frequencies.size()));
-    m_stop->setText(frequencies.isEmpty() ? none : frequencyText(frequencies.last()));
+    m_start->setText(trace ? frequencyText(m_model->stimulus(*trace).start) : none);
+    m_points->setText(trace ? QString::number(m_model->network(*trace).frequencies.size()) : none);
+    m_stop->setText(trace ? frequencyText(m_model->stimulus(*trace).stop) : none);
 }
 
 void SweepBar::countSweep()

@@ -13,7 +13,7 @@ SweepKeys::SweepKeys(QWidget *parent)
     : QWidget(parent)
 {
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(6, 6, 6, 6);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(6);
     const auto add = [column](const QString &name) {
         auto *key = new SoftKey(name);

@@ -1,17 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk.h"
 #include "vnatest.h"
 
 #include <panel/cartesianview.h>
 #include <panel/diagrams.h>
 #include <panel/look.h>
 #include <panel/markertable.h>
-#include <panel/panelcontroller.h>
-#include <panel/panelmodel.h>
-#include <panel/panelwindow.h>
-#include <panel/samples.h>
-#include <panel/smithview.h>
-#include <panel/softkey.h>
 #include <panel/sweepkeys.h>
 #include <plot/qcp.h>
 
@@ -44,27 +39,8 @@ Network slope(int points)
     return network;
 }
 
-struct Desk {
-    PanelModel model;
-    PanelWindow window;
-    PanelController controller;
-
-    Desk()
-        : window(&model)
-        , controller(&model, &window)
-    {
-        window.resize(1024, 600);
-        controller.openFiles({startSample()});
-        window.show();
-        settle();
-    }
-
+struct Desk : PanelDesk {
     CartesianView *view() const { return window.cartesianView(); }
-    static void settle()
-    {
-        for (int i = 0; i < 4; ++i)
-            QCoreApplication::processEvents();
-    }
     /// A point of a trace in pixels of the window.
     QPoint onTrace(int traceId, int index) const
     {

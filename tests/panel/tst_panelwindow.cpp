@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk.h"
 #include "vnatest.h"
 
 #include <controls/thememanager.h>
@@ -8,18 +9,11 @@
 #include <panel/look.h>
 #include <panel/markertable.h>
 #include <panel/messagebar.h>
-#include <panel/panelcontroller.h>
-#include <panel/panelmodel.h>
-#include <panel/panelwindow.h>
-#include <panel/samples.h>
-#include <panel/smithview.h>
-#include <panel/softkey.h>
 #include <panel/timingline.h>
 #include <panel/tracebar.h>
 #include <plot/qcp.h>
 
 #include <QListWidget>
-#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -33,30 +27,12 @@ using namespace Panel;
 namespace
 {
 
-/// The panel as main() makes it, on screen, with pointer events sent to its window.
-struct Desk {
-    PanelModel model;
-    PanelWindow window;
-    PanelController controller;
-
+struct Desk : PanelDesk {
     explicit Desk(const QSize &size = QSize(1024, 600))
-        : window(&model)
-        , controller(&model, &window)
+        : PanelDesk(size)
     {
-        window.resize(size);
         window.diagrams()->setDiagramLayout(Diagrams::Smith);
-        controller.openFiles({startSample()});
-        window.show();
         settle();
-    }
-
-    SmithView *view() const { return window.smithView(); }
-    SmithChartPlot *chart() const { return view()->chart(); }
-
-    static void settle()
-    {
-        for (int i = 0; i < 4; ++i)
-            QCoreApplication::processEvents();
     }
 
     /// A point of the plot, given as a share of its size, in pixels of the plot.
@@ -87,13 +63,6 @@ struct Desk {
         settle();
     }
 
-    void click(const QWidget *widget)
-    {
-        QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          widget->mapTo(widget->window(), widget->rect().center()));
-        settle();
-    }
-
     /// A point of a trace in pixels of the plot.
     QPoint onTrace(int traceId, int index) const
     {
@@ -112,10 +81,14 @@ struct Desk {
     void pick(SoftKey *key, int index)
     {
         click(key);
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        QVERIFY(menu);
-        QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          menu->actionGeometry(menu->actions().at(index)).center());
+        QWidget *popup = QApplication::activePopupWidget();
+        QVERIFY(popup);
+        const auto *list = popup->findChild<QListWidget *>();
+        const QPoint row = list->visualItemRect(list->item(index)).center();
+        QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          list->viewport()->mapTo(popup, row));
+        // A tap right after the list closed counts as the one that closed it.
+        QTest::qWait(220);
         settle();
     }
 };

@@ -1,16 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk.h"
 #include "vnatest.h"
 
 #include <panel/cartesianview.h>
 #include <panel/filedialog.h>
 #include <panel/look.h>
-#include <panel/panelcontroller.h>
-#include <panel/panelmodel.h>
-#include <panel/panelwindow.h>
-#include <panel/samples.h>
-#include <panel/smithview.h>
-#include <panel/softkey.h>
 #include <panel/sweepcontroller.h>
 #include <panel/sweepkeys.h>
 #include <panel/timingline.h>
@@ -23,33 +18,12 @@ using namespace Panel;
 namespace
 {
 
-struct Desk {
-    PanelModel model;
-    PanelWindow window;
-    PanelController controller;
-
-    Desk()
-        : window(&model)
-        , controller(&model, &window)
-    {
-        window.resize(1024, 600);
-        controller.openFiles({startSample()});
-        window.show();
-        QCoreApplication::processEvents();
-    }
-
+struct Desk : PanelDesk {
     SweepController *sweeps() const { return controller.sweepController(); }
     const SweepKeys *keys() const { return window.sweepKeys(); }
-    SmithChartPlot *chart() const { return window.smithView()->chart(); }
     QString shown() const { return model.networks().first().name; }
     int points() const { return model.networks().first().frequencies.size(); }
 
-    void click(const QWidget *widget)
-    {
-        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          widget->mapTo(&window, widget->rect().center()));
-        QCoreApplication::processEvents();
-    }
     void pick(SoftKey *key, int index) { Q_EMIT key->choicePicked(index); }
 };
 
@@ -116,15 +90,11 @@ void SweepControllerTest::answersClicksWhileSweeping()
     QVERIFY(desk.window.smithView()->drawnPoints() > 100);
     QVERIFY(desk.window.smithView()->drawnPoints() < 20000);
 
-    desk.click(desk.window.pageKey(0));
-    QVERIFY(desk.keys()->isVisible());
-    desk.click(desk.window.pageKey(1));
     desk.click(desk.window.traceKey());
     QVERIFY(!desk.model.activeTrace()->visible);
     const int before = updated.count();
     QTRY_VERIFY_WITH_TIMEOUT(updated.count() > before, 60000);
     QVERIFY(!desk.model.activeTrace()->visible);
-    desk.click(desk.window.pageKey(0));
     desk.click(desk.keys()->sweepKey());
     QVERIFY(!desk.model.isSweeping());
 }
@@ -174,7 +144,6 @@ void SweepControllerTest::holdsTheSweep()
     desk.sweeps()->simulate(SimulatedDevice::Antenna);
     const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
     QTRY_VERIFY(updated.count() >= 2);
-    desk.click(desk.window.pageKey(0));
     desk.click(desk.keys()->sweepKey());
     QCOMPARE(desk.keys()->sweepKey()->value(), QStringLiteral("Off"));
     const int held = updated.count();
@@ -220,7 +189,6 @@ void SweepControllerTest::tellsTheTimingOnRequest()
     const QString points = QString::number(desk.window.smithView()->drawnPoints()
                                            + desk.window.cartesianView()->drawnPoints());
     QVERIFY(desk.window.timingLine()->text().startsWith(points + QLatin1Char(' ')));
-    desk.click(desk.window.pageKey(0));
     desk.click(desk.keys()->timingKey());
     QVERIFY(!desk.window.timingLine()->isVisible());
 }

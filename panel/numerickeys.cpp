@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "numerickeys.h"
+
+#include "format.h"
+#include "messagebar.h"
+#include "panelmodel.h"
+#include "panelwindow.h"
+#include "smithview.h"
+#include "softkey.h"
+#include "sweepcontroller.h"
+#include "units.h"
+
+#include <QStyle>
+
+#include <cmath>
+
+namespace Panel
+{
+
+namespace
+{
+
+const QString s_nothing = QStringLiteral("\u2013");
+
+/// A tenth, a hundredth and a thousandth of a span as powers of ten, but whole Hz.
+QVector<double> decadeSteps(double span)
+{
+    const double tenth = std::pow(10.0, std::floor(std::log10(qMax(span, 1e3)) - 1.0));
+    return {tenth, tenth / 10.0, tenth / 100.0};
+}
+
+} // namespace
+
+NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, const SweepController *sweeps,
+                         QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_window(window)
+    , m_sweeps(sweeps)
+{
+    m_stimulusNumbers = {
+        {window->startKey(), [](const Stimulus &s) { return s.start; }, withStart},
+        {window->stopKey(), [](const Stimulus &s) { return s.stop; }, withStop},
+        {window->centerKey(), [](const Stimulus &s) { return s.center(); }, withCenter},
+        {window->spanKey(), [](const Stimulus &s) { return s.span(); }, withSpan},
+    };
+    for (const StimulusNumber &number : qAsConst(m_stimulusNumbers))
+        connect(number.key, &SoftKey::clicked, this, [this, number] { editStimulus(number); });
+    connect(window->pointsKey(), &SoftKey::clicked, this, &NumericKeys::editPoints);
+    connect(window->markerStimulusKey(), &SoftKey::clicked, this, &NumericKeys::editMarkerStimulus);
+    connect(window->zoomKey(), &SoftKey::clicked, this, &NumericKeys::editZoom);
+
+    connect(model, &PanelModel::activeTraceChanged, this, &NumericKeys::showStimulus);
+    connect(model, &PanelModel::stimulusChanged, this, &NumericKeys::showStimulus);
+    connect(model, &PanelModel::sweepChanged, this, &NumericKeys::showStimulus);
+    connect(model, &PanelModel::stimulusChanged, this, &NumericKeys::showMarkerStimulus);
+    connect(model, &PanelModel::selectedMarkerChanged, this, &NumericKeys::showMarkerStimulus);
+    connect(model, &PanelModel::markerMoved, this, &NumericKeys::showMarkerStimulus);
+    connect(window->smithView(), &SmithView::viewChanged, this, &NumericKeys::showZoom);
+    showStimulus();
+    showMarkerStimulus();
+    showZoom();
+}
+
+template<typename Apply>
+void NumericKeys::edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps,
+                       Apply apply)
+{
+    auto *dialog = new NumericDialog(key->name(), adapter, m_window);
+    dialog->setSteps(steps);
+    dialog->setPopupAnchorWidget(key);
+    MessageBar *bar = m_window->messageBar();
+    bar->setMessage({}); // of the last entry
+    connect(dialog, &NumericDialog::valueChanged, this, apply);
+    connect(dialog, &NumericDialog::limited, bar, &MessageBar::setMessage);
+    // Networks that come and go would leave it with another range, or nothing to edit.
+    connect(m_model, &PanelModel::networksChanged, dialog, [this, dialog] {
+        dialog->disconnect(this); // nor do they take the old value back
+        dialog->reject();
+    });
+    const auto mark = [key](bool editing) {
+        key->setProperty("editing", editing);
+        key->style()->polish(key);
+    };
+    connect(dialog, &QDialog::finished, key, [mark] { mark(false); });
+    mark(true);
+    dialog->open();
+}
+
+void NumericKeys::editStimulus(const StimulusNumber &number)
+{
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
+        return;
+    const Stimulus limits = this->limits(*trace);
+    // What the entry began with: steps go back and forth from there.
+    const Stimulus before = stimulus(*trace);
+    const bool isSpan = number.key == m_window->spanKey();
+    const double leastSpan = m_sweeps->isSimulating() ? Sweep::leastSpan : 0.0;
+    auto *adapter = new FrequencyAdapter;
+    adapter->setRange(isSpan ? leastSpan : limits.start, isSpan ? limits.span() : limits.stop);
+    adapter->setRealValue(number.value(before));
+    QVector<double> steps = decadeSteps(before.span());
+    if (isSpan)
+        steps.prepend(NumericDialog::Step125);
+    else
+        steps.append(NumericDialog::Step125);
+    edit(number.key, adapter, steps, [=, id = trace->id](double value) {
+        if (const Trace *edited = m_model->trace(id))
+            setStimulus(*edited, number.changed(before, value, limits));
+    });
+}
+
+void NumericKeys::editPoints()
+{
+    auto *adapter = new NumberAdapter(0);
+    adapter->setRange(Sweep::fewestPoints, Sweep::mostPoints);
+    adapter->setRealValue(m_model->sweep().points);
+    edit(m_window->pointsKey(), adapter, {NumericDialog::Step125, 100.0, 1.0},
+         [this](double value) {
+             Sweep sweep = m_model->sweep();
+             sweep.points = qRound(value);
+             m_model->setSweep(sweep);
+         });
+}
+
+Stimulus NumericKeys::stimulus(const Trace &trace) const
+{
+    return m_sweeps->isSimulating() ? Stimulus{m_model->sweep().start, m_model->sweep().stop}
+                                    : m_model->stimulus(trace);
+}
+
+Stimulus NumericKeys::limits(const Trace &trace) const
+{
+    return m_sweeps->isSimulating() ? Stimulus{Sweep::lowest, Sweep::highest}
+                                    : m_model->limits(trace);
+}
+
+void NumericKeys::setStimulus(const Trace &trace, Stimulus stimulus)
+{
+    if (!m_sweeps->isSimulating()) {
+        m_model->setStimulus(trace, stimulus);
+        return;
+    }
+    if (stimulus.span() < Sweep::leastSpan)
+        stimulus = withSpan(stimulus, Sweep::leastSpan, limits(trace));
+    m_model->setSweep({stimulus.start, stimulus.stop, m_model->sweep().points});
+}
+
+void NumericKeys::editMarkerStimulus()
+{
+    const Marker *marker = m_model->selectedMarker();
+    if (!marker)
+        return;
+    const Network &network = m_model->network(*m_model->trace(marker->trace));
+    auto *adapter = new FrequencyAdapter;
+    adapter->setRange(network.frequencies.constFirst(), network.frequencies.constLast());
+    adapter->setRealValue(valueAt(network.frequencies, marker->index));
+    QVector<double> steps = decadeSteps(adapter->maximum() - adapter->minimum());
+    edit(m_window->markerStimulusKey(), adapter, steps,
+         [this, traceId = marker->trace, number = marker->number](double value) {
+             if (const Trace *trace = m_model->trace(traceId))
+                 m_model->moveMarker(traceId, number,
+                                     indexOfFrequency(m_model->network(*trace).frequencies, value));
+         });
+}
+
+void NumericKeys::editZoom()
+{
+    auto *adapter = new NumberAdapter(2);
+    adapter->setRange(1.0, 20.0);
+    adapter->setRealValue(m_window->smithView()->zoom());
+    edit(m_window->zoomKey(), adapter, {NumericDialog::Step125, 1.0, 0.1},
+         [view = m_window->smithView()](double value) { view->setZoom(value); });
+}
+
+void NumericKeys::showStimulus()
+{
+    const Trace *trace = m_model->activeTrace();
+    for (const StimulusNumber &number : qAsConst(m_stimulusNumbers)) {
+        number.key->setEnabled(trace);
+        number.key->setValue(trace ? frequencyText(number.value(stimulus(*trace))) : s_nothing);
+    }
+    // A file has the points that it has.
+    const bool simulating = m_sweeps->isSimulating();
+    m_window->pointsKey()->setEnabled(trace && simulating);
+    m_window->pointsKey()->setValue(
+        !trace           ? s_nothing
+            : simulating ? QString::number(m_model->sweep().points)
+                         : QString::number(m_model->network(*trace).frequencies.size()));
+}
+
+void NumericKeys::showMarkerStimulus()
+{
+    const Marker *marker = m_model->selectedMarker();
+    SoftKey *key = m_window->markerStimulusKey();
+    key->setEnabled(marker);
+    if (!marker) {
+        key->setValue(s_nothing);
+        return;
+    }
+    const Network &network = m_model->network(*m_model->trace(marker->trace));
+    key->setValue(frequencyText(valueAt(network.frequencies, marker->index)));
+}
+
+void NumericKeys::showZoom()
+{
+    m_window->zoomKey()->setValue(
+        QStringLiteral("%1 \u00d7").arg(m_window->smithView()->zoom(), 0, 'f', 2));
+}
+
+} // namespace Panel

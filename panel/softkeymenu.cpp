@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "softkeymenu.h"
+
+#include "softkey.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace Panel
+{
+
+SoftKeyMenu::SoftKeyMenu(QWidget *parent)
+    : QWidget(parent)
+    , m_tabs(new QButtonGroup(this))
+    , m_tabGrid(new QGridLayout)
+    , m_pages(new QStackedWidget)
+{
+    setObjectName(QStringLiteral("softKeys"));
+    setAttribute(Qt::WA_StyledBackground);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(6, 2, 6, 6);
+    column->setSpacing(6);
+    m_tabGrid->setSpacing(0);
+    column->addLayout(m_tabGrid);
+    column->addWidget(m_pages, 1);
+    connect(m_tabs, &QButtonGroup::idToggled, this, [this](int page, bool checked) {
+        if (checked)
+            m_pages->setCurrentIndex(page);
+    });
+}
+
+void SoftKeyMenu::addPage(const QString &name)
+{
+    auto *page = new QWidget;
+    m_column = new QVBoxLayout(page);
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(6);
+    m_column->addStretch(1);
+    addPage(name, page);
+}
+
+void SoftKeyMenu::addPage(const QString &name, QWidget *page)
+{
+    const int index = m_pages->addWidget(page);
+    auto *tab = new QPushButton(name);
+    tab->setObjectName(QStringLiteral("pageTab"));
+    tab->setCheckable(true);
+    tab->setMinimumHeight(36);
+    // Two in a row leave room for a finger and for longer names.
+    m_tabGrid->addWidget(tab, index / 2, index % 2);
+    m_tabs->addButton(tab, index);
+    tab->setChecked(index == 0);
+}
+
+SoftKey *SoftKeyMenu::addKey(const QString &name)
+{
+    auto *key = new SoftKey(name);
+    m_column->insertWidget(m_column->count() - 1, key);
+    return key;
+}
+
+int SoftKeyMenu::page() const
+{
+    return m_pages->currentIndex();
+}
+
+int SoftKeyMenu::pageCount() const
+{
+    return m_pages->count();
+}
+
+void SoftKeyMenu::setPage(int page)
+{
+    if (QAbstractButton *tab = m_tabs->button(page))
+        tab->setChecked(true);
+}
+
+void SoftKeyMenu::turnPage(int step)
+{
+    setPage((page() + step + pageCount()) % pageCount());
+}
+
+void SoftKeyMenu::showKey(const SoftKey *key)
+{
+    setPage(m_pages->indexOf(key->parentWidget()));
+}
+
+} // namespace Panel

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+class QButtonGroup;
+class QGridLayout;
+class QStackedWidget;
+class QVBoxLayout;
+
+namespace Panel
+{
+
+class SoftKey;
+
+/*! The column of soft keys: pages of keys below the tabs that name them. Tab and the arrow
+   keys reach all of it. */
+class SoftKeyMenu : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SoftKeyMenu(QWidget *parent = nullptr);
+
+    /// Begins a page; the first is the one on show.
+    void addPage(const QString &name);
+    /// The same with a widget that has its keys already, as its children.
+    void addPage(const QString &name, QWidget *page);
+    /// Appends a key to the page that was begun last. The menu owns it.
+    SoftKey *addKey(const QString &name);
+
+    int page() const;
+    int pageCount() const;
+    void setPage(int page);
+    /// Goes to the next page (1) or the one before (-1), around the ends.
+    void turnPage(int step);
+    /// Shows the page that a key is on.
+    void showKey(const SoftKey *key);
+
+private:
+    QButtonGroup *m_tabs;
+    QGridLayout *m_tabGrid;
+    QStackedWidget *m_pages;
+    QVBoxLayout *m_column = nullptr; ///< of the page that was begun last
+};
+
+} // namespace Panel

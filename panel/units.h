@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+/*! \file
+    The quantities of the panel that are entered as numbers: what units they have, how fine they
+   are, and how far they go. */
+#pragma once
+
+#include <controls/scaledunitadapter.h>
+
+namespace Panel
+{
+
+/*! A quantity with units and a range: the model behind one NumericDialog.
+
+    Derive once for each kind of quantity, naming its units. The range is told to the user, so it
+   has to be the true one; what lies outside is clamped. */
+class UnitAdapter : public Controls::ScaledUnitAdapter
+{
+    Q_OBJECT
+
+public:
+    using ScaledUnitAdapter::ScaledUnitAdapter;
+
+    double minimum() const { return m_minimum; }
+    double maximum() const { return m_maximum; }
+    /// Limits in base units, both included; no limits at first. A value outside moves to the limit.
+    void setRange(double minimum, double maximum);
+
+    /// "2.45 GHz": a value as a reader likes it, with a space before the unit and a true minus
+    /// sign.
+    QString valueText(double value);
+    /// "100 kHz … 8.5 GHz", or nothing while there are no limits.
+    QString rangeText();
+
+private:
+    double m_minimum = -qInf();
+    double m_maximum = qInf();
+};
+
+/// GHz, MHz, kHz and Hz, down to 1 Hz.
+class FrequencyAdapter : public UnitAdapter
+{
+    Q_OBJECT
+
+public:
+    explicit FrequencyAdapter(QObject *parent = nullptr);
+};
+
+/// dBm with two decimals.
+class PowerAdapter : public UnitAdapter
+{
+    Q_OBJECT
+
+public:
+    explicit PowerAdapter(QObject *parent = nullptr);
+};
+
+/// s, ms, µs and ns, down to 1 ps. Either character for micro is read, and "us" too.
+class TimeAdapter : public UnitAdapter
+{
+    Q_OBJECT
+
+public:
+    explicit TimeAdapter(QObject *parent = nullptr);
+
+    QString convertFromBaseValue(double value, QString unit) override;
+    double convertToBase(const QString &text) override;
+};
+
+/// A number without a unit. What is typed finer than its decimals is rounded to them, so that a
+/// count stays whole.
+class NumberAdapter : public UnitAdapter
+{
+    Q_OBJECT
+
+public:
+    explicit NumberAdapter(int decimals, QObject *parent = nullptr);
+
+    double convertToBase(const QString &text) override;
+};
+
+} // namespace Panel
