@@ -113,8 +113,11 @@ void ChartGestures::onMove(QMouseEvent *event)
 void ChartGestures::onRelease()
 {
     // A tap beside all markers.
-    if (m_drag == Drag::Pressed)
+    if (m_drag == Drag::Pressed) {
         m_model->selectMarker(0, 0);
+        if (const Trace *trace = m_model->activeTrace(Trace::Reflection))
+            m_model->setActiveTrace(trace->id);
+    }
     m_drag = Drag::None;
 }
 

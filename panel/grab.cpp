@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "grab.h"
 
+#include "cartesianview.h"
+#include "diagrams.h"
 #include "filedialog.h"
 #include "messagebar.h"
 #include "numericdialog.h"
@@ -11,6 +13,7 @@
 #include "smithview.h"
 #include "softkey.h"
 #include "softkeymenu.h"
+#include "sweepkeys.h"
 
 #include <controls/thememanager.h>
 #include <plot/qcp.h>
@@ -52,6 +55,7 @@ public:
     {
         settle();
         m_window->smithView()->plot()->replot();
+        m_window->cartesianView()->plot()->replot();
         const QString path = m_folder.filePath(QLatin1String(name) + QLatin1String(".png"));
         if ((widget ? widget : m_window)->grab().save(path))
             return;
@@ -80,8 +84,13 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
 
     if (const Trace *trace = model->activeTrace()) {
         const int last = model->network(*trace).points() - 1;
-        model->addMarker(trace->id, last / 3);
-        model->addMarker(trace->id, last / 2);
+        const int id = trace->id;
+        if (const Trace *transmission = model->activeTrace(Trace::Transmission)) {
+            model->addMarker(transmission->id, last / 3);
+            model->addMarker(transmission->id, last / 2);
+        }
+        model->addMarker(id, last / 3);
+        model->addMarker(id, last / 2);
     }
     grabber.grab("panel");
 
@@ -101,6 +110,20 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
 
     // Keys are pressed as a user would, so that their values follow.
     const auto pick = [](SoftKey *key, int index) { Q_EMIT key->choicePicked(index); };
+    const SweepKeys *keys = window->sweepKeys();
+    window->softKeys()->showKey(keys->sourceKey());
+    grabber.grab("keys-sweep");
+    window->softKeys()->setPage(0);
+    pick(keys->formatKey(), int(CartesianFormat::Phase));
+    grabber.grab("cartesian-phase");
+    pick(keys->formatKey(), int(CartesianFormat::LogMagnitude));
+    pick(keys->diagramsKey(), Diagrams::Cartesian);
+    grabber.grab("cartesian");
+    ThemeManager::instance()->setTheme(ThemeManager::Light);
+    pick(keys->diagramsKey(), Diagrams::Both);
+    grabber.grab("panel-light");
+    ThemeManager::instance()->setTheme(ThemeManager::Dark);
+    pick(keys->diagramsKey(), Diagrams::Smith);
     pick(window->gridKey(), SmithChartPlot::Admittance);
     grabber.grab("smith-admittance");
     pick(window->gridKey(), SmithChartPlot::ImpedanceAndAdmittance);
@@ -118,6 +141,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     ThemeManager::instance()->setTheme(ThemeManager::Light);
     grabber.grab("smith-light");
     ThemeManager::instance()->setTheme(ThemeManager::Dark);
+    pick(keys->diagramsKey(), Diagrams::Both);
 
     const QString message = window->messageBar()->message();
     window->messageBar()->setMessage(

@@ -48,7 +48,7 @@ QLabel#dim { color: @dimText; }
 QWidget#topBar { border-bottom: 1px solid @border; }
 QWidget#softKeys { border-left: 1px solid @border; }
 QStackedWidget#diagrams, QWidget#emptyPage { background: @background; }
-Panel--SmithView, Panel--TimingLine { background: @background; }
+Panel--SmithView, Panel--CartesianView, Panel--TimingLine { background: @background; }
 Panel--SweepBar { border-top: 1px solid @border; }
 Panel--MessageBar { border: 1px solid @warning; }
 Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }

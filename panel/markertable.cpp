@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "markertable.h"
 
+#include "format.h"
 #include "look.h"
 #include "markerreading.h"
-#include "panelmodel.h"
 
 #include <utils/qtcompat_p.h>
 
@@ -22,13 +22,14 @@ namespace
 constexpr int s_margin = 10;
 /// Widths of the cells in average characters: dot and number, frequency, resistance, reactance,
 /// element.
-constexpr std::array<int, 5> s_cells = {6, 15, 12, 13, 14};
+constexpr std::array<int, 5> s_cells = {6, 14, 11, 12, 12};
 
 } // namespace
 
-MarkerTable::MarkerTable(const PanelModel *model, QWidget *parent)
+MarkerTable::MarkerTable(const PanelModel *model, Trace::Kind kind, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
+    , m_kind(kind)
 {
     setAccessibleName(tr("Markers"));
     connect(m_model, &PanelModel::networksChanged, this, &MarkerTable::refresh);
@@ -42,9 +43,33 @@ MarkerTable::MarkerTable(const PanelModel *model, QWidget *parent)
     refresh();
 }
 
+void MarkerTable::setFormat(CartesianFormat format)
+{
+    m_format = format;
+    update();
+}
+
+QVector<Marker> MarkerTable::markers() const
+{
+    const Trace *trace = m_model->activeTrace(m_kind);
+    return trace ? m_model->markersOf(trace->id) : QVector<Marker>();
+}
+
+QStringList MarkerTable::reading(const Trace &trace, const Marker &marker) const
+{
+    const Network &network = m_model->network(trace);
+    const Parameter &values = m_model->data(trace);
+    const QString name = QStringLiteral("M%1").arg(marker.number);
+    if (m_kind == Trace::Transmission)
+        return {name, frequencyText(valueAt(network.frequencies, marker.index)),
+                cartesianText(cartesianValueAt(values, marker.index, m_format), m_format)};
+    const MarkerReading read = readMarker(network, values, marker.index);
+    return {name, read.frequency, read.resistance, read.reactance, read.element};
+}
+
 void MarkerTable::refresh()
 {
-    const int rows = int(m_model->activeMarkers().size());
+    const int rows = int(markers().size());
     setFixedHeight((rows + columns() - 1) / columns() * rowHeight());
     update();
 }
@@ -56,7 +81,8 @@ int MarkerTable::rowHeight() const
 
 int MarkerTable::rowWidth() const
 {
-    return std::accumulate(s_cells.begin(), s_cells.end(), 0) * fontMetrics().averageCharWidth();
+    const auto end = m_kind == Trace::Reflection ? s_cells.end() : s_cells.begin() + 3;
+    return std::accumulate(s_cells.begin(), end, 0) * fontMetrics().averageCharWidth();
 }
 
 int MarkerTable::columns() const
@@ -77,7 +103,7 @@ void MarkerTable::resizeEvent(QResizeEvent *)
 
 void MarkerTable::mousePressEvent(QMouseEvent *event)
 {
-    const QVector<Marker> markers = m_model->activeMarkers();
+    const QVector<Marker> markers = this->markers();
     for (int row = 0; row < markers.size(); ++row) {
         if (rowRect(row).contains(QtCompat::position(event).toPoint())) {
             Q_EMIT selectionRequested(markers.at(row).trace, markers.at(row).number);
@@ -88,7 +114,7 @@ void MarkerTable::mousePressEvent(QMouseEvent *event)
 
 void MarkerTable::paintEvent(QPaintEvent *)
 {
-    const Trace *trace = m_model->activeTrace();
+    const Trace *trace = m_model->activeTrace(m_kind);
     if (!trace)
         return;
     const Look look = currentLook();
@@ -96,7 +122,7 @@ void MarkerTable::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     const int character = fontMetrics().averageCharWidth();
     const Marker *selected = m_model->selectedMarker();
-    const QVector<Marker> markers = m_model->activeMarkers();
+    const QVector<Marker> markers = this->markers();
     for (int row = 0; row < markers.size(); ++row) {
         const Marker &marker = markers.at(row);
         QRect cell = rowRect(row);
@@ -105,15 +131,16 @@ void MarkerTable::paintEvent(QPaintEvent *)
             painter.setBrush(look.accent);
             painter.drawEllipse(QPointF(cell.left() + 4.0, cell.center().y() + 0.5), 3.5, 3.5);
         }
-        const MarkerReading reading =
-            readMarker(m_model->network(*trace), m_model->data(*trace), marker.index);
-        const QString texts[] = {QStringLiteral("M%1").arg(marker.number), reading.frequency,
-                                 reading.resistance, reading.reactance, reading.element};
+        const QStringList texts = reading(*trace, marker);
         painter.setPen(look.trace(trace->id));
         cell.setLeft(cell.left() + 14);
-        for (std::size_t i = 0; i < s_cells.size(); ++i) {
-            painter.drawText(cell, Qt::AlignLeft | Qt::AlignVCenter, texts[i]);
-            cell.setLeft(cell.left() + s_cells[i] * character - (i == 0 ? 14 : 0));
+        for (int i = 0; i < texts.size(); ++i) {
+            const int wide = s_cells[std::size_t(i)] * character - (i == 0 ? 14 : 0);
+            // A cell that does not fit is left out: half a number would be a wrong one.
+            if (i > 0 && fontMetrics().horizontalAdvance(texts.at(i)) > width() - cell.left())
+                break;
+            painter.drawText(cell, Qt::AlignLeft | Qt::AlignVCenter, texts.at(i));
+            cell.setLeft(cell.left() + wide);
         }
     }
 }

@@ -3,6 +3,7 @@
 #include "panelcontroller.h"
 
 #include "chartgestures.h"
+#include "diagramcontroller.h"
 #include "filedialog.h"
 #include "markertable.h"
 #include "messagebar.h"
@@ -37,6 +38,7 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     , m_folder(QDir::currentPath())
 {
     new ChartGestures(model, window->smithView(), this);
+    new DiagramController(model, window, this);
     new NumericKeys(model, window, m_sweeps, this);
     connect(m_sweeps, &SweepController::fileRequested, this, &PanelController::showFileDialog);
     connectKeys();

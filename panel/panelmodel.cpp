@@ -64,11 +64,21 @@ void PanelModel::setNetworks(const QVector<Network> &networks)
     for (int i = 0; i < m_networks.size(); ++i) {
         for (int port = 1; port <= m_networks.at(i).ports; ++port)
             m_traces.append({int(m_traces.size()) + 1, i, port, port, true});
+        if (m_networks.at(i).ports == 2) {
+            m_traces.append({int(m_traces.size()) + 1, i, 2, 1, true});
+            m_traces.append({int(m_traces.size()) + 1, i, 1, 2, true});
+        }
     }
     m_markers.clear();
     m_selectedTrace = 0;
     m_selectedNumber = 0;
     m_activeTrace = m_traces.isEmpty() ? 0 : m_traces.first().id;
+    for (const Trace::Kind kind : {Trace::Reflection, Trace::Transmission}) {
+        const auto first =
+            std::find_if(m_traces.begin(), m_traces.end(),
+                         [kind](const Trace &trace) { return trace.kind() == kind; });
+        m_lastActive[kind] = first == m_traces.end() ? 0 : first->id;
+    }
     Q_EMIT networksChanged();
     Q_EMIT activeTraceChanged();
     Q_EMIT selectedMarkerChanged();
@@ -133,6 +143,7 @@ void PanelModel::setActiveTrace(int id)
     if (id == m_activeTrace || !trace(id))
         return;
     m_activeTrace = id;
+    m_lastActive[trace(id)->kind()] = id;
     Q_EMIT activeTraceChanged();
     if (m_selectedTrace != id)
         selectMarker(0, 0);
@@ -151,9 +162,14 @@ void PanelModel::setTraceVisible(int id, bool visible)
 
 QVector<Marker> PanelModel::activeMarkers() const
 {
+    return markersOf(m_activeTrace);
+}
+
+QVector<Marker> PanelModel::markersOf(int traceId) const
+{
     QVector<Marker> result;
     for (int number = 1; number <= markersPerTrace; ++number) {
-        if (const Marker *found = marker(m_activeTrace, number))
+        if (const Marker *found = marker(traceId, number))
             result.append(*found);
     }
     return result;

@@ -13,11 +13,19 @@ namespace Panel
 
 /// One line on the panel: a parameter of a network.
 struct Trace {
+    /// What it tells decides which diagram shows it.
+    enum Kind {
+        Reflection,
+        Transmission,
+    };
+
     int id = 0; ///< from 1, unique on the panel
     int network = 0; ///< index into PanelModel::networks()
     int to = 1; ///< port that the wave leaves
     int from = 1; ///< port that the wave enters
     bool visible = true;
+
+    Kind kind() const { return to == from ? Reflection : Transmission; }
 };
 
 /// A marked point of a trace.
@@ -48,12 +56,16 @@ public:
     using QObject::QObject;
 
     const QVector<Network> &networks() const { return m_networks; }
-    /// One trace for each reflection parameter, numbered from 1 in the order of the networks.
+    /// One trace for each parameter, numbered from 1 in the order of the networks; the reflections
+    /// of a network come first.
     const QVector<Trace> &traces() const { return m_traces; }
     /// The trace of this id, or null.
     const Trace *trace(int id) const;
     /// The active trace, or null when there are no traces.
     const Trace *activeTrace() const { return trace(m_activeTrace); }
+
+    /// The trace of this kind that is active or was last, or null when there is none.
+    const Trace *activeTrace(Trace::Kind kind) const { return trace(m_lastActive[kind]); }
 
     /// The part of the trace's network that is on show.
     const Network &network(const Trace &trace) const { return m_shown.at(trace.network); }
@@ -70,6 +82,8 @@ public:
 
     /// All markers in the order they were added.
     const QVector<Marker> &markers() const { return m_markers; }
+    /// The markers of a trace by their numbers.
+    QVector<Marker> markersOf(int traceId) const;
     /// The markers of the active trace by their numbers.
     QVector<Marker> activeMarkers() const;
     /// The marker of this trace and number, or null.
@@ -137,6 +151,7 @@ private:
     QVector<Trace> m_traces;
     QVector<Marker> m_markers;
     int m_activeTrace = 0;
+    int m_lastActive[2] = {0, 0}; ///< ids by kind
     int m_selectedTrace = 0;
     int m_selectedNumber = 0;
     Sweep m_sweep;

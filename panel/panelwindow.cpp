@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panelwindow.h"
 
+#include "diagrams.h"
 #include "icons.h"
 #include "look.h"
 #include "messagebar.h"
 #include "panelmodel.h"
-#include "smithview.h"
 #include "softkey.h"
 #include "softkeymenu.h"
 #include "sweepbar.h"
@@ -59,9 +59,9 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
     , m_model(model)
     , m_traceBar(new TraceBar(model))
     , m_messageBar(new MessageBar)
-    , m_smithView(new SmithView(model))
+    , m_diagrams(new Diagrams(model))
     , m_sweepKeys(new SweepKeys)
-    , m_timingLine(new TimingLine(m_smithView))
+    , m_timingLine(new TimingLine(m_diagrams))
 {
     setWindowTitle(tr("Vector network analyser"));
 
@@ -91,6 +91,16 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
             &PanelWindow::recolor);
     showModel();
     recolor();
+}
+
+SmithView *PanelWindow::smithView() const
+{
+    return m_diagrams->smithView();
+}
+
+CartesianView *PanelWindow::cartesianView() const
+{
+    return m_diagrams->cartesianView();
 }
 
 QWidget *PanelWindow::makeTopBar()
@@ -123,7 +133,7 @@ QWidget *PanelWindow::makeDiagrams()
 {
     m_pages = new QStackedWidget;
     m_pages->setObjectName(QStringLiteral("diagrams"));
-    m_pages->addWidget(m_smithView);
+    m_pages->addWidget(m_diagrams);
     m_pages->addWidget(makeEmptyPage());
     return m_pages;
 }
@@ -143,7 +153,7 @@ QWidget *PanelWindow::makeEmptyPage()
     large.setPixelSize(QFontInfo(large).pixelSize() * 3 / 2);
     title->setFont(large);
     column->addWidget(title, 0, Qt::AlignHCenter);
-    auto *hint = new QLabel(tr("Open a Touchstone file (.s1p, .s2p) to see its reflection."));
+    auto *hint = new QLabel(tr("Open a Touchstone file (.s1p, .s2p) to see it."));
     hint->setObjectName(QStringLiteral("dim"));
     hint->setWordWrap(true);
     hint->setAlignment(Qt::AlignHCenter);

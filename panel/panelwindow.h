@@ -14,6 +14,8 @@ namespace Panel
 class MessageBar;
 class PanelModel;
 class SmithView;
+class CartesianView;
+class Diagrams;
 class SoftKey;
 class SoftKeyMenu;
 class SweepKeys;
@@ -32,7 +34,9 @@ class PanelWindow : public QMainWindow
 public:
     explicit PanelWindow(const PanelModel *model, QWidget *parent = nullptr);
 
-    SmithView *smithView() const { return m_smithView; }
+    Diagrams *diagrams() const { return m_diagrams; }
+    SmithView *smithView() const;
+    CartesianView *cartesianView() const;
     TraceBar *traceBar() const { return m_traceBar; }
     MessageBar *messageBar() const { return m_messageBar; }
 
@@ -66,7 +70,7 @@ private:
     const PanelModel *m_model;
     TraceBar *m_traceBar;
     MessageBar *m_messageBar;
-    SmithView *m_smithView;
+    Diagrams *m_diagrams;
     SweepKeys *m_sweepKeys;
     TimingLine *m_timingLine;
     QStackedWidget *m_pages;

@@ -21,7 +21,7 @@ SmithView::SmithView(const PanelModel *model, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
     , m_title(new ElidedLabel(Qt::ElideRight, this))
-    , m_markerTable(new MarkerTable(model, this))
+    , m_markerTable(new MarkerTable(model, Trace::Reflection, this))
     , m_plot(new QCustomPlot(this))
 {
     m_title->setObjectName(QStringLiteral("dim"));
@@ -94,6 +94,8 @@ void SmithView::loadTraces()
     m_chart->clearAllCurves();
     const Look look = currentLook();
     for (const Trace &trace : m_model->traces()) {
+        if (trace.kind() != Trace::Reflection)
+            continue;
         const Parameter &values = m_model->data(trace);
         m_chart->addCurve(trace.id, QPen(look.trace(trace.id)));
         m_chart->setCurveData(trace.id, m_model->network(trace).frequencies, values.real,
@@ -111,7 +113,7 @@ void SmithView::updateTraces(int network)
     QElapsedTimer timer;
     timer.start();
     for (const Trace &trace : m_model->traces()) {
-        if (trace.network != network)
+        if (trace.network != network || trace.kind() != Trace::Reflection)
             continue;
         const Parameter &values = m_model->data(trace);
         m_chart->setCurveData(trace.id, m_model->network(trace).frequencies, values.real,
@@ -123,7 +125,8 @@ void SmithView::updateTraces(int network)
 void SmithView::moveMarker(int traceId, int number)
 {
     m_chart->setMarkerIndex(traceId, number, m_model->marker(traceId, number)->index);
-    if (m_chart->getMarker(traceId, number)->isVisible())
+    const Plot::Marker *marker = m_chart->getMarker(traceId, number);
+    if (!marker || marker->isVisible())
         return;
     // Shorter data had no place for it.
     m_chart->setMarkerVisible(traceId, number, m_model->trace(traceId)->visible);
@@ -167,7 +170,7 @@ void SmithView::showSelectedMarker()
 
 void SmithView::showActiveTrace()
 {
-    if (const Trace *trace = m_model->activeTrace())
+    if (const Trace *trace = m_model->activeTrace(Trace::Reflection))
         m_chart->setActiveTrace(trace->id);
     else
         m_chart->clearActiveTrace();
@@ -188,10 +191,10 @@ void SmithView::updateTitle()
     QStringList names;
     for (const Trace &trace : m_model->traces()) {
         const QString name = PanelModel::parameterName(trace);
-        if (trace.visible && !names.contains(name))
+        if (trace.kind() == Trace::Reflection && trace.visible && !names.contains(name))
             names << name;
     }
-    const Trace *active = m_model->activeTrace();
+    const Trace *active = m_model->activeTrace(Trace::Reflection);
     const QString separator = QStringLiteral(" \u00b7 ");
     QStringList parts;
     if (!names.isEmpty())

@@ -23,6 +23,8 @@ SweepKeys::SweepKeys(QWidget *parent)
     m_sourceKey = add(tr("Source"));
     m_pointsKey = add(tr("Points"));
     m_sweepKey = add(tr("Sweep"));
+    m_diagramsKey = add(tr("Diagrams"));
+    m_formatKey = add(tr("Format"));
     m_timingKey = add(tr("Timing"));
     column->addStretch(1);
 }

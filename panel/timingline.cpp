@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "timingline.h"
 
+#include "cartesianview.h"
+#include "diagrams.h"
 #include "smithview.h"
 
 #include <plot/qcp.h>
@@ -9,9 +11,9 @@
 namespace Panel
 {
 
-TimingLine::TimingLine(const SmithView *view, QWidget *parent)
+TimingLine::TimingLine(const Diagrams *diagrams, QWidget *parent)
     : ElidedLabel(Qt::ElideRight, parent)
-    , m_view(view)
+    , m_diagrams(diagrams)
 {
     setObjectName(QStringLiteral("dim"));
     setAccessibleName(tr("Timing"));
@@ -40,10 +42,19 @@ void TimingLine::refresh()
     const auto milliseconds = [](double value) {
         return QString::number(value, 'f', 2) + QStringLiteral(" ms");
     };
+    int points = 0;
+    double newData = 0.0, replot = 0.0;
+    const auto add = [&](const auto *view) {
+        if (!view->isVisible())
+            return;
+        points += view->drawnPoints();
+        newData += view->dataMilliseconds();
+        replot += view->plot()->replotTime();
+    };
+    add(m_diagrams->smithView());
+    add(m_diagrams->cartesianView());
     setText(tr("%1 points drawn \u00b7 new data %2 \u00b7 replot %3")
-                .arg(QString::number(m_view->drawnPoints()),
-                     milliseconds(m_view->dataMilliseconds()),
-                     milliseconds(m_view->plot()->replotTime())));
+                .arg(QString::number(points), milliseconds(newData), milliseconds(replot)));
 }
 
 } // namespace Panel

@@ -9,15 +9,16 @@
 namespace Panel
 {
 
-class SmithView;
+class Diagrams;
 
-/// A line that tells, while it is shown, how many points a diagram draws and what a frame costs.
+/// A line that tells, while it is shown, how many points the diagrams draw and what a frame costs
+/// them.
 class TimingLine : public ElidedLabel
 {
     Q_OBJECT
 
 public:
-    explicit TimingLine(const SmithView *view, QWidget *parent = nullptr);
+    explicit TimingLine(const Diagrams *diagrams, QWidget *parent = nullptr);
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -26,7 +27,7 @@ protected:
 private:
     void refresh();
 
-    const SmithView *m_view;
+    const Diagrams *m_diagrams;
     QTimer m_timer;
 };
 

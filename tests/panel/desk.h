@@ -4,6 +4,7 @@
 
 #include "pointer.h"
 
+#include <panel/diagrams.h>
 #include <panel/messagebar.h>
 #include <panel/panelcontroller.h>
 #include <panel/panelmodel.h>
@@ -57,7 +58,12 @@ struct PanelDesk {
 
 /// The same, with hands on the chart and on lists.
 struct ChartDesk : PanelDesk {
-    using PanelDesk::PanelDesk;
+    explicit ChartDesk(const QSize &size = QSize(1024, 600))
+        : PanelDesk(size)
+    {
+        window.diagrams()->setDiagramLayout(Panel::Diagrams::Smith);
+        settle();
+    }
 
     /// A point of the plot, given as a share of its size, in pixels of the plot.
     QPoint onPlot(double x, double y) const

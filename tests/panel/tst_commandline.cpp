@@ -45,6 +45,8 @@ void CommandLineTest::reads_data()
     row("files around options", "a.s1p --size 800x480 b.s2p", "", {a, b}, "", {800, 480});
     row("values after =", "--grab=out --size=1920X1080", "", {}, "out", {1920, 1080});
     row("file that looks like an option", "-- --grab", "", {QStringLiteral("--grab")});
+    row("options without a value", "a.s1p --simulate --version", "", {a});
+    row("simulate with a value", "--simulate=1", "--simulate takes no value.");
     row("unknown", "--gräb x", "There is no option --gräb.");
     row("unknown short", "-x", "There is no option -x.");
     row("value missing", "--grab", "--grab needs a value.");

@@ -39,7 +39,7 @@ class PanelModelTest : public VnaTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void makesATraceOfEachReflection();
+    void makesATraceOfEachParameter();
     void tellsWhatChanged();
     void numbersMarkers();
     void selectsMarkers();
@@ -51,24 +51,30 @@ private Q_SLOTS:
     void writesFrequencies();
 };
 
-void PanelModelTest::makesATraceOfEachReflection()
+void PanelModelTest::makesATraceOfEachParameter()
 {
     PanelModel model;
     QVERIFY(!model.activeTrace());
     model.setNetworks({network(1), network(2)});
-    QCOMPARE(
-        names(model),
-        (QStringList{QStringLiteral("1 S11"), QStringLiteral("2 S11"), QStringLiteral("3 S22")}));
+    QCOMPARE(names(model),
+             (QStringList{QStringLiteral("1 S11"), QStringLiteral("2 S11"), QStringLiteral("3 S22"),
+                          QStringLiteral("4 S21"), QStringLiteral("5 S12")}));
+    QCOMPARE(model.data(*model.trace(4)).real, QVector<double>{1.0});
+    QCOMPARE(model.activeTrace(Trace::Transmission), model.trace(4));
     QCOMPARE(model.data(*model.trace(3)).real, QVector<double>{3.0});
     QCOMPARE(model.network(*model.trace(3)).ports, 2);
     QCOMPARE(model.activeTrace(), model.trace(1));
 
+    model.setActiveTrace(5);
     model.setActiveTrace(3);
+    QCOMPARE(model.activeTrace(Trace::Transmission), model.trace(5));
+    QCOMPARE(model.activeTrace(Trace::Reflection), model.trace(3));
     model.setTraceVisible(3, false);
     model.setNetworks({network(1)});
     QCOMPARE(names(model), QStringList{QStringLiteral("1 S11")});
     QCOMPARE(model.activeTrace()->id, 1);
     QVERIFY(model.activeTrace()->visible);
+    QVERIFY(!model.activeTrace(Trace::Transmission));
 
     model.setNetworks({});
     QVERIFY(!model.activeTrace());
@@ -82,7 +88,7 @@ void PanelModelTest::tellsWhatChanged()
     const QSignalSpy active(&model, &PanelModel::activeTraceChanged);
     const QSignalSpy visible(&model, &PanelModel::traceVisibleChanged);
 
-    for (const int id : {1, 0, -1, 3, 2, 2})
+    for (const int id : {1, 0, -1, 5, 2, 2})
         model.setActiveTrace(id);
     QCOMPARE(active.count(), 1);
     QCOMPARE(model.activeTrace()->id, 2);

@@ -3,6 +3,7 @@
 #include "desk.h"
 #include "vnatest.h"
 
+#include <panel/cartesianview.h>
 #include <panel/filedialog.h>
 #include <panel/look.h>
 #include <panel/sweepcontroller.h>
@@ -185,7 +186,8 @@ void SweepControllerTest::tellsTheTimingOnRequest()
     QVERIFY(!desk.window.timingLine()->isVisible());
     QTest::keyClick(desk.window.windowHandle(), Qt::Key_F3);
     QVERIFY(desk.window.timingLine()->isVisible());
-    const QString points = QString::number(desk.window.smithView()->drawnPoints());
+    const QString points = QString::number(desk.window.smithView()->drawnPoints()
+                                           + desk.window.cartesianView()->drawnPoints());
     QVERIFY(desk.window.timingLine()->text().startsWith(points + QLatin1Char(' ')));
     desk.click(desk.keys()->timingKey());
     QVERIFY(!desk.window.timingLine()->isVisible());
