@@ -148,10 +148,6 @@ void TouchNumKeyboard::setReceiver(QObject *receiver)
 bool TouchNumKeyboard::setShortcutKeys(const QList<KeySpec> &keys)
 {
     Q_D(TouchNumKeyboard);
-    const auto sendsNothing = [](const KeySpec &spec) { return spec.key == Qt::Key_unknown; };
-    if (std::any_of(keys.begin(), keys.end(), sendsNothing))
-        return false;
-
     d->shortcutKeys = keys;
     d->shortcutMap.clear();
     d->startIndex = 0;

@@ -88,8 +88,8 @@ public:
     void setPopupAnchorWidget(QWidget *anchor);
     void setPressOutsidePolicy(PressOutsidePolicy policy);
     void setReceiver(QObject *receiver);
-    /// The unit keys in order, shown from the first. Returns false, and changes nothing, if one of
-    /// them has no key code.
+    /// The unit keys in order, shown from the first. Returns true: any list is taken, and a key
+    /// without a key code is shown and sends nothing.
     bool setShortcutKeys(const QList<KeySpec> &keys);
     /// Puts a widget behind the title and owns it; the one before is deleted. Null leaves the place
     /// empty.

@@ -22,8 +22,11 @@
 
 #include <memory>
 
+#include <pointer.h>
+#include <tables.h>
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Controls::BaseUnitAdapter;
 using Controls::EditableWidget;
 using Controls::KeypadEditor;
@@ -35,11 +38,8 @@ namespace
 
 ScaledUnitAdapter *frequencyAdapter(QObject *parent)
 {
-    auto *adapter = new ScaledUnitAdapter({{QStringLiteral("GHz"), 1e9},
-                                           {QStringLiteral("MHz"), 1e6},
-                                           {QStringLiteral("kHz"), 1e3},
-                                           {QStringLiteral("Hz"), 1.0}},
-                                          parent);
+    auto *adapter = new ScaledUnitAdapter(
+        {{"GHz"_s, 1e9}, {"MHz"_s, 1e6}, {"kHz"_s, 1e3}, {"Hz"_s, 1.0}}, parent);
     adapter->setDecimals(9);
     adapter->setRealValue(1e9);
     return adapter;
@@ -47,17 +47,14 @@ ScaledUnitAdapter *frequencyAdapter(QObject *parent)
 
 ScaledUnitAdapter *levelAdapter(QObject *parent)
 {
-    return new ScaledUnitAdapter({{QStringLiteral("dBm"), 1.0}}, parent);
+    return new ScaledUnitAdapter({{"dBm"_s, 1.0}}, parent);
 }
 
 ScaledUnitAdapter *timeAdapter(QObject *parent)
 {
-    return new ScaledUnitAdapter({{QStringLiteral("s"), 1.0},
-                                  {QStringLiteral("ms"), 1e-3},
-                                  {QStringLiteral("\u00b5s"), 1e-6},
-                                  {QStringLiteral("ns"), 1e-9},
-                                  {QStringLiteral("ps"), 1e-12}},
-                                 parent);
+    return new ScaledUnitAdapter(
+        {{"s"_s, 1.0}, {"ms"_s, 1e-3}, {"\u00b5s"_s, 1e-6}, {"ns"_s, 1e-9}, {"ps"_s, 1e-12}},
+        parent);
 }
 
 /// A field of a page: opens the keypad when it gets the focus.
@@ -86,7 +83,7 @@ private Q_SLOTS:
         m_window->setGeometry(0, 0, 800, 600);
         auto *page = new QWidget;
         auto *layout = new QVBoxLayout(page);
-        m_other = new QPushButton(QStringLiteral("other"));
+        m_other = new QPushButton("other"_s);
         m_other->setFocusPolicy(Qt::StrongFocus);
         layout->addWidget(m_other);
         layout->addStretch();
@@ -105,16 +102,8 @@ private Q_SLOTS:
 
     void entersValues_data()
     {
-        QTest::addColumn<QString>("quantity");
-        QTest::addColumn<QStringList>("inputs"); // keypad buttons by name; other text is typed
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char *name, const char *quantity, const char *inputs,
-                            double value, const char *text) {
-            QTest::newRow(name) << QString::fromLatin1(quantity)
-                                << QString::fromLatin1(inputs).split(QLatin1Char(' ')) << value
-                                << QString::fromUtf8(text);
-        };
+        // inputs: keypad buttons by name; other text is typed
+        columns<QString, QString, double, QString>("quantity", "inputs", "value", "text");
         row("2.45 GHz by clicks", "f", "btn2 btnP btn4 btn5 btnUnit1", 2.45e9, "2.45GHz");
         row("2.45 GHz by keys", "f", "2 . 4 5 \r", 2.45e9, "2.45GHz");
         row("2.45 GHz mixed", "f", "btn2 . btn4 5 btnOk", 2.45e9, "2.45GHz");
@@ -131,38 +120,21 @@ private Q_SLOTS:
     void entersValues()
     {
         QFETCH(QString, quantity);
-        QFETCH(QStringList, inputs);
+        QFETCH(QString, inputs);
         QFETCH(double, value);
         QFETCH(QString, text);
 
         // In a field of the page, and in the text area of the keypad.
         for (const bool onPage : {true, false}) {
             auto *keypad = new TouchNumKeyboard(m_window.get());
-            ScaledUnitAdapter *adapter = quantity == QLatin1String("f") ? frequencyAdapter(keypad)
-                : quantity == QLatin1String("p")                        ? levelAdapter(keypad)
-                                                                        : timeAdapter(keypad);
+            ScaledUnitAdapter *adapter = quantity == "f"_s ? frequencyAdapter(keypad)
+                : quantity == "p"_s                        ? levelAdapter(keypad)
+                                                           : timeAdapter(keypad);
             QSignalSpy committed(adapter, &BaseUnitAdapter::editingFinished);
             QSignalSpy finished(keypad, &QDialog::finished);
-            std::unique_ptr<PageField> field;
-            if (onPage) {
-                field = std::make_unique<PageField>(keypad, adapter, m_window->centralWidget());
-                field->setGeometry(10, 500, 200, 60);
-                field->show();
-                clickAt(field.get());
-            } else {
-                new KeypadEditor(keypad, adapter);
-                keypad->open();
-            }
-            QTRY_VERIFY(keypad->isVisible());
-            QCoreApplication::processEvents(); // the number is selected
-
-            for (const QString &input : inputs) {
-                auto *button = keypad->findChild<QPushButton *>(input);
-                if (button)
-                    clickAt(button);
-                else
-                    type(input);
-            }
+            const std::unique_ptr<QWidget> field(openEditor(keypad, adapter, onPage));
+            for (const QString &input : inputs.split(QLatin1Char(' ')))
+                press(keypad, input);
             QCOMPARE(committed.count(), 1);
             QCOMPARE(committed.at(0).at(0).toDouble(), value);
             QCOMPARE(adapter->getInputText(), text);
@@ -171,7 +143,6 @@ private Q_SLOTS:
             // Leaving afterwards is not a second commit.
             m_other->setFocus();
             QCOMPARE(committed.count(), 1);
-            delete keypad;
         }
     }
 
@@ -181,24 +152,24 @@ private Q_SLOTS:
         adapter->setRealValue(-12.5e6);
         EditableWidget *field = addField(adapter);
         QLineEdit *edit = lineEdit(field);
-        QCOMPARE(edit->text(), QStringLiteral("-12.5MHz"));
+        QCOMPARE(edit->text(), "-12.5MHz"_s);
         field->setFocus();
-        QTRY_COMPARE(edit->selectedText(), QStringLiteral("12.5"));
+        QTRY_COMPARE(edit->selectedText(), "12.5"_s);
         QCOMPARE(edit->selectionStart(), 1);
         QCOMPARE(edit->cursorPosition(), 5);
         QCOMPARE(m_keypad->receiver(), adapter);
         QCOMPARE(m_keypad->shortcutKeys().size(), 4);
-        QCOMPARE(m_keypad->shortcutKeys().at(1).text, QStringLiteral("MHz"));
+        QCOMPARE(m_keypad->shortcutKeys().at(1).text, "MHz"_s);
         QCOMPARE(m_keypad->focusProxy(), edit);
         // Published for the adapter.
-        QCOMPARE(adapter->property("inputText").toString(), QStringLiteral("-12.5MHz"));
+        QCOMPARE(adapter->property("inputText").toString(), "-12.5MHz"_s);
         QCOMPARE(adapter->property("selectionStart").toInt(), 1);
         QCOMPARE(adapter->property("selectionLen").toInt(), 4);
         QCOMPARE(adapter->property("cursorPos").toInt(), 5);
 
         // The cursor does not go into the unit.
-        type(QStringLiteral("\b"));
-        QCOMPARE(edit->text(), QStringLiteral("-MHz"));
+        type("\b"_s);
+        QCOMPARE(edit->text(), "-MHz"_s);
         edit->setCursorPosition(3);
         QCOMPARE(edit->cursorPosition(), 1);
         QCOMPARE(adapter->property("selectionLen").toInt(), 0);
@@ -211,86 +182,57 @@ private Q_SLOTS:
         field->setFocus();
         QVERIFY(m_keypad->shortcutKeys().isEmpty());
         m_other->setFocus();
-        field->setDummyDisplayUnits({QStringLiteral("x")});
+        field->setDummyDisplayUnits({"x"_s});
         field->setFocus();
         QCOMPARE(m_keypad->shortcutKeys().size(), 1);
     }
 
     void commitsOnceWhateverWayItEnds_data()
     {
-        QTest::addColumn<QString>("ending");
-        QTest::addColumn<int>("commits");
-        QTest::addColumn<double>("value");
-        const auto row = [](const char *ending, int commits) {
-            QTest::newRow(ending) << QString::fromLatin1(ending) << commits
-                                  << (commits ? 7e9 : 1e9);
-        };
-        row("enter", 1);
-        row("OK", 1);
-        row("unit", 1);
-        row("escape", 0);
-        row("Esc", 0);
-        row("outside commits", 1);
-        row("outside cancels", 0);
-        row("closed", 0);
-        row("deleted", 0);
+        columns<QString, int>("ending", "commits"); // keys and buttons, or what happens
+        row("enter", "\r", 1);
+        row("OK", "btnOk", 1);
+        row("unit", "btnUnit1", 1);
+        row("escape", "\x1b", 0);
+        row("Esc", "btnEsc", 0);
+        row("outside commits", "outside commits", 1);
+        row("outside cancels", "outside", 0);
+        row("closed", "closed", 0);
+        row("deleted", "deleted", 0);
     }
 
     void commitsOnceWhateverWayItEnds()
     {
         QFETCH(QString, ending);
         QFETCH(int, commits);
-        QFETCH(double, value);
         for (const bool onPage : {true, false}) {
-            auto *keypad = new TouchNumKeyboard(m_window.get());
+            QPointer<TouchNumKeyboard> keypad = new TouchNumKeyboard(m_window.get());
             ScaledUnitAdapter *adapter = frequencyAdapter(keypad);
-            double last = adapter->getRealValue();
-            int finished = 0;
-            connect(adapter, &BaseUnitAdapter::editingFinished, this, [&](double now) {
-                last = now;
-                ++finished;
-            });
-            QPointer<EditableWidget> field;
-            if (onPage) {
-                field = new PageField(keypad, adapter, m_window->centralWidget());
-                field->show();
-                field->setFocus();
-            } else {
-                new KeypadEditor(keypad, adapter);
-                keypad->open();
-            }
-            QCoreApplication::processEvents();
-            type(QStringLiteral("7"));
-            if (ending == QLatin1String("enter"))
-                type(QStringLiteral("\r"));
-            else if (ending == QLatin1String("OK"))
-                clickAt(keypad->findChild<QPushButton *>(QStringLiteral("btnOk")));
-            else if (ending == QLatin1String("unit"))
-                clickAt(keypad->findChild<QPushButton *>(QStringLiteral("btnUnit1")));
-            else if (ending == QLatin1String("escape"))
-                type(QStringLiteral("\x1b"));
-            else if (ending == QLatin1String("Esc"))
-                clickAt(keypad->findChild<QPushButton *>(QStringLiteral("btnEsc")));
-            else if (ending == QLatin1String("closed"))
+            QVector<double> entered;
+            connect(adapter, &BaseUnitAdapter::editingFinished, this,
+                    [&](double now) { entered << now; });
+            const QPointer<Controls::IEditableTitleWidget> field =
+                openEditor(keypad, adapter, onPage);
+            type("7"_s);
+            if (ending == "closed"_s)
                 keypad->close();
-            else if (ending == QLatin1String("deleted"))
+            else if (ending == "deleted"_s)
                 delete keypad;
-            else {
-                if (ending == QLatin1String("outside commits"))
+            else if (ending.startsWith("outside"_s)) {
+                if (ending.endsWith("commits"_s))
                     keypad->setPressOutsidePolicy(TouchNumKeyboard::PressOutsideCommits);
-                QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                                  QPoint(3, 3));
+                mouseClick(m_window.get(), QPoint(3, 3));
+            } else {
+                press(keypad, ending);
             }
             // A field that outlives its keypad is left by the focus, which would commit what is
             // typed.
-            const bool leftOpen = onPage && ending == QLatin1String("closed");
+            const bool leftOpen = onPage && ending == "closed"_s;
             m_other->setFocus();
             QCoreApplication::processEvents();
-            QCOMPARE(finished, leftOpen ? 1 : commits);
-            QCOMPARE(last, leftOpen ? 7e9 : value);
+            QCOMPARE(entered, QVector<double>(leftOpen ? 1 : commits, 7e9));
             delete field;
-            if (ending != QLatin1String("deleted"))
-                delete keypad;
+            delete keypad;
         }
     }
 
@@ -302,7 +244,7 @@ private Q_SLOTS:
         QSignalSpy left(field, &EditableWidget::focusedOut);
         field->setFocus();
         QCoreApplication::processEvents();
-        type(QStringLiteral("3"));
+        type("3"_s);
 
         // Into the keypad, and back, the edit stays open.
         m_keypad->open();
@@ -312,7 +254,7 @@ private Q_SLOTS:
         QVERIFY(committed.isEmpty() && left.isEmpty());
         lineEdit(field)->setFocus();
         QCoreApplication::processEvents();
-        type(QStringLiteral("3"));
+        type("3"_s);
 
         m_other->setFocus();
         QCOMPARE(committed.count(), 1);
@@ -327,11 +269,11 @@ private Q_SLOTS:
         loose->show();
         loose->setFocus();
         QCoreApplication::processEvents();
-        type(QStringLiteral("4"));
-        type(QStringLiteral("\r"));
+        type("4"_s);
+        type("\r"_s);
         QCOMPARE(committed.count(), 2);
         lineEdit(loose)->setCursorPosition(0);
-        type(QStringLiteral("5"));
+        type("5"_s);
         m_other->setFocus();
         QCOMPARE(committed.count(), 3);
         QCOMPARE(adapter->getRealValue(), 54e9);
@@ -340,20 +282,17 @@ private Q_SLOTS:
     void theIndicatorMirrorsTheField()
     {
         auto *adapter = frequencyAdapter(m_window.get());
-        auto *field = new PageField(m_keypad, adapter, m_window->centralWidget());
-        field->show();
-        field->setFocus();
-        QCoreApplication::processEvents();
-        type(QStringLiteral("2"));
-        type(QStringLiteral("5"));
-        QCOMPARE(m_keypad->indicatorText(), QStringLiteral("25GHz"));
+        const auto *field = openEditor(m_keypad, adapter, true);
+        type("2"_s);
+        type("5"_s);
+        QCOMPARE(m_keypad->indicatorText(), "25GHz"_s);
         Q_EMIT m_keypad->indicatorPress(0);
         Q_EMIT m_keypad->indicatorMove(1);
-        QCOMPARE(lineEdit(field)->selectedText(), QStringLiteral("2"));
-        clickAt(m_keypad->findChild<QPushButton *>(QStringLiteral("btn9")));
-        QCOMPARE(m_keypad->indicatorText(), QStringLiteral("95GHz"));
-        clickAt(m_keypad->findChild<QPushButton *>(QStringLiteral("btnC")));
-        QCOMPARE(m_keypad->indicatorText(), QStringLiteral("-95GHz"));
+        QCOMPARE(lineEdit(field)->selectedText(), "2"_s);
+        press(m_keypad, "btn9"_s);
+        QCOMPARE(m_keypad->indicatorText(), "95GHz"_s);
+        press(m_keypad, "btnC"_s);
+        QCOMPARE(m_keypad->indicatorText(), "-95GHz"_s);
         m_keypad->reject();
     }
 
@@ -366,14 +305,14 @@ private Q_SLOTS:
         stepper.setAdapter(adapter);
         new KeypadEditor(m_keypad, adapter);
         m_keypad->open();
-        auto *edit = m_keypad->findChild<QLineEdit *>(QStringLiteral("edit"));
-        QTRY_COMPARE(edit->selectedText(), QStringLiteral("1"));
-        clickAt(m_keypad->findChild<QPushButton *>(QStringLiteral("btnUp")));
-        QCOMPARE(edit->text(), QStringLiteral("1.1GHz"));
+        auto *edit = m_keypad->findChild<QLineEdit *>("edit"_s);
+        QTRY_COMPARE(edit->selectedText(), "1"_s);
+        press(m_keypad, "btnUp"_s);
+        QCOMPARE(edit->text(), "1.1GHz"_s);
         for (int i = 0; i < 3; ++i)
-            type(QStringLiteral("up"));
-        QCOMPARE(edit->text(), QStringLiteral("1.2GHz"));
-        type(QStringLiteral("\x1b"));
+            type("up"_s);
+        QCOMPARE(edit->text(), "1.2GHz"_s);
+        type("\x1b"_s);
         QCOMPARE(adapter->getRealValue(), 1.2e9);
     }
 
@@ -387,33 +326,33 @@ private Q_SLOTS:
         QSignalSpy stepped(step, &BaseUnitAdapter::editingFinished);
         QSignalSpy committed(adapter, &BaseUnitAdapter::editingFinished);
         m_keypad->open();
-        auto *edit = m_keypad->findChild<QLineEdit *>(QStringLiteral("edit"));
+        auto *edit = m_keypad->findChild<QLineEdit *>("edit"_s);
         QTRY_VERIFY(edit->hasSelectedText());
-        type(QStringLiteral("2"));
+        type("2"_s);
 
         // To the step and back with Enter: the value typed so far stands, and its unit keys return.
-        clickAt(lineEdit(field));
+        mouseClick(lineEdit(field));
         QVERIFY(lineEdit(field)->hasFocus());
         QTRY_VERIFY(lineEdit(field)->hasSelectedText());
         QCOMPARE(m_keypad->receiver(), step);
-        type(QStringLiteral("5"));
-        clickAt(m_keypad->findChild<QPushButton *>(QStringLiteral("btnUnit2")));
+        type("5"_s);
+        press(m_keypad, "btnUnit2"_s);
         QCOMPARE(stepped.count(), 1);
         QCOMPARE(step->getRealValue(), 5e6);
         QVERIFY(m_keypad->isVisible());
         QVERIFY(edit->hasFocus());
         QCOMPARE(m_keypad->receiver(), adapter);
-        QCOMPARE(edit->text(), QStringLiteral("2GHz"));
+        QCOMPARE(edit->text(), "2GHz"_s);
 
         // And back with a tap on the text area, which commits the step.
-        clickAt(lineEdit(field));
+        mouseClick(lineEdit(field));
         QTRY_VERIFY(lineEdit(field)->hasSelectedText());
-        type(QStringLiteral("7"));
-        clickAt(edit);
+        type("7"_s);
+        mouseClick(edit);
         QCOMPARE(stepped.count(), 2);
         QCOMPARE(step->getRealValue(), 7e6);
         QVERIFY(committed.isEmpty());
-        type(QStringLiteral("\r"));
+        type("\r"_s);
         QCOMPARE(committed.count(), 1);
         QCOMPARE(adapter->getRealValue(), 2e9);
         QCOMPARE(stepped.count(), 2);
@@ -422,12 +361,12 @@ private Q_SLOTS:
 
         // The next time begins with the value again.
         m_keypad->open();
-        QTRY_COMPARE(edit->selectedText(), QStringLiteral("2"));
-        type(QStringLiteral("8"));
-        clickAt(lineEdit(field));
+        QTRY_COMPARE(edit->selectedText(), "2"_s);
+        type("8"_s);
+        mouseClick(lineEdit(field));
         m_keypad->reject();
         m_keypad->open();
-        QTRY_COMPARE(edit->text(), QStringLiteral("2GHz"));
+        QTRY_COMPARE(edit->text(), "2GHz"_s);
         QCOMPARE(committed.count(), 1);
     }
 
@@ -440,29 +379,23 @@ private Q_SLOTS:
         bare->setFocus();
         for (const char *key : {"5", ".", "\r", "\x1b", "up"})
             type(QString::fromLatin1(key));
-        QCOMPARE(lineEdit(bare)->text(), QStringLiteral("5."));
-        bare->setEditorText(QStringLiteral("12"), 99, 99, -4);
+        QCOMPARE(lineEdit(bare)->text(), "5."_s);
+        bare->setEditorText("12"_s, 99, 99, -4);
         QCOMPARE(lineEdit(bare)->cursorPosition(), 2);
     }
 
     void survivesAnyOrderOfDestruction_data()
     {
-        QTest::addColumn<QString>("victim");
-        QTest::addColumn<QString>("moment");
-        QTest::addColumn<bool>("onPage");
-        const QStringList moments{QStringLiteral("typing"), QStringLiteral("editingFinished"),
-                                  QStringLiteral("accepted"), QStringLiteral("finished"),
-                                  QStringLiteral("focusedOut")};
+        columns<QString, QString, bool>("victim", "moment", "onPage");
         for (const char *victim : {"adapter", "keypad", "field", "window"}) {
-            for (const QString &moment : moments) {
+            for (const char *moment :
+                 {"typing", "editingFinished", "accepted", "finished", "focusedOut"}) {
                 for (const bool onPage : {true, false}) {
                     // The text area loses the focus while Qt hides the keypad: no time to delete
                     // it.
-                    if (qstrcmp(victim, "keypad") == 0 && moment == moments.last() && !onPage)
-                        continue;
-                    QTest::addRow("%s in %s, %s", victim, qPrintable(moment),
-                                  onPage ? "page" : "keypad")
-                        << QString::fromLatin1(victim) << moment << onPage;
+                    const QByteArray name = QByteArray(victim) + " in " + moment;
+                    if (onPage || name != "keypad in focusedOut")
+                        row(name + (onPage ? ", page" : ", keypad"), victim, moment, onPage);
                 }
             }
         }
@@ -474,42 +407,32 @@ private Q_SLOTS:
         QFETCH(QString, moment);
         QFETCH(bool, onPage);
         QPointer<ScaledUnitAdapter> adapter = frequencyAdapter(m_keypad);
-        QPointer<Controls::IEditableTitleWidget> field;
-        if (onPage)
-            field = new PageField(m_keypad, adapter, m_window->centralWidget());
-        else
-            field = new KeypadEditor(m_keypad, adapter);
+        const QPointer<Controls::IEditableTitleWidget> field =
+            openEditor(m_keypad, adapter, onPage);
         const auto end = [&] {
-            if (victim == QLatin1String("adapter"))
+            if (victim == "adapter"_s)
                 delete adapter;
-            else if (victim == QLatin1String("keypad"))
+            else if (victim == "keypad"_s)
                 delete m_keypad;
-            else if (victim == QLatin1String("field"))
+            else if (victim == "field"_s)
                 delete field;
             else if (m_window)
                 m_window.release()->deleteLater(); // a window is not deleted in its own event
         };
-        if (moment == QLatin1String("editingFinished"))
+        if (moment == "editingFinished"_s)
             connect(adapter, &BaseUnitAdapter::editingFinished, this, end);
-        else if (moment == QLatin1String("accepted"))
+        else if (moment == "accepted"_s)
             connect(m_keypad, &QDialog::accepted, this, end);
-        else if (moment == QLatin1String("finished"))
+        else if (moment == "finished"_s)
             connect(m_keypad, &QDialog::finished, this, end);
-        else if (moment == QLatin1String("focusedOut"))
+        else if (moment == "focusedOut"_s)
             connect(field, &EditableWidget::focusedOut, this, end);
-        if (onPage) {
-            field->show();
-            field->setFocus();
-        } else {
-            m_keypad->open();
-        }
-        QCoreApplication::processEvents();
-        type(QStringLiteral("5"));
-        if (moment == QLatin1String("typing"))
+        type("5"_s);
+        if (moment == "typing"_s)
             end();
         const QPointer<QWidget> window(m_window.get());
         if (m_window && m_keypad && m_keypad->isVisible())
-            clickAt(m_keypad->findChild<QPushButton *>(QStringLiteral("btnOk")));
+            press(m_keypad, "btnOk"_s);
         if (m_window)
             m_other->setFocus();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -521,9 +444,9 @@ private Q_SLOTS:
     {
         auto *adapter = frequencyAdapter(m_keypad);
         EditableWidget *field = addField(adapter);
-        QCOMPARE(field->objectName(), QStringLiteral("StepEditWidget"));
-        QCOMPARE(field->labelText(), QStringLiteral("Step"));
-        QVERIFY(field->findChild<QLabel *>(QStringLiteral("stepLabel")));
+        QCOMPARE(field->objectName(), "StepEditWidget"_s);
+        QCOMPARE(field->labelText(), "Step"_s);
+        QVERIFY(field->findChild<QLabel *>("stepLabel"_s));
         auto *theme = Controls::ThemeManager::instance();
         for (const auto next : {Controls::ThemeManager::Light, Controls::ThemeManager::Dark}) {
             theme->setTheme(next);
@@ -535,11 +458,38 @@ private Q_SLOTS:
             QVERIFY(image.pixelColor(2, 2) != border);
         }
         // A press beside the line edit is one on it.
-        clickAt(field->findChild<QLabel *>());
+        mouseClick(field->findChild<QLabel *>());
         QVERIFY(lineEdit(field)->hasFocus());
     }
 
 private:
+    /// Begins an edit in a field of the page, or in the text area of the keypad.
+    Controls::IEditableTitleWidget *openEditor(TouchNumKeyboard *keypad, BaseUnitAdapter *adapter,
+                                               bool onPage)
+    {
+        Controls::IEditableTitleWidget *field = nullptr;
+        if (onPage) {
+            field = new PageField(keypad, adapter, m_window->centralWidget());
+            field->setGeometry(10, 500, 200, 60);
+            field->show();
+            mouseClick(field);
+        } else {
+            field = new KeypadEditor(keypad, adapter);
+            keypad->open();
+        }
+        QCoreApplication::processEvents(); // the number is selected
+        return field;
+    }
+
+    /// Clicks a button of the keypad by its name; other text is typed.
+    void press(const TouchNumKeyboard *keypad, const QString &input) const
+    {
+        if (const auto *button = keypad->findChild<QPushButton *>(input))
+            mouseClick(button);
+        else
+            type(input);
+    }
+
     EditableWidget *addField(BaseUnitAdapter *adapter)
     {
         auto *field = new EditableWidget(m_keypad, adapter, m_window->centralWidget());
@@ -551,30 +501,17 @@ private:
 
     static QLineEdit *lineEdit(const QWidget *field)
     {
-        return field->findChild<QLineEdit *>(QStringLiteral("stepEdit"));
-    }
-
-    /// A real click at the middle of a widget, through the window.
-    void clickAt(const QWidget *widget) const
-    {
-        const QPointer<QWindow> handle(m_window->windowHandle());
-        const QPoint middle = widget->mapTo(m_window.get(), widget->rect().center());
-        QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, middle);
-        if (handle)
-            QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, middle);
+        return field->findChild<QLineEdit *>("stepEdit"_s);
     }
 
     /// A real key through the window.
     void type(const QString &text) const
     {
         const QMap<QString, Qt::Key> special{
-            {QStringLiteral("\r"), Qt::Key_Return},    {QStringLiteral("\x1b"), Qt::Key_Escape},
-            {QStringLiteral("\b"), Qt::Key_Backspace}, {QStringLiteral("."), Qt::Key_Period},
-            {QStringLiteral("del"), Qt::Key_Delete},   {QStringLiteral("up"), Qt::Key_Up}};
-        const Qt::Key key = special.value(text, Qt::Key(text.toUpper().at(0).unicode()));
-        const QString typed = text.length() > 1 ? QString() : text;
-        for (const auto action : {QTest::Press, QTest::Release})
-            QTest::sendKeyEvent(action, m_window->windowHandle(), key, typed, Qt::NoModifier);
+            {"\r"_s, Qt::Key_Return}, {"\x1b"_s, Qt::Key_Escape}, {"\b"_s, Qt::Key_Backspace},
+            {"."_s, Qt::Key_Period},  {"del"_s, Qt::Key_Delete},  {"up"_s, Qt::Key_Up}};
+        typeKey(m_window.get(), special.value(text, Qt::Key(text.toUpper().at(0).unicode())),
+                text.length() > 1 ? QString() : text);
     }
 
     std::unique_ptr<QMainWindow> m_window;

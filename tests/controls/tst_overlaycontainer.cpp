@@ -14,20 +14,21 @@
 
 #include <memory>
 
+#include <pointer.h>
+#include <tables.h>
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Controls::OverlayContainer;
 
 namespace
 {
 
-/// A dialog of 200 x 100 that can live inside a window.
-QDialog *makeDialog(QWidget *parent, Qt::WindowFlags flags = Qt::Widget)
+/// Shows a dialog in the middle.
+void showOn(OverlayContainer *overlay, QDialog *dialog,
+            OverlayContainer::OutsideClickAction action = OverlayContainer::None, bool dim = false)
 {
-    auto *dialog = new QDialog(parent);
-    dialog->setWindowFlags(flags); // the constructor makes a window of every dialog
-    dialog->setFixedSize(200, 100);
-    return dialog;
+    overlay->showWithDialog(dialog, action, dim, OverlayContainer::Centered, nullptr);
 }
 
 } // namespace
@@ -78,13 +79,11 @@ private Q_SLOTS:
     void showsCentredAndHidesWithTheDialog()
     {
         OverlayContainer overlay(m_window.get());
-        overlay.showWithDialog(nullptr, OverlayContainer::None, true, OverlayContainer::Centered,
-                               nullptr);
+        showOn(&overlay, nullptr, OverlayContainer::None, true);
         QVERIFY(overlay.isHidden());
 
-        QDialog *dialog = makeDialog(m_window.get());
-        overlay.showWithDialog(dialog, OverlayContainer::None, true, OverlayContainer::Centered,
-                               nullptr);
+        QDialog *dialog = makeDialog();
+        showOn(&overlay, dialog, OverlayContainer::None, true);
         QVERIFY(overlay.isVisible());
         QVERIFY(dialog->isVisible());
         QCOMPARE(overlay.activeDialog(), dialog);
@@ -107,40 +106,33 @@ private Q_SLOTS:
         QVERIFY(!overlay.activeDialog());
 
         // Shown again, it ends again; one ending is one ending.
-        overlay.showWithDialog(dialog, OverlayContainer::None, true, OverlayContainer::Centered,
-                               nullptr);
-        overlay.showWithDialog(dialog, OverlayContainer::None, true, OverlayContainer::Centered,
-                               nullptr);
+        showOn(&overlay, dialog, OverlayContainer::None, true);
+        showOn(&overlay, dialog, OverlayContainer::None, true);
         QVERIFY(overlay.isVisible() && dialog->isVisible());
         dialog->reject();
         QVERIFY(overlay.isHidden());
     }
 
-    void standsBesideItsAnchor_data()
-    {
-        QTest::addColumn<QRect>("anchor");
-        QTest::addColumn<QPoint>("position");
-        QTest::newRow("room to the left") << QRect(500, 100, 80, 40) << QPoint(300, 100);
-        QTest::newRow("near the left edge") << QRect(120, 100, 80, 40) << QPoint(0, 100);
-        QTest::newRow("near the bottom") << QRect(500, 450, 80, 40) << QPoint(300, 380);
-        QTest::newRow("beyond the right") << QRect(900, -50, 80, 40) << QPoint(440, 0);
-    }
-
     void standsBesideItsAnchor()
     {
-        QFETCH(QRect, anchor);
-        QFETCH(QPoint, position);
-        QWidget anchorWidget(m_window.get());
-        anchorWidget.setGeometry(anchor);
-        for (const Qt::WindowFlags flags :
-             {Qt::WindowFlags(Qt::Widget), Qt::Dialog | Qt::FramelessWindowHint}) {
-            OverlayContainer overlay(m_window.get());
-            QDialog *dialog = makeDialog(m_window.get(), flags);
-            overlay.showWithDialog(dialog, OverlayContainer::None, false,
-                                   OverlayContainer::LeftOfAnchor, &anchorWidget);
-            const QPoint origin = dialog->isWindow() ? m_window->mapToGlobal(QPoint()) : QPoint();
-            QCOMPARE(dialog->pos(), origin + position);
-            dialog->accept();
+        const QVector<QPair<QRect, QPoint>> places{
+            {{500, 100, 80, 40}, {300, 100}}, // room to the left
+            {{120, 100, 80, 40}, {0, 100}}, // near the left edge
+            {{500, 450, 80, 40}, {300, 380}}, // near the bottom
+            {{900, -50, 80, 40}, {440, 0}}}; // beyond the right
+        QWidget anchor(m_window.get());
+        for (const auto &[geometry, position] : places) {
+            anchor.setGeometry(geometry);
+            for (const Qt::WindowFlags flags :
+                 {Qt::WindowFlags(Qt::Widget), Qt::Dialog | Qt::FramelessWindowHint}) {
+                OverlayContainer overlay(m_window.get());
+                QDialog *dialog = makeDialog(flags);
+                overlay.showWithDialog(dialog, OverlayContainer::None, false,
+                                       OverlayContainer::LeftOfAnchor, &anchor);
+                const bool global = dialog->isWindow();
+                QCOMPARE(dialog->pos(), global ? m_window->mapToGlobal(position) : position);
+                dialog->accept();
+            }
         }
     }
 
@@ -154,9 +146,8 @@ private Q_SLOTS:
         palette.setColor(QPalette::Window, Qt::white);
         m_window->setPalette(palette);
         for (const bool dim : {true, false}) {
-            QDialog *dialog = makeDialog(m_window.get());
-            overlay.showWithDialog(dialog, OverlayContainer::None, dim, OverlayContainer::Centered,
-                                   nullptr);
+            QDialog *dialog = makeDialog();
+            showOn(&overlay, dialog, OverlayContainer::None, dim);
             // Black at 80 of 255 over white.
             const int grey = m_window->grab().toImage().pixelColor(3, 3).red();
             QVERIFY2(dim ? qAbs(grey - 175) <= 1 : grey == 255, qPrintable(QString::number(grey)));
@@ -165,55 +156,40 @@ private Q_SLOTS:
         QVERIFY(!overlay.testAttribute(Qt::WA_StyledBackground));
     }
 
-    void pressesOutside_data()
-    {
-        QTest::addColumn<int>("action");
-        QTest::addColumn<bool>("window");
-        for (const bool window : {false, true}) {
-            const char *kind = window ? "window" : "embedded";
-            QTest::addRow("none, %s", kind) << int(OverlayContainer::None) << window;
-            QTest::addRow("accept, %s", kind) << int(OverlayContainer::Accept) << window;
-            QTest::addRow("reject, %s", kind) << int(OverlayContainer::Reject) << window;
-        }
-    }
-
     void pressesOutside()
     {
-        QFETCH(int, action);
-        QFETCH(bool, window);
-        OverlayContainer overlay(m_window.get());
-        QDialog *dialog = makeDialog(m_window.get(), window ? Qt::Dialog : Qt::Widget);
-        overlay.showWithDialog(dialog, OverlayContainer::OutsideClickAction(action), false,
-                               OverlayContainer::Centered, nullptr);
-        QSignalSpy outside(&overlay, &OverlayContainer::outsideClicked);
-        QSignalSpy finished(dialog, &QDialog::finished);
-        QSignalSpy clicked(m_button, &QPushButton::clicked);
-        connect(&overlay, &OverlayContainer::outsideClicked, this,
-                [&] { QVERIFY(finished.isEmpty()); });
+        for (const Qt::WindowType type : {Qt::Widget, Qt::Dialog}) {
+            for (const auto action :
+                 {OverlayContainer::None, OverlayContainer::Accept, OverlayContainer::Reject}) {
+                OverlayContainer overlay(m_window.get());
+                QDialog *dialog = makeDialog(type);
+                showOn(&overlay, dialog, action);
+                QSignalSpy outside(&overlay, &OverlayContainer::outsideClicked);
+                QSignalSpy finished(dialog, &QDialog::finished);
+                QSignalSpy clicked(m_button, &QPushButton::clicked);
+                connect(&overlay, &OverlayContainer::outsideClicked, this,
+                        [&] { QVERIFY(finished.isEmpty()); });
 
-        QWindow *handle = m_window->windowHandle();
-        QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-        QVERIFY(outside.isEmpty() && dialog->isVisible());
-        QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-        QCOMPARE(outside.count(), 1);
-        QCOMPARE(finished.count(), action == OverlayContainer::None ? 0 : 1);
-        if (action != OverlayContainer::None)
-            QCOMPARE(finished.at(0).at(0).toInt(), action == OverlayContainer::Accept ? 1 : 0);
-        QCOMPARE(overlay.isVisible(), action == OverlayContainer::None);
-        QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-        QVERIFY(clicked.isEmpty());
+                mouseRelease(m_window.get(), QPoint(5, 5));
+                QVERIFY(outside.isEmpty() && dialog->isVisible());
+                mousePress(m_window.get(), QPoint(5, 5));
+                QCOMPARE(outside.count(), 1);
+                QCOMPARE(finished.count(), action == OverlayContainer::None ? 0 : 1);
+                QCOMPARE(dialog->result(), action == OverlayContainer::Accept ? 1 : 0);
+                QCOMPARE(overlay.isVisible(), action == OverlayContainer::None);
+                mouseRelease(m_window.get(), QPoint(5, 5));
+                QVERIFY(clicked.isEmpty());
+                dialog->hide();
+            }
+        }
     }
 
     void touchesAndWheelOutside()
     {
         OverlayContainer overlay(m_window.get());
-        QDialog *dialog = makeDialog(m_window.get());
-        overlay.showWithDialog(dialog, OverlayContainer::Reject, false, OverlayContainer::Centered,
-                               nullptr);
+        QDialog *dialog = makeDialog();
+        showOn(&overlay, dialog, OverlayContainer::Reject);
         QSignalSpy outside(&overlay, &OverlayContainer::outsideClicked);
-        auto *finger = QTest::createTouchDevice();
-        QWindow *handle = m_window->windowHandle();
-
         const auto wheelAt = [&](const QPointF &position) {
             QWheelEvent wheel(position, overlay.mapToGlobal(position.toPoint()), QPoint(),
                               QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
@@ -226,13 +202,13 @@ private Q_SLOTS:
         QVERIFY(!wheelAt(QPointF(320, 240)));
         QVERIFY(outside.isEmpty());
 
-        QTest::touchEvent(handle, finger).press(0, QPoint(320, 240), handle);
-        QTest::touchEvent(handle, finger).release(0, QPoint(320, 240), handle);
+        TouchScreen screen(m_window.get());
+        screen.tap(QPoint(320, 240));
         QVERIFY(outside.isEmpty());
-        QTest::touchEvent(handle, finger).press(0, QPoint(5, 5), handle);
+        screen.press(QPoint(5, 5));
         QCOMPARE(outside.count(), 1);
         QVERIFY(overlay.isHidden());
-        QTest::touchEvent(handle, finger).release(0, QPoint(5, 5), handle);
+        screen.release(QPoint(5, 5));
         QCOMPARE(outside.count(), 1);
     }
 
@@ -243,25 +219,22 @@ private Q_SLOTS:
         editor.setFocus();
         QTRY_VERIFY(editor.hasFocus());
         OverlayContainer overlay(m_window.get());
-        QDialog *dialog = makeDialog(m_window.get());
-        overlay.showWithDialog(dialog, OverlayContainer::None, false, OverlayContainer::Centered,
-                               nullptr);
-        QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-        QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(320, 240));
+        QDialog *dialog = makeDialog();
+        showOn(&overlay, dialog);
+        mouseClick(m_window.get(), QPoint(5, 5));
+        mouseClick(m_window.get(), QPoint(320, 240));
         QVERIFY(editor.hasFocus());
     }
 
     void tabStaysInsideTheDialog()
     {
         OverlayContainer overlay(m_window.get());
-        QDialog *dialog = makeDialog(m_window.get());
+        QDialog *dialog = makeDialog();
         QLineEdit first(dialog);
         QLineEdit second(dialog);
         QLineEdit disabled(dialog);
         disabled.setEnabled(false);
-        overlay.showWithDialog(dialog, OverlayContainer::None, false, OverlayContainer::Centered,
-                               nullptr);
+        showOn(&overlay, dialog);
         first.setFocus();
         for (QLineEdit *expected : {&second, &first, &second}) {
             QTest::keyClick(m_window->windowHandle(), Qt::Key_Tab);
@@ -277,46 +250,41 @@ private Q_SLOTS:
 
     void neverBlocksTheHostWithoutADialog_data()
     {
-        QTest::addColumn<QString>("how");
+        columns<QString>("how");
         for (const char *how :
              {"deleted", "hidden", "replaced", "deleted outside", "overlay outside"})
-            QTest::newRow(how) << QString::fromLatin1(how);
+            row(how, how);
     }
 
     void neverBlocksTheHostWithoutADialog()
     {
         QFETCH(QString, how);
         QPointer<OverlayContainer> overlay = new OverlayContainer(m_window.get());
-        QPointer<QDialog> dialog = makeDialog(m_window.get());
-        overlay->showWithDialog(dialog, OverlayContainer::Reject, false, OverlayContainer::Centered,
-                                nullptr);
-        if (how == QLatin1String("deleted")) {
+        QPointer<QDialog> dialog = makeDialog();
+        showOn(overlay, dialog, OverlayContainer::Reject);
+        if (how == "deleted"_s) {
             delete dialog;
-        } else if (how == QLatin1String("hidden")) {
+        } else if (how == "hidden"_s) {
             dialog->hide();
-        } else if (how == QLatin1String("replaced")) {
-            QDialog *second = makeDialog(m_window.get());
-            overlay->showWithDialog(second, OverlayContainer::None, false,
-                                    OverlayContainer::Centered, nullptr);
+        } else if (how == "replaced"_s) {
+            QDialog *second = makeDialog();
+            showOn(overlay, second);
             QVERIFY(dialog->isHidden());
             dialog->accept(); // no longer of any concern
             QVERIFY(overlay->isVisible());
             second->accept();
         } else {
             connect(overlay, &OverlayContainer::outsideClicked, this, [&] {
-                if (how == QLatin1String("deleted outside"))
+                if (how == "deleted outside"_s)
                     delete dialog;
                 else
                     delete overlay;
             });
-            QTest::mousePress(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                              QPoint(5, 5));
-            QTest::mouseRelease(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                                QPoint(5, 5));
+            mouseClick(m_window.get(), QPoint(5, 5));
         }
         QVERIFY(!overlay || overlay->isHidden());
         QSignalSpy clicked(m_button, &QPushButton::clicked);
-        QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+        mouseClick(m_window.get(), QPoint(5, 5));
         QCOMPARE(clicked.count(), 1);
     }
 
@@ -325,7 +293,7 @@ private Q_SLOTS:
         auto *host = new QWidget(m_window.get());
         auto *anchor = new QWidget(m_window.get());
         QPointer<OverlayContainer> overlay = new OverlayContainer(host);
-        QPointer<QDialog> dialog = makeDialog(m_window.get());
+        QPointer<QDialog> dialog = makeDialog();
         host->resize(300, 300);
         host->show();
         overlay->showWithDialog(dialog, OverlayContainer::None, true,
@@ -338,15 +306,23 @@ private Q_SLOTS:
 
         // Without a host the dialog's parent becomes it.
         OverlayContainer loose(nullptr);
-        dialog = makeDialog(m_window.get());
-        loose.showWithDialog(dialog, OverlayContainer::None, false, OverlayContainer::Centered,
-                             nullptr);
+        dialog = makeDialog();
+        showOn(&loose, dialog);
         QCOMPARE(loose.parentWidget(), m_window.get());
         QCOMPARE(loose.geometry(), m_window->rect());
         loose.setParent(nullptr);
     }
 
 private:
+    /// A dialog of 200 x 100 that can live inside the window.
+    QDialog *makeDialog(Qt::WindowFlags flags = Qt::Widget) const
+    {
+        auto *dialog = new QDialog(m_window.get());
+        dialog->setWindowFlags(flags); // the constructor makes a window of every dialog
+        dialog->setFixedSize(200, 100);
+        return dialog;
+    }
+
     std::unique_ptr<QWidget> m_window;
     QPushButton *m_button = nullptr;
 };

@@ -8,8 +8,10 @@
 
 #include <cmath>
 
+#include <tables.h>
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Controls::ScaledUnitAdapter;
 
 namespace
@@ -17,18 +19,12 @@ namespace
 
 QVector<ScaledUnitAdapter::Unit> timeUnits()
 {
-    return {{QStringLiteral("s"), 1.0},
-            {QStringLiteral("ms"), 1e-3},
-            {QStringLiteral("\u00b5s"), 1e-6},
-            {QStringLiteral("ns"), 1e-9}};
+    return {{"s"_s, 1.0}, {"ms"_s, 1e-3}, {"\u00b5s"_s, 1e-6}, {"ns"_s, 1e-9}};
 }
 
 QVector<ScaledUnitAdapter::Unit> frequencyUnits()
 {
-    return {{QStringLiteral("GHz"), 1e9},
-            {QStringLiteral("MHz"), 1e6},
-            {QStringLiteral("kHz"), 1e3},
-            {QStringLiteral("Hz"), 1.0}};
+    return {{"GHz"_s, 1e9}, {"MHz"_s, 1e6}, {"kHz"_s, 1e3}, {"Hz"_s, 1.0}};
 }
 
 } // namespace
@@ -38,29 +34,18 @@ class tst_ScaledUnitAdapter : public VnaTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsNumbersExactly_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("value");
-        const auto row = [](const char *text, double value) {
-            QTest::newRow(text) << QString::fromUtf8(text) << value;
-        };
-        row("470ns", 470e-9);
-        row("4.7 \u00b5s", 4.7e-6);
-        row("-2.5MS", -2.5e-3);
-        row("1e3ms", 1.0);
-        row(".5s", 0.5);
-        row("5.s", 5.0);
-        row("7", 7.0); // in the unit on show, which is s
-    }
-
     void readsNumbersExactly()
     {
-        QFETCH(QString, text);
         QLocale::setDefault(QLocale(QLocale::German));
         ScaledUnitAdapter adapter(timeUnits());
-        adapter.setRealValue(1.0);
-        QTEST(adapter.convertToBase(text), "value");
+        adapter.setRealValue(1.0); // in the unit on show, which is s, a bare number is read
+        const QVector<QPair<const char *, double>> texts{
+            {"470ns", 470e-9},   {"4.7 \u00b5s", 4.7e-6},
+            {"-2.5MS", -2.5e-3}, {"1e3ms", 1.0},
+            {".5s", 0.5},        {"5.s", 5.0},
+            {"7", 7.0}};
+        for (const auto &[text, value] : texts)
+            QCOMPARE(adapter.convertToBase(QString::fromUtf8(text)), value);
         QLocale::setDefault(QLocale::c());
     }
 
@@ -77,38 +62,34 @@ private Q_SLOTS:
     void choosesAndKeepsUnits()
     {
         ScaledUnitAdapter adapter(frequencyUnits());
-        QCOMPARE(adapter.getInputText(), QStringLiteral("0Hz"));
+        QCOMPARE(adapter.getInputText(), "0Hz"_s);
         adapter.setRealValue(2.45e9);
-        QCOMPARE(adapter.getInputText(), QStringLiteral("2.45GHz"));
+        QCOMPARE(adapter.getInputText(), "2.45GHz"_s);
         adapter.setRealValue(-999.0);
-        QCOMPARE(adapter.getInputText(), QStringLiteral("-999Hz"));
+        QCOMPARE(adapter.getInputText(), "-999Hz"_s);
         adapter.setRealValue(0.25);
-        QCOMPARE(adapter.getInputText(), QStringLiteral("0.25Hz"));
-        QCOMPARE(adapter.convertFromBaseValue(2.45e9, QStringLiteral("mhz")),
-                 QStringLiteral("2450MHz"));
+        QCOMPARE(adapter.getInputText(), "0.25Hz"_s);
+        QCOMPARE(adapter.convertFromBaseValue(2.45e9, "mhz"_s), "2450MHz"_s);
 
-        QCOMPARE(adapter.convertFromBaseValue(-1e-9, QStringLiteral("Hz")), QStringLiteral("0Hz"));
+        QCOMPARE(adapter.convertFromBaseValue(-1e-9, "Hz"_s), "0Hz"_s);
 
         adapter.setPreserveTrailingZeros(true);
-        adapter.setUnitDecimals(QStringLiteral("GHz"), 6);
+        adapter.setUnitDecimals("GHz"_s, 6);
         adapter.setRealValue(2.45e9);
-        QCOMPARE(adapter.getInputText(), QStringLiteral("2.450000GHz"));
+        QCOMPARE(adapter.getInputText(), "2.450000GHz"_s);
         adapter.setRealValue(2.45e6);
-        QCOMPARE(adapter.getInputText(), QStringLiteral("2.450MHz"));
+        QCOMPARE(adapter.getInputText(), "2.450MHz"_s);
     }
 
     void uselessUnitsAreLeftOut()
     {
-        ScaledUnitAdapter adapter({{QString(), 1.0},
-                                   {QStringLiteral("m"), 0.0},
-                                   {QStringLiteral("k"), qQNaN()},
-                                   {QStringLiteral("V"), 1.0}});
-        QCOMPARE(adapter.availableUnits(), QStringList{QStringLiteral("V")});
+        ScaledUnitAdapter adapter({{QString(), 1.0}, {"m"_s, 0.0}, {"k"_s, qQNaN()}, {"V"_s, 1.0}});
+        QCOMPARE(adapter.availableUnits(), QStringList{"V"_s});
 
         ScaledUnitAdapter bare({});
         bare.setRealValue(3.5);
-        QCOMPARE(bare.getInputText(), QStringLiteral("3.5"));
-        QCOMPARE(bare.convertToBase(QStringLiteral("-4")), -4.0);
+        QCOMPARE(bare.getInputText(), "3.5"_s);
+        QCOMPARE(bare.convertToBase("-4"_s), -4.0);
     }
 
     void formatsWhatItReads()

@@ -11,8 +11,10 @@
 #include <cmath>
 #include <limits>
 
+#include <tables.h>
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Controls::BaseUnitAdapter;
 using Controls::Step125Controller;
 using Controls::StepController;
@@ -24,52 +26,52 @@ class tst_StepController : public VnaTest::TestCase
 private Q_SLOTS:
     void linearSteps()
     {
-        StepController controller;
-        QSignalSpy stepped(&controller, &StepController::stepped);
-        controller.stepBy(5.0, 2);
-        QCOMPARE(stepped.last().at(0).toDouble(), 7.0);
-        controller.setSingleStep(0.1);
-        controller.stepBy(1.0, 3);
-        QVERIFY(qFuzzyCompare(stepped.last().at(0).toDouble(), 1.3));
-        controller.stepBy(1.0, -2);
-        QVERIFY(qFuzzyCompare(stepped.last().at(0).toDouble(), 0.8));
-        controller.stepBy(1.7, 0);
-        QCOMPARE(stepped.last().at(0).toDouble(), 1.7);
-        controller.setSingleStep(-1.0);
-        controller.stepBy(1.0, std::numeric_limits<int>::min());
-        QCOMPARE(stepped.last().at(0).toDouble(), 2147483649.0);
-        QCOMPARE(stepped.count(), 5);
+        struct Step {
+            double single, value;
+            int step;
+            double result;
+        };
+        for (const auto &[single, value, step, result] :
+             {Step{1.0, 5.0, 2, 7.0}, Step{0.1, 1.0, 3, 1.3}, Step{0.1, 1.0, -2, 0.8},
+              Step{0.1, 1.7, 0, 1.7},
+              Step{-1.0, 1.0, std::numeric_limits<int>::min(), 2147483649.0}}) {
+            StepController controller;
+            QCOMPARE(controller.singleStep(), 1.0);
+            controller.setSingleStep(single);
+            QSignalSpy stepped(&controller, &StepController::stepped);
+            controller.stepBy(value, step);
+            QCOMPARE(stepped.count(), 1);
+            QVERIFY(qFuzzyCompare(stepped.at(0).at(0).toDouble(), result));
+        }
     }
 
     void sequenceOf125_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("step");
-        QTest::addColumn<double>("result");
+        columns<double, int, double>("value", "step", "result");
         const int lowest = std::numeric_limits<int>::min();
-        QTest::newRow("1 up") << 1e3 << 1 << 2e3;
-        QTest::newRow("2 up") << 2e3 << 1 << 5e3;
-        QTest::newRow("5 up") << 5e3 << 1 << 1e4;
-        QTest::newRow("5 down") << 5e3 << -1 << 2e3;
-        QTest::newRow("2 down") << 2e3 << -1 << 1e3;
-        QTest::newRow("1 down") << 1e3 << -1 << 500.0;
-        QTest::newRow("between, up") << 3.3e3 << 1 << 5e3;
-        QTest::newRow("between, down") << 3.3e3 << -1 << 2e3;
-        QTest::newRow("above 5, up") << 7.5 << 1 << 10.0;
-        QTest::newRow("above 5, down") << 7.5 << -1 << 5.0;
-        QTest::newRow("the count is ignored") << 3.3e3 << 7 << 5e3;
-        QTest::newRow("the lowest count too") << 3.3e3 << lowest << 2e3;
-        QTest::newRow("no step") << 3.3 << 0 << 3.3;
-        QTest::newRow("zero") << 0.0 << 1 << 0.0;
-        QTest::newRow("nearly zero") << 1e-16 << -1 << 1e-16;
-        QTest::newRow("down into zero") << 1e-15 << -1 << 0.0;
-        QTest::newRow("a rounding error below 2") << 1.9999999999999998 << 1 << 2.0;
-        QTest::newRow("negative down is its decade") << -3.3e3 << -1 << -1e3;
-        QTest::newRow("negative down from 5") << -5e3 << -1 << -1e3;
-        QTest::newRow("negative down by the lowest count") << -5e3 << lowest << -1e3;
-        QTest::newRow("negative up mirrors") << -3.3e3 << 1 << -2e3;
-        QTest::newRow("negative up from 1") << -1e3 << 1 << -500.0;
-        QTest::newRow("infinite") << qInf() << 1 << qInf();
+        row("1 up", 1e3, 1, 2e3);
+        row("2 up", 2e3, 1, 5e3);
+        row("5 up", 5e3, 1, 1e4);
+        row("5 down", 5e3, -1, 2e3);
+        row("2 down", 2e3, -1, 1e3);
+        row("1 down", 1e3, -1, 500.0);
+        row("between, up", 3.3e3, 1, 5e3);
+        row("between, down", 3.3e3, -1, 2e3);
+        row("above 5, up", 7.5, 1, 10.0);
+        row("above 5, down", 7.5, -1, 5.0);
+        row("the count is ignored", 3.3e3, 7, 5e3);
+        row("the lowest count too", 3.3e3, lowest, 2e3);
+        row("no step", 3.3, 0, 3.3);
+        row("zero", 0.0, 1, 0.0);
+        row("nearly zero", 1e-16, -1, 1e-16);
+        row("down into zero", 1e-15, -1, 0.0);
+        row("a rounding error below 2", 1.9999999999999998, 1, 2.0);
+        row("negative down is its decade", -3.3e3, -1, -1e3);
+        row("negative down from 5", -5e3, -1, -1e3);
+        row("negative down by the lowest count", -5e3, lowest, -1e3);
+        row("negative up mirrors", -3.3e3, 1, -2e3);
+        row("negative up from 1", -1e3, 1, -500.0);
+        row("infinite", qInf(), 1, qInf());
     }
 
     void sequenceOf125()
@@ -126,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(stepped.at(0).at(0).toDouble(), 50.0);
         QCOMPARE(finished.count(), 1);
         QCOMPARE(finished.at(0).at(0).toDouble(), 10.0);
-        QCOMPARE(adapter.getInputText(), QStringLiteral("10"));
+        QCOMPARE(adapter.getInputText(), "10"_s);
 
         BaseUnitAdapter other;
         controller.setAdapter(&other);

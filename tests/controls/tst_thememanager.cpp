@@ -15,8 +15,10 @@
 
 #include <cstdio>
 
+#include <tables.h>
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Controls::ThemeManager;
 
 Q_DECLARE_METATYPE(Controls::ThemeManager::Theme)
@@ -52,7 +54,7 @@ QString adjustable()
 {
     const auto *theme = ThemeManager::instance();
     const auto name = [](const QColor &color) {
-        return color.isValid() ? color.name() : QStringLiteral("invalid");
+        return color.isValid() ? color.name() : "invalid"_s;
     };
     return QStringList{name(theme->gridColor()), name(theme->borderColor()),
                        name(theme->backgroundColor()), join(theme->getTracePalette()),
@@ -87,7 +89,7 @@ private Q_SLOTS:
     {
         qRegisterMetaType<ThemeManager::Theme>();
         // Built-in values, whatever stands beside the program.
-        qApp->setProperty("vnaSettingsPath", QStringLiteral("/nowhere/settings.ini"));
+        qApp->setProperty("vnaSettingsPath", "/nowhere/settings.ini"_s);
         QCOMPARE(ThemeManager::instance()->currentTheme(), ThemeManager::Dark);
         QVERIFY(qApp->styleSheet().isEmpty());
     }
@@ -100,16 +102,13 @@ private Q_SLOTS:
 
     void namedColors_data()
     {
-        QTest::addColumn<int>("theme");
-        QTest::addColumn<QString>("colors");
-        QTest::newRow("dark")
-            << int(ThemeManager::Dark)
-            << "#ff535b62 #ff000000 #ffffffff #641d6d9f #ff323232 #ff000000 #ff0000ce "
-               "#641d6d9f #ff2d2d2d #ff191919 #641d6d9f #ff292e33";
-        QTest::newRow("light")
-            << int(ThemeManager::Light)
-            << "#ffbab4af #ffece9e4 #ff2c3a45 #6463acf6 #ffd2cbc5 #ffece9e4 #ff63acf6 "
-               "#6463acf6 #ffe5ded9 #ffece9e4 #ff63acf6 #ffc7c2bd";
+        columns<int, QString>("theme", "colors");
+        row("dark", ThemeManager::Dark,
+            "#ff535b62 #ff000000 #ffffffff #641d6d9f #ff323232 #ff000000 #ff0000ce "
+            "#641d6d9f #ff2d2d2d #ff191919 #641d6d9f #ff292e33");
+        row("light", ThemeManager::Light,
+            "#ffbab4af #ffece9e4 #ff2c3a45 #6463acf6 #ffd2cbc5 #ffece9e4 #ff63acf6 "
+            "#6463acf6 #ffe5ded9 #ffece9e4 #ff63acf6 #ffc7c2bd");
     }
 
     void namedColors()
@@ -123,14 +122,14 @@ private Q_SLOTS:
             names << manager->getColor(QLatin1String(key)).name(QColor::HexArgb);
         QCOMPARE(names.join(QLatin1Char(' ')), colors);
 
-        QCOMPARE(manager->backgroundColor(), manager->getColor(QStringLiteral("backgroundColor")));
-        QCOMPARE(manager->borderColor(), manager->getColor(QStringLiteral("borderColor")));
-        QCOMPARE(manager->gridColor(), manager->getColor(QStringLiteral("gridColor")));
-        QCOMPARE(manager->highlightColor(), manager->getColor(QStringLiteral("highlightColor")));
+        QCOMPARE(manager->backgroundColor(), manager->getColor("backgroundColor"_s));
+        QCOMPARE(manager->borderColor(), manager->getColor("borderColor"_s));
+        QCOMPARE(manager->gridColor(), manager->getColor("gridColor"_s));
+        QCOMPARE(manager->highlightColor(), manager->getColor("highlightColor"_s));
         QCOMPARE(manager->labelButtonPressedColor(),
-                 manager->getColor(QStringLiteral("labelButtonPressedColor")));
-        QCOMPARE(manager->textColor(), manager->getColor(QStringLiteral("textColor")));
-        QVERIFY(!manager->getColor(QStringLiteral("noSuchColor")).isValid());
+                 manager->getColor("labelButtonPressedColor"_s));
+        QCOMPARE(manager->textColor(), manager->getColor("textColor"_s));
+        QVERIFY(!manager->getColor("noSuchColor"_s).isValid());
         QCOMPARE(adjustable(), QLatin1String(theme == ThemeManager::Dark ? s_dark : s_light));
     }
 
@@ -141,7 +140,7 @@ private Q_SLOTS:
             QStringList names;
             for (int id = 0; id < 8; ++id) {
                 const QString path = manager->getIconPath(id);
-                if (path.startsWith(QLatin1String(":/image/resource/")))
+                if (path.startsWith(":/image/resource/"_s))
                     names << path.mid(17);
             }
             return names.join(QLatin1Char(' '));
@@ -164,18 +163,18 @@ private Q_SLOTS:
     {
         auto *manager = ThemeManager::instance();
         Utils::Translator::instance()->setLanguage(QLocale(QLocale::Chinese));
-        QCOMPARE(manager->getIconPath(0), QStringLiteral(":/image/resource/logochinese_dark.png"));
+        QCOMPARE(manager->getIconPath(0), ":/image/resource/logochinese_dark.png"_s);
         manager->setTheme(ThemeManager::Light);
-        QCOMPARE(manager->getIconPath(0), QStringLiteral(":/image/resource/logochinese_light.svg"));
-        QCOMPARE(manager->getIconPath(1), QStringLiteral(":/image/resource/logo_light.png"));
+        QCOMPARE(manager->getIconPath(0), ":/image/resource/logochinese_light.svg"_s);
+        QCOMPARE(manager->getIconPath(1), ":/image/resource/logo_light.png"_s);
 
         QTemporaryDir root;
         const QString start = QDir::currentPath();
-        const QString logo = QFileInfo(root.path()).canonicalFilePath()
-            + QStringLiteral("/configuration/customized/logo.png");
-        QVERIFY(QDir(root.path()).mkpath(QStringLiteral("configuration/customized/logo.png")));
-        QVERIFY(QDir(root.path()).mkpath(QStringLiteral("work")));
-        QVERIFY(QDir::setCurrent(root.filePath(QStringLiteral("work"))));
+        const QString logo =
+            QFileInfo(root.path()).canonicalFilePath() + "/configuration/customized/logo.png"_s;
+        QVERIFY(QDir(root.path()).mkpath("configuration/customized/logo.png"_s));
+        QVERIFY(QDir(root.path()).mkpath("work"_s));
+        QVERIFY(QDir::setCurrent(root.filePath("work"_s)));
         const QString withFolder = manager->getIconPath(0);
         QVERIFY(QDir().rmdir(logo));
         QImage(4, 4, QImage::Format_RGB32).save(logo);
@@ -186,11 +185,11 @@ private Q_SLOTS:
         QVERIFY(QDir::setCurrent(start));
         Utils::Translator::instance()->setLanguage(QLocale(QLocale::English));
 
-        QCOMPARE(withFolder, QStringLiteral(":/image/resource/logochinese_light.svg"));
+        QCOMPARE(withFolder, ":/image/resource/logochinese_light.svg"_s);
         QCOMPARE(light, logo);
         QCOMPARE(dark, logo);
-        QCOMPARE(builtIn, QStringLiteral(":/image/resource/logo.png"));
-        QCOMPARE(manager->getIconPath(0), QStringLiteral(":/image/resource/logo.png"));
+        QCOMPARE(builtIn, ":/image/resource/logo.png"_s);
+        QCOMPARE(manager->getIconPath(0), ":/image/resource/logo.png"_s);
     }
 
     void switchingTellsEveryTimeAndLast()
@@ -224,65 +223,58 @@ private Q_SLOTS:
 
     void settings_data()
     {
-        const QString dark = QLatin1String(s_dark);
-        const QString light = QLatin1String(s_light);
-        const QString red = QString(light).replace(QLatin1String("#007a52 #a84f00 #0068b0 #9c27b0"),
-                                                   QLatin1String("#ff0000 #00ff00"));
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QString>("expectedDark");
-        QTest::addColumn<QString>("expectedLight");
-        const QByteArray group = "[ThemeColors]\n";
-
-        QTest::newRow("empty") << QByteArray() << dark << light;
-        QTest::newRow("binary") << QByteArrayLiteral("\x7f\x45LF\0\x01\xff\xfe[\n=\"\0\r") << dark
-                                << light;
-        QTest::newRow("other group")
-            << QByteArray("[Colors]\nDark\\gridColor=red\n") << dark << light;
-        QTest::newRow("list quoted")
-            << group + "Light\\tracePalette=\"#ff0000,#00ff00\"" << dark << red;
-        QTest::newRow("list bare") << group + "Light\\tracePalette=#ff0000,#00ff00" << dark << red;
-        QTest::newRow("list with blanks") << group + "Light/tracePalette = #ff0000 , #00ff00 \n"
-                                          << dark << red;
-        QTest::newRow("list quoted one by one")
-            << group + "Light/tracePalette=\"#ff0000\", \"#00ff00\"\r\n"
-            << dark << red;
-        QTest::newRow("list with gaps and words")
-            << group + "Light\\tracePalette=red, reddish, , lime" << dark << red;
-        QTest::newRow("list with Chinese after a mark")
-            << QByteArray("\xef\xbb\xbf") + group + "Light\\tracePalette=\"red,\xe7\xba\xa2,lime\""
-            << dark << red;
-        QTest::newRow("list of nothing valid")
-            << group + "Light\\tracePalette=12, #fffff, rgb(1,2,3)" << dark << light;
-        QTest::newRow("all palettes")
-            << group
-                + "Dark\\tracePalette=red\nDark\\memoryTracePalette="
-                  "lime\nLight\\memoryTracePalette=blue,red"
-            << "#292e33|#535b62|#000000|#ff0000|#00ff00"
-            << "#c7c2bd|#bab4af|#ece9e4|#007a52 #a84f00 #0068b0 #9c27b0|#0000ff #ff0000";
-        QTest::newRow("all colours")
-            << group
-                + "Dark\\gridColor=#111111\nDark\\borderColor=\"#222222\"\nDark\\backgroundColor="
-                  "red\n"
-                  "Light/gridColor=#444444 ; "
-                  "thin\nLight/borderColor=#555555\nLight/backgroundColor=#666"
-            << QString(dark).replace(0, 23, QStringLiteral("#111111|#222222|#ff0000"))
-            << QString(light).replace(0, 23, QStringLiteral("#444444|#555555|#666666"));
-        QTest::newRow("colour that is none")
-            << group + "Dark\\gridColor=greyish\nDark\\textColor=red\nLight\\gridColor="
-            << QString(dark).replace(0, 7, QStringLiteral("invalid"))
-            << QString(light).replace(0, 7, QStringLiteral("invalid"));
+        const QString dark = QString::fromLatin1(s_dark);
+        const QString light = QString::fromLatin1(s_light);
+        const QString traces = "#007a52 #a84f00 #0068b0 #9c27b0"_s;
+        const QString red = QString(light).replace(traces, "#ff0000 #00ff00"_s);
+        const auto invalid = [](QString text) { return text.replace(0, 7, "invalid"_s); };
+        columns<QByteArray, QString, QString>("file", "expectedDark", "expectedLight");
+        const auto file = [](const char *name, const QByteArray &text, const QString &inDark,
+                             const QString &inLight) {
+            row(name, "[ThemeColors]\n" + text, inDark, inLight);
+        };
+        const auto list = [&](const char *name, const char *text) {
+            file(name, QByteArray("Light\\tracePalette=") + text, dark, red);
+        };
+        row("empty", QByteArray(), dark, light);
+        row("binary", QByteArrayLiteral("\x7f\x45LF\0\x01\xff\xfe[\n=\"\0\r"), dark, light);
+        row("other group", QByteArray("[Colors]\nDark\\gridColor=red\n"), dark, light);
+        list("list quoted", "\"#ff0000,#00ff00\"");
+        list("list bare", "#ff0000,#00ff00");
+        list("list with gaps and words", "red, reddish, , lime");
+        file("list with blanks", "Light/tracePalette = #ff0000 , #00ff00 \n", dark, red);
+        file("list quoted one by one", "Light/tracePalette=\"#ff0000\", \"#00ff00\"\r\n", dark,
+             red);
+        row("list with Chinese after a mark",
+            QByteArray("\xef\xbb\xbf[ThemeColors]\nLight\\tracePalette=\"red,\xe7\xba\xa2,lime\""),
+            dark, red);
+        file("list of nothing valid", "Light\\tracePalette=12, #fffff, rgb(1,2,3)", dark, light);
+        file("all palettes",
+             "Dark\\tracePalette=red\nDark\\memoryTracePalette=lime\n"
+             "Light\\memoryTracePalette=blue,red",
+             "#292e33|#535b62|#000000|#ff0000|#00ff00"_s,
+             "#c7c2bd|#bab4af|#ece9e4|"_s + traces + "|#0000ff #ff0000"_s);
+        file("all colours",
+             "Dark\\gridColor=#111111\nDark\\borderColor=\"#222222\"\nDark\\backgroundColor=red\n"
+             "Light/gridColor=#444444 ; thin\nLight/borderColor=#555555\n"
+             "Light/backgroundColor=#666",
+             QString(dark).replace(0, 23, "#111111|#222222|#ff0000"_s),
+             QString(light).replace(0, 23, "#444444|#555555|#666666"_s));
+        file("colour that is none",
+             "Dark\\gridColor=greyish\nDark\\textColor=red\nLight\\gridColor=", invalid(dark),
+             invalid(light));
     }
 
     void settings()
     {
         QFETCH(QByteArray, file);
-        QFETCH(QString, expectedDark);
-        QFETCH(QString, expectedLight);
         QTemporaryFile settings;
         QVERIFY(settings.open());
         settings.write(file);
         settings.close();
-        QCOMPARE(adjustableWith(settings.fileName()), QStringList({expectedDark, expectedLight}));
+        const QStringList colors = adjustableWith(settings.fileName());
+        QTEST(colors.value(0), "expectedDark");
+        QTEST(colors.mid(1).join(QLatin1Char('\n')), "expectedLight");
         // Nothing is ever written back.
         QVERIFY(settings.open());
         QCOMPARE(settings.readAll(), file);
@@ -293,50 +285,38 @@ private Q_SLOTS:
         const QStringList defaults{QLatin1String(s_dark), QLatin1String(s_light)};
         QTemporaryDir folder;
         QCOMPARE(adjustableWith(folder.path()), defaults);
-        QCOMPARE(adjustableWith(folder.filePath(QStringLiteral("missing/../absent.ini"))),
-                 defaults);
-        QCOMPARE(adjustableWith(QStringLiteral("/dev/null")), defaults);
-    }
-
-    void invertedImage_data()
-    {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("ARGB32") << int(QImage::Format_ARGB32) << int(QImage::Format_ARGB32);
-        QTest::newRow("RGB32") << int(QImage::Format_RGB32) << int(QImage::Format_RGB32);
-        QTest::newRow("premultiplied")
-            << int(QImage::Format_ARGB32_Premultiplied) << int(QImage::Format_ARGB32);
-        QTest::newRow("16 bit") << int(QImage::Format_RGB16) << int(QImage::Format_ARGB32);
-        QTest::newRow("indexed") << int(QImage::Format_Indexed8) << int(QImage::Format_ARGB32);
+        QCOMPARE(adjustableWith(folder.filePath("missing/../absent.ini"_s)), defaults);
+        QCOMPARE(adjustableWith("/dev/null"_s), defaults);
     }
 
     void invertedImage()
     {
-        QFETCH(int, format);
-        QFETCH(int, expected);
+        QVERIFY(Controls::invertImageColors(QImage()).isNull());
         // Odd width: scan lines of 16-bit and indexed images are padded.
         QImage source(3, 2, QImage::Format_ARGB32);
         source.fill(Qt::white);
         source.setPixelColor(1, 0, QColor(255, 0, 0));
         source.setPixelColor(2, 1, QColor(0, 255, 255, 0));
-        const QImage image = source.convertToFormat(QImage::Format(format));
-        const QImage before = image.copy();
-        const QImage inverted = Controls::invertImageColors(image);
-        QCOMPARE(int(inverted.format()), expected);
-        QCOMPARE(inverted.pixel(0, 0), qRgb(0, 0, 0));
-        QCOMPARE(inverted.pixel(1, 0), qRgb(0, 255, 255));
-        QCOMPARE(qAlpha(inverted.pixel(2, 1)), image.hasAlphaChannel() ? 0 : 255);
-        QCOMPARE(image, before);
+        for (const auto format :
+             {QImage::Format_ARGB32, QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied,
+              QImage::Format_RGB16, QImage::Format_Indexed8}) {
+            const QImage image = source.convertToFormat(format);
+            const QImage before = image.copy();
+            const QImage inverted = Controls::invertImageColors(image);
+            const bool stays = format == QImage::Format_RGB32;
+            QCOMPARE(inverted.format(), stays ? format : QImage::Format_ARGB32);
+            QCOMPARE(inverted.pixel(0, 0), qRgb(0, 0, 0));
+            QCOMPARE(inverted.pixel(1, 0), qRgb(0, 255, 255));
+            QCOMPARE(qAlpha(inverted.pixel(2, 1)), image.hasAlphaChannel() ? 0 : 255);
+            QCOMPARE(image, before);
+        }
     }
-
-    void invertedImageOfNothing() { QVERIFY(Controls::invertImageColors(QImage()).isNull()); }
 
 private:
     static QStringList adjustableWith(const QString &settings)
     {
         QProcess process;
-        process.start(QCoreApplication::applicationFilePath(),
-                      {QStringLiteral("--print"), settings});
+        process.start(QCoreApplication::applicationFilePath(), {"--print"_s, settings});
         if (!process.waitForFinished() || process.exitCode() != 0)
             return {QString::fromLocal8Bit(process.readAllStandardError())};
         // A silent reading: nothing may be reported or logged.

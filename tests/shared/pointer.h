@@ -47,10 +47,14 @@ inline void mouseRelease(const QWidget *widget)
     mouseRelease(widget, widget->rect().center());
 }
 
+/// The press may destroy the widget, and its window.
 inline void mouseClick(const QWidget *widget, const QPoint &pos)
 {
-    mousePress(widget, pos);
-    mouseRelease(widget, pos);
+    const QPointer<QWindow> window = widget->window()->windowHandle();
+    const QPoint point = inWindow(widget, pos);
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, point);
+    if (window)
+        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, point);
 }
 
 inline void mouseClick(const QWidget *widget)

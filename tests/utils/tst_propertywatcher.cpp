@@ -3,17 +3,56 @@
 #include <utils/propertywatcher.h>
 
 #include <QPointer>
-#include <QSignalSpy>
 #include <QtTest>
 
+#include <tables.h>
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Utils::PropertyWatcher;
 
 namespace
 {
 
 const QString s_name = QStringLiteral("cursorPos");
+
+QString text(const QVariant &value)
+{
+    return value.isValid() ? value.toString() : "none"_s;
+}
+
+/// A watcher of one property of one object, and what it told in order.
+struct Watched {
+    Watched()
+    {
+        QObject::connect(&watcher, &PropertyWatcher::propertyChanged, &object,
+                         [this](QObject *of, const QString &name, auto last, auto now) {
+                             if (of == &object && name == s_name)
+                                 log << text(last) + ">"_s + text(now);
+                         });
+        QObject::connect(&watcher, &PropertyWatcher::propertyInitialized, &object,
+                         [this](QObject *of, const QString &name, const QVariant &value) {
+                             if (of == &object && name == s_name)
+                                 log << "init "_s + text(value);
+                         });
+    }
+    void watch(const QString &name = s_name, const QString &note = "call "_s)
+    {
+        watcher.watchProperty(&object, name,
+                              [this, note](const QVariant &value) { log << note + text(value); });
+    }
+    /// What setting the property makes it tell.
+    QString set(const QVariant &value, const char *name = "cursorPos")
+    {
+        log.clear();
+        object.setProperty(name, value);
+        return log.join(", "_s);
+    }
+
+    QObject object;
+    PropertyWatcher watcher;
+    QStringList log;
+};
 
 } // namespace
 
@@ -22,124 +61,55 @@ class tst_PropertyWatcher : public VnaTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void reportsInitialisationChangeAndRemoval()
+    void tellsEverySetInOrder()
     {
-        QObject object;
-        PropertyWatcher watcher;
-        QSignalSpy changed(&watcher, &PropertyWatcher::propertyChanged);
-        QSignalSpy initialised(&watcher, &PropertyWatcher::propertyInitialized);
-        QVariantList seen;
-        watcher.watchProperty(&object, s_name, [&](const QVariant &value) { seen << value; });
-        QVERIFY(changed.isEmpty() && seen.isEmpty());
-
-        object.setProperty("cursorPos", 3);
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(changed.at(0).at(0).value<QObject *>(), &object);
-        QCOMPARE(changed.at(0).at(1).toString(), s_name);
-        QVERIFY(!changed.at(0).at(2).value<QVariant>().isValid());
-        QCOMPARE(changed.at(0).at(3).value<QVariant>(), QVariant(3));
-        QCOMPARE(initialised.count(), 1);
-
-        object.setProperty("cursorPos", 5);
-        QCOMPARE(changed.count(), 2);
-        QCOMPARE(changed.at(1).at(2).value<QVariant>(), QVariant(3));
-
-        object.setProperty("cursorPos", QVariant());
-        QCOMPARE(changed.count(), 3);
-        QVERIFY(!changed.at(2).at(3).value<QVariant>().isValid());
-        QCOMPARE(initialised.count(), 1);
-        QCOMPARE(seen, QVariantList({3, 5, QVariant()}));
-
-        object.setProperty("other", 1);
-        QCOMPARE(changed.count(), 3);
-    }
-
-    void anEqualValueOnlyCallsBack()
-    {
-        QObject object;
-        object.setProperty("cursorPos", 2);
-        PropertyWatcher watcher;
-        QSignalSpy changed(&watcher, &PropertyWatcher::propertyChanged);
-        int calls = 0;
-        watcher.watchProperty(&object, s_name, [&](const QVariant &) { ++calls; });
-
-        object.setProperty("cursorPos", 2.0); // the type changes, the value does not
-        QCOMPARE(calls, 1);
-        QVERIFY(changed.isEmpty());
-
-        object.setProperty("cursorPos", qQNaN());
-        object.setProperty("cursorPos", qQNaN());
-        QCOMPARE(calls, 3);
-        QCOMPARE(changed.count(), 1);
-    }
-
-    void theFirstWatchOfAPropertyStays()
-    {
-        QObject object;
-        PropertyWatcher watcher;
-        int first = 0;
-        int second = 0;
-        watcher.watchProperty(&object, s_name, [&](const QVariant &) { ++first; });
-        watcher.watchProperty(&object, s_name, [&](const QVariant &) { ++second; });
-        watcher.watchProperty(nullptr, s_name, [&](const QVariant &) { ++second; });
-        object.setProperty("cursorPos", 1);
-        QCOMPARE(first, 1);
-        QCOMPARE(second, 0);
+        Watched watched;
+        watched.watch();
+        watched.watch(s_name, "second "_s); // the first one stays
+        watched.watcher.watchProperty(nullptr, s_name, {});
+        QVERIFY(watched.log.isEmpty());
+        QCOMPARE(watched.set(3), "none>3, init 3, call 3"_s);
+        QCOMPARE(watched.set(5), "3>5, call 5"_s);
+        QCOMPARE(watched.set(5.0), "call 5"_s); // the type changes, the value does not
+        QCOMPARE(watched.set(qQNaN()), "5>nan, call nan"_s);
+        QCOMPARE(watched.set(qQNaN()), "call nan"_s);
+        QCOMPARE(watched.set(QVariant()), "nan>none, call none"_s);
+        QCOMPARE(watched.set(1, "other"), QString());
     }
 
     void watchesEnd()
     {
-        QObject object;
-        PropertyWatcher watcher;
-        int calls = 0;
-        const auto count = [&](const QVariant &) { ++calls; };
-        watcher.watchProperty(&object, s_name, count);
-        watcher.watchProperty(&object, QStringLiteral("inputText"), count);
-
-        watcher.stopWatching(&object, s_name);
-        object.setProperty("cursorPos", 1);
-        QCOMPARE(calls, 0);
-        object.setProperty("inputText", 1);
-        QCOMPARE(calls, 1);
-
-        watcher.stopWatchingObject(&object);
-        watcher.stopWatchingObject(nullptr);
-        object.setProperty("inputText", 2);
-        QCOMPARE(calls, 1);
-
-        // A new watch starts from the value of the moment.
-        QSignalSpy initialised(&watcher, &PropertyWatcher::propertyInitialized);
-        watcher.watchProperty(&object, s_name, count);
-        object.setProperty("cursorPos", 2);
-        QCOMPARE(calls, 2);
-        QVERIFY(initialised.isEmpty());
+        Watched watched;
+        watched.watch();
+        watched.watch("inputText"_s);
+        watched.watcher.stopWatching(&watched.object, s_name);
+        QCOMPARE(watched.set(1), QString());
+        QCOMPARE(watched.set(1, "inputText"), "call 1"_s);
+        watched.watcher.stopWatchingObject(&watched.object);
+        watched.watcher.stopWatchingObject(nullptr);
+        QCOMPARE(watched.set(2, "inputText"), QString());
+        watched.watch(); // starts from the value of the moment
+        QCOMPARE(watched.set(2), "1>2, call 2"_s);
     }
 
     void settingThePropertyInASlotIsReportedInOrder()
     {
-        QObject object;
-        PropertyWatcher watcher;
-        QVector<QPair<int, int>> changes;
-        connect(&watcher, &PropertyWatcher::propertyChanged, this,
-                [&](QObject *, const QString &, const QVariant &last, const QVariant &now) {
-                    changes << qMakePair(last.toInt(), now.toInt());
-                    if (now.toInt() > 4)
-                        object.setProperty("cursorPos", 4);
-                });
-        watcher.watchProperty(&object, s_name, {});
-        object.setProperty("cursorPos", 9);
-        object.setProperty("cursorPos", 9);
-        const QVector<QPair<int, int>> expected{{0, 9}, {9, 4}, {4, 9}, {9, 4}};
-        QCOMPARE(changes, expected);
+        Watched watched;
+        connect(&watched.watcher, &PropertyWatcher::propertyChanged, this, [&] {
+            if (watched.object.property("cursorPos").toInt() > 4)
+                watched.object.setProperty("cursorPos", 4);
+        });
+        watched.watcher.watchProperty(&watched.object, s_name, {});
+        QCOMPARE(watched.set(9), "none>9, 9>4, init 9"_s);
+        QCOMPARE(watched.set(9), "4>9, 9>4"_s);
     }
 
     void survivesAnyOrderOfDestruction_data()
     {
-        QTest::addColumn<QString>("victim");
-        QTest::addColumn<bool>("inCallback");
+        columns<QString, bool>("victim", "inCallback");
         for (const char *victim : {"object", "watcher", "watch"}) {
-            QTest::addRow("%s in the signal", victim) << QString::fromLatin1(victim) << false;
-            QTest::addRow("%s in the callback", victim) << QString::fromLatin1(victim) << true;
+            QTest::addRow("%s in the signal", victim) << victim << false;
+            QTest::addRow("%s in the callback", victim) << victim << true;
         }
     }
 
@@ -151,9 +121,9 @@ private Q_SLOTS:
         QPointer<PropertyWatcher> watcher = new PropertyWatcher;
         int calls = 0;
         const auto destroy = [&] {
-            if (victim == QLatin1String("object"))
+            if (victim == "object"_s)
                 delete object;
-            else if (victim == QLatin1String("watcher"))
+            else if (victim == "watcher"_s)
                 delete watcher;
             else
                 watcher->stopWatching(object, s_name);

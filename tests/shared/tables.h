@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QtTest>
+
+#include <type_traits>
+
+/*! Short forms for tables of test data. A row takes UTF-8 literals as they are:
+    \code
+    VnaTest::columns<QString, double>("text", "value");
+    VnaTest::row("micro", "4.7µs", 4.7e-6);
+    \endcode */
+namespace VnaTest
+{
+
+inline QString operator""_s(const char *text, std::size_t length)
+{
+    return QString::fromUtf8(text, int(length));
+}
+
+/// Declares the columns of a table: a name for each of the types.
+template<typename... Types, typename... Names>
+void columns(Names... names)
+{
+    (QTest::addColumn<Types>(names), ...);
+}
+
+/// Adds a row of one value for each column. Text is UTF-8, and an enumerator an int.
+template<typename... Values>
+void row(const char *name, const Values &...values)
+{
+    QTestData &data = QTest::newRow(name);
+    const auto add = [&data](const auto &value) {
+        if constexpr (std::is_enum_v<std::decay_t<decltype(value)>>)
+            data << int(value);
+        else
+            data << value;
+    };
+    (add(values), ...);
+}
+
+} // namespace VnaTest
