@@ -201,8 +201,7 @@ bool MarkerStatusItem::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::MouseButtonRelease)
             routingMouse = false;
         event->accept();
-        // A copy, since the router may replace itself or delete this item.
-        const auto router = mouseEventRouter;
+        const auto router = mouseEventRouter; // a copy, as for the press
         if (router)
             router(static_cast<QMouseEvent *>(event));
         return true;
@@ -343,17 +342,18 @@ QString MarkerStatusItem::wrapTextToWidth(const QString &text, int maxWidth) con
 
 bool MarkerStatusItem::filterPress(QMouseEvent *event)
 {
-    routingMouse = false;
-    if (event->button() == Qt::LeftButton && mouseEventRouter) {
+    bool taken = false;
+    if (event->button() == Qt::LeftButton) {
         const QPointer<MarkerStatusItem> self(this);
+        // A copy, since the router may replace itself or delete this item.
         const auto router = mouseEventRouter;
-        const bool taken = router(event);
+        taken = router && router(event);
         if (!self)
             return true;
         routingMouse = taken;
     }
     event->accept();
-    if (!routingMouse)
+    if (!taken)
         Q_EMIT clicked();
     return true;
 }
