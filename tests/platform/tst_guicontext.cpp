@@ -1,15 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/guicontext.h>
+#include <platform/translator.h>
 
+#include <QLocale>
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <tables.h>
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Utils::GUIContext;
+using Utils::Translator;
 
-class tst_GUIContext : public VnaTest::TestCase
+/// What the whole application shares: its look and its language.
+class tst_GUIContext : public TestCase
 {
     Q_OBJECT
 
@@ -19,7 +25,6 @@ private Q_SLOTS:
         GUIContext *context = GUIContext::instance();
         QCOMPARE(GUIContext::instance(), context);
         QVERIFY(context->getIsDarkTheme());
-
         QSignalSpy changed(context, &GUIContext::darkThemeChanged);
         context->setIsDarkTheme(true);
         QCOMPARE(changed.count(), 0);
@@ -27,6 +32,22 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1);
         QCOMPARE(changed.at(0).at(0).toBool(), false);
         QVERIFY(!context->getIsDarkTheme());
+    }
+
+    void namesALanguageInItsOwnWords()
+    {
+        Translator *translator = Translator::instance();
+        QCOMPARE(translator->currentLanguage(), "English"_s);
+        QSignalSpy changed(translator, &Translator::languageChanged);
+        translator->setLanguage(QLocale(QLocale::English, QLocale::UnitedKingdom));
+        translator->setLanguage(QLocale::c());
+        QCOMPARE(changed.count(), 0);
+        translator->setLanguage(QLocale(QLocale::Chinese, QLocale::China));
+        QVERIFY(translator->currentLanguage().contains(QChar(0x4E2D)));
+        translator->setLanguage(QLocale(QLocale::German));
+        QCOMPARE(translator->currentLanguage(), "Deutsch"_s);
+        QCOMPARE(changed.count(), 2);
+        QCOMPARE(changed.at(1).at(0).toString(), "Deutsch"_s);
     }
 };
 

@@ -8,9 +8,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <tables.h>
 #include <vnatest.h>
 
 using Utils::StyleHelper;
+using namespace VnaTest;
 
 namespace
 {
@@ -25,63 +27,55 @@ protected:
     void changeEvent(QEvent *event) override
     {
         QLabel::changeEvent(event);
-        if (event->type() == QEvent::StyleChange)
-            ++count;
+        count += event->type() == QEvent::StyleChange;
     }
 };
 
-QString write(const QTemporaryDir &folder, const QString &name, const QByteArray &text)
-{
-    QFile file(folder.filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() ? file.fileName()
-                                                                              : QString();
-}
-
 } // namespace
 
-class tst_StyleHelper : public VnaTest::TestCase
+class tst_StyleHelper : public TestCase
 {
     Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+    QString write(const QString &name, const QByteArray &text) const
+    {
+        QFile file(m_folder.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() ? file.fileName()
+                                                                                  : QString();
+    }
 
 private Q_SLOTS:
     void laterFilesWinAndNothingStaysBehind()
     {
-        QTemporaryDir folder;
         // Without a line break at its end, and ending in a comment that must not swallow the next
         // file.
-        const QString first = write(folder, QStringLiteral("a.css"),
-                                    "QLabel { color: #ff0000; margin: 7px; } /* \xc3\xa9 */");
-        const QString second = write(folder, QStringLiteral("b.css"), "QLabel { color: #00ff00; }");
-        const QString missing = folder.filePath(QStringLiteral("missing.css"));
+        const QString first =
+            write("a.css"_s, "QLabel { color: #ff0000; margin: 7px; } /* \xc3\xa9 */");
+        const QString second = write("b.css"_s, "QLabel { color: #00ff00; }");
+        const QString missing = m_folder.filePath("missing.css"_s);
 
-        QLabel label(QStringLiteral("text"));
+        QLabel label("text"_s);
         const QSize plain = label.sizeHint();
-        StyleHelper::setThemes({first, missing, folder.path(), second});
-        QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::green));
+        const auto color = [&label] { return label.palette().color(QPalette::WindowText); };
+        StyleHelper::setThemes({first, missing, m_folder.path(), second});
+        QCOMPARE(color(), QColor(Qt::green));
         QVERIFY(label.sizeHint() != plain);
         QVERIFY(qApp->styleSheet().contains(QChar(0xe9)));
-
-        StyleHelper::setThemes({second, first});
-        QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::red));
+        // Relative names start at the application.
+        const QDir application(QCoreApplication::applicationDirPath());
+        StyleHelper::setThemes({second, application.relativeFilePath(first)});
+        QCOMPARE(color(), QColor(Qt::red));
         StyleHelper::setThemes({second});
         QCOMPARE(label.sizeHint(), plain);
         StyleHelper::setThemes({});
         QVERIFY(qApp->styleSheet().trimmed().isEmpty());
     }
 
-    void relativeNamesStartAtTheApplication()
-    {
-        QTemporaryDir folder;
-        const QString file = write(folder, QStringLiteral("a.css"), "QLabel { color: #0000ff; }");
-        StyleHelper::setThemes(
-            {QDir(QCoreApplication::applicationDirPath()).relativeFilePath(file)});
-        QVERIFY(qApp->styleSheet().contains(QLatin1String("#0000ff")));
-    }
-
     void identicalTextCostsNoPolish()
     {
-        QTemporaryDir folder;
-        const QString file = write(folder, QStringLiteral("a.css"), "QLabel { margin: 3px; }");
+        const QString file = write("a.css"_s, "QLabel { margin: 3px; }");
         PolishCounter label;
         label.show();
         StyleHelper::setThemes({file});
@@ -90,7 +84,7 @@ private Q_SLOTS:
         StyleHelper::setThemes({file});
         QCOMPARE(label.count, once);
         // Edited meanwhile: the same call takes it in.
-        write(folder, QStringLiteral("a.css"), "QLabel { margin: 4px; }");
+        write("a.css"_s, "QLabel { margin: 4px; }");
         StyleHelper::setThemes({file});
         QVERIFY(label.count > once);
     }

@@ -11,11 +11,12 @@
 
 #include <memory>
 
+#include <tables.h>
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Graph::LayoutManagerProifle;
 using Graph::LayoutType;
-using Profile::TabletComboBox2;
 using Adapter = Profile::EnumProfileAdapter<LayoutType>;
 
 namespace
@@ -24,129 +25,115 @@ namespace
 /// Offers three of the four layouts.
 std::unique_ptr<Adapter> adapterOf(LayoutManagerProifle *profile)
 {
-    return std::make_unique<Adapter>(
-        QVector<Adapter::Entry>{{LayoutType::Quad, QStringLiteral("four")},
-                                {LayoutType::Single, QStringLiteral("one")},
-                                {LayoutType::Stacked, QStringLiteral("two")}},
-        profile, &LayoutManagerProifle::layoutType, &LayoutManagerProifle::setLayoutType,
-        &LayoutManagerProifle::layoutTypeChanged);
+    return std::make_unique<Adapter>(QVector<Adapter::Entry>{{LayoutType::Quad, "four"_s},
+                                                             {LayoutType::Single, "one"_s},
+                                                             {LayoutType::Stacked, "two"_s}},
+                                     profile, &LayoutManagerProifle::layoutType,
+                                     &LayoutManagerProifle::setLayoutType,
+                                     &LayoutManagerProifle::layoutTypeChanged);
 }
 
-void bind(TabletComboBox2 &box, Profile::IEnumProfileAdapter *adapter)
-{
-    box.reset();
-    box.setProfile(adapter);
-    box.afterSetProfile();
-}
+/// A box bound to a profile of its own.
+struct Scene {
+    std::unique_ptr<LayoutManagerProifle> profile = std::make_unique<LayoutManagerProifle>();
+    std::unique_ptr<Adapter> adapter = adapterOf(profile.get());
+    QSignalSpy changed{profile.get(), &LayoutManagerProifle::layoutTypeChanged};
+    Profile::TabletComboBox2 box;
+
+    Scene() { bind(adapter.get()); }
+    void bind(Profile::IEnumProfileAdapter *newAdapter)
+    {
+        box.reset();
+        box.setProfile(newAdapter);
+        box.afterSetProfile();
+    }
+};
 
 } // namespace
 
-class tst_TabletComboBox2 : public VnaTest::TestCase
+class tst_TabletComboBox2 : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void boundBothWays()
     {
-        LayoutManagerProifle profile;
-        QSignalSpy changed(&profile, &LayoutManagerProifle::layoutTypeChanged);
-        const auto adapter = adapterOf(&profile);
-        TabletComboBox2 box;
-        bind(box, adapter.get());
+        Scene f;
         // Filling the list chose nothing.
-        QCOMPARE(changed.count(), 0);
-        QCOMPARE(box.count(), 3);
-        QCOMPARE(box.currentText(), QStringLiteral("one"));
-
-        profile.setLayoutType(LayoutType::Stacked);
-        QCOMPARE(box.currentText(), QStringLiteral("two"));
-        QCOMPARE(changed.count(), 1);
-
-        QTest::keyClick(&box, Qt::Key_Home);
-        QCOMPARE(profile.layoutType(), LayoutType::Quad);
-        QCOMPARE(changed.count(), 2);
-
+        QCOMPARE(f.changed.count(), 0);
+        QCOMPARE(f.box.count(), 3);
+        QCOMPARE(f.box.currentText(), "one"_s);
+        f.profile->setLayoutType(LayoutType::Stacked);
+        QCOMPARE(f.box.currentText(), "two"_s);
+        QCOMPARE(f.changed.count(), 1);
+        QTest::keyClick(&f.box, Qt::Key_Home);
+        QCOMPARE(f.profile->layoutType(), LayoutType::Quad);
+        QCOMPARE(f.changed.count(), 2);
         // A value that is not on offer is shown as none, and stays.
-        profile.setLayoutType(LayoutType::SideBySide);
-        QCOMPARE(box.currentIndex(), -1);
-        QCOMPARE(profile.layoutType(), LayoutType::SideBySide);
-    }
+        f.profile->setLayoutType(LayoutType::SideBySide);
+        QCOMPARE(f.box.currentIndex(), -1);
+        QCOMPARE(f.profile->layoutType(), LayoutType::SideBySide);
 
-    void refusedChoiceReturns()
-    {
-        LayoutManagerProifle profile;
-        const auto adapter = adapterOf(&profile);
-        TabletComboBox2 box;
-        bind(box, adapter.get());
-        connect(&profile, &LayoutManagerProifle::layoutTypeChanged, &profile, [&profile] {
-            if (profile.layoutType() != LayoutType::Single)
-                profile.setLayoutType(LayoutType::Single);
-        });
-        box.setCurrentIndex(2);
-        QCOMPARE(profile.layoutType(), LayoutType::Single);
-        QCOMPARE(box.currentText(), QStringLiteral("one"));
+        // A choice that the profile refuses returns.
+        connect(f.profile.get(), &LayoutManagerProifle::layoutTypeChanged,
+                [&f] { f.profile->setLayoutType(LayoutType::Single); });
+        f.box.setCurrentIndex(2);
+        QCOMPARE(f.profile->layoutType(), LayoutType::Single);
+        QCOMPARE(f.box.currentText(), "one"_s);
     }
 
     void newProfileTakesOver()
     {
-        LayoutManagerProifle first;
+        Scene f;
         LayoutManagerProifle second;
         second.setLayoutType(LayoutType::Quad);
-        const auto firstAdapter = adapterOf(&first);
         const auto secondAdapter = adapterOf(&second);
-        TabletComboBox2 box;
-        bind(box, firstAdapter.get());
-        bind(box, secondAdapter.get());
-        QCOMPARE(box.currentText(), QStringLiteral("four"));
-        first.setLayoutType(LayoutType::Stacked);
-        QCOMPARE(box.currentText(), QStringLiteral("four"));
-        box.setCurrentIndex(1);
+        f.bind(secondAdapter.get());
+        QCOMPARE(f.box.currentText(), "four"_s);
+        f.profile->setLayoutType(LayoutType::Stacked);
+        QCOMPARE(f.box.currentText(), "four"_s);
+        f.box.setCurrentIndex(1);
         QCOMPARE(second.layoutType(), LayoutType::Single);
-        QCOMPARE(first.layoutType(), LayoutType::Stacked);
-        box.reset();
-        QCOMPARE(box.count(), 0);
-        QCOMPARE(box.profile(), nullptr);
+        QCOMPARE(f.profile->layoutType(), LayoutType::Stacked);
+        f.box.reset();
+        QCOMPARE(f.box.count(), 0);
+        QCOMPARE(f.box.profile(), nullptr);
         QCOMPARE(second.layoutType(), LayoutType::Single);
     }
 
     void iconsComeInAnyOrder()
     {
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("icon.png"));
+        const QString path = folder.filePath("icon.png"_s);
         QPixmap pixmap(8, 8);
         pixmap.fill(Qt::red);
         QVERIFY(pixmap.save(path));
-        LayoutManagerProifle profile;
-        const auto adapter = adapterOf(&profile);
-        TabletComboBox2 box;
-        box.setIcons({path, path});
-        bind(box, adapter.get());
-        QVERIFY(!box.itemIcon(1).isNull());
-        QVERIFY(box.itemIcon(2).isNull());
-        box.setIcons({});
-        QVERIFY(box.itemIcon(1).isNull());
-        QCOMPARE(box.currentText(), QStringLiteral("one"));
+        Scene f;
+        f.box.setIcons({path, path});
+        for (int round = 0; round < 2; ++round) {
+            QVERIFY(!f.box.itemIcon(1).isNull() && f.box.itemIcon(2).isNull());
+            f.bind(f.adapter.get());
+        }
+        f.box.setIcons({});
+        QVERIFY(f.box.itemIcon(1).isNull());
+        QCOMPARE(f.box.currentText(), "one"_s);
     }
 
     void survivesWhatGoesBeforeIt()
     {
-        auto profile = std::make_unique<LayoutManagerProifle>();
-        auto adapter = adapterOf(profile.get());
-        TabletComboBox2 box;
-        bind(box, adapter.get());
-        profile.reset();
-        QCOMPARE(box.currentIndex(), -1);
-        box.setCurrentIndex(2);
-        QCOMPARE(box.currentIndex(), -1);
-        adapter.reset();
-        QCOMPARE(box.profile(), nullptr);
-        box.setCurrentIndex(0);
-        box.afterSetProfile();
-
+        Scene f;
+        f.profile.reset();
+        QCOMPARE(f.box.currentIndex(), -1);
+        f.box.setCurrentIndex(2);
+        QCOMPARE(f.box.currentIndex(), -1);
+        f.adapter.reset();
+        QCOMPARE(f.box.profile(), nullptr);
+        f.box.setCurrentIndex(0);
+        f.box.afterSetProfile();
         const auto nothing = adapterOf(nullptr);
-        bind(box, nothing.get());
-        QCOMPARE(box.count(), 3);
-        QCOMPARE(box.currentIndex(), -1);
+        f.bind(nothing.get());
+        QCOMPARE(f.box.count(), 3);
+        QCOMPARE(f.box.currentIndex(), -1);
     }
 };
 

@@ -13,6 +13,14 @@
 namespace VnaTest
 {
 
+/// Shows a window and waits until it has its place on the screen, which positions depend on.
+inline void showExposed(QWidget *window)
+{
+    window->show();
+    if (!QTest::qWaitForWindowExposed(window))
+        qWarning("the window was not shown");
+}
+
 inline QPoint inWindow(const QWidget *widget, const QPoint &pos)
 {
     return widget->mapTo(widget->window(), pos);

@@ -56,6 +56,12 @@ void TestCase::cleanup()
         qPrintable(QStringLiteral("unexpected warning: ") + s_unexpected.join(QLatin1Char('\n'))));
 }
 
+Row::~Row()
+{
+    if (QTest::currentTestFailed())
+        qInfo("in the row \"%s\"", qPrintable(m_name));
+}
+
 QString dataPath(const QString &name)
 {
     return QStringLiteral(VNA_TEST_DATA_DIR "/") + name;

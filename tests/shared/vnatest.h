@@ -23,6 +23,22 @@ protected Q_SLOTS:
     void cleanup();
 };
 
+/*! The row of a table that a test walks through in a loop; named when the test fails there.
+    For tables of a few values: what is worth selecting by name belongs into a data function. */
+class Row
+{
+public:
+    explicit Row(const QString &name)
+        : m_name(name)
+    {
+    }
+    ~Row();
+
+private:
+    Q_DISABLE_COPY(Row)
+    QString m_name;
+};
+
 /// Absolute path of a file below tests/data.
 QString dataPath(const QString &name);
 

@@ -10,8 +10,10 @@
 
 #include <memory>
 
+#include <tables.h>
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Graph::LayoutManagerProifle;
 using Graph::LayoutType;
 
@@ -20,17 +22,18 @@ namespace
 
 QComboBox *boxOf(const QWidget &panel)
 {
-    return panel.findChild<Profile::TabletComboBox2 *>(QStringLiteral("layoutSelectEdit"));
+    return panel.findChild<Profile::TabletComboBox2 *>("layoutSelectEdit"_s);
 }
 
-QImage icon(const QComboBox *box, int index)
+void changeLanguage(QWidget *panel)
 {
-    return box->itemIcon(index).pixmap(24, 24).toImage();
+    QEvent event(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(panel, &event);
 }
 
 } // namespace
 
-class tst_DisplayPanel : public VnaTest::TestCase
+class tst_DisplayPanel : public TestCase
 {
     Q_OBJECT
 
@@ -41,11 +44,16 @@ private Q_SLOTS:
         profile.setLayoutType(LayoutType::Stacked);
         DisplayPanel panel(&profile);
         QSignalSpy changed(&panel, &DisplayPanel::layoutChanged);
-        QCOMPARE(panel.objectName(), QStringLiteral("DisplayPanel"));
+        QCOMPARE(panel.objectName(), "DisplayPanel"_s);
         QComboBox *box = boxOf(panel);
         QCOMPARE(box->count(), 4);
-        QCOMPARE(box->currentIndex(), 2);
         QVERIFY(!box->accessibleName().isEmpty());
+        changeLanguage(&panel); // keeps the choice
+        QCOMPARE(box->currentIndex(), 2);
+        QCOMPARE(profile.layoutType(), LayoutType::Stacked);
+        QCOMPARE(changed.count(), 0);
+        QVERIFY(!box->itemIcon(3).isNull());
+
         panel.show();
         box->setFocus();
         QTest::keyClick(panel.windowHandle(), Qt::Key_End);
@@ -62,35 +70,19 @@ private Q_SLOTS:
         LayoutManagerProifle profile;
         profile.setLayoutType(LayoutType::Quad);
         DisplayPanel panel(&profile);
+        const auto imageOf = [](const QIcon &icon) { return icon.pixmap(24, 24).toImage(); };
         const QComboBox *box = boxOf(panel);
         for (bool dark : {false, true}) {
             Utils::GUIContext::instance()->setIsDarkTheme(dark);
             for (int index = 0; index < 4; ++index) {
-                const QIcon expected(QStringLiteral(":/Graph/Image/layout%1%2")
-                                         .arg(QString::number(index + 1),
-                                              dark ? QString() : QStringLiteral("_light")));
-                QVERIFY(!icon(box, index).isNull());
-                QCOMPARE(icon(box, index), expected.pixmap(24, 24).toImage());
+                const QString path = ":/Graph/Image/layout%1%2"_s.arg(index + 1);
+                const QImage shown = imageOf(box->itemIcon(index));
+                QVERIFY(!shown.isNull());
+                QCOMPARE(shown, imageOf(QIcon(path.arg(dark ? QString() : "_light"_s))));
             }
             QCOMPARE(box->currentIndex(), 3);
         }
-        QVERIFY(icon(box, 0) != icon(box, 1));
-    }
-
-    void newLanguageKeepsTheChoice()
-    {
-        LayoutManagerProifle profile;
-        profile.setLayoutType(LayoutType::Stacked);
-        DisplayPanel panel(&profile);
-        QSignalSpy changed(&panel, &DisplayPanel::layoutChanged);
-        QEvent event(QEvent::LanguageChange);
-        QCoreApplication::sendEvent(&panel, &event);
-        QCOMPARE(boxOf(panel)->currentIndex(), 2);
-        QCOMPARE(profile.layoutType(), LayoutType::Stacked);
-        QCOMPARE(changed.count(), 0);
-        QVERIFY(!boxOf(panel)->itemIcon(3).isNull());
-        boxOf(panel)->setCurrentIndex(0);
-        QCOMPARE(profile.layoutType(), LayoutType::Single);
+        QVERIFY(imageOf(box->itemIcon(0)) != imageOf(box->itemIcon(1)));
     }
 
     void survivesItsProfile()
@@ -100,9 +92,7 @@ private Q_SLOTS:
         profile.reset();
         boxOf(panel)->setCurrentIndex(1);
         QCOMPARE(boxOf(panel)->currentIndex(), -1);
-        QEvent event(QEvent::LanguageChange);
-        QCoreApplication::sendEvent(&panel, &event);
-
+        changeLanguage(&panel);
         DisplayPanel withoutProfile(nullptr);
         QCOMPARE(boxOf(withoutProfile)->count(), 4);
     }

@@ -5,31 +5,18 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSignalSpy>
 #include <QtTest>
 
 #include <pointer.h>
+#include <tables.h>
 #include <vnatest.h>
 
-class tst_LabelButton : public VnaTest::TestCase
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void keepsTheEndOfALongValue();
-    void fitsAgainWhenSomethingChanges();
-    void wrapsOnDemand();
-    void layoutGivesTheWholeValueItsRoom();
-    void replacesTheLabel();
-    void survivesLabelsThatGo();
-    void readsOutNameAndValue();
-    void followsNoHoverOnceThereIsATouchScreen(); // stays last: a touch device cannot be removed
-};
+using namespace VnaTest;
 
 namespace
 {
 
-const QString LongValue = QStringLiteral("2.412 345 678 901 GHz");
+const QString LongValue = "2.412 345 678 901 GHz"_s;
 
 /// A label button in a window, 120 pixels wide.
 struct Fixture {
@@ -37,8 +24,9 @@ struct Fixture {
     {
         button->setGeometry(0, 0, 120, 60);
         window.resize(400, 200);
-        window.show();
-        button->setText(QStringLiteral("Start"));
+        showExposed(&window);
+        button->setText("Start"_s);
+        button->setLabelText(LongValue);
     }
     int advance(const QString &text) const
     {
@@ -52,156 +40,140 @@ struct Fixture {
 
 } // namespace
 
-void tst_LabelButton::keepsTheEndOfALongValue()
+class tst_LabelButton : public TestCase
 {
-    Fixture f;
-    f.button->setLabelText(LongValue);
-    QCOMPARE(f.button->labelText(), LongValue);
-    QVERIFY(f.shown().startsWith(QChar(0x2026)));
-    QVERIFY(f.shown().endsWith(QStringLiteral("GHz")));
-    QVERIFY(f.advance(f.shown()) <= 120);
+    Q_OBJECT
 
-    // A value exactly as wide as the room is shortened too; one pixel more shows it whole.
-    f.button->resize(f.advance(LongValue), 60);
-    QVERIFY(f.shown() != LongValue);
-    f.button->resize(f.advance(LongValue) + 1, 60);
-    QCOMPARE(f.shown(), LongValue);
-}
+private Q_SLOTS:
+    void keepsTheEndOfALongValue()
+    {
+        Fixture f;
+        QCOMPARE(f.button->labelText(), LongValue);
+        QVERIFY(f.shown().startsWith(QChar(0x2026)) && f.shown().endsWith("GHz"_s));
+        QVERIFY(f.advance(f.shown()) <= 120);
+        const QAccessibleInterface *const accessible =
+            QAccessible::queryAccessibleInterface(f.button);
+        QCOMPARE(accessible->text(QAccessible::Name), "Start"_s);
+        QCOMPARE(accessible->text(QAccessible::Value), LongValue);
 
-void tst_LabelButton::fitsAgainWhenSomethingChanges()
-{
-    Fixture f;
-    f.button->setLabelText(LongValue);
-    f.button->resize(f.advance(LongValue) + 1, 60);
-    QCOMPARE(f.shown(), LongValue);
+        // A value exactly as wide as the room is shortened too; one pixel more shows it whole.
+        f.button->resize(f.advance(LongValue), 60);
+        QVERIFY(f.shown() != LongValue);
+        f.button->resize(f.advance(LongValue) + 1, 60);
+        QCOMPARE(f.shown(), LongValue);
 
-    f.button->setLabelMargins({0, 0, 10, 0});
-    QCOMPARE(f.button->label()->contentsMargins().right(), 10);
-    QVERIFY(f.shown() != LongValue);
-    f.button->setLabelMargins({});
-    QCOMPARE(f.shown(), LongValue);
-
-    QFont large = f.button->labelFont();
-    large.setPixelSize(30);
-    f.button->setLabelFont(large);
-    QVERIFY(f.shown() != LongValue);
-    f.button->setLabelFont(QFont());
-    QCOMPARE(f.shown(), LongValue);
-
-    // A style sheet counts as well.
-    f.button->setStyleSheet(QStringLiteral("QLabel#valueLabel { padding-left: 20px; }"));
-    QVERIFY(f.shown() != LongValue);
-    QVERIFY(f.button->label()->sizeHint().width() <= f.button->width());
-    f.button->setLabelText(QStringLiteral("1 Hz"));
-    QCOMPARE(f.shown(), QStringLiteral("1 Hz"));
-}
-
-void tst_LabelButton::wrapsOnDemand()
-{
-    Fixture f;
-    f.button->setLabelText(LongValue);
-    f.button->setProperty("multilineLabel", true);
-    QVERIFY(f.button->label()->wordWrap());
-    QCOMPARE(f.shown(), LongValue);
-    QCOMPARE(f.button->label()->maximumWidth(), 130);
-    f.button->resize(90, 60);
-    QCOMPARE(f.button->label()->maximumWidth(), 100);
-    f.button->setProperty("multilineLabel", QVariant());
-    QVERIFY(!f.button->label()->wordWrap());
-    QCOMPARE(f.button->label()->maximumWidth(), QWIDGETSIZE_MAX);
-    QVERIFY(f.shown() != LongValue);
-}
-
-void tst_LabelButton::layoutGivesTheWholeValueItsRoom()
-{
-    for (const InfoButton::LayoutType type : {InfoButton::TopBottom, InfoButton::LeftRight}) {
-        QWidget window;
-        auto *const box = new QHBoxLayout(&window);
-        auto *const button = new LabelButton;
-        box->addWidget(button);
-        box->addStretch();
-        button->setLayoutType(type);
-        button->setText(QStringLiteral("Start"));
-        button->setLabelText(LongValue); // is shortened at first, while the button has no size
-        window.resize(600, 100);
-        window.show();
-        QTRY_COMPARE(button->label()->text(), LongValue);
-        QVERIFY(button->width() < 300);
-        window.resize(150, 100); // the window may shrink all the same
-        QCOMPARE(window.width(), 150);
+        // Whatever else takes room shortens it again.
+        f.button->setLabelMargins({0, 0, 10, 0});
+        QCOMPARE(f.button->label()->contentsMargins().right(), 10);
+        QVERIFY(f.shown() != LongValue);
+        f.button->setLabelMargins({});
+        QCOMPARE(f.shown(), LongValue);
+        QFont large = f.button->labelFont();
+        large.setPixelSize(30);
+        f.button->setLabelFont(large);
+        QVERIFY(f.shown() != LongValue);
+        f.button->setLabelFont(QFont());
+        QCOMPARE(f.shown(), LongValue);
+        f.button->setStyleSheet("QLabel#valueLabel { padding-left: 20px; }"_s);
+        QVERIFY(f.shown() != LongValue);
+        QVERIFY(f.button->label()->sizeHint().width() <= f.button->width());
+        f.button->setLabelText("1 Hz"_s);
+        QCOMPARE(f.shown(), "1 Hz"_s);
     }
-}
 
-void tst_LabelButton::replacesTheLabel()
-{
-    Fixture f;
-    f.button->setLabelText(LongValue);
-    const QPointer<QLabel> old(f.button->label());
-    QCOMPARE(old->objectName(), QStringLiteral("valueLabel"));
-    QCOMPARE(old->alignment(), Qt::AlignRight | Qt::AlignVCenter);
-    auto *const label = new QLabel;
-    f.button->setLabel(label);
-    QVERIFY(!old);
-    QCOMPARE(f.button->infoWidget(), label);
-    f.button->setLabel(label);
-    QCOMPARE(f.button->label(), label);
-    QVERIFY(f.shown().endsWith(QStringLiteral("GHz")));
-    f.button->setLabelAlignment(Qt::AlignCenter);
-    QCOMPARE(label->alignment(), Qt::AlignCenter);
-}
+    void wrapsOnDemand()
+    {
+        Fixture f;
+        f.button->setProperty("multilineLabel", true);
+        QVERIFY(f.button->label()->wordWrap());
+        QCOMPARE(f.shown(), LongValue);
+        QCOMPARE(f.button->label()->maximumWidth(), 130);
+        f.button->resize(90, 60);
+        QCOMPARE(f.button->label()->maximumWidth(), 100);
+        f.button->setProperty("multilineLabel", QVariant());
+        QVERIFY(!f.button->label()->wordWrap());
+        QCOMPARE(f.button->label()->maximumWidth(), QWIDGETSIZE_MAX);
+        QVERIFY(f.shown() != LongValue);
+    }
 
-void tst_LabelButton::survivesLabelsThatGo()
-{
-    Fixture f;
-    delete f.button->label();
-    QVERIFY(!f.button->label());
-    f.button->setLabelText(LongValue);
-    f.button->setLabelFont(QFont(QStringLiteral("Sans"), 20));
-    f.button->setLabelMargins({1, 1, 1, 1});
-    f.button->setLabelAlignment(Qt::AlignCenter);
-    f.button->resize(80, 80);
-    QVERIFY(f.button->sizeHint().isValid());
-    f.button->setLabel(new QLabel);
-    QVERIFY(f.shown().endsWith(QStringLiteral("GHz")));
+    void layoutGivesTheWholeValueItsRoom()
+    {
+        for (const InfoButton::LayoutType type : {InfoButton::TopBottom, InfoButton::LeftRight}) {
+            QWidget window;
+            QHBoxLayout box(&window);
+            LabelButton button;
+            box.addWidget(&button);
+            box.addStretch();
+            button.setLayoutType(type);
+            button.setText("Start"_s);
+            button.setLabelText(LongValue); // is shortened at first, while the button has no size
+            window.resize(600, 100);
+            window.show();
+            QTRY_COMPARE(button.label()->text(), LongValue);
+            QVERIFY(button.width() < 300);
+            window.resize(150, 100); // the window may shrink all the same
+            QCOMPARE(window.width(), 150);
+        }
+    }
 
-    // A label that another button took over is no longer ours to write into.
-    LabelButton other;
-    QLabel *const taken = f.button->label();
-    other.setLabel(taken);
-    f.button->setLabelText(QStringLiteral("1 Hz"));
-    QVERIFY(taken->text() != QStringLiteral("1 Hz"));
-    f.button->setInfoWidget(new QWidget);
-    QCOMPARE(other.label(), taken);
+    void replacesTheLabel()
+    {
+        Fixture f;
+        const QPointer<QLabel> old(f.button->label());
+        QCOMPARE(old->objectName(), "valueLabel"_s);
+        QCOMPARE(old->alignment(), Qt::AlignRight | Qt::AlignVCenter);
+        auto *const label = new QLabel;
+        f.button->setLabel(label);
+        QVERIFY(!old);
+        QCOMPARE(f.button->infoWidget(), label);
+        f.button->setLabel(label);
+        QCOMPARE(f.button->label(), label);
+        QVERIFY(f.shown().endsWith("GHz"_s));
+        f.button->setLabelAlignment(Qt::AlignCenter);
+        QCOMPARE(label->alignment(), Qt::AlignCenter);
+    }
 
-    expectWarning(QStringLiteral("InfoButton::setInfoWidget: cannot show QWidget(0x0)"));
-    other.setLabel(nullptr);
-    QCOMPARE(other.label(), taken);
-}
+    void survivesLabelsThatGo()
+    {
+        Fixture f;
+        delete f.button->label();
+        QVERIFY(!f.button->label());
+        f.button->setLabelText(LongValue + LongValue);
+        f.button->setLabelFont(QFont("Sans"_s, 20));
+        f.button->setLabelMargins({1, 1, 1, 1});
+        f.button->setLabelAlignment(Qt::AlignCenter);
+        f.button->resize(80, 80);
+        QVERIFY(f.button->sizeHint().isValid());
+        f.button->setLabel(new QLabel);
+        QVERIFY(f.shown().endsWith("GHz"_s));
 
-void tst_LabelButton::readsOutNameAndValue()
-{
-    Fixture f;
-    f.button->setLabelText(LongValue);
-    const QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(f.button);
-    QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Start"));
-    QCOMPARE(accessible->text(QAccessible::Value), LongValue);
-}
+        // A label that another button took over is no longer ours to write into.
+        LabelButton other;
+        QLabel *const taken = f.button->label();
+        other.setLabel(taken);
+        f.button->setLabelText("1 Hz"_s);
+        QVERIFY(taken->text() != "1 Hz"_s);
+        f.button->setInfoWidget(new QWidget);
+        QCOMPARE(other.label(), taken);
+        expectWarning("InfoButton::setInfoWidget: cannot show QWidget(0x0)"_s);
+        other.setLabel(nullptr);
+        QCOMPARE(other.label(), taken);
+    }
 
-void tst_LabelButton::followsNoHoverOnceThereIsATouchScreen()
-{
-    Fixture f;
-    QVERIFY(QTest::qWaitForWindowExposed(&f.window));
-    QWindow *const window = f.window.windowHandle();
-    QTest::mouseMove(window, {300, 150});
-    QTest::mouseMove(window, {60, 30});
-    QVERIFY(f.button->underMouse());
-    QTest::mouseMove(window, {300, 150});
-    QVERIFY(!f.button->underMouse());
-
-    QTest::createTouchDevice();
-    QTest::mouseMove(window, {60, 30});
-    QVERIFY(!f.button->underMouse());
-}
+    // Stays last: a touch device cannot be removed.
+    void followsNoHoverOnceThereIsATouchScreen()
+    {
+        Fixture f;
+        for (const bool touchScreen : {false, true}) {
+            if (touchScreen)
+                QTest::createTouchDevice();
+            mouseMove(&f.window, {300, 150});
+            QVERIFY(!f.button->underMouse());
+            mouseMove(&f.window, {60, 30});
+            QCOMPARE(f.button->underMouse(), !touchScreen);
+        }
+    }
+};
 
 QTEST_MAIN(tst_LabelButton)
 #include "tst_labelbutton.moc"

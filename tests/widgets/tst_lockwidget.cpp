@@ -14,6 +14,7 @@
 #include <memory>
 
 #include <pointer.h>
+#include <tables.h>
 #include <vnatest.h>
 
 using Controls::ThemeManager;
@@ -21,6 +22,9 @@ using namespace VnaTest;
 
 namespace
 {
+
+constexpr int LockedIcon = 3;
+constexpr int UnlockedIcon = 4;
 
 /// Notes which event types come through the application's filters.
 class Sink : public QObject
@@ -38,43 +42,43 @@ public:
 /// A window with a target, a button beside it, and the padlock between them.
 struct Scene {
     QWidget window;
-    QPointer<QWidget> target;
-    QPushButton *button;
-    std::unique_ptr<LockWidget> lock;
-    std::unique_ptr<QSignalSpy> clicked;
+    QPointer<QWidget> target = new QWidget(&window);
+    QPushButton button{"Preset"_s, &window};
+    QSignalSpy clicked{&button, &QPushButton::clicked};
+    std::unique_ptr<LockWidget> lock = std::make_unique<LockWidget>(&window, target);
 
     Scene()
     {
         window.resize(600, 400);
-        target = new QWidget(&window);
         target->setGeometry(20, 30, 401, 301);
-        button = new QPushButton(QStringLiteral("Preset"), &window);
-        button->setGeometry(480, 50, 100, 50);
-        lock = std::make_unique<LockWidget>(&window, target);
-        clicked = std::make_unique<QSignalSpy>(button, &QPushButton::clicked);
+        button.setGeometry(480, 50, 100, 50);
         window.show();
         lock->setScreenLockEnable(true);
         QCoreApplication::processEvents();
     }
 
-    QSequentialAnimationGroup *blink() const
-    {
-        return lock->findChild<QSequentialAnimationGroup *>();
-    }
+    auto *blink() const { return lock->findChild<QSequentialAnimationGroup *>(); }
     bool blinks() const { return blink()->state() == QAbstractAnimation::Running; }
     double opacity() const { return lock->findChild<QGraphicsOpacityEffect *>()->opacity(); }
-    QPixmap pixmap() const { return lock->findChild<QLabel *>()->grab(); }
+    QImage picture() const { return lock->findChild<QLabel *>()->grab().toImage(); }
     bool showsIcon(int id) const
     {
         const QLabel *label = lock->findChild<QLabel *>();
         return label->pixmap(Qt::ReturnByValue).toImage()
             == QPixmap(ThemeManager::instance()->getIconPath(id)).toImage();
     }
-    QPoint lockCenter() const { return lock->geometry().center(); }
+    QPoint center() const { return lock->geometry().center(); }
     void tapLock() { mouseClick(lock.get()); }
+    /// Clicks of the button so far, after one more press on it.
+    int pressButton()
+    {
+        mouseClick(&button);
+        return int(clicked.count());
+    }
+    void drag() { mouseDrag(window.windowHandle(), center(), {100, 100}); }
 };
 
-const QPoint s_docked(420 - 70, 180 - 35);
+const QPoint Docked(420 - 70, 180 - 35);
 
 } // namespace
 
@@ -87,9 +91,14 @@ private Q_SLOTS:
     {
         Scene scene;
         QVERIFY(scene.lock->getScreenLockEnable());
-        QCOMPARE(scene.lock->geometry(), QRect(s_docked, QSize(70, 70)));
-        mouseDrag(scene.window.windowHandle(), scene.lockCenter(), {100, 100});
-        QVERIFY(scene.lock->pos() != s_docked);
+        QCOMPARE(scene.lock->geometry(), QRect(Docked, QSize(70, 70)));
+        scene.tapLock();
+        scene.drag(); // locked, it stays in its place
+        QCOMPARE(scene.lock->pos(), Docked);
+        QVERIFY(scene.showsIcon(LockedIcon));
+        scene.tapLock();
+        scene.drag();
+        QVERIFY(scene.lock->pos() != Docked);
         // A new size docks again, also after a drag; so does a move.
         scene.target->resize(301, 201);
         QTRY_COMPARE(scene.lock->pos(), QPoint(320 - 70, 130 - 35));
@@ -101,36 +110,34 @@ private Q_SLOTS:
     {
         Scene scene;
         QWidget other;
-        QPushButton inOther(QStringLiteral("other window"), &other);
+        QPushButton inOther("other window"_s, &other);
         QSignalSpy otherClicked(&inOther, &QPushButton::clicked);
         other.setGeometry(900, 100, 200, 100);
-        other.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        showExposed(&other);
 
-        mouseClick(scene.button);
+        mouseClick(&scene.button);
         mouseClick(&inOther);
-        QCOMPARE(scene.clicked->count() + otherClicked.count(), 2);
+        QCOMPARE(scene.clicked.count() + otherClicked.count(), 2);
         scene.tapLock();
-        QVERIFY(scene.showsIcon(3));
-        QVERIFY(!scene.blinks());
+        QVERIFY(scene.showsIcon(LockedIcon) && !scene.blinks());
 
-        mouseClick(scene.button);
+        mouseClick(&scene.button);
         QVERIFY(scene.blinks());
-        QTest::mouseDClick(scene.button->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                           inWindow(scene.button, {10, 10}));
+        QTest::mouseDClick(scene.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                           inWindow(&scene.button, {10, 10}));
         mouseClick(&inOther);
         TouchScreen touch(&scene.window);
-        touch.tap(inWindow(scene.button, {10, 10}));
-        QVERIFY(!scene.button->isDown());
-        QCOMPARE(scene.clicked->count() + otherClicked.count(), 2);
+        touch.tap(inWindow(&scene.button, {10, 10}));
+        QVERIFY(!scene.button.isDown());
+        QCOMPARE(scene.clicked.count() + otherClicked.count(), 2);
 
         scene.tapLock();
         QVERIFY(!scene.blinks());
         QCOMPARE(scene.opacity(), 1.0);
-        QVERIFY(scene.showsIcon(4));
-        mouseClick(scene.button);
-        touch.tap(inWindow(scene.button, {10, 10}));
-        QCOMPARE(scene.clicked->count(), 3);
+        QVERIFY(scene.showsIcon(UnlockedIcon));
+        mouseClick(&scene.button);
+        touch.tap(inWindow(&scene.button, {10, 10}));
+        QCOMPARE(scene.clicked.count(), 3);
     }
 
     void blinksFourTimesFromTheLastPress()
@@ -139,46 +146,27 @@ private Q_SLOTS:
         scene.tapLock();
         QCOMPARE(scene.blink()->loopCount(), 4);
         QCOMPARE(scene.blink()->totalDuration(), 800);
-        mouseClick(scene.button);
+        mouseClick(&scene.button);
         QTRY_VERIFY(scene.blink()->currentTime() > 150);
         QVERIFY(scene.opacity() < 1.0);
-        mouseClick(scene.button);
+        mouseClick(&scene.button);
         QVERIFY(scene.blink()->currentTime() < 150);
         QTRY_VERIFY(!scene.blinks());
         QCOMPARE(scene.opacity(), 1.0);
-    }
-
-    void touchLocksAndUnlocks()
-    {
-        Scene scene;
-        TouchScreen touch(&scene.window);
-        touch.tap(scene.lockCenter());
-        QVERIFY(scene.showsIcon(3));
-        touch.tap(scene.lockCenter());
-        QVERIFY(scene.showsIcon(4));
-        // A cancelled touch is no tap.
-        touch.press(scene.lockCenter());
-        sendTouchWithoutPoints(scene.lock.get(), QEvent::TouchCancel);
-        touch.release(scene.lockCenter());
-        QVERIFY(scene.showsIcon(4));
-    }
-
-    void lockedStaysInPlace()
-    {
-        Scene scene;
+        // Unlocked in the middle of a dip it is not left faded.
+        mouseClick(&scene.button);
+        QTRY_VERIFY(scene.opacity() < 1.0);
         scene.tapLock();
-        mouseDrag(scene.window.windowHandle(), scene.lockCenter(), {100, 100});
-        QCOMPARE(scene.lock->pos(), s_docked);
-        QVERIFY(scene.showsIcon(3));
+        QCOMPARE(scene.opacity(), 1.0);
     }
 
     void onlyPressesAreBlocked()
     {
         Scene scene;
         scene.tapLock();
-        scene.button->setFocus();
+        scene.button.setFocus();
         QTest::keyClick(scene.window.windowHandle(), Qt::Key_Space);
-        QCOMPARE(scene.clicked->count(), 1);
+        QCOMPARE(scene.clicked.count(), 1);
 
         Sink sink;
         QVector<int> expected;
@@ -192,7 +180,6 @@ private Q_SLOTS:
             QCoreApplication::sendEvent(&sink, &event);
         }
         QCOMPARE(sink.types, expected);
-
         // A touch that tells no place passes as well.
         QTouchEvent empty(QEvent::TouchBegin);
         QCoreApplication::sendEvent(&sink, &empty);
@@ -200,56 +187,62 @@ private Q_SLOTS:
         QVERIFY(!scene.blinks());
     }
 
-    void keyboardLocksAndUnlocks()
+    void fingerAndKeyboardLockAndUnlock()
     {
         Scene scene;
+        TouchScreen touch(&scene.window);
+        for (const int icon : {LockedIcon, UnlockedIcon}) {
+            touch.tap(scene.center());
+            QVERIFY(scene.showsIcon(icon));
+        }
+        // A cancelled touch is no tap.
+        touch.press(scene.center());
+        sendTouchWithoutPoints(scene.lock.get(), QEvent::TouchCancel);
+        touch.release(scene.center());
+        QVERIFY(scene.showsIcon(UnlockedIcon));
+
         QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(scene.lock.get());
         QVERIFY(accessible);
         QCOMPARE(accessible->role(), QAccessible::CheckBox);
-        QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Screen lock"));
+        QCOMPARE(accessible->text(QAccessible::Name), "Screen lock"_s);
         QVERIFY(!accessible->state().checked);
-        scene.button->setFocus();
+        scene.button.setFocus();
         QTest::keyClick(scene.window.windowHandle(), Qt::Key_Tab);
         QVERIFY(scene.lock->hasFocus());
         QTest::keyClick(scene.window.windowHandle(), Qt::Key_Space);
-        QVERIFY(scene.showsIcon(3));
-        QVERIFY(accessible->state().checked);
+        QVERIFY(scene.showsIcon(LockedIcon) && accessible->state().checked);
         accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-        QVERIFY(scene.showsIcon(4));
-        QVERIFY(!accessible->state().checked);
+        QVERIFY(scene.showsIcon(UnlockedIcon) && !accessible->state().checked);
     }
 
     void disablingUnlocks()
     {
         Scene scene;
         scene.tapLock();
-        mouseClick(scene.button);
+        mouseClick(&scene.button);
         QVERIFY(scene.blinks());
         scene.lock->setScreenLockEnable(false);
-        QVERIFY(!scene.lock->getScreenLockEnable());
-        QVERIFY(!scene.blinks());
-        mouseClick(scene.button);
-        QCOMPARE(scene.clicked->count(), 1);
+        QVERIFY(!scene.lock->getScreenLockEnable() && !scene.blinks());
+        QCOMPARE(scene.pressButton(), 1);
         scene.lock->setScreenLockEnable(true);
-        QVERIFY(scene.showsIcon(4));
-        mouseDrag(scene.window.windowHandle(), scene.lockCenter(), {100, 100});
-        QVERIFY(scene.lock->pos() != s_docked);
+        QVERIFY(scene.showsIcon(UnlockedIcon));
+        scene.drag();
+        QVERIFY(scene.lock->pos() != Docked);
     }
 
     void themeSwapsPicturesOnly()
     {
         Scene scene;
         scene.tapLock();
-        const QImage dark = scene.pixmap().toImage();
+        const QImage dark = scene.picture();
         ThemeManager::instance()->setTheme(ThemeManager::Light);
-        QVERIFY(scene.showsIcon(3));
-        QVERIFY(scene.pixmap().toImage() != dark);
-        mouseClick(scene.button);
-        QCOMPARE(scene.clicked->count(), 0);
+        QVERIFY(scene.showsIcon(LockedIcon));
+        QVERIFY(scene.picture() != dark);
+        QCOMPARE(scene.pressButton(), 0);
         scene.tapLock();
-        QVERIFY(scene.showsIcon(4));
+        QVERIFY(scene.showsIcon(UnlockedIcon));
         ThemeManager::instance()->setTheme(ThemeManager::Dark);
-        QVERIFY(scene.showsIcon(4));
+        QVERIFY(scene.showsIcon(UnlockedIcon));
     }
 
     void survivesWhatGoesBeforeIt()
@@ -259,12 +252,10 @@ private Q_SLOTS:
         scene.target->resize(100, 100);
         delete scene.target;
         QCoreApplication::processEvents();
-        mouseClick(scene.button);
-        QCOMPARE(scene.clicked->count(), 0);
+        QCOMPARE(scene.pressButton(), 0);
         // A padlock that goes while it is locked takes the lock with it.
         scene.lock.reset();
-        mouseClick(scene.button);
-        QCOMPARE(scene.clicked->count(), 1);
+        QCOMPARE(scene.pressButton(), 1);
 
         LockWidget withoutTarget(&scene.window, nullptr);
         withoutTarget.setScreenLockEnable(true);

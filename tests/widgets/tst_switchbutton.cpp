@@ -3,138 +3,113 @@
 #include <widgets/switchbutton.h>
 
 #include <QAccessible>
-#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <memory>
+
 #include <pointer.h>
+#include <tables.h>
 #include <vnatest.h>
 
-class tst_SwitchButton : public VnaTest::TestCase
+using namespace VnaTest;
+
+class tst_SwitchButton : public TestCase
 {
     Q_OBJECT
 
+    std::unique_ptr<QWidget> m_window;
+    QPointer<SwitchButton> m_switch;
+    std::unique_ptr<QSignalSpy> m_changed;
+    QPushButton *m_on = nullptr;
+    QPushButton *m_off = nullptr;
+
 private Q_SLOTS:
-    void startsOff();
-    void tellsEveryTap();
-    void setterKeepsSilent();
-    void worksByKeyboard();
-    void inertSwitchStaysAsItIs();
-    void readsOutItsStatus();
-    void slotMayDeleteTheSwitch();
-};
-
-namespace
-{
-
-struct Fixture {
-    Fixture()
+    void init()
     {
-        window.resize(400, 200);
-        button->setGeometry(20, 20, 300, 60);
-        button->setText(QStringLiteral("Sweep"));
-        window.show();
+        TestCase::init();
+        m_window = std::make_unique<QWidget>();
+        m_window->resize(400, 200);
+        m_switch = new SwitchButton(m_window.get());
+        m_switch->setGeometry(20, 20, 300, 60);
+        m_switch->setText("Sweep"_s);
+        m_changed = std::make_unique<QSignalSpy>(m_switch, &SwitchButton::statusChanged);
+        m_on = m_switch->findChild<QPushButton *>("btnOn"_s);
+        m_off = m_switch->findChild<QPushButton *>("btnOff"_s);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
-    bool activate() { return QTest::qWaitForWindowActive(&window); }
-    QPushButton *on() const { return button->findChild<QPushButton *>(QStringLiteral("btnOn")); }
-    QPushButton *off() const { return button->findChild<QPushButton *>(QStringLiteral("btnOff")); }
 
-    QWidget window;
-    QPointer<SwitchButton> button = new SwitchButton(&window);
-    QSignalSpy changed{button, &SwitchButton::statusChanged};
+    void cleanup()
+    {
+        m_changed.reset();
+        m_window.reset();
+        TestCase::cleanup();
+    }
+
+    void startsOffAndTellsEveryTap()
+    {
+        QVERIFY(!m_switch->status() && m_off->isChecked() && !m_on->isChecked());
+        QCOMPARE(m_switch->layoutType(), InfoButton::LeftRight);
+        QCOMPARE(m_switch->infoWidget(), m_on->parentWidget());
+        QCOMPARE(m_on->geometry().right() + 1, m_off->x());
+        QCOMPARE(m_on->x(), 10);
+
+        for (QPushButton *const tapped : {m_on, m_on, m_off}) {
+            mouseClick(tapped);
+            QCOMPARE(m_switch->status(), tapped == m_on);
+            QCOMPARE(m_changed->takeFirst().at(0).toBool(), tapped == m_on);
+            QVERIFY(m_changed->isEmpty());
+        }
+        for (const bool on : {true, true, false, false, true}) {
+            m_switch->setStatus(on);
+            QCOMPARE(m_switch->status(), on);
+            QCOMPARE(m_off->isChecked(), !on);
+        }
+        QVERIFY(m_changed->isEmpty());
+    }
+
+    void worksByKeyboardAndAssistiveTools()
+    {
+        typeKey(m_window.get(), Qt::Key_Tab);
+        QVERIFY(m_off->hasFocus());
+        typeKey(m_window.get(), Qt::Key_Left);
+        QVERIFY(m_on->hasFocus() && m_switch->status());
+        QCOMPARE(m_changed->count(), 1);
+        typeKey(m_window.get(), Qt::Key_Right);
+        QVERIFY(!m_switch->status());
+
+        QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(m_switch);
+        QCOMPARE(accessible->text(QAccessible::Name), "Sweep"_s);
+        QCOMPARE(accessible->text(QAccessible::Value), "Off"_s);
+        QVERIFY(!accessible->state().checked);
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(m_switch->status() && accessible->state().checked);
+        QCOMPARE(m_changed->count(), 3);
+    }
+
+    void inertSwitchStaysAsItIs()
+    {
+        m_on->setFocus();
+        m_switch->setClickable(false);
+        mouseClick(m_on);
+        typeKey(m_window.get(), Qt::Key_Space, " "_s);
+        QVERIFY(!m_switch->status());
+        QCOMPARE(m_changed->count(), 0);
+        m_switch->setClickable(true);
+        mouseClick(m_on);
+        QCOMPARE(m_changed->count(), 1);
+    }
+
+    void slotMayDeleteTheSwitch()
+    {
+        connect(m_switch, &SwitchButton::statusChanged, m_window.get(),
+                [this] { delete m_switch; });
+        mouseClick(m_on);
+        QVERIFY(!m_switch);
+    }
 };
-
-} // namespace
-
-void tst_SwitchButton::startsOff()
-{
-    Fixture f;
-    QVERIFY(!f.button->status());
-    QVERIFY(f.off()->isChecked());
-    QVERIFY(!f.on()->isChecked());
-    QCOMPARE(f.button->layoutType(), InfoButton::LeftRight);
-    QCOMPARE(f.button->infoWidget(), f.on()->parentWidget());
-    QVERIFY(f.activate());
-    QCOMPARE(f.on()->geometry().right() + 1, f.off()->x());
-    QCOMPARE(f.on()->x(), 10);
-}
-
-void tst_SwitchButton::tellsEveryTap()
-{
-    Fixture f;
-    QVERIFY(f.activate());
-    VnaTest::mouseClick(f.on());
-    VnaTest::mouseClick(f.on());
-    QVERIFY(f.button->status());
-    VnaTest::mouseClick(f.off());
-    QVERIFY(!f.button->status());
-    QCOMPARE(f.changed.count(), 3);
-    QCOMPARE(f.changed.at(1).at(0).toBool(), true);
-    QCOMPARE(f.changed.at(2).at(0).toBool(), false);
-}
-
-void tst_SwitchButton::setterKeepsSilent()
-{
-    Fixture f;
-    for (const bool on : {true, true, false, false, true}) {
-        f.button->setStatus(on);
-        QCOMPARE(f.button->status(), on);
-        QCOMPARE(f.off()->isChecked(), !on);
-    }
-    QCOMPARE(f.changed.count(), 0);
-}
-
-void tst_SwitchButton::worksByKeyboard()
-{
-    Fixture f;
-    QVERIFY(f.activate());
-    VnaTest::typeKey(&f.window, Qt::Key_Tab);
-    QVERIFY(f.off()->hasFocus());
-    VnaTest::typeKey(&f.window, Qt::Key_Left);
-    QVERIFY(f.on()->hasFocus());
-    QVERIFY(f.button->status());
-    QCOMPARE(f.changed.count(), 1);
-    VnaTest::typeKey(&f.window, Qt::Key_Right);
-    QVERIFY(!f.button->status());
-}
-
-void tst_SwitchButton::inertSwitchStaysAsItIs()
-{
-    Fixture f;
-    QVERIFY(f.activate());
-    f.on()->setFocus();
-    f.button->setClickable(false);
-    VnaTest::mouseClick(f.on());
-    VnaTest::typeKey(&f.window, Qt::Key_Space, QStringLiteral(" "));
-    QVERIFY(!f.button->status());
-    QCOMPARE(f.changed.count(), 0);
-    f.button->setClickable(true);
-    VnaTest::mouseClick(f.on());
-    QCOMPARE(f.changed.count(), 1);
-}
-
-void tst_SwitchButton::readsOutItsStatus()
-{
-    Fixture f;
-    QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(f.button);
-    QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Sweep"));
-    QCOMPARE(accessible->text(QAccessible::Value), QStringLiteral("Off"));
-    QVERIFY(!accessible->state().checked);
-    accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-    QVERIFY(f.button->status());
-    QVERIFY(accessible->state().checked);
-    QCOMPARE(f.changed.count(), 1);
-}
-
-void tst_SwitchButton::slotMayDeleteTheSwitch()
-{
-    Fixture f;
-    QVERIFY(f.activate());
-    connect(f.button, &SwitchButton::statusChanged, &f.window, [&f] { delete f.button.data(); });
-    VnaTest::mouseClick(f.on());
-    QVERIFY(!f.button);
-}
 
 QTEST_MAIN(tst_SwitchButton)
 #include "tst_switchbutton.moc"
