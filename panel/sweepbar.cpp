@@ -39,11 +39,12 @@ SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(12, 6, 12, 6);
     m_start = addField(row, tr("Start"));
-    row->addStretch();
+    row->addStretch(1);
     m_points = addField(row, tr("Points"));
-    row->addStretch();
+    row->addStretch(1);
     m_speed = addField(row, tr("Speed"), &m_speedName);
-    row->addStretch();
+    m_gapAfterSpeed = row->count();
+    row->addStretch(1);
     m_stop = addField(row, tr("Stop"));
     showSpeed(QString());
     connect(m_model, &PanelModel::activeTraceChanged, this, &SweepBar::refresh);
@@ -93,6 +94,8 @@ void SweepBar::showSpeed(const QString &speed)
     m_speedName->setVisible(!speed.isEmpty());
     m_speed->setVisible(!speed.isEmpty());
     m_speed->setText(speed);
+    // Without the speed there is one gap less, or the points would not stand in the middle.
+    static_cast<QHBoxLayout *>(layout())->setStretch(m_gapAfterSpeed, speed.isEmpty() ? 0 : 1);
 }
 
 } // namespace Panel

@@ -30,6 +30,7 @@ private:
     QLabel *m_start;
     QLabel *m_points;
     QLabel *m_speedName;
+    int m_gapAfterSpeed = 0; ///< its index in the layout
     QLabel *m_speed;
     QLabel *m_stop;
     QElapsedTimer m_clock;
