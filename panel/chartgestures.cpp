@@ -47,14 +47,29 @@ ChartGestures::ChartGestures(PanelModel *model, SmithView *view, QObject *parent
 void ChartGestures::adoptChart()
 {
     SmithChartPlot *chart = m_view->chart();
-    chart->setOnlyHandleActiveTrace(false);
+    chart->setOnlyHandleActiveTrace(m_onlyActiveTrace);
     connect(chart, &SmithChartPlot::pointDoubleClicked, this, [this](int traceId, int index) {
         m_model->setActiveTrace(traceId);
         m_model->addMarker(traceId, index);
     });
-    connect(chart, &SmithChartPlot::markerSelectionRequested, m_model, &PanelModel::selectMarker);
+    connect(chart, &SmithChartPlot::activeTraceDoubleClicked, this,
+            [this](int traceId, double stimulus) {
+                const Network &network = m_model->network(*m_model->trace(traceId));
+                m_model->addMarker(traceId, indexOfFrequency(network.frequencies, stimulus));
+            });
+    connect(chart, &SmithChartPlot::markerSelectionRequested, this,
+            [this](int traceId, int number) {
+                if (!m_onlyActiveTrace || traceId == m_view->chart()->activeTrace())
+                    m_model->selectMarker(traceId, number);
+            });
     connect(chart, &SmithChartPlot::markerPositionChanged, m_model, &PanelModel::moveMarker);
     connect(chart, &SmithChartPlot::markerDeleteRequested, m_model, &PanelModel::removeMarker);
+}
+
+void ChartGestures::setOnlyActiveTrace(bool only)
+{
+    m_onlyActiveTrace = only;
+    m_view->chart()->setOnlyHandleActiveTrace(only);
 }
 
 bool ChartGestures::eventFilter(QObject *watched, QEvent *event)

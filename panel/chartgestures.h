@@ -30,6 +30,10 @@ class ChartGestures : public QObject
 public:
     ChartGestures(PanelModel *model, SmithView *view, QObject *parent = nullptr);
 
+    /// Whether taps and drags reach the active trace only, and not the one under the pointer.
+    bool onlyActiveTrace() const { return m_onlyActiveTrace; }
+    void setOnlyActiveTrace(bool only);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -56,6 +60,7 @@ private:
     PanelModel *m_model;
     SmithView *m_view;
     Drag m_drag = Drag::None;
+    bool m_onlyActiveTrace = false;
     QPointF m_pressed;
     /// Whether the last press caught a marker: a double tap then means that marker.
     bool m_pressedMarker = false;

@@ -37,7 +37,14 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     , m_sweeps(new SweepController(model, window, this))
     , m_folder(QDir::currentPath())
 {
-    new ChartGestures(model, window->smithView(), this);
+    auto *gestures = new ChartGestures(model, window->smithView(), this);
+    SoftKey *pointer = window->pointerKey();
+    pointer->setChoices({tr("All traces"), tr("Active only")});
+    pointer->setChoice(gestures->onlyActiveTrace());
+    connect(pointer, &SoftKey::choicePicked, gestures, [pointer, gestures](int index) {
+        gestures->setOnlyActiveTrace(index == 1);
+        pointer->setChoice(index);
+    });
     new DiagramController(model, window, this);
     new NumericKeys(model, window, m_sweeps, this);
     connect(m_sweeps, &SweepController::fileRequested, this, &PanelController::showFileDialog);

@@ -179,6 +179,7 @@ QWidget *PanelWindow::makeSoftKeys()
     m_softKeys->addPage(tr("Marker"));
     m_markerKey = m_softKeys->addKey(tr("Marker"));
     m_markerStimulusKey = m_softKeys->addKey(tr("Stimulus"));
+    m_pointerKey = m_softKeys->addKey(tr("Pointer"));
     m_softKeys->addPage(tr("Display"));
     m_traceKey = m_softKeys->addKey(tr("Active trace"));
     m_gridKey = m_softKeys->addKey(tr("Grid"));

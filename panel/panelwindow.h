@@ -52,6 +52,8 @@ public:
     SoftKey *traceKey() const { return m_traceKey; }
     SoftKey *markerKey() const { return m_markerKey; }
     SoftKey *markerStimulusKey() const { return m_markerStimulusKey; }
+    /// Which traces taps and drags reach.
+    SoftKey *pointerKey() const { return m_pointerKey; }
     SoftKey *zoomKey() const { return m_zoomKey; }
     SweepKeys *sweepKeys() const { return m_sweepKeys; }
     TimingLine *timingLine() const { return m_timingLine; }
@@ -90,6 +92,7 @@ private:
     SoftKey *m_traceKey;
     SoftKey *m_markerKey;
     SoftKey *m_markerStimulusKey;
+    SoftKey *m_pointerKey;
     SoftKey *m_zoomKey;
 };
 

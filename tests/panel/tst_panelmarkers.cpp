@@ -17,6 +17,7 @@ private Q_SLOTS:
     void doubleClickMarksTheTrace();
     void markersFollowTheirPointer();
     void markerKeyAddsAndRemoves();
+    void pointerCanBeConfinedToTheActiveTrace();
 };
 
 void PanelMarkersTest::doubleClickMarksTheTrace()
@@ -96,6 +97,24 @@ void PanelMarkersTest::markerKeyAddsAndRemoves()
     desk.pick(desk.window.markerKey(), 2);
     QVERIFY(desk.model.markers().isEmpty());
     QCOMPARE(desk.view()->markerTable()->height(), 0);
+}
+
+void PanelMarkersTest::pointerCanBeConfinedToTheActiveTrace()
+{
+    ChartDesk desk;
+    desk.model.addMarker(2, 0);
+    desk.model.setActiveTrace(1);
+    desk.pick(desk.window.pointerKey(), 1);
+    desk.doubleClick(desk.onTrace(1, 0));
+    QVERIFY(desk.model.marker(1, 1));
+    QCOMPARE(desk.model.marker(1, 1)->index, 0.0);
+    desk.drag(desk.onTrace(2, 0), desk.onTrace(2, 300)); // another trace's marker stays
+    QCOMPARE(desk.model.marker(2, 1)->index, 0.0);
+    QCOMPARE(desk.model.activeTrace()->id, 1);
+    desk.pick(desk.window.pointerKey(), 0);
+    desk.chart()->resetView();
+    desk.drag(desk.onTrace(2, 0), desk.onTrace(2, 300));
+    QVERIFY(desk.model.marker(2, 1)->index > 0.0);
 }
 
 QTEST_MAIN(PanelMarkersTest)
