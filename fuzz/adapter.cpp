@@ -24,16 +24,16 @@ namespace
 {
 
 constexpr int keys[] = {
-    Qt::Key_Return, Qt::Key_Enter,     Qt::Key_Delete,   Qt::Key_Up,     Qt::Key_PageUp,
-    Qt::Key_Down,   Qt::Key_PageDown,  Qt::Key_Escape,   Qt::Key_Period, Qt::Key_plusminus,
-    Qt::Key_Left,   Qt::Key_Right,     Qt::Key_Home,     Qt::Key_End,    Qt::Key_Backspace,
-    Qt::Key_0,      Qt::Key_unknown,   Qt::Key_Tab,      Qt::Key_A,      Qt::Key_Insert,
+    Qt::Key_Return, Qt::Key_Enter,    Qt::Key_Delete, Qt::Key_Up,     Qt::Key_PageUp,
+    Qt::Key_Down,   Qt::Key_PageDown, Qt::Key_Escape, Qt::Key_Period, Qt::Key_plusminus,
+    Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Home,   Qt::Key_End,    Qt::Key_Backspace,
+    Qt::Key_0,      Qt::Key_unknown,  Qt::Key_Tab,    Qt::Key_A,      Qt::Key_Insert,
 };
 
 /// Texts that mean something, each by one byte.
-const char *const words[] = {"0",   "1",   "-",   ".",   "e",    "+",   "GHz", "mhz", "Hz",
-                             "1e9", "inf", "nan", "µs",  "dBm",  " ",   "\n",  "kHz", "1e400",
-                             "9",   "٣",   ",",   "0x1", "1e-9", "Ω",   "±",   "−5"};
+const char *const words[] = {"0",   "1",   "-",   ".",   "e",    "+", "GHz", "mhz", "Hz",
+                             "1e9", "inf", "nan", "µs",  "dBm",  " ", "\n",  "kHz", "1e400",
+                             "9",   "٣",   ",",   "0x1", "1e-9", "Ω", "±",   "−5"};
 
 QString text(Fuzz::Input &input)
 {
@@ -60,14 +60,18 @@ std::unique_ptr<BaseUnitAdapter> makeAdapter(Fuzz::Input &input)
     case 0:
         return std::make_unique<BaseUnitAdapter>();
     case 1:
-        return std::make_unique<ScaledUnitAdapter>(QVector<ScaledUnitAdapter::Unit>{
-            {QStringLiteral("s"), 1.0}, {QStringLiteral("ms"), 1e-3}, {QStringLiteral("µs"), 1e-6}});
+        return std::make_unique<ScaledUnitAdapter>(
+            QVector<ScaledUnitAdapter::Unit>{{QStringLiteral("s"), 1.0},
+                                             {QStringLiteral("ms"), 1e-3},
+                                             {QStringLiteral("µs"), 1e-6}});
     case 2:
         return std::make_unique<ScaledUnitAdapter>(
             QVector<ScaledUnitAdapter::Unit>{{text(input), input.real()}, {text(input), 1.0}});
     default:
-        return std::make_unique<ScaledUnitAdapter>(QVector<ScaledUnitAdapter::Unit>{
-            {QStringLiteral("GHz"), 1e9}, {QStringLiteral("MHz"), 1e6}, {QStringLiteral("Hz"), 1.0}});
+        return std::make_unique<ScaledUnitAdapter>(
+            QVector<ScaledUnitAdapter::Unit>{{QStringLiteral("GHz"), 1e9},
+                                             {QStringLiteral("MHz"), 1e6},
+                                             {QStringLiteral("Hz"), 1.0}});
     }
 }
 

@@ -21,9 +21,8 @@ namespace
 QString write(const QByteArray &bytes)
 {
     static int number = 0;
-    const QString name = QDir::temp().filePath(QStringLiteral("vna-fuzz-%1-%2.ini")
-                                                   .arg(QCoreApplication::applicationPid())
-                                                   .arg(++number));
+    const QString name = QDir::temp().filePath(
+        QStringLiteral("vna-fuzz-%1-%2.ini").arg(QCoreApplication::applicationPid()).arg(++number));
     QFile file(name);
     FUZZ_CHECK(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     return name;

@@ -44,8 +44,9 @@ private:
     void setUp()
     {
         m_plot = new QCustomPlot;
-        m_plot->resize(300, 300);
-        m_chart = new SmithChartPlot(m_plot, static_cast<SmithChart::Preset>(m_input.integer(-1, 3)));
+        m_plot->resize(160, 160);
+        m_chart =
+            new SmithChartPlot(m_plot, static_cast<SmithChart::Preset>(m_input.integer(-1, 3)));
         m_chart->setOnlyHandleActiveTrace(m_input.flag());
         if (m_input.flag())
             m_chart->setQueuedReplotHandler([this] { react(); });
@@ -201,7 +202,8 @@ private:
             chart.removeMarkerVisual(trace, local);
             break;
         case 16:
-            chart.setMarkerIndex(trace, local, flag ? m_input.real() : m_input.integer(-2, 800) / 2.0);
+            chart.setMarkerIndex(trace, local,
+                                 flag ? m_input.real() : m_input.integer(-2, 800) / 2.0);
             break;
         case 17:
             chart.setMarkerVisible(trace, local, flag);
@@ -253,7 +255,7 @@ private:
         }
     }
 
-    QPoint point() { return {m_input.integer(-50, 350), m_input.integer(-50, 350)}; }
+    QPoint point() { return {m_input.integer(-20, 180), m_input.integer(-20, 180)}; }
 
     void press(const QPointF &pixel, bool byMouse)
     {
@@ -270,7 +272,7 @@ private:
     {
         if (m_depth > 0 || !m_plot)
             return;
-        m_plot->resize(m_input.integer(1, 300), m_input.integer(1, 300));
+        m_plot->resize(m_input.integer(1, 200), m_input.integer(1, 200));
         QResizeEvent resize(m_plot->size(), {});
         sendToPlot(resize);
         m_inPlotEvent = true;

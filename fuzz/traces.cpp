@@ -113,9 +113,9 @@ void checkNumbers(Fuzz::Input &input)
         FUZZ_CHECK(state.zoom >= 1.0 && state.zoom <= maximumZoom);
         const ViewRanges ranges = viewRanges(state, base);
         FUZZ_CHECK(ranges.xLower < ranges.xUpper && ranges.yLower < ranges.yUpper);
-        state = i == 0 ? zoomedViewState(state, input.raw(), input.raw(), input.raw(), base)
-                       : viewStateFromRanges({input.raw(), input.raw(), input.raw(), input.raw()},
-                                             base);
+        state = i == 0
+            ? zoomedViewState(state, input.raw(), input.raw(), input.raw(), base)
+            : viewStateFromRanges({input.raw(), input.raw(), input.raw(), input.raw()}, base);
     }
     const double value = input.raw();
     const auto [mantissa, exponent] = Utils::getScientificNotation(value);

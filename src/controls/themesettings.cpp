@@ -6,8 +6,10 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QTemporaryFile>
 
 namespace Controls
 {
@@ -53,6 +55,17 @@ void readGroup(const QSettings &settings, const QString &group, ThemeSettings &t
         colorsFromList(settingsText(settings, group + QLatin1String("memoryTracePalette")));
 }
 
+/*! The text without what QSettings takes for a stored object, "@Variant(...)" for one: it would
+    decode every value of the group, whoever wrote it, believe the lengths that stand in there and
+    ask for so much memory. No colour has an "@", be it written as a numeric escape. */
+QByteArray withoutObjects(QByteArray text)
+{
+    text.replace('@', '?');
+    for (const char digit : {'x', '0', '1', '2', '3', '4', '5', '6', '7'})
+        text.replace(QByteArray("\\") + digit, QByteArray("?") + digit);
+    return text;
+}
+
 } // namespace
 
 QString themeSettingsPath()
@@ -68,10 +81,25 @@ QString themeSettingsPath()
 
 void readThemeSettings(const QString &path, ThemeSettings &dark, ThemeSettings &light)
 {
-    const QFileInfo file(path);
-    if (!file.isFile() || file.size() > largestSettingsFile)
+    if (!QFileInfo(path).isFile())
         return;
-    QSettings settings(path, QSettings::IniFormat);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    // One byte more than allowed: a file may grow between a look at its size and the reading.
+    const QByteArray text = file.read(largestSettingsFile + 1);
+    if (text.size() > largestSettingsFile)
+        return;
+
+    QString readable = path;
+    QTemporaryFile copy;
+    const QByteArray harmless = withoutObjects(text);
+    if (harmless != text) {
+        if (!copy.open() || copy.write(harmless) != harmless.size() || !copy.flush())
+            return;
+        readable = copy.fileName();
+    }
+    QSettings settings(readable, QSettings::IniFormat);
     QtCompat::setUtf8(settings);
     readGroup(settings, QStringLiteral("ThemeColors/Dark/"), dark);
     readGroup(settings, QStringLiteral("ThemeColors/Light/"), light);
