@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What every target shares: an application without a display, and an end at the first misuse of Qt.
+// What every target shares: an application without a display, an end at the first misuse of Qt, and a
+// count of what is left behind.
+#include "census.h"
 #include "input.h"
 
 #include <QApplication>
@@ -40,8 +42,19 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
+    // What a target makes once for all its runs is there after the first.
+    static const bool warm = [] {
+        Fuzz::Input nothing(nullptr, 0);
+        Fuzz::run(nothing);
+        return true;
+    }();
+    Q_UNUSED(warm)
+    const Fuzz::Census census;
     Fuzz::Input input(data, size);
     Fuzz::run(input);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const QStringList left = census.grown();
+    if (!left.isEmpty())
+        Fuzz::fail(qPrintable(left.join(QLatin1String(", "))), __FILE__, __LINE__);
     return 0;
 }
