@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What every target shares: an application without a display, an end at the first misuse of Qt, and a
-// count of what is left behind.
+// What every target shares: an application without a display, an end at the first misuse of Qt, and
+// a count of what is left behind.
 #include "census.h"
 #include "input.h"
 

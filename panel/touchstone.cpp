@@ -18,6 +18,7 @@ namespace
 {
 
 constexpr qint64 s_largestFile = 512 * 1024 * 1024;
+constexpr int s_mostPoints = 4000000;
 constexpr int s_noiseNumbers = 5;
 /// Frequency and four parameters of two numbers each: the longest point.
 constexpr int s_mostNumbers = 9;
@@ -299,6 +300,8 @@ private:
     bool takePoint()
     {
         Network &network = m_result.network;
+        if (network.frequencies.size() == s_mostPoints)
+            return fail(QStringLiteral("the file has more than %1 points").arg(s_mostPoints));
         for (int i = 0; i < network.parameters.size(); ++i) {
             double a = m_point[std::size_t(1 + 2 * i)];
             double b = m_point[std::size_t(2 + 2 * i)];
@@ -383,13 +386,14 @@ TouchstoneResult readTouchstone(const QString &path)
                            .arg(ports));
     if (!info.isFile())
         return refusal(QStringLiteral("this is no ordinary file"));
-    if (info.size() > s_largestFile)
-        return refusal(
-            QStringLiteral("the file is larger than %1 MB").arg(s_largestFile / (1024 * 1024)));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return refusal(QStringLiteral("the file cannot be read (%1)").arg(file.errorString()));
-    const QByteArray text = file.readAll();
+    const qint64 size = file.size(); // of what is open now, whatever the name stands for meanwhile
+    if (size > s_largestFile)
+        return refusal(
+            QStringLiteral("the file is larger than %1 MB").arg(s_largestFile / (1024 * 1024)));
+    const QByteArray text = file.read(size);
     if (file.error() != QFileDevice::NoError)
         return refusal(QStringLiteral("the file cannot be read (%1)").arg(file.errorString()));
     TouchstoneResult result = parseTouchstone(text, ports);

@@ -3,11 +3,10 @@
 #include "themesettings_p.h"
 
 #include <utils/qtcompat_p.h>
+#include <utils/smallfile_p.h>
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryFile>
 
@@ -81,14 +80,8 @@ QString themeSettingsPath()
 
 void readThemeSettings(const QString &path, ThemeSettings &dark, ThemeSettings &light)
 {
-    if (!QFileInfo(path).isFile())
-        return;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    // One byte more than allowed: a file may grow between a look at its size and the reading.
-    const QByteArray text = file.read(largestSettingsFile + 1);
-    if (text.size() > largestSettingsFile)
+    QByteArray text;
+    if (!Utils::readSmallFile(path, largestSettingsFile, text))
         return;
 
     QString readable = path;
