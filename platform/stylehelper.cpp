@@ -13,7 +13,7 @@ namespace Utils
 namespace
 {
 
-constexpr qint64 largestFile = 1024 * 1024;
+constexpr qint64 largestFile = 1 << 20;
 
 } // namespace
 

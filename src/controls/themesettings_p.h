@@ -18,7 +18,7 @@ struct ThemeSettings {
 };
 
 /// A settings file above this size (in bytes) counts as missing.
-constexpr qint64 largestSettingsFile = 1024 * 1024;
+constexpr qint64 largestSettingsFile = 1 << 20;
 
 /// The file named by the application's property "vnaSettingsPath", or else the one in the folder
 /// "../configuration" beside the application.
