@@ -106,7 +106,7 @@ QString ThemeManager::getIconPath(int id) const
         return {};
 
     if (id == 0) {
-        const QString customized = QDir::cleanPath(QDir::current().absoluteFilePath(
+        QString customized = QDir::cleanPath(QDir::current().absoluteFilePath(
             QStringLiteral("../configuration/customized/logo.png")));
         if (QFileInfo(customized).isFile())
             return customized;
