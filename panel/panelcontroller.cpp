@@ -4,7 +4,7 @@
 
 #include "chartgestures.h"
 #include "diagramcontroller.h"
-#include "filedialog.h"
+#include "filecontroller.h"
 #include "markertable.h"
 #include "messagebar.h"
 #include "numerickeys.h"
@@ -14,18 +14,14 @@
 #include "softkey.h"
 #include "softkeymenu.h"
 #include "sweepcontroller.h"
-#include "touchstone.h"
 #include "tracebar.h"
 
 #include <controls/thememanager.h>
 
 #include <QAbstractButton>
-#include <QDir>
-#include <QFileInfo>
 #include <QShortcut>
 
 #include <cmath>
-#include <cstdio>
 
 namespace Panel
 {
@@ -35,7 +31,7 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     , m_model(model)
     , m_window(window)
     , m_sweeps(new SweepController(model, window, this))
-    , m_folder(QDir::currentPath())
+    , m_files(new FileController(model, window, this))
 {
     auto *gestures = new ChartGestures(model, window->smithView(), this);
     SoftKey *pointer = window->pointerKey();
@@ -114,36 +110,12 @@ void PanelController::addShortcuts()
 
 bool PanelController::openFiles(const QStringList &paths)
 {
-    QVector<Network> networks;
-    QStringList refusals;
-    for (const QString &path : paths) {
-        const TouchstoneResult result = readTouchstone(path);
-        if (result.ok()) {
-            networks.append(result.network);
-            m_folder = QFileInfo(path).absolutePath();
-            continue;
-        }
-        refusals << result.sentence(QFileInfo(path).fileName());
-        std::fprintf(stderr, "vnapanel: %s\n", qUtf8Printable(result.sentence(path)));
-    }
-    m_window->messageBar()->setMessage(refusals.join(QLatin1Char('\n')));
-    if (!networks.isEmpty()) {
-        m_window->smithView()->resetView();
-        m_model->setNetworks(networks);
-    }
-    return refusals.isEmpty();
+    return m_files->openFiles(paths);
 }
 
 void PanelController::showFileDialog()
 {
-    auto *dialog = new FileDialog(m_window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFolder(m_folder);
-    const QSize room = m_window->size() - QSize(80, 40);
-    dialog->resize(QSize(640, 560).boundedTo(room));
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { openFiles(dialog->pickedFiles()); });
-    connect(dialog, &QDialog::finished, this, [this, dialog] { m_folder = dialog->folder(); });
-    dialog->open();
+    m_files->showFileDialog();
 }
 
 void PanelController::onMarkerPicked(int index)

@@ -8,6 +8,7 @@
 namespace Panel
 {
 
+class FileController;
 class PanelModel;
 class PanelWindow;
 class SweepController;
@@ -15,8 +16,8 @@ class SweepController;
 /*! What the panel's keys do: the one place between window and model.
 
     The window's parts report and the model tells; in between, this class decides. A pointer on the
-   chart has its answers in ChartGestures and a key that is a number in NumericKeys; the controller
-   makes both. */
+   chart has its answers in ChartGestures, a key that is a number in NumericKeys, and all about
+   files in FileController; the controller makes them. */
 class PanelController : public QObject
 {
     Q_OBJECT
@@ -24,13 +25,11 @@ class PanelController : public QObject
 public:
     PanelController(PanelModel *model, PanelWindow *window, QObject *parent = nullptr);
 
-    /// Opens Touchstone files in place of those shown; true if all of them could be read. Refused
-    /// ones are told in the window and on the terminal; when none can be read, the panel keeps what
-    /// it shows.
+    /// Opens Touchstone files at once: FileController::openFiles().
     bool openFiles(const QStringList &paths);
+    FileController *fileController() const { return m_files; }
     /// What runs the simulated devices.
     SweepController *sweepController() const { return m_sweeps; }
-    /// Lets the user pick files, and opens them.
     void showFileDialog();
 
 private:
@@ -42,8 +41,7 @@ private:
     PanelModel *m_model;
     PanelWindow *m_window;
     SweepController *m_sweeps;
-    /// Where the file dialog was left, or what was opened last.
-    QString m_folder;
+    FileController *m_files;
 };
 
 } // namespace Panel
