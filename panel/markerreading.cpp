@@ -115,12 +115,12 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format)
     if (format == ReadoutFormat::Admittance) {
         const Complex y = admittance(point);
         const QString unit = QStringLiteral("S");
-        reading.values = {partText(y.real(), unit), imaginaryText(y.imag(), unit),
+        reading.values = QStringList{partText(y.real(), unit), imaginaryText(y.imag(), unit),
                           elementText(y.imag(), hertz, false)};
     } else if (format == ReadoutFormat::Impedance || format == ReadoutFormat::Automatic) {
         const Complex z = impedance(point);
         const QString unit = QStringLiteral("\u03a9");
-        reading.values = {partText(z.real(), unit), imaginaryText(z.imag(), unit),
+        reading.values = QStringList{partText(z.real(), unit), imaginaryText(z.imag(), unit),
                           elementText(z.imag(), hertz, true)};
     } else {
         reading.values = readings(reflection(point), format);
@@ -141,21 +141,21 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
         const Complex difference = y ? admittance(point) - admittance(reference)
                                      : impedance(point) - impedance(reference);
         const QString unit = y ? QStringLiteral("S") : QStringLiteral("\u03a9");
-        reading.values = {engineeringText(difference.real(), unit),
+        reading.values = QStringList{engineeringText(difference.real(), unit),
                           imaginaryText(difference.imag(), unit)};
         break;
     }
     case ReadoutFormat::MagnitudePhase:
-        reading.values = {numberText(std::abs(here) - std::abs(there), 4),
+        reading.values = QStringList{numberText(std::abs(here) - std::abs(there), 4),
                           angleText(wrapped(degrees(std::arg(here) - std::arg(there))))};
         break;
     case ReadoutFormat::Decibels:
-        reading.values = {
+        reading.values = QStringList{
             cartesianText(decibels(here) - decibels(there), TraceFormat::LogMagnitude),
             angleText(wrapped(degrees(std::arg(here) - std::arg(there))))};
         break;
     case ReadoutFormat::Vswr:
-        reading.values = {cartesianText(vswr(here) - vswr(there), TraceFormat::Vswr)};
+        reading.values = QStringList{cartesianText(vswr(here) - vswr(there), TraceFormat::Vswr)};
         break;
     }
     return reading;

@@ -49,10 +49,10 @@ public:
     const PanelKeys &keys() const { return m_keys; }
     SweepBar *sweepBar() const { return m_sweepBar; }
     TimingLine *timingLine() const { return m_timingLine; }
-    QAbstractButton *themeButton() const { return m_themeButton; }
-    QAbstractButton *screenshotButton() const { return m_screenshotButton; }
+    QToolButton *themeButton() const { return m_themeButton; }
+    QToolButton *screenshotButton() const { return m_screenshotButton; }
     /// Checked while the padlock is shown.
-    QAbstractButton *lockButton() const { return m_lockButton; }
+    QToolButton *lockButton() const { return m_lockButton; }
     LockWidget *lock() const { return m_lock; }
     /// The button of the page that stands where there is nothing to show.
     QAbstractButton *emptyPageButton() const { return m_emptyPageButton; }

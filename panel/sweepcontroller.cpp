@@ -76,7 +76,23 @@ void SweepController::restart()
     showState();
 }
 
-void SweepController::onSwept(const Network &frame)
+void SweepController::setTuning(double hertz)
+{
+    const double before = tuning();
+    m_source.setTuning(hertz);
+    if (tuning() != before)
+        Q_EMIT tuningChanged();
+}
+
+void SweepController::onSwept(const Network &frame, double progress)
+{
+    show(frame);
+    Q_EMIT progressed(progress);
+    if (progress >= 1.0)
+        Q_EMIT sweepCompleted();
+}
+
+void SweepController::show(const Network &frame)
 {
     if (!m_newDevice) {
         m_model->updateNetwork(0, frame);

@@ -120,7 +120,7 @@ void TraceController::onEditRequested(int traceId, TraceBar::Field field)
         QStringList names;
         const QVector<Ports> all = parameters(m_model->network(*trace).ports);
         for (const Ports &ports : all)
-            names << PanelModel::parameterName({0, 0, ports.to, ports.from});
+            names << QStringLiteral("S%1%2").arg(ports.to).arg(ports.from);
         choose(button, place, names, int(names.indexOf(PanelModel::parameterName(*trace))),
                [this, traceId, all](int index) {
                    m_model->setTraceParameter(traceId, all.at(index).to, all.at(index).from);

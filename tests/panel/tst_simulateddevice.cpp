@@ -18,12 +18,11 @@ Q_DECLARE_METATYPE(Panel::Sweep)
 namespace
 {
 
-SimulatedDevice prepared(SimulatedDevice::Kind kind, const Sweep &sweep)
+Network measured(SimulatedDevice &device, quint64 moment)
 {
-    SimulatedDevice device(kind, sweep);
-    while (!device.isPrepared())
-        device.prepare(1000);
-    return device;
+    Network network = device.unmeasured();
+    device.measure(network, 0, device.points(), moment);
+    return network;
 }
 
 double magnitude(const Parameter &parameter, int index)
@@ -75,10 +74,10 @@ void SimulatedDeviceTest::measuresPassively()
     QFETCH(Sweep, sweep);
     QFETCH(int, ports);
     QVERIFY(sweep.isValid());
-    const SimulatedDevice device = prepared(kind, sweep);
+    SimulatedDevice device(kind, sweep);
     // Both ends of the drift are among these.
     for (const quint64 number : {0ULL, 90ULL, 270ULL}) {
-        const Network network = device.frame(number);
+        const Network network = measured(device, number);
         QCOMPARE(network.ports, ports);
         QCOMPARE(network.frequencies.size(), sweep.points);
         QCOMPARE(network.frequencies.first(), sweep.start);
@@ -101,7 +100,8 @@ void SimulatedDeviceTest::measuresPassively()
 
 void SimulatedDeviceTest::filterPassesItsBand()
 {
-    const Network network = prepared(SimulatedDevice::Filter, {2.3e9, 2.6e9, 301}).frame(0);
+    SimulatedDevice device(SimulatedDevice::Filter, {2.3e9, 2.6e9, 301});
+    const Network network = measured(device, 0);
     const int centre = 150, edge = 0;
     QVERIFY(magnitude(network.s(2, 1), centre) > 0.7);
     QVERIFY(magnitude(network.s(1, 1), centre) < 0.4);
@@ -113,14 +113,14 @@ void SimulatedDeviceTest::filterPassesItsBand()
 
 void SimulatedDeviceTest::driftsAndRepeats()
 {
-    const SimulatedDevice device = prepared(SimulatedDevice::Cable, {10e6, 1e9, 2001});
-    const QVector<double> first = device.frame(7).parameters.first().real;
-    QCOMPARE(device.frame(7).parameters.first().real, first);
-    QVERIFY(device.frame(8).parameters.first().real != first);
+    SimulatedDevice device(SimulatedDevice::Cable, {10e6, 1e9, 2001});
+    const QVector<double> first = measured(device, 7).parameters.first().real;
+    QCOMPARE(measured(device, 7).parameters.first().real, first);
+    QVERIFY(measured(device, 8).parameters.first().real != first);
 
     // The noise is there, has no bias to speak of and keeps its limit.
     const double limit = SimulatedDevice::noise(SimulatedDevice::Cable);
-    const QVector<double> second = device.frame(367).parameters.first().real; // one drift later
+    const QVector<double> second = measured(device, 367).parameters.first().real; // one drift later
     double sum = 0.0, largest = 0.0;
     for (int i = 0; i < first.size(); ++i) {
         sum += second.at(i) - first.at(i);
