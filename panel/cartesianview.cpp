@@ -165,10 +165,11 @@ void CartesianView::loadLine(const Trace &trace)
 void CartesianView::showMemory(const Trace &trace)
 {
     Line &line = m_lines.at(trace.id);
-    if (!m_model->memory(trace.id)) {
+    const bool stored = m_model->memory(trace.id);
+    if (!stored && line.memory) {
         plot()->removeGraph(line.memory);
         line.memory = nullptr;
-    } else if (!line.memory) {
+    } else if (stored && !line.memory) {
         line.memory = plot()->addGraph(plot()->xAxis, line.values);
         line.memory->setSelectable(QCP::stNone);
         line.memory->setPen(QPen(currentLook().memory(trace.id)));

@@ -58,7 +58,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.scale = menu->addKey(tr("Scale"));
     keys.reference = menu->addKey(tr("Reference"));
     keys.memory = addMenu(menu, QT_TR_NOOP("Memory"));
-    keys.visible = addSwitch(menu, QT_TR_NOOP("Show trace"));
+    keys.visible = addSwitch(menu, QT_TR_NOOP("Visible"));
 
     menu->addPage(tr("Marker"));
     keys.marker = menu->addKey(tr("Marker"));

@@ -114,7 +114,7 @@ QWidget *PanelWindow::makeTopBar()
     bar->setAttribute(Qt::WA_StyledBackground);
     auto *row = new QHBoxLayout(bar);
     row->setContentsMargins(10, 4, 6, 4);
-    row->setSpacing(10);
+    row->setSpacing(8);
     m_mark = new QLabel;
     row->addWidget(m_mark);
     auto *name = new QLabel(tr("VNA"));
@@ -127,14 +127,12 @@ QWidget *PanelWindow::makeTopBar()
     m_fileName->setObjectName(QStringLiteral("dim"));
     m_fileName->setAccessibleName(tr("File"));
     m_fileName->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_fileName->setMaximumWidth(fontMetrics().averageCharWidth() * 24);
+    m_fileName->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    m_fileName->setFixedWidth(fontMetrics().averageCharWidth() * 18);
     row->addWidget(m_fileName);
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(6);
-    row->addLayout(buttons);
-    m_themeButton = addBarButton(buttons, tr("Dark or light"));
-    m_screenshotButton = addBarButton(buttons, tr("Screenshot"));
-    m_lockButton = addBarButton(buttons, tr("Lock"));
+    m_themeButton = addBarButton(row, tr("Dark or light"));
+    m_screenshotButton = addBarButton(row, tr("Screenshot"));
+    m_lockButton = addBarButton(row, tr("Lock"));
     m_lockButton->setCheckable(true);
     return bar;
 }

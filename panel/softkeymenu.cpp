@@ -55,18 +55,18 @@ void SoftKeyMenu::addPage(const QString &name)
 SoftKey *SoftKeyMenu::addKey(const QString &name)
 {
     auto *key = new SoftKey(name);
-    addWidget(key);
+    addKey(key);
     return key;
 }
 
 void SoftKeyMenu::addKey(QWidget *key)
 {
-    // As high as a soft key, and no wider.
+    // All keys are equally high, whatever they hold: as a soft key likes it, or as there is room.
     const SoftKey model{QString()};
     key->setMinimumHeight(model.minimumSizeHint().height());
     key->setMaximumHeight(model.sizeHint().height());
-    key->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-    addWidget(key);
+    key->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    m_column->insertWidget(m_column->count() - 1, key, 1);
 }
 
 void SoftKeyMenu::addWidget(QWidget *widget)
