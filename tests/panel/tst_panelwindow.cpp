@@ -303,7 +303,7 @@ void PanelWindowTest::fileDialogOpensPickedFiles()
     tap(3);
     tap(1);
     desk.click(open);
-    QCOMPARE(desk.window.fileKey()->value(), QStringLiteral("2 files"));
+    QTRY_COMPARE(desk.window.fileKey()->value(), QStringLiteral("2 files"));
     QCOMPARE(desk.model.networks().first().name, QStringLiteral("amplifier.s2p"));
     QCOMPARE(desk.chart()->traceIds(), (QVector<int>{1, 2, 5}));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
