@@ -22,6 +22,7 @@ DiagramController::DiagramController(PanelModel *model, PanelWindow *window, QOb
     connect(window->diagrams(), &Diagrams::viewMade, this, &DiagramController::adopt);
     connectKeys();
     connect(model->viewSettings(), &ViewSettings::changed, this, &DiagramController::showSettings);
+    connect(model, &PanelModel::tracesChanged, this, &DiagramController::showSettings);
     showSettings();
 }
 
@@ -69,6 +70,8 @@ void DiagramController::showSettings()
     keys.grid->setChoice(settings->gridMode());
     keys.density->setChoice(settings->density());
     keys.pointer->setChoice(settings->onlyActiveTrace());
+    for (SoftKey *key : {keys.grid, keys.density, keys.pointer})
+        key->setEnabled(m_model->activeTrace());
 }
 
 } // namespace Panel

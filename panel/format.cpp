@@ -23,6 +23,7 @@ QString frequencyText(double hertz)
     const int shortest = int(digits.indexOf(QLatin1Char('.'))) + 4;
     while (digits.size() > shortest && digits.endsWith(QLatin1Char('0')))
         digits.chop(1);
+    digits.replace(QLatin1Char('-'), QChar(0x2212));
     return digits + QLatin1Char(' ') + QLatin1String(unit->name);
 }
 

@@ -5,11 +5,14 @@
 #include "diagrams.h"
 #include "diagramview.h"
 #include "filedialog.h"
+#include "helpdialog.h"
 #include "messagebar.h"
 #include "numericdialog.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
 #include "samples.h"
+#include "screenshot.h"
+#include "settingsdialog.h"
 #include "smithview.h"
 #include "softkey.h"
 #include "softkeymenu.h"
@@ -21,6 +24,7 @@
 #include <QDir>
 #include <QPixmap>
 #include <QPointer>
+#include <QToolButton>
 
 #include <cstdio>
 
@@ -99,9 +103,9 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     }
     grabber.grab("panel");
 
-    static constexpr const char *pages[] = {"keys-stimulus", "keys-trace",  "keys-marker",
+    static constexpr const char *pages[] = {"panel", "keys-trace",  "keys-marker",
                                             "keys-display",  "keys-sweep", "keys-system"};
-    for (int page = 0; page < window->softKeys()->pageCount(); ++page) {
+    for (int page = 1; page < window->softKeys()->pageCount(); ++page) {
         window->softKeys()->setPage(page);
         grabber.grab(pages[page]);
     }
@@ -154,12 +158,24 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     grabber.grab("empty");
     model->setNetworks(networks);
 
-    FileDialog dialog(window);
-    dialog.setFolder(sampleFolder());
-    dialog.resize(600, 440);
-    dialog.setAttribute(Qt::WA_DontShowOnScreen);
-    dialog.show();
-    grabber.grab("file-dialog", &dialog);
+    window->lockButton()->setChecked(true);
+    grabber.grab("locked");
+    window->lockButton()->setChecked(false);
+
+    const auto grabDialog = [&](QDialog *dialog, const char *name) {
+        dialog->setAttribute(Qt::WA_DontShowOnScreen);
+        dialog->show();
+        grabber.grab(name, dialog);
+    };
+    FileDialog files(window);
+    files.setFolder(sampleFolder());
+    files.resize(600, 440);
+    grabDialog(&files, "file-dialog");
+    SettingsDialog settingsDialog(model, window);
+    settingsDialog.setScreenshotFolder(screenshotFolder());
+    grabDialog(&settingsDialog, "settings");
+    HelpDialog help(window);
+    grabDialog(&help, "help");
     if (grabber.ok())
         std::printf("The pictures are in %s\n", qUtf8Printable(QDir(folder).absolutePath()));
     return grabber.ok();

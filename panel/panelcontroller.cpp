@@ -5,6 +5,7 @@
 #include "diagramcontroller.h"
 #include "filecontroller.h"
 #include "helpdialog.h"
+#include "languages.h"
 #include "markercontroller.h"
 #include "messagebar.h"
 #include "numerickeys.h"
@@ -37,6 +38,7 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     , m_sweeps(new SweepController(model, window, this))
     , m_files(new FileController(model, window, this))
     , m_screenshotFolder(Panel::screenshotFolder())
+    , m_language(currentLanguage())
 {
     auto *numbers = new NumericKeys(model, window, m_sweeps, this);
     new DiagramController(model, window, this);
@@ -110,6 +112,13 @@ void PanelController::showSettings()
 {
     auto *dialog = new SettingsDialog(m_model, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setLanguage(m_language);
+    connect(dialog, &SettingsDialog::languagePicked, this, [this](const QString &code) {
+        m_language = code;
+        if (code != currentLanguage())
+            m_window->messageBar()->setMessage(
+                tr("The language changes with the next start of the panel."));
+    });
     dialog->setScreenshotFolder(m_screenshotFolder);
     connect(dialog, &SettingsDialog::screenshotFolderPicked, this,
             &PanelController::setScreenshotFolder);

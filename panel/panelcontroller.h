@@ -38,6 +38,9 @@ public:
     QString screenshotFolder() const { return m_screenshotFolder; }
     void setScreenshotFolder(const QString &folder) { m_screenshotFolder = folder; }
 
+    /// The code of the language that the user wants from the next start on.
+    QString language() const { return m_language; }
+
 public Q_SLOTS:
     /// Lets the user pick files, and opens them.
     void showFileDialog();
@@ -59,6 +62,7 @@ private:
     SweepController *m_sweeps;
     FileController *m_files;
     QString m_screenshotFolder;
+    QString m_language;
 };
 
 } // namespace Panel

@@ -299,7 +299,7 @@ bool PanelModel::holdsIndex(int traceId, double index) const
 double PanelModel::indexAt(int traceId, double hertz) const
 {
     const QVector<double> &frequencies = network(*trace(traceId)).frequencies;
-    if (frequencies.isEmpty() || hertz < frequencies.first() || hertz > frequencies.last())
+    if (frequencies.isEmpty() || !(hertz >= frequencies.first() && hertz <= frequencies.last()))
         return -1.0;
     return indexOfFrequency(frequencies, hertz);
 }
@@ -319,6 +319,13 @@ int PanelModel::addMarker(int traceId, double index)
     couple(traceId, number);
     selectMarker(traceId, number);
     return number;
+}
+
+void PanelModel::restoreMarker(int traceId, int number, double hertz)
+{
+    const double index = trace(traceId) ? indexAt(traceId, hertz) : -1.0;
+    if (index >= 0.0 && number >= 1 && number <= markersPerTrace)
+        placeMarker(traceId, number, index);
 }
 
 void PanelModel::moveMarker(int traceId, int number, double index)

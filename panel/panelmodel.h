@@ -140,6 +140,9 @@ public:
     /// Marks a point with the lowest free number and selects the marker. Returns the number, or 0
     /// for an unknown trace, an index outside its data, or a trace that has all its markers.
     int addMarker(int traceId, double index);
+    /// Marks a frequency in Hz with a certain number, without selecting the marker; nothing happens
+    /// outside the trace's data on show, or for a number that no marker can have.
+    void restoreMarker(int traceId, int number, double hertz);
     /// An index outside the trace's data on show is ignored, like an unknown marker.
     void moveMarker(int traceId, int number, double index);
     void removeMarker(int traceId, int number);

@@ -27,7 +27,7 @@ ProgressiveSweep::ProgressiveSweep(SimulatedDevice::Kind kind, const Sweep &swee
     : m_kind(kind)
     , m_sweep(sweep)
     , m_device(kind, sweep, tuning)
-    , m_frames{m_device.unmeasured(), m_device.unmeasured()}
+    , m_frames{m_device.preview(), m_frames[0]}
 {
 }
 

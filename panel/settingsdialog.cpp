@@ -70,18 +70,13 @@ void SettingsDialog::addTheme()
 void SettingsDialog::addLanguage()
 {
     QStringList names;
-    int current = 0;
-    for (const Language &language : languages()) {
-        if (language.code == currentLanguage())
-            current = int(names.size());
+    for (const Language &language : languages())
         names << language.name;
-    }
-    auto *choice = makeChoice(tr("Language"), names, current);
-    connect(choice, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
-        close();
-        setLanguage(languages().at(index).code);
+    m_language = makeChoice(tr("Language"), names, 0);
+    connect(m_language, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
+        Q_EMIT languagePicked(languages().at(index).code);
     });
-    m_form->addRow(tr("Language"), choice);
+    m_form->addRow(tr("Language"), m_language);
 }
 
 SwitchButton *SettingsDialog::addSwitch(const QString &name, bool on)
@@ -108,6 +103,14 @@ void SettingsDialog::addFolder()
     m_folder->setAccessibleName(tr("Screenshots go to"));
     connect(m_folder, &QPushButton::clicked, this, &SettingsDialog::pickFolder);
     m_form->addRow(tr("Screenshots go to"), m_folder);
+}
+
+void SettingsDialog::setLanguage(const QString &code)
+{
+    for (int i = 0; i < languages().size(); ++i) {
+        if (languages().at(i).code == code)
+            m_language->setCurrentIndex(i);
+    }
 }
 
 void SettingsDialog::setScreenshotFolder(const QString &folder)

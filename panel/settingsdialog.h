@@ -4,6 +4,7 @@
 
 #include <controls/draggableframelessdialog.h>
 
+class QComboBox;
 class QFormLayout;
 class QPushButton;
 class SwitchButton;
@@ -14,7 +15,7 @@ namespace Panel
 class PanelModel;
 
 /// What is set once and then left alone: look, language, how markers behave, where screenshots go.
-/// A change is in force at once.
+/// A change is in force at once, but for the language, which whoever listens sees to.
 class SettingsDialog : public Controls::DraggableFramelessDialog
 {
     Q_OBJECT
@@ -22,9 +23,11 @@ class SettingsDialog : public Controls::DraggableFramelessDialog
 public:
     explicit SettingsDialog(PanelModel *model, QWidget *parent = nullptr);
 
+    void setLanguage(const QString &code);
     void setScreenshotFolder(const QString &folder);
 
 Q_SIGNALS:
+    void languagePicked(const QString &code);
     void screenshotFolderPicked(const QString &folder);
 
 private:
@@ -37,6 +40,7 @@ private:
 
     PanelModel *m_model;
     QFormLayout *m_form;
+    QComboBox *m_language = nullptr;
     QPushButton *m_folder;
 };
 

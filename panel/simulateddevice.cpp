@@ -20,15 +20,8 @@ constexpr int s_driftShare = 100;
 /// The models hold above this frequency; a margin below the sweep may reach under it.
 constexpr double s_lowestHertz = 1e3;
 
-/// Writes the parameters of a network at one point.
-void setPoint(QVector<Parameter> &parameters, int index, const Circuits::Complex *values)
-{
-    for (Parameter &parameter : parameters) {
-        parameter.real[index] = values->real();
-        parameter.imag[index] = values->imag();
-        ++values;
-    }
-}
+/// Points that a preview measures, at the most.
+constexpr int s_previewPoints = 1001;
 
 /// Triangular noise between -1 and 1 in both directions, from 64 random bits (xorshift).
 struct Noise {
@@ -97,29 +90,55 @@ double SimulatedDevice::noise(Kind kind)
     return kind == Cable ? 0.012 : 1e-4;
 }
 
-Network SimulatedDevice::unmeasured() const
+SimulatedDevice::Values SimulatedDevice::circuitAt(double hertz) const
+{
+    const double omega = 2.0 * s_pi * qMax(s_lowestHertz, hertz);
+    if (m_kind == Filter) {
+        const Circuits::Matrix s = Circuits::bandPass(omega);
+        return {s.a, s.c, s.b, s.d};
+    }
+    return {m_kind == Cable ? Circuits::openCable(omega) : Circuits::antenna(omega, m_tuning)};
+}
+
+Network SimulatedDevice::preview() const
 {
     Network network;
     network.name = name(m_kind);
     network.ports = m_kind == Filter ? 2 : 1;
     network.frequencies = m_frequencies;
-    const QVector<double> nothing(points(), qQNaN());
-    network.parameters.fill({nothing, nothing}, int(m_circuit.size()));
+    const QVector<double> values(points());
+    network.parameters.fill({values, values}, int(m_circuit.size()));
+
+    const int spans = qMin(points(), s_previewPoints) - 1;
+    Values before = circuitAt(m_frequencies.first());
+    int from = 0;
+    for (int span = 1; span <= spans; ++span) {
+        const int to = int(qint64(points() - 1) * span / spans);
+        const Values after = circuitAt(m_frequencies.at(to));
+        for (int p = 0; p < network.parameters.size(); ++p) {
+            const std::complex<double> start = before[std::size_t(p)];
+            const std::complex<double> step = (after[std::size_t(p)] - start) / double(to - from);
+            double *real = network.parameters[p].real.data();
+            double *imag = network.parameters[p].imag.data();
+            for (int i = from; i <= to; ++i) {
+                const std::complex<double> value = start + step * double(i - from);
+                real[i] = value.real();
+                imag[i] = value.imag();
+            }
+        }
+        before = after;
+        from = to;
+    }
     return network;
 }
 
 void SimulatedDevice::prepare(int points)
 {
     for (; m_prepared < points; ++m_prepared) {
-        const double omega = 2.0 * s_pi * qMax(s_lowestHertz, m_start + m_prepared * m_step);
-        if (m_kind == Filter) {
-            const Circuits::Matrix s = Circuits::bandPass(omega);
-            const Circuits::Complex byColumns[] = {s.a, s.c, s.b, s.d};
-            setPoint(m_circuit, m_prepared, byColumns);
-        } else {
-            const Circuits::Complex gamma =
-                m_kind == Cable ? Circuits::openCable(omega) : Circuits::antenna(omega, m_tuning);
-            setPoint(m_circuit, m_prepared, &gamma);
+        const Values values = circuitAt(m_start + m_prepared * m_step);
+        for (int p = 0; p < m_circuit.size(); ++p) {
+            m_circuit[p].real[m_prepared] = values[std::size_t(p)].real();
+            m_circuit[p].imag[m_prepared] = values[std::size_t(p)].imag();
         }
     }
 }

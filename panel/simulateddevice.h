@@ -5,6 +5,9 @@
 #include "network.h"
 #include "sweep.h"
 
+#include <array>
+#include <complex>
+
 namespace Panel
 {
 
@@ -16,7 +19,7 @@ namespace Panel
 
     \code
     SimulatedDevice device(SimulatedDevice::Filter, sweep);
-    Network network = device.unmeasured();
+    Network network = device.preview();
     device.measure(network, 0, sweep.points, 0);
     model.setNetworks({network});
     \endcode */
@@ -45,13 +48,16 @@ public:
     static double noise(Kind kind);
 
     int points() const { return int(m_frequencies.size()); }
-    /// A network over the sweep whose values are all NaN.
-    Network unmeasured() const;
+    /// What a quick look finds: measured at some points only, and straight lines between them.
+    Network preview() const;
     /// Measures the points from `from` to below `to`. Where the device has drifted to, and the
     /// noise, follow from the moment: the number of a display frame.
     void measure(Network &network, int from, int to, quint64 moment);
 
 private:
+    using Values = std::array<std::complex<double>, 4>;
+
+    Values circuitAt(double hertz) const;
     void prepare(int points);
 
     Kind m_kind;

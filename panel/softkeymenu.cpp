@@ -97,7 +97,10 @@ void SoftKeyMenu::turnPage(int step)
 
 void SoftKeyMenu::showKey(const QWidget *key)
 {
-    setPage(m_pages->indexOf(key->parentWidget()));
+    for (int page = 0; page < pageCount(); ++page) {
+        if (m_pages->widget(page)->isAncestorOf(key))
+            setPage(page);
+    }
 }
 
 } // namespace Panel

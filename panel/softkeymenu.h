@@ -37,7 +37,7 @@ public:
     void setPage(int page);
     /// Goes to the next page (1) or the one before (-1), around the ends.
     void turnPage(int step);
-    /// Shows the page that a key is on.
+    /// Shows the page that a key, or a part of it, is on.
     void showKey(const QWidget *key);
 
 private:

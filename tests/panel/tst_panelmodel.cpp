@@ -212,15 +212,16 @@ void PanelModelTest::readsDifferences()
     one.ports = 1;
     one.frequencies = {1e9, 1.5e9};
     one.parameters = {{{0.0, 0.2}, {0.0, 0.4}}};
-    const MarkedPoint match{&one, &one.parameters.first(), 0.0};
-    const MarkedPoint coil{&one, &one.parameters.first(), 1.0};
-    const MarkerReading reading = readOnSmithChart(match, ReadoutFormat::Impedance, coil);
+    const auto at = [&one](double index) {
+        return MarkedPoint{&one, &one.parameters.constFirst(), index};
+    };
+    const MarkerReading reading = readOnSmithChart(at(0.0), ReadoutFormat::Impedance, at(1.0));
     QCOMPARE(reading.frequency, QStringLiteral("\u2212500.000 MHz"));
     QCOMPARE(reading.values,
              (QStringList{QStringLiteral("0.000 \u03a9"), QStringLiteral("\u2212j50.00 \u03a9")}));
     // 179 degrees and -179 degrees are 2 degrees apart.
     one.parameters = {{{-1.0, -1.0}, {std::tan(0.01), -std::tan(0.01)}}};
-    QCOMPARE(readOnCartesian(coil, TraceFormat::Phase, match).values,
+    QCOMPARE(readOnCartesian(at(1.0), TraceFormat::Phase, at(0.0)).values,
              QStringList{QStringLiteral("1.1\u00b0")});
 }
 

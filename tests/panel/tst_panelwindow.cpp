@@ -306,7 +306,7 @@ void PanelWindowTest::fileDialogOpensPickedFiles()
     tap(3);
     tap(1);
     desk.click(open);
-    QCOMPARE(desk.window.keys().file->value(), QStringLiteral("2 files"));
+    QTRY_COMPARE(desk.window.keys().file->value(), QStringLiteral("2 files"));
     QCOMPARE(desk.model.networks().first().name, QStringLiteral("amplifier.s2p"));
     QCOMPARE(desk.chart()->traceIds(), (QVector<int>{1, 2, 5}));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -348,7 +348,9 @@ void PanelWindowTest::nothingIsClipped()
         ChartDesk::settle();
         const auto widgets = desk.window.findChildren<QWidget *>();
         for (const QWidget *widget : widgets) {
-            if (!widget->isVisible() || widget->isWindow())
+            // The list of traces scrolls.
+            if (!widget->isVisible() || widget->isWindow()
+                || desk.window.traceBar()->isAncestorOf(widget))
                 continue;
             const QString who = where + QLatin1Char(' ')
                 + QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ')

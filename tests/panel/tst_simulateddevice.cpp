@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
-#include <panel/simulateddevice.h>
 #include <panel/sweepsource.h>
 
 #include <QSignalSpy>
@@ -20,7 +19,7 @@ namespace
 
 Network measured(SimulatedDevice &device, quint64 moment)
 {
-    Network network = device.unmeasured();
+    Network network = device.preview();
     device.measure(network, 0, device.points(), moment);
     return network;
 }
@@ -43,6 +42,8 @@ private Q_SLOTS:
     void driftsAndRepeats();
     void checksSweeps_data();
     void checksSweeps();
+    void tunesTheAntenna();
+    void sweepsPointByPoint();
     void sourceSweepsOn();
     void sourceDropsWhatRanBefore();
 };
@@ -150,12 +151,72 @@ void SimulatedDeviceTest::checksSweeps()
     QTEST(sweep.isValid(), "valid");
 }
 
+void SimulatedDeviceTest::tunesTheAntenna()
+{
+    for (const double tuning : {2.0e9, 2.45e9, 2.9e9}) {
+        ProgressiveSweep sweep(SimulatedDevice::Antenna, {1.5e9, 4e9, 2501}, 2.3e9);
+        sweep.setTuning(tuning);
+        sweep.advance(2501);
+        const Parameter &s = sweep.frame().parameters.first();
+        int best = 0;
+        for (int i = 0; i < 2501; ++i)
+            best = magnitude(s, i) < magnitude(s, best) ? i : best;
+        QVERIFY2(std::abs(sweep.frame().frequencies.at(best) - tuning) < 0.1 * tuning,
+                 qPrintable(QString::number(sweep.frame().frequencies.at(best))));
+    }
+}
+
+void SimulatedDeviceTest::sweepsPointByPoint()
+{
+    constexpr int points = 10001;
+    const Sweep range = SimulatedDevice::usualSweep(SimulatedDevice::Filter, points);
+    ProgressiveSweep sweep(SimulatedDevice::Filter, range, SimulatedDevice::usualTuning);
+    SimulatedDevice device(SimulatedDevice::Filter, range);
+    // The preview shows what will be measured; then the sweep goes over it.
+    const Network preview = sweep.frame();
+    const QVector<double> expected = measured(device, 0).s(2, 1).real;
+    for (int i = 0; i < points; ++i)
+        QVERIFY(std::abs(preview.s(2, 1).real.at(i) - expected.at(i)) < 0.1);
+    Network before = preview;
+    for (int from = 0; from < points; from += 4000) {
+        sweep.advance(4000);
+        const int to = qMin(from + 4000, points);
+        QCOMPARE(sweep.progress(), double(to) / points);
+        for (int p = 0; p < 4; ++p) {
+            const QVector<double> &now = sweep.frame().parameters.at(p).imag;
+            const QVector<double> &then = before.parameters.at(p).imag;
+            QCOMPARE(now.mid(0, from), then.mid(0, from));
+            QVERIFY(now.mid(from, to - from) != then.mid(from, to - from));
+            QCOMPARE(now.mid(to), then.mid(to));
+        }
+        before = sweep.frame();
+    }
+    // The next sweep begins; what was handed out is not written to.
+    const QVector<double> complete = before.s(1, 2).imag.mid(0);
+    sweep.advance(4000);
+    sweep.advance(4000);
+    QCOMPARE(sweep.progress(), 8000.0 / points);
+    QCOMPARE(before.s(1, 2).imag, complete);
+    QCOMPARE(sweep.frame().s(1, 2).imag.mid(8000), complete.mid(8000));
+    // Once the receiver keeps but the last frame, the two take turns without a copy.
+    before = sweep.frame();
+    const double *place = before.s(1, 1).real.constData();
+    for (int i = 0; i < 2; ++i) {
+        sweep.advance(100);
+        before = sweep.frame();
+    }
+    QCOMPARE(before.s(1, 1).real.constData(), place);
+}
+
 void SimulatedDeviceTest::sourceSweepsOn()
 {
     SweepSource source;
     QVector<QVector<double>> frames;
-    connect(&source, &SweepSource::swept, this,
-            [&frames](const Network &frame) { frames.append(frame.parameters.first().real); });
+    QVector<double> progress;
+    connect(&source, &SweepSource::swept, this, [&](const Network &frame, double reached) {
+        frames.append(frame.parameters.first().real);
+        progress.append(reached);
+    });
     const Sweep sweep{1e9, 2e9, 201};
     source.start(SimulatedDevice::Antenna, sweep);
     QVERIFY(frames.isEmpty());
@@ -174,6 +235,22 @@ void SimulatedDeviceTest::sourceSweepsOn()
     QCOMPARE(frames.size(), held + 1);
     source.setHeld(false);
     QTRY_VERIFY(frames.size() > held + 1);
+
+    QCOMPARE(progress, QVector<double>(progress.size(), 1.0));
+
+    // A long sweep takes its time, held or not.
+    progress.clear();
+    source.start(SimulatedDevice::Antenna, {1e9, 2e9, 20001});
+    QTRY_VERIFY(progress.contains(1.0) && progress.last() < 1.0);
+    QVERIFY(progress.indexOf(1.0) > 0);
+    QVERIFY(std::is_sorted(progress.begin(), progress.begin() + progress.indexOf(1.0)));
+    source.setHeld(true);
+    const double position = progress.last();
+    QTest::qWait(20 * SweepSource::frameInterval);
+    source.setHeld(false);
+    const int count = progress.size();
+    QTRY_VERIFY(progress.size() > count);
+    QVERIFY(progress.at(count) > position);
 
     source.stop();
     const int stopped = frames.size();
