@@ -227,7 +227,11 @@ void CartesianView::showScale(int traceId)
     if (active && active->id == traceId) {
         auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(plot()->yAxis->ticker());
         ticker->setTickOrigin(trace.scale.top);
-        ticker->setTickStep(trace.scale.perDivision);
+        // Where divisions are too low for their numbers, each line stands for several.
+        const double height = plot()->axisRect()->height() / double(divisions(trace.format));
+        const double needed = QFontMetricsF(plot()->yAxis->tickLabelFont()).height() / height;
+        const int step = needed <= 1.0 ? 1 : needed <= 2.0 ? 2 : 5;
+        ticker->setTickStep(step * trace.scale.perDivision);
         plot()->yAxis->setRange(range);
     }
     replotLater();
@@ -350,8 +354,10 @@ int CartesianView::drawnPoints() const
 void CartesianView::resizeEvent(QResizeEvent *event)
 {
     DiagramView::resizeEvent(event);
-    // Other columns want other points.
+    // Other columns want other points, and another height other numbers.
     loadLines();
+    if (const Trace *active = activeTrace())
+        showScale(active->id);
 }
 
 double CartesianView::zoom() const

@@ -197,6 +197,13 @@ void PanelWindow::showModel()
     m_keys.file->setValue(files == 0 ? tr("Open\u2026") : name);
 }
 
+void PanelWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    // Traces first; the diagrams name the file too.
+    m_fileName->setVisible(width() > 900);
+}
+
 void PanelWindow::recolor()
 {
     const Look look = currentLook();

@@ -57,6 +57,9 @@ public:
     /// The button of the page that stands where there is nothing to show.
     QAbstractButton *emptyPageButton() const { return m_emptyPageButton; }
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QWidget *makeTopBar();
     QWidget *makeDiagrams();

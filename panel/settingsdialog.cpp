@@ -47,12 +47,19 @@ SettingsDialog::SettingsDialog(PanelModel *model, QWidget *parent)
     m_form->setContentsMargins(16, 16 + 35, 16, 16);
     m_form->setHorizontalSpacing(24);
     m_form->setVerticalSpacing(8);
-    m_form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     addTheme();
     addLanguage();
     addMarkerModes();
     addFolder();
     setMinimumWidth(440);
+}
+
+void SettingsDialog::addRow(const QString &name, QWidget *field)
+{
+    auto *label = new QLabel(name);
+    // In the middle of the row, where the layout would put it at the top.
+    label->setMinimumHeight(s_fieldHeight);
+    m_form->addRow(label, field);
 }
 
 void SettingsDialog::addTheme()
@@ -64,7 +71,7 @@ void SettingsDialog::addTheme()
             [theme](int index) { theme->setTheme(ThemeManager::Theme(index)); });
     connect(theme, &ThemeManager::themeChanged, choice,
             [choice](ThemeManager::Theme now) { choice->setCurrentIndex(now); });
-    m_form->addRow(tr("Look"), choice);
+    addRow(tr("Look"), choice);
 }
 
 void SettingsDialog::addLanguage()
@@ -76,7 +83,7 @@ void SettingsDialog::addLanguage()
     connect(m_language, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
         Q_EMIT languagePicked(languages().at(index).code);
     });
-    m_form->addRow(tr("Language"), m_language);
+    addRow(tr("Language"), m_language);
 }
 
 SwitchButton *SettingsDialog::addSwitch(const QString &name, bool on)
@@ -85,7 +92,7 @@ SwitchButton *SettingsDialog::addSwitch(const QString &name, bool on)
     button->setAccessibleName(name);
     button->setStatus(on);
     button->setFixedHeight(s_fieldHeight);
-    m_form->addRow(name, button);
+    addRow(name, button);
     return button;
 }
 
@@ -102,7 +109,7 @@ void SettingsDialog::addFolder()
     m_folder->setMinimumHeight(s_fieldHeight);
     m_folder->setAccessibleName(tr("Screenshots go to"));
     connect(m_folder, &QPushButton::clicked, this, &SettingsDialog::pickFolder);
-    m_form->addRow(tr("Screenshots go to"), m_folder);
+    addRow(tr("Screenshots go to"), m_folder);
 }
 
 void SettingsDialog::setLanguage(const QString &code)

@@ -32,6 +32,7 @@ Q_SIGNALS:
 
 private:
     SwitchButton *addSwitch(const QString &name, bool on);
+    void addRow(const QString &name, QWidget *field);
     void addTheme();
     void addLanguage();
     void addMarkerModes();
