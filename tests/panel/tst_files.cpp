@@ -174,12 +174,18 @@ void FilesTest::offersToReload()
     QVERIFY(!desk.bar()->isVisible());
     QCOMPARE(desk.model.marker(1, 1)->index, 50.0); // 1.00005 GHz as before
     QVERIFY(!desk.model.activeTrace()->visible);
+    // What is written while it is read is noticed, whichever of both was read.
+    desk.files()->loadFiles({path});
+    desk.write("x.s1p", onePort(301, 0.125));
+    QTRY_COMPARE(desk.bar()->message(), QStringLiteral("x.s1p has changed on disk."));
+    desk.click(desk.action());
+    QTRY_COMPARE(desk.model.networks().first().points(), 301);
     // A file that cannot be read any more takes nothing away.
     desk.write("x.s1p", "1 0\n");
     QTRY_VERIFY(desk.bar()->isVisible());
     desk.click(desk.action());
     QTRY_VERIFY(desk.bar()->message().startsWith(QLatin1String("x.s1p, line 1")));
-    QCOMPARE(desk.model.networks().first().points(), 201);
+    QCOMPARE(desk.model.networks().first().points(), 301);
 }
 
 void FilesTest::reloadTakesOtherPorts()
