@@ -89,8 +89,11 @@ void MessageBar::offer(const QString &message, const QString &action, const QObj
 void MessageBar::showProgress(const QString &message, int percent, const QString &action,
                               const QObject *context, const std::function<void()> &answer)
 {
-    offer(message, action, context, answer);
     m_progress->setValue(percent);
+    // A button that went away for a moment would forget the finger on it.
+    if (showsProgress() && message == m_label->text())
+        return;
+    offer(message, action, context, answer);
     m_progress->setAccessibleName(message);
     m_progress->show();
     m_close->hide();

@@ -37,7 +37,8 @@ public:
     /// as the context lives.
     void offer(const QString &message, const QString &action, const QObject *context,
                const std::function<void()> &answer);
-    /// The same with a bar that is full at 100 percent; only the button closes such a message.
+    /// The same with a bar that is full at 100 percent; only the button closes such a message. A
+    /// further call with this message moves the bar and no more.
     void showProgress(const QString &message, int percent, const QString &action,
                       const QObject *context, const std::function<void()> &answer);
     bool showsProgress() const;

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void answersClicksWhileSweeping();
     void markersStayOverNewData();
     void holdsTheSweep();
+    void tunesAndTellsProgress();
     void openedFileEndsTheSimulation();
     void asksForAFileWhenThereIsNone();
     void tellsTheTimingOnRequest();
@@ -156,6 +157,32 @@ void SweepControllerTest::holdsTheSweep()
     QCOMPARE(updated.count(), held);
     press("btnOn");
     QTRY_VERIFY(updated.count() > held);
+}
+
+void SweepControllerTest::tunesAndTellsProgress()
+{
+    Desk desk;
+    const QSignalSpy tuned(desk.sweeps(), &SweepController::tuningChanged);
+    for (const auto &[hertz, kept] :
+         {std::pair(2.2e9, 2.2e9), {9e9, 2.9e9}, {qInf(), 2.9e9}, {1.0, 2.0e9}, {qQNaN(), 2.0e9}}) {
+        desk.sweeps()->setTuning(hertz);
+        QCOMPARE(desk.sweeps()->tuning(), kept);
+    }
+    QCOMPARE(tuned.count(), 3);
+    QCOMPARE(desk.sweeps()->tuningLimits(), (Stimulus{2.0e9, 2.9e9}));
+
+    const QSignalSpy progressed(desk.sweeps(), &SweepController::progressed);
+    const QSignalSpy completed(desk.sweeps(), &SweepController::sweepCompleted);
+    desk.model.setSweep({1e9, 2e9, 20001});
+    desk.sweeps()->simulate(SimulatedDevice::Antenna);
+    QVERIFY(desk.sweeps()->isTunable());
+    QTRY_VERIFY(progressed.count() >= 1);
+    QCOMPARE(completed.count(), 0);
+    const Parameter before = desk.model.networks().first().parameters.first();
+    desk.sweeps()->setTuning(2.9e9);
+    QTRY_COMPARE(completed.count(), 1);
+    QVERIFY(desk.model.networks().first().parameters.first().real != before.real);
+    QCOMPARE(progressed.last().first().toDouble(), 1.0);
 }
 
 void SweepControllerTest::openedFileEndsTheSimulation()
