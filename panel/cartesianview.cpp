@@ -282,10 +282,12 @@ void CartesianView::moveMarker(const Trace &trace, const Marker &moved)
     const bool shown = trace.visible && std::isfinite(value)
         && plot()->xAxis->range().contains(hertz);
     Plot::Marker &marker = found->second;
-    // Beyond the scale it stands at the diagram's edge.
+    // Beyond the scale it stands at the diagram's edge, of which the upper one lies a pixel outside
+    // for the plot.
     const QCPRange scale = m_lines.at(trace.id).values->range();
+    const double pixel = scale.size() / qMax(2, plot()->axisRect()->height());
     marker.setPositionCoordinates(graph(trace.id), hertz,
-                                  qBound(scale.lower, value, scale.upper));
+                                  qBound(scale.lower, value, scale.upper - pixel));
     if (marker.isVisible() != shown)
         marker.setVisible(shown);
     replotLater();

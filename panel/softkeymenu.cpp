@@ -63,7 +63,8 @@ void SoftKeyMenu::addKey(QWidget *key)
 {
     // All keys are equally high, whatever they hold: as a soft key likes it, or as there is room.
     const SoftKey model{QString()};
-    key->setMinimumHeight(model.minimumSizeHint().height());
+    const int least = model.minimumSizeHint().height();
+    key->setMinimumHeight(qMax(least, key->minimumSizeHint().height()));
     key->setMaximumHeight(model.sizeHint().height());
     key->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     m_column->insertWidget(m_column->count() - 1, key, 1);
