@@ -128,7 +128,7 @@ Network SimulatedDevice::frame(quint64 number) const
     const double t = shift - first;
     const double gain = 1.0 - noise(m_kind);
     const double amplitude = noise(m_kind) / std::sqrt(2.0);
-    const int count = m_frequencies.size();
+    const int count = int(m_frequencies.size());
     Noise random{0x9e3779b97f4a7c15ULL * (2 * number + 1)};
     double x = 0.0, y = 0.0;
     for (const Parameter &circuit : m_circuit) {

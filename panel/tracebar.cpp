@@ -58,7 +58,7 @@ protected:
         QPen edge(isChecked() || hasFocus() ? color : look.border, hasFocus() ? 2.0 : 1.0);
         if (!m_shown) {
             edge.setStyle(Qt::DashLine);
-            color.setAlphaF(isChecked() ? 0.45 : 0.6);
+            color.setAlphaF(isChecked() ? 0.45F : 0.6F);
         }
         painter.setPen(edge);
         painter.setBrush(isChecked() ? QBrush(color) : QBrush(isDown() ? look.button : look.bar));
@@ -126,7 +126,7 @@ void TraceBar::rebuild()
         const int id = trace.id;
         connect(button, &QAbstractButton::clicked, this,
                 [this, id] { Q_EMIT activationRequested(id); });
-        m_row->insertWidget(m_buttons.size(), button);
+        m_row->insertWidget(int(m_buttons.size()), button);
         m_buttons.append(button);
     }
     refresh();

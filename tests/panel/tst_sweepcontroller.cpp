@@ -22,7 +22,7 @@ struct Desk : PanelDesk {
     SweepController *sweeps() const { return controller.sweepController(); }
     const SweepKeys *keys() const { return window.sweepKeys(); }
     QString shown() const { return model.networks().first().name; }
-    int points() const { return model.networks().first().frequencies.size(); }
+    int points() const { return int(model.networks().first().frequencies.size()); }
 
     void pick(SoftKey *key, int index) { Q_EMIT key->choicePicked(index); }
 };
@@ -92,7 +92,7 @@ void SweepControllerTest::answersClicksWhileSweeping()
 
     desk.click(desk.window.traceKey());
     QVERIFY(!desk.model.activeTrace()->visible);
-    const int before = updated.count();
+    const auto before = updated.count();
     QTRY_VERIFY_WITH_TIMEOUT(updated.count() > before, 60000);
     QVERIFY(!desk.model.activeTrace()->visible);
     desk.click(desk.keys()->sweepKey());
@@ -146,7 +146,7 @@ void SweepControllerTest::holdsTheSweep()
     QTRY_VERIFY(updated.count() >= 2);
     desk.click(desk.keys()->sweepKey());
     QCOMPARE(desk.keys()->sweepKey()->value(), QStringLiteral("Off"));
-    const int held = updated.count();
+    const auto held = updated.count();
     QTest::qWait(5 * SweepSource::frameInterval);
     QCOMPARE(updated.count(), held);
     desk.click(desk.keys()->sweepKey());
