@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
-    Linked to an example as it stands: saves its window to $GRAB once it is drawn, and ends it. The exit code says
-    whether a blue trace on a round chart is to be seen there. */
+    Linked to an example as it stands: saves its window to $GRAB once it is drawn, and ends it. The
+   exit code says whether a blue trace on a round chart is to be seen there. */
 #include <QApplication>
 #include <QFile>
 #include <QTimer>
