@@ -126,6 +126,7 @@ private Q_SLOTS:
         QVERIFY(key);
         QCOMPARE(key->labelText(), QStringLiteral("2.412 GHz"));
         QCOMPARE(key->labelAlignment(), Qt::AlignRight | Qt::AlignTop);
+        QVERIFY(key->property("textMargins").isValid());
         QVERIFY(!loaded->findChild<AbstractButton *>(QStringLiteral("preset"))->clickable());
     }
 
