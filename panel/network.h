@@ -19,6 +19,8 @@ struct Parameter {
 struct Network {
     /// What the network is called on the panel: its file's name.
     QString name;
+    /// Full path of the file that it was read from; empty for a measurement.
+    QString path;
     int ports = 0;
     double referenceOhms = 50.0;
     /// Stimulus in Hz, never falling.

@@ -27,6 +27,15 @@ public:
     NumericKeys(PanelModel *model, PanelWindow *window, const SweepController *sweeps,
                 QObject *parent = nullptr);
 
+    /// Lets the user edit the active trace's scale per division, beside a key or a field.
+    void editScale(QWidget *anchor);
+
+    /// What the stimulus keys are about, and what they can go to.
+    Stimulus stimulus(const Trace &trace) const;
+    Stimulus limits(const Trace &trace) const;
+    /// Sets what a simulated device sweeps, or which part of a file is on show.
+    void setStimulus(const Trace &trace, Stimulus stimulus);
+
 private:
     /// One number of the active trace's stimulus.
     struct StimulusNumber {
@@ -39,16 +48,17 @@ private:
     void editPoints();
     void editMarkerStimulus();
     void editZoom();
-    /// What the stimulus keys are about, and what they can go to.
-    Stimulus stimulus(const Trace &trace) const;
-    Stimulus limits(const Trace &trace) const;
-    void setStimulus(const Trace &trace, Stimulus stimulus);
+    void editReference();
     /// Opens the dialog of a key for a value that the adapter holds.
+    template<typename Apply>
+    void edit(QWidget *key, const QString &name, UnitAdapter *adapter, const QVector<double> &steps, Apply apply);
+
     template<typename Apply>
     void edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps, Apply apply);
 
     void showStimulus();
     void showMarkerStimulus();
+    void showScale();
     void showZoom();
 
     PanelModel *m_model;

@@ -25,18 +25,20 @@ public:
 
     /// Begins a page; the first is the one on show.
     void addPage(const QString &name);
-    /// The same with a widget that has its keys already, as its children.
-    void addPage(const QString &name, QWidget *page);
     /// Appends a key to the page that was begun last. The menu owns it.
     SoftKey *addKey(const QString &name);
+    /// The same with a key that exists already.
+    void addKey(QWidget *key);
+    /// The same with a widget that keeps its own height.
+    void addWidget(QWidget *widget);
 
     int page() const;
     int pageCount() const;
     void setPage(int page);
     /// Goes to the next page (1) or the one before (-1), around the ends.
     void turnPage(int step);
-    /// Shows the page that a key is on.
-    void showKey(const SoftKey *key);
+    /// Shows the page that a key, or a part of it, is on.
+    void showKey(const QWidget *key);
 
 private:
     QButtonGroup *m_tabs;
