@@ -248,7 +248,7 @@ void SimulatedDeviceTest::sourceSweepsOn()
     const double position = progress.last();
     QTest::qWait(20 * SweepSource::frameInterval);
     source.setHeld(false);
-    const int count = progress.size();
+    const auto count = progress.size();
     QTRY_VERIFY(progress.size() > count);
     QVERIFY(progress.at(count) > position);
 
