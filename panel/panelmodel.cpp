@@ -17,7 +17,7 @@ namespace
 std::pair<int, int> shownPoints(const QVector<double> &frequencies, const Stimulus &stimulus)
 {
     const auto begin = frequencies.begin();
-    const int last = frequencies.size() - 1;
+    const int last = int(frequencies.size()) - 1;
     int from = int(std::lower_bound(begin, frequencies.end(), stimulus.start) - begin);
     int to = int(std::upper_bound(begin, frequencies.end(), stimulus.stop) - begin) - 1;
     if (from >= to) {
