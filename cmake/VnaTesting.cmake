@@ -18,6 +18,11 @@ set(VNA_TEST_ENVIRONMENT
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/shared/lsan.supp:print_suppressions=0"
     "UBSAN_OPTIONS=print_stacktrace=1")
 
+# What every test program runs in: no display, the same hash order and locale everywhere.
+function(vna_set_test_environment name)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "${VNA_TEST_ENVIRONMENT}")
+endfunction()
+
 # vna_add_test(<name> <sources...> [LIBRARIES <targets...>]): one test program of one file.
 # Programs land in <build>/tests, so that "../configuration" is found beside them.
 function(vna_add_test name)
@@ -27,5 +32,5 @@ function(vna_add_test name)
         vna_build_flags vna_test_support VnaWidgets::Widgets Qt${VNAWIDGETS_QT_MAJOR}::Test ${ARG_LIBRARIES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "${VNA_TEST_ENVIRONMENT}")
+    vna_set_test_environment(${name})
 endfunction()
