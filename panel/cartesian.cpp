@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cartesian.h"
 
+#include "format.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -30,15 +32,15 @@ double diamondAngle(double real, double imag)
 
 /// Appends the first, lowest, highest and last index of each column; order says what is low.
 template<typename Order>
-QVector<int> outline(const Parameter &parameter, int count, int columns, Order order)
+QVector<int> outline(const Parameter &parameter, int first, int count, int columns, Order order)
 {
     const double *real = parameter.real.constData();
     const double *imag = parameter.imag.constData();
     QVector<int> kept;
     kept.reserve(s_pointsPerColumn * columns);
     for (int column = 0; column < columns; ++column) {
-        const int begin = int(qint64(count) * column / columns);
-        const int end = int(qint64(count) * (column + 1) / columns);
+        const int begin = first + int(qint64(count) * column / columns);
+        const int end = first + int(qint64(count) * (column + 1) / columns);
         int lowest = begin, highest = begin;
         double low = std::numeric_limits<double>::infinity();
         double high = -low;
@@ -63,22 +65,30 @@ QVector<int> outline(const Parameter &parameter, int count, int columns, Order o
 
 } // namespace
 
-double cartesianValue(double real, double imag, CartesianFormat format)
+double cartesianValue(double real, double imag, TraceFormat format)
 {
-    if (format == CartesianFormat::Phase)
+    if (format == TraceFormat::Phase)
         return std::atan2(imag, real) * s_degrees;
-    return 10.0 * std::log10(std::max(power(real, imag), 1e-30));
+    const double square = power(real, imag);
+    if (format == TraceFormat::LogMagnitude)
+        return std::isnan(square) ? square : 10.0 * std::log10(std::max(square, 1e-30));
+    const double magnitude = std::sqrt(square);
+    return magnitude < 1.0 ? (1.0 + magnitude) / (1.0 - magnitude)
+                           : std::numeric_limits<double>::quiet_NaN();
 }
 
-double cartesianValueAt(const Parameter &parameter, double index, CartesianFormat format)
+double cartesianValueAt(const Parameter &parameter, double index, TraceFormat format)
 {
     return cartesianValue(valueAt(parameter.real, index), valueAt(parameter.imag, index), format);
 }
 
 CartesianLine cartesianLine(const QVector<double> &frequencies, const Parameter &parameter,
-                            CartesianFormat format, int columns)
+                            TraceFormat format, int columns, double from, double to)
 {
-    const int count = int(frequencies.size());
+    const auto begin = frequencies.begin(), end = frequencies.end();
+    const int size = int(frequencies.size());
+    const int first = qMax(0, int(std::lower_bound(begin, end, from) - begin) - 1);
+    const int count = qMin(size, int(std::upper_bound(begin, end, to) - begin) + 1) - first;
     columns = qMax(1, columns);
     CartesianLine line;
     const auto append = [&](int index) {
@@ -89,24 +99,46 @@ CartesianLine cartesianLine(const QVector<double> &frequencies, const Parameter 
     if (count <= s_pointsPerColumn * columns) {
         line.frequencies.reserve(count);
         line.values.reserve(count);
-        for (int i = 0; i < count; ++i)
+        for (int i = first; i < first + count; ++i)
             append(i);
         return line;
     }
-    const QVector<int> kept = format == CartesianFormat::Phase
-        ? outline(parameter, count, columns, diamondAngle)
-        : outline(parameter, count, columns, power);
+    const QVector<int> kept = format == TraceFormat::Phase
+        ? outline(parameter, first, count, columns, diamondAngle)
+        : outline(parameter, first, count, columns, power);
     for (const int index : kept)
         append(index);
     return line;
 }
 
-QString cartesianText(double value, CartesianFormat format)
+double highestValue(const Parameter &parameter, TraceFormat format)
 {
-    const bool phase = format == CartesianFormat::Phase;
+    // Of the squares, so that no logarithm is taken of a million points.
+    double highest = -1.0;
+    for (int i = 0; i < parameter.real.size(); ++i)
+        highest = std::fmax(highest, power(parameter.real.at(i), parameter.imag.at(i)));
+    return highest < 0.0 ? std::numeric_limits<double>::quiet_NaN()
+                         : cartesianValue(std::sqrt(highest), 0.0, format);
+}
+
+QString cartesianText(double value, TraceFormat format)
+{
+    if (!std::isfinite(value))
+        return nothingText();
+    const bool phase = format == TraceFormat::Phase;
     QString text = QString::number(value, 'f', phase ? 1 : 2);
     text.replace(QLatin1Char('-'), QChar(0x2212));
-    return text + (phase ? QStringLiteral("\u00b0") : QStringLiteral(" dB"));
+    const QString unit = formatUnit(format);
+    return unit.isEmpty() || phase ? text + unit : text + QLatin1Char(' ') + unit;
+}
+
+QString cartesianReferenceText(double value, TraceFormat format)
+{
+    QString text = QString::number(value, 'g', 6);
+    text.replace(QLatin1Char('-'), QChar(0x2212));
+    const QString unit = formatUnit(format);
+    return unit.isEmpty() || format == TraceFormat::Phase ? text + unit
+                                                          : text + QLatin1Char(' ') + unit;
 }
 
 } // namespace Panel

@@ -6,15 +6,12 @@
 #pragma once
 
 #include "network.h"
+#include "traceformat.h"
+
+#include <QtNumeric>
 
 namespace Panel
 {
-
-/// What a Cartesian diagram shows of a parameter.
-enum class CartesianFormat {
-    LogMagnitude, ///< in dB
-    Phase, ///< in degrees, from -180 to 180
-};
 
 /// A line over the frequency in Hz.
 struct CartesianLine {
@@ -22,18 +19,26 @@ struct CartesianLine {
     QVector<double> values;
 };
 
-/// The value of a parameter; a magnitude of zero counts as -300 dB.
-double cartesianValue(double real, double imag, CartesianFormat format);
+/*! The value of a parameter in a format of a Cartesian diagram; a magnitude of zero counts as -300
+    dB. NaN where there is none: of a NaN, and of the VSWR of a full reflection or more. */
+double cartesianValue(double real, double imag, TraceFormat format);
 /// The value at a fractional index into the data, which must not be empty.
-double cartesianValueAt(const Parameter &parameter, double index, CartesianFormat format);
+double cartesianValueAt(const Parameter &parameter, double index, TraceFormat format);
 
-/*! The line of a parameter for a diagram of so many pixel columns.
+/*! The line of a parameter for a diagram of so many pixel columns that shows a range of frequencies
+    in Hz: the points within, and the one before and after.
     Where there are many more points than columns, each column keeps its first, lowest, highest and
    last point: the picture is the same, and the logarithm is taken of those alone. */
 CartesianLine cartesianLine(const QVector<double> &frequencies, const Parameter &parameter,
-                            CartesianFormat format, int columns);
+                            TraceFormat format, int columns, double from = -qInf(),
+                            double to = qInf());
+/// The highest value of a parameter in a format, or NaN when it has none.
+double highestValue(const Parameter &parameter, TraceFormat format);
 
-/// "−1.32 dB" or "−123.4°".
-QString cartesianText(double value, CartesianFormat format);
+/// "−1.32 dB", "−123.4°" or "1.25"; a dash for what is no number.
+QString cartesianText(double value, TraceFormat format);
+
+/// "0 dB": the same without decimals that are not needed.
+QString cartesianReferenceText(double value, TraceFormat format);
 
 } // namespace Panel

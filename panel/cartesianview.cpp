@@ -2,17 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cartesianview.h"
 
-#include "elidedlabel.h"
+#include "format.h"
 #include "look.h"
-#include "markertable.h"
-#include "panelmodel.h"
 
-#include <controls/thememanager.h>
 #include <plot/qcp.h>
 #include <utils/qtcompat_p.h>
-
-#include <QElapsedTimer>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -23,9 +17,7 @@ namespace Panel
 namespace
 {
 
-constexpr int s_divisions = 10;
-constexpr double s_decibelsPerDivision = 10.0;
-constexpr double s_degreesPerDivision = 45.0;
+constexpr int s_frequencyDivisions = 10;
 /// How near a finger must be to a marker or a line, in pixels.
 constexpr double s_reach = 24.0;
 
@@ -37,79 +29,51 @@ QString activeLayer()
 } // namespace
 
 CartesianView::CartesianView(const PanelModel *model, QWidget *parent)
-    : QWidget(parent)
-    , m_model(model)
-    , m_title(new ElidedLabel(Qt::ElideRight, this))
-    , m_markerTable(new MarkerTable(model, Trace::Transmission, this))
-    , m_plot(new QCustomPlot(this))
+    : DiagramView(model, parent)
 {
-    m_title->setObjectName(QStringLiteral("dim"));
-    m_title->setContentsMargins(10, 6, 10, 2);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(m_title);
-    column->addWidget(m_markerTable);
-    column->addWidget(m_plot, 1);
     setUpPlot();
-    connectPointer();
-    loadTraces();
-    recolor();
-
-    connect(m_model, &PanelModel::networksChanged, this, &CartesianView::loadTraces);
-    connect(m_model, &PanelModel::stimulusChanged, this, &CartesianView::loadTraces);
-    connect(m_model, &PanelModel::networkUpdated, this, &CartesianView::updateTraces);
-    connect(m_model, &PanelModel::activeTraceChanged, this, &CartesianView::showActiveTrace);
-    connect(m_model, &PanelModel::traceVisibleChanged, this, &CartesianView::setTraceVisible);
-    connect(m_model, &PanelModel::markerAdded, this, &CartesianView::addMarker);
-    connect(m_model, &PanelModel::markerMoved, this, &CartesianView::placeMarker);
-    connect(m_model, &PanelModel::markerRemoved, this, [this](int traceId, int number) {
-        m_markers.erase({traceId, number});
-        m_plot->replot(QCustomPlot::rpQueuedReplot);
+    connect(plot(), &QCustomPlot::mousePress, this, &CartesianView::onPress);
+    connect(plot(), &QCustomPlot::mouseMove, this, &CartesianView::onMove);
+    connect(plot(), &QCustomPlot::mouseRelease, this, [this] { m_dragged = {0, 0}; });
+    connect(m_model, &PanelModel::traceScaleChanged, this, [this](int id) {
+        showScale(id);
+        updateTitle();
     });
-    connect(m_model, &PanelModel::selectedMarkerChanged, this, &CartesianView::drawMarkers);
-    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
-            &CartesianView::recolor);
+    recolor();
 }
 
 void CartesianView::setUpPlot()
 {
-    m_plot->setAccessibleName(tr("Transmission"));
-    m_plot->addLayer(activeLayer(), m_plot->layer(QStringLiteral("main")));
+    plot()->setAccessibleName(tr("Cartesian diagram"));
+    plot()->addLayer(activeLayer(), plot()->layer(QStringLiteral("main")));
     // Above is room for a marker on the topmost line and its number.
-    m_plot->axisRect()->setMinimumMargins(QMargins(12, 34, 14, 14));
-    m_plot->axisRect()->setupFullAxesBox();
-    for (QCPAxis *axis : m_plot->axisRect()->axes()) {
-        axis->setTicks(axis == m_plot->yAxis || axis == m_plot->xAxis);
+    plot()->axisRect()->setMinimumMargins(QMargins(12, 34, 14, 14));
+    plot()->axisRect()->setupFullAxesBox();
+    for (QCPAxis *axis : plot()->axisRect()->axes()) {
+        axis->setTicks(axis == plot()->yAxis || axis == plot()->xAxis);
         axis->setTickPen(Qt::NoPen);
         axis->setSubTicks(false);
-        axis->setTickLabels(axis == m_plot->yAxis);
+        axis->setTickLabels(axis == plot()->yAxis);
     }
-    m_plot->yAxis->setTickLabelPadding(8);
-    m_plot->xAxis->grid()->setZeroLinePen(Qt::NoPen);
-    m_plot->yAxis->grid()->setZeroLinePen(Qt::NoPen);
-    m_plot->yAxis->setNumberFormat(QStringLiteral("f"));
-    m_plot->yAxis->setNumberPrecision(0);
-    m_plot->xAxis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
-    m_plot->yAxis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
+    plot()->yAxis->setTickLabelPadding(8);
+    plot()->xAxis->grid()->setZeroLinePen(Qt::NoPen);
+    plot()->yAxis->grid()->setZeroLinePen(Qt::NoPen);
+    plot()->yAxis->setNumberFormat(QStringLiteral("gb"));
+    plot()->yAxis->setNumberPrecision(4);
+    plot()->xAxis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
+    plot()->yAxis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
 }
 
-void CartesianView::connectPointer()
+QCPGraph *CartesianView::graph(int traceId) const
 {
-    connect(m_plot, &QCustomPlot::mousePress, this, &CartesianView::onPress);
-    connect(m_plot, &QCustomPlot::mouseMove, this, &CartesianView::onMove);
-    connect(m_plot, &QCustomPlot::mouseRelease, this, [this] { m_dragged = {0, 0}; });
-    connect(m_plot, &QCustomPlot::mouseDoubleClick, this, &CartesianView::onDoubleClick);
+    const auto found = m_lines.find(traceId);
+    return found == m_lines.end() ? nullptr : found->second.graph;
 }
 
-QVector<Trace> CartesianView::traces() const
+QCPGraph *CartesianView::memoryGraph(int traceId) const
 {
-    QVector<Trace> result;
-    for (const Trace &trace : m_model->traces()) {
-        if (trace.kind() == Trace::Transmission)
-            result.append(trace);
-    }
-    return result;
+    const auto found = m_lines.find(traceId);
+    return found == m_lines.end() ? nullptr : found->second.memory;
 }
 
 const Plot::Marker *CartesianView::marker(int traceId, int number) const
@@ -118,164 +82,224 @@ const Plot::Marker *CartesianView::marker(int traceId, int number) const
     return found == m_markers.end() ? nullptr : &found->second;
 }
 
-void CartesianView::setFormat(CartesianFormat format)
+void CartesianView::clearLines()
 {
-    if (format == m_format)
-        return;
-    m_format = format;
-    m_markerTable->setFormat(format);
-    loadLines();
-    fitValues();
-    updateTitle();
+    m_markers.clear();
+    m_dragged = {0, 0};
+    plot()->clearGraphs();
+    for (const auto &[id, line] : m_lines)
+        plot()->axisRect()->removeAxis(line.values);
+    m_lines.clear();
 }
 
 void CartesianView::loadTraces()
 {
-    m_markers.clear();
-    m_graphs.clear();
-    m_plot->clearGraphs();
-    const Look look = currentLook();
+    clearLines();
     for (const Trace &trace : traces()) {
-        QCPGraph *graph = m_plot->addGraph();
-        graph->setPen(QPen(look.trace(trace.id)));
-        graph->setVisible(trace.visible);
-        graph->setSelectable(QCP::stNone);
-        m_graphs.insert(trace.id, graph);
+        Line &line = m_lines[trace.id];
+        line.values = plot()->axisRect()->addAxis(QCPAxis::atLeft);
+        line.values->setVisible(false);
+        line.values->grid()->setVisible(false);
+        line.graph = plot()->addGraph(plot()->xAxis, line.values);
+        line.graph->setSelectable(QCP::stNone);
+        line.graph->setVisible(trace.visible);
+    }
+    if (m_lines.empty())
+        return;
+    const bool magnified = zoom() > 1.0 && m_lowest < m_highest;
+    fitFrequencies();
+    if (magnified)
+        setFrequencies(plot()->xAxis->range().lower, plot()->xAxis->range().upper);
+    else
+        setFrequencies(m_lowest, m_highest);
+    for (const Trace &trace : traces()) {
+        showScale(trace.id);
+        showMemory(trace);
+        for (const Marker &marker : m_model->markersOf(trace.id))
+            addMarker(trace, marker);
     }
     loadLines();
-    fitValues();
-    for (const Marker &marker : m_model->markers())
-        addMarker(marker.trace, marker.number);
     showActiveTrace();
+    recolor();
 }
 
 void CartesianView::updateTraces(int network)
 {
-    // A hidden diagram catches up when it is shown.
-    if (!isVisible())
-        return;
-    QElapsedTimer timer;
-    timer.start();
+    const double lowest = m_lowest, highest = m_highest;
+    fitFrequencies();
+    if (lowest != m_lowest || highest != m_highest)
+        setFrequencies(m_lowest, m_highest);
     for (const Trace &trace : traces()) {
         if (trace.network == network)
             loadLine(trace);
     }
-    fitFrequencies();
-    m_dataMilliseconds = double(timer.nsecsElapsed()) / 1e6;
 }
 
 void CartesianView::loadLines()
 {
     for (const Trace &trace : traces())
         loadLine(trace);
-    fitFrequencies();
 }
 
 void CartesianView::loadLine(const Trace &trace)
 {
-    QCPGraph *graph = m_graphs.value(trace.id);
-    if (!graph)
+    const auto found = m_lines.find(trace.id);
+    if (found == m_lines.end())
         return;
-    const CartesianLine line = cartesianLine(m_model->network(trace).frequencies,
-                                             m_model->data(trace), m_format, m_plot->width());
-    graph->setData(line.frequencies, line.values, true);
-    for (const auto &[key, marker] : m_markers) {
-        if (key.first == trace.id)
-            placeMarker(key.first, key.second);
+    const QCPRange range = plot()->xAxis->range();
+    const auto load = [&](QCPGraph *graph, const QVector<double> &frequencies,
+                          const Parameter &parameter) {
+        const CartesianLine line = cartesianLine(frequencies, parameter, trace.format,
+                                                 plot()->width(), range.lower, range.upper);
+        graph->setData(line.frequencies, line.values, true);
+    };
+    load(found->second.graph, m_model->network(trace).frequencies, m_model->data(trace));
+    const Memory *memory = m_model->memory(trace.id);
+    if (found->second.memory && memory)
+        load(found->second.memory, memory->frequencies, memory->parameter);
+    for (const Marker &marker : m_model->markersOf(trace.id))
+        moveMarker(trace, marker);
+    replotLater();
+}
+
+void CartesianView::showMemory(const Trace &trace)
+{
+    Line &line = m_lines.at(trace.id);
+    const bool stored = m_model->memory(trace.id);
+    if (!stored && line.memory) {
+        plot()->removeGraph(line.memory);
+        line.memory = nullptr;
+    } else if (stored && !line.memory) {
+        line.memory = plot()->addGraph(plot()->xAxis, line.values);
+        line.memory->setSelectable(QCP::stNone);
+        line.memory->setPen(QPen(currentLook().memory(trace.id)));
+        line.memory->setVisible(trace.visible);
     }
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
+    loadLine(trace);
 }
 
 void CartesianView::fitFrequencies()
 {
-    QCPRange range(0.0, 0.0);
+    m_lowest = qInf();
+    m_highest = -qInf();
     for (const Trace &trace : traces()) {
         const QVector<double> &frequencies = m_model->network(trace).frequencies;
         if (frequencies.isEmpty())
             continue;
-        const QCPRange own(frequencies.first(), frequencies.last());
-        range = range.upper > 0.0 ? range.expanded(own) : own;
+        m_lowest = qMin(m_lowest, frequencies.first());
+        m_highest = qMax(m_highest, frequencies.last());
     }
+    if (m_lowest > m_highest)
+        m_lowest = m_highest = 0.0;
     // A single frequency stands in the middle.
-    if (range.size() <= 0.0)
-        range = QCPRange(range.lower - 1.0, range.upper + 1.0);
-    if (range == m_plot->xAxis->range())
+    if (m_lowest == m_highest) {
+        m_lowest -= 1.0;
+        m_highest += 1.0;
+    }
+}
+
+void CartesianView::setFrequencies(double from, double to)
+{
+    const double span = qMin(to - from, m_highest - m_lowest);
+    from = qBound(m_lowest, from, m_highest - span);
+    const QCPRange range(from, from + span);
+    if (range == plot()->xAxis->range())
         return;
-    auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(m_plot->xAxis->ticker());
+    auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(plot()->xAxis->ticker());
     ticker->setTickOrigin(range.lower);
-    ticker->setTickStep(range.size() / s_divisions);
-    m_plot->xAxis->setRange(range);
+    ticker->setTickStep(range.size() / s_frequencyDivisions);
+    plot()->xAxis->setRange(range);
+    replotLater();
 }
 
-void CartesianView::fitValues()
+void CartesianView::showScale(int traceId)
 {
-    const bool phase = m_format == CartesianFormat::Phase;
-    double highest = 0.0;
-    for (const QCPGraph *graph : qAsConst(m_graphs)) {
-        bool found = false;
-        const QCPRange range = graph->getValueRange(found);
-        if (found && !phase)
-            highest = qMax(highest, range.upper);
+    const auto found = m_lines.find(traceId);
+    if (found == m_lines.end())
+        return;
+    const Trace &trace = *m_model->trace(traceId);
+    const QCPRange range(trace.scale.top - divisions(trace.format) * trace.scale.perDivision,
+                         trace.scale.top);
+    found->second.values->setRange(range);
+    for (const Marker &marker : m_model->markersOf(traceId))
+        moveMarker(trace, marker);
+    const Trace *active = activeTrace();
+    if (active && active->id == traceId) {
+        auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(plot()->yAxis->ticker());
+        ticker->setTickOrigin(trace.scale.top);
+        // Where divisions are too low for their numbers, each line stands for several.
+        const double height = plot()->axisRect()->height() / double(divisions(trace.format));
+        const double needed = QFontMetricsF(plot()->yAxis->tickLabelFont()).height() / height;
+        const int step = needed <= 1.0 ? 1 : needed <= 2.0 ? 2 : 5;
+        ticker->setTickStep(step * trace.scale.perDivision);
+        plot()->yAxis->setRange(range);
     }
-    const double step = phase ? s_degreesPerDivision : s_decibelsPerDivision;
-    m_top = phase ? 180.0 : std::ceil(highest / step) * step;
-    auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(m_plot->yAxis->ticker());
-    ticker->setTickStep(step);
-    m_plot->yAxis->setRange(phase ? -180.0 : m_top - s_divisions * step, m_top);
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
+    replotLater();
 }
 
-void CartesianView::setTraceVisible(int id, bool visible)
+void CartesianView::setTraceVisible(const Trace &trace)
 {
-    if (QCPGraph *graph = m_graphs.value(id))
-        graph->setVisible(visible);
+    const Line &line = m_lines.at(trace.id);
+    line.graph->setVisible(trace.visible);
+    if (line.memory)
+        line.memory->setVisible(trace.visible);
     for (auto &[key, marker] : m_markers) {
-        if (key.first == id)
-            marker.setVisible(visible);
+        if (key.first == trace.id)
+            marker.setVisible(trace.visible);
     }
-    updateTitle();
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
+    replotLater();
 }
 
 void CartesianView::showActiveTrace()
 {
-    const Trace *active = m_model->activeTrace(Trace::Transmission);
-    for (auto graph = m_graphs.cbegin(); graph != m_graphs.cend(); ++graph) {
-        const bool above = active && active->id == graph.key();
-        (*graph)->setLayer(above ? activeLayer() : QStringLiteral("main"));
-    }
-    updateTitle();
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
+    const Trace *active = activeTrace();
+    for (const auto &[id, line] : m_lines)
+        line.graph->setLayer(active && active->id == id ? activeLayer() : QStringLiteral("main"));
+    if (active)
+        showScale(active->id);
+    replotLater();
 }
 
-void CartesianView::addMarker(int traceId, int number)
+void CartesianView::addMarker(const Trace &trace, const Marker &added)
 {
-    if (!m_graphs.contains(traceId))
-        return;
-    const auto added = m_markers.emplace(MarkerKey(traceId, number),
-                                         Plot::Marker(m_plot, number, Plot::PointingDown));
-    Plot::Marker &marker = added.first->second;
-    marker.getLabel()->setText(QString::number(number));
-    marker.setVisible(m_model->trace(traceId)->visible);
-    placeMarker(traceId, number);
-    drawMarkers();
+    Plot::Marker &marker = m_markers
+                               .emplace(MarkerKey(trace.id, added.number),
+                                        Plot::Marker(plot(), added.number, Plot::PointingDown))
+                               .first->second;
+    marker.getLabel()->setText(QString::number(added.number));
+    marker.setVisible(trace.visible);
+    moveMarker(trace, added);
+    showSelectedMarker();
 }
 
-void CartesianView::placeMarker(int traceId, int number)
+void CartesianView::moveMarker(const Trace &trace, const Marker &moved)
 {
-    const auto found = m_markers.find({traceId, number});
-    const Marker *marker = m_model->marker(traceId, number);
-    if (found == m_markers.end() || !marker)
+    const auto found = m_markers.find({trace.id, moved.number});
+    if (found == m_markers.end())
         return;
-    const Trace &trace = *m_model->trace(traceId);
-    const double value = cartesianValueAt(m_model->data(trace), marker->index, m_format);
-    found->second.setPositionCoordinates(
-        m_graphs.value(traceId), valueAt(m_model->network(trace).frequencies, marker->index),
-        value);
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
+    const double hertz = valueAt(m_model->network(trace).frequencies, moved.index);
+    const double value = cartesianValueAt(m_model->data(trace), moved.index, trace.format);
+    const bool shown = trace.visible && std::isfinite(value)
+        && plot()->xAxis->range().contains(hertz);
+    Plot::Marker &marker = found->second;
+    // Beyond the scale it stands at the diagram's edge, of which the upper one lies a pixel outside
+    // for the plot.
+    const QCPRange scale = m_lines.at(trace.id).values->range();
+    const double pixel = scale.size() / qMax(2, plot()->axisRect()->height());
+    marker.setPositionCoordinates(graph(trace.id), hertz,
+                                  qBound(scale.lower, value, scale.upper - pixel));
+    if (marker.isVisible() != shown)
+        marker.setVisible(shown);
+    replotLater();
 }
 
-void CartesianView::drawMarkers()
+void CartesianView::removeMarker(int traceId, int number)
+{
+    m_markers.erase({traceId, number});
+    replotLater();
+}
+
+void CartesianView::showSelectedMarker()
 {
     const Look look = currentLook();
     const Marker *selected = m_model->selectedMarker();
@@ -286,71 +310,110 @@ void CartesianView::drawMarkers()
         const QColor color = filled ? look.trace(key.first).lighter(120) : look.trace(key.first);
         marker.setColors(QPen(color, filled ? 2.0 : 1.5), filled ? QBrush(color) : QBrush());
     }
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
+    replotLater();
 }
 
 void CartesianView::recolor()
 {
     const Look look = currentLook();
-    m_plot->setBackground(look.background);
+    plot()->setBackground(look.background);
     // Fainter than a border: the lines carry the meaning.
     QColor faint = look.border;
     faint.setAlphaF(0.5);
-    for (QCPAxis *axis : m_plot->axisRect()->axes()) {
+    QFont labels = font();
+    labels.setPixelSize(qMax(9, QFontInfo(labels).pixelSize() - 2));
+    for (QCPAxis *axis : plot()->axisRect()->axes()) {
         axis->setBasePen(QPen(look.border));
         axis->setTickLabelColor(look.dimText);
-        QFont labels = font();
-        labels.setPixelSize(qMax(9, QFontInfo(labels).pixelSize() - 2));
         axis->setTickLabelFont(labels);
         axis->grid()->setPen(QPen(faint));
     }
-    for (auto graph = m_graphs.cbegin(); graph != m_graphs.cend(); ++graph)
-        (*graph)->setPen(QPen(look.trace(graph.key())));
-    drawMarkers();
+    for (const auto &[id, line] : m_lines) {
+        line.graph->setPen(QPen(look.trace(id)));
+        if (line.memory)
+            line.memory->setPen(QPen(look.memory(id)));
+    }
+    showSelectedMarker();
 }
 
-void CartesianView::updateTitle()
+QStringList CartesianView::titleParts() const
 {
-    QStringList names;
-    for (const Trace &trace : traces()) {
-        const QString name = PanelModel::parameterName(trace);
-        if (trace.visible && !names.contains(name))
-            names << name;
-    }
-    if (names.isEmpty())
-        names << tr("All traces are hidden");
-    const QString separator = QStringLiteral(" \u00b7 ");
-    const QString scale = m_format == CartesianFormat::Phase
-        ? tr("%1\u00b0/").arg(s_degreesPerDivision)
-        : tr("%1 dB/").arg(s_decibelsPerDivision) + separator + tr("ref %1 dB").arg(m_top);
-    m_title->setText(names.join(QStringLiteral(", ")) + separator + scale);
+    const Trace *active = activeTrace();
+    if (!active)
+        return {};
+    return {formatName(active->format), scaleText(active->format, active->scale),
+            tr("ref %1").arg(cartesianReferenceText(active->scale.top, active->format))};
 }
 
 int CartesianView::drawnPoints() const
 {
     int count = 0;
-    for (const QCPGraph *graph : m_graphs)
-        count += graph->visible() ? graph->dataCount() : 0;
+    for (const auto &[id, line] : m_lines)
+        count += line.graph->visible() ? line.graph->dataCount() : 0;
     return count;
 }
 
 void CartesianView::resizeEvent(QResizeEvent *event)
 {
-    QWidget::resizeEvent(event);
-    // Other columns want other points.
+    DiagramView::resizeEvent(event);
+    // Other columns want other points, and another height other numbers.
     loadLines();
+    if (const Trace *active = activeTrace())
+        showScale(active->id);
 }
 
-void CartesianView::showEvent(QShowEvent *event)
+double CartesianView::zoom() const
 {
-    QWidget::showEvent(event);
+    return (m_highest - m_lowest) / plot()->xAxis->range().size();
+}
+
+void CartesianView::setZoom(double zoom)
+{
+    zoomAt(plot()->axisRect()->center(), zoom / this->zoom());
+}
+
+void CartesianView::zoomAt(const QPointF &position, double factor)
+{
+    const double wanted = qBound(1.0, zoom() * factor, mostZoom);
+    if (!std::isfinite(wanted))
+        return;
+    const QCPRange range = plot()->xAxis->range();
+    const double anchor = plot()->xAxis->pixelToCoord(position.x());
+    const double span = (m_highest - m_lowest) / wanted;
+    const double from = anchor - (anchor - range.lower) * span / range.size();
+    setFrequencies(from, from + span);
     loadLines();
+    Q_EMIT viewChanged();
+}
+
+void CartesianView::moveTo(const QPointF &coordinates, const QPointF &position)
+{
+    if (zoom() <= 1.0)
+        return;
+    const QCPRange range =
+        plot()->xAxis->range() + (coordinates.x() - this->coordinates(position).x());
+    setFrequencies(range.lower, range.upper);
+    loadLines();
+    Q_EMIT viewChanged();
+}
+
+void CartesianView::resetView()
+{
+    setFrequencies(m_lowest, m_highest);
+    loadLines();
+    Q_EMIT viewChanged();
 }
 
 double CartesianView::indexAt(int traceId, const QPointF &position) const
 {
     const QVector<double> &frequencies = m_model->network(*m_model->trace(traceId)).frequencies;
-    return std::round(indexOfFrequency(frequencies, m_plot->xAxis->pixelToCoord(position.x())));
+    return indexOfFrequency(frequencies, plot()->xAxis->pixelToCoord(position.x()));
+}
+
+bool CartesianView::reaches(int traceId) const
+{
+    const Trace *active = activeTrace();
+    return !m_model->viewSettings()->onlyActiveTrace() || (active && active->id == traceId);
 }
 
 void CartesianView::onPress(QMouseEvent *event)
@@ -360,7 +423,7 @@ void CartesianView::onPress(QMouseEvent *event)
         return;
     double nearest = s_reach;
     for (const auto &[key, marker] : m_markers) {
-        if (!marker.isVisible())
+        if (!marker.isVisible() || !reaches(key.first))
             continue;
         // The middle of the triangle, which stands on its point.
         const QPointF middle = marker.getTracer()->position->pixelPosition() - QPointF(0.0, 8.0);
@@ -372,8 +435,6 @@ void CartesianView::onPress(QMouseEvent *event)
     }
     if (m_dragged.first)
         Q_EMIT markerSelectionRequested(m_dragged.first, m_dragged.second);
-    else
-        Q_EMIT tapped();
 }
 
 void CartesianView::onMove(QMouseEvent *event)
@@ -387,26 +448,34 @@ void CartesianView::onMove(QMouseEvent *event)
                                    indexAt(m_dragged.first, QtCompat::position(event)));
 }
 
-void CartesianView::onDoubleClick(QMouseEvent *event)
+bool CartesianView::pick(const QPoint &position, Qt::KeyboardModifiers)
 {
-    const QPointF position = QtCompat::position(event);
-    if (event->button() != Qt::LeftButton || m_dragged.first)
-        return;
     double nearest = s_reach;
     int picked = 0;
     for (const Trace &trace : traces()) {
-        if (!trace.visible || m_model->network(trace).frequencies.isEmpty())
+        if (!trace.visible || !reaches(trace.id) || m_model->network(trace).frequencies.isEmpty())
             continue;
         const double value =
-            cartesianValueAt(m_model->data(trace), indexAt(trace.id, position), m_format);
-        const double distance = std::abs(m_plot->yAxis->coordToPixel(value) - position.y());
+            cartesianValueAt(m_model->data(trace), indexAt(trace.id, position), trace.format);
+        const double distance =
+            std::abs(m_lines.at(trace.id).values->coordToPixel(value) - position.y());
         if (distance < nearest) {
             nearest = distance;
             picked = trace.id;
         }
     }
     if (picked)
-        Q_EMIT pointPicked(picked, indexAt(picked, position));
+        Q_EMIT pointPicked(picked, std::round(indexAt(picked, position)));
+    return picked > 0;
+}
+
+void CartesianView::keyPressEvent(QKeyEvent *event)
+{
+    const Marker *selected = m_model->selectedMarker();
+    if (event->key() == Qt::Key_Delete && selected && traceIds().contains(selected->trace))
+        Q_EMIT markerDeleteRequested(selected->trace, selected->number);
+    else
+        DiagramView::keyPressEvent(event);
 }
 
 } // namespace Panel

@@ -3,101 +3,90 @@
 #pragma once
 
 #include "cartesian.h"
+#include "diagramview.h"
 
 #include <plot/marker.h>
-
-#include <QHash>
-#include <QWidget>
 
 #include <map>
 #include <utility>
 
-class QLabel;
 class QMouseEvent;
 
 namespace Panel
 {
 
-class MarkerTable;
-class PanelModel;
-struct Trace;
+/*! Traces over the frequency, each in its own format and scale.
 
-/*! A diagram with the transmission traces of the model over the frequency, below a line that names
-    them and the read-outs of a trace's markers.
-
-    It follows the model and the theme by itself. What a pointer does on it is reported as a
-   request; it moves no marker and selects none. */
-class CartesianView : public QWidget
+    The plot's own axes are the scales that are written: those of the active trace. Every line has
+    a value axis of its own, which is never seen. The view magnifies the frequencies. */
+class CartesianView : public DiagramView
 {
     Q_OBJECT
 
 public:
     explicit CartesianView(const PanelModel *model, QWidget *parent = nullptr);
 
-    QCustomPlot *plot() const { return m_plot; }
-    MarkerTable *markerTable() const { return m_markerTable; }
     /// The line of a trace, or null.
-    QCPGraph *graph(int traceId) const { return m_graphs.value(traceId); }
+    QCPGraph *graph(int traceId) const;
+    /// The line of a trace's stored data, or null.
+    QCPGraph *memoryGraph(int traceId) const;
     /// A marker as it is drawn, or null.
     const Plot::Marker *marker(int traceId, int number) const;
 
-    CartesianFormat format() const { return m_format; }
-    void setFormat(CartesianFormat format);
-
-    /// How many points of the traces on show are drawn.
-    int drawnPoints() const;
-    /// What the last new measurement cost the diagram, in milliseconds.
-    double dataMilliseconds() const { return m_dataMilliseconds; }
-
-Q_SIGNALS:
-    /// A press on a marker.
-    void markerSelectionRequested(int traceId, int number);
-    /// A dragged marker is asked to move to a point of its trace.
-    void markerMoveRequested(int traceId, int number, double index);
-    /// A double tap on a trace.
-    void pointPicked(int traceId, double index);
-    /// A tap beside all markers.
-    void tapped();
+    double zoom() const override;
+    void setZoom(double zoom) override;
+    void zoomAt(const QPointF &position, double factor) override;
+    void moveTo(const QPointF &coordinates, const QPointF &position) override;
+    void resetView() override;
+    bool isMarkerPressed() const override { return m_dragged.first > 0; }
+    bool pick(const QPoint &position, Qt::KeyboardModifiers modifiers) override;
+    int drawnPoints() const override;
 
 protected:
+    void loadTraces() override;
+    void updateTraces(int network) override;
+    void recolor() override;
+    void setTraceVisible(const Trace &trace) override;
+    void showActiveTrace() override;
+    void addMarker(const Trace &trace, const Marker &marker) override;
+    void moveMarker(const Trace &trace, const Marker &marker) override;
+    void removeMarker(int traceId, int number) override;
+    void showSelectedMarker() override;
+    void showMemory(const Trace &trace) override;
+    QStringList titleParts() const override;
+
     void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     using MarkerKey = std::pair<int, int>; ///< trace and number
+    /// What is drawn of a trace; all owned by the plot.
+    struct Line {
+        QCPGraph *graph = nullptr;
+        QCPGraph *memory = nullptr; ///< null while nothing is stored
+        QCPAxis *values = nullptr;
+    };
 
     void setUpPlot();
-    void connectPointer();
-    void loadTraces();
-    void updateTraces(int network);
+    void clearLines();
     void loadLines();
     void loadLine(const Trace &trace);
     void fitFrequencies();
-    void fitValues();
-    void setTraceVisible(int id, bool visible);
-    void showActiveTrace();
-    void addMarker(int traceId, int number);
-    void placeMarker(int traceId, int number);
-    void drawMarkers();
-    void recolor();
-    void updateTitle();
-    QVector<Trace> traces() const;
+    void showScale(int traceId);
+    void setFrequencies(double from, double to);
     void onPress(QMouseEvent *event);
     void onMove(QMouseEvent *event);
-    void onDoubleClick(QMouseEvent *event);
+    /// Whether the pointer may act on a trace.
+    bool reaches(int traceId) const;
     /// The index of a trace at a point of the plot widget.
     double indexAt(int traceId, const QPointF &position) const;
 
-    const PanelModel *m_model;
-    QLabel *m_title;
-    MarkerTable *m_markerTable;
-    QCustomPlot *m_plot;
-    QHash<int, QCPGraph *> m_graphs; ///< owned by the plot
+    std::map<int, Line> m_lines; ///< by trace
     std::map<MarkerKey, Plot::Marker> m_markers;
     MarkerKey m_dragged = {0, 0};
-    CartesianFormat m_format = CartesianFormat::LogMagnitude;
-    double m_top = 0.0; ///< of the diagram, in dB
-    double m_dataMilliseconds = 0.0;
+    /// All frequencies that there are, in Hz; the view shows a part.
+    double m_lowest = 0.0;
+    double m_highest = 1.0;
 };
 
 } // namespace Panel

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chartgestures.h"
 
-#include "panelmodel.h"
-#include "smithview.h"
+#include "diagramview.h"
 
 #include <plot/qcp.h>
 #include <utils/qtcompat_p.h>
@@ -26,13 +25,13 @@ constexpr double s_panStep = 40.0;
 
 } // namespace
 
-ChartGestures::ChartGestures(PanelModel *model, SmithView *view, QObject *parent)
-    : QObject(parent)
+ChartGestures::ChartGestures(PanelModel *model, DiagramView *view)
+    : QObject(view)
     , m_model(model)
     , m_view(view)
 {
     QCustomPlot *plot = view->plot();
-    // The chart connected first: a press that catches a marker has done so when it comes here.
+    // The view connected first: a press that catches a marker has done so when it comes here.
     connect(plot, &QCustomPlot::mouseWheel, this, &ChartGestures::onWheel);
     connect(plot, &QCustomPlot::mousePress, this, &ChartGestures::onPress);
     connect(plot, &QCustomPlot::mouseMove, this, &ChartGestures::onMove);
@@ -40,36 +39,14 @@ ChartGestures::ChartGestures(PanelModel *model, SmithView *view, QObject *parent
     connect(plot, &QCustomPlot::mouseDoubleClick, this, &ChartGestures::onDoubleClick);
     plot->grabGesture(Qt::PinchGesture);
     plot->installEventFilter(this);
-    connect(view, &SmithView::chartReplaced, this, &ChartGestures::adoptChart);
-    adoptChart();
-}
 
-void ChartGestures::adoptChart()
-{
-    SmithChartPlot *chart = m_view->chart();
-    chart->setOnlyHandleActiveTrace(m_onlyActiveTrace);
-    connect(chart, &SmithChartPlot::pointDoubleClicked, this, [this](int traceId, int index) {
+    connect(view, &DiagramView::markerSelectionRequested, model, &PanelModel::selectMarker);
+    connect(view, &DiagramView::markerMoveRequested, model, &PanelModel::moveMarker);
+    connect(view, &DiagramView::markerDeleteRequested, model, &PanelModel::removeMarker);
+    connect(view, &DiagramView::pointPicked, this, [this](int traceId, double index) {
         m_model->setActiveTrace(traceId);
         m_model->addMarker(traceId, index);
     });
-    connect(chart, &SmithChartPlot::activeTraceDoubleClicked, this,
-            [this](int traceId, double stimulus) {
-                const Network &network = m_model->network(*m_model->trace(traceId));
-                m_model->addMarker(traceId, indexOfFrequency(network.frequencies, stimulus));
-            });
-    connect(chart, &SmithChartPlot::markerSelectionRequested, this,
-            [this](int traceId, int number) {
-                if (!m_onlyActiveTrace || traceId == m_view->chart()->activeTrace())
-                    m_model->selectMarker(traceId, number);
-            });
-    connect(chart, &SmithChartPlot::markerPositionChanged, m_model, &PanelModel::moveMarker);
-    connect(chart, &SmithChartPlot::markerDeleteRequested, m_model, &PanelModel::removeMarker);
-}
-
-void ChartGestures::setOnlyActiveTrace(bool only)
-{
-    m_onlyActiveTrace = only;
-    m_view->chart()->setOnlyHandleActiveTrace(only);
 }
 
 bool ChartGestures::eventFilter(QObject *watched, QEvent *event)
@@ -104,7 +81,7 @@ void ChartGestures::onPress(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    m_pressedMarker = m_view->chart()->isDraggingMarker();
+    m_pressedMarker = m_view->isMarkerPressed();
     if (m_pressedMarker)
         return;
     m_drag = Drag::Pressed;
@@ -119,7 +96,7 @@ void ChartGestures::onMove(QMouseEvent *event)
             return;
         // From here on, so that the view does not jump by the distance it took to be sure.
         m_drag = Drag::Panning;
-        m_grabbed = m_view->chartPoint(position);
+        m_grabbed = m_view->coordinates(position);
     }
     if (m_drag == Drag::Panning)
         m_view->moveTo(m_grabbed, position);
@@ -130,7 +107,7 @@ void ChartGestures::onRelease()
     // A tap beside all markers.
     if (m_drag == Drag::Pressed) {
         m_model->selectMarker(0, 0);
-        if (const Trace *trace = m_model->activeTrace(Trace::Reflection))
+        if (const Trace *trace = m_view->activeTrace())
             m_model->setActiveTrace(trace->id);
     }
     m_drag = Drag::None;
@@ -141,8 +118,7 @@ void ChartGestures::onDoubleClick(QMouseEvent *event)
     m_drag = Drag::None;
     if (event->button() != Qt::LeftButton || m_pressedMarker)
         return;
-    if (!m_view->chart()->handleDoubleClick(QtCompat::position(event).toPoint(),
-                                            event->modifiers()))
+    if (!m_view->pick(QtCompat::position(event).toPoint(), event->modifiers()))
         m_view->resetView();
 }
 
@@ -155,7 +131,7 @@ bool ChartGestures::onGesture(QGestureEvent *event)
     m_drag = Drag::None;
     const QPointF centre = m_view->plot()->mapFromGlobal(pinch->centerPoint().toPoint());
     if (pinch->state() == Qt::GestureStarted)
-        m_grabbed = m_view->chartPoint(centre);
+        m_grabbed = m_view->coordinates(centre);
     m_view->moveTo(m_grabbed, centre);
     m_view->zoomAt(centre, pinch->scaleFactor());
     return true;
@@ -208,7 +184,7 @@ bool ChartGestures::stepMarker(int points)
 void ChartGestures::pan(double right, double down)
 {
     const QPointF from = m_view->plot()->axisRect()->center();
-    m_view->moveTo(m_view->chartPoint(from), from + QPointF(right, down));
+    m_view->moveTo(m_view->coordinates(from), from + QPointF(right, down));
 }
 
 } // namespace Panel

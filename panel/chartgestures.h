@@ -13,31 +13,26 @@ class QWheelEvent;
 namespace Panel
 {
 
+class DiagramView;
 class PanelModel;
-class SmithView;
 
-/*! Answers pointer, touch and keys on a Smith chart.
+/*! Answers pointer, touch and keys on a diagram.
 
-    The chart reports and never acts; this is where the panel decides what a gesture does. The wheel
+    Diagrams report and never act; this is where the panel decides what a gesture does. The wheel
     and two fingers zoom about their point; a drag moves the marker under it or else a magnified
     view; a tap selects a marker, or none; a double tap marks the trace under it or, on free space,
-    shows the whole chart. Keys on the focused chart: + and -, 0, the arrows, of which left and
-   right move a selected marker, Escape and Delete. */
+    shows the whole diagram. Keys on the focused diagram: + and -, 0, the arrows, of which left and
+    right move a selected marker, Escape and Delete. */
 class ChartGestures : public QObject
 {
     Q_OBJECT
 
 public:
-    ChartGestures(PanelModel *model, SmithView *view, QObject *parent = nullptr);
-
-    /// Whether taps and drags reach the active trace only, and not the one under the pointer.
-    bool onlyActiveTrace() const { return m_onlyActiveTrace; }
-    void setOnlyActiveTrace(bool only);
+    ChartGestures(PanelModel *model, DiagramView *view);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void adoptChart();
     void onWheel(QWheelEvent *event);
     void onPress(QMouseEvent *event);
     void onMove(QMouseEvent *event);
@@ -58,14 +53,12 @@ private:
     };
 
     PanelModel *m_model;
-    SmithView *m_view;
+    DiagramView *m_view;
     Drag m_drag = Drag::None;
-    bool m_onlyActiveTrace = false;
     QPointF m_pressed;
     /// Whether the last press caught a marker: a double tap then means that marker.
     bool m_pressedMarker = false;
-    /// Chart coordinates under the pointer or between two fingers when the move began: they stay
-    /// there.
+    /// Coordinates under the pointer or between two fingers when the move began: they stay there.
     QPointF m_grabbed;
 };
 

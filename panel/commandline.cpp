@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commandline.h"
 
+#include "languages.h"
+
 #include <QRegularExpression>
 
 namespace Panel
@@ -40,7 +42,10 @@ CommandLine parseCommandLine(const QStringList &arguments)
         }
         const int equals = int(argument.indexOf(QLatin1Char('=')));
         const QString name = argument.left(equals);
-        const bool takesValue = name == QLatin1String("--grab") || name == QLatin1String("--size");
+        static const QStringList valued{QStringLiteral("--grab"), QStringLiteral("--size"),
+                                        QStringLiteral("--scale"), QStringLiteral("--lang"),
+                                        QStringLiteral("--state")};
+        const bool takesValue = valued.contains(name);
         QString value = equals < 0 ? QString() : argument.mid(equals + 1);
         if (takesValue && equals < 0 && i + 1 < arguments.size())
             value = arguments.at(++i);
@@ -59,8 +64,27 @@ CommandLine parseCommandLine(const QStringList &arguments)
                         .arg(value);
                 return result;
             }
+        } else if (name == QLatin1String("--scale")) {
+            bool ok = false;
+            result.scale = value.toDouble(&ok);
+            if (!ok || !(result.scale >= 1.0 && result.scale <= 4.0)) {
+                result.error =
+                    QStringLiteral("--scale wants a number from 1 to 4, not \"%1\".").arg(value);
+                return result;
+            }
+        } else if (name == QLatin1String("--lang")) {
+            result.language = value;
+            if (!isLanguage(value)) {
+                result.error =
+                    QStringLiteral("--lang wants en, de or zh_CN, not \"%1\".").arg(value);
+                return result;
+            }
+        } else if (name == QLatin1String("--state")) {
+            result.stateFile = value;
         } else if (name == QLatin1String("--simulate")) {
             result.simulate = true;
+        } else if (name == QLatin1String("--exit-when-shown")) {
+            result.exitWhenShown = true;
         } else if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
             result.help = true;
         } else if (name == QLatin1String("--version")) {
@@ -78,13 +102,18 @@ QString helpText()
     return QStringLiteral(
         "Usage: vnapanel [options] [files]\n"
         "\n"
-        "Shows the reflection in Touchstone files (.s1p, .s2p) on a Smith chart.\n"
-        "Without files it shows a sample.\n"
+        "Shows Touchstone files (.s1p, .s2p) on Smith charts and over the frequency.\n"
+        "Without files it shows those of the last time, or a sample.\n"
         "\n"
         "Options:\n"
         "  --grab DIR   write a PNG of each screen to DIR and quit; needs no display\n"
         "  --size WxH   size of the window in pixels, at least 800x480 (default 1280x800)\n"
+        "  --scale F    device pixels for each of these pixels, 1 to 4 (default 1)\n"
+        "  --lang CODE  en, de or zh_CN (default: as it was left)\n"
+        "  --state FILE keep the panel's state there\n"
         "  --simulate   measure a simulated device live\n"
+        "  --exit-when-shown\n"
+        "               quit at the first picture and print the peak memory, to time the start\n"
         "  --help       show this text and quit\n"
         "  --version    show the version and quit\n"
         "\n"

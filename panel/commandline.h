@@ -13,7 +13,11 @@ struct CommandLine {
     QStringList files;
     QString grabFolder; ///< empty: show the window
     QSize size = QSize(1280, 800);
+    double scale = 1.0; ///< device pixels for each pixel of the size
+    QString language; ///< code, or empty: as it was left
+    QString stateFile; ///< empty: the usual place
     bool simulate = false;
+    bool exitWhenShown = false; ///< for timing the start
     bool help = false;
     bool version = false;
     QString error; ///< one sentence; empty if all is well

@@ -2,51 +2,76 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diagramcontroller.h"
 
-#include "cartesianview.h"
+#include "chartgestures.h"
 #include "diagrams.h"
-#include "markertable.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
+#include "smithview.h"
 #include "softkey.h"
-#include "sweepkeys.h"
 
 namespace Panel
 {
 
 DiagramController::DiagramController(PanelModel *model, PanelWindow *window, QObject *parent)
     : QObject(parent)
+    , m_model(model)
+    , m_window(window)
 {
-    Diagrams *diagrams = window->diagrams();
-    SoftKey *layout = window->sweepKeys()->diagramsKey();
-    layout->setChoices({tr("Both"), tr("Smith"), tr("Cartesian")});
-    layout->setChoice(diagrams->diagramLayout());
-    connect(layout, &SoftKey::choicePicked, this, [diagrams, layout](int index) {
-        diagrams->setDiagramLayout(Diagrams::Layout(index));
-        layout->setChoice(index);
-    });
+    for (DiagramView *view : window->diagrams()->allViews())
+        adopt(view);
+    connect(window->diagrams(), &Diagrams::viewMade, this, &DiagramController::adopt);
+    connectKeys();
+    connect(model->viewSettings(), &ViewSettings::changed, this, &DiagramController::showSettings);
+    connect(model, &PanelModel::tracesChanged, this, &DiagramController::showSettings);
+    showSettings();
+}
 
-    CartesianView *view = window->cartesianView();
-    SoftKey *format = window->sweepKeys()->formatKey();
-    format->setChoices({tr("Log mag"), tr("Phase")});
-    format->setChoice(int(view->format()));
-    connect(format, &SoftKey::choicePicked, this, [view, format](int index) {
-        view->setFormat(CartesianFormat(index));
-        format->setChoice(index);
+void DiagramController::connectKeys()
+{
+    const PanelKeys &keys = m_window->keys();
+    ViewSettings *settings = m_model->viewSettings();
+    keys.grid->setChoices({tr("Impedance"), tr("Admittance"), tr("Both")});
+    connect(keys.grid, &SoftKey::choicePicked, settings, [settings](int index) {
+        settings->setGridMode(SmithChartPlot::GridMode(index));
     });
+    keys.density->setChoices({tr("Basic"), tr("Standard"), tr("Detailed")});
+    connect(keys.density, &SoftKey::choicePicked, settings, [settings](int index) {
+        settings->setDensity(SmithChart::Preset(index));
+    });
+    keys.pointer->setChoices({tr("All traces"), tr("Active only")});
+    connect(keys.pointer, &SoftKey::choicePicked, settings,
+            [settings](int index) { settings->setOnlyActiveTrace(index == 1); });
+}
 
-    connect(view->markerTable(), &MarkerTable::selectionRequested, model,
-            &PanelModel::selectMarker);
-    connect(view, &CartesianView::markerSelectionRequested, model, &PanelModel::selectMarker);
-    connect(view, &CartesianView::markerMoveRequested, model, &PanelModel::moveMarker);
-    connect(view, &CartesianView::pointPicked, model, [model](int traceId, double index) {
-        model->setActiveTrace(traceId);
-        model->addMarker(traceId, index);
+void DiagramController::adopt(DiagramView *view)
+{
+    new ChartGestures(m_model, view);
+    auto *smith = qobject_cast<SmithView *>(view);
+    if (!smith)
+        return;
+    // On the Smith chart the scale of a trace is how far the chart is magnified.
+    connect(smith, &DiagramView::viewChanged, m_model, [this, smith] {
+        for (const int id : smith->traceIds())
+            m_model->setTraceScale(id, {1.0 / smith->zoom(), 1.0});
     });
-    connect(view, &CartesianView::tapped, model, [model] {
-        model->selectMarker(0, 0);
-        if (const Trace *trace = model->activeTrace(Trace::Transmission))
-            model->setActiveTrace(trace->id);
+    connect(m_model, &PanelModel::traceScaleChanged, smith, [this, smith](int id) {
+        if (!smith->traceIds().contains(id))
+            return;
+        const double zoom = 1.0 / m_model->trace(id)->scale.perDivision;
+        if (std::abs(zoom - smith->zoom()) > 1e-9 * zoom)
+            smith->setZoom(zoom);
     });
+}
+
+void DiagramController::showSettings()
+{
+    const PanelKeys &keys = m_window->keys();
+    const ViewSettings *settings = m_model->viewSettings();
+    keys.grid->setChoice(settings->gridMode());
+    keys.density->setChoice(settings->density());
+    keys.pointer->setChoice(settings->onlyActiveTrace());
+    for (SoftKey *key : {keys.grid, keys.density, keys.pointer})
+        key->setEnabled(m_model->activeTrace());
 }
 
 } // namespace Panel

@@ -7,16 +7,25 @@
 namespace Panel
 {
 
+class DiagramView;
 class PanelModel;
 class PanelWindow;
 
-/// Answers the keys that choose the diagrams, and what a pointer asks of the Cartesian one.
+/// Gives every diagram its gestures, and answers the keys that say how diagrams look.
 class DiagramController : public QObject
 {
     Q_OBJECT
 
 public:
     DiagramController(PanelModel *model, PanelWindow *window, QObject *parent = nullptr);
+
+private:
+    void connectKeys();
+    void adopt(DiagramView *view);
+    void showSettings();
+
+    PanelModel *m_model;
+    PanelWindow *m_window;
 };
 
 } // namespace Panel

@@ -9,6 +9,8 @@ namespace Panel
 
 QString frequencyText(double hertz)
 {
+    if (!std::isfinite(hertz))
+        return nothingText();
     struct Unit {
         double size;
         const char *name;
@@ -21,11 +23,14 @@ QString frequencyText(double hertz)
     const int shortest = int(digits.indexOf(QLatin1Char('.'))) + 4;
     while (digits.size() > shortest && digits.endsWith(QLatin1Char('0')))
         digits.chop(1);
+    digits.replace(QLatin1Char('-'), QChar(0x2212));
     return digits + QLatin1Char(' ') + QLatin1String(unit->name);
 }
 
 QString engineeringText(double value, const QString &unit)
 {
+    if (!std::isfinite(value))
+        return nothingText();
     static const QString prefixes = QStringLiteral("fpn\u00b5m kMGT");
     // Rounded first: 999.96 has to become 1.000 k.
     const QString rounded = QString::number(value, 'e', 3);
@@ -38,6 +43,20 @@ QString engineeringText(double value, const QString &unit)
     if (group != 0)
         text += prefixes.at(group + 5);
     return text + unit;
+}
+
+QString numberText(double value, int decimals)
+{
+    if (!std::isfinite(value))
+        return nothingText();
+    QString text = QString::number(value, 'f', decimals);
+    text.replace(QLatin1Char('-'), QChar(0x2212));
+    return text;
+}
+
+QString nothingText()
+{
+    return QStringLiteral("\u2013");
 }
 
 QString ohmsText(double ohms)

@@ -13,8 +13,13 @@ namespace Panel
 /// "2.450 GHz": a frequency in Hz with at least three decimals, and as many more as it needs, up to
 /// nine.
 QString frequencyText(double hertz);
-/// "204.5 pH": four significant digits and an SI prefix, with a true minus sign.
+/// "204.5 pH": four significant digits and an SI prefix, with a true minus sign; a dash for what is
+/// no number.
 QString engineeringText(double value, const QString &unit);
+/// "48.21": a number as in an engineering text, without unit and prefix.
+QString numberText(double value, int decimals);
+/// Stands for a value that does not exist or cannot be computed.
+QString nothingText();
 /// "376.73 Ω": a resistance in Ohm with up to five significant digits.
 QString ohmsText(double ohms);
 

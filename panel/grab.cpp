@@ -2,18 +2,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "grab.h"
 
-#include "cartesianview.h"
 #include "diagrams.h"
+#include "diagramview.h"
 #include "filedialog.h"
+#include "helpdialog.h"
 #include "messagebar.h"
 #include "numericdialog.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
 #include "samples.h"
+#include "screenshot.h"
+#include "settingsdialog.h"
 #include "smithview.h"
 #include "softkey.h"
 #include "softkeymenu.h"
-#include "sweepkeys.h"
 
 #include <controls/thememanager.h>
 #include <plot/qcp.h>
@@ -22,6 +24,7 @@
 #include <QDir>
 #include <QPixmap>
 #include <QPointer>
+#include <QToolButton>
 
 #include <cstdio>
 
@@ -54,14 +57,22 @@ public:
     void grab(const char *name, QWidget *widget = nullptr)
     {
         settle();
-        m_window->smithView()->plot()->replot();
-        m_window->cartesianView()->plot()->replot();
+        for (const DiagramView *view : m_window->diagrams()->views())
+            view->plot()->replot();
         const QString path = m_folder.filePath(QLatin1String(name) + QLatin1String(".png"));
         if ((widget ? widget : m_window)->grab().save(path))
             return;
         std::fprintf(stderr, "vnapanel: %s: the picture cannot be written.\n",
                      qUtf8Printable(path));
         m_ok = false;
+    }
+
+    void grabLight(const char *name)
+    {
+        using Controls::ThemeManager;
+        ThemeManager::instance()->setTheme(ThemeManager::Light);
+        grab(name);
+        ThemeManager::instance()->setTheme(ThemeManager::Dark);
     }
 
 private:
@@ -78,14 +89,12 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
         std::fprintf(stderr, "vnapanel: %s: the folder cannot be made.\n", qUtf8Printable(folder));
         return false;
     }
-    using Controls::ThemeManager;
     Grabber grabber(window, folder);
-    SmithView *view = window->smithView();
 
     if (const Trace *trace = model->activeTrace()) {
         const int last = model->network(*trace).points() - 1;
         const int id = trace->id;
-        if (const Trace *transmission = model->activeTrace(Trace::Transmission)) {
+        if (const Trace *transmission = model->activeTrace(false)) {
             model->addMarker(transmission->id, last / 3);
             model->addMarker(transmission->id, last / 2);
         }
@@ -94,54 +103,49 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     }
     grabber.grab("panel");
 
-    for (const auto &[page, name] : {std::pair(1, "page-marker"), std::pair(2, "page-display")}) {
+    static constexpr const char *pages[] = {"panel", "keys-trace",  "keys-marker",
+                                            "keys-display",  "keys-sweep", "keys-system"};
+    for (int page = 1; page < window->softKeys()->pageCount(); ++page) {
         window->softKeys()->setPage(page);
-        grabber.grab(name);
+        grabber.grab(pages[page]);
     }
     window->softKeys()->setPage(0);
-    window->stopKey()->click();
+    window->keys().stop->click();
     const QPointer<NumericDialog> keypad(window->findChild<NumericDialog *>());
     grabber.grab("keypad");
-    ThemeManager::instance()->setTheme(ThemeManager::Light);
-    grabber.grab("keypad-light");
-    ThemeManager::instance()->setTheme(ThemeManager::Dark);
+    grabber.grabLight("keypad-light");
     if (keypad)
         keypad->reject();
+    grabber.grabLight("panel-light");
 
-    // Keys are pressed as a user would, so that their values follow.
-    const auto pick = [](SoftKey *key, int index) { Q_EMIT key->choicePicked(index); };
-    const SweepKeys *keys = window->sweepKeys();
-    window->softKeys()->showKey(keys->sourceKey());
-    grabber.grab("keys-sweep");
-    window->softKeys()->setPage(0);
-    pick(keys->formatKey(), int(CartesianFormat::Phase));
-    grabber.grab("cartesian-phase");
-    pick(keys->formatKey(), int(CartesianFormat::LogMagnitude));
-    pick(keys->diagramsKey(), Diagrams::Cartesian);
-    grabber.grab("cartesian");
-    ThemeManager::instance()->setTheme(ThemeManager::Light);
-    pick(keys->diagramsKey(), Diagrams::Both);
-    grabber.grab("panel-light");
-    ThemeManager::instance()->setTheme(ThemeManager::Dark);
-    pick(keys->diagramsKey(), Diagrams::Smith);
-    pick(window->gridKey(), SmithChartPlot::Admittance);
+    ViewSettings *settings = model->viewSettings();
+    Graph::LayoutManagerProifle *layout = settings->layoutProfile();
+    layout->setLayoutType(Graph::LayoutType::Quad);
+    if (model->traces().size() > 3)
+        model->setTraceFormat(model->traces().at(3).id, TraceFormat::Phase);
+    grabber.grab("four-diagrams");
+    grabber.grabLight("four-diagrams-light");
+    if (model->traces().size() > 3)
+        model->setTraceFormat(model->traces().at(3).id, TraceFormat::LogMagnitude);
+    layout->setLayoutType(Graph::LayoutType::Stacked);
+    grabber.grab("stacked");
+    layout->setLayoutType(Graph::LayoutType::Single);
+    grabber.grab("chart");
+    grabber.grabLight("chart-light");
+    settings->setGridMode(SmithChartPlot::Admittance);
     grabber.grab("smith-admittance");
-    pick(window->gridKey(), SmithChartPlot::ImpedanceAndAdmittance);
+    settings->setGridMode(SmithChartPlot::ImpedanceAndAdmittance);
     grabber.grab("smith-both");
-    pick(window->gridKey(), SmithChartPlot::Impedance);
-    pick(window->densityKey(), SmithChart::Basic);
+    settings->setGridMode(SmithChartPlot::Impedance);
+    settings->setDensity(SmithChart::Basic);
     grabber.grab("smith-basic");
-    pick(window->densityKey(), SmithChart::Detailed);
+    settings->setDensity(SmithChart::Detailed);
     grabber.grab("smith-detailed");
-    pick(window->densityKey(), SmithChart::Standard);
-    view->setZoom(4.0);
+    settings->setDensity(SmithChart::Standard);
+    window->smithView()->setZoom(4.0);
     grabber.grab("smith-zoomed");
-    view->resetView();
-
-    ThemeManager::instance()->setTheme(ThemeManager::Light);
-    grabber.grab("smith-light");
-    ThemeManager::instance()->setTheme(ThemeManager::Dark);
-    pick(keys->diagramsKey(), Diagrams::Both);
+    window->smithView()->resetView();
+    layout->setLayoutType(Graph::LayoutType::SideBySide);
 
     const QString message = window->messageBar()->message();
     window->messageBar()->setMessage(
@@ -154,12 +158,24 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     grabber.grab("empty");
     model->setNetworks(networks);
 
-    FileDialog dialog(window);
-    dialog.setFolder(sampleFolder());
-    dialog.resize(600, 440);
-    dialog.setAttribute(Qt::WA_DontShowOnScreen);
-    dialog.show();
-    grabber.grab("file-dialog", &dialog);
+    window->lockButton()->setChecked(true);
+    grabber.grab("locked");
+    window->lockButton()->setChecked(false);
+
+    const auto grabDialog = [&](QDialog *dialog, const char *name) {
+        dialog->setAttribute(Qt::WA_DontShowOnScreen);
+        dialog->show();
+        grabber.grab(name, dialog);
+    };
+    FileDialog files(window);
+    files.setFolder(sampleFolder());
+    files.resize(600, 440);
+    grabDialog(&files, "file-dialog");
+    SettingsDialog settingsDialog(model, window);
+    settingsDialog.setScreenshotFolder(screenshotFolder());
+    grabDialog(&settingsDialog, "settings");
+    HelpDialog help(window);
+    grabDialog(&help, "help");
     if (grabber.ok())
         std::printf("The pictures are in %s\n", qUtf8Printable(QDir(folder).absolutePath()));
     return grabber.ok();

@@ -32,6 +32,7 @@ Look currentLook()
     look.border = theme->borderColor();
     look.button = theme->getColor(QStringLiteral("buttonColor"));
     look.traces = theme->getTracePalette();
+    look.memories = theme->getMemoryTracePalette();
     // The same as in the theme's style sheets.
     look.bar = dark ? QColor(0x14, 0x17, 0x1a) : QColor(0xe1, 0xdc, 0xd6);
     look.dimText = dark ? QColor(0x9a, 0xa5, 0xaf) : QColor(0x4d, 0x58, 0x61);

@@ -21,9 +21,12 @@ struct Look {
     QColor accent; ///< choice and focus
     QColor warning; ///< edge of a message
     QVector<QColor> traces;
+    QVector<QColor> memories;
 
     /// The colour of a trace: its number picks from the palette, which starts over at its end.
     QColor trace(int id) const { return traces.at((id - 1) % traces.size()); }
+    /// The same for stored data.
+    QColor memory(int id) const { return memories.at((id - 1) % memories.size()); }
 };
 
 /// Gives the program the panel's font, the pictures of the library and the dark theme; called once

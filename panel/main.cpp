@@ -2,16 +2,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commandline.h"
 #include "grab.h"
+#include "languages.h"
 #include "look.h"
+#include "messagebar.h"
 #include "panelcontroller.h"
 #include "panelmodel.h"
+#include "panelstate.h"
 #include "panelwindow.h"
 #include "samples.h"
 #include "sweepcontroller.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QFile>
 #include <QScreen>
+#include <QWindow>
 
 #include <cstdio>
 
@@ -30,12 +35,38 @@ QStringList decoded(int argc, char **argv)
 
 QtMessageHandler s_handleMessage = nullptr;
 
-/// Without a display Qt complains of what only a display needs: window limits and a runtime folder.
+/// Without a display Qt complains of what only a display needs: windows that are placed and a runtime folder.
 void dropOffscreenNoise(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (!message.contains(QLatin1String("propagateSizeHints"))
+    if (!message.contains(QLatin1String("This plugin does not support"))
         && !message.contains(QLatin1String("XDG_RUNTIME_DIR not set")))
         s_handleMessage(type, context, message);
+}
+
+/// What the program held at most, where the system tells it.
+void printPeakMemory()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return;
+    const QList<QByteArray> lines = status.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith("VmHWM:"))
+            std::printf("Peak memory: %s\n", line.mid(6).trimmed().constData());
+    }
+}
+
+/// Opens the files that were asked for, or else those of the last time, or else a sample; false if
+/// one that was asked for cannot be read.
+bool openFiles(Panel::PanelController *controller, const QStringList &files,
+               const QStringList &filesOfLastTime)
+{
+    if (!files.isEmpty())
+        return controller->openFiles(files);
+    if (filesOfLastTime.isEmpty())
+        return controller->openFiles({Panel::startSample()});
+    controller->openFiles(filesOfLastTime);
+    return true;
 }
 
 } // namespace
@@ -65,24 +96,52 @@ int main(int argc, char **argv)
     if (grabs)
         s_handleMessage = qInstallMessageHandler(dropOffscreenNoise);
 
+    if (commandLine.scale > 1.0)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(commandLine.scale));
+
     QApplication application(argc, argv);
+    application.setApplicationName(QStringLiteral("vnapanel"));
     setUpApplication();
+    // Pictures and timings are of the panel as it is made, whatever somebody has left.
+    const PanelState state(grabs || commandLine.exitWhenShown                            ? QString()
+                               : commandLine.stateFile.isEmpty() ? PanelState::usualPath()
+                                                                 : commandLine.stateFile);
+    const QString saved = state.language().isEmpty() ? QStringLiteral("en") : state.language();
+    setLanguage(commandLine.language.isEmpty() ? saved : commandLine.language);
 
     PanelModel model;
     PanelWindow window(&model);
     PanelController controller(&model, &window);
     window.resize(commandLine.size);
-    const bool opened = controller.openFiles(
-        commandLine.files.isEmpty() ? QStringList{startSample()} : commandLine.files);
-    if (commandLine.simulate)
+    const bool opened = openFiles(&controller, commandLine.files, state.files());
+    if (commandLine.simulate) {
         controller.sweepController()->simulate(SimulatedDevice::Filter);
+        // So that a picture has something to show.
+        QEventLoop swept;
+        QObject::connect(controller.sweepController(), &SweepController::sweepCompleted, &swept,
+                         &QEventLoop::quit);
+        swept.exec();
+    }
     if (grabs) {
         window.setAttribute(Qt::WA_DontShowOnScreen);
         window.show();
         return grabScreens(&model, &window, commandLine.grabFolder) && opened ? 0 : 1;
     }
+    state.restore(&model, &controller);
+    if (!state.note().isEmpty())
+        window.messageBar()->setMessage(state.note());
     // No larger than what it is shown on.
     window.resize(commandLine.size.boundedTo(window.screen()->availableSize()));
     window.show();
-    return QApplication::exec();
+    if (commandLine.exitWhenShown) {
+        while (!window.windowHandle()->isExposed())
+            QApplication::processEvents();
+        QApplication::processEvents();
+        printPeakMemory();
+        return 0;
+    }
+    const int status = QApplication::exec();
+    if (!state.save(model, controller, controller.language()))
+        std::fprintf(stderr, "vnapanel: the panel's state could not be saved.\n");
+    return status;
 }

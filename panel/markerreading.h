@@ -1,24 +1,44 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+/*! \file
+    What markers read of their points, as numbers and as text. */
 #pragma once
 
 #include "network.h"
+#include "traceformat.h"
+
+#include <QStringList>
 
 namespace Panel
 {
 
-/// What a marker shows of its point, as text.
+/// What a marker shows of its point, as text; values that do not exist are dashes.
 struct MarkerReading {
     QString frequency; ///< "2.450 GHz"
-    QString resistance; ///< "48.21 Ω"
-    QString reactance; ///< "+j3.100 Ω"
-    /// The inductance or capacitance in series that has this reactance: "204.5 pH"; empty where
-    /// there is none.
-    QString element;
+    /// One to three: "48.21 Ω", "+j3.100 Ω", "204.5 pH".
+    QStringList values;
 };
 
-/*! Reads a reflection parameter at a fractional index into its data as the impedance R (1 + Γ) / (1
-   - Γ), with R the reference resistance. The index must lie within the data. */
-MarkerReading readMarker(const Network &network, const Parameter &parameter, double index);
+/// A point of a parameter at a fractional index, which must lie within the data.
+struct MarkedPoint {
+    const Network *network = nullptr;
+    const Parameter *parameter = nullptr;
+    double index = 0.0;
+};
+
+/*! Reads a point on the Smith chart.
+
+    Γ is the parameter, R the reference resistance: the impedance is R (1 + Γ) / (1 - Γ), the
+    admittance (1 - Γ) / (1 + Γ) / R, and the standing wave ratio (1 + |Γ|) / (1 - |Γ|).
+    Automatic counts as Impedance. */
+MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format);
+/// The same as the difference from a reference point, part by part; elements are left out.
+MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
+                               const MarkedPoint &reference);
+
+/// Reads a point of a Cartesian diagram.
+MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format);
+MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format,
+                              const MarkedPoint &reference);
 
 } // namespace Panel

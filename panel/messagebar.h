@@ -4,13 +4,25 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class QLabel;
+class QProgressBar;
+class QPushButton;
+class QToolButton;
 
 namespace Panel
 {
 
-/// A sentence across the panel that stays until it is closed or replaced; hidden while there is
-/// none.
+/*! A sentence across the panel that stays until it is closed or replaced; hidden while there is
+    none. Beside it there may be a button with what can be done about it, and how far something has
+    got.
+
+    \code
+    bar->setMessage(tr("The file cannot be read."));
+    bar->offer(tr("x.s2p has changed on disk."), tr("Reload"), this, [this] { reload(); });
+    bar->showProgress(tr("Reading x.s2p"), 40, tr("Cancel"), this, [this] { cancel(); });
+    \endcode */
 class MessageBar : public QFrame
 {
     Q_OBJECT
@@ -21,9 +33,22 @@ public:
     QString message() const;
     /// Shows the bar; an empty message hides it.
     void setMessage(const QString &message);
+    /// Shows a message with a button. Pressing it closes the message and calls the answer, as long
+    /// as the context lives.
+    void offer(const QString &message, const QString &action, const QObject *context,
+               const std::function<void()> &answer);
+    /// The same with a bar that is full at 100 percent; only the button closes such a message. A
+    /// further call with this message moves the bar and no more.
+    void showProgress(const QString &message, int percent, const QString &action,
+                      const QObject *context, const std::function<void()> &answer);
+    bool showsProgress() const;
 
 private:
     QLabel *m_label;
+    QProgressBar *m_progress;
+    QPushButton *m_action;
+    QToolButton *m_close;
+    QMetaObject::Connection m_answer;
 };
 
 } // namespace Panel

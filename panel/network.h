@@ -19,6 +19,8 @@ struct Parameter {
 struct Network {
     /// What the network is called on the panel: its file's name.
     QString name;
+    /// Full path of the file that it was read from; empty for a measurement.
+    QString path;
     int ports = 0;
     double referenceOhms = 50.0;
     /// Stimulus in Hz, never falling.
@@ -41,8 +43,5 @@ double valueAt(const QVector<double> &values, double index);
 /// The fractional index of a frequency, or the end of the sweep next to it. The frequencies must
 /// not be empty.
 double indexOfFrequency(const QVector<double> &frequencies, double hertz);
-
-/// Whether two sweeps of evenly spaced frequencies are the same.
-bool sameSweep(const QVector<double> &a, const QVector<double> &b);
 
 } // namespace Panel

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numerickeys.h"
 
+#include "cartesian.h"
+#include "diagrams.h"
+#include "diagramview.h"
 #include "format.h"
 #include "messagebar.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
-#include "smithview.h"
 #include "softkey.h"
 #include "sweepcontroller.h"
 #include "units.h"
@@ -32,7 +34,7 @@ QVector<double> decadeSteps(double span)
 
 } // namespace
 
-NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, const SweepController *sweeps,
+NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, SweepController *sweeps,
                          QObject *parent)
     : QObject(parent)
     , m_model(model)
@@ -40,16 +42,16 @@ NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, const SweepCont
     , m_sweeps(sweeps)
 {
     m_stimulusNumbers = {
-        {window->startKey(), [](const Stimulus &s) { return s.start; }, withStart},
-        {window->stopKey(), [](const Stimulus &s) { return s.stop; }, withStop},
-        {window->centerKey(), [](const Stimulus &s) { return s.center(); }, withCenter},
-        {window->spanKey(), [](const Stimulus &s) { return s.span(); }, withSpan},
+        {window->keys().start, [](const Stimulus &s) { return s.start; }, withStart},
+        {window->keys().stop, [](const Stimulus &s) { return s.stop; }, withStop},
+        {window->keys().center, [](const Stimulus &s) { return s.center(); }, withCenter},
+        {window->keys().span, [](const Stimulus &s) { return s.span(); }, withSpan},
     };
     for (const StimulusNumber &number : qAsConst(m_stimulusNumbers))
         connect(number.key, &SoftKey::clicked, this, [this, number] { editStimulus(number); });
-    connect(window->pointsKey(), &SoftKey::clicked, this, &NumericKeys::editPoints);
-    connect(window->markerStimulusKey(), &SoftKey::clicked, this, &NumericKeys::editMarkerStimulus);
-    connect(window->zoomKey(), &SoftKey::clicked, this, &NumericKeys::editZoom);
+    connect(window->keys().points, &SoftKey::clicked, this, &NumericKeys::editPoints);
+    connect(window->keys().markerStimulus, &SoftKey::clicked, this, &NumericKeys::editMarkerStimulus);
+    connect(window->keys().zoom, &SoftKey::clicked, this, &NumericKeys::editZoom);
 
     connect(model, &PanelModel::activeTraceChanged, this, &NumericKeys::showStimulus);
     connect(model, &PanelModel::stimulusChanged, this, &NumericKeys::showStimulus);
@@ -57,17 +59,34 @@ NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, const SweepCont
     connect(model, &PanelModel::stimulusChanged, this, &NumericKeys::showMarkerStimulus);
     connect(model, &PanelModel::selectedMarkerChanged, this, &NumericKeys::showMarkerStimulus);
     connect(model, &PanelModel::markerMoved, this, &NumericKeys::showMarkerStimulus);
-    connect(window->smithView(), &SmithView::viewChanged, this, &NumericKeys::showZoom);
+    connect(window->keys().scale, &SoftKey::clicked, this,
+            [this] { editScale(m_window->keys().scale); });
+    connect(window->keys().reference, &SoftKey::clicked, this, &NumericKeys::editReference);
+    for (const auto signal : {&PanelModel::activeTraceChanged, &PanelModel::tracesChanged})
+        connect(model, signal, this, &NumericKeys::showScale);
+    connect(model, &PanelModel::traceScaleChanged, this, &NumericKeys::showScale);
+    connect(window->keys().tune, &SoftKey::clicked, this, &NumericKeys::editTuning);
+    connect(sweeps, &SweepController::tuningChanged, this, &NumericKeys::showTuning);
+    connect(model, &PanelModel::networksChanged, this, &NumericKeys::showTuning);
+    showTuning();
+    const auto watch = [this](const DiagramView *view) {
+        connect(view, &DiagramView::viewChanged, this, &NumericKeys::showZoom);
+    };
+    for (const DiagramView *view : window->diagrams()->allViews())
+        watch(view);
+    connect(window->diagrams(), &Diagrams::viewMade, this, watch);
+    connect(window->diagrams(), &Diagrams::viewsChanged, this, &NumericKeys::showZoom);
+    showScale();
     showStimulus();
     showMarkerStimulus();
     showZoom();
 }
 
 template<typename Apply>
-void NumericKeys::edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps,
-                       Apply apply)
+void NumericKeys::edit(QWidget *key, const QString &name, UnitAdapter *adapter,
+                       const QVector<double> &steps, Apply apply)
 {
-    auto *dialog = new NumericDialog(key->name(), adapter, m_window);
+    auto *dialog = new NumericDialog(name, adapter, m_window);
     dialog->setSteps(steps);
     dialog->setPopupAnchorWidget(key);
     MessageBar *bar = m_window->messageBar();
@@ -88,6 +107,13 @@ void NumericKeys::edit(SoftKey *key, UnitAdapter *adapter, const QVector<double>
     dialog->open();
 }
 
+template<typename Apply>
+void NumericKeys::edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps,
+                       Apply apply)
+{
+    edit(key, key->name(), adapter, steps, apply);
+}
+
 void NumericKeys::editStimulus(const StimulusNumber &number)
 {
     const Trace *trace = m_model->activeTrace();
@@ -96,7 +122,7 @@ void NumericKeys::editStimulus(const StimulusNumber &number)
     const Stimulus limits = this->limits(*trace);
     // What the entry began with: steps go back and forth from there.
     const Stimulus before = stimulus(*trace);
-    const bool isSpan = number.key == m_window->spanKey();
+    const bool isSpan = number.key == m_window->keys().span;
     const double leastSpan = m_sweeps->isSimulating() ? Sweep::leastSpan : 0.0;
     auto *adapter = new FrequencyAdapter;
     adapter->setRange(isSpan ? leastSpan : limits.start, isSpan ? limits.span() : limits.stop);
@@ -117,7 +143,7 @@ void NumericKeys::editPoints()
     auto *adapter = new NumberAdapter(0);
     adapter->setRange(Sweep::fewestPoints, Sweep::mostPoints);
     adapter->setRealValue(m_model->sweep().points);
-    edit(m_window->pointsKey(), adapter, {NumericDialog::Step125, 100.0, 1.0},
+    edit(m_window->keys().points, adapter, {NumericDialog::Step125, 100.0, 1.0},
          [this](double value) {
              Sweep sweep = m_model->sweep();
              sweep.points = qRound(value);
@@ -158,7 +184,7 @@ void NumericKeys::editMarkerStimulus()
     adapter->setRange(network.frequencies.constFirst(), network.frequencies.constLast());
     adapter->setRealValue(valueAt(network.frequencies, marker->index));
     QVector<double> steps = decadeSteps(adapter->maximum() - adapter->minimum());
-    edit(m_window->markerStimulusKey(), adapter, steps,
+    edit(m_window->keys().markerStimulus, adapter, steps,
          [this, traceId = marker->trace, number = marker->number](double value) {
              if (const Trace *trace = m_model->trace(traceId))
                  m_model->moveMarker(traceId, number,
@@ -166,13 +192,70 @@ void NumericKeys::editMarkerStimulus()
          });
 }
 
+void NumericKeys::editScale(QWidget *anchor)
+{
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
+        return;
+    const TraceFormat format = trace->format;
+    UnitAdapter *adapter = format == TraceFormat::LogMagnitude
+        ? static_cast<UnitAdapter *>(new DecibelAdapter)
+        : new NumberAdapter(2);
+    // The Smith chart is magnified 20 times at most.
+    adapter->setRange(format == TraceFormat::Smith ? 1.0 / DiagramView::mostZoom : 0.01,
+                      format == TraceFormat::Smith       ? 1.0
+                          : format == TraceFormat::Phase ? 90.0
+                                                         : 100.0);
+    const Scale before = trace->scale;
+    adapter->setRealValue(before.perDivision);
+    const QString unit = formatUnit(format);
+    edit(anchor, unit.isEmpty() ? tr("Scale/") : tr("Scale, %1/").arg(unit), adapter,
+         {NumericDialog::Step125}, [=, id = trace->id](double value) {
+             // The standing wave ratio begins at 1, wherever its scale ends.
+             const double top = format == TraceFormat::Vswr
+                 ? before.top + divisions(format) * (value - before.perDivision)
+                 : before.top;
+             m_model->setTraceScale(id, {value, top});
+         });
+}
+
+void NumericKeys::editReference()
+{
+    const Trace *trace = m_model->activeTrace();
+    if (!trace || trace->onSmithChart())
+        return;
+    UnitAdapter *adapter = trace->format == TraceFormat::LogMagnitude
+        ? static_cast<UnitAdapter *>(new DecibelAdapter)
+        : new NumberAdapter(2);
+    adapter->setRange(-1000.0, 1000.0);
+    adapter->setRealValue(trace->scale.top);
+    const double division = trace->scale.perDivision;
+    edit(m_window->keys().reference, adapter, {division, division / 10.0},
+         [this, division, id = trace->id](double value) {
+             m_model->setTraceScale(id, {division, value});
+         });
+}
+
+void NumericKeys::editTuning()
+{
+    const Stimulus limits = m_sweeps->tuningLimits();
+    auto *adapter = new FrequencyAdapter;
+    adapter->setRange(limits.start, limits.stop);
+    adapter->setRealValue(m_sweeps->tuning());
+    edit(m_window->keys().tune, adapter, {10e6, 1e6},
+         [this](double value) { m_sweeps->setTuning(value); });
+}
+
 void NumericKeys::editZoom()
 {
+    DiagramView *view = m_window->diagrams()->activeView();
+    if (!view)
+        return;
     auto *adapter = new NumberAdapter(2);
-    adapter->setRange(1.0, 20.0);
-    adapter->setRealValue(m_window->smithView()->zoom());
-    edit(m_window->zoomKey(), adapter, {NumericDialog::Step125, 1.0, 0.1},
-         [view = m_window->smithView()](double value) { view->setZoom(value); });
+    adapter->setRange(1.0, DiagramView::mostZoom);
+    adapter->setRealValue(view->zoom());
+    edit(m_window->keys().zoom, adapter, {NumericDialog::Step125, 1.0, 0.1},
+         [view](double value) { view->setZoom(value); });
 }
 
 void NumericKeys::showStimulus()
@@ -184,8 +267,8 @@ void NumericKeys::showStimulus()
     }
     // A file has the points that it has.
     const bool simulating = m_sweeps->isSimulating();
-    m_window->pointsKey()->setEnabled(trace && simulating);
-    m_window->pointsKey()->setValue(
+    m_window->keys().points->setEnabled(trace && simulating);
+    m_window->keys().points->setValue(
         !trace           ? s_nothing
             : simulating ? QString::number(m_model->sweep().points)
                          : QString::number(m_model->network(*trace).frequencies.size()));
@@ -194,7 +277,7 @@ void NumericKeys::showStimulus()
 void NumericKeys::showMarkerStimulus()
 {
     const Marker *marker = m_model->selectedMarker();
-    SoftKey *key = m_window->markerStimulusKey();
+    SoftKey *key = m_window->keys().markerStimulus;
     key->setEnabled(marker);
     if (!marker) {
         key->setValue(s_nothing);
@@ -204,10 +287,31 @@ void NumericKeys::showMarkerStimulus()
     key->setValue(frequencyText(valueAt(network.frequencies, marker->index)));
 }
 
+void NumericKeys::showScale()
+{
+    const Trace *trace = m_model->activeTrace();
+    const PanelKeys &keys = m_window->keys();
+    const bool cartesian = trace && !trace->onSmithChart();
+    keys.scale->setValue(trace ? scaleText(trace->format, trace->scale) : s_nothing);
+    keys.scale->setEnabled(trace);
+    keys.reference->setValue(
+        cartesian ? cartesianReferenceText(trace->scale.top, trace->format) : s_nothing);
+    keys.reference->setEnabled(cartesian);
+}
+
+void NumericKeys::showTuning()
+{
+    SoftKey *key = m_window->keys().tune;
+    key->setEnabled(m_sweeps->isTunable());
+    key->setValue(m_sweeps->isTunable() ? frequencyText(m_sweeps->tuning()) : s_nothing);
+}
+
 void NumericKeys::showZoom()
 {
-    m_window->zoomKey()->setValue(
-        QStringLiteral("%1 \u00d7").arg(m_window->smithView()->zoom(), 0, 'f', 2));
+    const DiagramView *view = m_window->diagrams()->activeView();
+    m_window->keys().zoom->setEnabled(view);
+    m_window->keys().zoom->setValue(
+        view ? QStringLiteral("%1 \u00d7").arg(view->zoom(), 0, 'f', 2) : s_nothing);
 }
 
 } // namespace Panel

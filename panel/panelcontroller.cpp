@@ -2,30 +2,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panelcontroller.h"
 
-#include "chartgestures.h"
 #include "diagramcontroller.h"
-#include "filedialog.h"
-#include "markertable.h"
+#include "filecontroller.h"
+#include "helpdialog.h"
+#include "languages.h"
+#include "markercontroller.h"
 #include "messagebar.h"
 #include "numerickeys.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
-#include "smithview.h"
+#include "screenshot.h"
+#include "settingsdialog.h"
 #include "softkey.h"
 #include "softkeymenu.h"
+#include "sweepbar.h"
 #include "sweepcontroller.h"
-#include "touchstone.h"
-#include "tracebar.h"
+#include "timingline.h"
+#include "tracecontroller.h"
 
 #include <controls/thememanager.h>
+#include <widgets/lockwidget.h>
+#include <widgets/switchbutton.h>
 
-#include <QAbstractButton>
 #include <QDir>
-#include <QFileInfo>
 #include <QShortcut>
-
-#include <cmath>
-#include <cstdio>
+#include <QToolButton>
 
 namespace Panel
 {
@@ -35,67 +36,47 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     , m_model(model)
     , m_window(window)
     , m_sweeps(new SweepController(model, window, this))
-    , m_folder(QDir::currentPath())
+    , m_files(new FileController(model, window, this))
+    , m_screenshotFolder(Panel::screenshotFolder())
+    , m_language(currentLanguage())
 {
-    auto *gestures = new ChartGestures(model, window->smithView(), this);
-    SoftKey *pointer = window->pointerKey();
-    pointer->setChoices({tr("All traces"), tr("Active only")});
-    pointer->setChoice(gestures->onlyActiveTrace());
-    connect(pointer, &SoftKey::choicePicked, gestures, [pointer, gestures](int index) {
-        gestures->setOnlyActiveTrace(index == 1);
-        pointer->setChoice(index);
-    });
+    auto *numbers = new NumericKeys(model, window, m_sweeps, this);
     new DiagramController(model, window, this);
-    new NumericKeys(model, window, m_sweeps, this);
-    connect(m_sweeps, &SweepController::fileRequested, this, &PanelController::showFileDialog);
+    new TraceController(model, window, numbers, this);
+    new MarkerController(model, window, numbers, this);
     connectKeys();
+    connectSweep();
     addShortcuts();
-    showMarker();
 }
 
 void PanelController::connectKeys()
 {
-    SmithView *view = m_window->smithView();
-    connect(m_window->traceBar(), &TraceBar::activationRequested, m_model,
-            &PanelModel::setActiveTrace);
-    connect(m_window->fileKey(), &SoftKey::clicked, this, &PanelController::showFileDialog);
+    const PanelKeys &keys = m_window->keys();
+    connect(keys.file, &SoftKey::clicked, this, &PanelController::showFileDialog);
     connect(m_window->emptyPageButton(), &QAbstractButton::clicked, this,
             &PanelController::showFileDialog);
+    connect(keys.settings, &SoftKey::clicked, this, &PanelController::showSettings);
+    connect(keys.help, &SoftKey::clicked, this, &PanelController::showHelp);
+    connect(keys.screenshot, &SoftKey::clicked, this, &PanelController::takeScreenshot);
+    connect(keys.timing, &SwitchButton::statusChanged, this, &PanelController::setTimingShown);
+    keys.help->setValue(QStringLiteral("F1"));
+    keys.screenshot->setValue(QStringLiteral("PNG"));
+    keys.settings->setValue(QStringLiteral("\u2026"));
+
     connect(m_window->themeButton(), &QAbstractButton::clicked, Controls::ThemeManager::instance(),
             &Controls::ThemeManager::toggleTheme);
+    connect(m_window->screenshotButton(), &QAbstractButton::clicked, this,
+            &PanelController::takeScreenshot);
+    connect(m_window->lockButton(), &QAbstractButton::toggled, this,
+            &PanelController::setLockShown);
+}
 
-    SoftKey *grid = m_window->gridKey();
-    grid->setChoices({tr("Impedance"), tr("Admittance"), tr("Both")});
-    grid->setChoice(view->gridMode());
-    connect(grid, &SoftKey::choicePicked, view, [grid, view](int index) {
-        view->setGridMode(SmithChartPlot::GridMode(index));
-        grid->setChoice(index);
-    });
-
-    SoftKey *density = m_window->densityKey();
-    density->setChoices({tr("Basic"), tr("Standard"), tr("Detailed")});
-    density->setChoice(view->density());
-    connect(density, &SoftKey::choicePicked, view, [density, view](int index) {
-        view->setDensity(SmithChart::Preset(index));
-        density->setChoice(index);
-    });
-
-    connect(m_window->traceKey(), &SoftKey::clicked, this, [this] {
-        if (const Trace *trace = m_model->activeTrace())
-            m_model->setTraceVisible(trace->id, !trace->visible);
-    });
-
-    m_window->markerKey()->setChoices({tr("Add"), tr("Remove"), tr("Remove all")});
-    connect(m_window->markerKey(), &SoftKey::choicePicked, this, &PanelController::onMarkerPicked);
-    connect(view->markerTable(), &MarkerTable::selectionRequested, m_model,
-            &PanelModel::selectMarker);
-    connect(m_model, &PanelModel::selectedMarkerChanged, this, &PanelController::showMarker);
-    connect(m_model, &PanelModel::markersExhausted, this, [this](int traceId) {
-        m_window->messageBar()->setMessage(
-            tr("Trace %1 has all its %2 markers: remove one to set another.")
-                .arg(traceId)
-                .arg(PanelModel::markersPerTrace));
-    });
+void PanelController::connectSweep()
+{
+    connect(m_sweeps, &SweepController::fileRequested, this, &PanelController::showFileDialog);
+    connect(m_sweeps, &SweepController::progressed, m_window->sweepBar(), &SweepBar::setProgress);
+    connect(m_sweeps, &SweepController::sweepCompleted, m_window->sweepBar(),
+            &SweepBar::countSweep);
 }
 
 void PanelController::addShortcuts()
@@ -106,74 +87,70 @@ void PanelController::addShortcuts()
     add(QKeySequence::Open, [this] { showFileDialog(); });
     add(QKeySequence::Quit, [this] { m_window->close(); });
     add(Qt::CTRL | Qt::Key_T, [] { Controls::ThemeManager::instance()->toggleTheme(); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_L), [this] { m_window->lockButton()->toggle(); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_P), [this] { takeScreenshot(); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Comma), [this] { showSettings(); });
     add(QKeySequence(Qt::CTRL | Qt::Key_PageDown), [this] { m_window->softKeys()->turnPage(1); });
     add(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [this] { m_window->softKeys()->turnPage(-1); });
+    add(Qt::Key_F1, [this] { showHelp(); });
+    add(Qt::Key_F3, [this] { setTimingShown(m_window->timingLine()->isHidden()); });
     add(Qt::Key_F11,
         [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); });
 }
 
 bool PanelController::openFiles(const QStringList &paths)
 {
-    QVector<Network> networks;
-    QStringList refusals;
-    for (const QString &path : paths) {
-        const TouchstoneResult result = readTouchstone(path);
-        if (result.ok()) {
-            networks.append(result.network);
-            m_folder = QFileInfo(path).absolutePath();
-            continue;
-        }
-        refusals << result.sentence(QFileInfo(path).fileName());
-        std::fprintf(stderr, "vnapanel: %s\n", qUtf8Printable(result.sentence(path)));
-    }
-    m_window->messageBar()->setMessage(refusals.join(QLatin1Char('\n')));
-    if (!networks.isEmpty()) {
-        m_window->smithView()->resetView();
-        m_model->setNetworks(networks);
-    }
-    return refusals.isEmpty();
+    return m_files->openFiles(paths);
 }
 
 void PanelController::showFileDialog()
 {
-    auto *dialog = new FileDialog(m_window);
+    m_files->showFileDialog();
+}
+
+void PanelController::showSettings()
+{
+    auto *dialog = new SettingsDialog(m_model, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFolder(m_folder);
-    const QSize room = m_window->size() - QSize(80, 40);
-    dialog->resize(QSize(640, 560).boundedTo(room));
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { openFiles(dialog->pickedFiles()); });
-    connect(dialog, &QDialog::finished, this, [this, dialog] { m_folder = dialog->folder(); });
+    dialog->setLanguage(m_language);
+    connect(dialog, &SettingsDialog::languagePicked, this, [this](const QString &code) {
+        m_language = code;
+        if (code != currentLanguage())
+            m_window->messageBar()->setMessage(
+                tr("The language changes with the next start of the panel."));
+    });
+    dialog->setScreenshotFolder(m_screenshotFolder);
+    connect(dialog, &SettingsDialog::screenshotFolderPicked, this,
+            &PanelController::setScreenshotFolder);
     dialog->open();
 }
 
-void PanelController::onMarkerPicked(int index)
+void PanelController::showHelp()
 {
-    // In the order of the key's list.
-    enum { Add, Remove, RemoveAll };
-    const Trace *trace = m_model->activeTrace();
-    if (!trace)
-        return;
-    if (index == Add) {
-        // Each further marker halves the largest gap that the ones before have left.
-        static constexpr double places[PanelModel::markersPerTrace] = {0.5,   0.25,  0.75,
-                                                                       0.125, 0.625, 0.375};
-        const int count = int(m_model->activeMarkers().size());
-        const int last = m_model->network(*trace).points() - 1;
-        m_model->addMarker(trace->id,
-                           std::floor(last * places[qMin(count, PanelModel::markersPerTrace - 1)]));
-    } else if (index == Remove) {
-        if (const Marker *marker = m_model->selectedMarker())
-            m_model->removeMarker(marker->trace, marker->number);
-    } else if (index == RemoveAll) {
-        for (const Marker &marker : m_model->activeMarkers())
-            m_model->removeMarker(marker.trace, marker.number);
-    }
+    auto *dialog = new HelpDialog(m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
 }
 
-void PanelController::showMarker()
+void PanelController::takeScreenshot()
 {
-    const Marker *marker = m_model->selectedMarker();
-    m_window->markerKey()->setValue(marker ? tr("M%1").arg(marker->number) : tr("None"));
+    const Screenshot screenshot = saveScreenshot(m_window, m_screenshotFolder);
+    m_window->messageBar()->setMessage(
+        screenshot.error.isEmpty()
+            ? tr("The screenshot is %1.").arg(QDir::toNativeSeparators(screenshot.path))
+            : screenshot.error);
+}
+
+void PanelController::setLockShown(bool shown)
+{
+    m_window->lockButton()->setChecked(shown);
+    m_window->lock()->setScreenLockEnable(shown);
+}
+
+void PanelController::setTimingShown(bool shown)
+{
+    m_window->timingLine()->setVisible(shown);
+    m_window->keys().timing->setStatus(shown);
 }
 
 } // namespace Panel

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panelmodel.h"
 
+#include "cartesian.h"
+
 #include <algorithm>
+#include <cmath>
 
 namespace Panel
 {
@@ -14,7 +17,7 @@ namespace
 std::pair<int, int> shownPoints(const QVector<double> &frequencies, const Stimulus &stimulus)
 {
     const auto begin = frequencies.begin();
-    const int last = frequencies.size() - 1;
+    const int last = int(frequencies.size()) - 1;
     int from = int(std::lower_bound(begin, frequencies.end(), stimulus.start) - begin);
     int to = int(std::upper_bound(begin, frequencies.end(), stimulus.stop) - begin) - 1;
     if (from >= to) {
@@ -47,6 +50,30 @@ const Trace *PanelModel::trace(int id) const
     return found == m_traces.end() ? nullptr : &*found;
 }
 
+Trace *PanelModel::findTrace(int id)
+{
+    return const_cast<Trace *>(trace(id));
+}
+
+const Trace *PanelModel::activeTrace(const QVector<int> &among) const
+{
+    for (const int id : m_recentTraces) {
+        if (among.contains(id))
+            return trace(id);
+    }
+    return among.isEmpty() ? nullptr : trace(among.first());
+}
+
+const Trace *PanelModel::activeTrace(bool onSmithChart) const
+{
+    QVector<int> among;
+    for (const Trace &trace : m_traces) {
+        if (trace.onSmithChart() == onSmithChart)
+            among.append(trace.id);
+    }
+    return activeTrace(among);
+}
+
 QString PanelModel::parameterName(const Trace &trace)
 {
     return QStringLiteral("S%1%2").arg(trace.to).arg(trace.from);
@@ -61,27 +88,104 @@ void PanelModel::setNetworks(const QVector<Network> &networks)
     for (int i = 0; i < m_networks.size(); ++i)
         m_stimuli.append(limits(i));
     m_traces.clear();
+    const auto add = [this](int network, int to, int from, TraceFormat format) {
+        m_traces.append({int(m_traces.size()) + 1, network, to, from, format, {}, true});
+    };
     for (int i = 0; i < m_networks.size(); ++i) {
         for (int port = 1; port <= m_networks.at(i).ports; ++port)
-            m_traces.append({int(m_traces.size()) + 1, i, port, port, true});
-        if (m_networks.at(i).ports == 2) {
-            m_traces.append({int(m_traces.size()) + 1, i, 2, 1, true});
-            m_traces.append({int(m_traces.size()) + 1, i, 1, 2, true});
+            add(i, port, port, TraceFormat::Smith);
+        if (m_networks.at(i).ports == 1) {
+            add(i, 1, 1, TraceFormat::LogMagnitude);
+        } else if (m_networks.at(i).ports == 2) {
+            add(i, 2, 1, TraceFormat::LogMagnitude);
+            add(i, 1, 2, TraceFormat::LogMagnitude);
         }
     }
+    for (const TraceFormat format : {TraceFormat::Smith, TraceFormat::LogMagnitude}) {
+        const Scale scale = usualScale(format);
+        for (Trace &trace : m_traces) {
+            if (trace.format == format)
+                trace.scale = scale;
+        }
+    }
+    m_memories.clear();
     m_markers.clear();
+    m_references.clear();
     m_selectedTrace = 0;
     m_selectedNumber = 0;
     m_activeTrace = m_traces.isEmpty() ? 0 : m_traces.first().id;
-    for (const Trace::Kind kind : {Trace::Reflection, Trace::Transmission}) {
-        const auto first =
-            std::find_if(m_traces.begin(), m_traces.end(),
-                         [kind](const Trace &trace) { return trace.kind() == kind; });
-        m_lastActive[kind] = first == m_traces.end() ? 0 : first->id;
-    }
+    m_recentTraces = {m_activeTrace};
     Q_EMIT networksChanged();
+    Q_EMIT tracesChanged();
     Q_EMIT activeTraceChanged();
     Q_EMIT selectedMarkerChanged();
+}
+
+Scale PanelModel::usualScale(TraceFormat format) const
+{
+    double highest = qQNaN();
+    for (const Trace &trace : m_traces) {
+        if (format == TraceFormat::LogMagnitude && trace.format == format)
+            highest = std::fmax(highest, highestValue(data(trace), format));
+    }
+    return Panel::usualScale(format, highest);
+}
+
+void PanelModel::setTraceFormat(int id, TraceFormat format)
+{
+    Trace *trace = findTrace(id);
+    if (!trace || trace->format == format)
+        return;
+    trace->format = format;
+    trace->scale = usualScale(format);
+    Q_EMIT tracesChanged();
+}
+
+void PanelModel::setTraceParameter(int id, int to, int from)
+{
+    Trace *trace = findTrace(id);
+    if (!trace || (trace->to == to && trace->from == from))
+        return;
+    const int ports = m_networks.at(trace->network).ports;
+    if (qMin(to, from) < 1 || qMax(to, from) > ports)
+        return;
+    trace->to = to;
+    trace->from = from;
+    // Another parameter's data are nothing to compare with.
+    if (m_memories.remove(id) > 0)
+        Q_EMIT memoryChanged(id);
+    Q_EMIT tracesChanged();
+}
+
+void PanelModel::setTraceScale(int id, const Scale &scale)
+{
+    Trace *trace = findTrace(id);
+    if (!trace || trace->scale == scale || !std::isfinite(scale.top)
+        || !std::isfinite(scale.perDivision) || !(scale.perDivision > 0.0))
+        return;
+    trace->scale = scale;
+    Q_EMIT traceScaleChanged(id);
+}
+
+const Memory *PanelModel::memory(int traceId) const
+{
+    const auto found = m_memories.constFind(traceId);
+    return found == m_memories.constEnd() ? nullptr : &*found;
+}
+
+void PanelModel::storeMemory(int id)
+{
+    const Trace *trace = this->trace(id);
+    if (!trace)
+        return;
+    m_memories.insert(id, {network(*trace).frequencies, data(*trace)});
+    Q_EMIT memoryChanged(id);
+}
+
+void PanelModel::clearMemory(int id)
+{
+    if (m_memories.remove(id) > 0)
+        Q_EMIT memoryChanged(id);
 }
 
 Stimulus PanelModel::limits(int network) const
@@ -101,15 +205,24 @@ void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
     if (wanted == m_stimuli.at(index) || wanted.span() < 0.0 || whole.frequencies.isEmpty())
         return;
     m_stimuli[index] = wanted;
-    const auto [from, to] = shownPoints(whole.frequencies, wanted);
-    const int shift = m_firstShown.at(index) - from;
-    m_firstShown[index] = from;
-    m_shown[index] = part(whole, from, to);
+    const int before = m_firstShown.at(index);
+    showPart(index);
+    const int shift = before - m_firstShown.at(index);
+    const int last = m_shown.at(index).points() - 1;
     for (Marker &marker : m_markers) {
         if (this->trace(marker.trace)->network == index)
-            marker.index = std::clamp(marker.index + shift, 0.0, double(to - from));
+            marker.index = std::clamp(marker.index + shift, 0.0, double(last));
     }
     Q_EMIT stimulusChanged(index);
+}
+
+/// Cuts out of a network what its stimulus leaves.
+void PanelModel::showPart(int index)
+{
+    const Network &whole = m_networks.at(index);
+    const auto [from, to] = shownPoints(whole.frequencies, m_stimuli.at(index));
+    m_firstShown[index] = from;
+    m_shown[index] = part(whole, from, to);
 }
 
 bool PanelModel::updateNetwork(int index, const Network &network)
@@ -118,15 +231,26 @@ bool PanelModel::updateNetwork(int index, const Network &network)
         || network.frequencies.isEmpty())
         return false;
     const QVector<double> before = m_shown.at(index).frequencies;
+    const Stimulus stimulus = m_stimuli.at(index);
+    const bool magnified = stimulus != limits(index);
     m_networks[index] = network;
-    m_shown[index] = network;
-    m_firstShown[index] = 0;
     m_stimuli[index] = limits(index);
+    if (magnified && stimulus.start < m_stimuli.at(index).stop
+        && stimulus.stop > m_stimuli.at(index).start)
+        m_stimuli[index] = {qMax(stimulus.start, m_stimuli.at(index).start),
+                            qMin(stimulus.stop, m_stimuli.at(index).stop)};
+    showPart(index);
+    const QVector<double> &now = m_shown.at(index).frequencies;
     QVector<Marker> moved;
     for (Marker &marker : m_markers) {
-        if (trace(marker.trace)->network != index || sameSweep(before, network.frequencies))
+        if (trace(marker.trace)->network != index)
             continue;
-        marker.index = indexOfFrequency(network.frequencies, valueAt(before, marker.index));
+        const double hertz = valueAt(before, marker.index);
+        if (marker.index <= now.size() - 1 && valueAt(now, marker.index) == hertz)
+            continue; // as in most sweeps
+        marker.index = indexOfFrequency(now, hertz);
+        if (m_markersDiscrete)
+            marker.index = std::round(marker.index);
         moved.append(marker);
     }
     Q_EMIT networkUpdated(index);
@@ -143,7 +267,8 @@ void PanelModel::setActiveTrace(int id)
     if (id == m_activeTrace || !trace(id))
         return;
     m_activeTrace = id;
-    m_lastActive[trace(id)->kind()] = id;
+    m_recentTraces.removeOne(id);
+    m_recentTraces.prepend(id);
     Q_EMIT activeTraceChanged();
     if (m_selectedTrace != id)
         selectMarker(0, 0);
@@ -189,6 +314,14 @@ bool PanelModel::holdsIndex(int traceId, double index) const
     return owner && index >= 0.0 && index <= network(*owner).points() - 1;
 }
 
+double PanelModel::indexAt(int traceId, double hertz) const
+{
+    const QVector<double> &frequencies = network(*trace(traceId)).frequencies;
+    if (frequencies.isEmpty() || !(hertz >= frequencies.first() && hertz <= frequencies.last()))
+        return -1.0;
+    return indexOfFrequency(frequencies, hertz);
+}
+
 int PanelModel::addMarker(int traceId, double index)
 {
     int number = 1;
@@ -200,26 +333,71 @@ int PanelModel::addMarker(int traceId, double index)
         Q_EMIT markersExhausted(traceId);
         return 0;
     }
-    m_markers.append({traceId, number, index});
-    Q_EMIT markerAdded(traceId, number);
+    placeMarker(traceId, number, index);
+    couple(traceId, number);
     selectMarker(traceId, number);
     return number;
 }
 
+void PanelModel::restoreMarker(int traceId, int number, double hertz)
+{
+    const double index = trace(traceId) ? indexAt(traceId, hertz) : -1.0;
+    if (index >= 0.0 && number >= 1 && number <= markersPerTrace)
+        placeMarker(traceId, number, index);
+}
+
 void PanelModel::moveMarker(int traceId, int number, double index)
 {
-    if (!holdsIndex(traceId, index))
+    if (!holdsIndex(traceId, index) || !marker(traceId, number))
         return;
+    placeMarker(traceId, number, index);
+    couple(traceId, number);
+}
+
+void PanelModel::placeMarker(int traceId, int number, double index)
+{
+    if (m_markersDiscrete)
+        index = std::round(index);
     for (Marker &marker : m_markers) {
-        if (marker.trace == traceId && marker.number == number && marker.index != index) {
+        if (marker.trace != traceId || marker.number != number)
+            continue;
+        if (marker.index != index) {
             marker.index = index;
             Q_EMIT markerMoved(traceId, number);
-            return;
         }
+        return;
+    }
+    m_markers.append({traceId, number, index});
+    Q_EMIT markerAdded(traceId, number);
+}
+
+void PanelModel::couple(int traceId, int number)
+{
+    const Marker *source = marker(traceId, number);
+    if (!m_markersCoupled || !source)
+        return;
+    const double hertz = valueAt(network(*trace(traceId)).frequencies, source->index);
+    const QVector<Trace> traces = m_traces; // a slot may change them
+    for (const Trace &other : traces) {
+        const double index = other.id != traceId && trace(other.id) ? indexAt(other.id, hertz) : -1.0;
+        if (index >= 0.0)
+            placeMarker(other.id, number, index);
     }
 }
 
 void PanelModel::removeMarker(int traceId, int number)
+{
+    if (!marker(traceId, number))
+        return;
+    dropMarker(traceId, number);
+    if (!m_markersCoupled)
+        return;
+    const QVector<Trace> traces = m_traces;
+    for (const Trace &other : traces)
+        dropMarker(other.id, number);
+}
+
+void PanelModel::dropMarker(int traceId, int number)
 {
     const Marker *found = marker(traceId, number);
     if (!found)
@@ -227,8 +405,43 @@ void PanelModel::removeMarker(int traceId, int number)
     const bool selected = found == selectedMarker();
     m_markers.remove(int(found - m_markers.constData()));
     Q_EMIT markerRemoved(traceId, number);
+    if (m_references.value(traceId) == number)
+        setReferenceMarker(traceId, 0);
     if (selected)
         selectMarker(0, 0);
+}
+
+void PanelModel::setReferenceMarker(int traceId, int number)
+{
+    if (number != 0 && !marker(traceId, number))
+        number = 0;
+    if (m_references.value(traceId) == number)
+        return;
+    m_references.insert(traceId, number);
+    Q_EMIT referenceMarkerChanged(traceId);
+}
+
+void PanelModel::setMarkersDiscrete(bool discrete)
+{
+    if (discrete == m_markersDiscrete)
+        return;
+    m_markersDiscrete = discrete;
+    Q_EMIT markerModeChanged();
+    const QVector<Marker> markers = m_markers;
+    for (const Marker &each : markers) {
+        if (discrete && marker(each.trace, each.number))
+            placeMarker(each.trace, each.number, each.index);
+    }
+}
+
+void PanelModel::setMarkersCoupled(bool coupled)
+{
+    if (coupled == m_markersCoupled)
+        return;
+    m_markersCoupled = coupled;
+    Q_EMIT markerModeChanged();
+    for (const Marker &each : activeMarkers())
+        couple(each.trace, each.number);
 }
 
 void PanelModel::selectMarker(int traceId, int number)

@@ -3,6 +3,7 @@
 #include "panelwindow.h"
 
 #include "diagrams.h"
+#include "elidedlabel.h"
 #include "icons.h"
 #include "look.h"
 #include "messagebar.h"
@@ -10,11 +11,12 @@
 #include "softkey.h"
 #include "softkeymenu.h"
 #include "sweepbar.h"
-#include "sweepkeys.h"
 #include "timingline.h"
 #include "tracebar.h"
 
 #include <controls/thememanager.h>
+#include <widgets/displaypanel.h>
+#include <widgets/lockwidget.h>
 
 #include <QLabel>
 #include <QPainter>
@@ -54,14 +56,16 @@ QPixmap mark(int size, const QColor &color, double ratio)
 
 } // namespace
 
-PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
+PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     : QMainWindow(parent)
     , m_model(model)
     , m_traceBar(new TraceBar(model))
     , m_messageBar(new MessageBar)
     , m_diagrams(new Diagrams(model))
-    , m_sweepKeys(new SweepKeys)
+    , m_sweepBar(new SweepBar(model))
     , m_timingLine(new TimingLine(m_diagrams))
+    , m_softKeys(new SoftKeyMenu)
+    , m_keys(makePanelKeys(m_softKeys, model))
 {
     setWindowTitle(tr("Vector network analyser"));
 
@@ -70,12 +74,12 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
     diagramColumn->addWidget(m_messageBar);
     diagramColumn->addWidget(makeDiagrams(), 1);
     diagramColumn->addWidget(m_timingLine);
-    diagramColumn->addWidget(new SweepBar(model));
+    diagramColumn->addWidget(m_sweepBar);
 
     auto *middle = new QHBoxLayout;
     middle->setSpacing(0);
     middle->addLayout(diagramColumn, 1);
-    middle->addWidget(makeSoftKeys());
+    middle->addWidget(m_softKeys);
 
     setCentralWidget(new QWidget);
     auto *column = new QVBoxLayout(centralWidget());
@@ -83,10 +87,10 @@ PanelWindow::PanelWindow(const PanelModel *model, QWidget *parent)
     column->setSpacing(0);
     column->addWidget(makeTopBar());
     column->addLayout(middle, 1);
+    // Over the diagrams, from where it can be dragged aside.
+    m_lock = new LockWidget(centralWidget(), m_pages);
 
     connect(m_model, &PanelModel::networksChanged, this, &PanelWindow::showModel);
-    connect(m_model, &PanelModel::activeTraceChanged, this, &PanelWindow::showModel);
-    connect(m_model, &PanelModel::traceVisibleChanged, this, &PanelWindow::showModel);
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
             &PanelWindow::recolor);
     showModel();
@@ -110,7 +114,7 @@ QWidget *PanelWindow::makeTopBar()
     bar->setAttribute(Qt::WA_StyledBackground);
     auto *row = new QHBoxLayout(bar);
     row->setContentsMargins(10, 4, 6, 4);
-    row->setSpacing(10);
+    row->setSpacing(8);
     m_mark = new QLabel;
     row->addWidget(m_mark);
     auto *name = new QLabel(tr("VNA"));
@@ -119,14 +123,29 @@ QWidget *PanelWindow::makeTopBar()
     name->setFont(bold);
     row->addWidget(name);
     row->addWidget(m_traceBar, 1);
-    auto *theme = new QToolButton;
-    theme->setAccessibleName(tr("Dark or light"));
-    theme->setToolTip(tr("Dark or light"));
-    theme->setMinimumSize(44, 40);
-    theme->setIconSize(QSize(20, 20));
-    m_themeButton = theme;
-    row->addWidget(theme);
+    m_fileName = new ElidedLabel(Qt::ElideMiddle);
+    m_fileName->setObjectName(QStringLiteral("dim"));
+    m_fileName->setAccessibleName(tr("File"));
+    m_fileName->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_fileName->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    m_fileName->setFixedWidth(fontMetrics().averageCharWidth() * 18);
+    row->addWidget(m_fileName);
+    m_themeButton = addBarButton(row, tr("Dark or light"));
+    m_screenshotButton = addBarButton(row, tr("Screenshot"));
+    m_lockButton = addBarButton(row, tr("Lock"));
+    m_lockButton->setCheckable(true);
     return bar;
+}
+
+QToolButton *PanelWindow::addBarButton(QHBoxLayout *row, const QString &name)
+{
+    auto *button = new QToolButton;
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    button->setMinimumSize(44, 40);
+    button->setIconSize(QSize(20, 20));
+    row->addWidget(button);
+    return button;
 }
 
 QWidget *PanelWindow::makeDiagrams()
@@ -166,45 +185,23 @@ QWidget *PanelWindow::makeEmptyPage()
     return page;
 }
 
-QWidget *PanelWindow::makeSoftKeys()
-{
-    m_softKeys = new SoftKeyMenu;
-    m_softKeys->addPage(tr("Stimulus"));
-    m_fileKey = m_softKeys->addKey(tr("File"));
-    m_startKey = m_softKeys->addKey(tr("Start"));
-    m_stopKey = m_softKeys->addKey(tr("Stop"));
-    m_centerKey = m_softKeys->addKey(tr("Center"));
-    m_spanKey = m_softKeys->addKey(tr("Span"));
-    m_pointsKey = m_softKeys->addKey(tr("Points"));
-    m_softKeys->addPage(tr("Marker"));
-    m_markerKey = m_softKeys->addKey(tr("Marker"));
-    m_markerStimulusKey = m_softKeys->addKey(tr("Stimulus"));
-    m_pointerKey = m_softKeys->addKey(tr("Pointer"));
-    m_softKeys->addPage(tr("Display"));
-    m_traceKey = m_softKeys->addKey(tr("Active trace"));
-    m_gridKey = m_softKeys->addKey(tr("Grid"));
-    m_densityKey = m_softKeys->addKey(tr("Density"));
-    m_zoomKey = m_softKeys->addKey(tr("Scale"));
-    m_softKeys->addPage(tr("Sweep"), m_sweepKeys);
-    return m_softKeys;
-}
-
 void PanelWindow::showModel()
 {
-    const Trace *active = m_model->activeTrace();
-    m_pages->setCurrentIndex(active ? 0 : 1);
-    const int files = int(m_model->networks().size());
-    m_fileKey->setValue(files == 0       ? tr("Open\u2026")
-                            : files == 1 ? m_model->networks().first().name
-                                         : tr("%n files", nullptr, files));
-    m_traceKey->setEnabled(active);
-    m_traceKey->setValue(!active               ? QStringLiteral("\u2013")
-                             : active->visible ? tr("Shown")
-                                               : tr("Hidden"));
-    m_markerKey->setEnabled(active);
-    m_zoomKey->setEnabled(active);
-    m_gridKey->setEnabled(active);
-    m_densityKey->setEnabled(active);
+    const QVector<Network> &networks = m_model->networks();
+    m_pages->setCurrentIndex(networks.isEmpty() ? 1 : 0);
+    const int files = int(networks.size());
+    const QString name = files == 0 ? QString()
+        : files == 1                ? networks.first().name
+                                    : tr("%n files", nullptr, files);
+    m_fileName->setText(name);
+    m_keys.file->setValue(files == 0 ? tr("Open\u2026") : name);
+}
+
+void PanelWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    // Traces first; the diagrams name the file too.
+    m_fileName->setVisible(width() > 900);
 }
 
 void PanelWindow::recolor()
@@ -215,6 +212,10 @@ void PanelWindow::recolor()
     m_mark->setPixmap(mark(24, look.text, ratio));
     m_emptyMark->setPixmap(mark(120, look.border, ratio));
     m_themeButton->setIcon(icon("theme"));
+    const auto *theme = Controls::ThemeManager::instance();
+    m_screenshotButton->setIcon(theme->icon(5));
+    m_lockButton->setIcon(theme->icon(3));
+    m_keys.layout->updateThemeIcons(theme->isDarkTheme());
 }
 
 } // namespace Panel

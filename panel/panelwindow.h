@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "panelkeys.h"
+
 #include <QMainWindow>
 
+class LockWidget;
 class QAbstractButton;
+class QHBoxLayout;
 class QLabel;
 class QStackedWidget;
+class QToolButton;
 
 namespace Panel
 {
@@ -16,9 +21,9 @@ class PanelModel;
 class SmithView;
 class CartesianView;
 class Diagrams;
-class SoftKey;
+class ElidedLabel;
 class SoftKeyMenu;
-class SweepKeys;
+class SweepBar;
 class TimingLine;
 class TraceBar;
 
@@ -32,7 +37,7 @@ class PanelWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit PanelWindow(const PanelModel *model, QWidget *parent = nullptr);
+    explicit PanelWindow(PanelModel *model, QWidget *parent = nullptr);
 
     Diagrams *diagrams() const { return m_diagrams; }
     SmithView *smithView() const;
@@ -41,59 +46,45 @@ public:
     MessageBar *messageBar() const { return m_messageBar; }
 
     SoftKeyMenu *softKeys() const { return m_softKeys; }
-    SoftKey *fileKey() const { return m_fileKey; }
-    SoftKey *startKey() const { return m_startKey; }
-    SoftKey *stopKey() const { return m_stopKey; }
-    SoftKey *centerKey() const { return m_centerKey; }
-    SoftKey *spanKey() const { return m_spanKey; }
-    SoftKey *pointsKey() const { return m_pointsKey; }
-    SoftKey *gridKey() const { return m_gridKey; }
-    SoftKey *densityKey() const { return m_densityKey; }
-    SoftKey *traceKey() const { return m_traceKey; }
-    SoftKey *markerKey() const { return m_markerKey; }
-    SoftKey *markerStimulusKey() const { return m_markerStimulusKey; }
-    /// Which traces taps and drags reach.
-    SoftKey *pointerKey() const { return m_pointerKey; }
-    SoftKey *zoomKey() const { return m_zoomKey; }
-    SweepKeys *sweepKeys() const { return m_sweepKeys; }
+    const PanelKeys &keys() const { return m_keys; }
+    SweepBar *sweepBar() const { return m_sweepBar; }
     TimingLine *timingLine() const { return m_timingLine; }
-    QAbstractButton *themeButton() const { return m_themeButton; }
+    QToolButton *themeButton() const { return m_themeButton; }
+    QToolButton *screenshotButton() const { return m_screenshotButton; }
+    /// Checked while the padlock is shown.
+    QToolButton *lockButton() const { return m_lockButton; }
+    LockWidget *lock() const { return m_lock; }
     /// The button of the page that stands where there is nothing to show.
     QAbstractButton *emptyPageButton() const { return m_emptyPageButton; }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QWidget *makeTopBar();
     QWidget *makeDiagrams();
     QWidget *makeEmptyPage();
-    QWidget *makeSoftKeys();
+    QToolButton *addBarButton(QHBoxLayout *row, const QString &name);
     void showModel();
     void recolor();
 
-    const PanelModel *m_model;
+    PanelModel *m_model;
     TraceBar *m_traceBar;
     MessageBar *m_messageBar;
     Diagrams *m_diagrams;
-    SweepKeys *m_sweepKeys;
+    SweepBar *m_sweepBar;
     TimingLine *m_timingLine;
     QStackedWidget *m_pages;
+    LockWidget *m_lock;
     QLabel *m_mark;
+    ElidedLabel *m_fileName;
     QLabel *m_emptyMark;
-    QAbstractButton *m_themeButton;
+    QToolButton *m_themeButton;
+    QToolButton *m_screenshotButton;
+    QToolButton *m_lockButton;
     QAbstractButton *m_emptyPageButton;
     SoftKeyMenu *m_softKeys;
-    SoftKey *m_fileKey;
-    SoftKey *m_startKey;
-    SoftKey *m_stopKey;
-    SoftKey *m_centerKey;
-    SoftKey *m_spanKey;
-    SoftKey *m_pointsKey;
-    SoftKey *m_gridKey;
-    SoftKey *m_densityKey;
-    SoftKey *m_traceKey;
-    SoftKey *m_markerKey;
-    SoftKey *m_markerStimulusKey;
-    SoftKey *m_pointerKey;
-    SoftKey *m_zoomKey;
+    PanelKeys m_keys;
 };
 
 } // namespace Panel

@@ -13,22 +13,15 @@ namespace
 {
 
 constexpr double s_pi = 3.14159265358979323846;
-/// The circuit drifts to and fro once in so many frames.
-constexpr int s_driftFrames = 360;
+/// The circuit drifts to and fro once in so many moments.
+constexpr int s_driftMoments = 360;
 /// By a hundredth of the sweep each way.
 constexpr int s_driftShare = 100;
 /// The models hold above this frequency; a margin below the sweep may reach under it.
 constexpr double s_lowestHertz = 1e3;
 
-/// Writes the parameters of a network at one point.
-void setPoint(QVector<Parameter> &parameters, int index, const Circuits::Complex *values)
-{
-    for (Parameter &parameter : parameters) {
-        parameter.real[index] = values->real();
-        parameter.imag[index] = values->imag();
-        ++values;
-    }
-}
+/// Points that a preview measures, at the most.
+constexpr int s_previewPoints = 1001;
 
 /// Triangular noise between -1 and 1 in both directions, from 64 random bits (xorshift).
 struct Noise {
@@ -47,8 +40,9 @@ struct Noise {
 
 } // namespace
 
-SimulatedDevice::SimulatedDevice(Kind kind, const Sweep &sweep)
+SimulatedDevice::SimulatedDevice(Kind kind, const Sweep &sweep, double tuning)
     : m_kind(kind)
+    , m_tuning(tuning)
     , m_margin(qMax(1, sweep.points / s_driftShare))
     , m_total(sweep.points + 2 * m_margin + 1)
     , m_step((sweep.stop - sweep.start) / (sweep.points - 1))
@@ -96,55 +90,83 @@ double SimulatedDevice::noise(Kind kind)
     return kind == Cable ? 0.012 : 1e-4;
 }
 
-void SimulatedDevice::prepare(int points)
+SimulatedDevice::Values SimulatedDevice::circuitAt(double hertz) const
 {
-    const int end = m_prepared + qBound(0, points, m_total - m_prepared);
-    for (; m_prepared < end; ++m_prepared) {
-        const double omega = 2.0 * s_pi * qMax(s_lowestHertz, m_start + m_prepared * m_step);
-        if (m_kind == Filter) {
-            const Circuits::Matrix s = Circuits::bandPass(omega);
-            const Circuits::Complex byColumns[] = {s.a, s.c, s.b, s.d};
-            setPoint(m_circuit, m_prepared, byColumns);
-        } else {
-            const Circuits::Complex gamma =
-                m_kind == Cable ? Circuits::openCable(omega) : Circuits::antenna(omega);
-            setPoint(m_circuit, m_prepared, &gamma);
-        }
+    const double omega = 2.0 * s_pi * qMax(s_lowestHertz, hertz);
+    if (m_kind == Filter) {
+        const Circuits::Matrix s = Circuits::bandPass(omega);
+        return {s.a, s.c, s.b, s.d};
     }
+    return {m_kind == Cable ? Circuits::openCable(omega) : Circuits::antenna(omega, m_tuning)};
 }
 
-Network SimulatedDevice::frame(quint64 number) const
+Network SimulatedDevice::preview() const
 {
     Network network;
     network.name = name(m_kind);
     network.ports = m_kind == Filter ? 2 : 1;
     network.frequencies = m_frequencies;
+    const QVector<double> values(points());
+    network.parameters.fill({values, values}, int(m_circuit.size()));
 
+    const int spans = qMin(points(), s_previewPoints) - 1;
+    Values before = circuitAt(m_frequencies.first());
+    int from = 0;
+    for (int span = 1; span <= spans; ++span) {
+        const int to = int(qint64(points() - 1) * span / spans);
+        const Values after = circuitAt(m_frequencies.at(to));
+        for (int p = 0; p < network.parameters.size(); ++p) {
+            const std::complex<double> start = before[std::size_t(p)];
+            const std::complex<double> step = (after[std::size_t(p)] - start) / double(to - from);
+            double *real = network.parameters[p].real.data();
+            double *imag = network.parameters[p].imag.data();
+            for (int i = from; i <= to; ++i) {
+                const std::complex<double> value = start + step * double(i - from);
+                real[i] = value.real();
+                imag[i] = value.imag();
+            }
+        }
+        before = after;
+        from = to;
+    }
+    return network;
+}
+
+void SimulatedDevice::prepare(int points)
+{
+    for (; m_prepared < points; ++m_prepared) {
+        const Values values = circuitAt(m_start + m_prepared * m_step);
+        for (int p = 0; p < m_circuit.size(); ++p) {
+            m_circuit[p].real[m_prepared] = values[std::size_t(p)].real();
+            m_circuit[p].imag[m_prepared] = values[std::size_t(p)].imag();
+        }
+    }
+}
+
+void SimulatedDevice::measure(Network &network, int from, int to, quint64 moment)
+{
     // Between two passive points, and with its gain reduced by the noise, a passive circuit stays
     // passive.
-    const double phase = double(number % s_driftFrames) / s_driftFrames;
+    const double phase = double(moment % s_driftMoments) / s_driftMoments;
     const double shift = m_margin * (1.0 + std::sin(2.0 * s_pi * phase));
     const int first = int(shift);
     const double t = shift - first;
     const double gain = 1.0 - noise(m_kind);
     const double amplitude = noise(m_kind) / std::sqrt(2.0);
-    const int count = m_frequencies.size();
-    Noise random{0x9e3779b97f4a7c15ULL * (2 * number + 1)};
+    prepare(to + first + 1);
+    Noise random{0x9e3779b97f4a7c15ULL * (2 * moment + 1)};
     double x = 0.0, y = 0.0;
-    for (const Parameter &circuit : m_circuit) {
-        Parameter parameter{QVector<double>(count), QVector<double>(count)};
-        const double *re = circuit.real.constData() + first;
-        const double *im = circuit.imag.constData() + first;
-        double *outRe = parameter.real.data();
-        double *outIm = parameter.imag.data();
-        for (int i = 0; i < count; ++i) {
+    for (int p = 0; p < m_circuit.size(); ++p) {
+        const double *re = m_circuit.at(p).real.constData() + first;
+        const double *im = m_circuit.at(p).imag.constData() + first;
+        double *outRe = network.parameters[p].real.data();
+        double *outIm = network.parameters[p].imag.data();
+        for (int i = from; i < to; ++i) {
             random.next(x, y);
             outRe[i] = gain * (re[i] + (re[i + 1] - re[i]) * t) + amplitude * x;
             outIm[i] = gain * (im[i] + (im[i + 1] - im[i]) * t) + amplitude * y;
         }
-        network.parameters.append(parameter);
     }
-    return network;
 }
 
 } // namespace Panel

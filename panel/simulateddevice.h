@@ -5,32 +5,40 @@
 #include "network.h"
 #include "sweep.h"
 
+#include <array>
+#include <complex>
+
 namespace Panel
 {
 
 /*! A device under test that exists only as a circuit model: it drifts slowly and its measurement is
     noisy, so that every sweep gives new data.
 
-    The circuit is computed once for a sweep, in portions by prepare(), because a million points
-   take a while; a frame then costs a few nanoseconds a point. A frame depends on its number alone.
-   No thread is needed, and any one may be used.
+    The circuit is computed once, as far as points have been measured; from then on a point costs a
+   few nanoseconds. No thread is needed, and any one may be used.
 
     \code
     SimulatedDevice device(SimulatedDevice::Filter, sweep);
-    while (!device.isPrepared())
-        device.prepare(4096);
-    model.setNetworks({device.frame(0)});
+    Network network = device.preview();
+    device.measure(network, 0, sweep.points, 0);
+    model.setNetworks({network});
     \endcode */
 class SimulatedDevice
 {
 public:
     enum Kind {
-        Antenna, ///< one port
+        Antenna, ///< one port; can be tuned
         Filter, ///< two ports
         Cable, ///< one port; open at the far end, with much noise
     };
 
-    SimulatedDevice(Kind kind, const Sweep &sweep);
+    /// What an antenna's lower resonance can be tuned to, in Hz: both stay in its usual sweep.
+    static constexpr double lowestTuning = 2.0e9;
+    static constexpr double highestTuning = 2.9e9;
+    static constexpr double usualTuning = 2.45e9;
+
+    /// Other devices than the antenna ignore the tuning.
+    SimulatedDevice(Kind kind, const Sweep &sweep, double tuning = usualTuning);
 
     /// What the panel calls it.
     static QString name(Kind kind);
@@ -39,14 +47,21 @@ public:
     /// What the noise cannot exceed, as a share of a full reflection.
     static double noise(Kind kind);
 
-    /// Computes so many further points of the circuit, or what is left of them.
-    void prepare(int points);
-    bool isPrepared() const { return m_prepared == m_total; }
-    /// The measurement of this number. The device must be prepared.
-    Network frame(quint64 number) const;
+    int points() const { return int(m_frequencies.size()); }
+    /// What a quick look finds: measured at some points only, and straight lines between them.
+    Network preview() const;
+    /// Measures the points from `from` to below `to`. Where the device has drifted to, and the
+    /// noise, follow from the moment: the number of a display frame.
+    void measure(Network &network, int from, int to, quint64 moment);
 
 private:
+    using Values = std::array<std::complex<double>, 4>;
+
+    Values circuitAt(double hertz) const;
+    void prepare(int points);
+
     Kind m_kind;
+    double m_tuning;
     /// How far the circuit drifts each way, in points of the sweep.
     int m_margin;
     int m_total;

@@ -2,163 +2,155 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smithview.h"
 
-#include "elidedlabel.h"
 #include "format.h"
 #include "look.h"
-#include "markertable.h"
-#include "panelmodel.h"
 
-#include <controls/thememanager.h>
 #include <plot/qcp.h>
-
-#include <QElapsedTimer>
-#include <QVBoxLayout>
 
 namespace Panel
 {
 
 SmithView::SmithView(const PanelModel *model, QWidget *parent)
-    : QWidget(parent)
-    , m_model(model)
-    , m_title(new ElidedLabel(Qt::ElideRight, this))
-    , m_markerTable(new MarkerTable(model, Trace::Reflection, this))
-    , m_plot(new QCustomPlot(this))
+    : DiagramView(model, parent)
+    , m_density(model->viewSettings()->density())
 {
-    m_title->setObjectName(QStringLiteral("dim"));
-    m_title->setContentsMargins(10, 6, 10, 2);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(m_title);
-    column->addWidget(m_markerTable);
-    column->addWidget(m_plot, 1);
-
     // The chart needs the axes as scales only.
-    m_plot->xAxis->setVisible(false);
-    m_plot->yAxis->setVisible(false);
-    m_plot->axisRect()->setAutoMargins(QCP::msNone);
-    m_plot->axisRect()->setMargins(QMargins(8, 4, 8, 8));
-    m_plot->setFocusPolicy(Qt::StrongFocus);
-    m_plot->setAccessibleName(tr("Smith chart"));
+    plot()->xAxis->setVisible(false);
+    plot()->yAxis->setVisible(false);
+    plot()->axisRect()->setAutoMargins(QCP::msNone);
+    plot()->axisRect()->setMargins(QMargins(8, 4, 8, 8));
+    plot()->setAccessibleName(tr("Smith chart"));
     makeChart();
     recolor();
-
-    connect(m_model, &PanelModel::networksChanged, this, &SmithView::loadTraces);
-    connect(m_model, &PanelModel::stimulusChanged, this, &SmithView::loadTraces);
-    connect(m_model, &PanelModel::activeTraceChanged, this, &SmithView::showActiveTrace);
-    connect(m_model, &PanelModel::traceVisibleChanged, this, &SmithView::setTraceVisible);
-    connect(m_model, &PanelModel::markerAdded, this, &SmithView::addMarker);
-    connect(m_model, &PanelModel::networkUpdated, this, &SmithView::updateTraces);
-    connect(m_model, &PanelModel::markerMoved, this, &SmithView::moveMarker);
-    connect(m_model, &PanelModel::markerRemoved, this,
-            [this](int traceId, int number) { m_chart->removeMarkerVisual(traceId, number); });
-    connect(m_model, &PanelModel::selectedMarkerChanged, this, &SmithView::showSelectedMarker);
-    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
-            &SmithView::recolor);
+    connect(m_model->viewSettings(), &ViewSettings::changed, this, &SmithView::followSettings);
 }
 
-void SmithView::setGridMode(SmithChartPlot::GridMode mode)
+void SmithView::followSettings()
 {
-    m_chart->setGridMode(mode);
-}
-
-void SmithView::setDensity(SmithChart::Preset density)
-{
-    if (density == m_density)
-        return;
-    m_density = density;
-    makeChart();
+    const ViewSettings *settings = m_model->viewSettings();
+    if (settings->density() != m_density) {
+        m_density = settings->density();
+        makeChart();
+    }
+    m_chart->setGridMode(settings->gridMode());
+    m_chart->setOnlyHandleActiveTrace(settings->onlyActiveTrace());
 }
 
 void SmithView::makeChart()
 {
-    const QCPRange x = m_plot->xAxis->range();
-    const QCPRange y = m_plot->yAxis->range();
-    const SmithChartPlot::GridMode mode = m_chart ? m_chart->gridMode() : SmithChartPlot::Impedance;
+    const QCPRange x = plot()->xAxis->range();
+    const QCPRange y = plot()->yAxis->range();
     const bool replaced = m_chart;
     delete m_chart;
     // A chart leaves its grid on the plot.
-    m_plot->clearItems();
-    m_plot->clearPlottables();
-    m_chart = new SmithChartPlot(m_plot, m_density, this);
-    m_chart->setGridMode(mode);
+    plot()->clearItems();
+    plot()->clearPlottables();
+    m_chart = new SmithChartPlot(plot(), m_density, this);
+    followSettings();
+    connect(m_chart, &SmithChartPlot::pointDoubleClicked, this, [this](int traceId, int index) {
+        if (traceIds().contains(traceId)) // not stored data
+            Q_EMIT pointPicked(traceId, index);
+    });
+    connect(m_chart, &SmithChartPlot::activeTraceDoubleClicked, this,
+            [this](int traceId, double stimulus) {
+                const Network &network = m_model->network(*m_model->trace(traceId));
+                Q_EMIT pointPicked(traceId, indexOfFrequency(network.frequencies, stimulus));
+            });
+    connect(m_chart, &SmithChartPlot::markerSelectionRequested, this,
+            [this](int traceId, int number) {
+                if (!m_chart->onlyHandleActiveTrace() || traceId == m_chart->activeTrace())
+                    Q_EMIT markerSelectionRequested(traceId, number);
+            });
+    connect(m_chart, &SmithChartPlot::markerPositionChanged, this,
+            &SmithView::markerMoveRequested);
+    connect(m_chart, &SmithChartPlot::markerDeleteRequested, this,
+            &SmithView::markerDeleteRequested);
     loadTraces();
-    if (!replaced)
-        return;
-    m_chart->setViewFromRequestedRanges(x, y);
-    Q_EMIT chartReplaced();
+    if (replaced)
+        m_chart->setViewFromRequestedRanges(x, y);
 }
 
 void SmithView::loadTraces()
 {
     m_chart->clearAllCurves();
     const Look look = currentLook();
-    for (const Trace &trace : m_model->traces()) {
-        if (trace.kind() != Trace::Reflection)
-            continue;
+    for (const Trace &trace : traces()) {
         const Parameter &values = m_model->data(trace);
         m_chart->addCurve(trace.id, QPen(look.trace(trace.id)));
         m_chart->setCurveData(trace.id, m_model->network(trace).frequencies, values.real,
                               values.imag);
         m_chart->setCurveVisible(trace.id, trace.visible);
+        showMemory(trace);
+        for (const Marker &marker : m_model->markersOf(trace.id))
+            addMarker(trace, marker);
     }
-    for (const Marker &marker : m_model->markers())
-        addMarker(marker.trace, marker.number);
     showActiveTrace();
     showSelectedMarker();
 }
 
+void SmithView::showMemory(const Trace &trace)
+{
+    const int id = memoryId(trace.id);
+    m_chart->removeCurve(id);
+    if (const Memory *memory = m_model->memory(trace.id)) {
+        m_chart->addCurve(id, QPen(currentLook().memory(trace.id)));
+        m_chart->setCurveData(id, memory->frequencies, memory->parameter.real,
+                              memory->parameter.imag);
+        m_chart->setCurveVisible(id, trace.visible);
+    }
+    replotLater();
+}
+
 void SmithView::updateTraces(int network)
 {
-    QElapsedTimer timer;
-    timer.start();
-    for (const Trace &trace : m_model->traces()) {
-        if (trace.network != network || trace.kind() != Trace::Reflection)
+    for (const Trace &trace : traces()) {
+        if (trace.network != network)
             continue;
         const Parameter &values = m_model->data(trace);
         m_chart->setCurveData(trace.id, m_model->network(trace).frequencies, values.real,
                               values.imag);
     }
-    m_dataMilliseconds = double(timer.nsecsElapsed()) / 1e6;
 }
 
-void SmithView::moveMarker(int traceId, int number)
+void SmithView::moveMarker(const Trace &trace, const Marker &moved)
 {
-    m_chart->setMarkerIndex(traceId, number, m_model->marker(traceId, number)->index);
-    const Plot::Marker *marker = m_chart->getMarker(traceId, number);
+    m_chart->setMarkerIndex(trace.id, moved.number, moved.index);
+    const Plot::Marker *marker = m_chart->getMarker(trace.id, moved.number);
     if (!marker || marker->isVisible())
         return;
     // Shorter data had no place for it.
-    m_chart->setMarkerVisible(traceId, number, m_model->trace(traceId)->visible);
+    m_chart->setMarkerVisible(trace.id, moved.number, trace.visible);
     showSelectedMarker();
 }
 
 int SmithView::drawnPoints() const
 {
     int count = 0;
-    for (const Trace &trace : m_model->traces()) {
-        const QCPCurve *curve = m_chart->getCurve(trace.id);
+    for (const int id : m_chart->traceIds()) {
+        const QCPCurve *curve = m_chart->getCurve(id);
         if (curve && curve->visible())
             count += curve->dataCount();
     }
     return count;
 }
 
-void SmithView::setTraceVisible(int id, bool visible)
+void SmithView::setTraceVisible(const Trace &trace)
 {
-    m_chart->setCurveVisible(id, visible);
-    for (const Marker &marker : m_model->markers()) {
-        if (marker.trace == id)
-            m_chart->setMarkerVisible(id, marker.number, visible);
-    }
-    updateTitle();
+    m_chart->setCurveVisible(trace.id, trace.visible);
+    m_chart->setCurveVisible(memoryId(trace.id), trace.visible);
+    for (const Marker &marker : m_model->markersOf(trace.id))
+        m_chart->setMarkerVisible(trace.id, marker.number, trace.visible);
 }
 
-void SmithView::addMarker(int traceId, int number)
+void SmithView::addMarker(const Trace &trace, const Marker &marker)
 {
-    m_chart->addMarkerVisual(traceId, number, m_model->marker(traceId, number)->index,
-                             Plot::PointingDown);
-    m_chart->setMarkerVisible(traceId, number, m_model->trace(traceId)->visible);
+    m_chart->addMarkerVisual(trace.id, marker.number, marker.index, Plot::PointingDown);
+    m_chart->setMarkerVisible(trace.id, marker.number, trace.visible);
+}
+
+void SmithView::removeMarker(int traceId, int number)
+{
+    m_chart->removeMarkerVisual(traceId, number);
 }
 
 void SmithView::showSelectedMarker()
@@ -170,46 +162,35 @@ void SmithView::showSelectedMarker()
 
 void SmithView::showActiveTrace()
 {
-    if (const Trace *trace = m_model->activeTrace(Trace::Reflection))
+    if (const Trace *trace = activeTrace())
         m_chart->setActiveTrace(trace->id);
     else
         m_chart->clearActiveTrace();
-    updateTitle();
 }
 
 void SmithView::recolor()
 {
     const Look look = currentLook();
-    m_plot->setBackground(look.background);
-    for (const Trace &trace : m_model->traces())
+    plot()->setBackground(look.background);
+    for (const Trace &trace : traces()) {
         m_chart->setCurvePen(trace.id, QPen(look.trace(trace.id)));
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
+        m_chart->setCurvePen(memoryId(trace.id), QPen(look.memory(trace.id)));
+    }
+    replotLater();
 }
 
-void SmithView::updateTitle()
+QStringList SmithView::titleParts() const
 {
-    QStringList names;
-    for (const Trace &trace : m_model->traces()) {
-        const QString name = PanelModel::parameterName(trace);
-        if (trace.kind() == Trace::Reflection && trace.visible && !names.contains(name))
-            names << name;
-    }
-    const Trace *active = m_model->activeTrace(Trace::Reflection);
-    const QString separator = QStringLiteral(" \u00b7 ");
-    QStringList parts;
-    if (!names.isEmpty())
-        parts << names.join(QStringLiteral(", "));
-    else if (active)
-        parts << tr("All traces are hidden");
-    if (active)
-        parts << tr("Z %1").arg(ohmsText(m_model->network(*active).referenceOhms))
-              << m_model->network(*active).name;
-    m_title->setText(parts.join(separator));
+    const Trace *active = activeTrace();
+    if (!active)
+        return {};
+    return {tr("Z %1").arg(ohmsText(m_model->network(*active).referenceOhms)),
+            m_model->network(*active).name};
 }
 
 void SmithView::zoomAt(const QPointF &position, double factor)
 {
-    m_chart->zoomAt(chartPoint(position), factor);
+    m_chart->zoomAt(coordinates(position), factor);
     showView();
 }
 
@@ -220,18 +201,13 @@ void SmithView::setZoom(double zoom)
     showView();
 }
 
-QPointF SmithView::chartPoint(const QPointF &position) const
-{
-    return {m_plot->xAxis->pixelToCoord(position.x()), m_plot->yAxis->pixelToCoord(position.y())};
-}
-
-void SmithView::moveTo(const QPointF &chartPoint, const QPointF &position)
+void SmithView::moveTo(const QPointF &coordinates, const QPointF &position)
 {
     if (!m_chart->isMagnified())
         return;
-    const QPointF shift = chartPoint - this->chartPoint(position);
-    m_chart->setViewFromRequestedRanges(m_plot->xAxis->range() + shift.x(),
-                                        m_plot->yAxis->range() + shift.y());
+    const QPointF shift = coordinates - this->coordinates(position);
+    m_chart->setViewFromRequestedRanges(plot()->xAxis->range() + shift.x(),
+                                        plot()->yAxis->range() + shift.y());
     showView();
 }
 
@@ -241,9 +217,14 @@ void SmithView::resetView()
     showView();
 }
 
+bool SmithView::pick(const QPoint &position, Qt::KeyboardModifiers modifiers)
+{
+    return m_chart->handleDoubleClick(position, modifiers);
+}
+
 void SmithView::showView()
 {
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
+    replotLater();
     Q_EMIT viewChanged();
 }
 

@@ -41,16 +41,11 @@ void SoftKeyMenu::addPage(const QString &name)
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(6);
     m_column->addStretch(1);
-    addPage(name, page);
-}
-
-void SoftKeyMenu::addPage(const QString &name, QWidget *page)
-{
     const int index = m_pages->addWidget(page);
     auto *tab = new QPushButton(name);
     tab->setObjectName(QStringLiteral("pageTab"));
     tab->setCheckable(true);
-    tab->setMinimumHeight(36);
+    tab->setMinimumHeight(fontMetrics().height() + 14);
     // Two in a row leave room for a finger and for longer names.
     m_tabGrid->addWidget(tab, index / 2, index % 2);
     m_tabs->addButton(tab, index);
@@ -60,8 +55,30 @@ void SoftKeyMenu::addPage(const QString &name, QWidget *page)
 SoftKey *SoftKeyMenu::addKey(const QString &name)
 {
     auto *key = new SoftKey(name);
-    m_column->insertWidget(m_column->count() - 1, key);
+    // All are alike, and measuring one is not cheap.
+    if (m_keyHeights.isEmpty())
+        m_keyHeights = {key->minimumSizeHint().height(), key->sizeHint().height()};
+    appendKey(key, m_keyHeights.first());
     return key;
+}
+
+void SoftKeyMenu::addKey(QWidget *key)
+{
+    appendKey(key, qMax(m_keyHeights.value(0), key->minimumSizeHint().height()));
+}
+
+void SoftKeyMenu::appendKey(QWidget *key, int leastHeight)
+{
+    // All keys are equally high, whatever they hold: as a soft key likes it, or as there is room.
+    key->setMinimumHeight(leastHeight);
+    key->setMaximumHeight(m_keyHeights.value(1, QWIDGETSIZE_MAX));
+    key->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    m_column->insertWidget(m_column->count() - 1, key, 1);
+}
+
+void SoftKeyMenu::addWidget(QWidget *widget)
+{
+    m_column->insertWidget(m_column->count() - 1, widget);
 }
 
 int SoftKeyMenu::page() const
@@ -85,9 +102,12 @@ void SoftKeyMenu::turnPage(int step)
     setPage((page() + step + pageCount()) % pageCount());
 }
 
-void SoftKeyMenu::showKey(const SoftKey *key)
+void SoftKeyMenu::showKey(const QWidget *key)
 {
-    setPage(m_pages->indexOf(key->parentWidget()));
+    for (int page = 0; page < pageCount(); ++page) {
+        if (m_pages->widget(page)->isAncestorOf(key))
+            setPage(page);
+    }
 }
 
 } // namespace Panel

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QVector>
 #include <QWidget>
 
 class QButtonGroup;
@@ -25,23 +26,28 @@ public:
 
     /// Begins a page; the first is the one on show.
     void addPage(const QString &name);
-    /// The same with a widget that has its keys already, as its children.
-    void addPage(const QString &name, QWidget *page);
     /// Appends a key to the page that was begun last. The menu owns it.
     SoftKey *addKey(const QString &name);
+    /// The same with a key that exists already.
+    void addKey(QWidget *key);
+    /// The same with a widget that keeps its own height.
+    void addWidget(QWidget *widget);
 
     int page() const;
     int pageCount() const;
     void setPage(int page);
     /// Goes to the next page (1) or the one before (-1), around the ends.
     void turnPage(int step);
-    /// Shows the page that a key is on.
-    void showKey(const SoftKey *key);
+    /// Shows the page that a key, or a part of it, is on.
+    void showKey(const QWidget *key);
 
 private:
+    void appendKey(QWidget *key, int leastHeight);
+
     QButtonGroup *m_tabs;
     QGridLayout *m_tabGrid;
     QStackedWidget *m_pages;
+    QVector<int> m_keyHeights; ///< the least and the usual one of a soft key, once there is one
     QVBoxLayout *m_column = nullptr; ///< of the page that was begun last
 };
 

@@ -3,10 +3,13 @@
 #include "sweepbar.h"
 
 #include "format.h"
+#include "look.h"
 #include "panelmodel.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
+#include <widgets/rectangularbottomwidget.h>
+
+#include <QPainter>
+#include <QVBoxLayout>
 
 namespace Panel
 {
@@ -16,64 +19,56 @@ namespace
 
 /// The speed is told this often, in milliseconds.
 constexpr qint64 s_speedInterval = 500;
-
-QLabel *addField(QHBoxLayout *row, const QString &name, QLabel **nameField = nullptr)
-{
-    auto *nameLabel = new QLabel(name);
-    nameLabel->setObjectName(QStringLiteral("dim"));
-    auto *value = new QLabel;
-    value->setAccessibleName(name);
-    if (nameField)
-        *nameField = nameLabel;
-    row->addWidget(nameLabel);
-    row->addWidget(value);
-    return value;
-}
+constexpr int s_lineWidth = 2;
 
 } // namespace
 
 SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
-    : QFrame(parent)
+    : QWidget(parent)
     , m_model(model)
+    , m_bar(new RectangularBottomWidget)
 {
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(12, 6, 12, 6);
-    m_start = addField(row, tr("Start"));
-    row->addStretch(1);
-    m_points = addField(row, tr("Points"));
-    row->addStretch(1);
-    m_speed = addField(row, tr("Speed"), &m_speedName);
-    m_gapAfterSpeed = row->count();
-    row->addStretch(1);
-    m_stop = addField(row, tr("Stop"));
-    showSpeed(QString());
-    connect(m_model, &PanelModel::activeTraceChanged, this, &SweepBar::refresh);
-    connect(m_model, &PanelModel::stimulusChanged, this, &SweepBar::refresh);
+    setAccessibleName(tr("Sweep"));
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, s_lineWidth, 0, 0);
+    column->addWidget(m_bar);
+    connect(m_model, &PanelModel::activeTraceChanged, this, &SweepBar::showRange);
+    connect(m_model, &PanelModel::stimulusChanged, this, &SweepBar::showRange);
+    connect(m_model, &PanelModel::networkUpdated, this, &SweepBar::showRange);
     connect(m_model, &PanelModel::networksChanged, this, [this] {
         m_clock.invalidate();
+        setProgress(0.0);
         showSpeed(QString());
     });
-    connect(m_model, &PanelModel::networkUpdated, this, &SweepBar::countSweep);
     connect(m_model, &PanelModel::sweepingChanged, this, [this] {
         if (!m_model->isSweeping() && m_clock.isValid())
             showSpeed(tr("Hold"));
         m_clock.invalidate();
     });
-    refresh();
+    showSpeed(QString());
+    showRange();
 }
 
-void SweepBar::refresh()
+void SweepBar::showRange()
 {
     const Trace *trace = m_model->activeTrace();
-    const QString none = QStringLiteral("\u2013");
-    m_start->setText(trace ? frequencyText(m_model->stimulus(*trace).start) : none);
-    m_points->setText(trace ? QString::number(m_model->network(*trace).frequencies.size()) : none);
-    m_stop->setText(trace ? frequencyText(m_model->stimulus(*trace).stop) : none);
+    const double none = qQNaN();
+    m_bar->updateRange(frequencyText(trace ? m_model->stimulus(*trace).start : none),
+                       frequencyText(trace ? m_model->stimulus(*trace).stop : none));
+}
+
+void SweepBar::setProgress(double progress)
+{
+    // Drawn to the end for one frame only, a line would flicker.
+    progress = progress < 1.0 || m_progress > 0.0 ? progress : 0.0;
+    if (progress == m_progress)
+        return;
+    m_progress = progress;
+    update(0, 0, width(), s_lineWidth);
 }
 
 void SweepBar::countSweep()
 {
-    refresh();
     if (!m_clock.isValid()) {
         m_clock.start();
         m_sweeps = 0;
@@ -84,18 +79,22 @@ void SweepBar::countSweep()
     if (elapsed < s_speedInterval || !m_model->isSweeping())
         return;
     const double speed = m_sweeps * 1000.0 / double(elapsed);
-    showSpeed(tr("%1 sweeps/s").arg(speed, 0, 'f', speed < 9.95 ? 1 : 0));
+    showSpeed(tr("Speed: %1 sweeps/s").arg(speed, 0, 'f', speed < 9.95 ? 1 : 0));
     m_clock.start();
     m_sweeps = 0;
 }
 
 void SweepBar::showSpeed(const QString &speed)
 {
-    m_speedName->setVisible(!speed.isEmpty());
-    m_speed->setVisible(!speed.isEmpty());
-    m_speed->setText(speed);
-    // Without the speed there is one gap less, or the points would not stand in the middle.
-    static_cast<QHBoxLayout *>(layout())->setStretch(m_gapAfterSpeed, speed.isEmpty() ? 0 : 1);
+    m_bar->setSweepSpeedText(speed);
+    m_bar->setSweepSpeedVisible(!speed.isEmpty());
+}
+
+void SweepBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(0, 0, width(), s_lineWidth, currentLook().bar);
+    painter.fillRect(0, 0, qRound(m_progress * width()), s_lineWidth, currentLook().accent);
 }
 
 } // namespace Panel

@@ -3,36 +3,40 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QFrame>
+#include <QWidget>
 
-class QLabel;
+class RectangularBottomWidget;
 
 namespace Panel
 {
 
 class PanelModel;
 
-/// The bar below the diagrams: start, number of points and stop of the active trace's sweep and,
-/// while it is measured, how fast.
-class SweepBar : public QFrame
+/*! The bar below the diagrams: the ends of the active trace's sweep, how fast it is measured, and a
+    line above that grows with a slow sweep. */
+class SweepBar : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit SweepBar(const PanelModel *model, QWidget *parent = nullptr);
 
-private:
-    void refresh();
+    /// How far the sweep is, from 0 to 1. A sweep that is done before the display could show its
+    /// progress draws no line.
+    void setProgress(double progress);
+    /// A sweep has ended.
     void countSweep();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void showRange();
     void showSpeed(const QString &speed);
 
     const PanelModel *m_model;
-    QLabel *m_start;
-    QLabel *m_points;
-    QLabel *m_speedName;
-    int m_gapAfterSpeed = 0; ///< its index in the layout
-    QLabel *m_speed;
-    QLabel *m_stop;
+    RectangularBottomWidget *m_bar;
+    double m_progress = 0.0;
     QElapsedTimer m_clock;
     int m_sweeps = 0;
 };

@@ -2,28 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sweepcontroller.h"
 
+#include "diagrams.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
-#include "smithview.h"
 #include "softkey.h"
-#include "sweepkeys.h"
-#include "timingline.h"
+
+#include <widgets/switchbutton.h>
 
 #include <QScopedValueRollback>
-#include <QShortcut>
 
-#include <algorithm>
 
 namespace Panel
 {
-
-namespace
-{
-
-/// The choices of the points key.
-constexpr int s_points[] = {1001, 100001, 1000001};
-
-} // namespace
 
 SweepController::SweepController(PanelModel *model, PanelWindow *window, QObject *parent)
     : QObject(parent)
@@ -43,31 +33,17 @@ SweepController::SweepController(PanelModel *model, PanelWindow *window, QObject
 
 void SweepController::connectKeys()
 {
-    const SweepKeys *keys = m_window->sweepKeys();
+    const PanelKeys &keys = m_window->keys();
     using Device = SimulatedDevice;
-    keys->sourceKey()->setChoices({tr("File"), Device::name(Device::Antenna),
-                                   Device::name(Device::Filter), Device::name(Device::Cable)});
-    connect(keys->sourceKey(), &SoftKey::choicePicked, this, [this](int index) {
+    keys.source->setChoices({tr("File"), Device::name(Device::Antenna),
+                             Device::name(Device::Filter), Device::name(Device::Cable)});
+    connect(keys.source, &SoftKey::choicePicked, this, [this](int index) {
         if (index == 0)
             showFiles();
         else
             simulate(Device::Kind(index - 1));
     });
-    keys->pointsKey()->setChoices({tr("1 k"), tr("100 k"), tr("1 M")});
-    connect(keys->pointsKey(), &SoftKey::choicePicked, this, [this](int index) {
-        Sweep sweep = m_model->sweep();
-        sweep.points = s_points[index];
-        m_model->setSweep(sweep);
-    });
-    connect(keys->sweepKey(), &SoftKey::clicked, this,
-            [this] { m_model->setSweeping(!m_model->isSweeping()); });
-
-    const auto toggleTiming = [this] {
-        m_window->timingLine()->setVisible(m_window->timingLine()->isHidden());
-        showState();
-    };
-    connect(keys->timingKey(), &SoftKey::clicked, this, toggleTiming);
-    connect(new QShortcut(Qt::Key_F3, m_window), &QShortcut::activated, this, toggleTiming);
+    connect(keys.sweep, &SwitchButton::statusChanged, m_model, &PanelModel::setSweeping);
 }
 
 void SweepController::simulate(SimulatedDevice::Kind kind)
@@ -89,7 +65,7 @@ void SweepController::showFiles()
         return;
     }
     m_source.stop();
-    m_window->smithView()->resetView();
+    m_window->diagrams()->resetViews();
     m_model->setNetworks(m_files);
 }
 
@@ -100,7 +76,23 @@ void SweepController::restart()
     showState();
 }
 
-void SweepController::onSwept(const Network &frame)
+void SweepController::setTuning(double hertz)
+{
+    const double before = tuning();
+    m_source.setTuning(hertz);
+    if (tuning() != before)
+        Q_EMIT tuningChanged();
+}
+
+void SweepController::onSwept(const Network &frame, double progress)
+{
+    show(frame);
+    Q_EMIT progressed(progress);
+    if (progress >= 1.0)
+        Q_EMIT sweepCompleted();
+}
+
+void SweepController::show(const Network &frame)
 {
     if (!m_newDevice) {
         m_model->updateNetwork(0, frame);
@@ -108,7 +100,7 @@ void SweepController::onSwept(const Network &frame)
     }
     m_newDevice = false;
     const QScopedValueRollback<bool> handingOver(m_handingOver, true);
-    m_window->smithView()->resetView();
+    m_window->diagrams()->resetViews();
     m_model->setNetworks({frame});
 }
 
@@ -122,20 +114,10 @@ void SweepController::onNetworksChanged()
 
 void SweepController::showState()
 {
-    const SweepKeys *keys = m_window->sweepKeys();
-    keys->sourceKey()->setChoice(isSimulating() ? m_kind + 1 : 0);
-    const int points = m_model->sweep().points;
-    const auto *found = std::find(std::begin(s_points), std::end(s_points), points);
-    if (found != std::end(s_points)) {
-        keys->pointsKey()->setChoice(int(found - s_points));
-    } else {
-        keys->pointsKey()->setChoice(-1);
-        keys->pointsKey()->setValue(QString::number(points));
-    }
-    keys->sweepKey()->setValue(m_model->isSweeping() ? tr("On") : tr("Off"));
-    keys->timingKey()->setValue(m_window->timingLine()->isHidden() ? tr("Hidden") : tr("Shown"));
-    for (SoftKey *key : {keys->pointsKey(), keys->sweepKey()})
-        key->setEnabled(isSimulating());
+    const PanelKeys &keys = m_window->keys();
+    keys.source->setChoice(isSimulating() ? m_kind + 1 : 0);
+    keys.sweep->setStatus(m_model->isSweeping());
+    keys.sweep->setEnabled(isSimulating());
 }
 
 } // namespace Panel

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "stimulus.h"
 #include "sweepsource.h"
 
 namespace Panel
@@ -28,14 +29,30 @@ public:
     /// Shows the files that were on show before the simulation, or asks for one.
     void showFiles();
 
+    /// What the simulated antenna is tuned to, in Hz; a value outside the limits moves to the
+    /// limit.
+    double tuning() const { return m_source.tuning(); }
+    void setTuning(double hertz);
+    static Stimulus tuningLimits()
+    {
+        return {SimulatedDevice::lowestTuning, SimulatedDevice::highestTuning};
+    }
+    /// Whether the device that is swept can be tuned.
+    bool isTunable() const { return isSimulating() && m_kind == SimulatedDevice::Antenna; }
+
 Q_SIGNALS:
+    void tuningChanged();
+    /// The sweep has got so far; the model has its points.
+    void progressed(double progress);
+    void sweepCompleted();
     /// The user wants a file, and none is at hand.
     void fileRequested();
 
 private:
     void connectKeys();
     void restart();
-    void onSwept(const Network &frame);
+    void onSwept(const Network &frame, double progress);
+    void show(const Network &frame);
     void onNetworksChanged();
     void showState();
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sweepsource.h"
 
+#include <QPointer>
+
 #include <atomic>
 
 namespace Panel
@@ -10,22 +12,14 @@ namespace Panel
 namespace
 {
 
-/// Points computed between two looks at whether they are still wanted.
-constexpr int s_portion = 4096;
+/// A frame that comes late has more points, but never so many that it takes long itself.
+constexpr qint64 s_mostPoints = 10 * SweepSource::leastPoints;
 
 } // namespace
 
-/// A device on its way through the thread. The thread alone touches the device.
+/// A device on its way through the thread. The thread alone touches the measurement.
 struct SweepSource::Job {
-    Job(SimulatedDevice::Kind ofKind, const Sweep &over)
-        : kind(ofKind)
-        , sweep(over)
-    {
-    }
-
-    const SimulatedDevice::Kind kind;
-    const Sweep sweep;
-    std::unique_ptr<SimulatedDevice> device;
+    std::unique_ptr<ProgressiveSweep> measurement;
     std::atomic_bool cancelled{false};
 };
 
@@ -52,8 +46,14 @@ SweepSource::~SweepSource()
 void SweepSource::start(SimulatedDevice::Kind kind, const Sweep &sweep)
 {
     stop();
-    m_job = std::make_shared<Job>(kind, sweep);
-    m_frameNumber = 0;
+    m_job = std::make_shared<Job>();
+    const auto work = [job = m_job, kind, sweep, tuning = m_tuning] {
+        if (!job->cancelled)
+            job->measurement = std::make_unique<ProgressiveSweep>(kind, sweep, tuning);
+    };
+    QMetaObject::invokeMethod(m_worker, work, Qt::QueuedConnection);
+    m_first = true;
+    m_clock.start();
     requestFrame();
     m_timer.start();
 }
@@ -69,21 +69,35 @@ void SweepSource::stop()
 
 void SweepSource::setHeld(bool held)
 {
+    // The time of rest is no time of the sweep.
+    m_clock.start();
     m_held = held;
+}
+
+void SweepSource::setTuning(double tuning)
+{
+    m_tuning = qBound(SimulatedDevice::lowestTuning, tuning, SimulatedDevice::highestTuning);
+    if (!m_job)
+        return;
+    const auto work = [job = m_job, tuning = m_tuning] {
+        if (!job->cancelled)
+            job->measurement->setTuning(tuning);
+    };
+    QMetaObject::invokeMethod(m_worker, work, Qt::QueuedConnection);
 }
 
 void SweepSource::requestFrame()
 {
-    const auto work = [this, job = m_job, number = m_frameNumber++] {
-        if (!job->device)
-            job->device = std::make_unique<SimulatedDevice>(job->kind, job->sweep);
-        while (!job->cancelled && !job->device->isPrepared())
-            job->device->prepare(s_portion);
+    const qint64 due = 1000 * m_clock.restart() / pointMicroseconds;
+    const int points = int(qBound<qint64>(leastPoints, due, s_mostPoints));
+    const auto work = [this, job = m_job, points] {
         if (job->cancelled)
             return;
-        const auto receive = [this, job, frame = job->device->frame(number)] {
+        job->measurement->advance(points);
+        const Frame frame{job->measurement->frame(), job->measurement->progress()};
+        const auto receive = [this, job, frame] {
             if (job == m_job)
-                m_frame = std::make_unique<Network>(frame);
+                m_frame = std::make_unique<Frame>(frame);
         };
         QMetaObject::invokeMethod(this, receive, Qt::QueuedConnection);
     };
@@ -93,13 +107,18 @@ void SweepSource::requestFrame()
 void SweepSource::deliver()
 {
     // Of a device just started, one frame is shown in any case.
-    const bool first = m_frameNumber == 1;
-    if (!m_frame || (m_held && !first))
+    if (!m_frame || (m_held && !m_first))
         return;
-    const Network frame = std::move(*m_frame);
-    m_frame.reset();
-    requestFrame();
-    Q_EMIT swept(frame);
+    m_first = false;
+    const QPointer<SweepSource> alive(this);
+    const auto job = m_job;
+    {
+        const auto frame = std::move(m_frame);
+        Q_EMIT swept(frame->network, frame->progress);
+    }
+    // Asked for only now that the receiver has let go of the frame before, which is written to.
+    if (alive && job == m_job)
+        requestFrame();
 }
 
 } // namespace Panel

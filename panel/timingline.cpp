@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "timingline.h"
 
-#include "cartesianview.h"
 #include "diagrams.h"
-#include "smithview.h"
+#include "diagramview.h"
 
 #include <plot/qcp.h>
 
@@ -44,15 +43,11 @@ void TimingLine::refresh()
     };
     int points = 0;
     double newData = 0.0, replot = 0.0;
-    const auto add = [&](const auto *view) {
-        if (!view->isVisible())
-            return;
+    for (const DiagramView *view : m_diagrams->views()) {
         points += view->drawnPoints();
         newData += view->dataMilliseconds();
         replot += view->plot()->replotTime();
-    };
-    add(m_diagrams->smithView());
-    add(m_diagrams->cartesianView());
+    }
     setText(tr("%1 points drawn \u00b7 new data %2 \u00b7 replot %3")
                 .arg(QString::number(points), milliseconds(newData), milliseconds(replot)));
 }

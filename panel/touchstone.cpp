@@ -9,6 +9,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <string_view>
 
 namespace Panel
@@ -18,6 +19,8 @@ namespace
 {
 
 constexpr qint64 s_largestFile = 512 * 1024 * 1024;
+/// Bytes between two reports of progress.
+constexpr qint64 s_portion = 1024 * 1024;
 constexpr int s_mostPoints = 4000000;
 constexpr int s_noiseNumbers = 5;
 /// Frequency and four parameters of two numbers each: the longest point.
@@ -51,8 +54,13 @@ QString quoted(std::string_view word)
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-/// Reads a whole word as a number, whatever the locale; false for anything else and for what is not
-/// finite.
+QString cancelled()
+{
+    return QStringLiteral("the reading was cancelled");
+}
+
+/// Reads a whole word as a number or NaN, whatever the locale; false for anything else and for what
+/// is infinite.
 bool toNumber(std::string_view word, double &value)
 {
     if (word.size() > 1 && word[0] == '+' && word[1] != '-')
@@ -67,15 +75,17 @@ bool toNumber(std::string_view word, double &value)
         value = 0.0;
         return exponent + 1 < word.size() && word[exponent + 1] == '-';
     }
-    return error == std::errc() && std::isfinite(value);
+    return error == std::errc() && !std::isinf(value);
 }
 
 class Parser
 {
 public:
-    Parser(const QByteArray &text, int ports)
-        : m_at(text.constData())
+    Parser(const QByteArray &text, int ports, const ReadProgress &progress)
+        : m_begin(text.constData())
+        , m_at(m_begin)
         , m_end(m_at + text.size())
+        , m_progress(progress)
         , m_pointNumbers(1 + 2 * ports * ports)
     {
         m_result.network.ports = ports;
@@ -88,7 +98,7 @@ public:
             m_at += 3;
         std::string_view line;
         while (nextLine(line)) {
-            if (!parseLine(line)) {
+            if (!parseLine(line) || !tellProgress()) {
                 m_result.network = Network();
                 return m_result;
             }
@@ -115,6 +125,18 @@ private:
     {
         m_result.reason = reason;
         m_result.line = m_line;
+        return false;
+    }
+
+    bool tellProgress()
+    {
+        if (!m_progress || m_at - m_told < s_portion)
+            return true;
+        m_told = m_at;
+        if (m_progress(int(100 * (m_at - m_begin) / (m_end - m_begin))))
+            return true;
+        fail(cancelled());
+        m_result.line = 0;
         return false;
     }
 
@@ -311,9 +333,12 @@ private:
                 const double radians = b * (std::acos(-1.0) / 180.0);
                 a = magnitude * std::cos(radians);
                 b = magnitude * std::sin(radians);
-                if (!std::isfinite(a) || !std::isfinite(b))
+                if (std::isinf(a) || std::isinf(b))
                     return fail(QStringLiteral("a value is beyond all bounds"));
             }
+            // Half a value is none.
+            if (std::isnan(a) || std::isnan(b))
+                a = b = std::numeric_limits<double>::quiet_NaN();
             network.parameters[i].real.append(a);
             network.parameters[i].imag.append(b);
         }
@@ -322,8 +347,11 @@ private:
         return true;
     }
 
+    const char *m_begin;
     const char *m_at;
     const char *m_end;
+    const ReadProgress &m_progress;
+    const char *m_told = m_begin;
     int m_line = 0;
 
     bool m_hasOptions = false;
@@ -342,11 +370,49 @@ private:
     TouchstoneResult m_result;
 };
 
-TouchstoneResult refusal(const QString &reason)
+/// The whole text of a file, or a reason why it cannot be had.
+QString readText(const QFileInfo &info, QByteArray &text, const ReadProgress &progress)
 {
-    TouchstoneResult result;
-    result.reason = reason;
-    return result;
+    if (!info.isFile())
+        return QStringLiteral("this is no ordinary file");
+    const QString tooLarge =
+        QStringLiteral("the file is larger than %1 MB").arg(s_largestFile / (1024 * 1024));
+    const qint64 expected = info.size();
+    if (expected > s_largestFile)
+        return tooLarge;
+    QFile file(info.filePath());
+    if (!file.open(QIODevice::ReadOnly))
+        return QStringLiteral("the file cannot be read (%1)").arg(file.errorString());
+    text.reserve(int(expected));
+    for (QByteArray portion = file.read(s_portion); !portion.isEmpty();
+         portion = file.read(s_portion)) {
+        text += portion;
+        // It may have grown since its size was asked for.
+        if (text.size() > s_largestFile)
+            return tooLarge;
+        if (progress && !progress(int(100 * text.size() / qMax<qint64>(expected, text.size()))))
+            return cancelled();
+    }
+    return file.error() == QFileDevice::NoError
+        ? QString()
+        : QStringLiteral("the file cannot be read (%1)").arg(file.errorString());
+}
+
+/// What is wrong with a file before it is opened, or nothing.
+QString refusal(const QFileInfo &info, int ports)
+{
+    if (!info.exists())
+        return QStringLiteral("there is no such file");
+    if (info.isDir())
+        return QStringLiteral("this is a folder, not a file");
+    if (!info.isFile())
+        return QStringLiteral("this is no ordinary file");
+    if (ports == 0)
+        return QStringLiteral("the name of a Touchstone file ends in .s1p or .s2p");
+    if (ports > 2)
+        return QStringLiteral("a network of %1 ports, and only one and two ports are read")
+            .arg(ports);
+    return QString();
 }
 
 } // namespace
@@ -371,40 +437,30 @@ int touchstonePorts(const QString &fileName)
     return plain ? digits.toInt() : 0;
 }
 
-TouchstoneResult readTouchstone(const QString &path)
+TouchstoneResult readTouchstone(const QString &path, const ReadProgress &progress)
 {
     const QFileInfo info(path);
-    if (!info.exists())
-        return refusal(QStringLiteral("there is no such file"));
-    if (info.isDir())
-        return refusal(QStringLiteral("this is a folder, not a file"));
     const int ports = touchstonePorts(path);
-    if (ports == 0)
-        return refusal(QStringLiteral("the name of a Touchstone file ends in .s1p or .s2p"));
-    if (ports > 2)
-        return refusal(QStringLiteral("a network of %1 ports, and only one and two ports are read")
-                           .arg(ports));
-    if (!info.isFile())
-        return refusal(QStringLiteral("this is no ordinary file"));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return refusal(QStringLiteral("the file cannot be read (%1)").arg(file.errorString()));
-    const qint64 size = file.size(); // of what is open now, whatever the name stands for meanwhile
-    if (size > s_largestFile)
-        return refusal(
-            QStringLiteral("the file is larger than %1 MB").arg(s_largestFile / (1024 * 1024)));
-    const QByteArray text = file.read(size);
-    if (file.error() != QFileDevice::NoError)
-        return refusal(QStringLiteral("the file cannot be read (%1)").arg(file.errorString()));
-    TouchstoneResult result = parseTouchstone(text, ports);
+    // Reading is one half of the way, understanding the other.
+    const auto half = [&progress](int done) {
+        return [&progress, done](int percent) { return !progress || progress(done + percent / 2); };
+    };
+    TouchstoneResult result;
+    result.reason = refusal(info, ports);
+    QByteArray text;
+    if (result.ok())
+        result.reason = readText(info, text, half(0));
+    if (result.ok())
+        result = parseTouchstone(text, ports, half(50));
     result.network.name = info.fileName();
+    result.network.path = info.absoluteFilePath();
     return result;
 }
 
-TouchstoneResult parseTouchstone(const QByteArray &text, int ports)
+TouchstoneResult parseTouchstone(const QByteArray &text, int ports, const ReadProgress &progress)
 {
     Q_ASSERT(ports == 1 || ports == 2);
-    return Parser(text, ports).run();
+    return Parser(text, ports, progress).run();
 }
 
 } // namespace Panel

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
     Reads Touchstone files of version 1: S parameters of one- and two-ports, any frequency unit and
-   number format. The noise data that may follow the S parameters of a two-port is checked and left
-   out. */
+   number format. A value written as NaN leaves a gap in its trace. The noise data that may follow
+   the S parameters of a two-port is checked and left out. */
 #pragma once
 
 #include "network.h"
+
+#include <functional>
 
 namespace Panel
 {
@@ -28,10 +30,16 @@ struct TouchstoneResult {
 /// extension.
 int touchstonePorts(const QString &fileName);
 
-/// Reads a file; its extension says how many ports it has.
-TouchstoneResult readTouchstone(const QString &path);
+/// Is told now and then which percentage is done, in the thread that reads; answers whether to go
+/// on.
+using ReadProgress = std::function<bool(int percent)>;
+
+/// Reads a file; its extension says how many ports it has. The network has its name and path even
+/// when the file is refused.
+TouchstoneResult readTouchstone(const QString &path, const ReadProgress &progress = {});
 
 /// Reads the text of a file with 1 or 2 ports.
-TouchstoneResult parseTouchstone(const QByteArray &text, int ports);
+TouchstoneResult parseTouchstone(const QByteArray &text, int ports,
+                                 const ReadProgress &progress = {});
 
 } // namespace Panel

@@ -5,6 +5,7 @@
 #include <QScrollArea>
 #include <QVector>
 
+class QAbstractButton;
 class QHBoxLayout;
 
 namespace Panel
@@ -13,25 +14,45 @@ namespace Panel
 class PanelModel;
 class TraceButton;
 
-/*! The list of traces in the top bar, in their colours and with the active one inverse. It scrolls
-   under a finger where it is too long, and asks for a trace to become active rather than making it
-   so. */
+/*! The list of traces in the top bar, "Tr1 S11 Smith 1.00 U/" in their colours and with the active
+    one inverse. It scrolls under a finger where it is too long; where it would be, the others are
+    named only.
+
+    A tap on a trace asks for it to become active; on a field of the active one, for that field to
+    be edited. */
 class TraceBar : public QScrollArea
 {
     Q_OBJECT
 
 public:
+    /// What can be edited of a trace.
+    enum Field {
+        Parameter,
+        Format,
+        Scale,
+    };
+
     explicit TraceBar(const PanelModel *model, QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    /// The button of a trace, or null.
+    QAbstractButton *button(int traceId) const;
+    /// The place of a field within its button.
+    QRect fieldRect(int traceId, Field field) const;
 
 Q_SIGNALS:
     void activationRequested(int traceId);
+    void editRequested(int traceId, Panel::TraceBar::Field field);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    TraceButton *traceButton(int traceId) const;
     void rebuild();
     void refresh();
+    void fit();
 
     const PanelModel *m_model;
     QHBoxLayout *m_row;

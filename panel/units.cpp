@@ -70,6 +70,12 @@ PowerAdapter::PowerAdapter(QObject *parent)
     setDecimals(2);
 }
 
+DecibelAdapter::DecibelAdapter(QObject *parent)
+    : UnitAdapter({{QStringLiteral("dB"), 1.0}}, parent)
+{
+    setDecimals(2);
+}
+
 TimeAdapter::TimeAdapter(QObject *parent)
     : UnitAdapter({{QStringLiteral("s"), 1.0},
                    {QStringLiteral("ms"), 1e-3},

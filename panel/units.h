@@ -55,6 +55,15 @@ public:
     explicit PowerAdapter(QObject *parent = nullptr);
 };
 
+/// dB with two decimals.
+class DecibelAdapter : public UnitAdapter
+{
+    Q_OBJECT
+
+public:
+    explicit DecibelAdapter(QObject *parent = nullptr);
+};
+
 /// s, ms, µs and ns, down to 1 ps. Either character for micro is read, and "us" too.
 class TimeAdapter : public UnitAdapter
 {

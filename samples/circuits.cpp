@@ -129,12 +129,12 @@ Complex openCable(double omega)
         inputImpedance(line(omega, 50.5, 2.5, 0.69, 1.1), capacitor(omega, 0.06e-12)));
 }
 
-Complex antenna(double omega)
+Complex antenna(double omega, double hertz)
 {
     struct Mode {
         double ohms, hertz, quality;
     };
-    static constexpr std::array<Mode, 2> modes = {{{56.0, 2.45e9, 9.0}, {46.0, 5.5e9, 15.0}}};
+    const std::array<Mode, 2> modes = {{{56.0, hertz, 9.0}, {46.0, hertz * 5.5 / 2.45, 15.0}}};
     Complex impedance = inductor(omega, 0.35e-9);
     for (const Mode &mode : modes) {
         const double detuning = omega / (2.0 * s_pi * mode.hertz) - 2.0 * s_pi * mode.hertz / omega;

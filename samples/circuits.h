@@ -24,10 +24,10 @@ Complex matchedLoad(double omega);
 /// Reflection of 2.5 m of cable, open at the far end: a spiral.
 Complex openCable(double omega);
 
-/*! Reflection of an antenna for 2.45 GHz and 5.5 GHz: after Foster, one parallel resonance for each
-   radiating mode, in series with each other and with the inductance of the feed; then 15 mm of line
-   to the connector. */
-Complex antenna(double omega);
+/*! Reflection of an antenna with two bands, the lower of which is at this frequency in Hz: after
+   Foster, one parallel resonance for each radiating mode, in series with each other and with the
+   inductance of the feed; then 15 mm of line to the connector. */
+Complex antenna(double omega, double hertz = 2.45e9);
 
 /*! S parameters of a band-pass of five resonators for 2.4 to 2.5 GHz, with resonators of finite
    quality and strips of unequal length at its ports. Prototype to band-pass: Matthaei, Young,

@@ -135,8 +135,11 @@ void MarkerStatusItem::setColor(const QColor &color)
 {
     const QString sheet = QStringLiteral("color:%0;").arg(color.name());
     // A style sheet costs a polish of all labels even when it is the same one.
-    if (styleSheet() != sheet)
-        setStyleSheet(sheet);
+    if (styleSheet() == sheet)
+        return;
+    // Where an ancestor has a style sheet too, Qt leaves out labels that were polished before us.
+    ensurePolished();
+    setStyleSheet(sheet);
 }
 
 void MarkerStatusItem::setBold(bool bold)

@@ -44,11 +44,11 @@ struct PanelDesk {
             QCoreApplication::processEvents();
     }
 
-    /// Taps a widget; a soft key is looked up on its page first.
+    /// Taps a widget; a key is looked up on its page first.
     void click(const QWidget *widget)
     {
-        if (const auto *key = qobject_cast<const Panel::SoftKey *>(widget)) {
-            window.softKeys()->showKey(key);
+        if (window.softKeys()->isAncestorOf(widget)) {
+            window.softKeys()->showKey(widget);
             settle();
         }
         VnaTest::mouseClick(widget);
@@ -61,7 +61,7 @@ struct ChartDesk : PanelDesk {
     explicit ChartDesk(const QSize &size = QSize(1024, 600))
         : PanelDesk(size)
     {
-        window.diagrams()->setDiagramLayout(Panel::Diagrams::Smith);
+        model.viewSettings()->layoutProfile()->setLayoutType(Graph::LayoutType::Single);
         settle();
     }
 
@@ -72,7 +72,7 @@ struct ChartDesk : PanelDesk {
         return {area.left() + qRound(x * area.width()), area.top() + qRound(y * area.height())};
     }
     QPoint inWindow(const QPoint &onPlot) const { return view()->plot()->mapTo(&window, onPlot); }
-    QPointF chartPoint(const QPoint &onPlot) const { return view()->chartPoint(onPlot); }
+    QPointF chartPoint(const QPoint &onPlot) const { return view()->coordinates(onPlot); }
 
     void turnWheel(const QPoint &onPlot, int notches)
     {
@@ -108,9 +108,15 @@ struct ChartDesk : PanelDesk {
     }
 
     /// Picks a choice of a soft key from its list, as a finger would.
-    void pick(Panel::SoftKey *key, int index)
+    void pick(QWidget *key, int index)
     {
         click(key);
+        pickFromList(index);
+    }
+
+    /// Picks from the list that is open.
+    void pickFromList(int index)
+    {
         QWidget *popup = QApplication::activePopupWidget();
         QVERIFY(popup);
         const auto *list = popup->findChild<QListWidget *>();

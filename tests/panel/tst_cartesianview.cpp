@@ -6,8 +6,7 @@
 #include <panel/cartesianview.h>
 #include <panel/diagrams.h>
 #include <panel/look.h>
-#include <panel/markertable.h>
-#include <panel/sweepkeys.h>
+#include <panel/readouts.h>
 #include <plot/qcp.h>
 
 #include <QtTest>
@@ -46,7 +45,7 @@ struct Desk : PanelDesk {
     {
         const Trace &trace = *model.trace(traceId);
         const double value =
-            cartesianValueAt(model.data(trace), index, CartesianFormat::LogMagnitude);
+            cartesianValueAt(model.data(trace), index, TraceFormat::LogMagnitude);
         const QPointF point(
             view()->plot()->xAxis->coordToPixel(model.network(trace).frequencies.at(index)),
             view()->plot()->yAxis->coordToPixel(value));
@@ -74,8 +73,8 @@ private Q_SLOTS:
 
 void CartesianViewTest::readsDecibelsAndDegrees()
 {
-    const auto decibels = CartesianFormat::LogMagnitude;
-    const auto degrees = CartesianFormat::Phase;
+    const auto decibels = TraceFormat::LogMagnitude;
+    const auto degrees = TraceFormat::Phase;
     QCOMPARE(cartesianValue(0.0, -0.1, decibels), -20.0);
     QCOMPARE(cartesianValue(0.0, 0.0, decibels), -300.0);
     QCOMPARE(cartesianValue(-1.0, 0.0, degrees), 180.0);
@@ -99,7 +98,7 @@ void CartesianViewTest::thinsWithoutLosingPeaks()
     QFETCH(int, most);
     const Network network = points > 0 ? slope(points) : Network();
     const Parameter parameter = points > 0 ? network.s(2, 1) : Parameter();
-    for (const auto format : {CartesianFormat::LogMagnitude, CartesianFormat::Phase}) {
+    for (const auto format : {TraceFormat::LogMagnitude, TraceFormat::Phase}) {
         const CartesianLine line = cartesianLine(network.frequencies, parameter, format, 100);
         QCOMPARE(line.values.size(), line.frequencies.size());
         QVERIFY(line.values.size() <= most);
@@ -144,20 +143,24 @@ void CartesianViewTest::showsTransmissionBesideReflection()
 void CartesianViewTest::choosesDiagrams()
 {
     Desk desk;
-    SoftKey *key = desk.window.sweepKeys()->diagramsKey();
+    auto *layout = desk.model.viewSettings()->layoutProfile();
     const auto shown = [&desk] {
         return std::pair(desk.window.smithView()->isVisible(), desk.view()->isVisible());
     };
-    Q_EMIT key->choicePicked(Diagrams::Smith);
+    layout->setLayoutType(Graph::LayoutType::Single);
     QCOMPARE(shown(), std::pair(true, false));
-    Q_EMIT key->choicePicked(Diagrams::Cartesian);
+    desk.model.setActiveTrace(4);
     QCOMPARE(shown(), std::pair(false, true));
-    QCOMPARE(key->choice(), int(Diagrams::Cartesian));
-    // A one-port has nothing to show there.
-    desk.controller.openFiles({sampleFolder() + QStringLiteral("/antenna.s1p")});
-    QCOMPARE(shown(), std::pair(true, false));
-    desk.controller.openFiles({startSample()});
-    QCOMPARE(shown(), std::pair(false, true));
+    layout->setLayoutType(Graph::LayoutType::Quad);
+    QCOMPARE(desk.window.diagrams()->views().size(), 4);
+    desk.model.setTraceFormat(4, TraceFormat::Smith);
+    QCOMPARE(desk.window.diagrams()->activeView()->traceIds(), QVector<int>{4});
+    QVERIFY(qobject_cast<SmithView *>(desk.window.diagrams()->activeView()));
+    layout->setLayoutType(Graph::LayoutType::SideBySide);
+    QCOMPARE(desk.window.smithView()->traceIds(), (QVector<int>{1, 2, 4}));
+    QCOMPARE(desk.view()->traceIds(), QVector<int>{3});
+    desk.model.setNetworks({});
+    QVERIFY(desk.window.diagrams()->views().isEmpty());
 }
 
 void CartesianViewTest::markersFollowTheirPointer()
@@ -168,7 +171,7 @@ void CartesianViewTest::markersFollowTheirPointer()
     const Marker *marker = desk.model.marker(3, 1);
     QVERIFY(marker && std::abs(marker->index - 600.0) < 4.0);
     QCOMPARE(desk.model.selectedMarker(), marker);
-    QVERIFY(desk.view()->markerTable()->height() > 10);
+    QVERIFY(desk.view()->readOuts()->height() > 10);
 
     // Its triangle stands on the point.
     const QPoint grip = desk.onTrace(3, int(marker->index)) - QPoint(0, 8);
@@ -182,7 +185,7 @@ void CartesianViewTest::markersFollowTheirPointer()
     const QPointF position = desk.view()->marker(3, 1)->getTracer()->position->coords();
     QCOMPARE(position.y(),
              cartesianValueAt(desk.model.data(*desk.model.trace(3)), index,
-                              CartesianFormat::LogMagnitude));
+                              TraceFormat::LogMagnitude));
     QTest::mouseMove(desk.screen(), grip);
     QCOMPARE(marker->index, index);
 
@@ -220,7 +223,7 @@ void CartesianViewTest::followsNewDataAndFormats()
     };
     QVERIFY(std::abs(position().x() - 2e9) < 1.0 && std::abs(position().y() + 20.0) < 0.01);
 
-    Q_EMIT desk.window.sweepKeys()->formatKey()->choicePicked(int(CartesianFormat::Phase));
+    Q_EMIT desk.window.keys().format->choicePicked(int(TraceFormat::Phase));
     QVERIFY(desk.view()->plot()->yAxis->range() == QCPRange(-180.0, 180.0));
     const double turned = std::remainder(10.0 * 180.0 / std::acos(-1.0), 360.0);
     QVERIFY(std::abs(position().y() - turned) < 0.01);

@@ -99,7 +99,9 @@ void CommandLineTest::grabsEveryScreen()
     QList<QImage> screens;
     for (const QString &name : names) {
         const QImage screen(pictures.filePath(name));
-        if (name != QLatin1String("file-dialog.png"))
+        const QStringList dialogs{QStringLiteral("file-dialog.png"), QStringLiteral("help.png"),
+                                  QStringLiteral("settings.png")};
+        if (!dialogs.contains(name))
             QCOMPARE(screen.size(), QSize(800, 480));
         QVERIFY2(!screens.contains(screen), qPrintable(name));
         screens << screen;

@@ -114,7 +114,7 @@ void NumericDialogTest::opensOverTheDimmedPanel()
     Desk desk(size);
     const QPoint beside(size.width() / 4, size.height() / 2);
     const QImage before = desk.window.grab().toImage();
-    for (SoftKey *key : {desk.window.startKey(), desk.window.spanKey()}) {
+    for (SoftKey *key : {desk.window.keys().start, desk.window.keys().span}) {
         desk.tap(key);
         QVERIFY(desk.dialog());
         QVERIFY(!desk.dialog()->isWindow());
@@ -122,17 +122,17 @@ void NumericDialogTest::opensOverTheDimmedPanel()
         QVERIFY(desk.window.rect().contains(place));
         QCOMPARE(desk.dialog()->windowTitle(), key->name());
         QCOMPARE(desk.range(),
-                 key == desk.window.spanKey() ? QStringLiteral("0 Hz \u2026 300 MHz")
+                 key == desk.window.keys().span ? QStringLiteral("0 Hz \u2026 300 MHz")
                                               : QStringLiteral("2.3 GHz \u2026 2.6 GHz"));
         QVERIFY(desk.edit()->hasFocus());
         QCOMPARE(desk.edit()->selectedText(),
-                 key == desk.window.spanKey() ? QStringLiteral("300") : QStringLiteral("2.3"));
+                 key == desk.window.keys().span ? QStringLiteral("300") : QStringLiteral("2.3"));
         desk.press(Qt::Key_Escape);
         QVERIFY(!desk.dialog());
     }
     // The same picture as before, but for the focus.
     QCOMPARE(desk.window.grab().toImage().pixelColor(beside), before.pixelColor(beside));
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     const auto *overlay = qobject_cast<QWidget *>(desk.dialog()->parent());
     QVERIFY(overlay && overlay->testAttribute(Qt::WA_StyledBackground));
     QCOMPARE(overlay->geometry(), desk.window.rect());
@@ -141,22 +141,22 @@ void NumericDialogTest::opensOverTheDimmedPanel()
 void NumericDialogTest::entersByTheKeypad()
 {
     Desk desk;
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.type(s_2450);
     QCOMPARE(desk.edit()->text(), QStringLiteral("2.45GHz"));
     QCOMPARE(desk.stimulus().stop, 2.6e9); // nothing before the unit key
     desk.tapUnit(QStringLiteral("GHz"));
     QVERIFY(!desk.dialog());
     QCOMPARE(desk.stimulus().stop, 2.45e9);
-    QCOMPARE(desk.window.stopKey()->value(), QStringLiteral("2.450 GHz"));
+    QCOMPARE(desk.window.keys().stop->value(), QStringLiteral("2.450 GHz"));
     QVERIFY(!desk.window.messageBar()->isVisible());
 
     // Another unit, and OK with the unit on show.
-    desk.tap(desk.window.startKey());
+    desk.tap(desk.window.keys().start);
     desk.type({QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("5"), QStringLiteral("0")});
     desk.tapUnit(QStringLiteral("MHz"));
     QCOMPARE(desk.stimulus().start, 2.35e9);
-    desk.tap(desk.window.startKey());
+    desk.tap(desk.window.keys().start);
     desk.type({QStringLiteral("Right"), QStringLiteral("Back"), QStringLiteral("6"),
                QStringLiteral("Ok")});
     QCOMPARE(desk.stimulus().start, 2.36e9);
@@ -165,7 +165,7 @@ void NumericDialogTest::entersByTheKeypad()
 void NumericDialogTest::entersByKeypadAndKeyboard()
 {
     Desk desk;
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.type({QStringLiteral("2"), QStringLiteral(".")});
     desk.press(Qt::Key_4, QStringLiteral("4"));
     desk.type({QStringLiteral("9")});
@@ -180,13 +180,13 @@ void NumericDialogTest::keyboardAlone()
 {
     Desk desk;
     SoftKeyMenu *menu = desk.window.softKeys();
-    for (const int page : {1, 2, 3, 0}) {
+    for (const int page : {1, 2, 3, 4, 5, 0}) {
         QTest::keyClick(desk.window.windowHandle(), Qt::Key_PageDown, Qt::ControlModifier);
         QCOMPARE(menu->page(), page);
     }
-    desk.window.startKey()->setFocus();
+    desk.window.keys().start->setFocus();
     desk.press(Qt::Key_Down);
-    QVERIFY(desk.window.stopKey()->hasFocus());
+    QVERIFY(desk.window.keys().stop->hasFocus());
     desk.press(Qt::Key_Return, QStringLiteral("\r"));
     QVERIFY(desk.dialog());
     for (const QString &character : s_2450)
@@ -194,21 +194,21 @@ void NumericDialogTest::keyboardAlone()
     desk.press(Qt::Key_Enter, QStringLiteral("\r"));
     QCOMPARE(desk.stimulus().stop, 2.45e9);
     // The focus is back where it was, ready for the next entry.
-    QVERIFY(desk.window.stopKey()->hasFocus());
+    QVERIFY(desk.window.keys().stop->hasFocus());
 }
 
 void NumericDialogTest::escapeRestores()
 {
     Desk desk;
     const Stimulus before = desk.stimulus();
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.type(s_2450);
     desk.type({QStringLiteral("Esc")});
     QVERIFY(!desk.dialog());
     QCOMPARE(desk.stimulus().stop, before.stop);
 
     // Steps show at once, and are taken back.
-    desk.tap(desk.window.centerKey());
+    desk.tap(desk.window.keys().center);
     desk.type({QStringLiteral("Up"), QStringLiteral("Up")});
     QCOMPARE(desk.stimulus().center(), 2.47e9);
     desk.press(Qt::Key_Escape);
@@ -219,14 +219,14 @@ void NumericDialogTest::tapBesideFollowsThePolicy()
 {
     Desk desk;
     const QPoint beside(60, 300);
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.type(s_2450);
     VnaTest::mouseClick(&desk.window, beside);
     Desk::settle();
     QVERIFY(!desk.dialog());
     QCOMPARE(desk.stimulus().stop, 2.6e9);
 
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.dialog()->setPressOutsidePolicy(NumericDialog::PressOutsideCommits);
     desk.type(s_2450);
     VnaTest::mouseClick(&desk.window, beside);
@@ -238,7 +238,7 @@ void NumericDialogTest::tapBesideFollowsThePolicy()
 void NumericDialogTest::outOfRangeIsLimitedAndTold()
 {
     Desk desk;
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.type({QStringLiteral("9")});
     desk.tapUnit(QStringLiteral("GHz"));
     QVERIFY(!desk.dialog());
@@ -248,7 +248,7 @@ void NumericDialogTest::outOfRangeIsLimitedAndTold()
              QStringLiteral("Stop: 9 GHz is out of range, limited to 2.6 GHz."));
 
     // The next entry clears it; a step against the limit is told in the dialog.
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     QVERIFY(!desk.window.messageBar()->isVisible());
     desk.type({QStringLiteral("Up")});
     QCOMPARE(desk.range(), QStringLiteral("Highest value: 2.6 GHz"));
@@ -260,7 +260,7 @@ void NumericDialogTest::outOfRangeIsLimitedAndTold()
 void NumericDialogTest::noValueKeepsTheDialog()
 {
     Desk desk;
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.type({QStringLiteral("Back"), QStringLiteral("Ok")});
     QVERIFY(desk.dialog());
     QCOMPARE(desk.range(), QStringLiteral("Not a value"));
@@ -272,7 +272,7 @@ void NumericDialogTest::noValueKeepsTheDialog()
 void NumericDialogTest::stepsByTheChosenStep()
 {
     Desk desk;
-    desk.tap(desk.window.spanKey());
+    desk.tap(desk.window.keys().span);
     auto *stepKey = desk.dialog()->findChild<QAbstractButton *>(QStringLiteral("stepKey"));
     QCOMPARE(desk.dialog()->step(), NumericDialog::Step125);
     desk.type({QStringLiteral("Down"), QStringLiteral("Down")});
@@ -295,7 +295,7 @@ void NumericDialogTest::stepsByTheChosenStep()
 void NumericDialogTest::stepsStartFromWhatWasTyped()
 {
     Desk desk;
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.type(s_2450);
     desk.type({QStringLiteral("Up")});
     QCOMPARE(desk.stimulus().stop, 2.46e9);
@@ -306,11 +306,11 @@ void NumericDialogTest::untouchedValueStaysExact()
     Desk desk;
     const double third = 2.4e9 + 1.0 / 3.0;
     desk.model.setStimulus(*desk.model.activeTrace(), {2.3e9, third});
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.type({QStringLiteral("Ok")});
     QVERIFY(!desk.dialog());
     QCOMPARE(desk.stimulus().stop, third);
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.tapUnit(QStringLiteral("MHz")); // 2.4 GHz is not 2.4 MHz
     QCOMPARE(desk.stimulus().stop, 2.3e9);
 }
@@ -320,7 +320,7 @@ void NumericDialogTest::centerAndSpanCutTheTraces()
     Desk desk;
     desk.model.addMarker(1, 0.0);
     desk.model.addMarker(1, 600.0);
-    desk.tap(desk.window.spanKey());
+    desk.tap(desk.window.keys().span);
     desk.type({QStringLiteral("1"), QStringLiteral("0")});
     desk.tapUnit(QStringLiteral("MHz"));
     const QVector<double> *frequencies = nullptr, *real = nullptr, *imag = nullptr;
@@ -330,57 +330,57 @@ void NumericDialogTest::centerAndSpanCutTheTraces()
         QCOMPARE(real->size(), 41);
         QCOMPARE(frequencies->constFirst(), 2.445e9);
     }
-    QCOMPARE(desk.window.pointsKey()->value(), QStringLiteral("41"));
-    QVERIFY(!desk.window.pointsKey()->isEnabled());
+    QCOMPARE(desk.window.keys().points->value(), QStringLiteral("41"));
+    QVERIFY(!desk.window.keys().points->isEnabled());
     // The marker inside keeps its frequency, the other one stands at the edge.
     QCOMPARE(desk.model.marker(1, 2)->index, 20.0);
     QCOMPARE(desk.model.marker(1, 1)->index, 0.0);
 
     // Less than the distance of two points still shows a line.
-    desk.tap(desk.window.spanKey());
+    desk.tap(desk.window.keys().span);
     desk.type({QStringLiteral("1")});
     desk.tapUnit(QStringLiteral("Hz"));
-    QCOMPARE(desk.window.pointsKey()->value(), QStringLiteral("2"));
-    QCOMPARE(desk.window.spanKey()->value(), QStringLiteral("1.000 Hz"));
+    QCOMPARE(desk.window.keys().points->value(), QStringLiteral("2"));
+    QCOMPARE(desk.window.keys().span->value(), QStringLiteral("1.000 Hz"));
 
-    desk.tap(desk.window.spanKey());
+    desk.tap(desk.window.keys().span);
     desk.type({QStringLiteral("3"), QStringLiteral("0"), QStringLiteral("0")});
     desk.tapUnit(QStringLiteral("MHz"));
-    QCOMPARE(desk.window.pointsKey()->value(), QStringLiteral("1201"));
+    QCOMPARE(desk.window.keys().points->value(), QStringLiteral("1201"));
     QVERIFY(desk.stimulus() == desk.model.limits(*desk.model.activeTrace()));
 }
 
 void NumericDialogTest::markerGoesToItsStimulus()
 {
     Desk desk;
-    QVERIFY(!desk.window.markerStimulusKey()->isEnabled());
+    QVERIFY(!desk.window.keys().markerStimulus->isEnabled());
     desk.model.addMarker(1, 0.0);
-    desk.tap(desk.window.markerStimulusKey());
+    desk.tap(desk.window.keys().markerStimulus);
     desk.type(s_2450);
     desk.type({QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("5")});
     desk.tapUnit(QStringLiteral("GHz"));
     // Points are 250 kHz apart: half way between two of them.
     QCOMPARE(desk.model.marker(1, 1)->index, 600.5);
-    QCOMPARE(desk.window.markerStimulusKey()->value(), QStringLiteral("2.450125 GHz"));
+    QCOMPARE(desk.window.keys().markerStimulus->value(), QStringLiteral("2.450125 GHz"));
 }
 
 void NumericDialogTest::scaleZoomsTheChart()
 {
     Desk desk;
-    desk.tap(desk.window.zoomKey());
+    desk.tap(desk.window.keys().zoom);
     QCOMPARE(desk.range(), QStringLiteral("1 \u2026 20"));
     desk.type({QStringLiteral("Up"), QStringLiteral("Up")});
     QCOMPARE(desk.window.smithView()->zoom(), 5.0);
     desk.type({QStringLiteral("4"), QStringLiteral("0"), QStringLiteral("Ok")});
     QCOMPARE(desk.window.smithView()->zoom(), 20.0);
-    QCOMPARE(desk.window.zoomKey()->value(), QStringLiteral("20.00 \u00d7"));
+    QCOMPARE(desk.window.keys().zoom->value(), QStringLiteral("20.00 \u00d7"));
     QVERIFY(desk.window.messageBar()->isVisible());
 }
 
 void NumericDialogTest::newFilesEndTheEntry()
 {
     Desk desk;
-    desk.tap(desk.window.stopKey());
+    desk.tap(desk.window.keys().stop);
     desk.type({QStringLiteral("Down")});
     desk.controller.openFiles({sampleFolder() + QStringLiteral("/antenna.s1p")});
     Desk::settle();
@@ -395,28 +395,28 @@ void NumericDialogTest::simulatedDeviceIsSweptAnew()
     const auto frequencies = [&desk] { return desk.model.networks().first().frequencies; };
     QTRY_COMPARE(frequencies().size(), 1001);
 
-    desk.tap(desk.window.pointsKey());
+    desk.tap(desk.window.keys().points);
     QCOMPARE(desk.range(), QStringLiteral("201 \u2026 1000001"));
     desk.type(
         {QStringLiteral("5"), QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("Ok")});
     QTRY_COMPARE(frequencies().size(), 501);
-    desk.tap(desk.window.startKey());
+    desk.tap(desk.window.keys().start);
     desk.type({QStringLiteral("1")});
     desk.tapUnit(QStringLiteral("GHz"));
     QTRY_COMPARE(frequencies().first(), 1e9);
-    desk.tap(desk.window.spanKey());
+    desk.tap(desk.window.keys().span);
     desk.type({QStringLiteral("0"), QStringLiteral("Ok")});
     QVERIFY(desk.window.messageBar()->isVisible());
     QTRY_COMPARE(frequencies().last() - frequencies().first(), Sweep::leastSpan);
 
     // Frames that come meanwhile leave the typed text alone.
-    desk.tap(desk.window.centerKey());
+    desk.tap(desk.window.keys().center);
     desk.type(s_2450);
     QTest::qWait(4 * SweepSource::frameInterval);
     QCOMPARE(desk.edit()->text(), QStringLiteral("2.45GHz"));
     desk.tapUnit(QStringLiteral("GHz"));
     QTRY_COMPARE((frequencies().first() + frequencies().last()) / 2.0, 2.45e9);
-    QCOMPARE(desk.window.centerKey()->value(), QStringLiteral("2.450 GHz"));
+    QCOMPARE(desk.window.keys().center->value(), QStringLiteral("2.450 GHz"));
 }
 
 QTEST_MAIN(NumericDialogTest)

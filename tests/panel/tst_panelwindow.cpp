@@ -9,6 +9,7 @@
 #include <panel/look.h>
 #include <panel/timingline.h>
 #include <panel/tracebar.h>
+#include <widgets/switchbutton.h>
 
 #include <QListWidget>
 #include <QPushButton>
@@ -71,7 +72,7 @@ void PanelWindowTest::showsAFile()
     QVERIFY(desk.chart()->sourceCurveData(2, frequencies, real, imag));
     QCOMPARE(*real, desk.model.networks().first().s(2, 2).real);
     QCOMPARE(*frequencies, desk.model.networks().first().frequencies);
-    QCOMPARE(desk.window.fileKey()->value(), QStringLiteral("band-pass.s2p"));
+    QCOMPARE(desk.window.keys().file->value(), QStringLiteral("band-pass.s2p"));
     QVERIFY(desk.view()->isVisible());
 }
 
@@ -80,9 +81,9 @@ void PanelWindowTest::picksGridModes()
     ChartDesk desk;
     for (const auto mode : {SmithChartPlot::Admittance, SmithChartPlot::ImpedanceAndAdmittance,
                             SmithChartPlot::Impedance}) {
-        desk.pick(desk.window.gridKey(), mode);
-        QCOMPARE(desk.view()->gridMode(), mode);
-        QCOMPARE(desk.window.gridKey()->choice(), int(mode));
+        desk.pick(desk.window.keys().grid, mode);
+        QCOMPARE(desk.chart()->gridMode(), mode);
+        QCOMPARE(desk.window.keys().grid->choice(), int(mode));
     }
 }
 
@@ -91,7 +92,7 @@ void PanelWindowTest::densityKeepsEverythingElse()
     ChartDesk desk;
     desk.model.setActiveTrace(2);
     desk.model.setTraceVisible(1, false);
-    desk.view()->setGridMode(SmithChartPlot::ImpedanceAndAdmittance);
+    desk.model.viewSettings()->setGridMode(SmithChartPlot::ImpedanceAndAdmittance);
     desk.turnWheel(desk.onPlot(0.7, 0.4), 5);
     const QCPRange x = desk.view()->plot()->xAxis->range();
     const QCPRange y = desk.view()->plot()->yAxis->range();
@@ -99,8 +100,8 @@ void PanelWindowTest::densityKeepsEverythingElse()
     const int plottables = desk.view()->plot()->plottableCount();
 
     for (const auto density : {SmithChart::Basic, SmithChart::Detailed, SmithChart::Standard}) {
-        desk.pick(desk.window.densityKey(), density);
-        QCOMPARE(desk.view()->density(), density);
+        desk.pick(desk.window.keys().density, density);
+        QCOMPARE(desk.window.keys().density->choice(), int(density));
         QCOMPARE(desk.chart()->gridMode(), SmithChartPlot::ImpedanceAndAdmittance);
         QCOMPARE(desk.chart()->activeTrace(), 2);
         QVERIFY(!desk.chart()->getCurve(1)->visible());
@@ -126,11 +127,13 @@ void PanelWindowTest::activatesAndHidesTraces()
     QCOMPARE(desk.chart()->activeTrace(), 2);
     QVERIFY(buttons.at(1)->isChecked() && !buttons.at(0)->isChecked());
 
-    desk.click(desk.window.traceKey());
-    QVERIFY(!desk.chart()->getCurve(2)->visible());
-    QCOMPARE(desk.window.traceKey()->value(), QStringLiteral("Hidden"));
-    desk.click(desk.window.traceKey());
-    QVERIFY(desk.chart()->getCurve(2)->visible());
+    for (const bool visible : {false, true}) {
+        const SwitchButton *key = desk.window.keys().visible;
+        desk.click(key->findChild<QPushButton *>(visible ? QStringLiteral("btnOn")
+                                                         : QStringLiteral("btnOff")));
+        QCOMPARE(desk.chart()->getCurve(2)->visible(), visible);
+        QCOMPARE(key->status(), visible);
+    }
 }
 
 void PanelWindowTest::wheelKeepsThePointUnderThePointer()
@@ -141,7 +144,7 @@ void PanelWindowTest::wheelKeepsThePointUnderThePointer()
     desk.turnWheel(pointer, 6);
     QVERIFY(desk.view()->zoom() > 3.0);
     QVERIFY(pixels(desk, desk.chartPoint(pointer), before) < 0.01);
-    QCOMPARE(desk.window.zoomKey()->value(), QStringLiteral("3.81 \u00d7"));
+    QCOMPARE(desk.window.keys().zoom->value(), QStringLiteral("3.81 \u00d7"));
 
     desk.turnWheel(pointer, -20);
     QVERIFY(!desk.chart()->isMagnified());
@@ -202,7 +205,7 @@ void PanelWindowTest::doubleClickResetsOnFreeSpace()
     QTest::mouseDClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
                        desk.inWindow(desk.onPlot(0.02, 0.02)));
     QVERIFY(!desk.chart()->isMagnified());
-    QCOMPARE(desk.window.zoomKey()->value(), QStringLiteral("1.00 \u00d7"));
+    QCOMPARE(desk.window.keys().zoom->value(), QStringLiteral("1.00 \u00d7"));
 }
 
 void PanelWindowTest::twoFingersZoom()
@@ -263,7 +266,7 @@ void PanelWindowTest::badFileKeepsWhatWasShown()
     QVERIFY(!desk.controller.openFiles(
         {bad.fileName(), sampleFolder() + QStringLiteral("/antenna.s1p")}));
     QCOMPARE(desk.model.networks().size(), 1);
-    QCOMPARE(desk.window.fileKey()->value(), QStringLiteral("antenna.s1p"));
+    QCOMPARE(desk.window.keys().file->value(), QStringLiteral("antenna.s1p"));
     QVERIFY(bar->isVisible());
     QVERIFY(desk.controller.openFiles({startSample()}));
     QVERIFY(!bar->isVisible());
@@ -276,7 +279,7 @@ void PanelWindowTest::startsEmptyWithoutAReadableFile()
     ChartDesk::settle();
     QVERIFY(!desk.view()->isVisible());
     QVERIFY(desk.window.emptyPageButton()->isVisible());
-    QVERIFY(!desk.window.gridKey()->isEnabled());
+    QVERIFY(!desk.window.keys().grid->isEnabled());
     desk.click(desk.window.emptyPageButton());
     QVERIFY(desk.window.findChild<FileDialog *>());
 }
@@ -284,7 +287,7 @@ void PanelWindowTest::startsEmptyWithoutAReadableFile()
 void PanelWindowTest::fileDialogOpensPickedFiles()
 {
     ChartDesk desk;
-    desk.click(desk.window.fileKey());
+    desk.click(desk.window.keys().file);
     QPointer<FileDialog> dialog = desk.window.findChild<FileDialog *>();
     QVERIFY(dialog);
     dialog->setFolder(QStringLiteral("/"));
@@ -303,7 +306,7 @@ void PanelWindowTest::fileDialogOpensPickedFiles()
     tap(3);
     tap(1);
     desk.click(open);
-    QCOMPARE(desk.window.fileKey()->value(), QStringLiteral("2 files"));
+    QTRY_COMPARE(desk.window.keys().file->value(), QStringLiteral("2 files"));
     QCOMPARE(desk.model.networks().first().name, QStringLiteral("amplifier.s2p"));
     QCOMPARE(desk.chart()->traceIds(), (QVector<int>{1, 2, 5}));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -329,6 +332,7 @@ void PanelWindowTest::nothingIsClipped_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::newRow("smallest") << QSize(800, 480);
+    QTest::newRow("small") << QSize(1024, 600);
     QTest::newRow("wide") << QSize(1280, 800);
     QTest::newRow("tall") << QSize(800, 1280);
     QTest::newRow("largest") << QSize(1920, 1080);
@@ -338,27 +342,45 @@ void PanelWindowTest::nothingIsClipped()
 {
     QFETCH(QSize, size);
     ChartDesk desk(size);
-    desk.window.diagrams()->setDiagramLayout(Diagrams::Both);
+    for (int marker = 0; marker < PanelModel::markersPerTrace; ++marker)
+        desk.model.addMarker(1, 10.0 * marker);
+    const auto check = [&desk](const QString &where) {
+        ChartDesk::settle();
+        const auto widgets = desk.window.findChildren<QWidget *>();
+        for (const QWidget *widget : widgets) {
+            // The list of traces scrolls, and the dot of a read-out is a picture that scales.
+            if (!widget->isVisible() || widget->isWindow()
+                || desk.window.traceBar()->isAncestorOf(widget)
+                || widget->objectName() == QLatin1String("selectedStatusLabel"))
+                continue;
+            const QString who = where + QLatin1Char(' ')
+                + QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ')
+                + widget->objectName();
+            QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()),
+                     qPrintable(who));
+            const QSize least = widget->minimumSizeHint();
+            const QString sizes = QStringLiteral(": %1x%2 of %3x%4")
+                                      .arg(widget->width())
+                                      .arg(widget->height())
+                                      .arg(least.width())
+                                      .arg(least.height());
+            QVERIFY2(widget->size().expandedTo(least) == widget->size(), qPrintable(who + sizes));
+        }
+    };
+    for (int page = 0; page < desk.window.softKeys()->pageCount(); ++page) {
+        desk.window.softKeys()->setPage(page);
+        check(QStringLiteral("page %1").arg(page));
+    }
+    for (const auto layout : {Graph::LayoutType::SideBySide, Graph::LayoutType::Stacked,
+                              Graph::LayoutType::Quad}) {
+        desk.model.viewSettings()->layoutProfile()->setLayoutType(layout);
+        check(QStringLiteral("layout %1").arg(int(layout)));
+    }
     desk.window.timingLine()->setVisible(true);
     desk.window.messageBar()->setMessage(
         QStringLiteral("a sentence that takes several lines ").repeated(6));
-    ChartDesk::settle();
+    check(QStringLiteral("message"));
     QCOMPARE(desk.window.size(), size);
-    const auto widgets = desk.window.findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
-        if (!widget->isVisible() || widget->isWindow())
-            continue;
-        const QString who = QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ')
-            + widget->objectName();
-        QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()), qPrintable(who));
-        const QSize least = widget->minimumSizeHint();
-        const QString sizes = QStringLiteral(": %1x%2 of %3x%4")
-                                  .arg(widget->width())
-                                  .arg(widget->height())
-                                  .arg(least.width())
-                                  .arg(least.height());
-        QVERIFY2(widget->size().expandedTo(least) == widget->size(), qPrintable(who + sizes));
-    }
 }
 
 QTEST_MAIN(PanelWindowTest)

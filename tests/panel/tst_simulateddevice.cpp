@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
-#include <panel/simulateddevice.h>
 #include <panel/sweepsource.h>
 
 #include <QSignalSpy>
@@ -18,12 +17,11 @@ Q_DECLARE_METATYPE(Panel::Sweep)
 namespace
 {
 
-SimulatedDevice prepared(SimulatedDevice::Kind kind, const Sweep &sweep)
+Network measured(SimulatedDevice &device, quint64 moment)
 {
-    SimulatedDevice device(kind, sweep);
-    while (!device.isPrepared())
-        device.prepare(1000);
-    return device;
+    Network network = device.preview();
+    device.measure(network, 0, device.points(), moment);
+    return network;
 }
 
 double magnitude(const Parameter &parameter, int index)
@@ -44,6 +42,8 @@ private Q_SLOTS:
     void driftsAndRepeats();
     void checksSweeps_data();
     void checksSweeps();
+    void tunesTheAntenna();
+    void sweepsPointByPoint();
     void sourceSweepsOn();
     void sourceDropsWhatRanBefore();
 };
@@ -75,10 +75,10 @@ void SimulatedDeviceTest::measuresPassively()
     QFETCH(Sweep, sweep);
     QFETCH(int, ports);
     QVERIFY(sweep.isValid());
-    const SimulatedDevice device = prepared(kind, sweep);
+    SimulatedDevice device(kind, sweep);
     // Both ends of the drift are among these.
     for (const quint64 number : {0ULL, 90ULL, 270ULL}) {
-        const Network network = device.frame(number);
+        const Network network = measured(device, number);
         QCOMPARE(network.ports, ports);
         QCOMPARE(network.frequencies.size(), sweep.points);
         QCOMPARE(network.frequencies.first(), sweep.start);
@@ -101,7 +101,8 @@ void SimulatedDeviceTest::measuresPassively()
 
 void SimulatedDeviceTest::filterPassesItsBand()
 {
-    const Network network = prepared(SimulatedDevice::Filter, {2.3e9, 2.6e9, 301}).frame(0);
+    SimulatedDevice device(SimulatedDevice::Filter, {2.3e9, 2.6e9, 301});
+    const Network network = measured(device, 0);
     const int centre = 150, edge = 0;
     QVERIFY(magnitude(network.s(2, 1), centre) > 0.7);
     QVERIFY(magnitude(network.s(1, 1), centre) < 0.4);
@@ -113,21 +114,21 @@ void SimulatedDeviceTest::filterPassesItsBand()
 
 void SimulatedDeviceTest::driftsAndRepeats()
 {
-    const SimulatedDevice device = prepared(SimulatedDevice::Cable, {10e6, 1e9, 2001});
-    const QVector<double> first = device.frame(7).parameters.first().real;
-    QCOMPARE(device.frame(7).parameters.first().real, first);
-    QVERIFY(device.frame(8).parameters.first().real != first);
+    SimulatedDevice device(SimulatedDevice::Cable, {10e6, 1e9, 2001});
+    const QVector<double> first = measured(device, 7).parameters.first().real;
+    QCOMPARE(measured(device, 7).parameters.first().real, first);
+    QVERIFY(measured(device, 8).parameters.first().real != first);
 
     // The noise is there, has no bias to speak of and keeps its limit.
     const double limit = SimulatedDevice::noise(SimulatedDevice::Cable);
-    const QVector<double> second = device.frame(367).parameters.first().real; // one drift later
+    const QVector<double> second = measured(device, 367).parameters.first().real; // one drift later
     double sum = 0.0, largest = 0.0;
     for (int i = 0; i < first.size(); ++i) {
         sum += second.at(i) - first.at(i);
         largest = qMax(largest, std::abs(second.at(i) - first.at(i)));
     }
     QVERIFY(largest > limit / 2.0 && largest <= 2.0 * limit);
-    QVERIFY(std::abs(sum / first.size()) < limit / 10.0);
+    QVERIFY(std::abs(sum / double(first.size())) < limit / 10.0);
 }
 
 void SimulatedDeviceTest::checksSweeps_data()
@@ -150,12 +151,72 @@ void SimulatedDeviceTest::checksSweeps()
     QTEST(sweep.isValid(), "valid");
 }
 
+void SimulatedDeviceTest::tunesTheAntenna()
+{
+    for (const double tuning : {2.0e9, 2.45e9, 2.9e9}) {
+        ProgressiveSweep sweep(SimulatedDevice::Antenna, {1.5e9, 4e9, 2501}, 2.3e9);
+        sweep.setTuning(tuning);
+        sweep.advance(2501);
+        const Parameter &s = sweep.frame().parameters.first();
+        int best = 0;
+        for (int i = 0; i < 2501; ++i)
+            best = magnitude(s, i) < magnitude(s, best) ? i : best;
+        QVERIFY2(std::abs(sweep.frame().frequencies.at(best) - tuning) < 0.1 * tuning,
+                 qPrintable(QString::number(sweep.frame().frequencies.at(best))));
+    }
+}
+
+void SimulatedDeviceTest::sweepsPointByPoint()
+{
+    constexpr int points = 10001;
+    const Sweep range = SimulatedDevice::usualSweep(SimulatedDevice::Filter, points);
+    ProgressiveSweep sweep(SimulatedDevice::Filter, range, SimulatedDevice::usualTuning);
+    SimulatedDevice device(SimulatedDevice::Filter, range);
+    // The preview shows what will be measured; then the sweep goes over it.
+    const Network preview = sweep.frame();
+    const QVector<double> expected = measured(device, 0).s(2, 1).real;
+    for (int i = 0; i < points; ++i)
+        QVERIFY(std::abs(preview.s(2, 1).real.at(i) - expected.at(i)) < 0.1);
+    Network before = preview;
+    for (int from = 0; from < points; from += 4000) {
+        sweep.advance(4000);
+        const int to = qMin(from + 4000, points);
+        QCOMPARE(sweep.progress(), double(to) / points);
+        for (int p = 0; p < 4; ++p) {
+            const QVector<double> &now = sweep.frame().parameters.at(p).imag;
+            const QVector<double> &then = before.parameters.at(p).imag;
+            QCOMPARE(now.mid(0, from), then.mid(0, from));
+            QVERIFY(now.mid(from, to - from) != then.mid(from, to - from));
+            QCOMPARE(now.mid(to), then.mid(to));
+        }
+        before = sweep.frame();
+    }
+    // The next sweep begins; what was handed out is not written to.
+    const QVector<double> complete = before.s(1, 2).imag.mid(0);
+    sweep.advance(4000);
+    sweep.advance(4000);
+    QCOMPARE(sweep.progress(), 8000.0 / points);
+    QCOMPARE(before.s(1, 2).imag, complete);
+    QCOMPARE(sweep.frame().s(1, 2).imag.mid(8000), complete.mid(8000));
+    // Once the receiver keeps but the last frame, the two take turns without a copy.
+    before = sweep.frame();
+    const double *place = before.s(1, 1).real.constData();
+    for (int i = 0; i < 2; ++i) {
+        sweep.advance(100);
+        before = sweep.frame();
+    }
+    QCOMPARE(before.s(1, 1).real.constData(), place);
+}
+
 void SimulatedDeviceTest::sourceSweepsOn()
 {
     SweepSource source;
     QVector<QVector<double>> frames;
-    connect(&source, &SweepSource::swept, this,
-            [&frames](const Network &frame) { frames.append(frame.parameters.first().real); });
+    QVector<double> progress;
+    connect(&source, &SweepSource::swept, this, [&](const Network &frame, double reached) {
+        frames.append(frame.parameters.first().real);
+        progress.append(reached);
+    });
     const Sweep sweep{1e9, 2e9, 201};
     source.start(SimulatedDevice::Antenna, sweep);
     QVERIFY(frames.isEmpty());
@@ -163,7 +224,7 @@ void SimulatedDeviceTest::sourceSweepsOn()
     QVERIFY(frames.at(0) != frames.at(1) && frames.at(1) != frames.at(2));
 
     source.setHeld(true);
-    const int held = frames.size();
+    const auto held = frames.size();
     QTest::qWait(5 * SweepSource::frameInterval);
     QCOMPARE(frames.size(), held);
     // A new sweep is shown once even so.
@@ -175,8 +236,24 @@ void SimulatedDeviceTest::sourceSweepsOn()
     source.setHeld(false);
     QTRY_VERIFY(frames.size() > held + 1);
 
+    QCOMPARE(progress, QVector<double>(progress.size(), 1.0));
+
+    // A long sweep takes its time, held or not.
+    progress.clear();
+    source.start(SimulatedDevice::Antenna, {1e9, 2e9, 20001});
+    QTRY_VERIFY(progress.contains(1.0) && progress.last() < 1.0);
+    QVERIFY(progress.indexOf(1.0) > 0);
+    QVERIFY(std::is_sorted(progress.begin(), progress.begin() + progress.indexOf(1.0)));
+    source.setHeld(true);
+    const double position = progress.last();
+    QTest::qWait(20 * SweepSource::frameInterval);
+    source.setHeld(false);
+    const auto count = progress.size();
+    QTRY_VERIFY(progress.size() > count);
+    QVERIFY(progress.at(count) > position);
+
     source.stop();
-    const int stopped = frames.size();
+    const auto stopped = frames.size();
     QTest::qWait(5 * SweepSource::frameInterval);
     QCOMPARE(frames.size(), stopped);
 }
@@ -187,7 +264,7 @@ void SimulatedDeviceTest::sourceDropsWhatRanBefore()
     {
         SweepSource source;
         connect(&source, &SweepSource::swept, this, [&](const Network &frame) {
-            sizes.append(frame.frequencies.size());
+            sizes.append(int(frame.frequencies.size()));
             // A host may start anew in the answer.
             if (sizes.size() == 1)
                 source.start(SimulatedDevice::Cable, {1e9, 2e9, 301});

@@ -7,9 +7,10 @@
 #include <panel/filedialog.h>
 #include <panel/look.h>
 #include <panel/sweepcontroller.h>
-#include <panel/sweepkeys.h>
 #include <panel/timingline.h>
+#include <widgets/switchbutton.h>
 
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -20,9 +21,9 @@ namespace
 
 struct Desk : PanelDesk {
     SweepController *sweeps() const { return controller.sweepController(); }
-    const SweepKeys *keys() const { return window.sweepKeys(); }
+    const PanelKeys &keys() const { return window.keys(); }
     QString shown() const { return model.networks().first().name; }
-    int points() const { return model.networks().first().frequencies.size(); }
+    int points() const { return int(model.networks().first().frequencies.size()); }
 
     void pick(SoftKey *key, int index) { Q_EMIT key->choicePicked(index); }
 };
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void answersClicksWhileSweeping();
     void markersStayOverNewData();
     void holdsTheSweep();
+    void tunesAndTellsProgress();
     void openedFileEndsTheSimulation();
     void asksForAFileWhenThereIsNone();
     void tellsTheTimingOnRequest();
@@ -47,32 +49,34 @@ private Q_SLOTS:
 void SweepControllerTest::switchesBetweenFilesAndDevices()
 {
     Desk desk;
-    QCOMPARE(desk.keys()->sourceKey()->choice(), 0);
-    QVERIFY(!desk.keys()->pointsKey()->isEnabled());
+    QCOMPARE(desk.keys().source->choice(), 0);
+    QVERIFY(!desk.keys().points->isEnabled());
 
-    desk.pick(desk.keys()->sourceKey(), 1);
+    desk.pick(desk.keys().source, 1);
     QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Antenna));
-    QCOMPARE(desk.keys()->sourceKey()->choice(), 1);
-    QVERIFY(desk.keys()->pointsKey()->isEnabled());
+    QCOMPARE(desk.keys().source->choice(), 1);
+    QVERIFY(desk.keys().points->isEnabled());
     QCOMPARE(desk.points(), 1001);
-    desk.pick(desk.keys()->pointsKey(), 1);
+    Sweep sweep = desk.model.sweep();
+    sweep.points = 100001;
+    desk.model.setSweep(sweep);
     QTRY_COMPARE(desk.points(), 100001);
-    QCOMPARE(desk.keys()->pointsKey()->value(), QStringLiteral("100 k"));
+    QCOMPARE(desk.keys().points->value(), QStringLiteral("100001"));
 
     // The points stay, the frequencies become those of the device.
-    desk.pick(desk.keys()->sourceKey(), 3);
+    desk.pick(desk.keys().source, 3);
     QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Cable));
     QCOMPARE(desk.points(), 100001);
     QCOMPARE(desk.model.networks().first().frequencies.first(),
              SimulatedDevice::usualSweep(SimulatedDevice::Cable, 1001).start);
     desk.model.setSweep({1e8, 2e8, 501});
     QTRY_COMPARE(desk.points(), 501);
-    QCOMPARE(desk.keys()->pointsKey()->value(), QStringLiteral("501"));
+    QCOMPARE(desk.keys().points->value(), QStringLiteral("501"));
 
-    desk.pick(desk.keys()->sourceKey(), 0);
+    desk.pick(desk.keys().source, 0);
     QCOMPARE(desk.shown(), QStringLiteral("band-pass.s2p"));
     QVERIFY(!desk.sweeps()->isSimulating());
-    QCOMPARE(desk.keys()->sourceKey()->choice(), 0);
+    QCOMPARE(desk.keys().source->choice(), 0);
 }
 
 void SweepControllerTest::answersClicksWhileSweeping()
@@ -90,12 +94,12 @@ void SweepControllerTest::answersClicksWhileSweeping()
     QVERIFY(desk.window.smithView()->drawnPoints() > 100);
     QVERIFY(desk.window.smithView()->drawnPoints() < 20000);
 
-    desk.click(desk.window.traceKey());
+    desk.click(desk.keys().visible->findChild<QPushButton *>(QStringLiteral("btnOff")));
     QVERIFY(!desk.model.activeTrace()->visible);
-    const int before = updated.count();
+    const auto before = updated.count();
     QTRY_VERIFY_WITH_TIMEOUT(updated.count() > before, 60000);
     QVERIFY(!desk.model.activeTrace()->visible);
-    desk.click(desk.keys()->sweepKey());
+    desk.click(desk.keys().sweep->findChild<QPushButton *>(QStringLiteral("btnOff")));
     QVERIFY(!desk.model.isSweeping());
 }
 
@@ -144,13 +148,41 @@ void SweepControllerTest::holdsTheSweep()
     desk.sweeps()->simulate(SimulatedDevice::Antenna);
     const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
     QTRY_VERIFY(updated.count() >= 2);
-    desk.click(desk.keys()->sweepKey());
-    QCOMPARE(desk.keys()->sweepKey()->value(), QStringLiteral("Off"));
-    const int held = updated.count();
+    const auto press = [&desk](const char *button) {
+        desk.click(desk.keys().sweep->findChild<QPushButton *>(QLatin1String(button)));
+    };
+    press("btnOff");
+    const auto held = updated.count();
     QTest::qWait(5 * SweepSource::frameInterval);
     QCOMPARE(updated.count(), held);
-    desk.click(desk.keys()->sweepKey());
+    press("btnOn");
     QTRY_VERIFY(updated.count() > held);
+}
+
+void SweepControllerTest::tunesAndTellsProgress()
+{
+    Desk desk;
+    const QSignalSpy tuned(desk.sweeps(), &SweepController::tuningChanged);
+    for (const auto &[hertz, kept] :
+         {std::pair(2.2e9, 2.2e9), {9e9, 2.9e9}, {qInf(), 2.9e9}, {1.0, 2.0e9}, {qQNaN(), 2.0e9}}) {
+        desk.sweeps()->setTuning(hertz);
+        QCOMPARE(desk.sweeps()->tuning(), kept);
+    }
+    QCOMPARE(tuned.count(), 3);
+    QCOMPARE(desk.sweeps()->tuningLimits(), (Stimulus{2.0e9, 2.9e9}));
+
+    const QSignalSpy progressed(desk.sweeps(), &SweepController::progressed);
+    const QSignalSpy completed(desk.sweeps(), &SweepController::sweepCompleted);
+    desk.model.setSweep({1e9, 2e9, 20001});
+    desk.sweeps()->simulate(SimulatedDevice::Antenna);
+    QVERIFY(desk.sweeps()->isTunable());
+    QTRY_VERIFY(progressed.count() >= 1);
+    QCOMPARE(completed.count(), 0);
+    const Parameter before = desk.model.networks().first().parameters.first();
+    desk.sweeps()->setTuning(2.9e9);
+    QTRY_VERIFY(completed.count() >= 1); // on a busy machine the next sweep is under way by now
+    QVERIFY(desk.model.networks().first().parameters.first().real != before.real);
+    QVERIFY(progressed.contains(QVariantList{1.0}));
 }
 
 void SweepControllerTest::openedFileEndsTheSimulation()
@@ -175,7 +207,7 @@ void SweepControllerTest::asksForAFileWhenThereIsNone()
     desk.model.setNetworks({});
     desk.sweeps()->simulate(SimulatedDevice::Antenna);
     QTRY_VERIFY(!desk.model.networks().isEmpty());
-    desk.pick(desk.keys()->sourceKey(), 0);
+    desk.pick(desk.keys().source, 0);
     QVERIFY(desk.window.findChild<FileDialog *>());
     QVERIFY(desk.sweeps()->isSimulating());
 }
@@ -189,7 +221,7 @@ void SweepControllerTest::tellsTheTimingOnRequest()
     const QString points = QString::number(desk.window.smithView()->drawnPoints()
                                            + desk.window.cartesianView()->drawnPoints());
     QVERIFY(desk.window.timingLine()->text().startsWith(points + QLatin1Char(' ')));
-    desk.click(desk.keys()->timingKey());
+    desk.click(desk.keys().timing->findChild<QPushButton *>(QStringLiteral("btnOff")));
     QVERIFY(!desk.window.timingLine()->isVisible());
 }
 

@@ -34,8 +34,8 @@ private Q_SLOTS:
     {
         QFETCH(int, preset);
         const GridValues values = gridValues(static_cast<Preset>(preset));
-        QTEST(values.resistances.size(), "resistances");
-        QTEST(values.reactances.size(), "reactances");
+        QTEST(int(values.resistances.size()), "resistances");
+        QTEST(int(values.reactances.size()), "reactances");
         QVERIFY(std::is_sorted(values.resistances.cbegin(), values.resistances.cend()));
         for (const double x : values.reactances)
             QVERIFY2(values.reactances.contains(-x), "each magnitude comes with both signs");

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class DisplayPanel;
+class MenuButton;
+class SwitchButton;
+
+namespace Panel
+{
+
+class PanelModel;
+class SoftKey;
+class SoftKeyMenu;
+
+/// The panel's soft keys by what they are for, page by page. What they do is up to the controllers.
+struct PanelKeys {
+    // Stimulus
+    SoftKey *start;
+    SoftKey *stop;
+    SoftKey *center;
+    SoftKey *span;
+    SoftKey *points;
+    // Trace
+    SoftKey *trace; ///< which is active
+    SoftKey *format;
+    SoftKey *scale;
+    SoftKey *reference; ///< the value at the top of a Cartesian diagram
+    MenuButton *memory;
+    SwitchButton *visible;
+    // Marker
+    SoftKey *marker; ///< adds and removes
+    SoftKey *markerStimulus;
+    MenuButton *search;
+    MenuButton *markerTo;
+    SoftKey *referenceMarker;
+    SoftKey *readout;
+    // Display
+    DisplayPanel *layout;
+    SoftKey *grid;
+    SoftKey *density;
+    SoftKey *zoom;
+    SoftKey *pointer; ///< which traces taps and drags reach
+    // Sweep
+    SoftKey *source; ///< files, or one of the simulated devices
+    SwitchButton *sweep; ///< sweeping or held
+    SoftKey *tune; ///< the antenna's resonance
+    SwitchButton *timing;
+    // System
+    SoftKey *file;
+    SoftKey *screenshot;
+    SoftKey *settings;
+    SoftKey *help;
+};
+
+/// Fills the menu with its pages and keys.
+PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model);
+
+} // namespace Panel

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "progressivesweep.h"
+
+#include <algorithm>
+
+namespace Panel
+{
+
+namespace
+{
+
+void copyPoints(const Network &source, Network &target, int from, int to)
+{
+    const auto copy = [from, to](const QVector<double> &values, QVector<double> &into) {
+        std::copy(values.begin() + from, values.begin() + to, into.begin() + from);
+    };
+    for (int p = 0; p < source.parameters.size(); ++p) {
+        copy(source.parameters.at(p).real, target.parameters[p].real);
+        copy(source.parameters.at(p).imag, target.parameters[p].imag);
+    }
+}
+
+} // namespace
+
+ProgressiveSweep::ProgressiveSweep(SimulatedDevice::Kind kind, const Sweep &sweep, double tuning)
+    : m_kind(kind)
+    , m_sweep(sweep)
+    , m_device(kind, sweep, tuning)
+    , m_frames{m_device.preview(), m_frames[0]}
+{
+}
+
+void ProgressiveSweep::advance(int points)
+{
+    const Network &shown = m_frames[m_current];
+    Network &next = m_frames[1 - m_current];
+    copyPoints(shown, next, m_from, m_to);
+    m_from = m_position < m_device.points() ? m_position : 0;
+    m_to = std::min(m_from + points, m_device.points());
+    m_device.measure(next, m_from, m_to, m_moment++);
+    m_position = m_to;
+    m_current = 1 - m_current;
+}
+
+void ProgressiveSweep::setTuning(double tuning)
+{
+    m_device = SimulatedDevice(m_kind, m_sweep, tuning);
+    m_position = 0;
+}
+
+} // namespace Panel

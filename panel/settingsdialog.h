@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <controls/draggableframelessdialog.h>
+
+class QComboBox;
+class QFormLayout;
+class QPushButton;
+class SwitchButton;
+
+namespace Panel
+{
+
+class PanelModel;
+
+/// What is set once and then left alone: look, language, how markers behave, where screenshots go.
+/// A change is in force at once, but for the language, which whoever listens sees to.
+class SettingsDialog : public Controls::DraggableFramelessDialog
+{
+    Q_OBJECT
+
+public:
+    explicit SettingsDialog(PanelModel *model, QWidget *parent = nullptr);
+
+    void setLanguage(const QString &code);
+    void setScreenshotFolder(const QString &folder);
+
+Q_SIGNALS:
+    void languagePicked(const QString &code);
+    void screenshotFolderPicked(const QString &folder);
+
+private:
+    SwitchButton *addSwitch(const QString &name, bool on);
+    void addRow(const QString &name, QWidget *field);
+    void addTheme();
+    void addLanguage();
+    void addMarkerModes();
+    void addFolder();
+    void pickFolder();
+
+    PanelModel *m_model;
+    QFormLayout *m_form;
+    QComboBox *m_language = nullptr;
+    QPushButton *m_folder;
+};
+
+} // namespace Panel

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "viewsettings.h"
+
+namespace Panel
+{
+
+ViewSettings::ViewSettings(QObject *parent)
+    : QObject(parent)
+{
+    m_layout.setLayoutType(Graph::LayoutType::SideBySide);
+    connect(&m_layout, &Graph::LayoutManagerProifle::layoutTypeChanged, this,
+            &ViewSettings::changed);
+}
+
+ReadoutFormat ViewSettings::effectiveReadoutFormat() const
+{
+    if (m_readoutFormat != ReadoutFormat::Automatic)
+        return m_readoutFormat;
+    return m_gridMode == SmithChartPlot::Admittance ? ReadoutFormat::Admittance
+                                                    : ReadoutFormat::Impedance;
+}
+
+} // namespace Panel
