@@ -16,6 +16,7 @@
 #include "smithview.h"
 #include "softkey.h"
 #include "softkeymenu.h"
+#include "touchstone.h"
 
 #include <controls/thememanager.h>
 #include <plot/qcp.h>
@@ -149,7 +150,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
 
     const QString message = window->messageBar()->message();
     window->messageBar()->setMessage(
-        QStringLiteral("filter.s2p, line 12: the frequency falls back."));
+        parseTouchstone("1 0 0\n0.5 0 0\n", 1).sentence(QStringLiteral("filter.s1p")));
     grabber.grab("message");
     window->messageBar()->setMessage(message);
 
