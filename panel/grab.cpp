@@ -6,6 +6,7 @@
 #include "diagramview.h"
 #include "filedialog.h"
 #include "helpdialog.h"
+#include "languages.h"
 #include "messagebar.h"
 #include "numericdialog.h"
 #include "panelmodel.h"
@@ -173,6 +174,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     files.resize(600, 440);
     grabDialog(&files, "file-dialog");
     SettingsDialog settingsDialog(model, window);
+    settingsDialog.setLanguage(currentLanguage());
     settingsDialog.setScreenshotFolder(screenshotFolder());
     grabDialog(&settingsDialog, "settings");
     HelpDialog help(window);

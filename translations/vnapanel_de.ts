@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>The screenshot is %1.</source>
-        <translation>Das Bildschirmfoto ist %1.</translation>
+        <translation>Das Bildschirmfoto liegt in %1.</translation>
     </message>
 </context>
 <context>

@@ -104,11 +104,11 @@
     </message>
     <message>
         <source>Two side by side</source>
-        <translation>Zwei nebeneinander</translation>
+        <translation>Nebeneinander</translation>
     </message>
     <message>
         <source>Two stacked</source>
-        <translation>Zwei übereinander</translation>
+        <translation>Übereinander</translation>
     </message>
     <message>
         <source>Four diagrams</source>
