@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "charts.h"
+#include "panel.h"
 #include "peers.h"
 #include "ratiotable.h"
 #include "traces.h"
@@ -230,6 +231,53 @@ void addAll(RatioTable &table)
                   {"QCPCurve::setData and replot"}});
 }
 
+void addPanel(RatioTable &table)
+{
+    constexpr int sweep = 1601;
+    constexpr int million = 1000001;
+    for (const auto &[points, name] : {std::pair(sweep, "1601"), std::pair(million, "1000001")}) {
+        add(std::string("live frame, ") + name,
+            [points = points](benchmark::State &state) { liveFrame(state, points); });
+    }
+    add("replot of the same", [](benchmark::State &state) { sameReplot(state, sweep); });
+    table.addRow({"panel: live frame, 4 traces, to a replot",
+                  sweep,
+                  Row::ShareOfTime,
+                  2.0,
+                  "live frame, 1601",
+                  {"replot of the same"}});
+    table.addRow({"panel: live frame, 4 traces, to 4 x 1601",
+                  million,
+                  Row::ShareOfTime,
+                  4.0,
+                  "live frame, 1000001",
+                  {"live frame, 1601"}});
+
+    const auto addStart = [](const std::string &name, const char *program, QStringList arguments) {
+        benchmark::RegisterBenchmark(name.c_str(),
+                                     [program, arguments](benchmark::State &state) {
+                                         startProgram(state, program, arguments);
+                                     })
+            ->Unit(benchmark::kMillisecond)
+            ->UseManualTime()
+            ->Iterations(3)
+            ->Repetitions(7)
+            ->ReportAggregatesOnly();
+    };
+    const QStringList shown{QStringLiteral("--exit-when-shown")};
+    addStart("start, panel", VNAPANEL_PROGRAM, shown);
+    addStart("start, empty plot", EMPTYPLOT_PROGRAM, {});
+    addStart("start, all samples", VNAPANEL_PROGRAM, shown + sampleFiles());
+    table.addRow({"panel: start to first picture, to an empty plot",
+                  0,
+                  Row::ShareOfTime,
+                  3.0,
+                  "start, panel",
+                  {"start, empty plot"}});
+    table.addRow({"panel: peak memory with the samples", 0, Row::Mebibytes, 120.0,
+                  "start, all samples", {}});
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -238,7 +286,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
-        "Times the Smith chart and its peers, and prints one table of ratios. Options of Google "
+        "Times the Smith chart, its peers and the panel, and prints one table of ratios. Options of Google "
         "Benchmark, such as --benchmark_filter=, work too."));
     parser.addHelpOption();
     const QCommandLineOption json(QStringLiteral("json"),
@@ -249,6 +297,7 @@ int main(int argc, char **argv)
 
     RatioTable table;
     addAll(table);
+    addPanel(table);
     benchmark::RunSpecifiedBenchmarks(&table);
     table.print();
     if (parser.isSet(json) && !table.writeJson(parser.value(json))) {

@@ -54,6 +54,9 @@ std::string target(const RatioTable::Row &row)
     case RatioTable::Row::BytesAPoint:
         std::snprintf(text, sizeof text, "<= %g B/point", row.target);
         break;
+    case RatioTable::Row::Mebibytes:
+        std::snprintf(text, sizeof text, "<= %g MiB", row.target);
+        break;
     }
     return text;
 }
@@ -69,7 +72,8 @@ void RatioTable::ReportRuns(const std::vector<Run> &runs)
         if (run.error_occurred || run.aggregate_name != "median")
             continue;
         Measured &measured = m_medians[run.run_name.function_name];
-        measured.milliseconds = run.GetAdjustedCPUTime();
+        measured.milliseconds = run.run_name.time_type.empty() ? run.GetAdjustedCPUTime()
+                                                               : run.GetAdjustedRealTime();
         for (const auto &[name, counter] : run.counters)
             measured.counters[name] = counter.value;
         // Counters too: "kept" shows that the peers did the same work.
@@ -111,8 +115,10 @@ std::vector<RatioTable::Outcome> RatioTable::outcomes() const
             outcomes.push_back({&row, share, share <= row.target});
             break;
         }
-        case Row::BytesAPoint: {
-            const double bytes = ours->counters.at("bytes_a_point");
+        case Row::BytesAPoint:
+        case Row::Mebibytes: {
+            const bool ofPoint = row.kind == Row::BytesAPoint;
+            const double bytes = ours->counters.at(ofPoint ? "bytes_a_point" : "mebibytes");
             outcomes.push_back({&row, bytes, bytes <= row.target});
             break;
         }
@@ -130,13 +136,16 @@ void RatioTable::print() const
         const Row &row = *outcome.row;
         char text[64];
         std::snprintf(text, sizeof text, "%.4g |", find(row.ours)->milliseconds);
-        std::string times = row.kind == Row::BytesAPoint ? std::string() : std::string(text);
+        const bool timed = row.kind == Row::TimesFaster || row.kind == Row::ShareOfTime;
+        std::string times = timed ? std::string(text) : std::string();
         for (const std::string &other : row.others) {
             std::snprintf(text, sizeof text, " %.4g", find(other)->milliseconds);
             times += text;
         }
         std::snprintf(text, sizeof text, "%.4g %s", outcome.value,
-                      row.kind == Row::BytesAPoint ? "B/point" : "x");
+                      timed                              ? "x"
+                          : row.kind == Row::BytesAPoint ? "B/point"
+                                                         : "MiB");
         std::printf("%-42s %10d  %-36s %14s %15s  %s\n", row.work.c_str(), row.points,
                     times.c_str(), text, target(row).c_str(), outcome.reached ? "yes" : "no");
     }

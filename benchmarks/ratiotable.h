@@ -14,7 +14,8 @@ namespace Bench
 {
 
 /*! Collects the medians of a run and prints them as one table of ratios. Times are processor time:
-    all work is single-threaded, and other load on the machine then weighs less. */
+    all work is single-threaded, and other load on the machine then weighs less. Those of whole
+    programs are what passed on the clock. */
 class RatioTable : public benchmark::BenchmarkReporter
 {
 public:
@@ -24,6 +25,7 @@ public:
             TimesFaster, ///< the fastest of the others over ours must be at least \c target
             ShareOfTime, ///< ours over the fastest of the others must be at most \c target
             BytesAPoint, ///< the counter "bytes_a_point" of ours must be at most \c target
+            Mebibytes, ///< the same with the counter "mebibytes"
         };
         std::string work;
         int points;

@@ -83,6 +83,8 @@ CommandLine parseCommandLine(const QStringList &arguments)
             result.stateFile = value;
         } else if (name == QLatin1String("--simulate")) {
             result.simulate = true;
+        } else if (name == QLatin1String("--exit-when-shown")) {
+            result.exitWhenShown = true;
         } else if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
             result.help = true;
         } else if (name == QLatin1String("--version")) {
@@ -110,6 +112,8 @@ QString helpText()
         "  --lang CODE  en, de or zh_CN (default: as it was left)\n"
         "  --state FILE keep the panel's state there\n"
         "  --simulate   measure a simulated device live\n"
+        "  --exit-when-shown\n"
+        "               quit at the first picture and print the peak memory, to time the start\n"
         "  --help       show this text and quit\n"
         "  --version    show the version and quit\n"
         "\n"

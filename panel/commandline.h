@@ -17,6 +17,7 @@ struct CommandLine {
     QString language; ///< code, or empty: as it was left
     QString stateFile; ///< empty: the usual place
     bool simulate = false;
+    bool exitWhenShown = false; ///< for timing the start
     bool help = false;
     bool version = false;
     QString error; ///< one sentence; empty if all is well

@@ -16,6 +16,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QScreen>
+#include <QWindow>
 
 #include <cstdio>
 
@@ -40,6 +41,19 @@ void dropOffscreenNoise(QtMsgType type, const QMessageLogContext &context, const
     if (!message.contains(QLatin1String("This plugin does not support"))
         && !message.contains(QLatin1String("XDG_RUNTIME_DIR not set")))
         s_handleMessage(type, context, message);
+}
+
+/// What the program held at most, where the system tells it.
+void printPeakMemory()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return;
+    const QList<QByteArray> lines = status.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith("VmHWM:"))
+            std::printf("Peak memory: %s\n", line.mid(6).trimmed().constData());
+    }
 }
 
 /// Opens the files that were asked for, or else those of the last time, or else a sample; false if
@@ -88,8 +102,8 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     application.setApplicationName(QStringLiteral("vnapanel"));
     setUpApplication();
-    // Pictures show the panel as it is made, whatever somebody has left.
-    const PanelState state(grabs                            ? QString()
+    // Pictures and timings are of the panel as it is made, whatever somebody has left.
+    const PanelState state(grabs || commandLine.exitWhenShown                            ? QString()
                                : commandLine.stateFile.isEmpty() ? PanelState::usualPath()
                                                                  : commandLine.stateFile);
     const QString saved = state.language().isEmpty() ? QStringLiteral("en") : state.language();
@@ -119,6 +133,13 @@ int main(int argc, char **argv)
     // No larger than what it is shown on.
     window.resize(commandLine.size.boundedTo(window.screen()->availableSize()));
     window.show();
+    if (commandLine.exitWhenShown) {
+        while (!window.windowHandle()->isExposed())
+            QApplication::processEvents();
+        QApplication::processEvents();
+        printPeakMemory();
+        return 0;
+    }
     const int status = QApplication::exec();
     if (!state.save(model, controller, controller.language()))
         std::fprintf(stderr, "vnapanel: the panel's state could not be saved.\n");

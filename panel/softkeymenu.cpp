@@ -55,17 +55,23 @@ void SoftKeyMenu::addPage(const QString &name)
 SoftKey *SoftKeyMenu::addKey(const QString &name)
 {
     auto *key = new SoftKey(name);
-    addKey(key);
+    // All are alike, and measuring one is not cheap.
+    if (m_keyHeights.isEmpty())
+        m_keyHeights = {key->minimumSizeHint().height(), key->sizeHint().height()};
+    appendKey(key, m_keyHeights.first());
     return key;
 }
 
 void SoftKeyMenu::addKey(QWidget *key)
 {
+    appendKey(key, qMax(m_keyHeights.value(0), key->minimumSizeHint().height()));
+}
+
+void SoftKeyMenu::appendKey(QWidget *key, int leastHeight)
+{
     // All keys are equally high, whatever they hold: as a soft key likes it, or as there is room.
-    const SoftKey model{QString()};
-    const int least = model.minimumSizeHint().height();
-    key->setMinimumHeight(qMax(least, key->minimumSizeHint().height()));
-    key->setMaximumHeight(model.sizeHint().height());
+    key->setMinimumHeight(leastHeight);
+    key->setMaximumHeight(m_keyHeights.value(1, QWIDGETSIZE_MAX));
     key->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     m_column->insertWidget(m_column->count() - 1, key, 1);
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QVector>
 #include <QWidget>
 
 class QButtonGroup;
@@ -41,9 +42,12 @@ public:
     void showKey(const QWidget *key);
 
 private:
+    void appendKey(QWidget *key, int leastHeight);
+
     QButtonGroup *m_tabs;
     QGridLayout *m_tabGrid;
     QStackedWidget *m_pages;
+    QVector<int> m_keyHeights; ///< the least and the usual one of a soft key, once there is one
     QVBoxLayout *m_column = nullptr; ///< of the page that was begun last
 };
 

@@ -182,7 +182,8 @@ void SweepControllerTest::tunesAndTellsProgress()
     desk.sweeps()->setTuning(2.9e9);
     QTRY_COMPARE(completed.count(), 1);
     QVERIFY(desk.model.networks().first().parameters.first().real != before.real);
-    QCOMPARE(progressed.last().first().toDouble(), 1.0);
+    // The next sweep may have begun.
+    QVERIFY(progressed.contains({1.0}));
 }
 
 void SweepControllerTest::openedFileEndsTheSimulation()

@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel.h"
+
+#include <panel/diagrams.h>
+#include <panel/diagramview.h>
+#include <panel/look.h>
+#include <panel/panelcontroller.h>
+#include <panel/panelmodel.h>
+#include <panel/panelwindow.h>
+#include <panel/samples.h>
+#include <panel/simulateddevice.h>
+#include <plot/qcp.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QProcess>
+
+#include <chrono>
+
+namespace Bench
+{
+
+namespace
+{
+
+/// A panel that shows a filter, and two measurements of it that take turns.
+struct LivePanel {
+    Panel::PanelModel model;
+    Panel::PanelWindow window;
+    Panel::PanelController controller;
+    Panel::Network frames[2];
+
+    explicit LivePanel(int points)
+        : window(&model)
+        , controller(&model, &window)
+    {
+        using Panel::SimulatedDevice;
+        SimulatedDevice filter(SimulatedDevice::Filter,
+                               SimulatedDevice::usualSweep(SimulatedDevice::Filter, points));
+        for (int i = 0; i < 2; ++i) {
+            frames[i] = filter.preview();
+            filter.measure(frames[i], 0, filter.points(), quint64(i) * 60);
+        }
+        window.resize(1280, 800);
+        window.show();
+        model.setNetworks({frames[0]});
+        for (const Panel::Trace &trace : model.traces())
+            model.addMarker(trace.id, points / 3.0);
+        settle();
+    }
+
+    /// Lets all that is queued happen, painting included.
+    static void settle()
+    {
+        for (int i = 0; i < 3; ++i)
+            QApplication::processEvents();
+    }
+};
+
+void setUpOnce()
+{
+    static const bool done = [] {
+        Panel::setUpApplication();
+        return true;
+    }();
+    benchmark::DoNotOptimize(done);
+}
+
+} // namespace
+
+void liveFrame(benchmark::State &state, int points)
+{
+    setUpOnce();
+    LivePanel panel(points);
+    int turn = 0;
+    for (auto _ : state) {
+        turn = 1 - turn;
+        panel.model.updateNetwork(0, panel.frames[turn]);
+        QApplication::processEvents();
+    }
+    int drawn = 0;
+    for (const Panel::DiagramView *view : panel.window.diagrams()->views())
+        drawn += view->drawnPoints();
+    state.counters["drawn"] = drawn;
+}
+
+void sameReplot(benchmark::State &state, int points)
+{
+    setUpOnce();
+    LivePanel panel(points);
+    panel.model.updateNetwork(0, panel.frames[1]);
+    LivePanel::settle();
+    for (auto _ : state) {
+        for (const Panel::DiagramView *view : panel.window.diagrams()->views())
+            view->plot()->replot(QCustomPlot::rpQueuedReplot);
+        QApplication::processEvents();
+    }
+}
+
+void startProgram(benchmark::State &state, const char *program, const QStringList &arguments)
+{
+    double kibibytes = 0.0;
+    for (auto _ : state) {
+        const auto begin = std::chrono::steady_clock::now();
+        QProcess child;
+        child.start(QString::fromLocal8Bit(program), arguments);
+        if (!child.waitForFinished() || child.exitCode() != 0) {
+            state.SkipWithError("the program failed");
+            return;
+        }
+        state.SetIterationTime(
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
+        // "Peak memory: 71234 kB"
+        kibibytes = child.readAllStandardOutput().split(' ').value(2).toDouble();
+    }
+    state.counters["mebibytes"] = kibibytes / 1024.0;
+}
+
+QStringList sampleFiles()
+{
+    QStringList paths;
+    const QDir folder(Panel::sampleFolder());
+    const QStringList names = folder.entryList(QDir::Files);
+    for (const QString &name : names)
+        paths << folder.filePath(name);
+    return paths;
+}
+
+} // namespace Bench

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStringList>
+
+#include <benchmark/benchmark.h>
+
+/// The panel as a whole, in a window of 1280 x 800 pixels without a screen.
+namespace Bench
+{
+
+/// A new measurement of a filter with so many points: four traces, with markers and read-outs,
+/// until they are painted.
+void liveFrame(benchmark::State &state, int points);
+
+/// The same plots with the same data, drawn once more and no more than that.
+void sameReplot(benchmark::State &state, int points);
+
+/// Starts a program that ends by itself, and waits for that; the counter "mebibytes" is the most
+/// memory that it held, where it prints that.
+void startProgram(benchmark::State &state, const char *program, const QStringList &arguments);
+
+/// The panel's samples, as it names them.
+QStringList sampleFiles();
+
+} // namespace Bench
