@@ -8,6 +8,21 @@ set(VNA_TEST_RUNTIME_DIR ${PROJECT_BINARY_DIR}/runtime)
 file(MAKE_DIRECTORY ${VNA_TEST_RUNTIME_DIR})
 file(CHMOD ${VNA_TEST_RUNTIME_DIR} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 
+set(VNA_TEST_ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen"
+    "QT_HASH_SEED=0"
+    "LC_ALL=C.UTF-8"
+    "XDG_RUNTIME_DIR=${VNA_TEST_RUNTIME_DIR}"
+    "QTEST_FUNCTION_TIMEOUT=240000"
+    "ASAN_OPTIONS=fast_unwind_on_malloc=0"
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/shared/lsan.supp:print_suppressions=0"
+    "UBSAN_OPTIONS=print_stacktrace=1")
+
+# What every test program runs in: no display, the same hash order and locale everywhere.
+function(vna_set_test_environment name)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "${VNA_TEST_ENVIRONMENT}")
+endfunction()
+
 # vna_add_test(<name> <sources...> [LIBRARIES <targets...>]): one test program of one file.
 # Programs land in <build>/tests, so that "../configuration" is found beside them.
 function(vna_add_test name)
@@ -17,6 +32,5 @@ function(vna_add_test name)
         vna_build_flags vna_test_support VnaWidgets::Widgets Qt${VNAWIDGETS_QT_MAJOR}::Test ${ARG_LIBRARIES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;QT_HASH_SEED=0;LC_ALL=C.UTF-8;XDG_RUNTIME_DIR=${VNA_TEST_RUNTIME_DIR};QTEST_FUNCTION_TIMEOUT=240000;ASAN_OPTIONS=fast_unwind_on_malloc=0;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/shared/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1")
+    vna_set_test_environment(${name})
 endfunction()

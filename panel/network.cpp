@@ -27,10 +27,4 @@ double indexOfFrequency(const QVector<double> &frequencies, double hertz)
                                       : below + (hertz - *(above - 1)) / (*above - *(above - 1));
 }
 
-bool sameSweep(const QVector<double> &a, const QVector<double> &b)
-{
-    return a.size() == b.size()
-        && (a.isEmpty() || (a.first() == b.first() && a.last() == b.last()));
-}
-
 } // namespace Panel

@@ -44,7 +44,4 @@ double valueAt(const QVector<double> &values, double index);
 /// not be empty.
 double indexOfFrequency(const QVector<double> &frequencies, double hertz);
 
-/// Whether two sweeps of evenly spaced frequencies are the same.
-bool sameSweep(const QVector<double> &a, const QVector<double> &b);
-
 } // namespace Panel

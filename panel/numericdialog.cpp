@@ -59,7 +59,7 @@ NumericDialog::NumericDialog(const QString &title, UnitAdapter *adapter, QWidget
         column->insertWidget(below + 1, m_stepKey);
     }
     connect(m_stepKey, &LabelButton::clicked, this,
-            [this] { setStep((m_step + 1) % m_steps.size()); });
+            [this] { setStep((m_step + 1) % int(m_steps.size())); });
 
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
         m_adapter->setKeyCallback(key, [this](QKeyEvent *event) {

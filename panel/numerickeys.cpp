@@ -34,7 +34,7 @@ QVector<double> decadeSteps(double span)
 
 } // namespace
 
-NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, const SweepController *sweeps,
+NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, SweepController *sweeps,
                          QObject *parent)
     : QObject(parent)
     , m_model(model)
@@ -65,6 +65,10 @@ NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, const SweepCont
     for (const auto signal : {&PanelModel::activeTraceChanged, &PanelModel::tracesChanged})
         connect(model, signal, this, &NumericKeys::showScale);
     connect(model, &PanelModel::traceScaleChanged, this, &NumericKeys::showScale);
+    connect(window->keys().tune, &SoftKey::clicked, this, &NumericKeys::editTuning);
+    connect(sweeps, &SweepController::tuningChanged, this, &NumericKeys::showTuning);
+    connect(model, &PanelModel::networksChanged, this, &NumericKeys::showTuning);
+    showTuning();
     const auto watch = [this](const DiagramView *view) {
         connect(view, &DiagramView::viewChanged, this, &NumericKeys::showZoom);
     };
@@ -232,6 +236,16 @@ void NumericKeys::editReference()
          });
 }
 
+void NumericKeys::editTuning()
+{
+    const Stimulus limits = m_sweeps->tuningLimits();
+    auto *adapter = new FrequencyAdapter;
+    adapter->setRange(limits.start, limits.stop);
+    adapter->setRealValue(m_sweeps->tuning());
+    edit(m_window->keys().tune, adapter, {10e6, 1e6},
+         [this](double value) { m_sweeps->setTuning(value); });
+}
+
 void NumericKeys::editZoom()
 {
     DiagramView *view = m_window->diagrams()->activeView();
@@ -283,6 +297,13 @@ void NumericKeys::showScale()
     keys.reference->setValue(
         cartesian ? cartesianReferenceText(trace->scale.top, trace->format) : s_nothing);
     keys.reference->setEnabled(cartesian);
+}
+
+void NumericKeys::showTuning()
+{
+    SoftKey *key = m_window->keys().tune;
+    key->setEnabled(m_sweeps->isTunable());
+    key->setValue(m_sweeps->isTunable() ? frequencyText(m_sweeps->tuning()) : s_nothing);
 }
 
 void NumericKeys::showZoom()

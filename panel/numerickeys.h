@@ -24,7 +24,7 @@ class NumericKeys : public QObject
 
 public:
     /// The numbers of a simulated device go to its sweep; of a file they pick the part on show.
-    NumericKeys(PanelModel *model, PanelWindow *window, const SweepController *sweeps,
+    NumericKeys(PanelModel *model, PanelWindow *window, SweepController *sweeps,
                 QObject *parent = nullptr);
 
     /// Lets the user edit the active trace's scale per division, beside a key or a field.
@@ -49,6 +49,7 @@ private:
     void editMarkerStimulus();
     void editZoom();
     void editReference();
+    void editTuning();
     /// Opens the dialog of a key for a value that the adapter holds.
     template<typename Apply>
     void edit(QWidget *key, const QString &name, UnitAdapter *adapter, const QVector<double> &steps, Apply apply);
@@ -59,11 +60,12 @@ private:
     void showStimulus();
     void showMarkerStimulus();
     void showScale();
+    void showTuning();
     void showZoom();
 
     PanelModel *m_model;
     PanelWindow *m_window;
-    const SweepController *m_sweeps;
+    SweepController *m_sweeps;
     QVector<StimulusNumber> m_stimulusNumbers;
 };
 

@@ -17,7 +17,7 @@ namespace
 std::pair<int, int> shownPoints(const QVector<double> &frequencies, const Stimulus &stimulus)
 {
     const auto begin = frequencies.begin();
-    const int last = frequencies.size() - 1;
+    const int last = int(frequencies.size()) - 1;
     int from = int(std::lower_bound(begin, frequencies.end(), stimulus.start) - begin);
     int to = int(std::upper_bound(begin, frequencies.end(), stimulus.stop) - begin) - 1;
     if (from >= to) {
@@ -205,15 +205,24 @@ void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
     if (wanted == m_stimuli.at(index) || wanted.span() < 0.0 || whole.frequencies.isEmpty())
         return;
     m_stimuli[index] = wanted;
-    const auto [from, to] = shownPoints(whole.frequencies, wanted);
-    const int shift = m_firstShown.at(index) - from;
-    m_firstShown[index] = from;
-    m_shown[index] = part(whole, from, to);
+    const int before = m_firstShown.at(index);
+    showPart(index);
+    const int shift = before - m_firstShown.at(index);
+    const int last = m_shown.at(index).points() - 1;
     for (Marker &marker : m_markers) {
         if (this->trace(marker.trace)->network == index)
-            marker.index = std::clamp(marker.index + shift, 0.0, double(to - from));
+            marker.index = std::clamp(marker.index + shift, 0.0, double(last));
     }
     Q_EMIT stimulusChanged(index);
+}
+
+/// Cuts out of a network what its stimulus leaves.
+void PanelModel::showPart(int index)
+{
+    const Network &whole = m_networks.at(index);
+    const auto [from, to] = shownPoints(whole.frequencies, m_stimuli.at(index));
+    m_firstShown[index] = from;
+    m_shown[index] = part(whole, from, to);
 }
 
 bool PanelModel::updateNetwork(int index, const Network &network)
@@ -222,15 +231,24 @@ bool PanelModel::updateNetwork(int index, const Network &network)
         || network.frequencies.isEmpty())
         return false;
     const QVector<double> before = m_shown.at(index).frequencies;
+    const Stimulus stimulus = m_stimuli.at(index);
+    const bool magnified = stimulus != limits(index);
     m_networks[index] = network;
-    m_shown[index] = network;
-    m_firstShown[index] = 0;
     m_stimuli[index] = limits(index);
+    if (magnified && stimulus.start < m_stimuli.at(index).stop
+        && stimulus.stop > m_stimuli.at(index).start)
+        m_stimuli[index] = {qMax(stimulus.start, m_stimuli.at(index).start),
+                            qMin(stimulus.stop, m_stimuli.at(index).stop)};
+    showPart(index);
+    const QVector<double> &now = m_shown.at(index).frequencies;
     QVector<Marker> moved;
     for (Marker &marker : m_markers) {
-        if (trace(marker.trace)->network != index || sameSweep(before, network.frequencies))
+        if (trace(marker.trace)->network != index)
             continue;
-        marker.index = indexOfFrequency(network.frequencies, valueAt(before, marker.index));
+        const double hertz = valueAt(before, marker.index);
+        if (marker.index <= now.size() - 1 && valueAt(now, marker.index) == hertz)
+            continue; // as in most sweeps
+        marker.index = indexOfFrequency(now, hertz);
         if (m_markersDiscrete)
             marker.index = std::round(marker.index);
         moved.append(marker);

@@ -123,8 +123,8 @@ public:
     void setStimulus(const Trace &trace, const Stimulus &stimulus);
     /// A selected marker of another trace is deselected. An unknown id is ignored.
     void setActiveTrace(int id);
-    /// Replaces the data of one network by a new measurement of it, which is shown whole; traces
-    /// and markers stay. A marker keeps its index or, in another sweep, its frequency. False,
+    /// Replaces the data of one network by a new measurement of it; traces and markers stay, the
+    /// part on show too as far as there is any of it, and markers keep their frequencies. False,
     /// without a change, for an index without a network, another number of ports, or no points.
     bool updateNetwork(int index, const Network &network);
     void setTraceVisible(int id, bool visible);
@@ -187,6 +187,7 @@ Q_SIGNALS:
 private:
     bool holdsIndex(int traceId, double index) const;
     Trace *findTrace(int id);
+    void showPart(int index);
     /// The scale for all traces of a format, which they share until the user sets one.
     Scale usualScale(TraceFormat format) const;
     void placeMarker(int traceId, int number, double index);

@@ -26,6 +26,7 @@ struct Text {
 constexpr qint64 s_largestFile = 512 * 1024 * 1024;
 /// Bytes between two reports of progress.
 constexpr qint64 s_portion = 1024 * 1024;
+constexpr int s_mostPoints = 4000000;
 constexpr int s_noiseNumbers = 5;
 /// Frequency and four parameters of two numbers each: the longest point.
 constexpr int s_mostNumbers = 9;
@@ -321,6 +322,8 @@ private:
     bool takePoint()
     {
         Network &network = m_result.network;
+        if (network.frequencies.size() == s_mostPoints)
+            return fail(Text::tr("the file has more than %1 points").arg(s_mostPoints));
         for (int i = 0; i < network.parameters.size(); ++i) {
             double a = m_point[std::size_t(1 + 2 * i)];
             double b = m_point[std::size_t(2 + 2 * i)];
@@ -402,6 +405,8 @@ QString refusal(const QFileInfo &info, int ports)
         return Text::tr("there is no such file");
     if (info.isDir())
         return Text::tr("this is a folder, not a file");
+    if (!info.isFile())
+        return Text::tr("this is no ordinary file");
     if (ports == 0)
         return Text::tr("the name of a Touchstone file ends in .s1p or .s2p");
     if (ports > 2)

@@ -113,7 +113,7 @@ protected:
         QPen edge(isChecked() || hasFocus() ? color : look.border, hasFocus() ? 2.0 : 1.0);
         if (!m_shown) {
             edge.setStyle(Qt::DashLine);
-            color.setAlphaF(isChecked() ? 0.45 : 0.6);
+            color.setAlphaF(isChecked() ? 0.45F : 0.6F);
         }
         painter.setPen(edge);
         painter.setBrush(isChecked() ? QBrush(color) : QBrush(isDown() ? look.button : look.bar));
@@ -230,7 +230,7 @@ void TraceBar::rebuild()
                 else if (field >= 0)
                     Q_EMIT editRequested(id, Field(field));
             });
-            m_row->insertWidget(m_buttons.size(), button);
+            m_row->insertWidget(int(m_buttons.size()), button);
             m_buttons.append(button);
         }
     }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-/*! \file Where to put a floating widget: the rules that pop-ups, dialogs and the keypad share.
+/*! \file
+    Where to put a floating widget: the rules that pop-ups, dialogs and the keypad share.
 
     \code
     const QPoint wanted = button->mapToGlobal(QPoint(0, button->height()));

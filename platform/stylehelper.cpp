@@ -2,12 +2,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/stylehelper.h>
 
+#include <utils/smallfile_p.h>
+
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 
 namespace Utils
 {
+
+namespace
+{
+
+constexpr qint64 largestFile = 1 << 20;
+
+} // namespace
 
 QStringList StyleHelper::defaultThemeFiles(bool dark)
 {
@@ -24,11 +32,11 @@ void StyleHelper::setThemes(const QStringList &files)
     const QDir base(QCoreApplication::applicationDirPath());
     QString sheet;
     for (const QString &name : files) {
-        QFile file(QDir::cleanPath(base.absoluteFilePath(name)));
-        if (!file.open(QIODevice::ReadOnly))
+        QByteArray text;
+        if (!readSmallFile(QDir::cleanPath(base.absoluteFilePath(name)), largestFile, text))
             continue;
         // The line break keeps a last line without one from running into the next file.
-        sheet += QString::fromUtf8(file.readAll()) + QLatin1Char('\n');
+        sheet += QString::fromUtf8(text) + QLatin1Char('\n');
     }
     if (application->styleSheet() != sheet)
         application->setStyleSheet(sheet);

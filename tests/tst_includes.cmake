@@ -11,7 +11,7 @@ set(allowed_plot "plot;utils;platform")
 set(allowed_controls "controls;utils;platform")
 set(allowed_widgets "widgets;controls;plot;utils;platform")
 set(allowed_smithchart "smithchart;controls;plot;utils;platform")
-set(folders platform utils plot controls widgets smithchart panel samples examples)
+set(folders platform utils plot controls widgets smithchart panel samples examples designer)
 
 set(faults "")
 foreach(folder ${folders})

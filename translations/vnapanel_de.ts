@@ -798,6 +798,10 @@
         <source>%1: %2.</source>
         <translation>%1: %2.</translation>
     </message>
+    <message>
+        <source>the file has more than %1 points</source>
+        <translation>die Datei hat mehr als %1 Punkte</translation>
+    </message>
 </context>
 <context>
     <name>Panel::TraceBar</name>

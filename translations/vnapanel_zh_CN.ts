@@ -792,6 +792,10 @@
         <source>%1: %2.</source>
         <translation>%1：%2。</translation>
     </message>
+    <message>
+        <source>the file has more than %1 points</source>
+        <translation>文件超过 %1 个点</translation>
+    </message>
 </context>
 <context>
     <name>Panel::TraceBar</name>

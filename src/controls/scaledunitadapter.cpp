@@ -4,8 +4,6 @@
 
 #include <utils/formatting.h>
 
-#include <QRegularExpression>
-
 #include <cmath>
 
 namespace Controls
@@ -20,6 +18,37 @@ double scaled(double value, double factor)
 {
     const double inverse = std::round(1.0 / factor);
     return std::abs(inverse * factor - 1.0) < 1e-12 ? value / inverse : value * factor;
+}
+
+/// Where the number at the start of a text ends: digits with at most one point, in front of them a
+/// sign, behind them an exponent. 0 when there is no number.
+int numberEnd(const QString &text)
+{
+    const auto isOneOf = [&text](int at, const char *characters) {
+        return at < text.size() && QLatin1String(characters).contains(text.at(at));
+    };
+    const auto skipDigits = [&](int at) {
+        while (isOneOf(at, "0123456789"))
+            ++at;
+        return at;
+    };
+    const int first = isOneOf(0, "+-") ? 1 : 0;
+    int end = skipDigits(first);
+    int digits = end - first;
+    if (isOneOf(end, ".")) {
+        const int behind = skipDigits(end + 1);
+        digits += behind - end - 1;
+        end = behind;
+    }
+    if (digits == 0)
+        return 0;
+    if (isOneOf(end, "eE")) {
+        const int exponent = isOneOf(end + 1, "+-") ? end + 2 : end + 1;
+        const int behind = skipDigits(exponent);
+        if (behind > exponent)
+            end = behind;
+    }
+    return end;
 }
 
 } // namespace
@@ -62,13 +91,12 @@ QString ScaledUnitAdapter::convertFromBaseValue(double value, QString unit)
 
 double ScaledUnitAdapter::convertToBase(const QString &text)
 {
-    static const QRegularExpression syntax(QStringLiteral(
-        "^\\s*([+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?)\\s*(.*?)\\s*$"));
-    const QRegularExpressionMatch match = syntax.match(text);
-    const QString typedUnit = match.captured(2);
+    const QString typed = text.trimmed();
+    const int end = numberEnd(typed);
+    const QString typedUnit = typed.mid(end).trimmed();
     const QString unit = typedUnit.isEmpty() ? getCurrentUnit() : typedUnit;
     bool ok = false;
-    const double number = match.captured(1).toDouble(&ok);
+    const double number = typed.left(end).toDouble(&ok);
     if (!ok || !(typedUnit.isEmpty() || m_unitFactors.contains(findUnit(unit))))
         return qQNaN();
     const double value = scaled(number, m_unitFactors.value(findUnit(unit), 1.0));

@@ -2,17 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/thememanager.h>
 
+#include "themesettings_p.h"
+
 #include <platform/guicontext.h>
 #include <platform/stylehelper.h>
 #include <platform/translator.h>
-#include <utils/qtcompat_p.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
 #include <QPixmap>
-#include <QSettings>
 
 namespace Controls
 {
@@ -37,42 +36,6 @@ QVector<QColor> paletteOf(std::initializer_list<const char *> names)
     for (const char *name : names)
         colors << QColor(QLatin1String(name));
     return colors;
-}
-
-/// QSettings takes a text with commas outside quotes for a list: this is the text as it was
-/// written.
-QString settingsText(const QSettings &settings, const QString &key)
-{
-    return settings.value(key).toStringList().join(QLatin1Char(','));
-}
-
-/// The colour of that name, invalid (and without a warning) when there is none.
-QColor colorFromName(const QString &name)
-{
-    return QColor::isValidColor(name) ? QColor(name) : QColor();
-}
-
-QVector<QColor> colorsFromList(const QString &text)
-{
-    QVector<QColor> colors;
-    const QStringList names = text.split(QLatin1Char(','));
-    for (const QString &name : names) {
-        const QColor color = colorFromName(name.trimmed());
-        if (color.isValid())
-            colors << color;
-    }
-    return colors;
-}
-
-QString settingsPath()
-{
-    const QCoreApplication *application = QCoreApplication::instance();
-    const QString named =
-        application ? application->property("vnaSettingsPath").toString() : QString();
-    if (!named.isEmpty())
-        return QDir::cleanPath(named);
-    const QDir base(QCoreApplication::applicationDirPath());
-    return QDir::cleanPath(base.absoluteFilePath(QStringLiteral("../configuration/settings.ini")));
 }
 
 } // namespace
@@ -143,7 +106,7 @@ QString ThemeManager::getIconPath(int id) const
         return {};
 
     if (id == 0) {
-        const QString customized = QDir::cleanPath(QDir::current().absoluteFilePath(
+        QString customized = QDir::cleanPath(QDir::current().absoluteFilePath(
             QStringLiteral("../configuration/customized/logo.png")));
         if (QFileInfo(customized).isFile())
             return customized;
@@ -227,34 +190,25 @@ void ThemeManager::initializeColors()
 
 void ThemeManager::readSettings()
 {
-    const QString path = settingsPath();
-    if (!QFileInfo(path).isFile())
-        return;
+    ThemeSettings dark;
+    ThemeSettings light;
+    readThemeSettings(themeSettingsPath(), dark, light);
 
-    QSettings settings(path, QSettings::IniFormat);
-    QtCompat::setUtf8(settings);
-    settings.beginGroup(QStringLiteral("ThemeColors"));
-
-    const auto readColor = [&settings](const char *theme, const char *name,
-                                       QMap<QString, QColor> &colors) {
-        const QString key = QLatin1String(theme) + QLatin1Char('/') + QLatin1String(name);
-        if (settings.contains(key))
-            colors.insert(QLatin1String(name), colorFromName(settingsText(settings, key)));
+    const auto takeColors = [](const QMap<QString, QColor> &read, QMap<QString, QColor> &colors) {
+        for (auto color = read.constBegin(); color != read.constEnd(); ++color)
+            colors.insert(color.key(), color.value());
     };
-    for (const char *name : {"gridColor", "borderColor", "backgroundColor"}) {
-        readColor("Dark", name, m_darkColors);
-        readColor("Light", name, m_lightColors);
-    }
+    takeColors(dark.colors, m_darkColors);
+    takeColors(light.colors, m_lightColors);
 
-    const auto readPalette = [&settings](const char *key, QVector<QColor> &palette) {
-        const QVector<QColor> colors = colorsFromList(settingsText(settings, QLatin1String(key)));
-        if (!colors.isEmpty())
-            palette = colors;
+    const auto takePalette = [](const QVector<QColor> &read, QVector<QColor> &palette) {
+        if (!read.isEmpty())
+            palette = read;
     };
-    readPalette("Dark/tracePalette", m_darkTracePalette);
-    readPalette("Light/tracePalette", m_lightTracePalette);
-    readPalette("Dark/memoryTracePalette", m_darkMemoryTracePalette);
-    readPalette("Light/memoryTracePalette", m_lightMemoryTracePalette);
+    takePalette(dark.tracePalette, m_darkTracePalette);
+    takePalette(light.tracePalette, m_lightTracePalette);
+    takePalette(dark.memoryTracePalette, m_darkMemoryTracePalette);
+    takePalette(light.memoryTracePalette, m_lightMemoryTracePalette);
 }
 
 QIcon ThemeManager::createIcon(const QString &path) const

@@ -115,7 +115,7 @@ void TouchNumKeyboardPrivate::updateEnterKey()
 /// Keys fit a finger and their captions, whatever the resolution and the font.
 void TouchNumKeyboardPrivate::updateMetrics()
 {
-    const auto pixels = [this](double millimetres, int dpi) {
+    const auto pixels = [](double millimetres, int dpi) {
         return int(std::ceil(millimetres / 25.4 * dpi));
     };
     const auto wide = [&](double mm) { return pixels(mm, q->logicalDpiX()); };

@@ -23,6 +23,8 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double margin = 1e-13;
 /// Runs of up to this many chords are searched by chords alone.
 constexpr int fewChords = 16;
+/// Squares of coordinates beyond this overflow, and bounds made of them would rule out anything.
+constexpr double largestBounded = 1e150;
 
 Polygon emptyPolygon()
 {
@@ -234,6 +236,13 @@ void TraceBlocks::nearest(const Viewport &viewport, NearestScan &scan)
     const double scale = std::min(xScale, yScale);
     const double x = viewport.xMin + scan.x() / xScale;
     const double y = viewport.yMax - scan.y() / yScale;
+    const double reach =
+        std::max({std::fabs(viewport.xMin), std::fabs(viewport.xMax), std::fabs(viewport.yMin),
+                  std::fabs(viewport.yMax), std::fabs(x), std::fabs(y), m_largest});
+    if (!(reach < largestBounded)) {
+        scan.visit(0, m_count);
+        return;
+    }
     const double slack = margin
         * (std::max(std::fabs(viewport.xMin), std::fabs(viewport.xMax))
            + std::max(std::fabs(viewport.yMin), std::fabs(viewport.yMax)) + std::fabs(x)

@@ -2,7 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <vnawidgets_export.h>
+
+#include <QtGlobal>
+
 #include <cmath>
+
+QT_BEGIN_NAMESPACE
+class QDebug;
+QT_END_NAMESPACE
 
 /// What turns long traces into what a screen can show of them.
 namespace SmithRender
@@ -49,6 +57,8 @@ inline bool operator!=(const Viewport &a, const Viewport &b)
 {
     return !(a == b);
 }
+
+VNAWIDGETS_EXPORT QDebug operator<<(QDebug debug, const Viewport &viewport);
 
 /// Maps a point of the plane to device pixels from the axis rectangle's top-left corner, y
 /// downwards.

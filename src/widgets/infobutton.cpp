@@ -6,12 +6,16 @@
 #include <QGridLayout>
 #include <QLabel>
 
+// Qt 5 cannot hold margins in a property without being told of them.
+Q_DECLARE_METATYPE(QMargins)
+
 InfoButton::InfoButton(QWidget *parent)
     : AbstractButton(parent)
     , m_layout(new QGridLayout(this))
     , m_infoWidget(new QWidget(this))
     , m_nameLabel(new QLabel(this))
 {
+    qRegisterMetaType<QMargins>("QMargins");
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred); // soft keys share a column
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);

@@ -141,29 +141,6 @@ private Q_SLOTS:
         QCOMPARE(stepped.count(), 3);
         QCOMPARE(other.getRealValue(), 2.0);
     }
-
-    void survivesTheEndOfEither()
-    {
-        QPointer<StepController> controller = new StepController;
-        QPointer<BaseUnitAdapter> adapter = new BaseUnitAdapter;
-        controller->setAdapter(adapter);
-        delete adapter;
-        QVERIFY(!controller->adapter());
-        controller->stepBy(1.0, 1);
-
-        adapter = new BaseUnitAdapter;
-        controller->setAdapter(adapter);
-        connect(adapter, &BaseUnitAdapter::editingFinished, this, [&] { delete adapter; });
-        controller->stepBy(1.0, 1);
-        QVERIFY(!adapter);
-
-        adapter = new BaseUnitAdapter;
-        controller->setAdapter(adapter);
-        connect(controller, &StepController::stepped, this, [&] { delete controller; });
-        Q_EMIT adapter->stepBy(1.0, 1);
-        QVERIFY(!controller);
-        delete adapter;
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_StepController)

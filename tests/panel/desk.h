@@ -111,6 +111,12 @@ struct ChartDesk : PanelDesk {
     void pick(QWidget *key, int index)
     {
         click(key);
+        pickFromList(index);
+    }
+
+    /// Picks from the list that is open.
+    void pickFromList(int index)
+    {
         QWidget *popup = QApplication::activePopupWidget();
         QVERIFY(popup);
         const auto *list = popup->findChild<QListWidget *>();

@@ -25,7 +25,7 @@ void PanelMarkersTest::doubleClickMarksTheTrace()
 {
     ChartDesk desk;
     // The end of S22 lies far from S11, which is active and would win nearby.
-    const int last = desk.model.networks().first().frequencies.size() - 1;
+    const int last = int(desk.model.networks().first().frequencies.size()) - 1;
     desk.doubleClick(desk.onTrace(2, last));
     QCOMPARE(desk.model.activeTrace()->id, 2);
     QCOMPARE(desk.model.markers().size(), 1);

@@ -128,7 +128,7 @@ void SimulatedDeviceTest::driftsAndRepeats()
         largest = qMax(largest, std::abs(second.at(i) - first.at(i)));
     }
     QVERIFY(largest > limit / 2.0 && largest <= 2.0 * limit);
-    QVERIFY(std::abs(sum / first.size()) < limit / 10.0);
+    QVERIFY(std::abs(sum / double(first.size())) < limit / 10.0);
 }
 
 void SimulatedDeviceTest::checksSweeps_data()
@@ -224,7 +224,7 @@ void SimulatedDeviceTest::sourceSweepsOn()
     QVERIFY(frames.at(0) != frames.at(1) && frames.at(1) != frames.at(2));
 
     source.setHeld(true);
-    const int held = frames.size();
+    const auto held = frames.size();
     QTest::qWait(5 * SweepSource::frameInterval);
     QCOMPARE(frames.size(), held);
     // A new sweep is shown once even so.
@@ -248,12 +248,12 @@ void SimulatedDeviceTest::sourceSweepsOn()
     const double position = progress.last();
     QTest::qWait(20 * SweepSource::frameInterval);
     source.setHeld(false);
-    const int count = progress.size();
+    const auto count = progress.size();
     QTRY_VERIFY(progress.size() > count);
     QVERIFY(progress.at(count) > position);
 
     source.stop();
-    const int stopped = frames.size();
+    const auto stopped = frames.size();
     QTest::qWait(5 * SweepSource::frameInterval);
     QCOMPARE(frames.size(), stopped);
 }
@@ -264,7 +264,7 @@ void SimulatedDeviceTest::sourceDropsWhatRanBefore()
     {
         SweepSource source;
         connect(&source, &SweepSource::swept, this, [&](const Network &frame) {
-            sizes.append(frame.frequencies.size());
+            sizes.append(int(frame.frequencies.size()));
             // A host may start anew in the answer.
             if (sizes.size() == 1)
                 source.start(SimulatedDevice::Cable, {1e9, 2e9, 301});

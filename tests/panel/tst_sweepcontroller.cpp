@@ -23,7 +23,7 @@ struct Desk : PanelDesk {
     SweepController *sweeps() const { return controller.sweepController(); }
     const PanelKeys &keys() const { return window.keys(); }
     QString shown() const { return model.networks().first().name; }
-    int points() const { return model.networks().first().frequencies.size(); }
+    int points() const { return int(model.networks().first().frequencies.size()); }
 
     void pick(SoftKey *key, int index) { Q_EMIT key->choicePicked(index); }
 };
@@ -96,7 +96,7 @@ void SweepControllerTest::answersClicksWhileSweeping()
 
     desk.click(desk.keys().visible->findChild<QPushButton *>(QStringLiteral("btnOff")));
     QVERIFY(!desk.model.activeTrace()->visible);
-    const int before = updated.count();
+    const auto before = updated.count();
     QTRY_VERIFY_WITH_TIMEOUT(updated.count() > before, 60000);
     QVERIFY(!desk.model.activeTrace()->visible);
     desk.click(desk.keys().sweep->findChild<QPushButton *>(QStringLiteral("btnOff")));
@@ -152,7 +152,7 @@ void SweepControllerTest::holdsTheSweep()
         desk.click(desk.keys().sweep->findChild<QPushButton *>(QLatin1String(button)));
     };
     press("btnOff");
-    const int held = updated.count();
+    const auto held = updated.count();
     QTest::qWait(5 * SweepSource::frameInterval);
     QCOMPARE(updated.count(), held);
     press("btnOn");
@@ -180,10 +180,9 @@ void SweepControllerTest::tunesAndTellsProgress()
     QCOMPARE(completed.count(), 0);
     const Parameter before = desk.model.networks().first().parameters.first();
     desk.sweeps()->setTuning(2.9e9);
-    QTRY_COMPARE(completed.count(), 1);
+    QTRY_VERIFY(completed.count() >= 1); // on a busy machine the next sweep is under way by now
     QVERIFY(desk.model.networks().first().parameters.first().real != before.real);
-    // The next sweep may have begun.
-    QVERIFY(progressed.contains({1.0}));
+    QVERIFY(progressed.contains(QVariantList{1.0}));
 }
 
 void SweepControllerTest::openedFileEndsTheSimulation()

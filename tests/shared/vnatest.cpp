@@ -2,8 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
+#include <fuzz/census.h>
+
+#include <QElapsedTimer>
 #include <QStringList>
 #include <QtTest>
+
+#include <memory>
 
 namespace VnaTest
 {
@@ -14,6 +19,7 @@ namespace
 QtMessageHandler s_next = nullptr;
 QStringList s_expected;
 QStringList s_unexpected;
+std::unique_ptr<Fuzz::Census> s_census;
 
 /// What a platform plugin cannot do (raise a window, grab the keyboard) is no fault of ours, and a
 /// drag may leave its window, which Qt 6 remarks on.
@@ -44,16 +50,27 @@ void TestCase::init()
     s_expected.clear();
     s_unexpected.clear();
     s_next = qInstallMessageHandler(watchMessages);
+    s_census = std::make_unique<Fuzz::Census>();
 }
 
 void TestCase::cleanup()
 {
     // Objects deleted later must not carry their warnings into the next test function.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QStringList left = s_census->grown();
+    // Those that a thread of their own deletes may need a moment.
+    QElapsedTimer timer;
+    timer.start();
+    while (!left.isEmpty() && timer.elapsed() < 2000) {
+        QTest::qWait(10);
+        left = s_census->grown();
+    }
     qInstallMessageHandler(s_next);
     QVERIFY2(
         s_unexpected.isEmpty(),
         qPrintable(QStringLiteral("unexpected warning: ") + s_unexpected.join(QLatin1Char('\n'))));
+    QVERIFY2(left.isEmpty(),
+             qPrintable(QStringLiteral("not destroyed: ") + left.join(QLatin1String(", "))));
 }
 
 Row::~Row()

@@ -4,6 +4,8 @@
 
 #include <smithchart/viewport.h>
 
+#include <fuzz/tracejudge.h>
+
 #include <QPointF>
 #include <QVector>
 
@@ -18,10 +20,7 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double pi = 3.14159265358979323846;
 
-struct Trace {
-    QVector<double> real;
-    QVector<double> imag;
-};
+using TraceJudge::Trace;
 
 /// What traces can be like; each is a random member of its kind.
 enum Kind {

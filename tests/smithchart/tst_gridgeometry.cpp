@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <smithchart/gridgeometry.h>
 #include <smithchart/preset.h>
+#include <smithchart/smithchartplot.h>
 
 #include <QtTest>
 
@@ -33,8 +34,8 @@ private Q_SLOTS:
     {
         QFETCH(int, preset);
         const GridValues values = gridValues(static_cast<Preset>(preset));
-        QTEST(values.resistances.size(), "resistances");
-        QTEST(values.reactances.size(), "reactances");
+        QTEST(int(values.resistances.size()), "resistances");
+        QTEST(int(values.reactances.size()), "reactances");
         QVERIFY(std::is_sorted(values.resistances.cbegin(), values.resistances.cend()));
         for (const double x : values.reactances)
             QVERIFY2(values.reactances.contains(-x), "each magnitude comes with both signs");
@@ -129,6 +130,29 @@ private Q_SLOTS:
         QFETCH(double, x);
         QFETCH(double, y);
         QTEST(int(labelAlignment(x, y)), "alignment");
+    }
+
+    /// The same grid, handed out as lists of numbers in place of whatever they held.
+    void listsOfTheGrid()
+    {
+        const Grid grid = gridGeometry({0.0, 1.0}, {-1.0, 1.0}, 24);
+        QVector<QVector<double>> zx(9);
+        QVector<QVector<double>> zy(9);
+        QVector<QVector<double>> yx(9);
+        QVector<QVector<double>> yy(9);
+        QVector<double> lists[8];
+        QVector<QString> zText(9);
+        QVector<QString> yText(9);
+        SmithChartPlot::generateSmithChartGridExtended(
+            zx, zy, yx, yy, lists[0], lists[1], lists[2], lists[3], lists[4], lists[5], zText,
+            lists[6], lists[7], yText, {0.0, 1.0}, {-1.0, 1.0}, 24);
+        QVERIFY(zx == grid.impedance.circles.x && zy == grid.impedance.circles.y);
+        QVERIFY(yx == grid.admittance.circles.x && yy == grid.admittance.circles.y);
+        QVERIFY(lists[0] == grid.boundaryX && lists[1] == grid.boundaryY);
+        QVERIFY(lists[2] == grid.realAxisX && lists[3] == grid.realAxisY);
+        QVERIFY(lists[4] == grid.impedance.labels.x && lists[5] == grid.impedance.labels.y);
+        QVERIFY(lists[6] == grid.admittance.labels.x && lists[7] == grid.admittance.labels.y);
+        QVERIFY(zText == grid.impedance.labels.text && yText == grid.admittance.labels.text);
     }
 };
 

@@ -95,6 +95,32 @@ private Q_SLOTS:
         QVERIFY(m_chart->removeMarkerVisual(huge, huge));
     }
 
+    void catchesAMarkerUnderAnItemOfTheHost()
+    {
+        m_chart->addMarkerVisual(1, 1, 5.0, Plot::PointingDown);
+        auto *const box = new QCPItemRect(m_plot.get());
+        box->setBrush(Qt::white);
+        box->topLeft->setCoords(-2.0, 2.0);
+        box->bottomRight->setCoords(2.0, -2.0);
+        box->setLayer(QStringLiteral("markers"));
+        const QPoint apex = dataPixel(m_real[5], m_imag[5]).toPoint();
+        QVERIFY(m_chart->beginMarkerDragAt(apex + QPoint(0, -3)));
+        m_chart->endMarkerDragAt(apex);
+        QVERIFY(!m_chart->beginMarkerDragAt(apex + QPoint(0, 60)));
+    }
+
+    void tellsTheLogWhatNewDataCosts()
+    {
+        QLoggingCategory::setFilterRules(QStringLiteral("vna.smith.render.performance.debug=true"));
+        QTest::ignoreMessage(QtDebugMsg,
+                             QRegularExpression(QStringLiteral(
+                                 "^trace 2: 3 points, 3 displayed, setCurveData .* ms, decimation "
+                                 ".* ms$")));
+        m_chart->setCurveData(2, {}, {0.1, 0.2, 0.3}, {0.1, 0.2, 0.3});
+        m_chart->setCurveData(2, {}, {0.1}, {0.1}); // too soon for another line
+        QLoggingCategory::setFilterRules(QString());
+    }
+
     void creation()
     {
         QVERIFY(!m_chart->addMarkerVisual(9, 1, 0.0, Plot::PointingDown));

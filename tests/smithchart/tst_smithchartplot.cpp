@@ -160,9 +160,9 @@ private Q_SLOTS:
         const auto grid = SmithChart::gridGeometry(values.resistances, values.reactances, 720);
         int arcs = 0;
         if (mode != SmithChartPlot::Admittance)
-            arcs += grid.impedance.circles.x.size() - values.resistances.size();
+            arcs += int(grid.impedance.circles.x.size() - values.resistances.size());
         if (mode != SmithChartPlot::Impedance)
-            arcs += grid.admittance.circles.x.size() - values.resistances.size();
+            arcs += int(grid.admittance.circles.x.size() - values.resistances.size());
         QCOMPARE(countOnLayer<QCPCurve>(plot, "smithGrid"), arcs + 1); // and the real axis
         QCOMPARE(plot.legend->itemCount(), 0);
         QVERIFY(!gridIsVisible(plot));

@@ -34,6 +34,32 @@ class tst_MenuButton : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void handsItsListOn()
+    {
+        Scene f;
+        f.button->setIconSize(80, 70);
+        f.button->setItemCountPerRow(2);
+        f.button->setTitleText("Markers"_s);
+        f.button->setTitleVisible(true);
+        f.button->setViewMode(QListView::IconMode);
+        f.button->setItemEnabled(1, false);
+        QCOMPARE(f.button->iconSize(), f.popup()->iconSize());
+        QCOMPARE(f.popup()->iconSize(), QSize(80, 70));
+        QCOMPARE(f.button->itemCountPerRow() + f.popup()->itemCountPerRow(), 4);
+        QCOMPARE(f.button->titleText(), f.popup()->titleText());
+        QCOMPARE(f.popup()->titleText(), "Markers"_s);
+        QVERIFY(f.button->titleVisible() && f.popup()->titleVisible());
+        QCOMPARE(f.popup()->viewMode(), QListView::IconMode);
+        QVERIFY(!f.isEnabled(1));
+        f.button->clearMenuItems();
+        f.button->addMenuItem(1, "a"_s);
+        f.button->click();
+        f.button->addMenuItem(2, "b"_s); // while it is open
+        QCOMPARE(f.list()->count(), 2);
+        f.button->clearMenuItems();
+        QVERIFY(!f.isOpen());
+    }
+
     void holdsItsItems()
     {
         Scene f;

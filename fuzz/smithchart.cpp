@@ -1,0 +1,376 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Calls of a Smith chart in any order, also from inside its own signals and replot handler, and the
+// end of chart or plot in between; what must hold at all times is checked after each call.
+#include "input.h"
+
+#include <smithchart/smithchartplot.h>
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <cmath>
+#include <memory>
+
+namespace
+{
+
+using Fuzz::Input;
+
+/// A host with one plot and one chart, either of which may be gone.
+class Desk : public QObject
+{
+public:
+    explicit Desk(Input &input)
+        : m_input(input)
+    {
+        setUp();
+    }
+    ~Desk() override { tearDown(m_input.flag()); }
+
+    void run()
+    {
+        for (int call = 0; call < 300 && !m_input.atEnd(); ++call) {
+            if (m_input.integer(0, 199) == 0)
+                rebuild();
+            else
+                act();
+            check();
+        }
+    }
+
+private:
+    void setUp()
+    {
+        m_plot = new QCustomPlot;
+        m_plot->resize(160, 160);
+        m_chart =
+            new SmithChartPlot(m_plot, static_cast<SmithChart::Preset>(m_input.integer(-1, 3)));
+        m_chart->setOnlyHandleActiveTrace(m_input.flag());
+        if (m_input.flag())
+            m_chart->setQueuedReplotHandler([this] { react(); });
+        const auto connectAll = [this](auto... signal) {
+            (connect(m_chart, signal, this, &Desk::react), ...);
+        };
+        connectAll(&SmithChartPlot::activeTraceDoubleClicked, &SmithChartPlot::pointDoubleClicked,
+                   &SmithChartPlot::markerDeleteRequested, &SmithChartPlot::markerPositionChanged,
+                   &SmithChartPlot::markerSelected, &SmithChartPlot::markerSelectionCleared,
+                   &SmithChartPlot::markerDragStarted, &SmithChartPlot::markerDragFinished,
+                   &SmithChartPlot::markerSelectionRequested);
+        connect(m_chart, &SmithChartPlot::markerPositionChanged, m_chart,
+                &SmithChartPlot::setMarkerIndex);
+        connect(m_chart, &SmithChartPlot::markerSelectionRequested, m_chart,
+                &SmithChartPlot::selectMarker);
+    }
+
+    void tearDown(bool plotFirst)
+    {
+        m_depth = deepest; // a chart half destroyed must not be destroyed once more
+        if (plotFirst)
+            delete m_plot.data();
+        delete m_chart.data();
+        delete m_plot.data();
+        m_depth = 0;
+    }
+
+    /// The plot goes, and with it or after some more calls the chart.
+    void rebuild()
+    {
+        if (m_plot && m_input.flag()) {
+            delete m_plot.data();
+            return;
+        }
+        tearDown(m_input.flag());
+        setUp();
+    }
+
+    /// The host answers a signal or a replot request with a call of its own, now and then.
+    void react()
+    {
+        if (!m_chart || m_depth == deepest || m_input.integer(0, 3) != 0)
+            return;
+        const int depth = m_depth;
+        const int what = m_input.integer(0, 127);
+        // What goes now calls the host once more, which then keeps still.
+        m_depth = what < 2 ? deepest : depth + 1;
+        if (what == 0)
+            delete m_chart.data();
+        else if (what == 1 && !m_inPlotEvent)
+            delete m_plot.data();
+        else
+            act();
+        m_depth = depth;
+    }
+
+    QVector<double> values(int count)
+    {
+        QVector<double> values;
+        for (int i = 0; i < count; ++i)
+            values << m_input.real();
+        return values;
+    }
+
+    /// Long data costs few bytes: a polygon with corners from the input.
+    void setData(int trace)
+    {
+        const int count = m_input.flag() ? m_input.integer(0, 8) : m_input.integer(0, 1200);
+        if (count <= 8) {
+            m_chart->setCurveData(trace, values(m_input.integer(0, 9)), values(count),
+                                  values(m_input.integer(0, 9)));
+            return;
+        }
+        const QVector<double> corners = values(8);
+        QVector<double> real;
+        QVector<double> imag;
+        for (int i = 0; i < count; ++i) {
+            real << corners[i % 8] + i * 1e-4;
+            imag << corners[(i * 3 + 1) % 8];
+        }
+        m_chart->setCurveData(trace, {}, real, imag);
+    }
+
+    void sendMouse(QEvent::Type type, const QPoint &pos)
+    {
+        QMouseEvent event(type, QPointF(pos), QPointF(pos), Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                          Qt::NoModifier);
+        sendToPlot(event);
+    }
+
+    /// Nobody may delete a widget from inside its own event.
+    void sendToPlot(QEvent &event)
+    {
+        const bool nested = m_inPlotEvent;
+        m_inPlotEvent = true;
+        if (m_plot)
+            QCoreApplication::sendEvent(m_plot, &event);
+        m_inPlotEvent = nested;
+    }
+
+    void act()
+    {
+        if (!m_chart)
+            return;
+        SmithChartPlot &chart = *m_chart;
+        const int trace = m_input.integer(0, 4);
+        const int local = m_input.integer(1, 3);
+        const bool flag = m_input.flag();
+        switch (m_input.integer(0, 29)) {
+        case 0:
+        case 1:
+            chart.addCurve(trace, QPen(Qt::GlobalColor(m_input.integer(2, 18))));
+            break;
+        case 2:
+            chart.removeCurve(trace);
+            break;
+        case 3:
+            if (m_input.integer(0, 9) == 0)
+                chart.clearAllCurves();
+            break;
+        case 4:
+        case 5:
+        case 6:
+            setData(trace);
+            break;
+        case 7:
+            chart.setCurveVisible(trace, flag);
+            break;
+        case 8:
+            if (chart.getCurve(trace) || flag)
+                chart.setActiveTrace(chart.getCurve(trace) ? trace : 0);
+            break;
+        case 9:
+            chart.clearActiveTrace();
+            break;
+        case 10:
+            chart.setGridMode(static_cast<SmithChartPlot::GridMode>(m_input.integer(-1, 3)));
+            break;
+        case 11:
+            chart.zoomAt({m_input.real(), m_input.real()}, m_input.real());
+            break;
+        case 12:
+            if (m_plot)
+                chart.setAxes(flag ? m_plot->xAxis : m_plot->xAxis2, m_plot->yAxis);
+            break;
+        case 13:
+        case 14:
+            chart.addMarkerVisual(trace, local, m_input.integer(-2, 800) / 2.0,
+                                  static_cast<Plot::MarkerType>(flag));
+            break;
+        case 15:
+            chart.removeMarkerVisual(trace, local);
+            break;
+        case 16:
+            chart.setMarkerIndex(trace, local,
+                                 flag ? m_input.real() : m_input.integer(-2, 800) / 2.0);
+            break;
+        case 17:
+            chart.setMarkerVisible(trace, local, flag);
+            break;
+        case 18:
+            chart.selectMarker(trace, local);
+            break;
+        case 19:
+            flag ? chart.clearMarkerSelection() : (void)chart.setCurvePen(trace, QPen(Qt::red));
+            break;
+        case 20:
+            if (const Plot::Marker *const marker = chart.getMarker(trace, local)) {
+                if (marker->getTracer())
+                    press(marker->getTracer()->position->pixelPosition(), flag);
+            }
+            break;
+        case 21:
+            flag ? chart.updateMarkerDragAt(point()) : chart.endMarkerDragAt(point());
+            break;
+        case 22:
+            chart.handleDoubleClick(point(), Qt::NoModifier);
+            break;
+        case 23:
+            chart.setViewFromRequestedRanges(QCPRange(m_input.real(), m_input.real()),
+                                             QCPRange(m_input.real(), m_input.real()));
+            break;
+        case 24:
+            chart.resetView();
+            break;
+        case 25: {
+            QKeyEvent key(QEvent::KeyPress, flag ? Qt::Key_Delete : Qt::Key_A, Qt::NoModifier);
+            sendToPlot(key);
+            break;
+        }
+        case 26:
+            sendMouse(flag ? QEvent::MouseMove : QEvent::MouseButtonRelease, point());
+            break;
+        case 27:
+            chart.setMarkerHitTolerancePx(m_input.real());
+            break;
+        case 28:
+            (void)chart.hasSourceDataAtIndex(trace, m_input.real());
+            (void)chart.hasSourceDataAtParameter(trace, m_input.real());
+            chart.setMarkerLabelText(trace, local, m_input.text(8));
+            break;
+        case 29:
+            reshape();
+            break;
+        }
+    }
+
+    QPoint point() { return {m_input.integer(-20, 180), m_input.integer(-20, 180)}; }
+
+    void press(const QPointF &pixel, bool byMouse)
+    {
+        if (!(std::abs(pixel.x()) < 1e4 && std::abs(pixel.y()) < 1e4))
+            return;
+        if (byMouse)
+            sendMouse(QEvent::MouseButtonPress, pixel.toPoint());
+        else
+            m_chart->beginMarkerDragAt(pixel.toPoint());
+    }
+
+    /// What the toolkit does to the plot, outside of any call of the chart.
+    void reshape()
+    {
+        if (m_depth > 0 || !m_plot)
+            return;
+        m_plot->resize(m_input.integer(1, 200), m_input.integer(1, 200));
+        QResizeEvent resize(m_plot->size(), {});
+        sendToPlot(resize);
+        m_inPlotEvent = true;
+        m_plot->xAxis->setRange(m_input.real(), m_input.real());
+        m_plot->replot();
+        QCoreApplication::processEvents();
+        m_inPlotEvent = false;
+    }
+
+    void check()
+    {
+        if (!m_chart)
+            return;
+        const SmithChartPlot &chart = *m_chart;
+        const SmithChart::ViewState view = chart.viewState();
+        FUZZ_CHECK(view.zoom >= 1.0 && view.zoom <= SmithChart::maximumZoom);
+        FUZZ_CHECK(std::isfinite(view.centerX) && std::isfinite(view.centerY));
+        if (!m_plot) {
+            FUZZ_CHECK(!chart.getPlot());
+            FUZZ_CHECK(!m_chart->addCurve(77, QPen()));
+            return;
+        }
+
+        bool anyVisible = false;
+        int markers = 0;
+        const QVector<int> ids = chart.traceIds();
+        for (const int id : ids) {
+            QCPCurve *const curve = chart.getCurve(id);
+            FUZZ_CHECK(curve && m_plot->hasPlottable(curve));
+            FUZZ_CHECK(curve->layer()->name()
+                       == (id == chart.activeTrace() ? QStringLiteral("tracers_active")
+                                                     : QStringLiteral("tracers")));
+            anyVisible |= curve->visible();
+            markers += static_cast<int>(chart.markers(id).size());
+            checkTrace(id);
+        }
+        const auto countOn = [this](const char *layer) {
+            return static_cast<int>(m_plot->layer(QLatin1String(layer))->children().size());
+        };
+        FUZZ_CHECK(countOn("tracers") + countOn("tracers_active") == ids.size());
+        FUZZ_CHECK(countOn("markers") == 2 * markers);
+        FUZZ_CHECK(m_plot->layer(m_plot->layerCount() - 1)->name() == QLatin1String("markers"));
+        const auto grid = m_plot->layer(QStringLiteral("smithGrid"))->children();
+        for (const QCPLayerable *const part : grid)
+            FUZZ_CHECK(part->visible() == anyVisible);
+        FUZZ_CHECK(!chart.hasActiveTrace() || chart.getCurve(chart.activeTrace()));
+
+        int trace = 0;
+        int local = 0;
+        FUZZ_CHECK(!chart.getSelectedMarker(trace, local) || chart.getMarker(trace, local));
+        FUZZ_CHECK(!chart.isDraggingMarker() || markers > 0);
+    }
+
+    /// What is displayed of a trace is its own data, and of its markers the selected one is filled.
+    void checkTrace(int id) const
+    {
+        const QVector<double> *frequencies = nullptr;
+        const QVector<double> *real = nullptr;
+        const QVector<double> *imag = nullptr;
+        FUZZ_CHECK(m_chart->sourceCurveData(id, frequencies, real, imag));
+        FUZZ_CHECK(real->size() == imag->size() && real->size() == frequencies->size());
+        const auto shown = m_chart->getCurve(id)->data();
+        FUZZ_CHECK(shown->isEmpty() == real->isEmpty());
+        int i = 0;
+        for (auto point = shown->constBegin(); point != shown->constEnd(); ++point, ++i) {
+            const auto isPoint = [&] {
+                return same(point->t, frequencies->at(i)) && same(point->key, real->at(i))
+                    && same(point->value, imag->at(i));
+            };
+            while (i < real->size() && !isPoint())
+                ++i;
+            FUZZ_CHECK(i < real->size());
+        }
+        int trace = 0;
+        int local = 0;
+        const bool selection = m_chart->getSelectedMarker(trace, local);
+        const int selected = selection ? SmithChartPlot::makeMarkerId(trace, local) : -1;
+        for (const Plot::Marker *const marker : m_chart->markers(id)) {
+            FUZZ_CHECK((marker->getTracer()->brush().style() == Qt::SolidPattern)
+                       == (marker->getId() == selected));
+            const QCPItemPosition *const position = marker->getTracer()->position;
+            FUZZ_CHECK(std::isfinite(position->key()) && std::isfinite(position->value()));
+        }
+    }
+
+    static bool same(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
+
+    Input &m_input;
+    QPointer<QCustomPlot> m_plot;
+    QPointer<SmithChartPlot> m_chart;
+    static constexpr int deepest = 2;
+    int m_depth = 0; ///< of calls from inside the chart's own
+    bool m_inPlotEvent = false;
+};
+
+} // namespace
+
+void Fuzz::run(Input &input)
+{
+    Desk(input).run();
+}

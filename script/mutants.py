@@ -1,0 +1,137 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Plants small faults in src/, one at a time, and tells which ones the tests notice.
+
+   script/mutants.py [COUNT [SEED]]     120 faults by default, drawn evenly from all files
+
+Builds the library from a copy of the sources in build/mutants and runs the tests of build/dev with it in
+place of theirs. The last table goes to build/mutants/result.txt."""
+import collections
+import os
+import pathlib
+import random
+import re
+import shutil
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+WORK = ROOT / "build" / "mutants"
+SOURCE = WORK / "source"
+BUILD = WORK / "build"
+PRELOAD = f"{BUILD}/platform/libvnaplatform.so:{BUILD}/src/libvnawidgets.so"
+
+# What stands in the code, what takes its place.
+FAULTS = [
+    (r" < ", " <= "), (r" <= ", " < "), (r" > ", " >= "), (r" >= ", " > "),
+    (r" == ", " != "), (r" != ", " == "), (r" && ", " || "), (r" \|\| ", " && "),
+    (r" \+ 1\b(?!\.)", " + 2"), (r" - 1\b(?!\.)", ""), (r"\bif \(!", "if ("),
+    (r"\breturn true;", "return false;"), (r"\breturn false;", "return true;"),
+    (r"std::max\(", "std::min("), (r"std::min\(", "std::max("),
+    (r"\bQ_EMIT [^;]*;", ";"),
+]
+
+# The tests for a source, from its path: the quick ones first.
+TESTS = [
+    (r"smithchart/smithchartplot_pointer|smithchartplot_markers", "tst_smithchart|tst_teardown"),
+    (r"smithchart/smithchartplot|smithchart/coverage", "tst_smithchart|fuzz_smithchart"),
+    (r"smithchart/(gridgeometry|viewstate)", "tst_gridgeometry|tst_viewstate|tst_smithchartplot"),
+    (r"smithchart/", "tst_decimation|fuzz_traces|tst_tracetree"),
+    (r"plot/", "tst_marker$|tst_qcp|tst_smithchart"),
+    (r"utils/", "tst_formatting|tst_propertywatcher|adapter|stepcontroller"),
+    (r"controls/(.*adapter|step)", "adapter|tst_stepcontroller|tst_editablewidget"),
+    (r"controls/theme", "tst_theme|tst_stylesheets"),
+    (r"controls/(touch|editable|ieditable|keypad)",
+     "tst_touchnumkeyboard|tst_editablewidget|tst_overlay|tst_teardown"),
+    (r"controls/(overlay|draggable|combo)",
+     "tst_overlay|tst_draggable|tst_combobox|tst_popupplacement|tst_touchnumkeyboard"),
+    (r"widgets/(enum|menu|popup)", "tst_popupwidget|tst_enumtextbutton|tst_menubutton|tst_popupplacement"),
+    (r"widgets/(label|abstract|info|switch|button|rect)",
+     "button|tst_rectangular|tst_stylesheets"),
+    (r"widgets/marker", "tst_markerstatusitem"),
+    (r"widgets/(lock|display)", "tst_lockwidget|tst_displaypanel|tst_teardown"),
+]
+
+
+def run(arguments, timeout=None, env=None):
+    try:
+        return subprocess.run(arguments, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                              text=True, timeout=timeout, env=env)
+    except subprocess.TimeoutExpired:
+        return None
+
+
+def places(path):
+    """Where a fault fits into a file: (start, end, replacement)."""
+    text = path.read_text()
+    # Comments and texts stay as they are: blanks of the same length hide them.
+    hidden = re.sub(r"//[^\n]*|/\*.*?\*/|\"(?:\\.|[^\"\\\n])*\"|^[ ]*(?:#|template|connect)[^\n]*",
+                    lambda m: re.sub(r"[^\n]", " ", m.group(0)), text, flags=re.S | re.M)
+    found = []
+    for pattern, replacement in FAULTS:
+        for match in re.finditer(pattern, hidden):
+            found.append((match.start(), match.end(), replacement))
+    return found
+
+
+def prepare():
+    shutil.rmtree(SOURCE, ignore_errors=True)
+    files = run(["git", "-C", str(ROOT), "ls-files"]).stdout.split("\n")
+    for name in filter(None, files):
+        target = SOURCE / name
+        target.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy2(ROOT / name, target)
+    configure = ["cmake", "-S", str(SOURCE), "-B", str(BUILD), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+                 "-DCMAKE_CXX_FLAGS=-g0", "-DVNAWIDGETS_TESTS=OFF", "-DVNAWIDGETS_PANEL=OFF",
+                 "-DVNAWIDGETS_EXAMPLES=OFF"]
+    if shutil.which("ccache"):
+        configure.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
+    for step in (configure, ["cmake", "--build", str(BUILD)]):
+        done = run(step)
+        if done.returncode:
+            sys.exit(done.stdout[-3000:])
+
+
+def judge(path):
+    """What becomes of the fault now in the sources."""
+    if run(["cmake", "--build", str(BUILD), "--target", "vnawidgets"]).returncode:
+        return "not compiled"
+    names = next(tests for pattern, tests in TESTS if re.search(pattern, str(path)))
+    done = run(["ctest", "--test-dir", str(ROOT / "build" / "dev"), "-R", names, "--stop-on-failure",
+                "-j2", "--timeout", "120"], timeout=600, env=dict(os.environ, LD_PRELOAD=PRELOAD))
+    if done is None:
+        return "noticed"
+    return "survived" if done.returncode == 0 else "noticed"
+
+
+def main():
+    count = int(sys.argv[1]) if len(sys.argv) > 1 else 120
+    seed = int(sys.argv[2]) if len(sys.argv) > 2 else 1
+    prepare()
+    chance = random.Random(seed)
+    sources = sorted((SOURCE / "src").rglob("*.cpp"))
+    weighted = [(path, place) for path in sources for place in places(path)]
+    chance.shuffle(weighted)
+    counts = collections.Counter()
+    with open(WORK / "result.txt", "w") as table:
+        for path, (start, end, replacement) in weighted:
+            if counts["noticed"] + counts["survived"] == count:
+                break
+            text = path.read_text()
+            path.write_text(text[:start] + replacement + text[end:])
+            verdict = judge(path.relative_to(SOURCE))
+            path.write_text(text)
+            counts[verdict] += 1
+            line = text.count("\n", 0, start) + 1
+            shown = " ".join(text[start:end].split())[:40]
+            print(f"{verdict:12} {path.relative_to(SOURCE)}:{line}: '{shown}' -> '{replacement.strip()}'",
+                  file=table, flush=True)
+        total = counts["noticed"] + counts["survived"]
+        summary = f"{counts['noticed']} of {total} faults noticed ({100 * counts['noticed'] // total} %)"
+        print(summary, file=table)
+    print(summary)
+    sys.exit(0 if 100 * counts["noticed"] >= 85 * total else 1)
+
+
+main()
