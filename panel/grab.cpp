@@ -6,6 +6,7 @@
 #include "diagramview.h"
 #include "filedialog.h"
 #include "helpdialog.h"
+#include "languages.h"
 #include "messagebar.h"
 #include "numericdialog.h"
 #include "panelmodel.h"
@@ -16,6 +17,7 @@
 #include "smithview.h"
 #include "softkey.h"
 #include "softkeymenu.h"
+#include "touchstone.h"
 
 #include <controls/thememanager.h>
 #include <plot/qcp.h>
@@ -149,7 +151,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
 
     const QString message = window->messageBar()->message();
     window->messageBar()->setMessage(
-        QStringLiteral("filter.s2p, line 12: the frequency falls back."));
+        parseTouchstone("1 0 0\n0.5 0 0\n", 1).sentence(QStringLiteral("filter.s1p")));
     grabber.grab("message");
     window->messageBar()->setMessage(message);
 
@@ -172,6 +174,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     files.resize(600, 440);
     grabDialog(&files, "file-dialog");
     SettingsDialog settingsDialog(model, window);
+    settingsDialog.setLanguage(currentLanguage());
     settingsDialog.setScreenshotFolder(screenshotFolder());
     grabDialog(&settingsDialog, "settings");
     HelpDialog help(window);
