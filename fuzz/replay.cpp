@@ -3,7 +3,8 @@
 // Stands in for libFuzzer where there is none: runs a target on every file of a folder, and on
 // bytes drawn at random, which differ from target to target only by what the target makes of them.
 // With a file's name it runs every truncation of that file, and the file with each byte in turn
-// replaced: by every other value, or in a large file by those that have a meaning in text.
+// replaced: by every other value, or in a large file by one of those that have a meaning in text
+// (by every one if VNA_EVERY_CHANGE is set, which takes minutes).
 //   fuzz_<target> FOLDER [RUNS [FILE]]
 #include <QDir>
 #include <QFile>
@@ -32,12 +33,14 @@ int damage(const QByteArray &bytes)
     int runs = 0;
     for (int size = 0; size < bytes.size(); ++size, ++runs)
         runOn(bytes.left(size));
-    const bool everyValue = bytes.size() <= largestForEveryValue;
+    const bool everyValue =
+        bytes.size() <= largestForEveryValue || qEnvironmentVariableIsSet("VNA_EVERY_CHANGE");
+    const QByteArray meaningful("\n\"\\=@\xff\0[", 8);
     for (int at = 0; at < bytes.size(); ++at) {
         QByteArray changed = bytes;
         for (int value = 0; value < 256; ++value) {
             const char c = static_cast<char>(value);
-            if (c == bytes.at(at) || (!everyValue && !QByteArray("\n\"\\=@\xff").contains(c)))
+            if (c == bytes.at(at) || (!everyValue && c != meaningful.at(at % meaningful.size())))
                 continue;
             changed[at] = c;
             runOn(changed);

@@ -136,6 +136,6 @@ void SmithChartPlot::requestQueuedReplot()
     const std::function<void()> handler = m_queuedReplotHandler;
     if (handler)
         handler();
-    else if (QCustomPlot *const plot = this->plot())
-        plot->replot(QCustomPlot::rpQueuedReplot);
+    else if (QCustomPlot *const plot = this->plot(); plot && !plot->size().isEmpty())
+        plot->replot(QCustomPlot::rpQueuedReplot); // without a size it would only complain
 }

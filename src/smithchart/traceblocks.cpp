@@ -127,7 +127,7 @@ size_t TraceBlocks::memoryUsed() const
     size_t bytes = (m_chordX.capacity() + m_chordY.capacity() + m_sag.capacity()) * sizeof(double)
         + m_finite.capacity() / 8 + m_stack.capacity() * sizeof(Candidate);
     for (const std::vector<Polygon> &level : m_levels)
-        bytes += sizeof level + level.capacity() * sizeof(Polygon);
+        bytes += sizeof(std::vector<Polygon>) + level.capacity() * sizeof(Polygon);
     return bytes;
 }
 

@@ -3,6 +3,7 @@
 #include "vectorkernels_p.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -48,7 +49,8 @@ template<typename V>
 VNA_INLINE double lane(const V &vector, int i)
 {
     double value;
-    std::memcpy(&value, reinterpret_cast<const char *>(&vector) + i * 8, sizeof value);
+    std::memcpy(&value, reinterpret_cast<const char *>(&vector) + std::ptrdiff_t(i) * 8,
+                sizeof value);
     return value;
 }
 
@@ -56,7 +58,8 @@ template<typename V>
 VNA_INLINE std::int64_t integerLane(const V &vector, int i)
 {
     std::int64_t value;
-    std::memcpy(&value, reinterpret_cast<const char *>(&vector) + i * 8, sizeof value);
+    std::memcpy(&value, reinterpret_cast<const char *>(&vector) + std::ptrdiff_t(i) * 8,
+                sizeof value);
     return value;
 }
 

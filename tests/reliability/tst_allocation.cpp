@@ -33,18 +33,20 @@ namespace
 thread_local long t_failAt = 0; ///< the allocation to fail, counted down; 0: none
 thread_local long t_held = 0; ///< blocks allocated and not freed
 
-bool failsNow()
+[[maybe_unused]] bool failsNow()
 {
     return t_failAt > 0 && --t_failAt == 0;
 }
 
-void *counted(void *memory)
+[[maybe_unused]] void *counted(void *memory)
 {
     t_held += memory ? 1 : 0;
     return memory;
 }
 
 } // namespace
+
+#ifndef __SANITIZE_ADDRESS__ // which has an allocator of its own
 
 // Those of the program take the place of the C library's, in Qt's libraries, too.
 #define TAKES_OVER extern "C" __attribute__((visibility("default")))
@@ -71,6 +73,8 @@ TAKES_OVER void free(void *memory)
     t_held -= memory ? 1 : 0;
     __libc_free(memory);
 }
+
+#endif
 
 namespace
 {

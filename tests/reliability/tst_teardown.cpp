@@ -460,9 +460,16 @@ private Q_SLOTS:
         // The last one stands for the host itself, between two calls.
         for (std::size_t occasion = 0; occasion <= occasions; ++occasion) {
             std::vector<std::size_t> order;
+            int round = 0;
             do {
+                ++round;
                 for (const bool later : {false, true}) {
-                    if (!later && occasion < occasions && first.occasions[occasion].onlyLater)
+                    // Inside of signals, one way for each order, and the other at the next signal.
+                    const bool inSignal = occasion < occasions;
+                    if (inSignal
+                        && later
+                            != (first.occasions[occasion].onlyLater
+                                || (static_cast<int>(occasion) + round) % 2 == 0))
                         continue;
                     Scene scene;
                     make(scene);
