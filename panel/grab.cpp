@@ -123,12 +123,11 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     ViewSettings *settings = model->viewSettings();
     Graph::LayoutManagerProifle *layout = settings->layoutProfile();
     layout->setLayoutType(Graph::LayoutType::Quad);
-    if (model->traces().size() > 3)
-        model->setTraceFormat(model->traces().at(3).id, TraceFormat::Phase);
+    const Trace fourth = model->traces().value(3);
+    model->setTraceFormat(fourth.id, TraceFormat::Phase);
     grabber.grab("four-diagrams");
     grabber.grabLight("four-diagrams-light");
-    if (model->traces().size() > 3)
-        model->setTraceFormat(model->traces().at(3).id, TraceFormat::LogMagnitude);
+    model->setTraceFormat(fourth.id, fourth.format);
     layout->setLayoutType(Graph::LayoutType::Stacked);
     grabber.grab("stacked");
     layout->setLayoutType(Graph::LayoutType::Single);
