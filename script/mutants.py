@@ -68,7 +68,7 @@ def places(path):
     """Where a fault fits into a file: (start, end, replacement)."""
     text = path.read_text()
     # Comments and texts stay as they are: blanks of the same length hide them.
-    hidden = re.sub(r"//[^\n]*|/\*.*?\*/|\"(?:\\.|[^\"\\\n])*\"|^[ ]*(?:#|template|connect)[^\n]*",
+    hidden = re.sub(r"//[^\n]*|/\*.*?\*/|\"(?:\\.|[^\"\\\n])*\"|^[ ]*(?:#|template|connect)[^\n]*|[^\n]*reserve\([^\n]*",
                     lambda m: re.sub(r"[^\n]", " ", m.group(0)), text, flags=re.S | re.M)
     found = []
     for pattern, replacement in FAULTS:

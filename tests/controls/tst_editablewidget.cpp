@@ -452,9 +452,10 @@ private Q_SLOTS:
             theme->setTheme(next);
             const QImage image = field->grab().toImage();
             const QColor border = theme->borderColor();
-            for (const QPoint corner :
-                 {QPoint(0, 0), QPoint(image.width() - 1, image.height() - 1)})
-                QCOMPARE(image.pixelColor(corner), border);
+            for (const QPoint edge : {QPoint(0, 0), QPoint(image.width() - 1, image.height() - 1),
+                                      QPoint(image.width() - 1, image.height() / 2),
+                                      QPoint(image.width() / 2, image.height() - 1)})
+                QCOMPARE(image.pixelColor(edge), border);
             QVERIFY(image.pixelColor(2, 2) != border);
         }
         // A press beside the line edit is one on it.

@@ -200,6 +200,10 @@ private Q_SLOTS:
         };
         QVERIFY(wheelAt(QPointF(5, 5)));
         QVERIFY(!wheelAt(QPointF(320, 240)));
+        QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+        menu.ignore();
+        QCoreApplication::sendEvent(&overlay, &menu);
+        QVERIFY(menu.isAccepted());
         QVERIFY(outside.isEmpty());
 
         TouchScreen screen(m_window.get());

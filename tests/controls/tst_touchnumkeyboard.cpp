@@ -228,6 +228,10 @@ private Q_SLOTS:
         m_keypad->setShortcutKeys(units(9));
         m_keypad->open();
         click("btnUnit4"_s);
+        const QString second = unitColumn();
+        QEvent language(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(m_keypad, &language);
+        QCOMPARE(unitColumn(), second); // another language turns no page
         m_keypad->setShortcutKeys(units(9));
         QCOMPARE(unitColumn(), "u0 u1 u2 More"_s);
         click("btnUnit4"_s);
