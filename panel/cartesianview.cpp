@@ -47,7 +47,7 @@ void CartesianView::setUpPlot()
     plot()->setAccessibleName(tr("Cartesian diagram"));
     plot()->addLayer(activeLayer(), plot()->layer(QStringLiteral("main")));
     // Above is room for a marker on the topmost line and its number.
-    plot()->axisRect()->setMinimumMargins(QMargins(12, 34, 14, 14));
+    plot()->axisRect()->setMinimumMargins(QMargins(12, 18 + fontMetrics().height() + 6, 14, 14));
     plot()->axisRect()->setupFullAxesBox();
     for (QCPAxis *axis : plot()->axisRect()->axes()) {
         axis->setTicks(axis == plot()->yAxis || axis == plot()->xAxis);

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "filecontroller.h"
 
+#include "diagrams.h"
 #include "filedialog.h"
 #include "filenotes.h"
 #include "messagebar.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
-#include "smithview.h"
 
 #include <QDir>
 #include <QDropEvent>
@@ -138,7 +138,7 @@ void FileController::open(const ReadFiles &files)
     if (!files.networks.isEmpty()) {
         m_files = pathsOf(files.networks);
         m_folder = QFileInfo(m_files.last()).absolutePath();
-        m_window->smithView()->resetView();
+        m_window->diagrams()->resetViews();
         m_model->setNetworks(files.networks);
     }
     report(files);

@@ -6,6 +6,7 @@
 #include "diagramview.h"
 #include "filedialog.h"
 #include "helpdialog.h"
+#include "languages.h"
 #include "messagebar.h"
 #include "numericdialog.h"
 #include "panelmodel.h"
@@ -16,6 +17,7 @@
 #include "smithview.h"
 #include "softkey.h"
 #include "softkeymenu.h"
+#include "touchstone.h"
 
 #include <controls/thememanager.h>
 #include <plot/qcp.h>
@@ -121,12 +123,11 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     ViewSettings *settings = model->viewSettings();
     Graph::LayoutManagerProifle *layout = settings->layoutProfile();
     layout->setLayoutType(Graph::LayoutType::Quad);
-    if (model->traces().size() > 3)
-        model->setTraceFormat(model->traces().at(3).id, TraceFormat::Phase);
+    const Trace fourth = model->traces().value(3);
+    model->setTraceFormat(fourth.id, TraceFormat::Phase);
     grabber.grab("four-diagrams");
     grabber.grabLight("four-diagrams-light");
-    if (model->traces().size() > 3)
-        model->setTraceFormat(model->traces().at(3).id, TraceFormat::LogMagnitude);
+    model->setTraceFormat(fourth.id, fourth.format);
     layout->setLayoutType(Graph::LayoutType::Stacked);
     grabber.grab("stacked");
     layout->setLayoutType(Graph::LayoutType::Single);
@@ -149,7 +150,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
 
     const QString message = window->messageBar()->message();
     window->messageBar()->setMessage(
-        QStringLiteral("filter.s2p, line 12: the frequency falls back."));
+        parseTouchstone("1 0 0\n0.5 0 0\n", 1).sentence(QStringLiteral("filter.s1p")));
     grabber.grab("message");
     window->messageBar()->setMessage(message);
 
@@ -172,6 +173,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     files.resize(600, 440);
     grabDialog(&files, "file-dialog");
     SettingsDialog settingsDialog(model, window);
+    settingsDialog.setLanguage(currentLanguage());
     settingsDialog.setScreenshotFolder(screenshotFolder());
     grabDialog(&settingsDialog, "settings");
     HelpDialog help(window);

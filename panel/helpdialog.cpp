@@ -18,26 +18,26 @@ HelpDialog::HelpDialog(QWidget *parent)
     grid->setContentsMargins(16, 16 + 35, 16, 16);
     grid->setHorizontalSpacing(24);
     grid->setVerticalSpacing(7);
-    const std::pair<const char *, QString> rows[] = {
-        {"Tab", tr("go through all keys; Space or Return presses")},
-        {"Ctrl + PgUp, PgDn", tr("turn the page of soft keys")},
-        {"+  \u2212  0", tr("magnify a diagram, or show all of it")},
-        {"\u2190 \u2192", tr("move the selected marker, or the view")},
-        {"\u2191 \u2193", tr("move the view")},
-        {"Del", tr("remove the selected marker")},
-        {"Esc", tr("select none; leave an entry without changing it")},
-        {"Ctrl + O", tr("open files")},
-        {"Ctrl + P", tr("take a screenshot")},
-        {"Ctrl + L", tr("show or hide the padlock")},
-        {"Ctrl + T", tr("dark or light")},
-        {"Ctrl + ,", tr("settings")},
-        {"F3", tr("show what the drawing costs")},
-        {"F11", tr("full screen")},
-        {"Ctrl + Q", tr("quit")},
+    const std::pair<QString, QString> rows[] = {
+        {tr("Tab"), tr("go through all keys; Space or Return presses")},
+        {tr("Ctrl + PgUp, PgDn"), tr("turn the page of soft keys")},
+        {QStringLiteral("+  \u2212  0"), tr("magnify a diagram, or show all of it")},
+        {QStringLiteral("\u2190 \u2192"), tr("move the selected marker, or the view")},
+        {QStringLiteral("\u2191 \u2193"), tr("move the view")},
+        {tr("Del"), tr("remove the selected marker")},
+        {tr("Esc"), tr("select none; leave an entry without changing it")},
+        {tr("Ctrl + O"), tr("open files")},
+        {tr("Ctrl + P"), tr("take a screenshot")},
+        {tr("Ctrl + L"), tr("show or hide the padlock")},
+        {tr("Ctrl + T"), tr("dark or light")},
+        {tr("Ctrl + ,"), tr("settings")},
+        {QStringLiteral("F3"), tr("show what the drawing costs")},
+        {QStringLiteral("F11"), tr("full screen")},
+        {tr("Ctrl + Q"), tr("quit")},
     };
     int row = 0;
     for (const auto &[keys, action] : rows) {
-        auto *name = new QLabel(QString::fromUtf8(keys));
+        auto *name = new QLabel(keys);
         QFont bold = name->font();
         bold.setBold(true);
         name->setFont(bold);

@@ -9,6 +9,13 @@
 
 #include <algorithm>
 
+// Outside the namespace, because the macro declares a global function.
+static void registerCatalogues()
+{
+    Q_INIT_RESOURCE(vnatranslations);
+    Q_INIT_RESOURCE(vnapaneltranslations);
+}
+
 namespace Panel
 {
 
@@ -47,6 +54,7 @@ bool setLanguage(const QString &code)
 {
     if (!isLanguage(code))
         return false;
+    registerCatalogues();
     s_current = code;
     QCoreApplication::removeTranslator(panelCatalogue());
     if (panelCatalogue()->load(QStringLiteral(":/i18n/vnapanel_") + code))

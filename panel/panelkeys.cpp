@@ -18,23 +18,22 @@ namespace Panel
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Panel::PanelKeys", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Panel::PanelKeys)
+};
 
-MenuButton *addMenu(SoftKeyMenu *menu, const char *name)
+MenuButton *addMenu(SoftKeyMenu *menu, const QString &name)
 {
-    auto *button = new MenuButton(tr(name) + QStringLiteral(" \u25be"));
-    button->setAccessibleName(tr(name));
+    auto *button = new MenuButton(name + QStringLiteral(" \u25be"));
+    button->setAccessibleName(name);
     menu->addKey(button);
     return button;
 }
 
-SwitchButton *addSwitch(SoftKeyMenu *menu, const char *name)
+SwitchButton *addSwitch(SoftKeyMenu *menu, const QString &name)
 {
     auto *button = new SwitchButton;
-    button->setText(tr(name));
+    button->setText(name);
     button->setTextMargins({10, 0, 10, 0});
     menu->addKey(button);
     return button;
@@ -45,48 +44,48 @@ SwitchButton *addSwitch(SoftKeyMenu *menu, const char *name)
 PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
 {
     PanelKeys keys{};
-    menu->addPage(tr("Stimulus"));
-    keys.start = menu->addKey(tr("Start"));
-    keys.stop = menu->addKey(tr("Stop"));
-    keys.center = menu->addKey(tr("Center"));
-    keys.span = menu->addKey(tr("Span"));
-    keys.points = menu->addKey(tr("Points"));
+    menu->addPage(Text::tr("Stimulus"));
+    keys.start = menu->addKey(Text::tr("Start"));
+    keys.stop = menu->addKey(Text::tr("Stop"));
+    keys.center = menu->addKey(Text::tr("Center"));
+    keys.span = menu->addKey(Text::tr("Span"));
+    keys.points = menu->addKey(Text::tr("Points"));
 
-    menu->addPage(tr("Trace"));
-    keys.trace = menu->addKey(tr("Trace"));
-    keys.format = menu->addKey(tr("Format"));
-    keys.scale = menu->addKey(tr("Scale"));
-    keys.reference = menu->addKey(tr("Reference"));
-    keys.memory = addMenu(menu, QT_TR_NOOP("Memory"));
-    keys.visible = addSwitch(menu, QT_TR_NOOP("Visible"));
+    menu->addPage(Text::tr("Trace"));
+    keys.trace = menu->addKey(Text::tr("Trace"));
+    keys.format = menu->addKey(Text::tr("Format"));
+    keys.scale = menu->addKey(Text::tr("Scale"));
+    keys.reference = menu->addKey(Text::tr("Reference"));
+    keys.memory = addMenu(menu, Text::tr("Memory"));
+    keys.visible = addSwitch(menu, Text::tr("Visible"));
 
-    menu->addPage(tr("Marker"));
-    keys.marker = menu->addKey(tr("Marker"));
-    keys.markerStimulus = menu->addKey(tr("Stimulus"));
-    keys.search = addMenu(menu, QT_TR_NOOP("Search"));
-    keys.markerTo = addMenu(menu, QT_TR_NOOP("Marker to"));
-    keys.referenceMarker = menu->addKey(tr("Reference"));
-    keys.readout = menu->addKey(tr("Read-out"));
+    menu->addPage(Text::tr("Marker"));
+    keys.marker = menu->addKey(Text::tr("Marker"));
+    keys.markerStimulus = menu->addKey(Text::tr("Stimulus"));
+    keys.search = addMenu(menu, Text::tr("Search"));
+    keys.markerTo = addMenu(menu, Text::tr("Marker to"));
+    keys.referenceMarker = menu->addKey(Text::tr("Reference"));
+    keys.readout = menu->addKey(Text::tr("Read-out"));
 
-    menu->addPage(tr("Display"));
+    menu->addPage(Text::tr("Display"));
     keys.layout = new DisplayPanel(model->viewSettings()->layoutProfile());
     menu->addWidget(keys.layout);
-    keys.grid = menu->addKey(tr("Grid"));
-    keys.density = menu->addKey(tr("Density"));
-    keys.zoom = menu->addKey(tr("Zoom"));
-    keys.pointer = menu->addKey(tr("Pointer"));
+    keys.grid = menu->addKey(Text::tr("Grid"));
+    keys.density = menu->addKey(Text::tr("Density"));
+    keys.zoom = menu->addKey(Text::tr("Zoom"));
+    keys.pointer = menu->addKey(Text::tr("Pointer"));
 
-    menu->addPage(tr("Sweep"));
-    keys.source = menu->addKey(tr("Source"));
-    keys.sweep = addSwitch(menu, QT_TR_NOOP("Sweep"));
-    keys.tune = menu->addKey(tr("Resonance"));
-    keys.timing = addSwitch(menu, QT_TR_NOOP("Timing"));
+    menu->addPage(Text::tr("Sweep"));
+    keys.source = menu->addKey(Text::tr("Source"));
+    keys.sweep = addSwitch(menu, Text::tr("Sweep"));
+    keys.tune = menu->addKey(Text::tr("Resonance"));
+    keys.timing = addSwitch(menu, Text::tr("Timing"));
 
-    menu->addPage(tr("System"));
-    keys.file = menu->addKey(tr("File"));
-    keys.screenshot = menu->addKey(tr("Screenshot"));
-    keys.settings = menu->addKey(tr("Settings"));
-    keys.help = menu->addKey(tr("Keys"));
+    menu->addPage(Text::tr("System"));
+    keys.file = menu->addKey(Text::tr("File"));
+    keys.screenshot = menu->addKey(Text::tr("Screenshot"));
+    keys.settings = menu->addKey(Text::tr("Settings"));
+    keys.help = menu->addKey(Text::tr("Keys"));
     return keys;
 }
 

@@ -4,6 +4,8 @@
 
 #include <samples/circuits.h>
 
+#include <QCoreApplication>
+
 #include <cmath>
 
 namespace Panel
@@ -11,6 +13,10 @@ namespace Panel
 
 namespace
 {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Panel::SimulatedDevice)
+};
 
 constexpr double s_pi = 3.14159265358979323846;
 /// The circuit drifts to and fro once in so many moments.
@@ -63,13 +69,13 @@ QString SimulatedDevice::name(Kind kind)
 {
     switch (kind) {
     case Antenna:
-        return QStringLiteral("Antenna");
+        return Text::tr("Antenna");
     case Filter:
-        return QStringLiteral("Filter");
+        return Text::tr("Filter");
     case Cable:
         break;
     }
-    return QStringLiteral("Long cable");
+    return Text::tr("Long cable");
 }
 
 Sweep SimulatedDevice::usualSweep(Kind kind, int points)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "touchstone.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -17,6 +18,10 @@ namespace Panel
 
 namespace
 {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Panel::Touchstone)
+};
 
 constexpr qint64 s_largestFile = 512 * 1024 * 1024;
 /// Bytes between two reports of progress.
@@ -56,7 +61,7 @@ QString quoted(std::string_view word)
 
 QString cancelled()
 {
-    return QStringLiteral("the reading was cancelled");
+    return Text::tr("the reading was cancelled");
 }
 
 /// Reads a whole word as a number or NaN, whatever the locale; false for anything else and for what
@@ -104,12 +109,10 @@ public:
             }
         }
         if (m_filled > 0) {
-            fail(QStringLiteral("the last point has %1 of %2 numbers")
-                     .arg(m_filled)
-                     .arg(m_pointNumbers));
+            fail(Text::tr("the last point has %1 of %2 numbers").arg(m_filled).arg(m_pointNumbers));
             m_result.line = m_pointLine;
         } else if (m_result.network.frequencies.isEmpty()) {
-            fail(QStringLiteral("the file holds no data"));
+            fail(Text::tr("the file holds no data"));
             m_result.line = 0;
         }
         if (!m_result.ok())
@@ -179,9 +182,9 @@ private:
         if (line.front() == '#')
             return parseOptions(line.substr(1));
         if (line.front() == '[') {
-            return fail(QStringLiteral(
-                            "%1 is a keyword of Touchstone version 2, and only version 1 is read")
-                            .arg(quoted(line.substr(0, line.find(']') + 1))));
+            return fail(
+                Text::tr("%1 is a keyword of Touchstone version 2, and only version 1 is read")
+                    .arg(quoted(line.substr(0, line.find(']') + 1))));
         }
         return parseData(line);
     }
@@ -192,7 +195,7 @@ private:
         if (m_hasOptions)
             return true;
         if (m_filled > 0 || !m_result.network.frequencies.isEmpty())
-            return fail(QStringLiteral("the option line comes after data"));
+            return fail(Text::tr("the option line comes after data"));
         m_hasOptions = true;
         std::string_view word;
         while (nextWord(line, word)) {
@@ -222,13 +225,12 @@ private:
             double &ohms = m_result.network.referenceOhms;
             if (!nextWord(rest, word) || !toNumber(word, ohms) || !(ohms > 0.0))
                 return fail(
-                    QStringLiteral("the reference resistance after R must be a number above zero"));
+                    Text::tr("the reference resistance after R must be a number above zero"));
         } else if (word.size() == 1 && std::string_view("yzghYZGH").find(word[0]) != word.npos) {
-            return fail(
-                QStringLiteral("the file holds %1 parameters, and only S parameters are read")
-                    .arg(QString(QLatin1Char(word[0])).toUpper()));
+            return fail(Text::tr("the file holds %1 parameters, and only S parameters are read")
+                            .arg(QString(QLatin1Char(word[0])).toUpper()));
         } else if (!sameWord(word, "s")) {
-            return fail(QStringLiteral("%1 is no option of a Touchstone file").arg(quoted(word)));
+            return fail(Text::tr("%1 is no option of a Touchstone file").arg(quoted(word)));
         }
         return true;
     }
@@ -241,8 +243,7 @@ private:
         while (nextWord(line, word)) {
             double value = 0.0;
             if (!toNumber(word, value))
-                return fail(
-                    QStringLiteral("%1 stands where a finite number belongs").arg(quoted(word)));
+                return fail(Text::tr("%1 stands where a finite number belongs").arg(quoted(word)));
             if (count == int(numbers.size()))
                 return failLong();
             numbers[std::size_t(count++)] = value;
@@ -281,12 +282,12 @@ private:
     bool takeNoise(double frequency, int count)
     {
         if (count != s_noiseNumbers)
-            return fail(QStringLiteral("a line of noise data has %1 numbers, not %2")
+            return fail(Text::tr("a line of noise data has %1 numbers, not %2")
                             .arg(s_noiseNumbers)
                             .arg(count));
         const double hertz = frequency * m_unit;
         if (m_inNoise && hertz < m_noiseHertz)
-            return fail(QStringLiteral("the frequency falls back in the noise data"));
+            return fail(Text::tr("the frequency falls back in the noise data"));
         m_inNoise = true;
         m_noiseHertz = hertz;
         return true;
@@ -298,11 +299,10 @@ private:
             m_pointLine = m_line;
             const double hertz = numbers[0] * m_unit;
             if (!(hertz >= 0.0) || !std::isfinite(hertz))
-                return fail(
-                    QStringLiteral("the frequency must not be below zero nor beyond all bounds"));
+                return fail(Text::tr("the frequency must not be below zero nor beyond all bounds"));
             const QVector<double> &frequencies = m_result.network.frequencies;
             if (!frequencies.isEmpty() && hertz < frequencies.last())
-                return fail(QStringLiteral("the frequency falls back"));
+                return fail(Text::tr("the frequency falls back"));
         }
         if (m_filled + count > m_pointNumbers)
             return failLong();
@@ -313,17 +313,17 @@ private:
 
     bool failLong()
     {
-        return fail(
-            QStringLiteral("the point has more than the %1 numbers of a %2-port")
-                .arg(m_pointNumbers)
-                .arg(m_result.network.ports == 1 ? QStringLiteral("one") : QStringLiteral("two")));
+        return fail((m_result.network.ports == 1
+                         ? Text::tr("the point has more than the %1 numbers of a one-port")
+                         : Text::tr("the point has more than the %1 numbers of a two-port"))
+                        .arg(m_pointNumbers));
     }
 
     bool takePoint()
     {
         Network &network = m_result.network;
         if (network.frequencies.size() == s_mostPoints)
-            return fail(QStringLiteral("the file has more than %1 points").arg(s_mostPoints));
+            return fail(Text::tr("the file has more than %1 points").arg(s_mostPoints));
         for (int i = 0; i < network.parameters.size(); ++i) {
             double a = m_point[std::size_t(1 + 2 * i)];
             double b = m_point[std::size_t(2 + 2 * i)];
@@ -334,7 +334,7 @@ private:
                 a = magnitude * std::cos(radians);
                 b = magnitude * std::sin(radians);
                 if (std::isinf(a) || std::isinf(b))
-                    return fail(QStringLiteral("a value is beyond all bounds"));
+                    return fail(Text::tr("a value is beyond all bounds"));
             }
             // Half a value is none.
             if (std::isnan(a) || std::isnan(b))
@@ -374,15 +374,15 @@ private:
 QString readText(const QFileInfo &info, QByteArray &text, const ReadProgress &progress)
 {
     if (!info.isFile())
-        return QStringLiteral("this is no ordinary file");
+        return Text::tr("this is no ordinary file");
     const QString tooLarge =
-        QStringLiteral("the file is larger than %1 MB").arg(s_largestFile / (1024 * 1024));
+        Text::tr("the file is larger than %1 MB").arg(s_largestFile / (1024 * 1024));
     const qint64 expected = info.size();
     if (expected > s_largestFile)
         return tooLarge;
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly))
-        return QStringLiteral("the file cannot be read (%1)").arg(file.errorString());
+        return Text::tr("the file cannot be read (%1)").arg(file.errorString());
     text.reserve(int(expected));
     for (QByteArray portion = file.read(s_portion); !portion.isEmpty();
          portion = file.read(s_portion)) {
@@ -395,23 +395,22 @@ QString readText(const QFileInfo &info, QByteArray &text, const ReadProgress &pr
     }
     return file.error() == QFileDevice::NoError
         ? QString()
-        : QStringLiteral("the file cannot be read (%1)").arg(file.errorString());
+        : Text::tr("the file cannot be read (%1)").arg(file.errorString());
 }
 
 /// What is wrong with a file before it is opened, or nothing.
 QString refusal(const QFileInfo &info, int ports)
 {
     if (!info.exists())
-        return QStringLiteral("there is no such file");
+        return Text::tr("there is no such file");
     if (info.isDir())
-        return QStringLiteral("this is a folder, not a file");
+        return Text::tr("this is a folder, not a file");
     if (!info.isFile())
-        return QStringLiteral("this is no ordinary file");
+        return Text::tr("this is no ordinary file");
     if (ports == 0)
-        return QStringLiteral("the name of a Touchstone file ends in .s1p or .s2p");
+        return Text::tr("the name of a Touchstone file ends in .s1p or .s2p");
     if (ports > 2)
-        return QStringLiteral("a network of %1 ports, and only one and two ports are read")
-            .arg(ports);
+        return Text::tr("a network of %1 ports, and only one and two ports are read").arg(ports);
     return QString();
 }
 
@@ -420,8 +419,8 @@ QString refusal(const QFileInfo &info, int ports)
 QString TouchstoneResult::sentence(const QString &file) const
 {
     if (line > 0)
-        return QStringLiteral("%1, line %2: %3.").arg(file, QString::number(line), reason);
-    return QStringLiteral("%1: %2.").arg(file, reason);
+        return Text::tr("%1, line %2: %3.").arg(file, QString::number(line), reason);
+    return Text::tr("%1: %2.").arg(file, reason);
 }
 
 int touchstonePorts(const QString &fileName)

@@ -8,6 +8,7 @@
 #include "panelwindow.h"
 #include "softkey.h"
 
+#include <platform/placement.h>
 #include <widgets/menubutton.h>
 #include <widgets/popupwidget.h>
 #include <widgets/switchbutton.h>
@@ -139,7 +140,8 @@ void TraceController::choose(QWidget *anchor, const QRect &place, const QStringL
             [choices, picked](const QString &text) { picked(int(choices.indexOf(text))); });
     connect(popup, &PopupWidget::widgetClosed, popup, &QObject::deleteLater);
     popup->popup();
-    popup->move(anchor->mapToGlobal(place.bottomLeft()));
+    popup->move(Utils::boundedTopLeft(anchor->mapToGlobal(place.bottomLeft()), popup->size(),
+                                      m_window->geometry(), 0));
     popup->show();
 }
 

@@ -12,10 +12,9 @@ namespace Panel
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Panel::TraceFormat", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Panel::TraceFormat)
+};
 
 } // namespace
 
@@ -43,13 +42,13 @@ QString formatName(TraceFormat format)
 {
     switch (format) {
     case TraceFormat::Smith:
-        return tr("Smith");
+        return Text::tr("Smith");
     case TraceFormat::LogMagnitude:
-        return tr("LogM");
+        return Text::tr("LogM");
     case TraceFormat::Phase:
-        return tr("Phase");
+        return Text::tr("Phase");
     case TraceFormat::Vswr:
-        return tr("VSWR");
+        return Text::tr("VSWR");
     }
     return {};
 }
@@ -58,17 +57,17 @@ QString formatName(ReadoutFormat format)
 {
     switch (format) {
     case ReadoutFormat::Automatic:
-        return tr("As the grid");
+        return Text::tr("As the grid");
     case ReadoutFormat::Impedance:
         return QStringLiteral("R + jX");
     case ReadoutFormat::Admittance:
         return QStringLiteral("G + jB");
     case ReadoutFormat::MagnitudePhase:
-        return tr("Mag / phase");
+        return Text::tr("Mag / phase");
     case ReadoutFormat::Decibels:
-        return tr("dB / phase");
+        return Text::tr("dB / phase");
     case ReadoutFormat::Vswr:
-        return tr("VSWR");
+        return Text::tr("VSWR");
     }
     return {};
 }

@@ -34,8 +34,7 @@ void Translator::setLanguage(const QLocale &locale)
         return;
     m_locale = locale;
     QCoreApplication::removeTranslator(&m_catalogue);
-    if (m_catalogue.load(locale, QStringLiteral("vnawidgets"), QStringLiteral("_"),
-                         QStringLiteral(":/i18n")))
+    if (load(locale) || load(QLocale(QLocale::English)))
         QCoreApplication::installTranslator(&m_catalogue);
 
     const QString language = displayName(locale);
@@ -43,6 +42,12 @@ void Translator::setLanguage(const QLocale &locale)
         return;
     m_language = language;
     Q_EMIT languageChanged(language);
+}
+
+bool Translator::load(const QLocale &locale)
+{
+    return m_catalogue.load(locale, QStringLiteral("vnawidgets"), QStringLiteral("_"),
+                            QStringLiteral(":/i18n"));
 }
 
 } // namespace Utils

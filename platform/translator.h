@@ -33,7 +33,7 @@ public:
     QString currentLanguage() const { return m_language; }
 
 public Q_SLOTS:
-    /*! Switches to the language of the locale. Where no catalogue exists the texts stay in English;
+    /*! Switches to the language of the locale. Where no catalogue exists the texts are English;
         the language counts as switched all the same. Call it at the start for English too. */
     void setLanguage(const QLocale &locale);
 
@@ -44,6 +44,8 @@ Q_SIGNALS:
 
 private:
     Translator() = default;
+
+    bool load(const QLocale &locale);
 
     QLocale m_locale = QLocale::c();
     QString m_language = QStringLiteral("English");

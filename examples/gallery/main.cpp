@@ -6,11 +6,11 @@
 #include "grab.h"
 
 #include <controls/thememanager.h>
+#include <platform/translator.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
-#include <QTranslator>
 
 #include <cstdio>
 
@@ -25,20 +25,6 @@ void dropPlatformNoise(QtMsgType type, const QMessageLogContext &context, const 
     if (!message.startsWith(QLatin1String("This plugin does not support")))
         s_handleMessage(type, context, message);
 }
-
-/// The English captions of texts whose source says for translators where they stand.
-class Captions : public QTranslator
-{
-public:
-    QString translate(const char *, const char *source, const char *, int) const override
-    {
-        QString text = QString::fromUtf8(source);
-        return text.endsWith(QLatin1String("(GraphLabel)"))
-            ? text.remove(QLatin1String("(GraphLabel)"))
-            : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 int fail(const QString &message)
 {
@@ -86,8 +72,8 @@ int main(int argc, char **argv)
         std::fputs(qUtf8Printable(parser.helpText()), stdout);
         return 0;
     }
-    Captions captions;
-    QCoreApplication::installTranslator(&captions);
+    // The gallery is English, and the library's English texts are a catalogue too.
+    Utils::Translator::instance()->setLanguage(QLocale(QLocale::English));
     QFont font = QApplication::font();
     font.setPixelSize(14);
     QApplication::setFont(font);

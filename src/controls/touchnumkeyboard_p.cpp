@@ -90,15 +90,16 @@ void TouchNumKeyboardPrivate::labelKeys()
     };
     for (QPushButton *digit : digits())
         label(digit, basicButtons.value(digit).text, basicButtons.value(digit).text);
-    label(ui.btnP, QStringLiteral("."), q->tr("Point"));
-    label(ui.btnC, QStringLiteral("\u00b1"), q->tr("Plus minus"));
-    label(ui.btnEsc, q->tr("Esc", "key that cancels"), q->tr("Cancel"));
-    label(ui.btnBack, QStringLiteral("\u232b"), q->tr("Backspace"));
-    label(ui.btnDown, QStringLiteral("\u25bc"), q->tr("Step down"));
-    label(ui.btnUp, QStringLiteral("\u25b2"), q->tr("Step up"));
-    label(ui.btnLeft, QStringLiteral("\u25c0"), q->tr("Cursor left"));
-    label(ui.btnRight, QStringLiteral("\u25b6"), q->tr("Cursor right"));
-    label(ui.btnOk, q->tr("OK", "key that enters"), q->tr("Enter"));
+    label(ui.btnP, QStringLiteral("."), TouchNumKeyboard::tr("Point"));
+    label(ui.btnC, QStringLiteral("\u00b1"), TouchNumKeyboard::tr("Plus minus"));
+    label(ui.btnEsc, TouchNumKeyboard::tr("Esc", "key that cancels"),
+          TouchNumKeyboard::tr("Cancel"));
+    label(ui.btnBack, QStringLiteral("\u232b"), TouchNumKeyboard::tr("Backspace"));
+    label(ui.btnDown, QStringLiteral("\u25bc"), TouchNumKeyboard::tr("Step down"));
+    label(ui.btnUp, QStringLiteral("\u25b2"), TouchNumKeyboard::tr("Step up"));
+    label(ui.btnLeft, QStringLiteral("\u25c0"), TouchNumKeyboard::tr("Cursor left"));
+    label(ui.btnRight, QStringLiteral("\u25b6"), TouchNumKeyboard::tr("Cursor right"));
+    label(ui.btnOk, TouchNumKeyboard::tr("OK", "key that enters"), TouchNumKeyboard::tr("Enter"));
     updateEnterKey();
 }
 

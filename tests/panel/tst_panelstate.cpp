@@ -49,6 +49,7 @@ private:
 /// Saves a state in which nothing is as it is at the start.
 void PanelStateTest::init()
 {
+    TestCase::init();
     using Controls::ThemeManager;
     PanelDesk desk;
     QFile::copy(sampleFolder() + QStringLiteral("/amplifier.s2p"), path("a.s2p"));

@@ -6,6 +6,7 @@
 #include <controls/thememanager.h>
 #include <panel/diagrams.h>
 #include <panel/filedialog.h>
+#include <panel/languages.h>
 #include <panel/look.h>
 #include <panel/timingline.h>
 #include <panel/tracebar.h>
@@ -60,6 +61,7 @@ private Q_SLOTS:
 void PanelWindowTest::cleanup()
 {
     Controls::ThemeManager::instance()->setTheme(Controls::ThemeManager::Dark);
+    setLanguage(QStringLiteral("en"));
     TestCase::cleanup();
 }
 
@@ -331,16 +333,22 @@ void PanelWindowTest::followsTheTheme()
 void PanelWindowTest::nothingIsClipped_data()
 {
     QTest::addColumn<QSize>("size");
-    QTest::newRow("smallest") << QSize(800, 480);
-    QTest::newRow("small") << QSize(1024, 600);
-    QTest::newRow("wide") << QSize(1280, 800);
-    QTest::newRow("tall") << QSize(800, 1280);
-    QTest::newRow("largest") << QSize(1920, 1080);
+    QTest::addColumn<QString>("language");
+    const QString english = QStringLiteral("en");
+    QTest::newRow("smallest") << QSize(800, 480) << english;
+    QTest::newRow("smallest, German") << QSize(800, 480) << QStringLiteral("de");
+    QTest::newRow("smallest, Chinese") << QSize(800, 480) << QStringLiteral("zh_CN");
+    QTest::newRow("small") << QSize(1024, 600) << english;
+    QTest::newRow("wide") << QSize(1280, 800) << english;
+    QTest::newRow("tall") << QSize(800, 1280) << english;
+    QTest::newRow("largest") << QSize(1920, 1080) << english;
 }
 
 void PanelWindowTest::nothingIsClipped()
 {
     QFETCH(QSize, size);
+    QFETCH(QString, language);
+    QVERIFY(setLanguage(language));
     ChartDesk desk(size);
     for (int marker = 0; marker < PanelModel::markersPerTrace; ++marker)
         desk.model.addMarker(1, 10.0 * marker);

@@ -1,0 +1,861 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Panel::CartesianView</name>
+    <message>
+        <source>Cartesian diagram</source>
+        <translation>直角坐标图</translation>
+    </message>
+    <message>
+        <source>ref %1</source>
+        <translation>参考 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::DiagramController</name>
+    <message>
+        <source>Impedance</source>
+        <translation>阻抗</translation>
+    </message>
+    <message>
+        <source>Admittance</source>
+        <translation>导纳</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>两者</translation>
+    </message>
+    <message>
+        <source>Basic</source>
+        <translation>简略</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>Detailed</source>
+        <translation>详细</translation>
+    </message>
+    <message>
+        <source>All traces</source>
+        <translation>所有轨迹</translation>
+    </message>
+    <message>
+        <source>Active only</source>
+        <translation>仅激活轨迹</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::DiagramView</name>
+    <message>
+        <source>All traces are hidden</source>
+        <translation>所有轨迹均已隐藏</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FileController</name>
+    <message>
+        <source>Reading %1</source>
+        <translation>正在读取 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading %n files</source>
+        <translation>
+            <numerusform>正在读取 %n 个文件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n more)</source>
+        <translation>
+            <numerusform>（另有 %n 条）</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is gone; the panel keeps what it read.</source>
+        <translation>%1 已不存在；面板保留已读取的数据。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are gone; the panel keeps what it read.</source>
+        <translation>
+            <numerusform>%n 个文件已不存在；面板保留已读取的数据。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 has changed on disk.</source>
+        <translation>%1 在磁盘上已更改。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have changed on disk.</source>
+        <translation>
+            <numerusform>%n 个文件在磁盘上已更改。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新读取</translation>
+    </message>
+    <message>
+        <source>Only files of this computer can be opened.</source>
+        <translation>只能打开本机上的文件。</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FileDialog</name>
+    <message>
+        <source>Open Touchstone files</source>
+        <translation>打开 Touchstone 文件</translation>
+    </message>
+    <message>
+        <source>↑ Up</source>
+        <translation>↑ 上级</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>主目录</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>示例</translation>
+    </message>
+    <message>
+        <source>Folders and Touchstone files</source>
+        <translation>文件夹和 Touchstone 文件</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Shipped samples</source>
+        <translation>自带示例</translation>
+    </message>
+    <message numerus="yes">
+        <source>Picked: %n</source>
+        <translation>
+            <numerusform>已选：%n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No .s1p or .s2p files here</source>
+        <translation>此处没有 .s1p 或 .s2p 文件</translation>
+    </message>
+    <message>
+        <source>This folder cannot be read</source>
+        <translation>此文件夹无法读取</translation>
+    </message>
+    <message>
+        <source>Tap files to pick them</source>
+        <translation>点按文件以选择</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FileNotes</name>
+    <message>
+        <source>%1 holds a single point, at %2: set a marker to see it.</source>
+        <translation>%1 只含一个点（%2）：设置标记即可看到。</translation>
+    </message>
+    <message>
+        <source>%1: %2 holds no values.</source>
+        <translation>%1：%2 没有数值。</translation>
+    </message>
+    <message>
+        <source>Each file is shown in its own reference: %1.</source>
+        <translation>各文件按各自的参考阻抗显示：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::HelpDialog</name>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>go through all keys; Space or Return presses</source>
+        <translation>遍历所有按键；空格键或回车键按下</translation>
+    </message>
+    <message>
+        <source>Ctrl + PgUp, PgDn</source>
+        <translation>Ctrl + PgUp, PgDn</translation>
+    </message>
+    <message>
+        <source>turn the page of soft keys</source>
+        <translation>翻动软键页</translation>
+    </message>
+    <message>
+        <source>magnify a diagram, or show all of it</source>
+        <translation>放大图形，或显示全图</translation>
+    </message>
+    <message>
+        <source>move the selected marker, or the view</source>
+        <translation>移动所选标记或视图</translation>
+    </message>
+    <message>
+        <source>move the view</source>
+        <translation>移动视图</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>remove the selected marker</source>
+        <translation>删除所选标记</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>select none; leave an entry without changing it</source>
+        <translation>取消选择；放弃输入，不作更改</translation>
+    </message>
+    <message>
+        <source>Ctrl + O</source>
+        <translation>Ctrl + O</translation>
+    </message>
+    <message>
+        <source>open files</source>
+        <translation>打开文件</translation>
+    </message>
+    <message>
+        <source>Ctrl + P</source>
+        <translation>Ctrl + P</translation>
+    </message>
+    <message>
+        <source>take a screenshot</source>
+        <translation>截屏</translation>
+    </message>
+    <message>
+        <source>Ctrl + L</source>
+        <translation>Ctrl + L</translation>
+    </message>
+    <message>
+        <source>show or hide the padlock</source>
+        <translation>显示或隐藏屏幕锁</translation>
+    </message>
+    <message>
+        <source>Ctrl + T</source>
+        <translation>Ctrl + T</translation>
+    </message>
+    <message>
+        <source>dark or light</source>
+        <translation>深色或浅色</translation>
+    </message>
+    <message>
+        <source>Ctrl + ,</source>
+        <translation>Ctrl + ,</translation>
+    </message>
+    <message>
+        <source>settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>show what the drawing costs</source>
+        <translation>显示绘图耗时</translation>
+    </message>
+    <message>
+        <source>full screen</source>
+        <translation>全屏</translation>
+    </message>
+    <message>
+        <source>Ctrl + Q</source>
+        <translation>Ctrl + Q</translation>
+    </message>
+    <message>
+        <source>quit</source>
+        <translation>退出</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MarkerController</name>
+    <message>
+        <source>Maximum</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>Next peak left</source>
+        <translation>左侧下一峰值</translation>
+    </message>
+    <message>
+        <source>Next peak right</source>
+        <translation>右侧下一峰值</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>中心</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>起始</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>终止</translation>
+    </message>
+    <message>
+        <source>Trace %1 has all its %2 markers: remove one to set another.</source>
+        <translation>轨迹 %1 已有全部 %2 个标记：请先删除一个。</translation>
+    </message>
+    <message>
+        <source>Trace %1 has no such point.</source>
+        <translation>轨迹 %1 上没有这样的点。</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>全部删除</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MessageBar</name>
+    <message>
+        <source>Close message</source>
+        <translation>关闭消息</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::NumericDialog</name>
+    <message>
+        <source>Step</source>
+        <translation>步进</translation>
+    </message>
+    <message>
+        <source>1-2-5</source>
+        <translation>1-2-5</translation>
+    </message>
+    <message>
+        <source>Not a value</source>
+        <translation>无效数值</translation>
+    </message>
+    <message>
+        <source>%1: %2 is out of range, limited to %3.</source>
+        <translation>%1：%2 超出范围，已限制为 %3。</translation>
+    </message>
+    <message>
+        <source>Highest value: %1</source>
+        <translation>最大值：%1</translation>
+    </message>
+    <message>
+        <source>Lowest value: %1</source>
+        <translation>最小值：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::NumericKeys</name>
+    <message>
+        <source>Scale/</source>
+        <translation>刻度/</translation>
+    </message>
+    <message>
+        <source>Scale, %1/</source>
+        <translation>刻度，%1/</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PanelController</name>
+    <message>
+        <source>The language changes with the next start of the panel.</source>
+        <translation>语言将在下次启动程序时更改。</translation>
+    </message>
+    <message>
+        <source>The screenshot is %1.</source>
+        <translation>截屏已保存为 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PanelKeys</name>
+    <message>
+        <source>Stimulus</source>
+        <translation>激励</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>起始</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>终止</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>中心</translation>
+    </message>
+    <message>
+        <source>Span</source>
+        <translation>扫宽</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>轨迹</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>刻度</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>参考</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>存储</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>可见</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Marker to</source>
+        <translation>标记设为</translation>
+    </message>
+    <message>
+        <source>Read-out</source>
+        <translation>读数</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>网格</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>密度</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Pointer</source>
+        <translation>指针</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>扫描</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>数据源</translation>
+    </message>
+    <message>
+        <source>Resonance</source>
+        <translation>谐振</translation>
+    </message>
+    <message>
+        <source>Timing</source>
+        <translation>耗时</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>系统</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>截屏</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PanelState</name>
+    <message>
+        <source>The state of the last time cannot be read.</source>
+        <translation>上次的状态无法读取。</translation>
+    </message>
+    <message>
+        <source>The state of the last time is damaged and not used.</source>
+        <translation>上次的状态已损坏，未予采用。</translation>
+    </message>
+    <message>
+        <source>The state of the last time is of another version and not used.</source>
+        <translation>上次的状态来自其他版本，未予采用。</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PanelWindow</name>
+    <message>
+        <source>Vector network analyser</source>
+        <translation>矢量网络分析仪</translation>
+    </message>
+    <message>
+        <source>VNA</source>
+        <translation>VNA</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Dark or light</source>
+        <translation>深色或浅色</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>截屏</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>锁定</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>无数据</translation>
+    </message>
+    <message>
+        <source>Open a Touchstone file (.s1p, .s2p) to see it.</source>
+        <translation>打开 Touchstone 文件（.s1p、.s2p）即可查看。</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>打开文件…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n 个文件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>打开…</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ReadOuts</name>
+    <message>
+        <source>Markers</source>
+        <translation>标记</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Screenshot</name>
+    <message>
+        <source>The folder %1 for the screenshot cannot be made.</source>
+        <translation>无法创建截屏文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>The screenshot cannot be written to %1 (%2).</source>
+        <translation>截屏无法写入 %1（%2）。</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Markers on measured points only</source>
+        <translation>标记仅取测量点</translation>
+    </message>
+    <message>
+        <source>Markers coupled over all traces</source>
+        <translation>所有轨迹的标记耦合</translation>
+    </message>
+    <message>
+        <source>Screenshots go to</source>
+        <translation>截屏保存到</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::SimulatedDevice</name>
+    <message>
+        <source>Antenna</source>
+        <translation>天线</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>滤波器</translation>
+    </message>
+    <message>
+        <source>Long cable</source>
+        <translation>长电缆</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::SmithView</name>
+    <message>
+        <source>Smith chart</source>
+        <translation>史密斯圆图</translation>
+    </message>
+    <message>
+        <source>Z %1</source>
+        <translation>Z %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::SweepBar</name>
+    <message>
+        <source>Sweep</source>
+        <translation>扫描</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>保持</translation>
+    </message>
+    <message>
+        <source>Speed: %1 sweeps/s</source>
+        <translation>速度：%1 次/秒</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::SweepController</name>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::TimingLine</name>
+    <message>
+        <source>Timing</source>
+        <translation>耗时</translation>
+    </message>
+    <message>
+        <source>%1 points drawn · new data %2 · replot %3</source>
+        <translation>已绘 %1 点 · 新数据 %2 · 重绘 %3</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Touchstone</name>
+    <message>
+        <source>the reading was cancelled</source>
+        <translation>读取已取消</translation>
+    </message>
+    <message>
+        <source>the last point has %1 of %2 numbers</source>
+        <translation>最后一个点只有 %2 个数中的 %1 个</translation>
+    </message>
+    <message>
+        <source>the file holds no data</source>
+        <translation>文件不含数据</translation>
+    </message>
+    <message>
+        <source>%1 is a keyword of Touchstone version 2, and only version 1 is read</source>
+        <translation>%1 是 Touchstone 第 2 版的关键字，仅支持第 1 版</translation>
+    </message>
+    <message>
+        <source>the option line comes after data</source>
+        <translation>选项行出现在数据之后</translation>
+    </message>
+    <message>
+        <source>the reference resistance after R must be a number above zero</source>
+        <translation>R 之后的参考电阻必须是大于零的数</translation>
+    </message>
+    <message>
+        <source>the file holds %1 parameters, and only S parameters are read</source>
+        <translation>文件含 %1 参数，仅支持 S 参数</translation>
+    </message>
+    <message>
+        <source>%1 is no option of a Touchstone file</source>
+        <translation>%1 不是 Touchstone 文件的选项</translation>
+    </message>
+    <message>
+        <source>%1 stands where a finite number belongs</source>
+        <translation>应为有限数值之处出现 %1</translation>
+    </message>
+    <message>
+        <source>a line of noise data has %1 numbers, not %2</source>
+        <translation>噪声数据每行应有 %1 个数，而不是 %2 个</translation>
+    </message>
+    <message>
+        <source>the frequency falls back in the noise data</source>
+        <translation>噪声数据中的频率回退</translation>
+    </message>
+    <message>
+        <source>the frequency must not be below zero nor beyond all bounds</source>
+        <translation>频率不得小于零，也不得为无穷大</translation>
+    </message>
+    <message>
+        <source>the frequency falls back</source>
+        <translation>频率回退</translation>
+    </message>
+    <message>
+        <source>the point has more than the %1 numbers of a one-port</source>
+        <translation>该点的数值多于单端口的 %1 个</translation>
+    </message>
+    <message>
+        <source>the point has more than the %1 numbers of a two-port</source>
+        <translation>该点的数值多于双端口的 %1 个</translation>
+    </message>
+    <message>
+        <source>a value is beyond all bounds</source>
+        <translation>数值超出一切界限</translation>
+    </message>
+    <message>
+        <source>this is no ordinary file</source>
+        <translation>这不是普通文件</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 MB</source>
+        <translation>文件大于 %1 MB</translation>
+    </message>
+    <message>
+        <source>the file cannot be read (%1)</source>
+        <translation>文件无法读取（%1）</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>没有此文件</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>这是文件夹，不是文件</translation>
+    </message>
+    <message>
+        <source>the name of a Touchstone file ends in .s1p or .s2p</source>
+        <translation>Touchstone 文件名应以 .s1p 或 .s2p 结尾</translation>
+    </message>
+    <message>
+        <source>a network of %1 ports, and only one and two ports are read</source>
+        <translation>%1 端口网络，仅支持单端口和双端口</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3.</source>
+        <translation>%1，第 %2 行：%3。</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1：%2。</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 points</source>
+        <translation>文件超过 %1 个点</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::TraceBar</name>
+    <message>
+        <source>%1 (hidden)</source>
+        <translation>%1（已隐藏）</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>轨迹</translation>
+    </message>
+    <message>
+        <source>Tr%1</source>
+        <translation>Tr%1</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::TraceController</name>
+    <message>
+        <source>Data to memory</source>
+        <translation>数据存入存储</translation>
+    </message>
+    <message>
+        <source>Clear memory</source>
+        <translation>清除存储</translation>
+    </message>
+    <message>
+        <source>Tr%1 %2</source>
+        <translation>Tr%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::TraceFormat</name>
+    <message>
+        <source>Smith</source>
+        <translation>史密斯</translation>
+    </message>
+    <message>
+        <source>LogM</source>
+        <translation>对数幅度</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>相位</translation>
+    </message>
+    <message>
+        <source>VSWR</source>
+        <translation>驻波比</translation>
+    </message>
+    <message>
+        <source>As the grid</source>
+        <translation>与网格一致</translation>
+    </message>
+    <message>
+        <source>Mag / phase</source>
+        <translation>幅度 / 相位</translation>
+    </message>
+    <message>
+        <source>dB / phase</source>
+        <translation>dB / 相位</translation>
+    </message>
+</context>
+</TS>
