@@ -57,6 +57,7 @@ void TestCase::cleanup()
 {
     // Objects deleted later must not carry their warnings into the next test function.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY2(s_census, "an init() of the test did not call the one of TestCase");
     QStringList left = s_census->grown();
     // Those that a thread of their own deletes may need a moment.
     QElapsedTimer timer;
@@ -65,6 +66,7 @@ void TestCase::cleanup()
         QTest::qWait(10);
         left = s_census->grown();
     }
+    s_census.reset();
     qInstallMessageHandler(s_next);
     QVERIFY2(
         s_unexpected.isEmpty(),
