@@ -274,8 +274,12 @@ void addPanel(RatioTable &table)
                   3.0,
                   "start, panel",
                   {"start, empty plot"}});
-    table.addRow({"panel: peak memory with the samples", 0, Row::Mebibytes, 120.0,
-                  "start, all samples", {}});
+    table.addRow({"panel: peak memory with the samples",
+                  0,
+                  Row::Mebibytes,
+                  120.0,
+                  "start, all samples",
+                  {}});
 }
 
 } // namespace
@@ -285,9 +289,10 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     QApplication app(argc, argv);
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Times the Smith chart, its peers and the panel, and prints one table of ratios. Options of Google "
-        "Benchmark, such as --benchmark_filter=, work too."));
+    parser.setApplicationDescription(
+        QStringLiteral("Times the Smith chart, its peers and the panel, and prints one table of "
+                       "ratios. Options of Google "
+                       "Benchmark, such as --benchmark_filter=, work too."));
     parser.addHelpOption();
     const QCommandLineOption json(QStringLiteral("json"),
                                   QStringLiteral("Writes the table as JSON too."),

@@ -72,8 +72,8 @@ void RatioTable::ReportRuns(const std::vector<Run> &runs)
         if (run.error_occurred || run.aggregate_name != "median")
             continue;
         Measured &measured = m_medians[run.run_name.function_name];
-        measured.milliseconds = run.run_name.time_type.empty() ? run.GetAdjustedCPUTime()
-                                                               : run.GetAdjustedRealTime();
+        measured.milliseconds =
+            run.run_name.time_type.empty() ? run.GetAdjustedCPUTime() : run.GetAdjustedRealTime();
         for (const auto &[name, counter] : run.counters)
             measured.counters[name] = counter.value;
         // Counters too: "kept" shows that the peers did the same work.

@@ -279,8 +279,8 @@ void CartesianView::moveMarker(const Trace &trace, const Marker &moved)
         return;
     const double hertz = valueAt(m_model->network(trace).frequencies, moved.index);
     const double value = cartesianValueAt(m_model->data(trace), moved.index, trace.format);
-    const bool shown = trace.visible && std::isfinite(value)
-        && plot()->xAxis->range().contains(hertz);
+    const bool shown =
+        trace.visible && std::isfinite(value) && plot()->xAxis->range().contains(hertz);
     Plot::Marker &marker = found->second;
     // Beyond the scale it stands at the diagram's edge, of which the upper one lies a pixel outside
     // for the plot.

@@ -31,13 +31,11 @@ void DiagramController::connectKeys()
     const PanelKeys &keys = m_window->keys();
     ViewSettings *settings = m_model->viewSettings();
     keys.grid->setChoices({tr("Impedance"), tr("Admittance"), tr("Both")});
-    connect(keys.grid, &SoftKey::choicePicked, settings, [settings](int index) {
-        settings->setGridMode(SmithChartPlot::GridMode(index));
-    });
+    connect(keys.grid, &SoftKey::choicePicked, settings,
+            [settings](int index) { settings->setGridMode(SmithChartPlot::GridMode(index)); });
     keys.density->setChoices({tr("Basic"), tr("Standard"), tr("Detailed")});
-    connect(keys.density, &SoftKey::choicePicked, settings, [settings](int index) {
-        settings->setDensity(SmithChart::Preset(index));
-    });
+    connect(keys.density, &SoftKey::choicePicked, settings,
+            [settings](int index) { settings->setDensity(SmithChart::Preset(index)); });
     keys.pointer->setChoices({tr("All traces"), tr("Active only")});
     connect(keys.pointer, &SoftKey::choicePicked, settings,
             [settings](int index) { settings->setOnlyActiveTrace(index == 1); });

@@ -187,7 +187,7 @@ void Diagrams::recolor()
     const DiagramView *active = activeView();
     for (DiagramView *view : qAsConst(m_shown)) {
         static_cast<DiagramFrame *>(view->parentWidget())
-            ->setEdge(m_shown.size() < 2 ? look.background
+            ->setEdge(m_shown.size() < 2   ? look.background
                           : view == active ? look.accent
                                            : look.border);
     }

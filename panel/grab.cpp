@@ -105,8 +105,8 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     }
     grabber.grab("panel");
 
-    static constexpr const char *pages[] = {"panel", "keys-trace",  "keys-marker",
-                                            "keys-display",  "keys-sweep", "keys-system"};
+    static constexpr const char *pages[] = {"panel",        "keys-trace", "keys-marker",
+                                            "keys-display", "keys-sweep", "keys-system"};
     for (int page = 1; page < window->softKeys()->pageCount(); ++page) {
         window->softKeys()->setPage(page);
         grabber.grab(pages[page]);

@@ -35,7 +35,8 @@ QStringList decoded(int argc, char **argv)
 
 QtMessageHandler s_handleMessage = nullptr;
 
-/// Without a display Qt complains of what only a display needs: windows that are placed and a runtime folder.
+/// Without a display Qt complains of what only a display needs: windows that are placed and a
+/// runtime folder.
 void dropOffscreenNoise(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (!message.contains(QLatin1String("This plugin does not support"))
@@ -103,7 +104,7 @@ int main(int argc, char **argv)
     application.setApplicationName(QStringLiteral("vnapanel"));
     setUpApplication();
     // Pictures and timings are of the panel as it is made, whatever somebody has left.
-    const PanelState state(grabs || commandLine.exitWhenShown                            ? QString()
+    const PanelState state(grabs || commandLine.exitWhenShown    ? QString()
                                : commandLine.stateFile.isEmpty() ? PanelState::usualPath()
                                                                  : commandLine.stateFile);
     const QString saved = state.language().isEmpty() ? QStringLiteral("en") : state.language();

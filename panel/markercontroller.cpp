@@ -71,9 +71,8 @@ MarkerController::MarkerController(PanelModel *model, PanelWindow *window, Numer
     for (int i = 0; i < readoutFormatCount; ++i)
         formats << formatName(ReadoutFormat(i));
     keys.readout->setChoices(formats);
-    connect(keys.readout, &SoftKey::choicePicked, this, [this](int index) {
-        m_model->viewSettings()->setReadoutFormat(ReadoutFormat(index));
-    });
+    connect(keys.readout, &SoftKey::choicePicked, this,
+            [this](int index) { m_model->viewSettings()->setReadoutFormat(ReadoutFormat(index)); });
 
     for (const auto signal : {&PanelModel::activeTraceChanged, &PanelModel::selectedMarkerChanged,
                               &PanelModel::tracesChanged})
@@ -123,8 +122,7 @@ void MarkerController::onSearchPicked(int command)
     const int found = searchMarker(m_model->data(*trace), trace->format, Search(command),
                                    marker ? marker->index : 0.0);
     if (found < 0)
-        m_window->messageBar()->setMessage(
-            tr("Trace %1 has no such point.").arg(trace->id));
+        m_window->messageBar()->setMessage(tr("Trace %1 has no such point.").arg(trace->id));
     else if (marker)
         m_model->moveMarker(marker->trace, marker->number, found);
     else
@@ -140,7 +138,9 @@ void MarkerController::onMarkerToPicked(int command)
     const double hertz = valueAt(m_model->network(trace).frequencies, marker->index);
     const Stimulus limits = m_numbers->limits(trace);
     const Stimulus now = m_numbers->stimulus(trace);
-    const auto changed = command == ToCenter ? withCenter : command == ToStart ? withStart : withStop;
+    const auto changed = command == ToCenter ? withCenter
+        : command == ToStart                 ? withStart
+                                             : withStop;
     m_numbers->setStimulus(trace, changed(now, hertz, limits));
 }
 

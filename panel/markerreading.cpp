@@ -116,12 +116,12 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format)
         const Complex y = admittance(point);
         const QString unit = QStringLiteral("S");
         reading.values = QStringList{partText(y.real(), unit), imaginaryText(y.imag(), unit),
-                          elementText(y.imag(), hertz, false)};
+                                     elementText(y.imag(), hertz, false)};
     } else if (format == ReadoutFormat::Impedance || format == ReadoutFormat::Automatic) {
         const Complex z = impedance(point);
         const QString unit = QStringLiteral("\u03a9");
         reading.values = QStringList{partText(z.real(), unit), imaginaryText(z.imag(), unit),
-                          elementText(z.imag(), hertz, true)};
+                                     elementText(z.imag(), hertz, true)};
     } else {
         reading.values = readings(reflection(point), format);
     }
@@ -138,21 +138,21 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
     case ReadoutFormat::Impedance:
     case ReadoutFormat::Admittance: {
         const bool y = format == ReadoutFormat::Admittance;
-        const Complex difference = y ? admittance(point) - admittance(reference)
-                                     : impedance(point) - impedance(reference);
+        const Complex difference =
+            y ? admittance(point) - admittance(reference) : impedance(point) - impedance(reference);
         const QString unit = y ? QStringLiteral("S") : QStringLiteral("\u03a9");
         reading.values = QStringList{engineeringText(difference.real(), unit),
-                          imaginaryText(difference.imag(), unit)};
+                                     imaginaryText(difference.imag(), unit)};
         break;
     }
     case ReadoutFormat::MagnitudePhase:
         reading.values = QStringList{numberText(std::abs(here) - std::abs(there), 4),
-                          angleText(wrapped(degrees(std::arg(here) - std::arg(there))))};
+                                     angleText(wrapped(degrees(std::arg(here) - std::arg(there))))};
         break;
     case ReadoutFormat::Decibels:
-        reading.values = QStringList{
-            cartesianText(decibels(here) - decibels(there), TraceFormat::LogMagnitude),
-            angleText(wrapped(degrees(std::arg(here) - std::arg(there))))};
+        reading.values =
+            QStringList{cartesianText(decibels(here) - decibels(there), TraceFormat::LogMagnitude),
+                        angleText(wrapped(degrees(std::arg(here) - std::arg(there))))};
         break;
     case ReadoutFormat::Vswr:
         reading.values = QStringList{cartesianText(vswr(here) - vswr(there), TraceFormat::Vswr)};

@@ -50,7 +50,8 @@ NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, SweepController
     for (const StimulusNumber &number : qAsConst(m_stimulusNumbers))
         connect(number.key, &SoftKey::clicked, this, [this, number] { editStimulus(number); });
     connect(window->keys().points, &SoftKey::clicked, this, &NumericKeys::editPoints);
-    connect(window->keys().markerStimulus, &SoftKey::clicked, this, &NumericKeys::editMarkerStimulus);
+    connect(window->keys().markerStimulus, &SoftKey::clicked, this,
+            &NumericKeys::editMarkerStimulus);
     connect(window->keys().zoom, &SoftKey::clicked, this, &NumericKeys::editZoom);
 
     connect(model, &PanelModel::activeTraceChanged, this, &NumericKeys::showStimulus);
@@ -294,8 +295,8 @@ void NumericKeys::showScale()
     const bool cartesian = trace && !trace->onSmithChart();
     keys.scale->setValue(trace ? scaleText(trace->format, trace->scale) : s_nothing);
     keys.scale->setEnabled(trace);
-    keys.reference->setValue(
-        cartesian ? cartesianReferenceText(trace->scale.top, trace->format) : s_nothing);
+    keys.reference->setValue(cartesian ? cartesianReferenceText(trace->scale.top, trace->format)
+                                       : s_nothing);
     keys.reference->setEnabled(cartesian);
 }
 
@@ -310,8 +311,8 @@ void NumericKeys::showZoom()
 {
     const DiagramView *view = m_window->diagrams()->activeView();
     m_window->keys().zoom->setEnabled(view);
-    m_window->keys().zoom->setValue(
-        view ? QStringLiteral("%1 \u00d7").arg(view->zoom(), 0, 'f', 2) : s_nothing);
+    m_window->keys().zoom->setValue(view ? QStringLiteral("%1 \u00d7").arg(view->zoom(), 0, 'f', 2)
+                                         : s_nothing);
 }
 
 } // namespace Panel

@@ -52,7 +52,8 @@ private:
     void editTuning();
     /// Opens the dialog of a key for a value that the adapter holds.
     template<typename Apply>
-    void edit(QWidget *key, const QString &name, UnitAdapter *adapter, const QVector<double> &steps, Apply apply);
+    void edit(QWidget *key, const QString &name, UnitAdapter *adapter, const QVector<double> &steps,
+              Apply apply);
 
     template<typename Apply>
     void edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps, Apply apply);

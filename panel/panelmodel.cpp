@@ -379,7 +379,8 @@ void PanelModel::couple(int traceId, int number)
     const double hertz = valueAt(network(*trace(traceId)).frequencies, source->index);
     const QVector<Trace> traces = m_traces; // a slot may change them
     for (const Trace &other : traces) {
-        const double index = other.id != traceId && trace(other.id) ? indexAt(other.id, hertz) : -1.0;
+        const double index =
+            other.id != traceId && trace(other.id) ? indexAt(other.id, hertz) : -1.0;
         if (index >= 0.0)
             placeMarker(other.id, number, index);
     }

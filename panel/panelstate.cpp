@@ -82,8 +82,8 @@ PanelState::PanelState(const QString &path)
     if (!file.exists())
         return;
     if (!file.isFile() || !file.isReadable()) {
-        refuse(sentence(QT_TRANSLATE_NOOP("Panel::PanelState",
-                                          "The state of the last time cannot be read.")));
+        refuse(sentence(
+            QT_TRANSLATE_NOOP("Panel::PanelState", "The state of the last time cannot be read.")));
         return;
     }
     if (file.size() > s_largestFile) {
@@ -95,8 +95,9 @@ PanelState::PanelState(const QString &path)
     const bool readable = settings.status() == QSettings::NoError;
     if (readable && settings.contains(QStringLiteral("version"))
         && number(settings, "version") != s_version)
-        refuse(sentence(QT_TRANSLATE_NOOP(
-            "Panel::PanelState", "The state of the last time is of another version and not used.")));
+        refuse(sentence(
+            QT_TRANSLATE_NOOP("Panel::PanelState",
+                              "The state of the last time is of another version and not used.")));
     else if (!readable || !isValid(settings))
         refuse(sentence(QT_TRANSLATE_NOOP("Panel::PanelState",
                                           "The state of the last time is damaged and not used.")));
@@ -183,8 +184,9 @@ void PanelState::restoreTraces(const QSettings &saved, PanelModel *model) const
         const int id = traces.at(i).id;
         model->setTraceParameter(id, number(settings, "to"), number(settings, "from"));
         model->setTraceFormat(id, TraceFormat(number(settings, "format")));
-        model->setTraceScale(id, {settings.value(QStringLiteral("scale")).toDouble(),
-                                  settings.value(QStringLiteral("top")).toDouble()});
+        model->setTraceScale(id,
+                             {settings.value(QStringLiteral("scale")).toDouble(),
+                              settings.value(QStringLiteral("top")).toDouble()});
         model->setTraceVisible(id, number(settings, "visible"));
     }
     settings.endArray();

@@ -117,8 +117,8 @@ void ReadOuts::showReading(MarkerStatusItem *item, const Marker &marker) const
     item->setSelectedStatus(selected && selected->trace == marker.trace
                             && selected->number == marker.number);
     item->setColor(currentLook().trace(m_trace));
-    item->setAccessibleDescription(
-        reading.frequency + QLatin1Char(' ') + reading.values.join(QLatin1Char(' ')));
+    item->setAccessibleDescription(reading.frequency + QLatin1Char(' ')
+                                   + reading.values.join(QLatin1Char(' ')));
 }
 
 /// Places the items in columns, and takes the height that they need.

@@ -80,9 +80,8 @@ void SettingsDialog::addLanguage()
     for (const Language &language : languages())
         names << language.name;
     m_language = makeChoice(tr("Language"), names, 0);
-    connect(m_language, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
-        Q_EMIT languagePicked(languages().at(index).code);
-    });
+    connect(m_language, QOverload<int>::of(&QComboBox::activated), this,
+            [this](int index) { Q_EMIT languagePicked(languages().at(index).code); });
     addRow(tr("Language"), m_language);
 }
 
@@ -123,14 +122,14 @@ void SettingsDialog::setLanguage(const QString &code)
 void SettingsDialog::setScreenshotFolder(const QString &folder)
 {
     m_folder->setToolTip(folder);
-    m_folder->setText(m_folder->fontMetrics().elidedText(QDir::toNativeSeparators(folder),
-                                                         Qt::ElideMiddle, 220));
+    m_folder->setText(
+        m_folder->fontMetrics().elidedText(QDir::toNativeSeparators(folder), Qt::ElideMiddle, 220));
 }
 
 void SettingsDialog::pickFolder()
 {
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Screenshots go to"),
-                                                             m_folder->toolTip());
+    const QString folder =
+        QFileDialog::getExistingDirectory(this, tr("Screenshots go to"), m_folder->toolTip());
     if (folder.isEmpty())
         return;
     setScreenshotFolder(folder);

@@ -61,8 +61,7 @@ void SmithView::makeChart()
                 if (!m_chart->onlyHandleActiveTrace() || traceId == m_chart->activeTrace())
                     Q_EMIT markerSelectionRequested(traceId, number);
             });
-    connect(m_chart, &SmithChartPlot::markerPositionChanged, this,
-            &SmithView::markerMoveRequested);
+    connect(m_chart, &SmithChartPlot::markerPositionChanged, this, &SmithView::markerMoveRequested);
     connect(m_chart, &SmithChartPlot::markerDeleteRequested, this,
             &SmithView::markerDeleteRequested);
     loadTraces();

@@ -11,7 +11,6 @@
 
 #include <QScopedValueRollback>
 
-
 namespace Panel
 {
 

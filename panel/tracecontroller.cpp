@@ -58,10 +58,8 @@ TraceController::TraceController(PanelModel *model, PanelWindow *window, Numeric
     , m_window(window)
     , m_numbers(numbers)
 {
-    connect(window->traceBar(), &TraceBar::activationRequested, model,
-            &PanelModel::setActiveTrace);
-    connect(window->traceBar(), &TraceBar::editRequested, this,
-            &TraceController::onEditRequested);
+    connect(window->traceBar(), &TraceBar::activationRequested, model, &PanelModel::setActiveTrace);
+    connect(window->traceBar(), &TraceBar::editRequested, this, &TraceController::onEditRequested);
     connectKeys();
     for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::activeTraceChanged})
         connect(model, signal, this, &TraceController::showTrace);

@@ -29,7 +29,8 @@ Scale usualScale(TraceFormat format, double highest)
     case TraceFormat::Smith:
         return {1.0, 1.0};
     case TraceFormat::LogMagnitude:
-        return {10.0, std::isfinite(highest) ? std::ceil(std::fmax(highest, 0.0) / 10.0) * 10.0 : 0.0};
+        return {10.0,
+                std::isfinite(highest) ? std::ceil(std::fmax(highest, 0.0) / 10.0) * 10.0 : 0.0};
     case TraceFormat::Phase:
         return {45.0, 180.0};
     case TraceFormat::Vswr:

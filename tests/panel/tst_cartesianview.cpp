@@ -44,8 +44,7 @@ struct Desk : PanelDesk {
     QPoint onTrace(int traceId, int index) const
     {
         const Trace &trace = *model.trace(traceId);
-        const double value =
-            cartesianValueAt(model.data(trace), index, TraceFormat::LogMagnitude);
+        const double value = cartesianValueAt(model.data(trace), index, TraceFormat::LogMagnitude);
         const QPointF point(
             view()->plot()->xAxis->coordToPixel(model.network(trace).frequencies.at(index)),
             view()->plot()->yAxis->coordToPixel(value));
@@ -183,9 +182,9 @@ void CartesianViewTest::markersFollowTheirPointer()
     QVERIFY(std::abs(marker->index - 900.0) < 4.0);
     const double index = marker->index;
     const QPointF position = desk.view()->marker(3, 1)->getTracer()->position->coords();
-    QCOMPARE(position.y(),
-             cartesianValueAt(desk.model.data(*desk.model.trace(3)), index,
-                              TraceFormat::LogMagnitude));
+    QCOMPARE(
+        position.y(),
+        cartesianValueAt(desk.model.data(*desk.model.trace(3)), index, TraceFormat::LogMagnitude));
     QTest::mouseMove(desk.screen(), grip);
     QCOMPARE(marker->index, index);
 

@@ -123,7 +123,7 @@ void NumericDialogTest::opensOverTheDimmedPanel()
         QCOMPARE(desk.dialog()->windowTitle(), key->name());
         QCOMPARE(desk.range(),
                  key == desk.window.keys().span ? QStringLiteral("0 Hz \u2026 300 MHz")
-                                              : QStringLiteral("2.3 GHz \u2026 2.6 GHz"));
+                                                : QStringLiteral("2.3 GHz \u2026 2.6 GHz"));
         QVERIFY(desk.edit()->hasFocus());
         QCOMPARE(desk.edit()->selectedText(),
                  key == desk.window.keys().span ? QStringLiteral("300") : QStringLiteral("2.3"));

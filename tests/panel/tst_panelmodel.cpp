@@ -63,10 +63,10 @@ void PanelModelTest::makesATraceOfEachParameter()
     PanelModel model;
     QVERIFY(!model.activeTrace());
     model.setNetworks({network(1), network(2)});
-    QCOMPARE(names(model),
-             (QStringList{QStringLiteral("1 S11"), QStringLiteral("2 S11"), QStringLiteral("3 S11"),
-                          QStringLiteral("4 S22"), QStringLiteral("5 S21"),
-                          QStringLiteral("6 S12")}));
+    QCOMPARE(
+        names(model),
+        (QStringList{QStringLiteral("1 S11"), QStringLiteral("2 S11"), QStringLiteral("3 S11"),
+                     QStringLiteral("4 S22"), QStringLiteral("5 S21"), QStringLiteral("6 S12")}));
     QCOMPARE(model.data(*model.trace(5)).real, QVector<double>{1.0});
     QCOMPARE(model.activeTrace(false), model.trace(2));
     QCOMPARE(model.data(*model.trace(4)).real, QVector<double>{3.0});

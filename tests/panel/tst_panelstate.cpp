@@ -117,13 +117,17 @@ void PanelStateTest::refusesWhatIsNoState_data()
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QByteArray>("after");
     QTest::addColumn<QString>("word");
-    QTest::newRow("other version") << QByteArray("version=1") << QByteArray("version=2")
-                                   << "version";
-    for (const auto &[before, after] :
-         {std::pair("version=1\n", "\n"), {"grid=1", "grid=3"},
-          {"layout=3", "layout=-1"}, {"language=de", "language=tlh"},
-          {"1\\format=0", "1\\format=9"}, {"1\\scale=1", "1\\scale=nan"},
-          {"hertz=", "hertz=no"}, {"1\\number=1", "1\\number=99"}, {"size=4", "size=-4"}})
+    QTest::newRow("other version")
+        << QByteArray("version=1") << QByteArray("version=2") << "version";
+    for (const auto &[before, after] : {std::pair("version=1\n", "\n"),
+                                        {"grid=1", "grid=3"},
+                                        {"layout=3", "layout=-1"},
+                                        {"language=de", "language=tlh"},
+                                        {"1\\format=0", "1\\format=9"},
+                                        {"1\\scale=1", "1\\scale=nan"},
+                                        {"hertz=", "hertz=no"},
+                                        {"1\\number=1", "1\\number=99"},
+                                        {"size=4", "size=-4"}})
         QTest::newRow(after) << QByteArray(before) << QByteArray(after) << "damaged";
 }
 

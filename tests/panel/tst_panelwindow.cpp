@@ -364,8 +364,7 @@ void PanelWindowTest::nothingIsClipped()
             const QString who = where + QLatin1Char(' ')
                 + QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ')
                 + widget->objectName();
-            QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()),
-                     qPrintable(who));
+            QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()), qPrintable(who));
             const QSize least = widget->minimumSizeHint();
             const QString sizes = QStringLiteral(": %1x%2 of %3x%4")
                                       .arg(widget->width())
@@ -379,8 +378,8 @@ void PanelWindowTest::nothingIsClipped()
         desk.window.softKeys()->setPage(page);
         check(QStringLiteral("page %1").arg(page));
     }
-    for (const auto layout : {Graph::LayoutType::SideBySide, Graph::LayoutType::Stacked,
-                              Graph::LayoutType::Quad}) {
+    for (const auto layout :
+         {Graph::LayoutType::SideBySide, Graph::LayoutType::Stacked, Graph::LayoutType::Quad}) {
         desk.model.viewSettings()->layoutProfile()->setLayoutType(layout);
         check(QStringLiteral("layout %1").arg(int(layout)));
     }

@@ -154,8 +154,8 @@ void TourTest::cartesianView()
     const QPoint inWindow = view->plot()->mapTo(&desk.window, middle);
     const auto wheel = [&](int notches) {
         QWheelEvent event(inWindow, desk.window.mapToGlobal(inWindow), QPoint(),
-                          QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
+                          QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
         QCoreApplication::sendEvent(desk.window.windowHandle(), &event);
         Desk::settle();
     };
@@ -241,8 +241,8 @@ void TourTest::dialogs()
     // Half-way is rounded upwards, and every trace has the marker now.
     for (const Trace &trace : desk.model.traces())
         QCOMPARE(desk.model.marker(trace.id, 1)->index, 11.0);
-    VnaTest::mouseClick(settings->findChild<QAbstractButton *>(
-        QStringLiteral("draggableDialogCloseButton")));
+    VnaTest::mouseClick(
+        settings->findChild<QAbstractButton *>(QStringLiteral("draggableDialogCloseButton")));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!settings);
 
