@@ -52,6 +52,8 @@ install(FILES configuration/theme-base.css configuration/theme-dark.css configur
     DESTINATION ${VNA_DATA_DIR}/configuration COMPONENT Runtime)
 install(FILES resources/vnaresources.qrc DESTINATION ${VNA_DATA_DIR}/resources COMPONENT Development)
 install(DIRECTORY resources/svg resources/png DESTINATION ${VNA_DATA_DIR}/resources COMPONENT Development)
+install(FILES translations/vnatranslations.qrc ${VNA_CATALOGUES}
+    DESTINATION ${VNA_DATA_DIR}/translations COMPONENT Development)
 
 # vna_install_program(<target>): a program that wants "../configuration" beside its folder. /usr/configuration would
 # be in everybody's way, so it lives in a folder of its own, with a link to it where programs are looked for.

@@ -43,6 +43,7 @@ set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Development files of VnaWidgets for
 set(CPACK_DEBIAN_PANEL_PACKAGE_NAME vnapanel${VNA_SUFFIX})
 set(CPACK_DEBIAN_PANEL_PACKAGE_SECTION electronics)
 set(CPACK_DEBIAN_PANEL_PACKAGE_DEPENDS "${exact}, ${svg}, fonts-dejavu-core")
+set(CPACK_DEBIAN_PANEL_PACKAGE_RECOMMENDS fonts-wqy-microhei) # for Chinese
 set(CPACK_COMPONENT_PANEL_DESCRIPTION "Front panel of a vector network analyser, on Touchstone files
  The demonstration of VnaWidgets: vnapanel, and vnagallery with every widget.")
 include(CPack)
