@@ -43,9 +43,11 @@ void watchMessages(QtMsgType type, const QMessageLogContext &, const QString &me
 {
     if (type == QtDebugMsg || type == QtInfoMsg
         // What a platform without a display cannot do is no fault of the panel, nor is a pointer
-        // beside a pop-up.
+        // beside a pop-up, nor a pinch beyond the edge of the screen, which is smaller than the
+        // panel there.
         || message.startsWith(QLatin1String("This plugin does not support"))
-        || message.startsWith(QLatin1String("Mouse event at ")))
+        || message.startsWith(QLatin1String("Mouse event at "))
+        || message.startsWith(QLatin1String("QGestureManager::deliverEvent: could not find")))
         return;
     std::fprintf(stderr, "monkey: warning: %s\n", qUtf8Printable(message));
     s_warnings << message;

@@ -146,19 +146,19 @@ QPoint Desk::drawPosition(Random &random, bool behind) const
     }
     if (kind < 4 && widget == m_window.get() && drawPointOfTrace(random, position))
         return position + QPoint(random.between(-6, 6), random.between(-6, 6));
-    QVector<QWidget *> targets;
-    for (QWidget *each : widget->findChildren<QWidget *>()) {
-        if (each->window() == widget && each->isVisible() && each->isEnabled()
-            && !each->visibleRegion().isEmpty())
-            targets.append(each);
+    const QList<QWidget *> targets = widget->findChildren<QWidget *>();
+    for (int tries = 0; tries < 20 && !targets.isEmpty(); ++tries) {
+        const QWidget *target = targets.at(random.below(int(targets.size())));
+        if (target->window() != widget || !target->isVisible() || !target->isEnabled())
+            continue;
+        const QRect area = target->visibleRegion().boundingRect();
+        if (area.isEmpty())
+            continue;
+        const QPoint within(area.left() + random.below(area.width()),
+                            area.top() + random.below(area.height()));
+        return target->mapTo(widget, random.oneIn(3) ? within : area.center());
     }
-    if (targets.isEmpty())
-        return position;
-    const QWidget *target = targets.at(random.below(int(targets.size())));
-    const QRect area = target->visibleRegion().boundingRect();
-    const QPoint within(area.left() + random.below(area.width()),
-                        area.top() + random.below(area.height()));
-    return target->mapTo(widget, random.oneIn(3) ? within : area.center());
+    return position;
 }
 
 Event Desk::draw(Random &random) const
