@@ -126,7 +126,8 @@ bool Desk::drawPointOfTrace(Random &random, QPoint &position) const
             return false;
         pixel = graph->coordsToPixels(point->key, point->value);
     }
-    if (!view->plot()->rect().contains(pixel.toPoint()))
+    // Also infinitely far away, which no int can tell.
+    if (!QRectF(view->plot()->rect()).contains(pixel))
         return false;
     position = view->plot()->mapTo(m_window.get(), pixel.toPoint());
     return true;
