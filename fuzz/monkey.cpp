@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMenu>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -53,8 +54,8 @@ void watchMessages(QtMsgType type, const QMessageLogContext &, const QString &me
     s_warnings << message;
 }
 
-/*! Turns Qt's own file dialog away as it opens: it waits in a loop of its own, and could rename and
-    delete what is not the monkey's. */
+/*! Turns away what waits in a loop of its own as it opens: Qt's menu of a scroll bar, and its file
+    dialog, which could also rename and delete what is not the monkey's. */
 class Doorkeeper : public QObject
 {
 public:
@@ -64,6 +65,8 @@ public:
     {
         if (event->type() == QEvent::Show && qobject_cast<QFileDialog *>(watched))
             QMetaObject::invokeMethod(watched, "reject", Qt::QueuedConnection);
+        if (event->type() == QEvent::Show && qobject_cast<QMenu *>(watched))
+            QMetaObject::invokeMethod(watched, "close", Qt::QueuedConnection);
         return QObject::eventFilter(watched, event);
     }
 };
