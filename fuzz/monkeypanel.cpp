@@ -318,7 +318,7 @@ void Desk::key(const Event &event)
     QPointer<QWindow> window = QGuiApplication::focusWindow();
     if (!window)
         window = windowOf(false);
-    const auto modifiers = Qt::KeyboardModifiers(event.b);
+    const auto modifiers = Qt::KeyboardModifiers(QFlag(event.b));
     const QString text = event.a >= Qt::Key_Space && event.a <= Qt::Key_AsciiTilde
             && modifiers == Qt::NoModifier
         ? QString(QChar(event.a)).toLower()
