@@ -3,7 +3,8 @@
 // A monkey at the panel: what it does follows from a seed, and is written down as it happens.
 //   monkey [--seed N] [--events N] [--log FILE]   plays, and checks the panel every 100 events
 //   monkey --replay FILE                          plays a log once more
-//   monkey --shorten FILE                         leaves out of a log what its failure does not need
+//   monkey --shorten FILE                         leaves out of a log what its failure does not
+//   need
 #include "monkeychecks.h"
 #include "monkeypanel.h"
 
@@ -42,7 +43,8 @@ QStringList s_warnings;
 
 void watchMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    if (type == QtDebugMsg || type == QtInfoMsg
+    if (type == QtDebugMsg
+        || type == QtInfoMsg
         // What a platform without a display cannot do is no fault of the panel, nor is a pointer
         // beside a pop-up, nor a pinch beyond the edge of the screen, which is smaller than the
         // panel there.

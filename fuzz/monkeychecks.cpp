@@ -31,8 +31,8 @@ constexpr int mostWidgets = 3000;
 
 QString nameOf(const QObject *object)
 {
-    return QStringLiteral("%1 \"%2\"").arg(
-        QString::fromLatin1(object->metaObject()->className()), object->objectName());
+    return QStringLiteral("%1 \"%2\"")
+        .arg(QString::fromLatin1(object->metaObject()->className()), object->objectName());
 }
 
 bool isFinite(const QCPRange &range)
@@ -61,8 +61,8 @@ QCPItemTracer *tracerOf(const Panel::DiagramView *view, const Panel::Marker &mar
     if (const auto *smith = qobject_cast<const Panel::SmithView *>(view))
         drawn = smith->chart()->getMarker(marker.trace, marker.number);
     else
-        drawn = static_cast<const Panel::CartesianView *>(view)->marker(marker.trace,
-                                                                       marker.number);
+        drawn =
+            static_cast<const Panel::CartesianView *>(view)->marker(marker.trace, marker.number);
     return drawn ? drawn->getTracer() : nullptr;
 }
 
@@ -78,8 +78,8 @@ void checkMarker(const Panel::PanelModel *model, const Panel::DiagramView *view,
     }
     const Panel::Parameter &data = model->data(trace);
     const bool onSmithChart = qobject_cast<const Panel::SmithView *>(view);
-    const double wantedX = Panel::valueAt(
-        onSmithChart ? data.real : model->network(trace).frequencies, marker.index);
+    const double wantedX =
+        Panel::valueAt(onSmithChart ? data.real : model->network(trace).frequencies, marker.index);
     const double scale = std::max({1e-9, std::abs(wantedX)});
     tracer->updatePosition();
     const QPointF found(tracer->position->key(), tracer->position->value());
@@ -150,9 +150,11 @@ void checkWidgets(QStringList &broken)
             popups << nameOf(widget);
         const auto *overlay = qobject_cast<const Controls::OverlayContainer *>(widget);
         const bool shown = overlay && !overlay->isHidden();
-        const bool needed = overlay && overlay->activeDialog() && !overlay->activeDialog()->isHidden();
+        const bool needed =
+            overlay && overlay->activeDialog() && !overlay->activeDialog()->isHidden();
         if (shown != needed)
-            broken << QStringLiteral("an overlay is shown: %1, its dialog: %2").arg(shown).arg(needed);
+            broken
+                << QStringLiteral("an overlay is shown: %1, its dialog: %2").arg(shown).arg(needed);
     }
     if (popups.size() > 1)
         broken << QStringLiteral("%1 are open").arg(popups.join(QStringLiteral(" and ")));

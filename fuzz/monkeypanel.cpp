@@ -319,8 +319,8 @@ void Desk::key(const Event &event)
     if (!window)
         window = windowOf(false);
     const auto modifiers = Qt::KeyboardModifiers(QFlag(event.b));
-    const QString text = event.a >= Qt::Key_Space && event.a <= Qt::Key_AsciiTilde
-            && modifiers == Qt::NoModifier
+    const QString text =
+        event.a >= Qt::Key_Space && event.a <= Qt::Key_AsciiTilde && modifiers == Qt::NoModifier
         ? QString(QChar(event.a)).toLower()
         : QString();
     if (window)
