@@ -200,7 +200,9 @@ void CartesianView::fitFrequencies()
 
 void CartesianView::setFrequencies(double from, double to)
 {
-    const double span = qMin(to - from, m_highest - m_lowest);
+    // Also a range that was chosen for other frequencies keeps the limits of the zoom.
+    const double whole = m_highest - m_lowest;
+    const double span = qBound(whole / mostZoom, to - from, whole);
     from = qBound(m_lowest, from, m_highest - span);
     const QCPRange range(from, from + span);
     if (range == plot()->xAxis->range())

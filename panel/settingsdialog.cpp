@@ -128,12 +128,16 @@ void SettingsDialog::setScreenshotFolder(const QString &folder)
 
 void SettingsDialog::pickFolder()
 {
-    const QString folder =
-        QFileDialog::getExistingDirectory(this, tr("Screenshots go to"), m_folder->toolTip());
-    if (folder.isEmpty())
-        return;
-    setScreenshotFolder(folder);
-    Q_EMIT screenshotFolderPicked(folder);
+    // Opened, not executed: the panel may go while it is on screen.
+    auto *dialog = new QFileDialog(this, tr("Screenshots go to"), m_folder->toolTip());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &folder) {
+        setScreenshotFolder(folder);
+        Q_EMIT screenshotFolderPicked(folder);
+    });
+    dialog->open();
 }
 
 } // namespace Panel

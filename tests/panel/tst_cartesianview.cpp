@@ -68,6 +68,7 @@ private Q_SLOTS:
     void choosesDiagrams();
     void markersFollowTheirPointer();
     void followsNewDataAndFormats();
+    void keepsLimitOfZoomOverOtherFrequencies();
 };
 
 void CartesianViewTest::readsDecibelsAndDegrees()
@@ -233,6 +234,19 @@ void CartesianViewTest::followsNewDataAndFormats()
     QVERIFY(!desk.model.updateNetwork(1, slope(3)));
     QVERIFY(!desk.model.updateNetwork(0, Network()));
     QCOMPARE(desk.model.networks().first().ports, 2);
+}
+
+void CartesianViewTest::keepsLimitOfZoomOverOtherFrequencies()
+{
+    Desk desk;
+    desk.model.setNetworks({slope(1001)});
+    Desk::settle();
+    desk.view()->setZoom(DiagramView::mostZoom);
+    Network wider = slope(1001);
+    for (double &frequency : wider.frequencies)
+        frequency *= 4.0;
+    desk.model.setNetworks({wider});
+    QCOMPARE(desk.view()->zoom(), DiagramView::mostZoom);
 }
 
 QTEST_MAIN(CartesianViewTest)

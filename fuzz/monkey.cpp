@@ -1,0 +1,257 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A monkey at the panel: what it does follows from a seed, and is written down as it happens.
+//   monkey [--seed N] [--events N] [--log FILE]   plays, and checks the panel every 100 events
+//   monkey --replay FILE                          plays a log once more
+//   monkey --shorten FILE                         leaves out of a log what its failure does not
+//   need
+#include "monkeychecks.h"
+#include "monkeypanel.h"
+
+#include <panel/look.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+
+using namespace Monkey;
+
+namespace
+{
+
+constexpr int eventsPerCheck = 100;
+constexpr int eventsPerCensus = 5000;
+constexpr double mostMilliseconds = 200.0;
+constexpr int replayMinutes = 10;
+
+// Unoptimised or watched by a sanitizer, an event's time says nothing about the panel.
+#if defined(NDEBUG) && !defined(__SANITIZE_ADDRESS__)
+constexpr bool timeCounts = true;
+#else
+constexpr bool timeCounts = false;
+#endif
+
+QStringList s_warnings;
+
+void watchMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type == QtDebugMsg
+        || type == QtInfoMsg
+        // What a platform without a display cannot do is no fault of the panel, nor is a pointer
+        // beside a pop-up, nor a pinch beyond the edge of the screen, which is smaller than the
+        // panel there.
+        || message.startsWith(QLatin1String("This plugin does not support"))
+        || message.startsWith(QLatin1String("Mouse event at "))
+        || message.startsWith(QLatin1String("QGestureManager::deliverEvent: could not find")))
+        return;
+    std::fprintf(stderr, "monkey: warning: %s\n", qUtf8Printable(message));
+    s_warnings << message;
+}
+
+/*! Turns away what waits in a loop of its own as it opens: Qt's menu of a scroll bar, and its file
+    dialog, which could also rename and delete what is not the monkey's. */
+class Doorkeeper : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show && qobject_cast<QFileDialog *>(watched))
+            QMetaObject::invokeMethod(watched, "reject", Qt::QueuedConnection);
+        if (event->type() == QEvent::Show && qobject_cast<QMenu *>(watched))
+            QMetaObject::invokeMethod(watched, "close", Qt::QueuedConnection);
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+/// Of this thread alone, so that what else the machine does counts little.
+double cpuMilliseconds()
+{
+    timespec time = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+}
+
+QByteArray readAll(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+struct Game {
+    std::uint64_t seed = 1;
+    int events = 5000;
+    QVector<Event> replayed; ///< in place of drawn ones
+    QString log; ///< empty: none is written
+};
+
+/// 0 if everything held.
+int play(const Game &game)
+{
+    QFile log(game.log);
+    if (!game.log.isEmpty() && !log.open(QIODevice::WriteOnly)) {
+        std::fprintf(stderr, "monkey: %s cannot be written\n", qUtf8Printable(game.log));
+        return 2;
+    }
+    Files files;
+    QDir::setCurrent(files.folder());
+    Desk desk(&files);
+    (void)desk.dropAndCount(); // what is made once is there after the first panel
+    Random random(game.seed);
+    const bool replays = !game.replayed.isEmpty();
+    const int count = replays ? int(game.replayed.size()) : game.events;
+    double longest = 0.0;
+    Event slowest;
+    QStringList broken;
+    int played = 0;
+    while (played < count && broken.isEmpty()) {
+        const Event event = replays ? game.replayed.at(played) : desk.draw(random);
+        if (log.isOpen()) {
+            // Before it happens, and out of this process, which may end with it.
+            log.write(toLine(event));
+            log.flush();
+        }
+        const double start = cpuMilliseconds();
+        desk.perform(event);
+        const double took = cpuMilliseconds() - start;
+        ++played;
+        // A new panel is not an event of the old one.
+        if (took > longest && event.species != Species::DropPanel) {
+            longest = took;
+            slowest = event;
+            const bool twice = event.species == Species::DoubleTap;
+            if (timeCounts && took > (twice ? 2.0 : 1.0) * mostMilliseconds)
+                broken << QStringLiteral("an event took %1 ms").arg(took);
+        }
+        // A replayed log is to tell which event it was.
+        if (replays || played % eventsPerCheck == 0 || played == count)
+            broken << brokenRules(desk);
+        if (played % eventsPerCensus == 0 || played == count) {
+            for (const QString &left : desk.dropAndCount())
+                broken << QStringLiteral("not destroyed: ") + left;
+        }
+        broken << s_warnings;
+        s_warnings.clear();
+    }
+    std::printf("monkey: seed %llu, %d events, the longest took %.0f ms of processor time: %s",
+                static_cast<unsigned long long>(game.seed), played, longest,
+                toLine(slowest).constData());
+    for (const QString &sentence : qAsConst(broken))
+        std::printf("monkey: event %d: %s\n", played, qUtf8Printable(sentence));
+    std::fflush(stdout);
+    return broken.isEmpty() ? 0 : 1;
+}
+
+bool fails(const QVector<Event> &events, const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    for (const Event &event : events)
+        file.write(toLine(event));
+    file.close();
+    QProcess child;
+    child.setStandardOutputFile(QProcess::nullDevice());
+    child.setStandardErrorFile(QProcess::nullDevice());
+    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--replay"), path});
+    const bool ended = child.waitForFinished(replayMinutes * 60000);
+    if (!ended) { // one that hangs has failed
+        child.kill();
+        child.waitForFinished();
+    }
+    return !ended || child.exitStatus() != QProcess::NormalExit || child.exitCode() != 0;
+}
+
+/// Leaves out ever smaller parts, as long as what remains still fails.
+int shorten(const QString &path)
+{
+    const QString shortPath = path + QStringLiteral(".short");
+    const QString tried = path + QStringLiteral(".tried");
+    QVector<Event> events = readLog(readAll(path));
+    if (!fails(events, tried)) {
+        std::printf("monkey: %s does not fail when it is replayed\n", qUtf8Printable(path));
+        return 2;
+    }
+    for (int part = qMax(1, int(events.size()) / 2); part > 0; part /= 2) {
+        for (int at = 0; at < events.size();) {
+            QVector<Event> fewer = events;
+            fewer.remove(at, qMin(part, int(events.size()) - at));
+            if (!fewer.isEmpty() && fails(fewer, tried)) {
+                events = fewer;
+                QFile::remove(shortPath);
+                QFile::copy(tried, shortPath);
+            } else {
+                at += part;
+            }
+        }
+        std::printf("monkey: %d events\n", int(events.size()));
+        std::fflush(stdout);
+    }
+    QFile::remove(tried);
+    std::printf("monkey: %s\n", qUtf8Printable(shortPath));
+    return 0;
+}
+
+int refuse(const QString &argument)
+{
+    std::fprintf(stderr, "monkey: what is %s?\n", qUtf8Printable(argument));
+    return 2;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QStandardPaths::setTestModeEnabled(true);
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    Panel::setUpApplication();
+
+    Game game;
+    QString shortened;
+    const QStringList arguments = QApplication::arguments().mid(1);
+    for (int i = 0; i < arguments.size(); i += 2) {
+        const QString &name = arguments.at(i);
+        const QString value = arguments.value(i + 1);
+        if (value.isEmpty())
+            return refuse(name);
+        if (name == QLatin1String("--seed")) {
+            game.seed = value.toULongLong();
+        } else if (name == QLatin1String("--events")) {
+            game.events = value.toInt();
+        } else if (name == QLatin1String("--log")) {
+            game.log = QFileInfo(value).absoluteFilePath();
+        } else if (name == QLatin1String("--replay")) {
+            game.replayed = readLog(readAll(value));
+            if (game.replayed.isEmpty())
+                return refuse(value);
+        } else if (name == QLatin1String("--shorten")) {
+            shortened = QFileInfo(value).absoluteFilePath();
+        } else {
+            return refuse(name);
+        }
+    }
+    if (!shortened.isEmpty())
+        return shorten(shortened);
+    if (!game.log.isEmpty()) {
+        std::printf("monkey: seed %llu, %d events; should one fail:\n  %s --shorten %s\n",
+                    static_cast<unsigned long long>(game.seed), game.events, argv[0],
+                    qUtf8Printable(game.log));
+        std::fflush(stdout);
+    }
+    qInstallMessageHandler(watchMessages);
+    Doorkeeper doorkeeper;
+    application.installEventFilter(&doorkeeper);
+    return play(game);
+}

@@ -1,0 +1,440 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "monkeypanel.h"
+
+#include "census.h"
+
+#include <controls/thememanager.h>
+#include <panel/filecontroller.h>
+#include <panel/filedialog.h>
+#include <panel/languages.h>
+#include <panel/samples.h>
+#include <panel/sweepcontroller.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QToolButton>
+#include <QTouchEvent>
+#include <QWheelEvent>
+
+namespace Monkey
+{
+
+namespace
+{
+
+constexpr int mostPoints = 20001;
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(bytes);
+}
+
+/// Also what the panel's own thread of a file or a sweep has handed over.
+void settle()
+{
+    for (int i = 0; i < 2; ++i)
+        QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace
+
+Files::Files()
+{
+    QDir().mkpath(folder());
+    const QDir samples(Panel::sampleFolder());
+    QByteArray whole;
+    for (const QString &name : samples.entryList(QDir::Files, QDir::Name)) {
+        whole = readFile(samples.filePath(name));
+        add(qPrintable(name), whole);
+    }
+    const QByteArray onePort = readFile(Panel::startSample());
+    add("cut.s2p", whole.left(int(whole.size()) / 2));
+    add("empty.s1p", {});
+    add("words.s1p", "# GHz S MA R 50\none two three\n");
+    add("nan.s1p", "# GHz S RI R 50\n1 nan inf\n2 0 0\n");
+    add("single.s1p", "# GHz S RI R 50\n1 0.5 0.5\n");
+    add("backwards.s1p", "# GHz S RI R 50\n3 0 0\n2 0 0\n1 0 0\n");
+    add("huge.s1p", "# GHz S RI R 50\n1 1e300 -1e300\n2 -1e300 1e300\n3 0 1e-300\n");
+    add("still.s1p", "# Hz S RI R 50\n0 0 0\n1 0 0\n2 0 0\n");
+    QByteArray noise = onePort;
+    Random random(7);
+    for (int i = 0; i < 200; ++i)
+        noise[random.below(int(noise.size()))] = char(random.below(256));
+    add("noise.s1p", noise);
+    QByteArray longFile = "# MHz S RI R 50\n";
+    for (int i = 1; i <= 5000; ++i)
+        longFile += QByteArray::number(i) + (i % 7 ? " 0.1 0.2\n" : " -0.7 0.1\n");
+    add("long.s1p", longFile);
+    m_names << QStringLiteral("missing.s1p") << QStringLiteral("folder.s2p");
+    m_contents << QByteArray() << QByteArray();
+    QDir().mkpath(folder() + QStringLiteral("/folder.s2p"));
+}
+
+void Files::add(const char *name, const QByteArray &bytes)
+{
+    m_names << QString::fromLatin1(name);
+    m_contents << bytes;
+    writeFile(path(int(m_names.size()) - 1), bytes);
+}
+
+QString Files::path(int index) const
+{
+    return QDir(folder()).filePath(m_names.at(index));
+}
+
+void Files::change(int index, int how)
+{
+    if (m_contents.at(index).isEmpty())
+        return;
+    if (how == 0)
+        QFile::remove(path(index));
+    else
+        writeFile(path(index), m_contents.at(how == 1 ? index : how % count()));
+}
+
+Desk::Desk(Files *files)
+    : m_files(files)
+{
+    makePanel();
+}
+
+Desk::~Desk() = default;
+
+void Desk::makePanel()
+{
+    if (!m_model)
+        m_model = std::make_unique<Panel::PanelModel>();
+    m_window = std::make_unique<Panel::PanelWindow>(m_model.get());
+    m_controller = std::make_unique<Panel::PanelController>(m_model.get(), m_window.get());
+    m_controller->setScreenshotFolder(m_files->pictures());
+    m_window->resize(1024, 600);
+    if (m_model->networks().isEmpty())
+        m_controller->openFiles({Panel::startSample()});
+    m_window->show();
+    m_window->activateWindow();
+    settle();
+}
+
+void Desk::destroyPanel(bool withModel)
+{
+    m_controller.reset();
+    m_window.reset();
+    if (withModel)
+        m_model.reset();
+}
+
+void Desk::dropPanel(const Event &event)
+{
+    // At once, from the event loop, or from the event loop in the middle of a tap.
+    const QPointer<QWindow> window = windowOf(event.behind);
+    if (event.a == 0)
+        destroyPanel(event.b);
+    else
+        QTimer::singleShot(0, qApp, [this, event] { destroyPanel(event.b); });
+    if (event.a == 2 && window && !isPointerDown()) {
+        const QPoint middle(window->width() / 2, window->height() / 2);
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, middle);
+        m_pressed = true;
+    }
+    settle();
+    if (m_window) // the timer may still be on its way
+        destroyPanel(event.b);
+    makePanel();
+    QDir(m_files->pictures()).removeRecursively();
+}
+
+QStringList Desk::dropAndCount()
+{
+    static const Fuzz::Census census = [this] {
+        destroyPanel(true);
+        settle();
+        return Fuzz::Census();
+    }();
+    releasePointer();
+    destroyPanel(true);
+    // What a thread of its own deletes may need a moment.
+    QElapsedTimer timer;
+    timer.start();
+    QStringList left;
+    do {
+        settle();
+        left = census.grown();
+    } while (!left.isEmpty() && timer.elapsed() < 2000);
+    makePanel();
+    return left;
+}
+
+QWidget *Desk::front(bool behind) const
+{
+    if (QWidget *popup = QApplication::activePopupWidget())
+        return popup;
+    QWidget *modal = QApplication::activeModalWidget();
+    return modal && !behind ? modal : m_window.get();
+}
+
+QWindow *Desk::windowOf(bool behind) const
+{
+    const QWidget *widget = front(behind);
+    return widget ? widget->windowHandle() : nullptr;
+}
+
+void Desk::mouse(const Event &event)
+{
+    const QPoint position(event.a, event.b);
+    if (event.species == Species::Move || event.species == Species::Release) {
+        // A window that took the press gets all that follows; without it another one does.
+        QWindow *window = m_pressedWindow ? m_pressedWindow.data() : windowOf(false);
+        if (!m_pressed || !window)
+            return;
+        m_at = position;
+        if (event.species == Species::Move) {
+            QTest::mouseMove(window, position);
+            return;
+        }
+        m_pressed = false;
+        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, position);
+        return;
+    }
+    const QPointer<QWindow> window = windowOf(event.behind);
+    if (isPointerDown() || !window || !window->isVisible())
+        return;
+    const Qt::MouseButton button =
+        event.species == Species::Tap && event.c ? Qt::RightButton : Qt::LeftButton;
+    if (event.species == Species::DoubleTap) {
+        QTest::mouseDClick(window, button, Qt::NoModifier, position);
+        return;
+    }
+    m_pressed = true;
+    m_at = position;
+    m_pressedWindow = window;
+    QTest::mousePress(window, button, Qt::NoModifier, position);
+    if (event.species == Species::Press)
+        return;
+    m_pressed = false;
+    QWindow *under = window ? window.data() : windowOf(false);
+    QTest::mouseRelease(under, button, Qt::NoModifier, position);
+}
+
+void Desk::touch(const Event &event)
+{
+    const QPoint first(event.a, event.b);
+    if (event.species == Species::TouchPress) {
+        QWindow *window = windowOf(event.behind);
+        if (isPointerDown() || !window || !window->isVisible())
+            return;
+        m_touchedWindow = window;
+        m_fingers = 1;
+        m_finger[0] = first;
+        QTest::touchEvent(window, m_device).press(0, first, window);
+        return;
+    }
+    QWindow *window = m_touchedWindow ? m_touchedWindow.data() : windowOf(false);
+    if (m_fingers == 0 || !window)
+        return;
+    auto points = QTest::touchEvent(window, m_device, false);
+    switch (event.species) {
+    case Species::TouchMove:
+        m_finger[0] = first;
+        points.move(0, first, window);
+        if (m_fingers == 2)
+            points.stationary(1);
+        break;
+    case Species::TouchSecond:
+        if (m_fingers == 2)
+            return;
+        m_fingers = 2;
+        m_finger[1] = first;
+        points.move(0, m_finger[0], window).press(1, first, window);
+        break;
+    case Species::TouchSpread:
+        if (m_fingers < 2)
+            return;
+        m_finger[0] = first;
+        m_finger[1] = QPoint(event.c, event.d);
+        points.move(0, first, window).move(1, m_finger[1], window);
+        break;
+    case Species::TouchCancel: {
+        QTouchEvent cancel(QEvent::TouchCancel, m_device);
+        QCoreApplication::sendEvent(window, &cancel);
+        // The fingers are still there for the application, which sees them leave.
+        releasePointer();
+        return;
+    }
+    default:
+        releasePointer();
+        return;
+    }
+    points.commit();
+}
+
+void Desk::releasePointer()
+{
+    if (m_pressed) {
+        m_pressed = false;
+        if (QWindow *window = m_pressedWindow ? m_pressedWindow.data() : windowOf(false))
+            QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, m_at);
+    }
+    QWindow *window = m_touchedWindow ? m_touchedWindow.data() : windowOf(false);
+    if (m_fingers > 0 && window) {
+        auto points = QTest::touchEvent(window, m_device, false);
+        points.release(0, m_finger[0], window);
+        const bool both = m_fingers == 2;
+        if (both)
+            points.release(1, m_finger[1], window);
+        m_fingers = 0;
+        points.commit();
+        // Known: Qt makes a mouse press of the first finger, and no release when a second one then
+        // lands on a widget that takes touch (the padlock). The key stays down until the next tap.
+        if (both && (window = windowOf(false)))
+            QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, m_finger[0]);
+    }
+}
+
+void Desk::wheel(const Event &event)
+{
+    QWindow *window = windowOf(false);
+    if (!window || !window->isVisible())
+        return;
+    const QPoint position(event.a, event.b);
+    QWheelEvent wheel(position, window->mapToGlobal(position), QPoint(), QPoint(0, 120 * event.c),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(window, &wheel);
+}
+
+void Desk::key(const Event &event)
+{
+    QPointer<QWindow> window = QGuiApplication::focusWindow();
+    if (!window)
+        window = windowOf(false);
+    const auto modifiers = Qt::KeyboardModifiers(QFlag(event.b));
+    const QString text =
+        event.a >= Qt::Key_Space && event.a <= Qt::Key_AsciiTilde && modifiers == Qt::NoModifier
+        ? QString(QChar(event.a)).toLower()
+        : QString();
+    if (window)
+        QTest::sendKeyEvent(QTest::Press, window, Qt::Key(event.a), text, modifiers);
+    if (!window) // a key comes up where the focus has gone
+        window = windowOf(false);
+    if (window)
+        QTest::sendKeyEvent(QTest::Release, window, Qt::Key(event.a), text, modifiers);
+}
+
+/// What happens around the panel, and not by a hand on it.
+void Desk::host(const Event &event)
+{
+    switch (event.species) {
+    case Species::Resize:
+        m_window->resize(event.a, event.b);
+        break;
+    case Species::HideAndShow:
+        if (event.a == 2)
+            m_window->showMinimized();
+        else
+            m_window->hide();
+        if (event.a == 0) {
+            settle();
+            m_window->show();
+        }
+        break;
+    case Species::Show:
+        m_window->showNormal();
+        m_window->activateWindow();
+        break;
+    case Species::Theme:
+        Controls::ThemeManager::instance()->toggleTheme();
+        break;
+    case Species::Language:
+        Panel::setLanguage(Panel::languages().at(event.a).code);
+        break;
+    case Species::Lock:
+        m_window->lockButton()->toggle();
+        break;
+    case Species::Load: {
+        QStringList paths;
+        for (int i = 0; i < m_files->count(); ++i) {
+            if (event.a & (1 << i))
+                paths << m_files->path(i);
+        }
+        m_controller->fileController()->loadFiles(paths);
+        break;
+    }
+    case Species::ChangeFile:
+        m_files->change(event.a, event.b);
+        break;
+    case Species::Sweep: {
+        Panel::Sweep sweep = m_model->sweep();
+        sweep.points = event.b;
+        m_model->setSweep(sweep);
+        m_controller->sweepController()->simulate(Panel::SimulatedDevice::Kind(event.a));
+        break;
+    }
+    case Species::DropPanel:
+        dropPanel(event);
+        break;
+    case Species::Wait:
+        QTest::qWait(event.a);
+        break;
+    default:
+        break;
+    }
+}
+
+/// More than this would test the machine's patience, or its other files.
+void Desk::keepBounds()
+{
+    Panel::Sweep sweep = m_model->sweep();
+    if (sweep.points > mostPoints) {
+        sweep.points = mostPoints;
+        m_model->setSweep(sweep);
+    }
+    auto *dialog = m_window->findChild<Panel::FileDialog *>();
+    if (dialog && !dialog->folder().startsWith(m_files->folder())
+        && dialog->folder() != Panel::sampleFolder())
+        dialog->setFolder(m_files->folder());
+}
+
+void Desk::perform(const Event &event)
+{
+    switch (event.species) {
+    case Species::Tap:
+    case Species::DoubleTap:
+    case Species::Press:
+    case Species::Move:
+    case Species::Release:
+        mouse(event);
+        break;
+    case Species::TouchPress:
+    case Species::TouchMove:
+    case Species::TouchSecond:
+    case Species::TouchSpread:
+    case Species::TouchRelease:
+    case Species::TouchCancel:
+        touch(event);
+        break;
+    case Species::Wheel:
+        wheel(event);
+        break;
+    case Species::Key:
+        key(event);
+        break;
+    default:
+        host(event);
+        break;
+    }
+    settle();
+    keepBounds();
+}
+
+} // namespace Monkey

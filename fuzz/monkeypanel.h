@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "monkeyevents.h"
+
+#include <panel/panelcontroller.h>
+#include <panel/panelmodel.h>
+#include <panel/panelwindow.h>
+
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+namespace Monkey
+{
+
+/// The files that are there to be opened, good and broken, in a folder of their own.
+class Files
+{
+public:
+    Files();
+
+    int count() const { return int(m_names.size()); }
+    QString folder() const { return m_dir.filePath(QStringLiteral("monkey/files")); }
+    QString pictures() const { return m_dir.filePath(QStringLiteral("pictures")); }
+    QString path(int index) const;
+    /// Writes other contents, removes the file, or brings back what it was.
+    void change(int index, int how);
+
+private:
+    void add(const char *name, const QByteArray &bytes);
+
+    QTemporaryDir m_dir;
+    QStringList m_names;
+    QVector<QByteArray> m_contents;
+};
+
+/*! A panel and the hand on it: makes happen what an event says, through the window, as the platform
+    would. An event that has no sense where things stand does nothing, so that every part of a log
+    can be replayed alone. */
+class Desk
+{
+public:
+    explicit Desk(Files *files);
+    ~Desk();
+
+    void perform(const Event &event);
+    /// The next event, which fits what is on the screen.
+    Event draw(Random &random) const;
+
+    Panel::PanelWindow *window() const { return m_window.get(); }
+    const Panel::PanelModel *model() const { return m_model.get(); }
+    bool isPointerDown() const { return m_pressed || m_fingers > 0; }
+    /// Takes the panel away, and says what outlived it.
+    QStringList dropAndCount();
+
+private:
+    void makePanel();
+    void dropPanel(const Event &event);
+    void destroyPanel(bool withModel);
+    /// The widget that input goes to: a pop-up's or a dialog's window before the panel's.
+    QWidget *front(bool behind) const;
+    QWindow *windowOf(bool behind) const;
+    void mouse(const Event &event);
+    void touch(const Event &event);
+    void releasePointer();
+    void wheel(const Event &event);
+    void key(const Event &event);
+    void host(const Event &event);
+    void keepBounds();
+    QPoint drawPosition(Random &random, bool behind) const;
+    bool drawPointOfTrace(Random &random, QPoint &position) const;
+
+    Files *m_files;
+    std::unique_ptr<Panel::PanelModel> m_model;
+    std::unique_ptr<Panel::PanelWindow> m_window;
+    std::unique_ptr<Panel::PanelController> m_controller;
+    decltype(QTest::createTouchDevice()) m_device = QTest::createTouchDevice();
+
+    bool m_pressed = false;
+    QPointer<QWindow> m_pressedWindow;
+    QPoint m_at; ///< the mouse, in its window
+    int m_fingers = 0;
+    QPointer<QWindow> m_touchedWindow;
+    QPoint m_finger[2];
+};
+
+} // namespace Monkey
