@@ -246,7 +246,7 @@ bool PanelModel::updateNetwork(int index, const Network &network)
         if (trace(marker.trace)->network != index)
             continue;
         const double hertz = valueAt(before, marker.index);
-        if (marker.index <= now.size() - 1 && valueAt(now, marker.index) == hertz)
+        if (marker.index <= int(now.size()) - 1 && valueAt(now, marker.index) == hertz)
             continue; // as in most sweeps
         marker.index = indexOfFrequency(now, hertz);
         if (m_markersDiscrete)
