@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tracecontroller.h"
 
-#include "messagebar.h"
 #include "numerickeys.h"
 #include "panelmodel.h"
 #include "panelwindow.h"
