@@ -23,38 +23,85 @@ double power(double real, double imag)
     return real * real + imag * imag;
 }
 
-/// Grows with the angle from -2 to 2, as the angle does from -180 to 180 degrees.
-double diamondAngle(double real, double imag)
+/// Orders points by magnitude.
+struct Power {
+    double operator()(double real, double imag) const { return power(real, imag); }
+};
+
+/// Orders points by angle: from -2 to 2, as the angle from -180 to 180 degrees.
+struct DiamondAngle {
+    double operator()(double real, double imag) const
+    {
+        const double share = imag / (std::abs(real) + std::abs(imag));
+        return real >= 0.0 ? share : imag >= 0.0 ? 2.0 - share : -2.0 - share;
+    }
+};
+
+/// The lowest and the highest of some points; both the first one where all are NaN.
+struct Extremes {
+    int lowest;
+    int highest;
+};
+
+/// Finds the extremes of the points \a begin to \a end - 1; \a order says what is low.
+template<typename Order>
+Extremes extremes(const double *real, const double *imag, int begin, int end, Order order)
 {
-    const double share = imag / (std::abs(real) + std::abs(imag));
-    return real >= 0.0 ? share : imag >= 0.0 ? 2.0 - share : -2.0 - share;
+    // Of each tile only the values, in lanes of their own that the processor takes side by side;
+    // which points they are of is looked up in two tiles at the end.
+    constexpr int lanes = 4;
+    constexpr int tile = 64;
+    double low = std::numeric_limits<double>::infinity();
+    double high = -low;
+    Extremes tiles{begin, begin};
+    for (int from = begin; from < end; from += tile) {
+        const int to = std::min(from + tile, end);
+        double lows[lanes];
+        double highs[lanes];
+        std::fill_n(lows, lanes, low);
+        std::fill_n(highs, lanes, high);
+        const auto takeIn = [&](int i, int lane) {
+            const double value = order(real[i], imag[i]);
+            lows[lane] = value < lows[lane] ? value : lows[lane];
+            highs[lane] = value > highs[lane] ? value : highs[lane];
+        };
+        int i = from;
+        for (; i + lanes <= to; i += lanes) {
+            for (int lane = 0; lane < lanes; ++lane)
+                takeIn(i + lane, lane);
+        }
+        for (; i < to; ++i)
+            takeIn(i, 0);
+        const double lowest = *std::min_element(lows, lows + lanes);
+        const double highest = *std::max_element(highs, highs + lanes);
+        if (lowest < low)
+            tiles.lowest = from;
+        if (highest > high)
+            tiles.highest = from;
+        low = lowest;
+        high = highest;
+    }
+    const auto find = [&](int from, double wanted) {
+        for (int i = from; i < end; ++i) {
+            if (order(real[i], imag[i]) == wanted)
+                return i;
+        }
+        return begin;
+    };
+    return {find(tiles.lowest, low), find(tiles.highest, high)};
 }
 
-/// Appends the first, lowest, highest and last index of each column; order says what is low.
+/// The first, lowest, highest and last index of each column.
 template<typename Order>
 QVector<int> outline(const Parameter &parameter, int first, int count, int columns, Order order)
 {
-    const double *real = parameter.real.constData();
-    const double *imag = parameter.imag.constData();
     QVector<int> kept;
     kept.reserve(s_pointsPerColumn * columns);
     for (int column = 0; column < columns; ++column) {
         const int begin = first + int(qint64(count) * column / columns);
         const int end = first + int(qint64(count) * (column + 1) / columns);
-        int lowest = begin, highest = begin;
-        double low = std::numeric_limits<double>::infinity();
-        double high = -low;
-        for (int i = begin; i < end; ++i) {
-            const double value = order(real[i], imag[i]);
-            if (value < low) {
-                low = value;
-                lowest = i;
-            }
-            if (value > high) {
-                high = value;
-                highest = i;
-            }
-        }
+        const auto [lowest, highest] =
+            extremes(parameter.real.constData(), parameter.imag.constData(), begin, end, order);
         for (const int index : {begin, qMin(lowest, highest), qMax(lowest, highest), end - 1}) {
             if (kept.isEmpty() || kept.last() < index)
                 kept.append(index);
@@ -104,8 +151,8 @@ CartesianLine cartesianLine(const QVector<double> &frequencies, const Parameter 
         return line;
     }
     const QVector<int> kept = format == TraceFormat::Phase
-        ? outline(parameter, first, count, columns, diamondAngle)
-        : outline(parameter, first, count, columns, power);
+        ? outline(parameter, first, count, columns, DiamondAngle())
+        : outline(parameter, first, count, columns, Power());
     for (const int index : kept)
         append(index);
     return line;

@@ -23,6 +23,10 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double margin = 1e-13;
 /// Runs of up to this many chords are searched by chords alone.
 constexpr int fewChords = 16;
+/// Chords whose points stray less than this share of the block's extent say where the block lies.
+constexpr double smallSag = 0.125;
+/// Squares of distances below this vanish, and a sag may seem smaller than it is by as much.
+constexpr double smallestBounded = 1e-150;
 /// Squares of coordinates beyond this overflow, and bounds made of them would rule out anything.
 constexpr double largestBounded = 1e150;
 
@@ -39,6 +43,11 @@ void unite(Polygon &polygon, const Polygon &other)
         polygon.reach[j] = std::max(polygon.reach[j], other.reach[j]);
 }
 
+double extentOf(const Polygon &polygon)
+{
+    return std::max(polygon.reach[0] + polygon.reach[8], polygon.reach[4] + polygon.reach[12]);
+}
+
 } // namespace
 
 void TraceBlocks::build(const double *x, const double *y, int count)
@@ -51,14 +60,11 @@ void TraceBlocks::build(const double *x, const double *y, int count)
     const auto partsOf = [count](int shift) { return std::max((count - 2) >> shift, 0) + 1; };
     const int chords = partsOf(chordShift);
     const auto padded = static_cast<size_t>(chords + 1 + VectorKernels::widest);
-    m_chordX.assign(padded, 0.0);
-    m_chordY.assign(padded, 0.0);
+    m_chordX.resize(padded);
+    m_chordY.resize(padded);
+    std::fill_n(m_chordX.begin() + chords + 1, VectorKernels::widest, 0.0);
+    std::fill_n(m_chordY.begin() + chords + 1, VectorKernels::widest, 0.0);
     m_sag.resize(static_cast<size_t>(chords));
-    for (int chord = 0; chord <= chords; ++chord) {
-        const int i = std::min(chord << chordShift, count - 1);
-        m_chordX[static_cast<size_t>(chord)] = x[i];
-        m_chordY[static_cast<size_t>(chord)] = y[i];
-    }
 
     const int blocks = partsOf(blockShift);
     m_finite.assign(static_cast<size_t>(blocks), true);
@@ -82,32 +88,50 @@ void TraceBlocks::buildBlock(int block)
     const VectorKernels &kernels = vectorKernels();
     const int first = block << blockShift;
     const int last = std::min(first + (1 << blockShift), m_count - 1);
+    const int firstChord = first >> chordShift;
+    const int chords = std::max((last - first + (1 << chordShift) - 1) >> chordShift, 1);
+    double largestSag = 0.0;
+    for (int chord = firstChord; chord < firstChord + chords; ++chord) {
+        const auto at = static_cast<size_t>(chord);
+        const int i = chord << chordShift;
+        const int end = std::min(i + (1 << chordShift), last);
+        const Segment segment(m_x[i], m_y[i], m_x[end], m_y[end]);
+        const double sag =
+            std::sqrt(kernels.strayFrom(m_x, m_y, i, end + 1, segment)) + smallestBounded;
+        m_chordX[at] = m_x[i];
+        m_chordY[at] = m_y[i];
+        m_chordX[at + 1] = m_x[end];
+        m_chordY[at + 1] = m_y[end];
+        m_sag[at] = sag;
+        largestSag = std::max(largestSag, sag);
+    }
+
     Polygon &polygon = m_levels[0][static_cast<size_t>(block)];
-    const bool finite = kernels.enclose(m_x, m_y, first, last + 1, polygon);
+    const bool finite = largestSag < infinity;
     m_finite[static_cast<size_t>(block)] = finite;
-    if (!finite) {
+    if (finite) {
+        // Around the chords, and wider by the sag: soon done, and good enough where the chords say
+        // most about the trace.
+        kernels.enclose(m_chordX.data(), m_chordY.data(), firstChord, firstChord + chords + 1,
+                        polygon);
+        if (largestSag > smallSag * extentOf(polygon)) {
+            kernels.enclose(m_x, m_y, first, last + 1, polygon);
+        } else {
+            for (double &reach : polygon.reach)
+                reach += largestSag;
+        }
+    } else {
         polygon = emptyPolygon();
         for (int i = first; i <= last; ++i) {
             Polygon point;
-            if (kernels.enclose(m_x, m_y, i, i + 1, point))
-                unite(polygon, point);
+            if (!std::isfinite(m_x[i]) || !std::isfinite(m_y[i]))
+                continue;
+            kernels.enclose(m_x, m_y, i, i + 1, point);
+            unite(polygon, point);
         }
     }
     for (const size_t axis : {0u, 4u, 8u, 12u})
         m_largest = std::max(m_largest, polygon.reach[axis]);
-
-    constexpr int step = 1 << chordShift;
-    for (int i = first; i < std::max(last, first + 1); i += step) {
-        double sag = infinity;
-        if (finite) {
-            const int end = std::min(i + step, last);
-            Farthest farthest;
-            kernels.farthest(m_x, m_y, i + 1, end, m_count,
-                             Segment(m_x[i], m_y[i], m_x[end], m_y[end]), farthest);
-            sag = std::sqrt(std::max(farthest.squaredDistance, 0.0));
-        }
-        m_sag[static_cast<size_t>(i >> chordShift)] = sag;
-    }
 }
 
 void TraceBlocks::buildLevels()

@@ -204,6 +204,52 @@ VNA_INLINE double farthestOfBody(const Polygon &polygon, const Segment &segment)
     return result;
 }
 
+template<int Width>
+VNA_INLINE double strayFromBody(const double *x, const double *y, int first, int end,
+                                const Segment &s)
+{
+    using Doubles = typename Vector<Width>::Doubles;
+    const double scaledX = s.dx * s.inverse;
+    const double scaledY = s.dy * s.inverse;
+    const Doubles zero = Doubles() + 0.0;
+    const Doubles one = Doubles() + 1.0;
+    Doubles farthest = Doubles();
+    Doubles sum = Doubles(); // not finite if any distance is not
+    Doubles px;
+    Doubles py;
+    const auto takeIn = [&]() __attribute__((always_inline))
+    {
+        px -= s.ax;
+        py -= s.ay;
+        Doubles u = px * scaledX + py * scaledY;
+        u = u > zero ? u : zero;
+        u = u < one ? u : one;
+        px -= u * s.dx;
+        py -= u * s.dy;
+        const Doubles distance = px * px + py * py;
+        farthest = distance > farthest ? distance : farthest;
+        sum += distance;
+    };
+    int i = first;
+    for (; i + Width <= end; i += Width) {
+        load<Width>(x + i, px);
+        load<Width>(y + i, py);
+        takeIn();
+    }
+    for (; i < end; ++i) {
+        px = Doubles() + x[i];
+        py = Doubles() + y[i];
+        takeIn();
+    }
+    double result = 0.0;
+    double total = 0.0;
+    for (int k = 0; k < Width; ++k) {
+        result = std::max(result, lane(farthest, k));
+        total += lane(sum, k);
+    }
+    return total - total == 0.0 ? result : std::numeric_limits<double>::infinity();
+}
+
 /// The reaches along \a Axes axes from the one numbered \a from, both ways.
 template<int Width, int From, int Axes>
 VNA_INLINE void encloseAlong(const double *x, const double *y, int first, int end, Polygon &polygon)
@@ -251,33 +297,13 @@ VNA_INLINE void encloseAlong(const double *x, const double *y, int first, int en
 }
 
 template<int Width>
-VNA_INLINE bool encloseBody(const double *x, const double *y, int first, int end, Polygon &polygon)
+VNA_INLINE void encloseBody(const double *x, const double *y, int first, int end, Polygon &polygon)
 {
-    using Doubles = typename Vector<Width>::Doubles;
-    // 0 times a value is 0 if the value is finite, NaN otherwise, and a NaN stays one.
-    Doubles check = Doubles();
-    Doubles px;
-    Doubles py;
-    int i = first;
-    for (; i + Width <= end; i += Width) {
-        load<Width>(x + i, px);
-        load<Width>(y + i, py);
-        check += px * 0.0 + py * 0.0;
-    }
-    double sum = 0.0;
-    for (; i < end; ++i)
-        sum += x[i] * 0.0 + y[i] * 0.0;
-    for (int k = 0; k < Width; ++k)
-        sum += lane(check, k);
-    if (sum != 0.0)
-        return false;
-
     // Two halves, so that the running extremes stay in registers.
     constexpr int axes = Polygon::directions / 4;
     encloseAlong<Width, 0, axes>(x, y, first, end, polygon);
     encloseAlong<Width, axes, axes>(x, y, first, end, polygon);
     polygon.reach[Polygon::directions] = polygon.reach[0];
-    return true;
 }
 
 #define VNA_KERNELS(Name, Width, Attribute)                                                        \
@@ -295,13 +321,18 @@ VNA_INLINE bool encloseBody(const double *x, const double *y, int first, int end
     {                                                                                              \
         return farthestOfBody<Width>(polygon, segment);                                            \
     }                                                                                              \
-    Attribute bool enclose##Name(const double *x, const double *y, int first, int end,             \
+    Attribute double strayFrom##Name(const double *x, const double *y, int first, int end,         \
+                                     const Segment &segment)                                       \
+    {                                                                                              \
+        return strayFromBody<Width>(x, y, first, end, segment);                                    \
+    }                                                                                              \
+    Attribute void enclose##Name(const double *x, const double *y, int first, int end,             \
                                  Polygon &polygon)                                                 \
     {                                                                                              \
-        return encloseBody<Width>(x, y, first, end, polygon);                                      \
+        encloseBody<Width>(x, y, first, end, polygon);                                             \
     }                                                                                              \
     constexpr VectorKernels kernels##Name{farthest##Name, squaredDistances##Name,                  \
-                                          farthestOf##Name, enclose##Name};
+                                          farthestOf##Name, strayFrom##Name, enclose##Name};
 
 VNA_KERNELS(Plain, 1, )
 #ifdef VNA_VECTOR_TYPES

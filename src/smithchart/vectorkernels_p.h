@@ -73,9 +73,12 @@ struct VectorKernels {
                              double *result);
     /// The largest squared distance to \a segment of any point in \a polygon.
     double (*farthestOf)(const Polygon &polygon, const Segment &segment);
-    /// The polygon around the points \a first to \a end - 1; false, with a useless polygon, unless
-    /// all of them are finite.
-    bool (*enclose)(const double *x, const double *y, int first, int end, Polygon &polygon);
+    /// The largest squared distance to \a segment of the points \a first to \a end - 1, to within
+    /// rounding; infinite if a point is not finite, or so far away that squares overflow.
+    double (*strayFrom)(const double *x, const double *y, int first, int end,
+                        const Segment &segment);
+    /// The polygon around the points \a first to \a end - 1, which must be finite.
+    void (*enclose)(const double *x, const double *y, int first, int end, Polygon &polygon);
 
     static constexpr int widest = 4; ///< points in the widest vector of any set
 };

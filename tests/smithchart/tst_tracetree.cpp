@@ -68,10 +68,16 @@ private Q_SLOTS:
                 plain.farthest(x.data(), y.data(), i, i + 1, count, segment, oneByOne);
             QCOMPARE(wanted.index, oneByOne.index);
             Polygon polygon;
-            const bool finite =
-                first < end && plain.enclose(x.data(), y.data(), first, end, polygon);
-            const double bound = finite ? plain.farthestOf(polygon, segment) : 0.0;
-            QVERIFY(!finite || bound >= wanted.squaredDistance * (1.0 - 1e-9));
+            const double stray = plain.strayFrom(x.data(), y.data(), first, end, segment);
+            const bool finite = first < end && std::isfinite(stray);
+            double bound = 0.0;
+            if (finite) {
+                plain.enclose(x.data(), y.data(), first, end, polygon);
+                bound = plain.farthestOf(polygon, segment);
+                QVERIFY(bound >= wanted.squaredDistance * (1.0 - 1e-9));
+                QVERIFY(std::fabs(std::sqrt(stray) - std::sqrt(wanted.squaredDistance))
+                        <= 1e-13 * (std::fabs(x[0]) + std::fabs(y[0]) + std::sqrt(bound)));
+            }
 
             for (const VectorKernels *kernels : allVectorKernels()) {
                 if (!kernels)
@@ -90,9 +96,10 @@ private Q_SLOTS:
                     QVERIFY(distances[static_cast<size_t>(i)] == one.squaredDistance);
                 }
 
+                QVERIFY(kernels->strayFrom(x.data(), y.data(), first, end, segment) == stray);
                 if (finite) {
                     Polygon other;
-                    QVERIFY(kernels->enclose(x.data(), y.data(), first, end, other));
+                    kernels->enclose(x.data(), y.data(), first, end, other);
                     QVERIFY(std::equal(polygon.reach.begin(), polygon.reach.end(),
                                        other.reach.begin()));
                     QVERIFY(kernels->farthestOf(other, segment) == bound);
@@ -107,10 +114,13 @@ private Q_SLOTS:
             for (int hole = 0; kernels && hole < 40; ++hole) {
                 std::vector<double> x(40, 1.0);
                 std::vector<double> y(40, -1.0);
-                Polygon polygon;
-                QVERIFY(kernels->enclose(x.data(), y.data(), 0, 40, polygon));
+                const auto stray = [&] {
+                    const Segment segment(x[0], y[0], x[39], y[39]);
+                    return kernels->strayFrom(x.data(), y.data(), 0, 40, segment);
+                };
+                QCOMPARE(stray(), 0.0);
                 (hole % 2 ? x : y)[static_cast<size_t>(hole)] = hole % 3 ? notANumber : -infinity;
-                QVERIFY(!kernels->enclose(x.data(), y.data(), 0, 40, polygon));
+                QCOMPARE(stray(), infinity);
             }
         }
     }
