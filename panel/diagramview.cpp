@@ -144,4 +144,16 @@ void DiagramView::showEvent(QShowEvent *event)
     m_stale = false;
 }
 
+bool DiagramView::event(QEvent *event)
+{
+    const bool handled = QWidget::event(event);
+    // A plot reads the pixel ratio once, and the window may move to a screen with another one. Its
+    // new buffers hold nothing until they are painted.
+    if (event->type() == QEvent::ScreenChangeInternal) {
+        m_plot->setBufferDevicePixelRatio(devicePixelRatioF());
+        m_plot->replot();
+    }
+    return handled;
+}
+
 } // namespace Panel

@@ -97,6 +97,7 @@ protected:
 
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    bool event(QEvent *event) override;
 
     const PanelModel *m_model;
 

@@ -60,6 +60,21 @@ class CartesianViewTest : public VnaTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    /// As a window finds when it is moved there.
+    void anotherScreenHasAnotherPixelRatio()
+    {
+        Desk desk;
+        QCustomPlot *plot = desk.view()->plot();
+        const double ratio = plot->devicePixelRatioF();
+        plot->setBufferDevicePixelRatio(3.0 * ratio);
+        int replots = 0;
+        connect(plot, &QCustomPlot::afterReplot, this, [&replots] { ++replots; });
+        QEvent moved(QEvent::ScreenChangeInternal);
+        QCoreApplication::sendEvent(desk.view(), &moved);
+        QCOMPARE(plot->bufferDevicePixelRatio(), ratio);
+        QCOMPARE(replots, 1);
+    }
+
     void initTestCase() { setUpApplication(); }
     void readsDecibelsAndDegrees();
     void thinsWithoutLosingPeaks_data();
