@@ -146,7 +146,8 @@ void RatioTable::print() const
                       timed                              ? "x"
                           : row.kind == Row::BytesAPoint ? "B/point"
                                                          : "MiB");
-        std::printf("%-42s %10d  %-36s %14s %15s  %s\n", row.work.c_str(), row.points,
+        const std::string points = row.points ? std::to_string(row.points) : std::string();
+        std::printf("%-42s %10s  %-36s %14s %15s  %s\n", row.work.c_str(), points.c_str(),
                     times.c_str(), text, target(row).c_str(), outcome.reached ? "yes" : "no");
     }
 }
