@@ -14,7 +14,6 @@ set(VNA_TEST_ENVIRONMENT
     "LC_ALL=C.UTF-8"
     "XDG_RUNTIME_DIR=${VNA_TEST_RUNTIME_DIR}"
     "QTEST_FUNCTION_TIMEOUT=240000"
-    "ASAN_OPTIONS=fast_unwind_on_malloc=0"
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/shared/lsan.supp:print_suppressions=0"
     "UBSAN_OPTIONS=print_stacktrace=1")
 

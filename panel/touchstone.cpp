@@ -390,7 +390,8 @@ QString readText(const QFileInfo &info, QByteArray &text, const ReadProgress &pr
         // It may have grown since its size was asked for.
         if (text.size() > s_largestFile)
             return tooLarge;
-        if (progress && !progress(int(100 * text.size() / qMax<qint64>(expected, text.size()))))
+        const qint64 size = text.size();
+        if (progress && !progress(int(100 * size / qMax(expected, size))))
             return cancelled();
     }
     return file.error() == QFileDevice::NoError
