@@ -31,7 +31,7 @@ CommandLine parseCommandLine(const QStringList &arguments)
     CommandLine result;
     bool options = true;
     for (int i = 0; i < arguments.size(); ++i) {
-        const QString argument = arguments.at(i);
+        const QString &argument = arguments.at(i);
         if (!options || !argument.startsWith(QLatin1Char('-')) || argument.size() == 1) {
             result.files << argument;
             continue;

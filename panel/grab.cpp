@@ -95,13 +95,15 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
 
     if (const Trace *trace = model->activeTrace()) {
         const int last = model->network(*trace).points() - 1;
+        const int third = last / 3;
+        const int half = last / 2;
         const int id = trace->id;
         if (const Trace *transmission = model->activeTrace(false)) {
-            model->addMarker(transmission->id, last / 3);
-            model->addMarker(transmission->id, last / 2);
+            model->addMarker(transmission->id, third);
+            model->addMarker(transmission->id, half);
         }
-        model->addMarker(id, last / 3);
-        model->addMarker(id, last / 2);
+        model->addMarker(id, third);
+        model->addMarker(id, half);
     }
     grabber.grab("panel");
 

@@ -84,14 +84,15 @@ void PanelController::addShortcuts()
     const auto add = [this](const QKeySequence &keys, auto action) {
         connect(new QShortcut(keys, m_window), &QShortcut::activated, this, action);
     };
+    const auto ctrl = [](Qt::Key key) { return QKeySequence(int(Qt::CTRL) | int(key)); };
     add(QKeySequence::Open, [this] { showFileDialog(); });
     add(QKeySequence::Quit, [this] { m_window->close(); });
-    add(Qt::CTRL | Qt::Key_T, [] { Controls::ThemeManager::instance()->toggleTheme(); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_L), [this] { m_window->lockButton()->toggle(); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_P), [this] { takeScreenshot(); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_Comma), [this] { showSettings(); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_PageDown), [this] { m_window->softKeys()->turnPage(1); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [this] { m_window->softKeys()->turnPage(-1); });
+    add(ctrl(Qt::Key_T), [] { Controls::ThemeManager::instance()->toggleTheme(); });
+    add(ctrl(Qt::Key_L), [this] { m_window->lockButton()->toggle(); });
+    add(ctrl(Qt::Key_P), [this] { takeScreenshot(); });
+    add(ctrl(Qt::Key_Comma), [this] { showSettings(); });
+    add(ctrl(Qt::Key_PageDown), [this] { m_window->softKeys()->turnPage(1); });
+    add(ctrl(Qt::Key_PageUp), [this] { m_window->softKeys()->turnPage(-1); });
     add(Qt::Key_F1, [this] { showHelp(); });
     add(Qt::Key_F3, [this] { setTimingShown(m_window->timingLine()->isHidden()); });
     add(Qt::Key_F11,

@@ -13,7 +13,7 @@ namespace
 {
 
 /// A frame that comes late has more points, but never so many that it takes long itself.
-constexpr qint64 s_mostPoints = 10 * SweepSource::leastPoints;
+constexpr qint64 s_mostPoints = qint64(10) * SweepSource::leastPoints;
 
 } // namespace
 

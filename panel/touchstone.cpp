@@ -23,9 +23,10 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(Panel::Touchstone)
 };
 
-constexpr qint64 s_largestFile = 512 * 1024 * 1024;
+constexpr qint64 s_mebibyte = 1 << 20;
+constexpr qint64 s_largestFile = 512 * s_mebibyte;
 /// Bytes between two reports of progress.
-constexpr qint64 s_portion = 1024 * 1024;
+constexpr qint64 s_portion = s_mebibyte;
 constexpr int s_mostPoints = 4000000;
 constexpr int s_noiseNumbers = 5;
 /// Frequency and four parameters of two numbers each: the longest point.
@@ -375,8 +376,7 @@ QString readText(const QFileInfo &info, QByteArray &text, const ReadProgress &pr
 {
     if (!info.isFile())
         return Text::tr("this is no ordinary file");
-    const QString tooLarge =
-        Text::tr("the file is larger than %1 MB").arg(s_largestFile / (1024 * 1024));
+    QString tooLarge = Text::tr("the file is larger than %1 MB").arg(s_largestFile / s_mebibyte);
     const qint64 expected = info.size();
     if (expected > s_largestFile)
         return tooLarge;

@@ -29,9 +29,9 @@ public:
     static QStringList defaultThemeFiles(bool dark);
 
     /*! Joins the files in list order and applies them to the application. Relative names are taken
-        from the application's folder, text is UTF-8, a file that cannot be read or has more than 1 MiB is left out.
-        Does nothing when the text is the one in force, since a new sheet costs every widget a
-       polish. */
+        from the application's folder, text is UTF-8, a file that cannot be read or has more than 1
+       MiB is left out. Does nothing when the text is the one in force, since a new sheet costs
+       every widget a polish. */
     static void setThemes(const QStringList &files);
 };
 
