@@ -290,15 +290,10 @@ void Desk::releasePointer()
     if (m_fingers > 0 && window) {
         auto points = QTest::touchEvent(window, m_device, false);
         points.release(0, m_finger[0], window);
-        const bool both = m_fingers == 2;
-        if (both)
+        if (m_fingers == 2)
             points.release(1, m_finger[1], window);
         m_fingers = 0;
         points.commit();
-        // Known: Qt makes a mouse press of the first finger, and no release when a second one then
-        // lands on a widget that takes touch (the padlock). The key stays down until the next tap.
-        if (both && (window = windowOf(false)))
-            QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, m_finger[0]);
     }
 }
 
