@@ -126,7 +126,7 @@ int play(const Game &game)
         const double took = cpuMilliseconds() - start;
         ++played;
         // A new panel is not an event of the old one.
-        const bool anew = event.species == Species::DropPanel;
+        const bool anew = event.species == Species::DropPanel || event.species == Species::Restart;
         if (took > longest && !anew) {
             longest = took;
             slowest = event;
@@ -141,7 +141,7 @@ int play(const Game &game)
             for (const QString &left : desk.dropAndCount())
                 broken << QStringLiteral("not destroyed: ") + left;
         }
-        broken << s_warnings;
+        broken << desk.takeBroken() << s_warnings;
         s_warnings.clear();
     }
     std::printf("monkey: seed %llu, %d events, the longest took %.0f ms of processor time: %s",

@@ -87,7 +87,7 @@ const Share shares[] = {
     {Species::Resize, 12},      {Species::HideAndShow, 4}, {Species::Theme, 1},
     {Species::Language, 2},     {Species::Lock, 4},        {Species::Load, 12},
     {Species::ChangeFile, 8},   {Species::Sweep, 8},       {Species::DropPanel, 2},
-    {Species::Wait, 24},
+    {Species::Restart, 2},      {Species::Wait, 24},
 };
 
 Species drawSpecies(Random &random)
@@ -263,6 +263,10 @@ Event Desk::draw(Random &random) const
     case Species::DropPanel:
         event.a = random.below(3);
         event.b = random.below(2);
+        break;
+    case Species::Restart:
+        event.a = random.below(6);
+        event.b = random.below(2000);
         break;
     case Species::Wait:
         // Rarely as long as it takes for a tap to count as a new one.
