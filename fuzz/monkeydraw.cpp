@@ -9,6 +9,8 @@
 #include <plot/qcp.h>
 #include <smithchart/smithchartplot.h>
 
+#include <QToolButton>
+
 #include <cmath>
 #include <iterator>
 
@@ -55,7 +57,6 @@ const Stroke strokes[] = {
     {Qt::Key_F1},
     {Qt::Key_F3},
     {Qt::Key_F11},
-    {Qt::Key_T, Qt::ControlModifier},
     {Qt::Key_L, Qt::ControlModifier},
     {Qt::Key_Comma, Qt::ControlModifier},
     {Qt::Key_O, Qt::ControlModifier},
@@ -67,6 +68,7 @@ const Stroke strokes[] = {
 
 /// Rare, because they cost the most or take the panel off the screen.
 const Stroke rareStrokes[] = {
+    {Qt::Key_T, Qt::ControlModifier},
     {Qt::Key_P, Qt::ControlModifier},
     {Qt::Key_Q, Qt::ControlModifier},
     {Qt::Key_F4, Qt::AltModifier},
@@ -75,17 +77,17 @@ const Stroke rareStrokes[] = {
 
 struct Share {
     Species species;
-    int share; ///< of a thousand, about
+    int share; ///< of a thousand, about; small for what takes long, such as another theme
 };
 
 /// With no pointer on the glass.
 const Share shares[] = {
     {Species::Tap, 380},        {Species::DoubleTap, 60},  {Species::Press, 80},
     {Species::TouchPress, 110}, {Species::Wheel, 60},      {Species::Key, 200},
-    {Species::Resize, 12},      {Species::HideAndShow, 4}, {Species::Theme, 4},
-    {Species::Language, 4},     {Species::Lock, 4},        {Species::Load, 12},
+    {Species::Resize, 12},      {Species::HideAndShow, 4}, {Species::Theme, 1},
+    {Species::Language, 2},     {Species::Lock, 4},        {Species::Load, 12},
     {Species::ChangeFile, 8},   {Species::Sweep, 8},       {Species::DropPanel, 2},
-    {Species::Wait, 24},
+    {Species::Restart, 2},      {Species::Wait, 24},
 };
 
 Species drawSpecies(Random &random)
@@ -153,8 +155,9 @@ bool Desk::drawPointOfTrace(Random &random, QPoint &position) const
             return false;
         pixel = graph->coordsToPixels(point->key, point->value);
     }
-    // Also infinitely far away, which no int can tell.
-    if (!QRectF(view->plot()->rect()).contains(pixel))
+    // Also infinitely far away or nowhere, which no int can tell.
+    if (!std::isfinite(pixel.x()) || !std::isfinite(pixel.y())
+        || !QRectF(view->plot()->rect()).contains(pixel))
         return false;
     position = view->plot()->mapTo(m_window.get(), pixel.toPoint());
     return true;
@@ -178,6 +181,9 @@ QPoint Desk::drawPosition(Random &random, bool behind) const
     for (int tries = 0; tries < 20 && !targets.isEmpty(); ++tries) {
         const QWidget *target = targets.at(random.below(int(targets.size())));
         if (target->window() != widget || !target->isVisible() || !target->isEnabled())
+            continue;
+        // Another theme takes as long as a hundred other taps.
+        if (target == m_window->themeButton() && !random.oneIn(8))
             continue;
         const QRect area = target->visibleRegion().boundingRect();
         if (area.isEmpty())
@@ -234,8 +240,9 @@ Event Desk::draw(Random &random) const
         break;
     }
     case Species::Resize:
-        event.a = random.between(random.oneIn(4) ? 1 : 800, 1600);
-        event.b = random.between(random.oneIn(4) ? 1 : 480, 1000);
+        // Mostly as large as a panel is; what is drawn takes most of the time.
+        event.a = random.between(random.oneIn(4) ? 1 : 800, random.oneIn(5) ? 1600 : 1100);
+        event.b = random.between(random.oneIn(4) ? 1 : 480, random.oneIn(5) ? 1000 : 640);
         break;
     case Species::HideAndShow:
     case Species::Language:
@@ -257,9 +264,13 @@ Event Desk::draw(Random &random) const
         event.a = random.below(3);
         event.b = random.below(2);
         break;
+    case Species::Restart:
+        event.a = random.below(6);
+        event.b = random.below(2000);
+        break;
     case Species::Wait:
         // Rarely as long as it takes for a tap to count as a new one.
-        event.a = random.oneIn(12) ? 230 : random.between(1, 20);
+        event.a = random.oneIn(24) ? 230 : random.between(1, 10);
         break;
     default:
         break;

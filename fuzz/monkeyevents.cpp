@@ -14,10 +14,11 @@ namespace
 
 /// In the order of the species.
 const char *const names[] = {
-    "tap",       "doubletap",   "press",       "move",         "release",     "touchpress",
-    "touchmove", "touchsecond", "touchspread", "touchrelease", "touchcancel", "wheel",
-    "key",       "resize",      "hideandshow", "show",         "theme",       "language",
-    "lock",      "load",        "changefile",  "sweep",        "droppanel",   "wait",
+    "tap",         "doubletap", "press",       "move",        "release",
+    "touchpress",  "touchmove", "touchsecond", "touchspread", "touchrelease",
+    "touchcancel", "wheel",     "key",         "resize",      "hideandshow",
+    "show",        "theme",     "language",    "lock",        "load",
+    "changefile",  "sweep",     "droppanel",   "restart",     "wait",
 };
 static_assert(std::size(names) == std::size_t(Species::Wait) + 1);
 

@@ -59,6 +59,7 @@ enum class Species {
     ChangeFile, ///< which, what becomes of it
     Sweep, ///< which device, points
     DropPanel, ///< when, whether the model goes too
+    Restart, ///< what becomes of the saved state in between, where in it
     Wait, ///< milliseconds
 };
 

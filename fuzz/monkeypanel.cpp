@@ -19,6 +19,8 @@
 #include <QTouchEvent>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace Monkey
 {
 
@@ -104,6 +106,30 @@ void Files::change(int index, int how)
         writeFile(path(index), m_contents.at(how == 1 ? index : how % count()));
 }
 
+void Files::damageState(int how, int place)
+{
+    QByteArray bytes = readFile(state());
+    const int at = bytes.isEmpty() ? 0 : place % int(bytes.size());
+    switch (how) {
+    case 1:
+        bytes.truncate(at);
+        break;
+    case 2:
+        bytes.insert(at, "\n[traces]\n1\\format=nan\nsize=-1\n");
+        break;
+    case 3:
+        bytes.remove(at, 1 + place % 40);
+        break;
+    case 4:
+        bytes.fill(char(place), int(bytes.size()));
+        break;
+    default:
+        if (!bytes.isEmpty())
+            bytes[at] = char(place);
+    }
+    writeFile(state(), bytes);
+}
+
 Desk::Desk(Files *files)
     : m_files(files)
 {
@@ -112,7 +138,7 @@ Desk::Desk(Files *files)
 
 Desk::~Desk() = default;
 
-void Desk::makePanel()
+void Desk::makePanel(const Panel::PanelState *state)
 {
     if (!m_model)
         m_model = std::make_unique<Panel::PanelModel>();
@@ -120,8 +146,12 @@ void Desk::makePanel()
     m_controller = std::make_unique<Panel::PanelController>(m_model.get(), m_window.get());
     m_controller->setScreenshotFolder(m_files->pictures());
     m_window->resize(1024, 600);
+    if (state && !state->files().isEmpty())
+        m_controller->openFiles(state->files());
     if (m_model->networks().isEmpty())
         m_controller->openFiles({Panel::startSample()});
+    if (state)
+        state->restore(m_model.get(), m_controller.get());
     m_window->show();
     m_window->activateWindow();
     settle();
@@ -153,6 +183,29 @@ void Desk::dropPanel(const Event &event)
         destroyPanel(event.b);
     makePanel();
     QDir(m_files->pictures()).removeRecursively();
+}
+
+void Desk::restart(const Event &event)
+{
+    const bool saved =
+        Panel::PanelState(m_files->state()).save(*m_model, *m_controller, m_controller->language());
+    destroyPanel(true);
+    settle();
+    if (event.a > 0)
+        m_files->damageState(event.a, event.b);
+    const Panel::PanelState state(m_files->state());
+    if (!saved)
+        m_broken << QStringLiteral("the state could not be saved");
+    else if (event.a == 0 && !state.note().isEmpty())
+        m_broken << QStringLiteral("what was saved is refused: ") + state.note();
+    if (!state.language().isEmpty())
+        Panel::setLanguage(state.language());
+    makePanel(&state);
+}
+
+QStringList Desk::takeBroken()
+{
+    return std::exchange(m_broken, {});
 }
 
 QStringList Desk::dropAndCount()
@@ -290,15 +343,10 @@ void Desk::releasePointer()
     if (m_fingers > 0 && window) {
         auto points = QTest::touchEvent(window, m_device, false);
         points.release(0, m_finger[0], window);
-        const bool both = m_fingers == 2;
-        if (both)
+        if (m_fingers == 2)
             points.release(1, m_finger[1], window);
         m_fingers = 0;
         points.commit();
-        // Known: Qt makes a mouse press of the first finger, and no release when a second one then
-        // lands on a widget that takes touch (the padlock). The key stays down until the next tap.
-        if (both && (window = windowOf(false)))
-            QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, m_finger[0]);
     }
 }
 
@@ -382,6 +430,9 @@ void Desk::host(const Event &event)
     }
     case Species::DropPanel:
         dropPanel(event);
+        break;
+    case Species::Restart:
+        restart(event);
         break;
     case Species::Wait:
         QTest::qWait(event.a);

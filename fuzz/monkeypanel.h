@@ -6,6 +6,7 @@
 
 #include <panel/panelcontroller.h>
 #include <panel/panelmodel.h>
+#include <panel/panelstate.h>
 #include <panel/panelwindow.h>
 
 #include <QPointer>
@@ -29,6 +30,10 @@ public:
     QString path(int index) const;
     /// Writes other contents, removes the file, or brings back what it was.
     void change(int index, int how);
+    /// Where the panel's state is kept.
+    QString state() const { return m_dir.filePath(QStringLiteral("state.ini")); }
+    /// Damages the saved state in one of five ways, at a place that is anywhere in it or behind.
+    void damageState(int how, int place);
 
 private:
     void add(const char *name, const QByteArray &bytes);
@@ -54,12 +59,16 @@ public:
     Panel::PanelWindow *window() const { return m_window.get(); }
     const Panel::PanelModel *model() const { return m_model.get(); }
     bool isPointerDown() const { return m_pressed || m_fingers > 0; }
+    /// What has gone wrong since this was last asked and cannot be seen in the panel.
+    QStringList takeBroken();
     /// Takes the panel away, and says what outlived it.
     QStringList dropAndCount();
 
 private:
-    void makePanel();
+    /// Like the start of the program, with what it has kept or without.
+    void makePanel(const Panel::PanelState *state = nullptr);
     void dropPanel(const Event &event);
+    void restart(const Event &event);
     void destroyPanel(bool withModel);
     /// The widget that input goes to: a pop-up's or a dialog's window before the panel's.
     QWidget *front(bool behind) const;
@@ -86,6 +95,7 @@ private:
     int m_fingers = 0;
     QPointer<QWindow> m_touchedWindow;
     QPoint m_finger[2];
+    QStringList m_broken;
 };
 
 } // namespace Monkey

@@ -62,6 +62,7 @@ void CartesianView::setUpPlot()
     plot()->yAxis->setNumberPrecision(4);
     plot()->xAxis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
     plot()->yAxis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
+    setFrequencies(m_lowest, m_highest);
 }
 
 QCPGraph *CartesianView::graph(int traceId) const

@@ -4,6 +4,7 @@
 
 #include <platform/placement.h>
 #include <utils/qtcompat_p.h>
+#include <utils/secondfinger_p.h>
 
 #include <QApplication>
 #include <QScreen>
@@ -76,6 +77,10 @@ bool WidgetMouseMoveTool::eventFilter(QObject *watched, QEvent *event)
 
 bool WidgetMouseMoveTool::filterTouch(QEvent *event)
 {
+    if (isSecondFinger(event)) {
+        event->ignore();
+        return true;
+    }
     event->accept();
     const auto *touch = static_cast<QTouchEvent *>(event);
     if (event->type() == QEvent::TouchCancel || QtCompat::touchPointCount(touch) != 1) {

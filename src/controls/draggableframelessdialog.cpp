@@ -4,6 +4,7 @@
 
 #include <platform/placement.h>
 #include <utils/qtcompat_p.h>
+#include <utils/secondfinger_p.h>
 
 #include <QAbstractSlider>
 #include <QHBoxLayout>
@@ -275,7 +276,8 @@ bool DraggableFramelessDialog::filterTitleBar(QEvent *event)
             && startDrag(event, QtCompat::position(mouse).toPoint(), global);
     }
     case QEvent::TouchBegin:
-        return resolved && startDrag(event, m_titleBar->mapFromGlobal(global), global);
+        return resolved && !Utils::isSecondFinger(event)
+            && startDrag(event, m_titleBar->mapFromGlobal(global), global);
     case QEvent::MouseMove:
     case QEvent::TouchUpdate:
         if (!m_dragging)

@@ -5,6 +5,7 @@
 #include <controls/thememanager.h>
 #include <platform/widgetmousemovetool.h>
 #include <utils/qtcompat_p.h>
+#include <utils/secondfinger_p.h>
 
 #include "ui_lockwidget.h"
 
@@ -116,7 +117,8 @@ bool LockWidget::eventFilter(QObject *watched, QEvent *event)
         return false;
     blinkGroup->stop();
     blinkGroup->start();
-    event->accept();
+    // Swallowed either way.
+    event->setAccepted(!Utils::isSecondFinger(event));
     return true;
 }
 

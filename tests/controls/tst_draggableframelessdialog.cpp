@@ -133,6 +133,22 @@ private Q_SLOTS:
         }
     }
 
+    void secondFingerLeavesTheFirstItsRelease()
+    {
+        Scene scene;
+        QPushButton button("Peak"_s, &scene.dialog);
+        button.setGeometry(20, 60, 100, 50);
+        button.show();
+        QSignalSpy clicked(&button, &QPushButton::clicked);
+        TouchScreen touch(&scene.dialog);
+        touch.press(button.geometry().center());
+        touch.pressSecond(Title);
+        touch.releaseTogether(Title);
+        QVERIFY(!button.isDown());
+        QCOMPARE(clicked.count(), 1);
+        QCOMPARE(scene.position(), Centred);
+    }
+
     void fingerDrags()
     {
         Scene scene;

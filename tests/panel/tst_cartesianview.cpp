@@ -262,6 +262,8 @@ void CartesianViewTest::keepsLimitOfZoomOverOtherFrequencies()
         frequency *= 4.0;
     desk.model.setNetworks({wider});
     QCOMPARE(desk.view()->zoom(), DiagramView::mostZoom);
+    // A view without traces has no other frequencies, and no other magnification than any.
+    QCOMPARE(CartesianView(&desk.model).zoom(), 1.0);
 }
 
 QTEST_MAIN(CartesianViewTest)

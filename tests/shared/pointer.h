@@ -134,6 +134,13 @@ public:
         QTest::touchEvent(m_window, m_device).move(1, second, m_window);
         QTest::touchEvent(m_window, m_device).release(1, second, m_window);
     }
+    /// Both fingers leave in the same report of the screen, where they were.
+    void releaseTogether(const QPoint &second)
+    {
+        QTest::touchEvent(m_window, m_device)
+            .release(0, m_first, m_window)
+            .release(1, second, m_window);
+    }
 
 private:
     QWindow *m_window;

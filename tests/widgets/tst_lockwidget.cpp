@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/thememanager.h>
+#include <platform/widgetmousemovetool.h>
 #include <widgets/lockwidget.h>
 
 #include <QAccessible>
@@ -213,6 +214,31 @@ private Q_SLOTS:
         QVERIFY(scene.showsIcon(LockedIcon) && accessible->state().checked);
         accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         QVERIFY(scene.showsIcon(UnlockedIcon) && !accessible->state().checked);
+    }
+
+    void secondFingerLeavesTheFirstItsRelease()
+    {
+        Scene scene;
+        TouchScreen touch(&scene.window);
+        const QPoint onButton = inWindow(&scene.button, {10, 10});
+        // The first finger is a mouse press of the button, which wants its release.
+        touch.press(onButton);
+        QVERIFY(scene.button.isDown());
+        touch.pressSecond(scene.center());
+        touch.releaseTogether(scene.center());
+        QVERIFY(!scene.button.isDown());
+        QCOMPARE(scene.clicked.count(), 1);
+        QVERIFY(scene.showsIcon(UnlockedIcon));
+
+        // Locked in between, by the keyboard: the second finger does nothing, the first comes up.
+        Utils::WidgetMouseMoveTool takesTouches(scene.target);
+        touch.press(onButton);
+        QTest::keyClick(scene.lock.get(), Qt::Key_Space);
+        touch.pressSecond({100, 100});
+        QVERIFY(scene.blinks());
+        touch.releaseTogether({100, 100});
+        QVERIFY(!scene.button.isDown());
+        QVERIFY(scene.showsIcon(LockedIcon));
     }
 
     void disablingUnlocks()
