@@ -2,16 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/draggableframelessdialog.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScreen>
-#include <QSignalSpy>
-#include <QVBoxLayout>
-#include <QtTest>
-
 #include <pointer.h>
-#include <tables.h>
 #include <vnatest.h>
 
 using Bar = Controls::DraggableDialogTitleBar;
@@ -232,8 +223,6 @@ private Q_SLOTS:
         bar.setTitleHeight(-3);
         QCOMPARE(bar.titleHeight(), 0);
         QCOMPARE(bar.height(), 0);
-        bar.setWindowTitleAlignment(Qt::AlignCenter);
-        QCOMPARE(bar.windowTitleAlignment(), Qt::AlignCenter);
     }
 
     void survivesWhatGoesBeforeIt()
