@@ -288,10 +288,12 @@ private Q_SLOTS:
             ChartDesk::settle();
             const auto widgets = desk.window.findChildren<QWidget *>();
             for (const QWidget *widget : widgets) {
-                // The list of traces scrolls, and the dot of a read-out is a picture that scales.
+                // The list of traces scrolls, the dot of a read-out is a picture that scales, and a
+                // bar without a text may be thin.
                 if (!widget->isVisible() || widget->isWindow()
                     || desk.window.traceBar()->isAncestorOf(widget)
-                    || widget->objectName() == "selectedStatusLabel"_s)
+                    || widget->objectName() == "selectedStatusLabel"_s
+                    || widget->inherits("QProgressBar"))
                     continue;
                 QString who;
                 QDebug(&who) << where << widget << widget->minimumSizeHint();

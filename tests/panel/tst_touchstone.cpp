@@ -107,15 +107,11 @@ private Q_SLOTS:
 
     void refusesText_data()
     {
-        columns<QByteArray, int, int, QString>("text", "ports", "line", "reason");
-        const auto row = [](const char *name, const char *text, int ports, int line,
-                            const char *reason) {
-            row(name, QByteArray(text), ports, line, QString::fromUtf8(reason));
-        };
+        columns<QString, int, int, QString>("text", "ports", "line", "reason");
         const char *const noNumber = "\"%\" stands where a finite number belongs";
-        const auto word = [&row, noNumber](const char *name, const char *text, int line,
-                                           const char *shown) {
-            row(name, text, 1, line, QByteArray(noNumber).replace('%', shown));
+        const auto word = [noNumber](const char *name, const char *text, int line,
+                                     const char *shown) {
+            row(name, text, 1, line, QString::fromUtf8(QByteArray(noNumber).replace('%', shown)));
         };
         const char *const noResistance =
             "the reference resistance after R must be a number above zero";
@@ -164,11 +160,11 @@ private Q_SLOTS:
 
     void refusesText()
     {
-        QFETCH(QByteArray, text);
+        QFETCH(QString, text);
         QFETCH(int, ports);
         QFETCH(int, line);
         QFETCH(QString, reason);
-        const TouchstoneResult result = parseTouchstone(text, ports);
+        const TouchstoneResult result = parseTouchstone(text.toUtf8(), ports);
         QCOMPARE(result.sentence("x"_s),
                  (line ? "x, line %1: %2."_s.arg(line).arg(reason) : "x: %1."_s.arg(reason)));
         QVERIFY(result.network.frequencies.isEmpty());
