@@ -223,6 +223,8 @@ private Q_SLOTS:
         bar.setTitleHeight(-3);
         QCOMPARE(bar.titleHeight(), 0);
         QCOMPARE(bar.height(), 0);
+        bar.setWindowTitleAlignment(Qt::AlignCenter);
+        QCOMPARE(bar.windowTitleAlignment(), Qt::AlignCenter);
     }
 
     void survivesWhatGoesBeforeIt()

@@ -114,6 +114,7 @@ private Q_SLOTS:
         Step125Controller controller;
         controller.setAdapter(&adapter);
         controller.setAdapter(&adapter); // twice is once
+        QCOMPARE(controller.adapter(), &adapter);
 
         QStringList log;
         note(log, "stepped", &controller, &StepController::stepped);

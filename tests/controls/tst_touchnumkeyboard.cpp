@@ -373,6 +373,8 @@ private Q_SLOTS:
         QCOMPARE(edit->selectedText(), "12.5"_s);
         m_keypad->setIndicatorText("12"_s, 900, -5, 900); // no warning
         QCOMPARE(edit->cursorPosition(), 2);
+        m_keypad->setIndicatorTextAlignment(Qt::AlignLeft);
+        QCOMPARE(m_keypad->indicatorTextAlignment(), Qt::AlignLeft);
         m_keypad->setIndicatorText("0123456789"_s, 2, 0, 2);
 
         m_keypad->open();

@@ -166,7 +166,10 @@ private Q_SLOTS:
         f.button->setTitleText("Format"_s);
         f.button->setTitleVisible(false);
         f.button->setItemEnabled("Phase"_s, false);
-        QVERIFY(!f.popup()->titleVisible() && !f.isEnabled(1));
+        QCOMPARE(f.button->iconSize(), QSize(80, 70));
+        QCOMPARE(f.button->itemCountPerRow(), 2);
+        QCOMPARE(f.button->titleText(), "Format"_s);
+        QVERIFY(!f.button->titleVisible() && !f.popup()->titleVisible() && !f.isEnabled(1));
         mouseClick(f.button);
         QCOMPARE(f.popup()->width(), 161);
         const QPoint middle = f.window.mapToGlobal(f.window.rect().center());

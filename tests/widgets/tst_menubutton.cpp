@@ -36,10 +36,10 @@ private Q_SLOTS:
         f.button->setTitleVisible(true);
         f.button->setViewMode(QListView::IconMode);
         f.button->setItemEnabled(1, false);
-        QCOMPARE(f.popup()->iconSize(), QSize(80, 70));
-        QCOMPARE(f.popup()->itemCountPerRow(), 2);
-        QCOMPARE(f.popup()->titleText(), "Markers"_s);
-        QVERIFY(f.popup()->titleVisible());
+        QCOMPARE(f.button->iconSize(), QSize(80, 70));
+        QCOMPARE(f.button->itemCountPerRow(), 2);
+        QCOMPARE(f.button->titleText(), "Markers"_s);
+        QVERIFY(f.button->titleVisible());
         QCOMPARE(f.popup()->viewMode(), QListView::IconMode);
         QVERIFY(!f.isEnabled(1));
         f.button->clearMenuItems();
