@@ -9,19 +9,6 @@
 namespace Panel
 {
 
-namespace
-{
-
-/// The way keyboards write microseconds, in the way the panel does.
-QString withMicro(QString text)
-{
-    if (text.endsWith(QLatin1String("us"), Qt::CaseInsensitive))
-        text.replace(text.size() - 2, 2, QStringLiteral("\u00b5s"));
-    return text;
-}
-
-} // namespace
-
 void UnitAdapter::setRange(double minimum, double maximum)
 {
     m_minimum = minimum;
@@ -64,39 +51,10 @@ FrequencyAdapter::FrequencyAdapter(QObject *parent)
     setUnitDecimals(QStringLiteral("Hz"), 0);
 }
 
-PowerAdapter::PowerAdapter(QObject *parent)
-    : UnitAdapter({{QStringLiteral("dBm"), 1.0}}, parent)
-{
-    setDecimals(2);
-}
-
 DecibelAdapter::DecibelAdapter(QObject *parent)
     : UnitAdapter({{QStringLiteral("dB"), 1.0}}, parent)
 {
     setDecimals(2);
-}
-
-TimeAdapter::TimeAdapter(QObject *parent)
-    : UnitAdapter({{QStringLiteral("s"), 1.0},
-                   {QStringLiteral("ms"), 1e-3},
-                   {QStringLiteral("\u00b5s"), 1e-6},
-                   {QStringLiteral("ns"), 1e-9}},
-                  parent)
-{
-    setUnitDecimals(QStringLiteral("s"), 12);
-    setUnitDecimals(QStringLiteral("ms"), 9);
-    setUnitDecimals(QStringLiteral("\u00b5s"), 6);
-    setUnitDecimals(QStringLiteral("ns"), 3);
-}
-
-QString TimeAdapter::convertFromBaseValue(double value, QString unit)
-{
-    return UnitAdapter::convertFromBaseValue(value, withMicro(unit));
-}
-
-double TimeAdapter::convertToBase(const QString &text)
-{
-    return UnitAdapter::convertToBase(withMicro(text));
 }
 
 NumberAdapter::NumberAdapter(int decimals, QObject *parent)

@@ -46,15 +46,6 @@ public:
     explicit FrequencyAdapter(QObject *parent = nullptr);
 };
 
-/// dBm with two decimals.
-class PowerAdapter : public UnitAdapter
-{
-    Q_OBJECT
-
-public:
-    explicit PowerAdapter(QObject *parent = nullptr);
-};
-
 /// dB with two decimals.
 class DecibelAdapter : public UnitAdapter
 {
@@ -62,18 +53,6 @@ class DecibelAdapter : public UnitAdapter
 
 public:
     explicit DecibelAdapter(QObject *parent = nullptr);
-};
-
-/// s, ms, µs and ns, down to 1 ps. Either character for micro is read, and "us" too.
-class TimeAdapter : public UnitAdapter
-{
-    Q_OBJECT
-
-public:
-    explicit TimeAdapter(QObject *parent = nullptr);
-
-    QString convertFromBaseValue(double value, QString unit) override;
-    double convertToBase(const QString &text) override;
 };
 
 /// A number without a unit. What is typed finer than its decimals is rounded to them, so that a

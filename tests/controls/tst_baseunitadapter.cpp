@@ -2,18 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/baseunitadapter.h>
 
-#include <QDialog>
-#include <QDoubleValidator>
-#include <QIntValidator>
-#include <QKeyEvent>
-#include <QLocale>
-#include <QPointer>
-#include <QSignalSpy>
-#include <QtTest>
-
 #include <cmath>
 
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -61,7 +51,7 @@ void publish(BaseUnitAdapter *adapter, const QString &text, const QVector<int> &
 
 } // namespace
 
-class tst_BaseUnitAdapter : public VnaTest::TestCase
+class tst_BaseUnitAdapter : public TestCase
 {
     Q_OBJECT
 
@@ -110,21 +100,14 @@ private Q_SLOTS:
     {
         for (const auto language : {QLocale::German, QLocale::Arabic}) {
             QLocale::setDefault(language);
-            for (const auto &[text, value] : std::initializer_list<std::pair<const char *, double>>{
-                     {"1.50000 MHz", 1.5},
-                     {"-12.5dBm", -12.5},
-                     {"+.5V", 0.5},
-                     {"1e5", 100000.0},
-                     {"1e400", 0.0},
-                     {"nan", 0.0},
-                     {"inf", 0.0},
-                     {"--5", 0.0},
-                     {"1,5", 0.0},
-                     {"", 0.0},
-                     {"+", 0.0},
-                     {"GHz", 0.0},
-                     {"\u0663", 0.0}}) // a digit, not ours
+            for (const auto &[text, value] : {std::pair("1.50000 MHz", 1.5),
+                                              {"-12.5dBm", -12.5},
+                                              {"+.5V", 0.5},
+                                              {"1e5", 100000.0}})
                 QVERIFY2(BaseUnitAdapter().convertToBase(QString::fromUtf8(text)) == value, text);
+            // The last one is a digit, but not ours.
+            for (const char *text : {"1e400", "nan", "inf", "--5", "1,5", "", "+", "GHz", "\u0663"})
+                QVERIFY2(BaseUnitAdapter().convertToBase(QString::fromUtf8(text)) == 0.0, text);
         }
     }
 
@@ -230,20 +213,10 @@ private Q_SLOTS:
         adapter.setValidator(&range);
         adapter.setRealValue(7.25);
         QStringList log;
-        connect(&adapter, &BaseUnitAdapter::editingFinished, this,
-                [&](double value) { log << "finished %1"_s.arg(value); });
-        connect(&adapter, &BaseUnitAdapter::stepBy, this,
-                [&](double value, int step) { log << "step %1 %2"_s.arg(value).arg(step); });
-        connect(&adapter, &BaseUnitAdapter::specialKeyHandled, this,
-                [&](const QString &text, int start, int length, int cursor) {
-                    log << "handled %1 %2 %3 %4"_s.arg(text).arg(start).arg(length).arg(cursor);
-                });
-        connect(
-            &adapter, &BaseUnitAdapter::cursorPosCrossUnit, this,
-            [&](const QString &text, int start, int length, int cursor, int old) {
-                log << "crossed %1 %2 %3 %4 %5"_s.arg(text).arg(start).arg(length).arg(cursor).arg(
-                    old);
-            });
+        note(log, "finished", &adapter, &BaseUnitAdapter::editingFinished);
+        note(log, "step", &adapter, &BaseUnitAdapter::stepBy);
+        note(log, "handled", &adapter, &BaseUnitAdapter::specialKeyHandled);
+        note(log, "crossed", &adapter, &BaseUnitAdapter::cursorPosCrossUnit);
         publish(&adapter, typed, state);
         if (key != 0) {
             QCOMPARE(press(&adapter, key, keyText),
@@ -266,38 +239,36 @@ private Q_SLOTS:
         QVERIFY(crossed.isEmpty());
     }
 
-    void closesItsDialog_data()
-    {
-        columns<int, QString, bool, bool, int>("key", "text", "modal", "rejects", "result");
-        row("enter, modal", Qt::Key_Enter, "5", true, true, 1);
-        row("enter, not modal", Qt::Key_Return, "5", false, true, 0);
-        row("enter, refused", Qt::Key_Return, "?", true, true, 1);
-        row("escape", Qt::Key_Escape, "5", true, true, 0);
-        row("escape that keeps", Qt::Key_Escape, "5", true, false, -1);
-    }
-
     void closesItsDialog()
     {
-        QFETCH(int, key);
-        QFETCH(QString, text);
-        QFETCH(bool, modal);
-        QFETCH(bool, rejects);
-        QFETCH(int, result);
-        QDialog dialog;
-        dialog.setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
-        NumberAdapter adapter("MHz"_s, &dialog);
-        QCOMPARE(adapter.escKeyPolicy(), BaseUnitAdapter::EscRejectsDialog);
-        if (!rejects)
-            adapter.setEscKeyPolicy(BaseUnitAdapter::EscKeepsDialog);
-        QSignalSpy finished(&dialog, &QDialog::finished);
-        dialog.show();
-        publish(&adapter, text);
-        press(&adapter, key);
-        QCOMPARE(dialog.isVisible(), result < 0); // -1: stays open
-        QCOMPARE(finished.count(), result < 0 ? 0 : 1);
-        if (result >= 0)
-            QCOMPARE(finished.at(0).at(0).toInt(), result);
-        dialog.hide();
+        const struct {
+            int key;
+            QString text;
+            bool modal, rejects;
+            int result; ///< of the dialog; -1: stays open
+        } rows[] = {{Qt::Key_Enter, "5"_s, true, true, 1},
+                    {Qt::Key_Return, "5"_s, false, true, 0},
+                    {Qt::Key_Return, "?"_s, true, true, 1}, // refused
+                    {Qt::Key_Escape, "5"_s, true, true, 0},
+                    {Qt::Key_Escape, "5"_s, true, false, -1}};
+        for (const auto &[key, text, modal, rejects, result] : rows) {
+            const Row row("result %1 after \"%2\""_s.arg(result).arg(text));
+            QDialog dialog;
+            dialog.setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+            NumberAdapter adapter("MHz"_s, &dialog);
+            QCOMPARE(adapter.escKeyPolicy(), BaseUnitAdapter::EscRejectsDialog);
+            if (!rejects)
+                adapter.setEscKeyPolicy(BaseUnitAdapter::EscKeepsDialog);
+            QStringList log;
+            note(log, "finished", &dialog, &QDialog::finished);
+            dialog.show();
+            publish(&adapter, text);
+            press(&adapter, key);
+            QCOMPARE(dialog.isVisible(), result < 0);
+            QCOMPARE(log.join(QLatin1Char('|')),
+                     result < 0 ? QString() : "finished %1"_s.arg(result));
+            dialog.hide();
+        }
     }
 
     void keyCallbacksComeFirst()
@@ -347,46 +318,38 @@ private Q_SLOTS:
         }
     }
 
-    void survivesItsEndInASlot_data()
-    {
-        columns<int, bool>("key", "withDialog");
-        for (const auto &[name, key] :
-             {std::make_pair("enter", Qt::Key_Return), std::make_pair("escape", Qt::Key_Escape),
-              std::make_pair("point", Qt::Key_Period), std::make_pair("sign", Qt::Key_plusminus),
-              std::make_pair("up", Qt::Key_Up), std::make_pair("callback", Qt::Key_F1),
-              std::make_pair("cursor", Qt::Key_unknown)}) {
-            QTest::addRow("adapter at %s", name) << int(key) << false;
-            QTest::addRow("dialog at %s", name) << int(key) << true;
-        }
-    }
-
     void survivesItsEndInASlot()
     {
-        QFETCH(int, key);
-        QFETCH(bool, withDialog);
-        QPointer<QDialog> dialog = new QDialog;
-        dialog->setModal(true);
-        QPointer<BaseUnitAdapter> adapter = new BaseUnitAdapter(dialog);
-        const auto end = [&] {
-            if (withDialog)
+        const int cursor = 0; // no key: the cursor goes into the unit
+        for (const int key : {int(Qt::Key_Return), int(Qt::Key_Escape), int(Qt::Key_Period),
+                              int(Qt::Key_plusminus), int(Qt::Key_Up), int(Qt::Key_F1), cursor}) {
+            for (const bool withDialog : {false, true}) {
+                const Row row("key %1, with dialog %2"_s.arg(key).arg(withDialog));
+                QPointer<QDialog> dialog = new QDialog;
+                dialog->setModal(true);
+                QPointer<BaseUnitAdapter> adapter = new BaseUnitAdapter(dialog);
+                const auto end = [&] {
+                    if (withDialog)
+                        delete dialog;
+                    else
+                        delete adapter;
+                };
+                connect(adapter, &BaseUnitAdapter::editingFinished, this, end);
+                connect(adapter, &BaseUnitAdapter::specialKeyHandled, this, end);
+                connect(adapter, &BaseUnitAdapter::stepBy, this, end);
+                connect(adapter, &BaseUnitAdapter::cursorPosCrossUnit, this, end);
+                adapter->setKeyCallback(Qt::Key_F1, [&](QKeyEvent *) {
+                    end();
+                    return false;
+                });
+                adapter->setInputText("5MHz"_s);
+                publish(adapter, "5MHz"_s, {key == cursor ? 3 : 0, 0, 0});
+                if (key != cursor)
+                    press(adapter, key);
+                QVERIFY(!adapter);
                 delete dialog;
-            else
-                delete adapter;
-        };
-        connect(adapter, &BaseUnitAdapter::editingFinished, this, end);
-        connect(adapter, &BaseUnitAdapter::specialKeyHandled, this, end);
-        connect(adapter, &BaseUnitAdapter::stepBy, this, end);
-        connect(adapter, &BaseUnitAdapter::cursorPosCrossUnit, this, end);
-        adapter->setKeyCallback(Qt::Key_F1, [&](QKeyEvent *) {
-            end();
-            return false;
-        });
-        adapter->setInputText("5MHz"_s);
-        publish(adapter, "5MHz"_s, {key == Qt::Key_unknown ? 3 : 0, 0, 0});
-        if (key != Qt::Key_unknown)
-            press(adapter, key);
-        QVERIFY(!adapter);
-        delete dialog;
+            }
+        }
     }
 };
 

@@ -2,16 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/draggableframelessdialog.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScreen>
-#include <QSignalSpy>
-#include <QVBoxLayout>
-#include <QtTest>
-
 #include <pointer.h>
-#include <tables.h>
 #include <vnatest.h>
 
 using Bar = Controls::DraggableDialogTitleBar;

@@ -7,23 +7,10 @@
 #include <controls/thememanager.h>
 #include <controls/touchnumkeyboard.h>
 
-#include <QApplication>
-#include <QDoubleValidator>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTimer>
-#include <QVBoxLayout>
-#include <QWindow>
-#include <QtTest>
-
+#include <functional>
 #include <memory>
 
 #include <pointer.h>
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -45,18 +32,6 @@ ScaledUnitAdapter *frequencyAdapter(QObject *parent)
     return adapter;
 }
 
-ScaledUnitAdapter *levelAdapter(QObject *parent)
-{
-    return new ScaledUnitAdapter({{"dBm"_s, 1.0}}, parent);
-}
-
-ScaledUnitAdapter *timeAdapter(QObject *parent)
-{
-    return new ScaledUnitAdapter(
-        {{"s"_s, 1.0}, {"ms"_s, 1e-3}, {"\u00b5s"_s, 1e-6}, {"ns"_s, 1e-9}, {"ps"_s, 1e-12}},
-        parent);
-}
-
 /// A field of a page: opens the keypad when it gets the focus.
 class PageField : public EditableWidget
 {
@@ -71,7 +46,7 @@ public:
 
 } // namespace
 
-class tst_EditableWidget : public VnaTest::TestCase
+class tst_EditableWidget : public TestCase
 {
     Q_OBJECT
 
@@ -103,23 +78,19 @@ private Q_SLOTS:
     void entersValues_data()
     {
         // inputs: keypad buttons by name; other text is typed
-        columns<QString, QString, double, QString>("quantity", "inputs", "value", "text");
-        row("2.45 GHz by clicks", "f", "btn2 btnP btn4 btn5 btnUnit1", 2.45e9, "2.45GHz");
-        row("2.45 GHz by keys", "f", "2 . 4 5 \r", 2.45e9, "2.45GHz");
-        row("2.45 GHz mixed", "f", "btn2 . btn4 5 btnOk", 2.45e9, "2.45GHz");
-        row("2450 MHz by clicks", "f", "btn2 btn4 btn5 btn0 btnUnit2", 2.45e9, "2450MHz");
-        row("-12.5 dBm by clicks", "p", "btnC btn1 btn2 btnP btn5 btnUnit1", -12.5, "-12.5dBm");
-        row("-12.5 dBm by keys", "p", "- 1 2 . 5 \r", -12.5, "-12.5dBm");
-        row("-12.5 dBm mixed, sign last", "p", "1 btn2 btnP 5 btnC btnOk", -12.5, "-12.5dBm");
-        row("470 ns by clicks", "t", "btn4 btn7 btn0 btnUnit4 btnUnit1", 470e-9, "470ns");
-        row("470 ns by keys", "t", "4 7 0 del del n s \r", 470e-9, "470ns");
-        row("470 ns mixed", "t", "4 btn7 btn9 btnBack 0 btnUnit4 btnUnit1", 470e-9, "470ns");
-        row("inserted in the middle", "f", "2 5 btnLeft btnP 4 btnOk", 2.45e9, "2.45GHz");
+        columns<QString, double, QString>("inputs", "value", "text");
+        row("clicks", "btn2 btnP btn4 btn5 btnUnit1", 2.45e9, "2.45GHz");
+        row("keys", "2 . 4 5 \r", 2.45e9, "2.45GHz");
+        row("mixed", "btn2 . btn4 5 btnOk", 2.45e9, "2.45GHz");
+        row("negative, by clicks", "btnC btn1 btn2 btnP btn5 btnUnit2", -12.5e6, "-12.5MHz");
+        row("mixed, sign last", "1 btn2 btnP 5 btnC btnOk", -12.5e9, "-12.5GHz");
+        row("unit by keys", "4 7 0 del del del k H z \r", 470e3, "470kHz");
+        row("corrected", "4 btn7 btn9 btnBack 0 btnUnit4", 470.0, "470Hz");
+        row("inserted in the middle", "2 5 btnLeft btnP 4 btnOk", 2.45e9, "2.45GHz");
     }
 
     void entersValues()
     {
-        QFETCH(QString, quantity);
         QFETCH(QString, inputs);
         QFETCH(double, value);
         QFETCH(QString, text);
@@ -127,9 +98,7 @@ private Q_SLOTS:
         // In a field of the page, and in the text area of the keypad.
         for (const bool onPage : {true, false}) {
             auto *keypad = new TouchNumKeyboard(m_window.get());
-            ScaledUnitAdapter *adapter = quantity == "f"_s ? frequencyAdapter(keypad)
-                : quantity == "p"_s                        ? levelAdapter(keypad)
-                                                           : timeAdapter(keypad);
+            ScaledUnitAdapter *adapter = frequencyAdapter(keypad);
             QSignalSpy committed(adapter, &BaseUnitAdapter::editingFinished);
             QSignalSpy finished(keypad, &QDialog::finished);
             const std::unique_ptr<QWidget> field(openEditor(keypad, adapter, onPage));
@@ -155,7 +124,6 @@ private Q_SLOTS:
         QCOMPARE(edit->text(), "-12.5MHz"_s);
         field->setFocus();
         QTRY_COMPARE(edit->selectedText(), "12.5"_s);
-        QCOMPARE(edit->selectionStart(), 1);
         QCOMPARE(edit->cursorPosition(), 5);
         QCOMPARE(m_keypad->receiver(), adapter);
         QCOMPARE(m_keypad->shortcutKeys().size(), 4);
@@ -173,17 +141,14 @@ private Q_SLOTS:
         edit->setCursorPosition(3);
         QCOMPARE(edit->cursorPosition(), 1);
         QCOMPARE(adapter->property("selectionLen").toInt(), 0);
-    }
 
-    void adaptersWithoutUnitsShowTheDummies()
-    {
-        auto *adapter = new BaseUnitAdapter(m_keypad);
-        EditableWidget *field = addField(adapter);
-        field->setFocus();
+        // Without units the keypad shows the field's own.
+        auto *bare = addField(new BaseUnitAdapter(m_keypad));
+        bare->setFocus();
         QVERIFY(m_keypad->shortcutKeys().isEmpty());
         m_other->setFocus();
-        field->setDummyDisplayUnits({"x"_s});
-        field->setFocus();
+        bare->setDummyDisplayUnits({"x"_s});
+        bare->setFocus();
         QCOMPARE(m_keypad->shortcutKeys().size(), 1);
     }
 
@@ -214,17 +179,16 @@ private Q_SLOTS:
             const QPointer<Controls::IEditableTitleWidget> field =
                 openEditor(keypad, adapter, onPage);
             type("7"_s);
+            if (ending == "outside commits"_s)
+                keypad->setPressOutsidePolicy(TouchNumKeyboard::PressOutsideCommits);
             if (ending == "closed"_s)
                 keypad->close();
             else if (ending == "deleted"_s)
                 delete keypad;
-            else if (ending.startsWith("outside"_s)) {
-                if (ending.endsWith("commits"_s))
-                    keypad->setPressOutsidePolicy(TouchNumKeyboard::PressOutsideCommits);
+            else if (ending.startsWith("outside"_s))
                 mouseClick(m_window.get(), QPoint(3, 3));
-            } else {
+            else
                 press(keypad, ending);
-            }
             // A field that outlives its keypad is left by the focus, which would commit what is
             // typed.
             const bool leftOpen = onPage && ending == "closed"_s;
@@ -386,49 +350,45 @@ private Q_SLOTS:
 
     void survivesAnyOrderOfDestruction_data()
     {
-        columns<QString, QString, bool>("victim", "moment", "onPage");
-        for (const char *victim : {"adapter", "keypad", "field", "window"}) {
-            for (const char *moment :
-                 {"typing", "editingFinished", "accepted", "finished", "focusedOut"}) {
-                for (const bool onPage : {true, false}) {
-                    // The text area loses the focus while Qt hides the keypad: no time to delete
-                    // it.
-                    const QByteArray name = QByteArray(victim) + " in " + moment;
-                    if (onPage || name != "keypad in focusedOut")
-                        row(name + (onPage ? ", page" : ", keypad"), victim, moment, onPage);
-                }
+        columns<int, int, bool>("victim", "moment", "onPage");
+        for (int victim = 0; victim < 4; ++victim) {
+            for (int moment = 0; moment < 5; ++moment) {
+                QTest::addRow("%d at %d, on the page", victim, moment) << victim << moment << true;
+                // The text area loses the focus while Qt hides the keypad: no time to delete it.
+                if (victim != 1 || moment != 4)
+                    QTest::addRow("%d at %d", victim, moment) << victim << moment << false;
             }
         }
     }
 
     void survivesAnyOrderOfDestruction()
     {
-        QFETCH(QString, victim);
-        QFETCH(QString, moment);
+        QFETCH(int, victim);
+        QFETCH(int, moment);
         QFETCH(bool, onPage);
         QPointer<ScaledUnitAdapter> adapter = frequencyAdapter(m_keypad);
         const QPointer<Controls::IEditableTitleWidget> field =
             openEditor(m_keypad, adapter, onPage);
-        const auto end = [&] {
-            if (victim == "adapter"_s)
-                delete adapter;
-            else if (victim == "keypad"_s)
-                delete m_keypad;
-            else if (victim == "field"_s)
-                delete field;
-            else if (m_window)
-                m_window.release()->deleteLater(); // a window is not deleted in its own event
+        const std::function<void()> ends[] = {
+            [&] { delete adapter; },
+            [&] { delete m_keypad; },
+            [&] { delete field; },
+            [&] {
+                if (m_window)
+                    m_window.release()->deleteLater(); // a window is not deleted in its own event
+            },
         };
-        if (moment == "editingFinished"_s)
-            connect(adapter, &BaseUnitAdapter::editingFinished, this, end);
-        else if (moment == "accepted"_s)
-            connect(m_keypad, &QDialog::accepted, this, end);
-        else if (moment == "finished"_s)
-            connect(m_keypad, &QDialog::finished, this, end);
-        else if (moment == "focusedOut"_s)
-            connect(field, &EditableWidget::focusedOut, this, end);
+        const auto &end = ends[victim];
+        const std::function<void()> connections[] = {
+            [&] { connect(adapter, &BaseUnitAdapter::editingFinished, this, end); },
+            [&] { connect(m_keypad, &QDialog::accepted, this, end); },
+            [&] { connect(m_keypad, &QDialog::finished, this, end); },
+            [] {}, // while typing
+            [&] { connect(field, &EditableWidget::focusedOut, this, end); },
+        };
+        connections[moment]();
         type("5"_s);
-        if (moment == "typing"_s)
+        if (moment == 3)
             end();
         const QPointer<QWidget> window(m_window.get());
         if (m_window && m_keypad && m_keypad->isVisible())

@@ -2,20 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/overlaycontainer.h>
 
-#include <QApplication>
-#include <QDialog>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QWheelEvent>
-#include <QWindow>
-#include <QtTest>
-
+#include <functional>
 #include <memory>
 
 #include <pointer.h>
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -33,7 +23,7 @@ void showOn(OverlayContainer *overlay, QDialog *dialog,
 
 } // namespace
 
-class tst_OverlayContainer : public VnaTest::TestCase
+class tst_OverlayContainer : public TestCase
 {
     Q_OBJECT
 
@@ -74,18 +64,26 @@ private Q_SLOTS:
         other.resize(20, 20);
         QCOMPARE(overlay.geometry(), QRect(0, 0, 90, 80));
         overlay.setParent(nullptr);
+
+        // Without a host the dialog's parent becomes it.
+        OverlayContainer loose(nullptr);
+        QDialog *dialog = makeDialog();
+        showOn(&loose, dialog);
+        QCOMPARE(loose.parentWidget(), m_window.get());
+        QCOMPARE(loose.geometry(), m_window->rect());
+        dialog->accept();
+        loose.setParent(nullptr);
     }
 
     void showsCentredAndHidesWithTheDialog()
     {
         OverlayContainer overlay(m_window.get());
-        showOn(&overlay, nullptr, OverlayContainer::None, true);
+        showOn(&overlay, nullptr);
         QVERIFY(overlay.isHidden());
 
         QDialog *dialog = makeDialog();
-        showOn(&overlay, dialog, OverlayContainer::None, true);
-        QVERIFY(overlay.isVisible());
-        QVERIFY(dialog->isVisible());
+        showOn(&overlay, dialog);
+        QVERIFY(overlay.isVisible() && dialog->isVisible());
         QCOMPARE(overlay.activeDialog(), dialog);
         QCOMPARE(dialog->parentWidget(), &overlay);
         QCOMPARE(dialog->geometry(), QRect(220, 190, 200, 100));
@@ -106,8 +104,8 @@ private Q_SLOTS:
         QVERIFY(!overlay.activeDialog());
 
         // Shown again, it ends again; one ending is one ending.
-        showOn(&overlay, dialog, OverlayContainer::None, true);
-        showOn(&overlay, dialog, OverlayContainer::None, true);
+        showOn(&overlay, dialog);
+        showOn(&overlay, dialog);
         QVERIFY(overlay.isVisible() && dialog->isVisible());
         dialog->reject();
         QVERIFY(overlay.isHidden());
@@ -216,7 +214,7 @@ private Q_SLOTS:
         QCOMPARE(outside.count(), 1);
     }
 
-    void aPressOutsideLeavesTheFocus()
+    void focusStaysWhereItIs()
     {
         QLineEdit editor(m_window.get());
         editor.show();
@@ -224,97 +222,64 @@ private Q_SLOTS:
         QTRY_VERIFY(editor.hasFocus());
         OverlayContainer overlay(m_window.get());
         QDialog *dialog = makeDialog();
-        showOn(&overlay, dialog);
-        mouseClick(m_window.get(), QPoint(5, 5));
-        mouseClick(m_window.get(), QPoint(320, 240));
-        QVERIFY(editor.hasFocus());
-    }
-
-    void tabStaysInsideTheDialog()
-    {
-        OverlayContainer overlay(m_window.get());
-        QDialog *dialog = makeDialog();
         QLineEdit first(dialog);
         QLineEdit second(dialog);
         QLineEdit disabled(dialog);
         disabled.setEnabled(false);
         showOn(&overlay, dialog);
+        mouseClick(m_window.get(), QPoint(5, 5));
+        mouseClick(m_window.get(), QPoint(320, 260));
+        QVERIFY(editor.hasFocus());
+        // Tab stays inside the dialog.
+        const auto tab = [this](Qt::Key key = Qt::Key_Tab) {
+            QTest::keyClick(m_window->windowHandle(), key);
+        };
         first.setFocus();
         for (QLineEdit *expected : {&second, &first, &second}) {
-            QTest::keyClick(m_window->windowHandle(), Qt::Key_Tab);
+            tab();
             QVERIFY(expected->hasFocus());
         }
-        QTest::keyClick(m_window->windowHandle(), Qt::Key_Backtab);
+        tab(Qt::Key_Backtab);
         QVERIFY(first.hasFocus());
         second.hide();
-        QTest::keyClick(m_window->windowHandle(), Qt::Key_Tab);
+        tab();
         QVERIFY(first.hasFocus());
         dialog->accept();
     }
 
-    void neverBlocksTheHostWithoutADialog_data()
-    {
-        columns<QString>("how");
-        for (const char *how :
-             {"deleted", "hidden", "replaced", "deleted outside", "overlay outside"})
-            row(how, how);
-    }
-
     void neverBlocksTheHostWithoutADialog()
     {
-        QFETCH(QString, how);
-        QPointer<OverlayContainer> overlay = new OverlayContainer(m_window.get());
-        QPointer<QDialog> dialog = makeDialog();
-        showOn(overlay, dialog, OverlayContainer::Reject);
-        if (how == "deleted"_s) {
-            delete dialog;
-        } else if (how == "hidden"_s) {
-            dialog->hide();
-        } else if (how == "replaced"_s) {
-            QDialog *second = makeDialog();
-            showOn(overlay, second);
-            QVERIFY(dialog->isHidden());
-            dialog->accept(); // no longer of any concern
-            QVERIFY(overlay->isVisible());
-            second->accept();
-        } else {
-            connect(overlay, &OverlayContainer::outsideClicked, this, [&] {
-                if (how == "deleted outside"_s)
-                    delete dialog;
-                else
-                    delete overlay;
-            });
+        QPointer<OverlayContainer> overlay;
+        QPointer<QDialog> dialog;
+        const auto pressOutside = [&](const std::function<void()> &answer) {
+            connect(overlay, &OverlayContainer::outsideClicked, this, answer);
             mouseClick(m_window.get(), QPoint(5, 5));
-        }
-        QVERIFY(!overlay || overlay->isHidden());
+        };
+        const std::function<void()> ends[] = {
+            [&] { delete dialog; },
+            [&] { dialog->hide(); },
+            [&] {
+                QDialog *second = makeDialog();
+                showOn(overlay, second);
+                QVERIFY(dialog->isHidden());
+                dialog->accept(); // no longer of any concern
+                QVERIFY(overlay->isVisible());
+                second->accept();
+            },
+            [&] { pressOutside([&] { delete dialog; }); },
+            [&] { pressOutside([&] { delete overlay; }); },
+        };
         QSignalSpy clicked(m_button, &QPushButton::clicked);
-        mouseClick(m_window.get(), QPoint(5, 5));
-        QCOMPARE(clicked.count(), 1);
-    }
-
-    void survivesTheEndOfHostAndAnchor()
-    {
-        auto *host = new QWidget(m_window.get());
-        auto *anchor = new QWidget(m_window.get());
-        QPointer<OverlayContainer> overlay = new OverlayContainer(host);
-        QPointer<QDialog> dialog = makeDialog();
-        host->resize(300, 300);
-        host->show();
-        overlay->showWithDialog(dialog, OverlayContainer::None, true,
-                                OverlayContainer::LeftOfAnchor, anchor);
-        delete anchor;
-        host->resize(400, 400);
-        QCOMPARE(dialog->pos(), QPoint(100, 150));
-        delete host;
-        QVERIFY(!overlay && !dialog);
-
-        // Without a host the dialog's parent becomes it.
-        OverlayContainer loose(nullptr);
-        dialog = makeDialog();
-        showOn(&loose, dialog);
-        QCOMPARE(loose.parentWidget(), m_window.get());
-        QCOMPARE(loose.geometry(), m_window->rect());
-        loose.setParent(nullptr);
+        for (const auto &end : ends) {
+            overlay = new OverlayContainer(m_window.get());
+            dialog = makeDialog();
+            showOn(overlay, dialog, OverlayContainer::Reject);
+            end();
+            QVERIFY(!overlay || overlay->isHidden());
+            mouseClick(m_window.get(), QPoint(5, 5));
+            QCOMPARE(clicked.count(), 1);
+            clicked.clear();
+        }
     }
 
 private:

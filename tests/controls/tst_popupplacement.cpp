@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/popupplacement_p.h>
 
-#include <QtTest>
-
 #include <vnatest.h>
 
 using namespace VnaTest;

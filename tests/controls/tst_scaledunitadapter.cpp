@@ -2,13 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/scaledunitadapter.h>
 
-#include <QLocale>
-#include <QRandomGenerator>
-#include <QtTest>
-
 #include <cmath>
 
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -29,7 +24,7 @@ QVector<ScaledUnitAdapter::Unit> frequencyUnits()
 
 } // namespace
 
-class tst_ScaledUnitAdapter : public VnaTest::TestCase
+class tst_ScaledUnitAdapter : public TestCase
 {
     Q_OBJECT
 

@@ -3,15 +3,9 @@
 #include <controls/baseunitadapter.h>
 #include <controls/step125controller.h>
 
-#include <QDoubleValidator>
-#include <QPointer>
-#include <QSignalSpy>
-#include <QtTest>
-
 #include <cmath>
 #include <limits>
 
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -19,7 +13,20 @@ using Controls::BaseUnitAdapter;
 using Controls::Step125Controller;
 using Controls::StepController;
 
-class tst_StepController : public VnaTest::TestCase
+namespace
+{
+
+/// What one step tells, or NaN if it does not tell once.
+double stepped(StepController *controller, double value, int step)
+{
+    const QSignalSpy told(controller, &StepController::stepped);
+    controller->stepBy(value, step);
+    return told.count() == 1 ? told.first().first().toDouble() : qQNaN();
+}
+
+} // namespace
+
+class tst_StepController : public TestCase
 {
     Q_OBJECT
 
@@ -38,10 +45,7 @@ private Q_SLOTS:
             StepController controller;
             QCOMPARE(controller.singleStep(), 1.0);
             controller.setSingleStep(single);
-            QSignalSpy stepped(&controller, &StepController::stepped);
-            controller.stepBy(value, step);
-            QCOMPARE(stepped.count(), 1);
-            QVERIFY(qFuzzyCompare(stepped.at(0).at(0).toDouble(), result));
+            QVERIFY(qFuzzyCompare(stepped(&controller, value, step), result));
         }
     }
 
@@ -49,12 +53,6 @@ private Q_SLOTS:
     {
         columns<double, int, double>("value", "step", "result");
         const int lowest = std::numeric_limits<int>::min();
-        row("1 up", 1e3, 1, 2e3);
-        row("2 up", 2e3, 1, 5e3);
-        row("5 up", 5e3, 1, 1e4);
-        row("5 down", 5e3, -1, 2e3);
-        row("2 down", 2e3, -1, 1e3);
-        row("1 down", 1e3, -1, 500.0);
         row("between, up", 3.3e3, 1, 5e3);
         row("between, down", 3.3e3, -1, 2e3);
         row("above 5, up", 7.5, 1, 10.0);
@@ -80,10 +78,7 @@ private Q_SLOTS:
         QFETCH(int, step);
         QFETCH(double, result);
         Step125Controller controller;
-        QSignalSpy stepped(&controller, &StepController::stepped);
-        controller.stepBy(value, step);
-        QCOMPARE(stepped.count(), 1);
-        QCOMPARE(stepped.at(0).at(0).toDouble(), result);
+        QCOMPARE(stepped(&controller, value, step), result);
     }
 
     void walksEveryDecadeUpAndDown()
@@ -121,24 +116,22 @@ private Q_SLOTS:
         controller.setAdapter(&adapter); // twice is once
         QCOMPARE(controller.adapter(), &adapter);
 
-        QSignalSpy stepped(&controller, &StepController::stepped);
-        QSignalSpy finished(&adapter, &BaseUnitAdapter::editingFinished);
+        QStringList log;
+        note(log, "stepped", &controller, &StepController::stepped);
+        note(log, "finished", &adapter, &BaseUnitAdapter::editingFinished);
         Q_EMIT adapter.stepBy(20.0, 1);
-        QCOMPARE(stepped.count(), 1);
-        QCOMPARE(stepped.at(0).at(0).toDouble(), 50.0);
-        QCOMPARE(finished.count(), 1);
-        QCOMPARE(finished.at(0).at(0).toDouble(), 10.0);
+        QCOMPARE(log, QStringList({"finished 10"_s, "stepped 50"_s}));
         QCOMPARE(adapter.getInputText(), "10"_s);
 
         BaseUnitAdapter other;
         controller.setAdapter(&other);
         Q_EMIT adapter.stepBy(1.0, 1);
-        QCOMPARE(stepped.count(), 1);
+        QCOMPARE(log.size(), 2);
         Q_EMIT other.stepBy(1.0, 1);
         QCOMPARE(other.getRealValue(), 2.0);
         controller.setAdapter(nullptr);
         controller.stepBy(2.0, 1);
-        QCOMPARE(stepped.count(), 3);
+        QCOMPARE(log.size(), 4);
         QCOMPARE(other.getRealValue(), 2.0);
     }
 };

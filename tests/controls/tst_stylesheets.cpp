@@ -4,15 +4,13 @@
 #include <controls/draggableframelessdialog.h>
 #include <controls/thememanager.h>
 
-#include <QtTest>
-#include <QtWidgets>
-
 #include <cmath>
 #include <functional>
 #include <memory>
 
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Controls::ThemeManager;
 
 namespace
@@ -21,25 +19,25 @@ namespace
 QString sheet(const QString &name)
 {
     QFile file(QCoreApplication::applicationDirPath()
-               + QStringLiteral("/../configuration/theme-%1.css").arg(name));
+               + "/../configuration/theme-%1.css"_s.arg(name));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QString text = QString::fromUtf8(file.readAll());
-    return text.remove(QRegularExpression(QStringLiteral("/\\*.*?\\*/"),
-                                          QRegularExpression::DotMatchesEverythingOption));
+    return text.remove(
+        QRegularExpression("/\\*.*?\\*/"_s, QRegularExpression::DotMatchesEverythingOption));
 }
 
 /// What a sheet styles, rule by rule: "selector: property property".
 QStringList rules(const QString &text)
 {
-    static const QRegularExpression rule(QStringLiteral("([^{}]+)\\{([^{}]*)\\}"));
-    static const QRegularExpression property(QStringLiteral("([a-z-]+)\\s*:"));
+    static const QRegularExpression rule("([^{}]+)\\{([^{}]*)\\}"_s);
+    static const QRegularExpression property("([a-z-]+)\\s*:"_s);
     QStringList found;
     for (auto it = rule.globalMatch(text); it.hasNext();) {
         const auto match = it.next();
         QString line = match.captured(1).simplified() + QLatin1Char(':');
         QString body = match.captured(2);
-        body.remove(QRegularExpression(QStringLiteral("url\\([^)]*\\)")));
+        body.remove(QRegularExpression("url\\([^)]*\\)"_s));
         for (auto p = property.globalMatch(body); p.hasNext();)
             line += QLatin1Char(' ') + p.next().captured(1);
         found << line;
@@ -78,15 +76,15 @@ QPair<QColor, QColor> paperAndInk(QWidget *widget)
 
 } // namespace
 
-class tst_StyleSheets : public VnaTest::TestCase
+class tst_StyleSheets : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void themesStyleTheSameThings()
     {
-        const QStringList dark = rules(sheet(QStringLiteral("dark")));
-        const QStringList light = rules(sheet(QStringLiteral("light")));
+        const QStringList dark = rules(sheet("dark"_s));
+        const QStringList light = rules(sheet("light"_s));
         QVERIFY(dark.count() > 50);
         for (int i = 0; i < qMin(dark.count(), light.count()); ++i)
             QCOMPARE(light.at(i), dark.at(i));
@@ -98,13 +96,13 @@ private Q_SLOTS:
     void pictureFilesExist()
     {
         QFETCH(QString, name);
-        static const QRegularExpression url(QStringLiteral("url\\(\"([^\"]*)\"\\)"));
+        static const QRegularExpression url("url\\(\"([^\"]*)\"\\)"_s);
         int count = 0;
         for (auto it = url.globalMatch(sheet(name)); it.hasNext(); ++count) {
             const QString path = it.next().captured(1);
             QVERIFY2(QFile::exists(path), qPrintable(path));
             QVERIFY2(!QIcon(path).pixmap(16, 16).isNull(), qPrintable(path));
-            QCOMPARE(path.endsWith(QLatin1String("_light.svg")), name == QLatin1String("light"));
+            QCOMPARE(path.endsWith("_light.svg"_s), name == "light"_s);
         }
         QVERIFY(count > 5);
     }
@@ -115,19 +113,18 @@ private Q_SLOTS:
     // test.
     void everyWidgetTakesIt()
     {
-        QFETCH(int, theme);
-        ThemeManager::instance()->setTheme(ThemeManager::Theme(theme));
-        QVERIFY(qApp->styleSheet().contains(QLatin1String("QPushButton")));
+        setTheme();
+        QVERIFY(qApp->styleSheet().contains("QPushButton"_s));
 
         QMainWindow window;
         auto *page = new QWidget;
         auto *layout = new QVBoxLayout(page);
         for (QWidget *widget : std::initializer_list<QWidget *>{
-                 new QPushButton(QStringLiteral("b")), new QToolButton, new QCheckBox,
-                 new QRadioButton, new QLineEdit, new QSpinBox, new QComboBox,
-                 new Controls::ComboBox, new QPlainTextEdit, new QSlider, new QProgressBar,
-                 new QTableWidget(2, 2), new QListWidget, new QTreeWidget, new QTabWidget,
-                 new QGroupBox(QStringLiteral("g")), new QScrollBar, new QLabel})
+                 new QPushButton("b"_s), new QToolButton, new QCheckBox, new QRadioButton,
+                 new QLineEdit, new QSpinBox, new QComboBox, new Controls::ComboBox,
+                 new QPlainTextEdit, new QSlider, new QProgressBar, new QTableWidget(2, 2),
+                 new QListWidget, new QTreeWidget, new QTabWidget, new QGroupBox("g"_s),
+                 new QScrollBar, new QLabel})
             layout->addWidget(widget);
         window.setCentralWidget(page);
         window.show();
@@ -135,7 +132,7 @@ private Q_SLOTS:
         dialog.setHeaderButton(QFlags<Controls::DraggableDialogTitleBar::Button>(7));
         dialog.show();
         QMenu menu;
-        menu.addAction(QStringLiteral("a"));
+        menu.addAction("a"_s);
         menu.popup({});
         QVERIFY(!window.grab().isNull() && !dialog.grab().isNull() && !menu.grab().isNull());
 
@@ -148,11 +145,10 @@ private Q_SLOTS:
 
     void statesLookDifferent()
     {
-        QFETCH(int, theme);
-        ThemeManager::instance()->setTheme(ThemeManager::Theme(theme));
+        setTheme();
         QWidget window;
         QPushButton other(&window);
-        QPushButton button(QStringLiteral("Preset"), &window);
+        QPushButton button("Preset"_s, &window);
         button.setCheckable(true);
         button.resize(120, 40);
         button.setAutoDefault(false);
@@ -174,8 +170,7 @@ private Q_SLOTS:
         }
         for (int a = 0; a < looks.count(); ++a) {
             for (int b = 0; b < a; ++b)
-                QVERIFY2(looks.at(a) != looks.at(b),
-                         qPrintable(QStringLiteral("%1 %2").arg(a).arg(b)));
+                QVERIFY2(looks.at(a) != looks.at(b), qPrintable("%1 %2"_s.arg(a).arg(b)));
         }
     }
 
@@ -183,24 +178,22 @@ private Q_SLOTS:
 
     void textsAreLegible()
     {
-        QFETCH(int, theme);
-        ThemeManager::instance()->setTheme(ThemeManager::Theme(theme));
+        setTheme();
         QMainWindow window;
         auto *page = new QWidget;
         window.setCentralWidget(page);
         auto *layout = new QVBoxLayout(page);
         auto *box = new Controls::ComboBox;
-        box->addItem(QStringLiteral("HHH"));
+        box->addItem("HHH"_s);
         QVector<QPushButton *> buttons;
         for (int i = 0; i < 4; ++i)
-            buttons << new QPushButton(QStringLiteral("HHH"));
+            buttons << new QPushButton("HHH"_s);
         buttons.at(1)->setCheckable(true);
         buttons.at(1)->setChecked(true);
         buttons.at(2)->setDown(true);
         buttons.at(3)->setEnabled(false);
-        const QVector<QWidget *> widgets{
-            buttons.at(0), buttons.at(1), buttons.at(2), box, new QLineEdit(QStringLiteral("HHH")),
-            buttons.at(3)};
+        const QVector<QWidget *> widgets{buttons.at(0), buttons.at(1),          buttons.at(2),
+                                         box,           new QLineEdit("HHH"_s), buttons.at(3)};
         for (QWidget *widget : widgets) {
             QFont font = widget->font();
             font.setPixelSize(24);
@@ -233,10 +226,16 @@ private Q_SLOTS:
 private:
     static void themes()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("theme");
-        QTest::newRow("dark") << "dark" << int(ThemeManager::Dark);
-        QTest::newRow("light") << "light" << int(ThemeManager::Light);
+        columns<QString>("name");
+        row("dark", "dark");
+        row("light", "light");
+    }
+
+    /// The theme of the row.
+    static void setTheme()
+    {
+        const bool light = qstrcmp(QTest::currentDataTag(), "light") == 0;
+        ThemeManager::instance()->setTheme(light ? ThemeManager::Light : ThemeManager::Dark);
     }
 
     static bool hasDrawnIcon(QPushButton *button)

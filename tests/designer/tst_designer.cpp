@@ -2,18 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui_gallery.h"
 
-#include <QFileInfo>
-#include <QPluginLoader>
 #include <QUiLoader>
-#include <QXmlStreamReader>
-#include <QtTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
 #include <vnatest.h>
 
 #include <memory>
 
-class tst_Designer : public VnaTest::TestCase
+using namespace VnaTest;
+
+class tst_Designer : public TestCase
 {
     Q_OBJECT
 
@@ -30,7 +28,7 @@ private Q_SLOTS:
 
     void widgets_data()
     {
-        QTest::addColumn<int>("index");
+        columns<int>("index");
         for (int i = 0; i < int(m_widgets.size()); ++i)
             QTest::newRow(qPrintable(m_widgets.at(i)->name())) << i;
     }
@@ -73,13 +71,13 @@ private Q_SLOTS:
             const auto attribute = [&xml](const char *name) {
                 return xml.attributes().value(QLatin1String(name)).toString();
             };
-            if (element == QLatin1String("widget"))
+            if (element == "widget"_s)
                 QCOMPARE(attribute("class"), entry->name());
-            else if (element == QLatin1String("property"))
+            else if (element == "property"_s)
                 QVERIFY(widget->property(qPrintable(attribute("name"))).isValid());
-            else if (element == QLatin1String("width"))
+            else if (element == "width"_s)
                 size.setWidth(xml.readElementText().toInt());
-            else if (element == QLatin1String("height"))
+            else if (element == "height"_s)
                 size.setHeight(xml.readElementText().toInt());
         }
         QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
@@ -122,12 +120,12 @@ private Q_SLOTS:
             for (const char *property : {"objectName", "labelText", "clickable", "currentText"})
                 QCOMPARE(twins[0]->property(property), twins[1]->property(property));
         }
-        auto *const key = loaded->findChild<LabelButton *>(QStringLiteral("marker"));
+        auto *const key = loaded->findChild<LabelButton *>("marker"_s);
         QVERIFY(key);
-        QCOMPARE(key->labelText(), QStringLiteral("2.412 GHz"));
+        QCOMPARE(key->labelText(), "2.412 GHz"_s);
         QCOMPARE(key->labelAlignment(), Qt::AlignRight | Qt::AlignTop);
         QVERIFY(key->property("textMargins").isValid());
-        QVERIFY(!loaded->findChild<AbstractButton *>(QStringLiteral("preset"))->clickable());
+        QVERIFY(!loaded->findChild<AbstractButton *>("preset"_s)->clickable());
     }
 
 private:

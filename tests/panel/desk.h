@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "pointer.h"
+#include "popupscene.h"
+#include "vnatest.h"
 
 #include <panel/diagrams.h>
 #include <panel/messagebar.h>
+#include <panel/numericdialog.h>
 #include <panel/panelcontroller.h>
 #include <panel/panelmodel.h>
 #include <panel/panelwindow.h>
@@ -14,9 +16,6 @@
 #include <panel/softkey.h>
 #include <panel/softkeymenu.h>
 #include <plot/qcp.h>
-
-#include <QListWidget>
-#include <QtTest>
 
 /// The panel as main() makes it, on screen with a sample of 2.3 to 2.6 GHz, and a finger to tap it.
 struct PanelDesk {
@@ -37,11 +36,39 @@ struct PanelDesk {
 
     Panel::SmithView *view() const { return window.smithView(); }
     SmithChartPlot *chart() const { return view()->chart(); }
+    const Panel::PanelKeys &keys() const { return window.keys(); }
+    Panel::MessageBar *bar() const { return window.messageBar(); }
 
+    /// Also lets a closed dialog go.
     static void settle()
     {
         for (int i = 0; i < 4; ++i)
             QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(window.windowHandle(), key, modifiers);
+        settle();
+    }
+
+    /// Taps keys of the numeric keypad: by object name without "btn", or by the caption of a unit.
+    void type(const QString &keys)
+    {
+        const auto *dialog = window.findChild<Panel::NumericDialog *>();
+        for (const QString &key : keys.split(QLatin1Char(' '))) {
+            const QString name =
+                QStringLiteral("btn") + (key == QLatin1String(".") ? QStringLiteral("P") : key);
+            const QAbstractButton *wanted = nullptr;
+            const auto buttons = dialog->findChildren<QAbstractButton *>();
+            for (const QAbstractButton *button : buttons) {
+                if (button->isVisible() && (button->objectName() == name || button->text() == key))
+                    wanted = button;
+            }
+            QVERIFY2(wanted, qPrintable(key));
+            click(wanted);
+        }
     }
 
     /// Taps a widget; a key is looked up on its page first.
@@ -74,9 +101,9 @@ struct ChartDesk : PanelDesk {
     QPoint inWindow(const QPoint &onPlot) const { return view()->plot()->mapTo(&window, onPlot); }
     QPointF chartPoint(const QPoint &onPlot) const { return view()->coordinates(onPlot); }
 
-    void turnWheel(const QPoint &onPlot, int notches)
+    void turnWheel(const QPoint &onPlot, int notches) { turnWheelAt(inWindow(onPlot), notches); }
+    void turnWheelAt(const QPoint &position, int notches)
     {
-        const QPoint position = inWindow(onPlot);
         QWheelEvent wheel(position, window.mapToGlobal(position), QPoint(),
                           QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
                           false);
@@ -86,10 +113,7 @@ struct ChartDesk : PanelDesk {
 
     void drag(const QPoint &from, const QPoint &to)
     {
-        QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(from));
-        for (int step = 1; step <= 10; ++step)
-            QTest::mouseMove(window.windowHandle(), inWindow(from + (to - from) * step / 10));
-        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(to));
+        VnaTest::mouseDrag(window.windowHandle(), inWindow(from), inWindow(to), 10);
         settle();
     }
 
@@ -119,10 +143,7 @@ struct ChartDesk : PanelDesk {
     {
         QWidget *popup = QApplication::activePopupWidget();
         QVERIFY(popup);
-        const auto *list = popup->findChild<QListWidget *>();
-        const QPoint row = list->visualItemRect(list->item(index)).center();
-        QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          list->viewport()->mapTo(popup, row));
+        VnaTest::clickItem(popup->findChild<QListWidget *>(), index);
         // A tap right after the list closed counts as the one that closed it.
         QTest::qWait(220);
         settle();

@@ -1,18 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
-#include "vnatest.h"
 
 #include <panel/cartesianview.h>
-#include <panel/diagrams.h>
 #include <panel/look.h>
 #include <panel/readouts.h>
-#include <plot/qcp.h>
-
-#include <QtTest>
 
 #include <cmath>
 
+using namespace VnaTest;
 using namespace Panel;
 
 namespace
@@ -55,7 +51,7 @@ struct Desk : PanelDesk {
 
 } // namespace
 
-class CartesianViewTest : public VnaTest::TestCase
+class CartesianViewTest : public TestCase
 {
     Q_OBJECT
 
@@ -76,195 +72,170 @@ private Q_SLOTS:
     }
 
     void initTestCase() { setUpApplication(); }
-    void readsDecibelsAndDegrees();
-    void thinsWithoutLosingPeaks_data();
-    void thinsWithoutLosingPeaks();
-    void showsTransmissionBesideReflection();
-    void choosesDiagrams();
-    void markersFollowTheirPointer();
-    void followsNewDataAndFormats();
-    void keepsLimitOfZoomOverOtherFrequencies();
-};
 
-void CartesianViewTest::readsDecibelsAndDegrees()
-{
-    const auto decibels = TraceFormat::LogMagnitude;
-    const auto degrees = TraceFormat::Phase;
-    QCOMPARE(cartesianValue(0.0, -0.1, decibels), -20.0);
-    QCOMPARE(cartesianValue(0.0, 0.0, decibels), -300.0);
-    QCOMPARE(cartesianValue(-1.0, 0.0, degrees), 180.0);
-    QCOMPARE(cartesianValue(1.0, -1.0, degrees), -45.0);
-    QCOMPARE(cartesianText(-1.324, decibels), QStringLiteral("\u22121.32 dB"));
-    QCOMPARE(cartesianText(90.0, degrees), QStringLiteral("90.0\u00b0"));
-}
-
-void CartesianViewTest::thinsWithoutLosingPeaks_data()
-{
-    QTest::addColumn<int>("points");
-    QTest::addColumn<int>("most");
-    QTest::newRow("none") << 0 << 0;
-    QTest::newRow("few are all drawn") << 400 << 400;
-    QTest::newRow("many") << 100003 << 400;
-}
-
-void CartesianViewTest::thinsWithoutLosingPeaks()
-{
-    QFETCH(int, points);
-    QFETCH(int, most);
-    const Network network = points > 0 ? slope(points) : Network();
-    const Parameter parameter = points > 0 ? network.s(2, 1) : Parameter();
-    for (const auto format : {TraceFormat::LogMagnitude, TraceFormat::Phase}) {
-        const CartesianLine line = cartesianLine(network.frequencies, parameter, format, 100);
-        QCOMPARE(line.values.size(), line.frequencies.size());
-        QVERIFY(line.values.size() <= most);
-        if (points == 0)
-            continue;
-        // Both ends, and the extremes of the whole.
-        QCOMPARE(line.frequencies.first(), network.frequencies.first());
-        QCOMPARE(line.frequencies.last(), network.frequencies.last());
-        QVERIFY(std::is_sorted(line.frequencies.begin(), line.frequencies.end()));
-        double low = 1e9, high = -1e9;
-        for (int i = 0; i < points; ++i) {
-            const double value = cartesianValueAt(parameter, i, format);
-            low = qMin(low, value);
-            high = qMax(high, value);
-        }
-        QCOMPARE(*std::min_element(line.values.begin(), line.values.end()), low);
-        QCOMPARE(*std::max_element(line.values.begin(), line.values.end()), high);
+    void readsDecibelsAndDegrees()
+    {
+        const auto decibels = TraceFormat::LogMagnitude;
+        const auto degrees = TraceFormat::Phase;
+        QCOMPARE(cartesianValue(0.0, -0.1, decibels), -20.0);
+        QCOMPARE(cartesianValue(0.0, 0.0, decibels), -300.0);
+        QCOMPARE(cartesianValue(-1.0, 0.0, degrees), 180.0);
+        QCOMPARE(cartesianValue(1.0, -1.0, degrees), -45.0);
+        QCOMPARE(cartesianText(-1.324, decibels), "\u22121.32 dB"_s);
+        QCOMPARE(cartesianText(90.0, degrees), "90.0\u00b0"_s);
     }
-}
 
-void CartesianViewTest::showsTransmissionBesideReflection()
-{
-    Desk desk;
-    QCOMPARE(desk.window.smithView()->chart()->traceIds(), (QVector<int>{1, 2}));
-    QVERIFY(!desk.view()->graph(1));
-    QCPGraph *s21 = desk.view()->graph(3);
-    QVERIFY(s21 && desk.view()->graph(4));
-    QVERIFY(desk.view()->isVisible() && desk.window.smithView()->isVisible());
-    QCOMPARE(s21->pen().color(), currentLook().trace(3));
-    bool found = false;
-    QVERIFY(s21->getValueRange(found).upper > -3.0);
-    QVERIFY(desk.view()->plot()->yAxis->range() == QCPRange(-100.0, 0.0));
-    QVERIFY(desk.view()->plot()->xAxis->range() == QCPRange(2.3e9, 2.6e9));
+    void thinsWithoutLosingPeaks()
+    {
+        QVERIFY(cartesianLine({}, {}, TraceFormat::Phase, 100).values.isEmpty());
+        for (const int points : {400, 100003}) { // few are all drawn
+            const Network network = slope(points);
+            const Parameter parameter = network.s(2, 1);
+            for (const auto format : {TraceFormat::LogMagnitude, TraceFormat::Phase}) {
+                const CartesianLine line =
+                    cartesianLine(network.frequencies, parameter, format, 100);
+                QCOMPARE(line.values.size(), line.frequencies.size());
+                QVERIFY(line.values.size() <= 400);
+                // Both ends, and the extremes of the whole.
+                QCOMPARE(line.frequencies.first(), network.frequencies.first());
+                QCOMPARE(line.frequencies.last(), network.frequencies.last());
+                QVERIFY(std::is_sorted(line.frequencies.begin(), line.frequencies.end()));
+                double low = 1e9, high = -1e9;
+                for (int i = 0; i < points; ++i) {
+                    const double value = cartesianValueAt(parameter, i, format);
+                    low = qMin(low, value);
+                    high = qMax(high, value);
+                }
+                QCOMPARE(*std::min_element(line.values.begin(), line.values.end()), low);
+                QCOMPARE(*std::max_element(line.values.begin(), line.values.end()), high);
+            }
+        }
+    }
 
-    desk.model.setActiveTrace(4);
-    QCOMPARE(desk.view()->graph(4)->layer()->name(), QStringLiteral("activeTrace"));
-    QCOMPARE(desk.window.smithView()->chart()->activeTrace(), 1);
-    desk.model.setTraceVisible(4, false);
-    QVERIFY(!desk.view()->graph(4)->visible() && s21->visible());
-}
+    void showsTransmissionBesideReflection()
+    {
+        Desk desk;
+        QCOMPARE(desk.window.smithView()->chart()->traceIds(), (QVector<int>{1, 2}));
+        QVERIFY(!desk.view()->graph(1));
+        QCPGraph *s21 = desk.view()->graph(3);
+        QVERIFY(s21 && desk.view()->graph(4));
+        QVERIFY(desk.view()->isVisible() && desk.window.smithView()->isVisible());
+        QCOMPARE(s21->pen().color(), currentLook().trace(3));
+        bool found = false;
+        QVERIFY(s21->getValueRange(found).upper > -3.0);
+        QVERIFY(desk.view()->plot()->yAxis->range() == QCPRange(-100.0, 0.0));
+        QVERIFY(desk.view()->plot()->xAxis->range() == QCPRange(2.3e9, 2.6e9));
 
-void CartesianViewTest::choosesDiagrams()
-{
-    Desk desk;
-    auto *layout = desk.model.viewSettings()->layoutProfile();
-    const auto shown = [&desk] {
-        return std::pair(desk.window.smithView()->isVisible(), desk.view()->isVisible());
-    };
-    layout->setLayoutType(Graph::LayoutType::Single);
-    QCOMPARE(shown(), std::pair(true, false));
-    desk.model.setActiveTrace(4);
-    QCOMPARE(shown(), std::pair(false, true));
-    layout->setLayoutType(Graph::LayoutType::Quad);
-    QCOMPARE(desk.window.diagrams()->views().size(), 4);
-    desk.model.setTraceFormat(4, TraceFormat::Smith);
-    QCOMPARE(desk.window.diagrams()->activeView()->traceIds(), QVector<int>{4});
-    QVERIFY(qobject_cast<SmithView *>(desk.window.diagrams()->activeView()));
-    layout->setLayoutType(Graph::LayoutType::SideBySide);
-    QCOMPARE(desk.window.smithView()->traceIds(), (QVector<int>{1, 2, 4}));
-    QCOMPARE(desk.view()->traceIds(), QVector<int>{3});
-    desk.model.setNetworks({});
-    QVERIFY(desk.window.diagrams()->views().isEmpty());
-}
+        desk.model.setActiveTrace(4);
+        QCOMPARE(desk.view()->graph(4)->layer()->name(), "activeTrace"_s);
+        QCOMPARE(desk.window.smithView()->chart()->activeTrace(), 1);
+        desk.model.setTraceVisible(4, false);
+        QVERIFY(!desk.view()->graph(4)->visible() && s21->visible());
+    }
 
-void CartesianViewTest::markersFollowTheirPointer()
-{
-    Desk desk;
-    QTest::mouseDClick(desk.screen(), Qt::LeftButton, Qt::NoModifier, desk.onTrace(3, 600));
-    QCOMPARE(desk.model.activeTrace()->id, 3);
-    const Marker *marker = desk.model.marker(3, 1);
-    QVERIFY(marker && std::abs(marker->index - 600.0) < 4.0);
-    QCOMPARE(desk.model.selectedMarker(), marker);
-    QVERIFY(desk.view()->readOuts()->height() > 10);
+    void choosesDiagrams()
+    {
+        Desk desk;
+        auto *layout = desk.model.viewSettings()->layoutProfile();
+        const auto shown = [&desk] {
+            return std::pair(desk.window.smithView()->isVisible(), desk.view()->isVisible());
+        };
+        layout->setLayoutType(Graph::LayoutType::Single);
+        QCOMPARE(shown(), std::pair(true, false));
+        desk.model.setActiveTrace(4);
+        QCOMPARE(shown(), std::pair(false, true));
+        layout->setLayoutType(Graph::LayoutType::Quad);
+        QCOMPARE(desk.window.diagrams()->views().size(), 4);
+        desk.model.setTraceFormat(4, TraceFormat::Smith);
+        QCOMPARE(desk.window.diagrams()->activeView()->traceIds(), QVector<int>{4});
+        QVERIFY(qobject_cast<SmithView *>(desk.window.diagrams()->activeView()));
+        layout->setLayoutType(Graph::LayoutType::SideBySide);
+        QCOMPARE(desk.window.smithView()->traceIds(), (QVector<int>{1, 2, 4}));
+        QCOMPARE(desk.view()->traceIds(), QVector<int>{3});
+        desk.model.setNetworks({});
+        QVERIFY(desk.window.diagrams()->views().isEmpty());
+    }
 
-    // Its triangle stands on the point.
-    const QPoint grip = desk.onTrace(3, int(marker->index)) - QPoint(0, 8);
-    const QPoint to(desk.onTrace(3, 900).x(), grip.y());
-    QTest::mousePress(desk.screen(), Qt::LeftButton, Qt::NoModifier, grip);
-    for (int step = 1; step <= 5; ++step)
-        QTest::mouseMove(desk.screen(), grip + (to - grip) * step / 5);
-    QTest::mouseRelease(desk.screen(), Qt::LeftButton, Qt::NoModifier, to);
-    QVERIFY(std::abs(marker->index - 900.0) < 4.0);
-    const double index = marker->index;
-    const QPointF position = desk.view()->marker(3, 1)->getTracer()->position->coords();
-    QCOMPARE(
-        position.y(),
-        cartesianValueAt(desk.model.data(*desk.model.trace(3)), index, TraceFormat::LogMagnitude));
-    QTest::mouseMove(desk.screen(), grip);
-    QCOMPARE(marker->index, index);
+    void markersFollowTheirPointer()
+    {
+        Desk desk;
+        QTest::mouseDClick(desk.screen(), Qt::LeftButton, Qt::NoModifier, desk.onTrace(3, 600));
+        QCOMPARE(desk.model.activeTrace()->id, 3);
+        const Marker *marker = desk.model.marker(3, 1);
+        QVERIFY(marker && std::abs(marker->index - 600.0) < 4.0);
+        QCOMPARE(desk.model.selectedMarker(), marker);
+        QVERIFY(desk.view()->readOuts()->height() > 10);
 
-    desk.model.setTraceVisible(3, false);
-    QVERIFY(!desk.view()->marker(3, 1)->isVisible());
-    desk.model.setTraceVisible(3, true);
-    // Beside the marker a tap selects none, and activates the diagram it is on.
-    desk.model.setActiveTrace(1);
-    QTest::mouseClick(desk.screen(), Qt::LeftButton, Qt::NoModifier,
-                      desk.onTrace(3, 300) + QPoint(0, 60));
-    QCOMPARE(desk.model.activeTrace()->id, 3);
-    QVERIFY(!desk.model.selectedMarker());
-    desk.model.removeMarker(3, 1);
-    QVERIFY(!desk.view()->marker(3, 1));
-}
+        // Its triangle stands on the point.
+        const QPoint grip = desk.onTrace(3, int(marker->index)) - QPoint(0, 8);
+        const QPoint to(desk.onTrace(3, 900).x(), grip.y());
+        mouseDrag(desk.screen(), grip, to, 5);
+        QVERIFY(std::abs(marker->index - 900.0) < 4.0);
+        const double index = marker->index;
+        const QPointF position = desk.view()->marker(3, 1)->getTracer()->position->coords();
+        QCOMPARE(position.y(),
+                 cartesianValueAt(desk.model.data(*desk.model.trace(3)), index,
+                                  TraceFormat::LogMagnitude));
+        QTest::mouseMove(desk.screen(), grip);
+        QCOMPARE(marker->index, index);
 
-void CartesianViewTest::followsNewDataAndFormats()
-{
-    Desk desk;
-    desk.model.setNetworks({slope(1001)});
-    Desk::settle();
-    // Room for the spike of 20 dB.
-    QVERIFY(desk.view()->plot()->yAxis->range() == QCPRange(-80.0, 20.0));
-    desk.model.addMarker(3, 1000.0);
-    Network network = slope(200001);
-    for (double &frequency : network.frequencies)
-        frequency += 5e8;
-    QVERIFY(desk.model.updateNetwork(0, network));
-    QVERIFY(desk.view()->plot()->xAxis->range() == QCPRange(1.5e9, 2.5e9));
-    QVERIFY(desk.view()->drawnPoints() < 20000);
-    // The marker kept its frequency, which is in the middle now.
-    QCOMPARE(desk.model.marker(3, 1)->index, 100000.0);
-    const auto position = [&desk] {
-        return desk.view()->marker(3, 1)->getTracer()->position->coords();
-    };
-    QVERIFY(std::abs(position().x() - 2e9) < 1.0 && std::abs(position().y() + 20.0) < 0.01);
+        desk.model.setTraceVisible(3, false);
+        QVERIFY(!desk.view()->marker(3, 1)->isVisible());
+        desk.model.setTraceVisible(3, true);
+        // Beside the marker a tap selects none, and activates the diagram it is on.
+        desk.model.setActiveTrace(1);
+        QTest::mouseClick(desk.screen(), Qt::LeftButton, Qt::NoModifier,
+                          desk.onTrace(3, 300) + QPoint(0, 60));
+        QCOMPARE(desk.model.activeTrace()->id, 3);
+        QVERIFY(!desk.model.selectedMarker());
+        desk.model.removeMarker(3, 1);
+        QVERIFY(!desk.view()->marker(3, 1));
+    }
 
-    Q_EMIT desk.window.keys().format->choicePicked(int(TraceFormat::Phase));
-    QVERIFY(desk.view()->plot()->yAxis->range() == QCPRange(-180.0, 180.0));
-    const double turned = std::remainder(10.0 * 180.0 / std::acos(-1.0), 360.0);
-    QVERIFY(std::abs(position().y() - turned) < 0.01);
+    void followsNewDataAndFormats()
+    {
+        Desk desk;
+        desk.model.setNetworks({slope(1001)});
+        Desk::settle();
+        // Room for the spike of 20 dB.
+        QVERIFY(desk.view()->plot()->yAxis->range() == QCPRange(-80.0, 20.0));
+        desk.model.addMarker(3, 1000.0);
+        Network network = slope(200001);
+        for (double &frequency : network.frequencies)
+            frequency += 5e8;
+        QVERIFY(desk.model.updateNetwork(0, network));
+        QVERIFY(desk.view()->plot()->xAxis->range() == QCPRange(1.5e9, 2.5e9));
+        QVERIFY(desk.view()->drawnPoints() < 20000);
+        // The marker kept its frequency, which is in the middle now.
+        QCOMPARE(desk.model.marker(3, 1)->index, 100000.0);
+        const auto position = [&desk] {
+            return desk.view()->marker(3, 1)->getTracer()->position->coords();
+        };
+        QVERIFY(std::abs(position().x() - 2e9) < 1.0 && std::abs(position().y() + 20.0) < 0.01);
 
-    // Data of another kind is refused.
-    network.ports = 1;
-    QVERIFY(!desk.model.updateNetwork(0, network));
-    QVERIFY(!desk.model.updateNetwork(1, slope(3)));
-    QVERIFY(!desk.model.updateNetwork(0, Network()));
-    QCOMPARE(desk.model.networks().first().ports, 2);
-}
+        Q_EMIT desk.keys().format->choicePicked(int(TraceFormat::Phase));
+        QVERIFY(desk.view()->plot()->yAxis->range() == QCPRange(-180.0, 180.0));
+        const double turned = std::remainder(10.0 * 180.0 / std::acos(-1.0), 360.0);
+        QVERIFY(std::abs(position().y() - turned) < 0.01);
 
-void CartesianViewTest::keepsLimitOfZoomOverOtherFrequencies()
-{
-    Desk desk;
-    desk.model.setNetworks({slope(1001)});
-    Desk::settle();
-    desk.view()->setZoom(DiagramView::mostZoom);
-    Network wider = slope(1001);
-    for (double &frequency : wider.frequencies)
-        frequency *= 4.0;
-    desk.model.setNetworks({wider});
-    QCOMPARE(desk.view()->zoom(), DiagramView::mostZoom);
-    // A view without traces has no other frequencies, and no other magnification than any.
-    QCOMPARE(CartesianView(&desk.model).zoom(), 1.0);
-}
+        // Data of another kind is refused.
+        network.ports = 1;
+        QVERIFY(!desk.model.updateNetwork(0, network));
+        QVERIFY(!desk.model.updateNetwork(1, slope(3)));
+        QVERIFY(!desk.model.updateNetwork(0, Network()));
+        QCOMPARE(desk.model.networks().first().ports, 2);
+
+        // The limit of the zoom holds over other frequencies, too.
+        desk.view()->setZoom(DiagramView::mostZoom);
+        Network wider = slope(1001);
+        for (double &frequency : wider.frequencies)
+            frequency *= 4.0;
+        desk.model.setNetworks({wider});
+        QCOMPARE(desk.view()->zoom(), DiagramView::mostZoom);
+        // A view without traces has no other frequencies, and no other magnification than any.
+        QCOMPARE(CartesianView(&desk.model).zoom(), 1.0);
+    }
+};
 
 QTEST_MAIN(CartesianViewTest)
 #include "tst_cartesianview.moc"

@@ -1,123 +1,119 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
-#include "vnatest.h"
 
 #include <panel/look.h>
 #include <panel/readouts.h>
 #include <widgets/markerstatusitem.h>
 
+using namespace VnaTest;
 using namespace Panel;
 
-class PanelMarkersTest : public VnaTest::TestCase
+class PanelMarkersTest : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { setUpApplication(); }
-    void doubleClickMarksTheTrace();
-    void markersFollowTheirPointer();
-    void markerKeyAddsAndRemoves();
-    void pointerCanBeConfinedToTheActiveTrace();
+
+    void doubleClickMarksTheTrace()
+    {
+        ChartDesk desk;
+        // The end of S22 lies far from S11, which is active and would win nearby.
+        const int last = int(desk.model.networks().first().frequencies.size()) - 1;
+        desk.doubleClick(desk.onTrace(2, last));
+        QCOMPARE(desk.model.activeTrace()->id, 2);
+        QCOMPARE(desk.model.markers().size(), 1);
+        QVERIFY(desk.model.marker(2, 1)->index > last - 20.0);
+        QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+        QVERIFY(desk.view()->readOuts()->height() > 10);
+
+        // On a marker a double click means that marker, and adds none.
+        desk.doubleClick(desk.onTrace(2, int(desk.model.marker(2, 1)->index)));
+        QCOMPARE(desk.model.markers().size(), 1);
+
+        // A new chart and a hidden trace take the marker with them.
+        desk.model.viewSettings()->setDensity(SmithChart::Basic);
+        QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+        desk.model.setTraceVisible(2, false);
+        QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
+        desk.model.viewSettings()->setDensity(SmithChart::Standard);
+        QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
+        desk.model.setTraceVisible(2, true);
+        QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+    }
+
+    void markersFollowTheirPointer()
+    {
+        ChartDesk desk;
+        desk.model.addMarker(1, 0.0);
+        desk.model.addMarker(2, 0.0);
+        ChartDesk::settle();
+        const SmithChart::ViewState view = desk.chart()->viewState();
+        desk.drag(desk.onTrace(1, 0), desk.onTrace(1, 100));
+        QVERIFY2(std::abs(desk.model.marker(1, 1)->index - 100.0) < 10.0,
+                 qPrintable(QString::number(desk.model.marker(1, 1)->index)));
+        QCOMPARE(desk.model.selectedMarker(), desk.model.marker(1, 1));
+        QCOMPARE(desk.model.activeTrace()->id, 1);
+        QCOMPARE(desk.chart()->viewState().zoom, view.zoom);
+
+        const double index = desk.model.marker(1, 1)->index;
+        desk.press(Qt::Key_Right);
+        desk.press(Qt::Key_Right);
+        desk.press(Qt::Key_Left);
+        QCOMPARE(desk.model.marker(1, 1)->index, index + 1.0);
+        desk.press(Qt::Key_Delete);
+        QVERIFY(!desk.model.marker(1, 1));
+        QVERIFY(desk.model.marker(2, 1));
+
+        // A tap on free space selects none, one on a marker that marker.
+        QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          desk.inWindow(desk.onTrace(2, 0)));
+        QCOMPARE(desk.model.selectedMarker(), desk.model.marker(2, 1));
+        QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          desk.inWindow(desk.onPlot(0.01, 0.01)));
+        QVERIFY(!desk.model.selectedMarker());
+    }
+
+    void markerKeyAddsAndRemoves()
+    {
+        ChartDesk desk;
+        for (int number = 1; number <= PanelModel::markersPerTrace + 1; ++number)
+            desk.pick(desk.keys().marker, 0);
+        QCOMPARE(desk.model.activeMarkers().size(), PanelModel::markersPerTrace);
+        QVERIFY(desk.bar()->isVisible());
+        QCOMPARE(desk.keys().marker->value(), "M6"_s);
+
+        // The selected one is read first, then the others by their numbers.
+        QCOMPARE(desk.view()->readOuts()->numbers(), (QVector<int>{6, 1, 2, 3, 4, 5}));
+        desk.click(desk.view()->readOuts()->item(1));
+        QCOMPARE(desk.keys().marker->value(), "M1"_s);
+        desk.pick(desk.keys().marker, 1);
+        QVERIFY(!desk.model.marker(1, 1));
+        QCOMPARE(desk.keys().marker->value(), "None"_s);
+        desk.pick(desk.keys().marker, 2);
+        QVERIFY(desk.model.markers().isEmpty());
+        QCOMPARE(desk.view()->readOuts()->height(), 0);
+    }
+
+    void pointerCanBeConfinedToTheActiveTrace()
+    {
+        ChartDesk desk;
+        desk.model.addMarker(2, 0);
+        desk.model.setActiveTrace(1);
+        desk.pick(desk.keys().pointer, 1);
+        desk.doubleClick(desk.onTrace(1, 0));
+        QVERIFY(desk.model.marker(1, 1));
+        QVERIFY(desk.model.marker(1, 1)->index < 10.0);
+        desk.drag(desk.onTrace(2, 0), desk.onTrace(2, 300)); // another trace's marker stays
+        QCOMPARE(desk.model.marker(2, 1)->index, 0.0);
+        QCOMPARE(desk.model.activeTrace()->id, 1);
+        desk.pick(desk.keys().pointer, 0);
+        desk.chart()->resetView();
+        desk.drag(desk.onTrace(2, 0), desk.onTrace(2, 300));
+        QVERIFY(desk.model.marker(2, 1)->index > 0.0);
+    }
 };
-
-void PanelMarkersTest::doubleClickMarksTheTrace()
-{
-    ChartDesk desk;
-    // The end of S22 lies far from S11, which is active and would win nearby.
-    const int last = int(desk.model.networks().first().frequencies.size()) - 1;
-    desk.doubleClick(desk.onTrace(2, last));
-    QCOMPARE(desk.model.activeTrace()->id, 2);
-    QCOMPARE(desk.model.markers().size(), 1);
-    QVERIFY(desk.model.marker(2, 1)->index > last - 20.0);
-    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
-    QVERIFY(desk.view()->readOuts()->height() > 10);
-
-    // On a marker a double click means that marker, and adds none.
-    desk.doubleClick(desk.onTrace(2, int(desk.model.marker(2, 1)->index)));
-    QCOMPARE(desk.model.markers().size(), 1);
-
-    // A new chart and a hidden trace take the marker with them.
-    desk.model.viewSettings()->setDensity(SmithChart::Basic);
-    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
-    desk.model.setTraceVisible(2, false);
-    QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
-    desk.model.viewSettings()->setDensity(SmithChart::Standard);
-    QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
-    desk.model.setTraceVisible(2, true);
-    QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
-}
-
-void PanelMarkersTest::markersFollowTheirPointer()
-{
-    ChartDesk desk;
-    desk.model.addMarker(1, 0.0);
-    desk.model.addMarker(2, 0.0);
-    ChartDesk::settle();
-    const SmithChart::ViewState view = desk.chart()->viewState();
-    desk.drag(desk.onTrace(1, 0), desk.onTrace(1, 100));
-    QVERIFY2(std::abs(desk.model.marker(1, 1)->index - 100.0) < 10.0,
-             qPrintable(QString::number(desk.model.marker(1, 1)->index)));
-    QCOMPARE(desk.model.selectedMarker(), desk.model.marker(1, 1));
-    QCOMPARE(desk.model.activeTrace()->id, 1);
-    QCOMPARE(desk.chart()->viewState().zoom, view.zoom);
-
-    const double index = desk.model.marker(1, 1)->index;
-    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Right);
-    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Right);
-    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Left);
-    QCOMPARE(desk.model.marker(1, 1)->index, index + 1.0);
-    QTest::keyClick(desk.window.windowHandle(), Qt::Key_Delete);
-    QVERIFY(!desk.model.marker(1, 1));
-    QVERIFY(desk.model.marker(2, 1));
-
-    // A tap on free space selects none, one on a marker that marker.
-    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                      desk.inWindow(desk.onTrace(2, 0)));
-    QCOMPARE(desk.model.selectedMarker(), desk.model.marker(2, 1));
-    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                      desk.inWindow(desk.onPlot(0.01, 0.01)));
-    QVERIFY(!desk.model.selectedMarker());
-}
-
-void PanelMarkersTest::markerKeyAddsAndRemoves()
-{
-    ChartDesk desk;
-    for (int number = 1; number <= PanelModel::markersPerTrace + 1; ++number)
-        desk.pick(desk.window.keys().marker, 0);
-    QCOMPARE(desk.model.activeMarkers().size(), PanelModel::markersPerTrace);
-    QVERIFY(desk.window.messageBar()->isVisible());
-    QCOMPARE(desk.window.keys().marker->value(), QStringLiteral("M6"));
-
-    // The selected one is read first, then the others by their numbers.
-    QCOMPARE(desk.view()->readOuts()->numbers(), (QVector<int>{6, 1, 2, 3, 4, 5}));
-    desk.click(desk.view()->readOuts()->item(1));
-    QCOMPARE(desk.window.keys().marker->value(), QStringLiteral("M1"));
-    desk.pick(desk.window.keys().marker, 1);
-    QVERIFY(!desk.model.marker(1, 1));
-    QCOMPARE(desk.window.keys().marker->value(), QStringLiteral("None"));
-    desk.pick(desk.window.keys().marker, 2);
-    QVERIFY(desk.model.markers().isEmpty());
-    QCOMPARE(desk.view()->readOuts()->height(), 0);
-}
-
-void PanelMarkersTest::pointerCanBeConfinedToTheActiveTrace()
-{
-    ChartDesk desk;
-    desk.model.addMarker(2, 0);
-    desk.model.setActiveTrace(1);
-    desk.pick(desk.window.keys().pointer, 1);
-    desk.doubleClick(desk.onTrace(1, 0));
-    QVERIFY(desk.model.marker(1, 1));
-    QVERIFY(desk.model.marker(1, 1)->index < 10.0);
-    desk.drag(desk.onTrace(2, 0), desk.onTrace(2, 300)); // another trace's marker stays
-    QCOMPARE(desk.model.marker(2, 1)->index, 0.0);
-    QCOMPARE(desk.model.activeTrace()->id, 1);
-    desk.pick(desk.window.keys().pointer, 0);
-    desk.chart()->resetView();
-    desk.drag(desk.onTrace(2, 0), desk.onTrace(2, 300));
-    QVERIFY(desk.model.marker(2, 1)->index > 0.0);
-}
 
 QTEST_MAIN(PanelMarkersTest)
 #include "tst_panelmarkers.moc"

@@ -4,15 +4,10 @@
 
 #include <panel/sweepsource.h>
 
-#include <QSignalSpy>
-#include <QtTest>
-
 #include <cmath>
 
+using namespace VnaTest;
 using namespace Panel;
-
-Q_DECLARE_METATYPE(Panel::SimulatedDevice::Kind)
-Q_DECLARE_METATYPE(Panel::Sweep)
 
 namespace
 {
@@ -31,254 +26,228 @@ double magnitude(const Parameter &parameter, int index)
 
 } // namespace
 
-class SimulatedDeviceTest : public VnaTest::TestCase
+class SimulatedDeviceTest : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void measuresPassively_data();
-    void measuresPassively();
-    void filterPassesItsBand();
-    void driftsAndRepeats();
-    void checksSweeps_data();
-    void checksSweeps();
-    void tunesTheAntenna();
-    void sweepsPointByPoint();
-    void sourceSweepsOn();
-    void sourceDropsWhatRanBefore();
-};
-
-void SimulatedDeviceTest::measuresPassively_data()
-{
-    QTest::addColumn<SimulatedDevice::Kind>("kind");
-    QTest::addColumn<Sweep>("sweep");
-    QTest::addColumn<int>("ports");
-    const auto usual = SimulatedDevice::usualSweep;
-    QTest::newRow("antenna") << SimulatedDevice::Antenna << usual(SimulatedDevice::Antenna, 1001)
-                             << 1;
-    QTest::newRow("antenna, most points")
-        << SimulatedDevice::Antenna << usual(SimulatedDevice::Antenna, Sweep::mostPoints) << 1;
-    QTest::newRow("filter") << SimulatedDevice::Filter << usual(SimulatedDevice::Filter, 100001)
-                            << 2;
-    QTest::newRow("filter, all frequencies")
-        << SimulatedDevice::Filter << Sweep{Sweep::lowest, Sweep::highest, 201} << 2;
-    QTest::newRow("cable, all frequencies")
-        << SimulatedDevice::Cable << Sweep{Sweep::lowest, Sweep::highest, 100001} << 1;
-    QTest::newRow("cable, least span")
-        << SimulatedDevice::Cable
-        << Sweep{Sweep::lowest, Sweep::lowest + Sweep::leastSpan, Sweep::fewestPoints} << 1;
-}
-
-void SimulatedDeviceTest::measuresPassively()
-{
-    QFETCH(SimulatedDevice::Kind, kind);
-    QFETCH(Sweep, sweep);
-    QFETCH(int, ports);
-    QVERIFY(sweep.isValid());
-    SimulatedDevice device(kind, sweep);
-    // Both ends of the drift are among these.
-    for (const quint64 number : {0ULL, 90ULL, 270ULL}) {
-        const Network network = measured(device, number);
-        QCOMPARE(network.ports, ports);
-        QCOMPARE(network.frequencies.size(), sweep.points);
-        QCOMPARE(network.frequencies.first(), sweep.start);
-        QCOMPARE(network.frequencies.last(), sweep.stop);
-        QVERIFY(std::is_sorted(network.frequencies.begin(), network.frequencies.end()));
-        QCOMPARE(network.parameters.size(), ports * ports);
-        for (const Parameter &parameter : network.parameters) {
-            QCOMPARE(parameter.real.size(), sweep.points);
-            QCOMPARE(parameter.imag.size(), sweep.points);
-            double largest = 0.0;
-            for (int i = 0; i < sweep.points; ++i) {
-                if (!std::isfinite(magnitude(parameter, i)))
-                    QFAIL("not finite");
-                largest = qMax(largest, magnitude(parameter, i));
+    void measuresPassively()
+    {
+        const auto usual = SimulatedDevice::usualSweep;
+        const double lowest = Sweep::lowest;
+        const struct {
+            SimulatedDevice::Kind kind;
+            Sweep sweep;
+            int ports;
+        } rows[] = {
+            {SimulatedDevice::Antenna, usual(SimulatedDevice::Antenna, 1001), 1},
+            {SimulatedDevice::Antenna, usual(SimulatedDevice::Antenna, Sweep::mostPoints), 1},
+            {SimulatedDevice::Filter, usual(SimulatedDevice::Filter, 100001), 2},
+            {SimulatedDevice::Filter, {lowest, Sweep::highest, 201}, 2},
+            {SimulatedDevice::Cable, {lowest, Sweep::highest, 100001}, 1},
+            {SimulatedDevice::Cable, {lowest, lowest + Sweep::leastSpan, Sweep::fewestPoints}, 1},
+        };
+        for (const auto &[kind, sweep, ports] : rows) {
+            QVERIFY(sweep.isValid());
+            SimulatedDevice device(kind, sweep);
+            // Both ends of the drift are among these.
+            for (const quint64 number : {0ULL, 90ULL, 270ULL}) {
+                const Network network = measured(device, number);
+                QCOMPARE(network.ports, ports);
+                QCOMPARE(network.frequencies.size(), sweep.points);
+                QCOMPARE(network.frequencies.first(), sweep.start);
+                QCOMPARE(network.frequencies.last(), sweep.stop);
+                QVERIFY(std::is_sorted(network.frequencies.begin(), network.frequencies.end()));
+                QCOMPARE(network.parameters.size(), ports * ports);
+                for (const Parameter &parameter : network.parameters) {
+                    QCOMPARE(parameter.real.size(), sweep.points);
+                    QCOMPARE(parameter.imag.size(), sweep.points);
+                    double largest = 0.0;
+                    for (int i = 0; i < sweep.points; ++i) {
+                        if (!std::isfinite(magnitude(parameter, i)))
+                            QFAIL("not finite");
+                        largest = qMax(largest, magnitude(parameter, i));
+                    }
+                    QVERIFY2(largest <= 1.0, qPrintable(QString::number(largest, 'g', 12)));
+                }
             }
-            QVERIFY2(largest <= 1.0, qPrintable(QString::number(largest, 'g', 12)));
         }
     }
-}
 
-void SimulatedDeviceTest::filterPassesItsBand()
-{
-    SimulatedDevice device(SimulatedDevice::Filter, {2.3e9, 2.6e9, 301});
-    const Network network = measured(device, 0);
-    const int centre = 150, edge = 0;
-    QVERIFY(magnitude(network.s(2, 1), centre) > 0.7);
-    QVERIFY(magnitude(network.s(1, 1), centre) < 0.4);
-    QVERIFY(magnitude(network.s(2, 1), edge) < 0.01);
-    QVERIFY(magnitude(network.s(1, 1), edge) > 0.9);
-    // Reciprocal but for the noise.
-    QVERIFY(std::abs(network.s(2, 1).real.at(centre) - network.s(1, 2).real.at(centre)) < 1e-3);
-}
-
-void SimulatedDeviceTest::driftsAndRepeats()
-{
-    SimulatedDevice device(SimulatedDevice::Cable, {10e6, 1e9, 2001});
-    const QVector<double> first = measured(device, 7).parameters.first().real;
-    QCOMPARE(measured(device, 7).parameters.first().real, first);
-    QVERIFY(measured(device, 8).parameters.first().real != first);
-
-    // The noise is there, has no bias to speak of and keeps its limit.
-    const double limit = SimulatedDevice::noise(SimulatedDevice::Cable);
-    const QVector<double> second = measured(device, 367).parameters.first().real; // one drift later
-    double sum = 0.0, largest = 0.0;
-    for (int i = 0; i < first.size(); ++i) {
-        sum += second.at(i) - first.at(i);
-        largest = qMax(largest, std::abs(second.at(i) - first.at(i)));
+    void filterPassesItsBand()
+    {
+        SimulatedDevice device(SimulatedDevice::Filter, {2.3e9, 2.6e9, 301});
+        const Network network = measured(device, 0);
+        const int centre = 150, edge = 0;
+        QVERIFY(magnitude(network.s(2, 1), centre) > 0.7);
+        QVERIFY(magnitude(network.s(1, 1), centre) < 0.4);
+        QVERIFY(magnitude(network.s(2, 1), edge) < 0.01);
+        QVERIFY(magnitude(network.s(1, 1), edge) > 0.9);
+        // Reciprocal but for the noise.
+        QVERIFY(std::abs(network.s(2, 1).real.at(centre) - network.s(1, 2).real.at(centre)) < 1e-3);
     }
-    QVERIFY(largest > limit / 2.0 && largest <= 2.0 * limit);
-    QVERIFY(std::abs(sum / double(first.size())) < limit / 10.0);
-}
 
-void SimulatedDeviceTest::checksSweeps_data()
-{
-    QTest::addColumn<Sweep>("sweep");
-    QTest::addColumn<bool>("valid");
-    QTest::newRow("limits") << Sweep{1e6, 9e9, 1000001} << true;
-    QTest::newRow("fewest") << Sweep{1e9, 2e9, 201} << true;
-    QTest::newRow("too few") << Sweep{1e9, 2e9, 200} << false;
-    QTest::newRow("too many") << Sweep{1e9, 2e9, 1000002} << false;
-    QTest::newRow("reversed") << Sweep{2e9, 1e9, 201} << false;
-    QTest::newRow("no span") << Sweep{2e9, 2e9, 201} << false;
-    QTest::newRow("too high") << Sweep{2e9, 1e10, 201} << false;
-    QTest::newRow("NaN") << Sweep{std::nan(""), 1e9, 201} << false;
-}
+    void driftsAndRepeats()
+    {
+        SimulatedDevice device(SimulatedDevice::Cable, {10e6, 1e9, 2001});
+        const QVector<double> first = measured(device, 7).parameters.first().real;
+        QCOMPARE(measured(device, 7).parameters.first().real, first);
+        QVERIFY(measured(device, 8).parameters.first().real != first);
 
-void SimulatedDeviceTest::checksSweeps()
-{
-    QFETCH(Sweep, sweep);
-    QTEST(sweep.isValid(), "valid");
-}
-
-void SimulatedDeviceTest::tunesTheAntenna()
-{
-    for (const double tuning : {2.0e9, 2.45e9, 2.9e9}) {
-        ProgressiveSweep sweep(SimulatedDevice::Antenna, {1.5e9, 4e9, 2501}, 2.3e9);
-        sweep.setTuning(tuning);
-        sweep.advance(2501);
-        const Parameter &s = sweep.frame().parameters.first();
-        int best = 0;
-        for (int i = 0; i < 2501; ++i)
-            best = magnitude(s, i) < magnitude(s, best) ? i : best;
-        QVERIFY2(std::abs(sweep.frame().frequencies.at(best) - tuning) < 0.1 * tuning,
-                 qPrintable(QString::number(sweep.frame().frequencies.at(best))));
+        // The noise is there, has no bias to speak of and keeps its limit.
+        const double limit = SimulatedDevice::noise(SimulatedDevice::Cable);
+        const QVector<double> second =
+            measured(device, 367).parameters.first().real; // one drift later
+        double sum = 0.0, largest = 0.0;
+        for (int i = 0; i < first.size(); ++i) {
+            sum += second.at(i) - first.at(i);
+            largest = qMax(largest, std::abs(second.at(i) - first.at(i)));
+        }
+        QVERIFY(largest > limit / 2.0 && largest <= 2.0 * limit);
+        QVERIFY(std::abs(sum / double(first.size())) < limit / 10.0);
     }
-}
 
-void SimulatedDeviceTest::sweepsPointByPoint()
-{
-    constexpr int points = 10001;
-    const Sweep range = SimulatedDevice::usualSweep(SimulatedDevice::Filter, points);
-    ProgressiveSweep sweep(SimulatedDevice::Filter, range, SimulatedDevice::usualTuning);
-    SimulatedDevice device(SimulatedDevice::Filter, range);
-    // The preview shows what will be measured; then the sweep goes over it.
-    const Network preview = sweep.frame();
-    const QVector<double> expected = measured(device, 0).s(2, 1).real;
-    for (int i = 0; i < points; ++i)
-        QVERIFY(std::abs(preview.s(2, 1).real.at(i) - expected.at(i)) < 0.1);
-    Network before = preview;
-    for (int from = 0; from < points; from += 4000) {
+    void checksSweeps()
+    {
+        QVERIFY((Sweep{1e6, 9e9, 1000001}).isValid());
+        QVERIFY((Sweep{1e9, 2e9, 201}).isValid());
+        // Too few and too many points, reversed, empty, too high, and no number.
+        for (const Sweep &sweep :
+             {Sweep{1e9, 2e9, 200}, Sweep{1e9, 2e9, 1000002}, Sweep{2e9, 1e9, 201},
+              Sweep{2e9, 2e9, 201}, Sweep{2e9, 1e10, 201}, Sweep{qQNaN(), 1e9, 201}})
+            QVERIFY(!sweep.isValid());
+    }
+
+    void tunesTheAntenna()
+    {
+        for (const double tuning : {2.0e9, 2.45e9, 2.9e9}) {
+            ProgressiveSweep sweep(SimulatedDevice::Antenna, {1.5e9, 4e9, 2501}, 2.3e9);
+            sweep.setTuning(tuning);
+            sweep.advance(2501);
+            const Parameter &s = sweep.frame().parameters.first();
+            int best = 0;
+            for (int i = 0; i < 2501; ++i)
+                best = magnitude(s, i) < magnitude(s, best) ? i : best;
+            QVERIFY2(std::abs(sweep.frame().frequencies.at(best) - tuning) < 0.1 * tuning,
+                     qPrintable(QString::number(sweep.frame().frequencies.at(best))));
+        }
+    }
+
+    void sweepsPointByPoint()
+    {
+        constexpr int points = 10001;
+        const Sweep range = SimulatedDevice::usualSweep(SimulatedDevice::Filter, points);
+        ProgressiveSweep sweep(SimulatedDevice::Filter, range, SimulatedDevice::usualTuning);
+        SimulatedDevice device(SimulatedDevice::Filter, range);
+        // The preview shows what will be measured; then the sweep goes over it.
+        const Network preview = sweep.frame();
+        const QVector<double> expected = measured(device, 0).s(2, 1).real;
+        for (int i = 0; i < points; ++i)
+            QVERIFY(std::abs(preview.s(2, 1).real.at(i) - expected.at(i)) < 0.1);
+        Network before = preview;
+        for (int from = 0; from < points; from += 4000) {
+            sweep.advance(4000);
+            const int to = qMin(from + 4000, points);
+            QCOMPARE(sweep.progress(), double(to) / points);
+            for (int p = 0; p < 4; ++p) {
+                const QVector<double> &now = sweep.frame().parameters.at(p).imag;
+                const QVector<double> &then = before.parameters.at(p).imag;
+                QCOMPARE(now.mid(0, from), then.mid(0, from));
+                QVERIFY(now.mid(from, to - from) != then.mid(from, to - from));
+                QCOMPARE(now.mid(to), then.mid(to));
+            }
+            before = sweep.frame();
+        }
+        // The next sweep begins; what was handed out is not written to.
+        const QVector<double> complete = before.s(1, 2).imag.mid(0);
         sweep.advance(4000);
-        const int to = qMin(from + 4000, points);
-        QCOMPARE(sweep.progress(), double(to) / points);
-        for (int p = 0; p < 4; ++p) {
-            const QVector<double> &now = sweep.frame().parameters.at(p).imag;
-            const QVector<double> &then = before.parameters.at(p).imag;
-            QCOMPARE(now.mid(0, from), then.mid(0, from));
-            QVERIFY(now.mid(from, to - from) != then.mid(from, to - from));
-            QCOMPARE(now.mid(to), then.mid(to));
+        sweep.advance(4000);
+        QCOMPARE(sweep.progress(), 8000.0 / points);
+        QCOMPARE(before.s(1, 2).imag, complete);
+        QCOMPARE(sweep.frame().s(1, 2).imag.mid(8000), complete.mid(8000));
+        // Once the receiver keeps but the last frame, the two take turns without a copy.
+        before = sweep.frame();
+        const double *place = before.s(1, 1).real.constData();
+        for (int i = 0; i < 2; ++i) {
+            sweep.advance(100);
+            before = sweep.frame();
         }
-        before = sweep.frame();
+        QCOMPARE(before.s(1, 1).real.constData(), place);
     }
-    // The next sweep begins; what was handed out is not written to.
-    const QVector<double> complete = before.s(1, 2).imag.mid(0);
-    sweep.advance(4000);
-    sweep.advance(4000);
-    QCOMPARE(sweep.progress(), 8000.0 / points);
-    QCOMPARE(before.s(1, 2).imag, complete);
-    QCOMPARE(sweep.frame().s(1, 2).imag.mid(8000), complete.mid(8000));
-    // Once the receiver keeps but the last frame, the two take turns without a copy.
-    before = sweep.frame();
-    const double *place = before.s(1, 1).real.constData();
-    for (int i = 0; i < 2; ++i) {
-        sweep.advance(100);
-        before = sweep.frame();
-    }
-    QCOMPARE(before.s(1, 1).real.constData(), place);
-}
 
-void SimulatedDeviceTest::sourceSweepsOn()
-{
-    SweepSource source;
-    QVector<QVector<double>> frames;
-    QVector<double> progress;
-    connect(&source, &SweepSource::swept, this, [&](const Network &frame, double reached) {
-        frames.append(frame.parameters.first().real);
-        progress.append(reached);
-    });
-    const Sweep sweep{1e9, 2e9, 201};
-    source.start(SimulatedDevice::Antenna, sweep);
-    QVERIFY(frames.isEmpty());
-    QTRY_VERIFY(frames.size() >= 3);
-    QVERIFY(frames.at(0) != frames.at(1) && frames.at(1) != frames.at(2));
-
-    source.setHeld(true);
-    const auto held = frames.size();
-    QTest::qWait(5 * SweepSource::frameInterval);
-    QCOMPARE(frames.size(), held);
-    // A new sweep is shown once even so.
-    source.start(SimulatedDevice::Antenna, {1e9, 2e9, 301});
-    QTRY_COMPARE(frames.size(), held + 1);
-    QCOMPARE(frames.last().size(), 301);
-    QTest::qWait(5 * SweepSource::frameInterval);
-    QCOMPARE(frames.size(), held + 1);
-    source.setHeld(false);
-    QTRY_VERIFY(frames.size() > held + 1);
-
-    QCOMPARE(progress, QVector<double>(progress.size(), 1.0));
-
-    // A long sweep takes its time, held or not.
-    progress.clear();
-    source.start(SimulatedDevice::Antenna, {1e9, 2e9, 20001});
-    QTRY_VERIFY(progress.contains(1.0) && progress.last() < 1.0);
-    QVERIFY(progress.indexOf(1.0) > 0);
-    QVERIFY(std::is_sorted(progress.begin(), progress.begin() + progress.indexOf(1.0)));
-    source.setHeld(true);
-    const double position = progress.last();
-    QTest::qWait(20 * SweepSource::frameInterval);
-    source.setHeld(false);
-    const auto count = progress.size();
-    QTRY_VERIFY(progress.size() > count);
-    QVERIFY(progress.at(count) > position);
-
-    source.stop();
-    const auto stopped = frames.size();
-    QTest::qWait(5 * SweepSource::frameInterval);
-    QCOMPARE(frames.size(), stopped);
-}
-
-void SimulatedDeviceTest::sourceDropsWhatRanBefore()
-{
-    QVector<int> sizes;
+    void sourceSweepsOn()
     {
         SweepSource source;
-        connect(&source, &SweepSource::swept, this, [&](const Network &frame) {
-            sizes.append(int(frame.frequencies.size()));
-            // A host may start anew in the answer.
-            if (sizes.size() == 1)
-                source.start(SimulatedDevice::Cable, {1e9, 2e9, 301});
+        QVector<QVector<double>> frames;
+        QVector<double> progress;
+        connect(&source, &SweepSource::swept, this, [&](const Network &frame, double reached) {
+            frames.append(frame.parameters.first().real);
+            progress.append(reached);
         });
-        source.start(SimulatedDevice::Filter, {1e9, 2e9, Sweep::mostPoints});
-        source.start(SimulatedDevice::Antenna, {1e9, 2e9, 201});
-        QTRY_VERIFY(sizes.size() >= 3);
-        // Destroyed in the middle of a long computation.
-        source.start(SimulatedDevice::Filter, {1e9, 2e9, Sweep::mostPoints});
+        const auto rests = [&frames] {
+            const auto before = frames.size();
+            QTest::qWait(5 * SweepSource::frameInterval);
+            return frames.size() == before;
+        };
+        const Sweep sweep{1e9, 2e9, 201};
+        source.start(SimulatedDevice::Antenna, sweep);
+        QVERIFY(frames.isEmpty());
+        QTRY_VERIFY(frames.size() >= 3);
+        QVERIFY(frames.at(0) != frames.at(1) && frames.at(1) != frames.at(2));
+
+        source.setHeld(true);
+        const auto held = frames.size();
+        QVERIFY(rests());
+        // A new sweep is shown once even so.
+        source.start(SimulatedDevice::Antenna, {1e9, 2e9, 301});
+        QTRY_COMPARE(frames.size(), held + 1);
+        QCOMPARE(frames.last().size(), 301);
+        QVERIFY(rests());
+        source.setHeld(false);
+        QTRY_VERIFY(frames.size() > held + 1);
+
+        QCOMPARE(progress, QVector<double>(progress.size(), 1.0));
+
+        // A long sweep takes its time, held or not.
+        progress.clear();
+        source.start(SimulatedDevice::Antenna, {1e9, 2e9, 20001});
+        QTRY_VERIFY(progress.contains(1.0) && progress.last() < 1.0);
+        QVERIFY(progress.indexOf(1.0) > 0);
+        QVERIFY(std::is_sorted(progress.begin(), progress.begin() + progress.indexOf(1.0)));
+        source.setHeld(true);
+        const double position = progress.last();
+        QTest::qWait(20 * SweepSource::frameInterval);
+        source.setHeld(false);
+        const auto count = progress.size();
+        QTRY_VERIFY(progress.size() > count);
+        QVERIFY(progress.at(count) > position);
+
+        source.stop();
+        QVERIFY(rests());
     }
-    QCOMPARE(sizes.takeFirst(), 201);
-    for (const int size : sizes)
-        QCOMPARE(size, 301);
-}
+
+    void sourceDropsWhatRanBefore()
+    {
+        QVector<int> sizes;
+        {
+            SweepSource source;
+            connect(&source, &SweepSource::swept, this, [&](const Network &frame) {
+                sizes.append(int(frame.frequencies.size()));
+                // A host may start anew in the answer.
+                if (sizes.size() == 1)
+                    source.start(SimulatedDevice::Cable, {1e9, 2e9, 301});
+            });
+            source.start(SimulatedDevice::Filter, {1e9, 2e9, Sweep::mostPoints});
+            source.start(SimulatedDevice::Antenna, {1e9, 2e9, 201});
+            QTRY_VERIFY(sizes.size() >= 3);
+            // Destroyed in the middle of a long computation.
+            source.start(SimulatedDevice::Filter, {1e9, 2e9, Sweep::mostPoints});
+        }
+        QCOMPARE(sizes.takeFirst(), 201);
+        for (const int size : sizes)
+            QCOMPARE(size, 301);
+    }
+};
 
 QTEST_GUILESS_MAIN(SimulatedDeviceTest)
 #include "tst_simulateddevice.moc"

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
-#include "vnatest.h"
 
 #include <panel/cartesianview.h>
 #include <panel/filedialog.h>
@@ -10,10 +9,7 @@
 #include <panel/timingline.h>
 #include <widgets/switchbutton.h>
 
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QtTest>
-
+using namespace VnaTest;
 using namespace Panel;
 
 namespace
@@ -21,7 +17,6 @@ namespace
 
 struct Desk : PanelDesk {
     SweepController *sweeps() const { return controller.sweepController(); }
-    const PanelKeys &keys() const { return window.keys(); }
     QString shown() const { return model.networks().first().name; }
     int points() const { return int(model.networks().first().frequencies.size()); }
 
@@ -30,200 +25,189 @@ struct Desk : PanelDesk {
 
 } // namespace
 
-class SweepControllerTest : public VnaTest::TestCase
+class SweepControllerTest : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { setUpApplication(); }
-    void switchesBetweenFilesAndDevices();
-    void answersClicksWhileSweeping();
-    void markersStayOverNewData();
-    void holdsTheSweep();
-    void tunesAndTellsProgress();
-    void openedFileEndsTheSimulation();
-    void asksForAFileWhenThereIsNone();
-    void tellsTheTimingOnRequest();
-};
 
-void SweepControllerTest::switchesBetweenFilesAndDevices()
-{
-    Desk desk;
-    QCOMPARE(desk.keys().source->choice(), 0);
-    QVERIFY(!desk.keys().points->isEnabled());
+    void switchesBetweenFilesAndDevices()
+    {
+        Desk desk;
+        QCOMPARE(desk.keys().source->choice(), 0);
+        QVERIFY(!desk.keys().points->isEnabled());
 
-    desk.pick(desk.keys().source, 1);
-    QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Antenna));
-    QCOMPARE(desk.keys().source->choice(), 1);
-    QVERIFY(desk.keys().points->isEnabled());
-    QCOMPARE(desk.points(), 1001);
-    Sweep sweep = desk.model.sweep();
-    sweep.points = 100001;
-    desk.model.setSweep(sweep);
-    QTRY_COMPARE(desk.points(), 100001);
-    QCOMPARE(desk.keys().points->value(), QStringLiteral("100001"));
-
-    // The points stay, the frequencies become those of the device.
-    desk.pick(desk.keys().source, 3);
-    QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Cable));
-    QCOMPARE(desk.points(), 100001);
-    QCOMPARE(desk.model.networks().first().frequencies.first(),
-             SimulatedDevice::usualSweep(SimulatedDevice::Cable, 1001).start);
-    desk.model.setSweep({1e8, 2e8, 501});
-    QTRY_COMPARE(desk.points(), 501);
-    QCOMPARE(desk.keys().points->value(), QStringLiteral("501"));
-
-    desk.pick(desk.keys().source, 0);
-    QCOMPARE(desk.shown(), QStringLiteral("band-pass.s2p"));
-    QVERIFY(!desk.sweeps()->isSimulating());
-    QCOMPARE(desk.keys().source->choice(), 0);
-}
-
-void SweepControllerTest::answersClicksWhileSweeping()
-{
-    Desk desk;
-    Sweep most = desk.model.sweep();
-    most.points = Sweep::mostPoints;
-    desk.model.setSweep(most);
-    const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
-    desk.sweeps()->simulate(SimulatedDevice::Antenna);
-    QTRY_VERIFY_WITH_TIMEOUT(updated.count() >= 2, 60000);
-    QCOMPARE(desk.points(), Sweep::mostPoints);
-
-    // Drawn are the points of the picture, not those of the data.
-    QVERIFY(desk.window.smithView()->drawnPoints() > 100);
-    QVERIFY(desk.window.smithView()->drawnPoints() < 20000);
-
-    desk.click(desk.keys().visible->findChild<QPushButton *>(QStringLiteral("btnOff")));
-    QVERIFY(!desk.model.activeTrace()->visible);
-    const auto before = updated.count();
-    QTRY_VERIFY_WITH_TIMEOUT(updated.count() > before, 60000);
-    QVERIFY(!desk.model.activeTrace()->visible);
-    desk.click(desk.keys().sweep->findChild<QPushButton *>(QStringLiteral("btnOff")));
-    QVERIFY(!desk.model.isSweeping());
-}
-
-void SweepControllerTest::markersStayOverNewData()
-{
-    Desk desk;
-    desk.model.setSweeping(false);
-    desk.sweeps()->simulate(SimulatedDevice::Antenna);
-    QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Antenna));
-    desk.model.addMarker(1, 800.0);
-    const double hertz = desk.model.networks().first().frequencies.at(800);
-
-    const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
-    desk.model.setSweeping(true);
-    QTRY_VERIFY(updated.count() >= 3);
-    QCOMPARE(desk.model.marker(1, 1)->index, 800.0);
-    const auto isOnTheTrace = [&desk] {
-        const Parameter &data = desk.model.networks().first().parameters.first();
-        const double index = desk.model.marker(1, 1)->index;
-        const QPointF position = desk.chart()->getMarker(1, 1)->getTracer()->position->coords();
-        return desk.chart()->getMarker(1, 1)->isVisible()
-            && qAbs(position.x() - valueAt(data.real, index)) < 1e-9
-            && qAbs(position.y() - valueAt(data.imag, index)) < 1e-9;
-    };
-    QVERIFY(isOnTheTrace());
-
-    // With other points it keeps its frequency, shorter data or longer.
-    Sweep sweep = desk.model.sweep();
-    for (const int points : {Sweep::fewestPoints, 100001}) {
-        sweep.points = points;
+        desk.pick(desk.keys().source, 1);
+        QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Antenna));
+        QCOMPARE(desk.keys().source->choice(), 1);
+        QVERIFY(desk.keys().points->isEnabled());
+        QCOMPARE(desk.points(), 1001);
+        Sweep sweep = desk.model.sweep();
+        sweep.points = 100001;
         desk.model.setSweep(sweep);
-        QTRY_COMPARE(desk.points(), points);
-        const Marker *marker = desk.model.marker(1, 1);
-        QVERIFY(qAbs(valueAt(desk.model.networks().first().frequencies, marker->index) - hertz)
-                < 1.0);
+        QTRY_COMPARE(desk.points(), 100001);
+        QCOMPARE(desk.keys().points->value(), "100001"_s);
+
+        // The points stay, the frequencies become those of the device.
+        desk.pick(desk.keys().source, 3);
+        QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Cable));
+        QCOMPARE(desk.points(), 100001);
+        QCOMPARE(desk.model.networks().first().frequencies.first(),
+                 SimulatedDevice::usualSweep(SimulatedDevice::Cable, 1001).start);
+        desk.model.setSweep({1e8, 2e8, 501});
+        QTRY_COMPARE(desk.points(), 501);
+        QCOMPARE(desk.keys().points->value(), "501"_s);
+
+        desk.pick(desk.keys().source, 0);
+        QCOMPARE(desk.shown(), "band-pass.s2p"_s);
+        QVERIFY(!desk.sweeps()->isSimulating());
+        QCOMPARE(desk.keys().source->choice(), 0);
+    }
+
+    void answersClicksWhileSweeping()
+    {
+        Desk desk;
+        Sweep most = desk.model.sweep();
+        most.points = Sweep::mostPoints;
+        desk.model.setSweep(most);
+        const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
+        desk.sweeps()->simulate(SimulatedDevice::Antenna);
+        QTRY_VERIFY_WITH_TIMEOUT(updated.count() >= 2, 60000);
+        QCOMPARE(desk.points(), Sweep::mostPoints);
+
+        // Drawn are the points of the picture, not those of the data.
+        QVERIFY(desk.window.smithView()->drawnPoints() > 100);
+        QVERIFY(desk.window.smithView()->drawnPoints() < 20000);
+
+        desk.click(desk.keys().visible->findChild<QPushButton *>("btnOff"_s));
+        QVERIFY(!desk.model.activeTrace()->visible);
+        const auto before = updated.count();
+        QTRY_VERIFY_WITH_TIMEOUT(updated.count() > before, 60000);
+        QVERIFY(!desk.model.activeTrace()->visible);
+        desk.click(desk.keys().sweep->findChild<QPushButton *>("btnOff"_s));
+        QVERIFY(!desk.model.isSweeping());
+    }
+
+    void markersStayOverNewData()
+    {
+        Desk desk;
+        desk.model.setSweeping(false);
+        desk.sweeps()->simulate(SimulatedDevice::Antenna);
+        QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Antenna));
+        desk.model.addMarker(1, 800.0);
+        const double hertz = desk.model.networks().first().frequencies.at(800);
+
+        const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
+        desk.model.setSweeping(true);
+        QTRY_VERIFY(updated.count() >= 3);
+        QCOMPARE(desk.model.marker(1, 1)->index, 800.0);
+        const auto isOnTheTrace = [&desk] {
+            const Parameter &data = desk.model.networks().first().parameters.first();
+            const double index = desk.model.marker(1, 1)->index;
+            const QPointF position = desk.chart()->getMarker(1, 1)->getTracer()->position->coords();
+            return desk.chart()->getMarker(1, 1)->isVisible()
+                && qAbs(position.x() - valueAt(data.real, index)) < 1e-9
+                && qAbs(position.y() - valueAt(data.imag, index)) < 1e-9;
+        };
         QVERIFY(isOnTheTrace());
-        int trace = 0, number = 0;
-        QVERIFY(desk.chart()->getSelectedMarker(trace, number));
-        QCOMPARE(desk.model.selectedMarker(), marker);
+
+        // With other points it keeps its frequency, shorter data or longer.
+        Sweep sweep = desk.model.sweep();
+        for (const int points : {Sweep::fewestPoints, 100001}) {
+            sweep.points = points;
+            desk.model.setSweep(sweep);
+            QTRY_COMPARE(desk.points(), points);
+            const Marker *marker = desk.model.marker(1, 1);
+            QVERIFY(qAbs(valueAt(desk.model.networks().first().frequencies, marker->index) - hertz)
+                    < 1.0);
+            QVERIFY(isOnTheTrace());
+            int trace = 0, number = 0;
+            QVERIFY(desk.chart()->getSelectedMarker(trace, number));
+            QCOMPARE(desk.model.selectedMarker(), marker);
+        }
     }
-}
 
-void SweepControllerTest::holdsTheSweep()
-{
-    Desk desk;
-    desk.sweeps()->simulate(SimulatedDevice::Antenna);
-    const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
-    QTRY_VERIFY(updated.count() >= 2);
-    const auto press = [&desk](const char *button) {
-        desk.click(desk.keys().sweep->findChild<QPushButton *>(QLatin1String(button)));
-    };
-    press("btnOff");
-    const auto held = updated.count();
-    QTest::qWait(5 * SweepSource::frameInterval);
-    QCOMPARE(updated.count(), held);
-    press("btnOn");
-    QTRY_VERIFY(updated.count() > held);
-}
-
-void SweepControllerTest::tunesAndTellsProgress()
-{
-    Desk desk;
-    const QSignalSpy tuned(desk.sweeps(), &SweepController::tuningChanged);
-    for (const auto &[hertz, kept] :
-         {std::pair(2.2e9, 2.2e9), {9e9, 2.9e9}, {qInf(), 2.9e9}, {1.0, 2.0e9}, {qQNaN(), 2.0e9}}) {
-        desk.sweeps()->setTuning(hertz);
-        QCOMPARE(desk.sweeps()->tuning(), kept);
+    void holdsTheSweep()
+    {
+        Desk desk;
+        desk.sweeps()->simulate(SimulatedDevice::Antenna);
+        const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
+        QTRY_VERIFY(updated.count() >= 2);
+        desk.click(desk.keys().sweep->findChild<QPushButton *>("btnOff"_s));
+        const auto held = updated.count();
+        QTest::qWait(5 * SweepSource::frameInterval);
+        QCOMPARE(updated.count(), held);
+        desk.click(desk.keys().sweep->findChild<QPushButton *>("btnOn"_s));
+        QTRY_VERIFY(updated.count() > held);
     }
-    QCOMPARE(tuned.count(), 3);
-    QCOMPARE(desk.sweeps()->tuningLimits(), (Stimulus{2.0e9, 2.9e9}));
 
-    const QSignalSpy progressed(desk.sweeps(), &SweepController::progressed);
-    const QSignalSpy completed(desk.sweeps(), &SweepController::sweepCompleted);
-    desk.model.setSweep({1e9, 2e9, 20001});
-    desk.sweeps()->simulate(SimulatedDevice::Antenna);
-    QVERIFY(desk.sweeps()->isTunable());
-    QTRY_VERIFY(progressed.count() >= 1);
-    QCOMPARE(completed.count(), 0);
-    const Parameter before = desk.model.networks().first().parameters.first();
-    desk.sweeps()->setTuning(2.9e9);
-    QTRY_VERIFY(completed.count() >= 1); // on a busy machine the next sweep is under way by now
-    QVERIFY(desk.model.networks().first().parameters.first().real != before.real);
-    QVERIFY(progressed.contains(QVariantList{1.0}));
-}
+    void tunesAndTellsProgress()
+    {
+        Desk desk;
+        const QSignalSpy tuned(desk.sweeps(), &SweepController::tuningChanged);
+        for (const auto &[hertz, kept] : {std::pair(2.2e9, 2.2e9),
+                                          {9e9, 2.9e9},
+                                          {qInf(), 2.9e9},
+                                          {1.0, 2.0e9},
+                                          {qQNaN(), 2.0e9}}) {
+            desk.sweeps()->setTuning(hertz);
+            QCOMPARE(desk.sweeps()->tuning(), kept);
+        }
+        QCOMPARE(tuned.count(), 3);
+        QCOMPARE(desk.sweeps()->tuningLimits(), (Stimulus{2.0e9, 2.9e9}));
 
-void SweepControllerTest::openedFileEndsTheSimulation()
-{
-    Desk desk;
-    desk.sweeps()->simulate(SimulatedDevice::Filter);
-    QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Filter));
-    QVERIFY(desk.controller.openFiles({sampleFolder() + QStringLiteral("/antenna.s1p")}));
-    QVERIFY(!desk.sweeps()->isSimulating());
-    QTest::qWait(5 * SweepSource::frameInterval);
-    QCOMPARE(desk.shown(), QStringLiteral("antenna.s1p"));
-    // Also one that was opened while the first frame was on its way.
-    desk.sweeps()->simulate(SimulatedDevice::Filter);
-    QVERIFY(desk.controller.openFiles({startSample()}));
-    QTest::qWait(5 * SweepSource::frameInterval);
-    QCOMPARE(desk.shown(), QStringLiteral("band-pass.s2p"));
-}
+        const QSignalSpy progressed(desk.sweeps(), &SweepController::progressed);
+        const QSignalSpy completed(desk.sweeps(), &SweepController::sweepCompleted);
+        desk.model.setSweep({1e9, 2e9, 20001});
+        desk.sweeps()->simulate(SimulatedDevice::Antenna);
+        QVERIFY(desk.sweeps()->isTunable());
+        QTRY_VERIFY(progressed.count() >= 1);
+        QCOMPARE(completed.count(), 0);
+        const Parameter before = desk.model.networks().first().parameters.first();
+        desk.sweeps()->setTuning(2.9e9);
+        QTRY_VERIFY(completed.count() >= 1); // on a busy machine the next sweep is under way by now
+        QVERIFY(desk.model.networks().first().parameters.first().real != before.real);
+        QVERIFY(progressed.contains(QVariantList{1.0}));
+    }
 
-void SweepControllerTest::asksForAFileWhenThereIsNone()
-{
-    Desk desk;
-    desk.model.setNetworks({});
-    desk.sweeps()->simulate(SimulatedDevice::Antenna);
-    QTRY_VERIFY(!desk.model.networks().isEmpty());
-    desk.pick(desk.keys().source, 0);
-    QVERIFY(desk.window.findChild<FileDialog *>());
-    QVERIFY(desk.sweeps()->isSimulating());
-}
+    void filesAndSimulationTakeTurns()
+    {
+        Desk desk;
+        desk.sweeps()->simulate(SimulatedDevice::Filter);
+        QTRY_COMPARE(desk.shown(), SimulatedDevice::name(SimulatedDevice::Filter));
+        QVERIFY(desk.controller.openFiles({sampleFolder() + "/antenna.s1p"_s}));
+        QVERIFY(!desk.sweeps()->isSimulating());
+        QTest::qWait(5 * SweepSource::frameInterval);
+        QCOMPARE(desk.shown(), "antenna.s1p"_s);
+        // Also one that was opened while the first frame was on its way.
+        desk.sweeps()->simulate(SimulatedDevice::Filter);
+        QVERIFY(desk.controller.openFiles({startSample()}));
+        QTest::qWait(5 * SweepSource::frameInterval);
+        QCOMPARE(desk.shown(), "band-pass.s2p"_s);
 
-void SweepControllerTest::tellsTheTimingOnRequest()
-{
-    Desk desk;
-    QVERIFY(!desk.window.timingLine()->isVisible());
-    QTest::keyClick(desk.window.windowHandle(), Qt::Key_F3);
-    QVERIFY(desk.window.timingLine()->isVisible());
-    const QString points = QString::number(desk.window.smithView()->drawnPoints()
-                                           + desk.window.cartesianView()->drawnPoints());
-    QVERIFY(desk.window.timingLine()->text().startsWith(points + QLatin1Char(' ')));
-    desk.click(desk.keys().timing->findChild<QPushButton *>(QStringLiteral("btnOff")));
-    QVERIFY(!desk.window.timingLine()->isVisible());
-}
+        // Without files the panel asks for one.
+        desk.model.setNetworks({});
+        desk.sweeps()->simulate(SimulatedDevice::Antenna);
+        QTRY_VERIFY(!desk.model.networks().isEmpty());
+        desk.pick(desk.keys().source, 0);
+        QVERIFY(desk.window.findChild<FileDialog *>());
+        QVERIFY(desk.sweeps()->isSimulating());
+    }
+
+    void tellsTheTimingOnRequest()
+    {
+        Desk desk;
+        QVERIFY(!desk.window.timingLine()->isVisible());
+        desk.press(Qt::Key_F3);
+        QVERIFY(desk.window.timingLine()->isVisible());
+        const QString points = QString::number(desk.window.smithView()->drawnPoints()
+                                               + desk.window.cartesianView()->drawnPoints());
+        QVERIFY(desk.window.timingLine()->text().startsWith(points + QLatin1Char(' ')));
+        desk.click(desk.keys().timing->findChild<QPushButton *>("btnOff"_s));
+        QVERIFY(!desk.window.timingLine()->isVisible());
+    }
+};
 
 QTEST_MAIN(SweepControllerTest)
 #include "tst_sweepcontroller.moc"

@@ -1,17 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tables.h"
 #include "vnatest.h"
 
 #include <panel/touchstone.h>
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <QtTest>
-
 #include <cmath>
 #include <complex>
 
+using namespace VnaTest;
 using namespace Panel;
 
 namespace
@@ -32,285 +28,230 @@ QString measuredFolder()
 
 } // namespace
 
-class TouchstoneTest : public VnaTest::TestCase
+class TouchstoneTest : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsEveryWayToWriteOnePoint_data();
-    void readsEveryWayToWriteOnePoint();
-    void readsTwoPorts_data();
-    void readsTwoPorts();
-    void leavesGaps();
-    void refusesText_data();
-    void refusesText();
-    void refusesFiles_data();
-    void refusesFiles();
-    void readsAMillionPoints();
-    void opensMeasuredFiles_data();
-    void opensMeasuredFiles();
-};
-
-void TouchstoneTest::readsEveryWayToWriteOnePoint_data()
-{
     // Each row is the same point: 2.5 GHz, reflection coefficient 0.5j.
-    VnaTest::columns<QByteArray, double>("text", "ohms");
-    const auto row = [](const char *name, const char *text, double ohms = 50.0) {
-        VnaTest::row(name, QByteArray(text), ohms);
-    };
-    row("no option line", "2.5 0.5 90\n");
-    row("empty option line", "#\n2.5 0.5 90\n");
-    row("real and imaginary", "# Hz S RI R 75\n2.5e9 0 0.5\n", 75.0);
-    row("magnitude and angle", "# MHz S MA R 50\n2500 .5 -270\n");
-    row("decibel", "# kHz S DB R 1\n2500000 -6.0205999132796 90\n", 1.0);
-    row("lower case, other order", "# ri r 376.7 s ghz\n2.5 0 .5\n", 376.7);
-    row("second option line", "# GHz S RI\n# Hz S MA R 9\n2.5 0 0.5\n");
-    row("option line after a point", "# GHz S RI\n2.5 0 .5\n# kHz Z\n");
-    row("comments anywhere", "! a\n# GHz S RI ! R 75\n  !b\n2.5 0!c\n! [d]\n0.5 !1 2 3\n!");
-    row("spread over lines", "# GHz S RI\n2.5\n\n0\n0.5");
-    row("tabs and blanks", "\t# GHz\tS\tRI \n\t2.5\t0 \t0.5\t \n");
-    row("CR LF", "# GHz S RI\r\n2.5 0 0.5\r\n");
-    row("CR", "# GHz S RI\r! x\r2.5 0 0.5\r");
-    row("Latin-1", "! \xe9t\xe9\n# GHz S RI\n2.5 0 0.5 ! \xb0\n");
-    row("UTF-8 with its mark", "\xef\xbb\xbf# GHz S RI\n2.5 0 0.5 ! \xc2\xb0\n");
-    row("Ctrl-Z at the end", "# GHz S RI\n2.5 0 0.5\r\n\x1a");
-    row("signs and exponents", "# Hz S RI\n+2.5E+009 -1e-400 +5.0e-01\n");
-}
-
-void TouchstoneTest::readsEveryWayToWriteOnePoint()
-{
-    QFETCH(QByteArray, text);
-    const TouchstoneResult result = parseTouchstone(text, 1);
-    QVERIFY2(result.ok(), qPrintable(result.reason));
-    QCOMPARE(result.network.frequencies, QVector<double>{2.5e9});
-    QVERIFY(std::abs(value(result.network, 1, 1, 0) - std::complex<double>(0.0, 0.5)) < 1e-12);
-    QTEST(result.network.referenceOhms, "ohms");
-}
-
-void TouchstoneTest::readsTwoPorts_data()
-{
-    // Two points, of which S<to><from> of the first is <to><from> and of the second ten times that.
-    VnaTest::columns<QByteArray, double>("text", "last");
-    const QByteArray points = "# GHz S RI\n2 11 0 21 0 12 0 22 0\n3 110 0 210 0 120 0 220 0\n";
-    VnaTest::row("plain", points, 3e9);
-    VnaTest::row("four lines",
-                 QByteArray("# GHz S RI\n2 11 0 21 0\n12 0 22 0\n3 110 0 210 0\n"
-                            "120 0 220 0\n"),
-                 3e9);
-    // A zero-span sweep; its second point looks like noise data until the next line is seen.
-    VnaTest::row("equal frequencies",
-                 QByteArray("# GHz S RI\n2 11 0 21 0 12 0 22 0\n"
-                            "2 110 0 210 0\n120 0 220 0\n"),
-                 2e9);
-    VnaTest::row("noise data", points + "1 1.1 .6 130 .3\n2 1.2 .5 120 .3\n9 1.3 .5 110 .3\n", 3e9);
-    VnaTest::row("noise data from the last frequency",
-                 points + "! noise\n3 1.1 .6 130 .3\n4 1.2 .5 120 .3\n", 3e9);
-    VnaTest::row("noise data at the last frequency", points + "3 1.1 .6 130 .3", 3e9);
-}
-
-void TouchstoneTest::readsTwoPorts()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(double, last);
-    const TouchstoneResult result = parseTouchstone(text, 2);
-    QVERIFY2(result.ok(), qPrintable(result.reason));
-    QCOMPARE(result.network.frequencies, (QVector<double>{2e9, last}));
-    for (const int port : {11, 21, 12, 22})
-        QCOMPARE(result.network.s(port / 10, port % 10).real,
-                 (QVector<double>{double(port), 10.0 * port}));
-}
-
-void TouchstoneTest::leavesGaps()
-{
-    const TouchstoneResult result = parseTouchstone("# Hz S MA\n1 1 0\n2 nan 90\n3 1 NaN\n", 1);
-    QCOMPARE(result.network.points(), 3);
-    const Parameter &s = result.network.s(1, 1);
-    QCOMPARE(s.real.at(0), 1.0);
-    for (const double gap : {s.real.at(1), s.imag.at(1), s.real.at(2), s.imag.at(2)})
-        QVERIFY(std::isnan(gap));
-}
-
-void TouchstoneTest::refusesText_data()
-{
-    VnaTest::columns<QByteArray, int, int, QString>("text", "ports", "line", "reason");
-    const auto row = [](const char *name, const char *text, int ports, int line,
-                        const char *reason) {
-        VnaTest::row(name, QByteArray(text), ports, line, QString::fromUtf8(reason));
-    };
-    const char *const noNumber = "\"%\" stands where a finite number belongs";
-    const auto word = [&row, noNumber](const char *name, const char *text, int line,
-                                       const char *shown) {
-        row(name, text, 1, line, QByteArray(noNumber).replace('%', shown));
-    };
-    const char *const noResistance = "the reference resistance after R must be a number above zero";
-    const char *const badFrequency = "the frequency must not be below zero nor beyond all bounds";
-    const char *const longPoint = "the point has more than the 9 numbers of a two-port";
-    row("empty", "", 1, 0, "the file holds no data");
-    row("only comments", "! a\n# Hz S RI\n\n", 2, 0, "the file holds no data");
-    row("Z parameters", "! a\n# MHz z MA R 75\n", 1, 2,
-        "the file holds Z parameters, and only S parameters are read");
-    row("Y parameters", "#Hz Y RI\n", 2, 1,
-        "the file holds Y parameters, and only S parameters are read");
-    row("version 2", "!\n[Version] 2.0\n# Hz S RI\n", 1, 2,
-        "\"[Version]\" is a keyword of Touchstone version 2, and only version 1 is read");
-    row("unknown option", "# THz S RI\n", 1, 1, "\"THz\" is no option of a Touchstone file");
-    row("R without a number", "# Hz S RI R\n", 1, 1, noResistance);
-    row("R zero", "# Hz S RI R 0\n", 1, 1, noResistance);
-    row("R NaN", "# Hz S RI R nan\n", 1, 1, noResistance);
-    row("late option line", "1 0 0\n# Hz S RI\n", 1, 2, "the option line comes after data");
-    word("text for a number", "# Hz S RI\n1 0 0\n\n2 abc 0\n", 4, "abc");
-    word("decimal comma", "1 0,5 0\n", 1, "0,5");
-    word("number with a tail", "1 0.5x 0\n", 1, "0.5x");
-    word("two signs", "1 +-5 0\n", 1, "+-5");
-    word("infinite", "1 inf 0\n", 1, "inf");
-    word("too large", "1 1e999 0\n", 1, "1e999");
-    word("binary",
-         "\x7f"
-         "ELF\x02\x01\x01 1 2",
-         1, "?ELF???");
-    word("unending word", "0123456789012345678901234567890123456789x", 1,
-         "012345678901234567890123…");
-    row("unending decibels", "# Hz S DB\n1 99999 0\n", 1, 2, "a value is beyond all bounds");
-    row("negative frequency", "-1 0 0\n", 1, 1, badFrequency);
-    row("frequency NaN", "nan 0 0\n", 1, 1, badFrequency);
-    row("short last line", "1 0 0\n2 0\n!\n", 1, 2, "the last point has 2 of 3 numbers");
-    row("short last line of two ports", "1 0 0 0 0 0 0 0 0\n2 0 0 0 0 0 0\n", 2, 2,
-        "the last point has 7 of 9 numbers");
-    row("short line within", "1 0 0 0 0 0 0 0\n2 0 0 0 0 0 0 0 0\n", 2, 2, longPoint);
-    row("two-port data named .s1p", "1 0 0 0 0 0 0 0 0\n", 1, 1,
-        "the point has more than the 3 numbers of a one-port");
-    row("ten numbers", "1 0 0 0 0 0 0 0 0 0\n", 2, 1, longPoint);
-    row("frequency falls back", "2 0 0\n1 0 0\n", 1, 2, "the frequency falls back");
-    row("frequency of a two-port falls back", "2 0 0 0 0 0 0 0 0\n1 0 0 0 0 0 0 0 0\n", 2, 2,
-        "the frequency falls back");
-    row("noise data of one port", "2 0 0\n1 1 1 1 1\n", 1, 2, "the frequency falls back");
-    row("noise data alone", "1 1 1 1 1\n", 2, 1, "the last point has 5 of 9 numbers");
-    row("line of four in noise data", "2 0 0 0 0 0 0 0 0\n1 1 1 1 1\n2 1 1 1\n", 2, 3,
-        "a line of noise data has 5 numbers, not 4");
-    row("noise data falls back", "2 0 0 0 0 0 0 0 0\n1 1 1 1 1\n.5 1 1 1 1\n", 2, 3,
-        "the frequency falls back in the noise data");
-}
-
-void TouchstoneTest::refusesText()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(int, ports);
-    QFETCH(int, line);
-    QFETCH(QString, reason);
-    const TouchstoneResult result = parseTouchstone(text, ports);
-    QCOMPARE(result.sentence(QStringLiteral("x")),
-             (line ? QStringLiteral("x, line %1: %2.").arg(line).arg(reason)
-                   : QStringLiteral("x: %1.").arg(reason)));
-    QVERIFY(result.network.frequencies.isEmpty());
-}
-
-void TouchstoneTest::refusesFiles_data()
-{
-    VnaTest::columns<QString, QString>("name", "reason");
-    using VnaTest::operator""_s;
-    const QString extension = "the name of a Touchstone file ends in .s1p or .s2p"_s;
-    VnaTest::row("missing", "missing.s1p"_s, "there is no such file"_s);
-    VnaTest::row("folder", "folder.s2p"_s, "this is a folder, not a file"_s);
-    VnaTest::row("three ports", "a.S3P"_s,
-                 "a network of 3 ports, and only one and two ports are read"_s);
-    VnaTest::row("other extension", "a.txt"_s, extension);
-    VnaTest::row("no digits", "a.sxp"_s, extension);
-    VnaTest::row("empty", "a.s2p"_s, "the file holds no data"_s);
-    VnaTest::row("too large", "large.s1p"_s, "the file is larger than 512 MB"_s);
-    VnaTest::row("upper case is no fault", "good.S1P"_s, QString());
-}
-
-void TouchstoneTest::refusesFiles()
-{
-    QFETCH(QString, name);
-    const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder.s2p")));
-    QFile file(folder.filePath(name));
-    if (!name.startsWith(QLatin1String("missing")) && file.open(QIODevice::WriteOnly)) {
-        file.write(name.startsWith(QLatin1String("good")) ? "1 0.5 0\n" : "");
-        if (name.startsWith(QLatin1String("large")))
-            QVERIFY(file.resize(512 * 1024 * 1024 + 1)); // takes no room on disk
-        file.close();
-    }
-    const TouchstoneResult result = readTouchstone(folder.filePath(name));
-    QTEST(result.reason, "reason");
-    QCOMPARE(result.network.name, name);
-    QCOMPARE(result.network.path, folder.filePath(name));
-}
-
-void TouchstoneTest::readsAMillionPoints()
-{
-    constexpr int count = 1000000;
-    QByteArray text = "# Hz S RI\n";
-    text.reserve(count * 16);
-    for (int i = 0; i < count; ++i) {
-        text += QByteArray::number(i);
-        text += i % 2 == 0 ? " 0.25 -0.5\n" : "\t0.125 1e-1\n";
-    }
-    int told = 0;
-    const auto until = [&told](int last) {
-        return [&told, last](int percent) {
-            const bool rises = percent >= told;
-            told = percent;
-            return rises && percent < last;
+    void readsEveryWayToWriteOnePoint()
+    {
+        const struct {
+            const char *name, *text;
+            double ohms = 50.0;
+        } rows[] = {
+            {"no option line", "2.5 0.5 90\n"},
+            {"empty option line", "#\n2.5 0.5 90\n"},
+            {"real and imaginary", "# Hz S RI R 75\n2.5e9 0 0.5\n", 75.0},
+            {"magnitude and angle", "# MHz S MA R 50\n2500 .5 -270\n"},
+            {"decibel", "# kHz S DB R 1\n2500000 -6.0205999132796 90\n", 1.0},
+            {"lower case, other order", "# ri r 376.7 s ghz\n2.5 0 .5\n", 376.7},
+            {"second option line", "# GHz S RI\n# Hz S MA R 9\n2.5 0 0.5\n"},
+            {"option line after a point", "# GHz S RI\n2.5 0 .5\n# kHz Z\n"},
+            {"comments anywhere", "! a\n# GHz S RI ! R 75\n  !b\n2.5 0!c\n! [d]\n0.5 !1 2 3\n!"},
+            {"spread over lines", "# GHz S RI\n2.5\n\n0\n0.5"},
+            {"tabs and blanks", "\t# GHz\tS\tRI \n\t2.5\t0 \t0.5\t \n"},
+            {"CR LF", "# GHz S RI\r\n2.5 0 0.5\r\n"},
+            {"CR", "# GHz S RI\r! x\r2.5 0 0.5\r"},
+            {"Latin-1", "! \xe9t\xe9\n# GHz S RI\n2.5 0 0.5 ! \xb0\n"},
+            {"UTF-8 with its mark", "\xef\xbb\xbf# GHz S RI\n2.5 0 0.5 ! \xc2\xb0\n"},
+            {"Ctrl-Z at the end", "# GHz S RI\n2.5 0 0.5\r\n\x1a"},
+            {"signs and exponents", "# Hz S RI\n+2.5E+009 -1e-400 +5.0e-01\n"},
         };
-    };
-    const TouchstoneResult result = parseTouchstone(text, 1, until(101));
-    QVERIFY2(result.ok(), qPrintable(result.reason));
-    QVERIFY(told > 90);
-    QCOMPARE(result.network.frequencies.size(), count);
-    QCOMPARE(result.network.frequencies.last(), count - 1.0);
-    QCOMPARE(value(result.network, 1, 1, count - 1), std::complex<double>(0.125, 0.1));
-    told = 0;
-    QVERIFY(!parseTouchstone(text, 1, until(20)).ok());
-    QVERIFY(told >= 20 && told < 40);
-}
+        for (const auto &[name, text, ohms] : rows) {
+            const TouchstoneResult result = parseTouchstone(text, 1);
+            QVERIFY2(result.ok(), name);
+            QCOMPARE(result.network.frequencies, QVector<double>{2.5e9});
+            QVERIFY2(std::abs(value(result.network, 1, 1, 0) - std::complex(0.0, 0.5)) < 1e-12,
+                     name);
+            QCOMPARE(result.network.referenceOhms, ohms);
+        }
+    }
 
-void TouchstoneTest::opensMeasuredFiles_data()
-{
-    // How many points, the last frequency in Hz and the largest |S11|, found by other means.
-    VnaTest::columns<QString, QString, int, double, double>("name", "sentence", "points", "stop",
-                                                            "largest");
-    const auto row = [](const char *name, const char *file, int points, double stop,
-                        double largest) {
-        VnaTest::row(name, QString::fromLatin1(file), QString(), points, stop, largest);
-    };
-    row("radiating open", "radiating-open.s1p", 201, 750e9, 0.214861);
-    row("no R, comments between lines", "simulated-oneport.s1p", 401, 750e9, 0.214966);
-    row("ring slot", "ring-slot.s2p", 201, 110e9, 0.856179);
-    row("decibel, MHz", "low-pass-filter.s2p", 2006, 50e9, 0.761650);
-    row("large", "microstrip-line.s2p", 10000, 10e9, 0.442851);
-    row("noise block", "transistor-with-noise.s2p", 37, 2e9, 0.540540);
-    row("Latin-1", "latin1-comments.s2p", 1, 1e9, 1.414214);
-    VnaTest::row(
-        "Z parameters", QStringLiteral("version2-header.s1p"),
-        QStringLiteral("version2-header.s1p, line 2: the file holds Z parameters, and only "
-                       "S parameters are read."),
-        0, 0.0, 0.0);
-}
+    // Two points, of which S<to><from> of the first is <to><from> and of the second ten times that.
+    void readsTwoPorts()
+    {
+        const QByteArray points = "# GHz S RI\n2 11 0 21 0 12 0 22 0\n3 110 0 210 0 120 0 220 0\n";
+        const QByteArray texts[] = {
+            points,
+            "# GHz S RI\n2 11 0 21 0\n12 0 22 0\n3 110 0 210 0\n120 0 220 0\n",
+            // A zero-span sweep; its second point looks like noise data until the next line is
+            // seen.
+            "# GHz S RI\n2 11 0 21 0 12 0 22 0\n2 110 0 210 0\n120 0 220 0\n",
+            // Noise data, also from and at the last frequency.
+            points + "1 1.1 .6 130 .3\n2 1.2 .5 120 .3\n9 1.3 .5 110 .3\n",
+            points + "! noise\n3 1.1 .6 130 .3\n4 1.2 .5 120 .3\n",
+            points + "3 1.1 .6 130 .3",
+        };
+        for (const QByteArray &text : texts) {
+            const Row row(QString::fromUtf8(text));
+            const TouchstoneResult result = parseTouchstone(text, 2);
+            QVERIFY2(result.ok(), qPrintable(result.reason));
+            const double last = text.contains("\n2 110") ? 2e9 : 3e9;
+            QCOMPARE(result.network.frequencies, (QVector<double>{2e9, last}));
+            for (const int port : {11, 21, 12, 22})
+                QCOMPARE(result.network.s(port / 10, port % 10).real,
+                         (QVector<double>{double(port), 10.0 * port}));
+        }
+    }
 
-void TouchstoneTest::opensMeasuredFiles()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, sentence);
-    QFETCH(int, points);
-    QFETCH(double, stop);
-    QFETCH(double, largest);
+    void leavesGaps()
+    {
+        const TouchstoneResult result = parseTouchstone("# Hz S MA\n1 1 0\n2 nan 90\n3 1 NaN\n", 1);
+        QCOMPARE(result.network.points(), 3);
+        const Parameter &s = result.network.s(1, 1);
+        QCOMPARE(s.real.at(0), 1.0);
+        for (const double gap : {s.real.at(1), s.imag.at(1), s.real.at(2), s.imag.at(2)})
+            QVERIFY(std::isnan(gap));
+    }
 
-    const QDir folder(measuredFolder());
-    if (!folder.exists())
-        QSKIP("the folder of measured files is absent (VNA_TOUCHSTONE_DIR can name it)");
-    const TouchstoneResult result = readTouchstone(folder.filePath(name));
-    QCOMPARE(result.ok() ? QString() : result.sentence(name), sentence);
-    QCOMPARE(result.network.frequencies.size(), points);
-    if (points == 0)
-        return;
-    QCOMPARE(result.network.frequencies.last(), stop);
-    double most = 0.0;
-    for (int i = 0; i < points; ++i)
-        most = std::max(most, std::abs(value(result.network, 1, 1, i)));
-    QVERIFY2(std::abs(most - largest) < 1e-6, qPrintable(QString::number(most)));
-}
+    void refusesText_data()
+    {
+        columns<QString, int, int, QString>("text", "ports", "line", "reason");
+        const char *const noNumber = "\"%\" stands where a finite number belongs";
+        const auto word = [noNumber](const char *name, const char *text, int line,
+                                     const char *shown) {
+            row(name, text, 1, line, QString::fromUtf8(QByteArray(noNumber).replace('%', shown)));
+        };
+        const char *const noResistance =
+            "the reference resistance after R must be a number above zero";
+        const char *const badFrequency =
+            "the frequency must not be below zero nor beyond all bounds";
+        const char *const longPoint = "the point has more than the 9 numbers of a two-port";
+        row("empty", "", 1, 0, "the file holds no data");
+        row("Z parameters", "! a\n# MHz z MA R 75\n", 1, 2,
+            "the file holds Z parameters, and only S parameters are read");
+        row("version 2", "!\n[Version] 2.0\n# Hz S RI\n", 1, 2,
+            "\"[Version]\" is a keyword of Touchstone version 2, and only version 1 is read");
+        row("unknown option", "# THz S RI\n", 1, 1, "\"THz\" is no option of a Touchstone file");
+        row("R without a number", "# Hz S RI R\n", 1, 1, noResistance);
+        row("R zero", "# Hz S RI R 0\n", 1, 1, noResistance);
+        row("late option line", "1 0 0\n# Hz S RI\n", 1, 2, "the option line comes after data");
+        word("text for a number", "# Hz S RI\n1 0 0\n\n2 abc 0\n", 4, "abc");
+        word("decimal comma", "1 0,5 0\n", 1, "0,5");
+        word("two signs", "1 +-5 0\n", 1, "+-5");
+        word("infinite", "1 inf 0\n", 1, "inf");
+        word("too large", "1 1e999 0\n", 1, "1e999");
+        word("binary",
+             "\x7f"
+             "ELF\x02\x01\x01 1 2",
+             1, "?ELF???");
+        word("unending word", "0123456789012345678901234567890123456789x", 1,
+             "012345678901234567890123…");
+        row("unending decibels", "# Hz S DB\n1 99999 0\n", 1, 2, "a value is beyond all bounds");
+        row("negative frequency", "-1 0 0\n", 1, 1, badFrequency);
+        row("frequency NaN", "nan 0 0\n", 1, 1, badFrequency);
+        row("short last line", "1 0 0\n2 0\n!\n", 1, 2, "the last point has 2 of 3 numbers");
+        row("short last line of two ports", "1 0 0 0 0 0 0 0 0\n2 0 0 0 0 0 0\n", 2, 2,
+            "the last point has 7 of 9 numbers");
+        row("short line within", "1 0 0 0 0 0 0 0\n2 0 0 0 0 0 0 0 0\n", 2, 2, longPoint);
+        row("two-port data named .s1p", "1 0 0 0 0 0 0 0 0\n", 1, 1,
+            "the point has more than the 3 numbers of a one-port");
+        row("frequency falls back", "2 0 0\n1 0 0\n", 1, 2, "the frequency falls back");
+        row("frequency of a two-port falls back", "2 0 0 0 0 0 0 0 0\n1 0 0 0 0 0 0 0 0\n", 2, 2,
+            "the frequency falls back");
+        row("noise data of one port", "2 0 0\n1 1 1 1 1\n", 1, 2, "the frequency falls back");
+        row("noise data alone", "1 1 1 1 1\n", 2, 1, "the last point has 5 of 9 numbers");
+        row("line of four in noise data", "2 0 0 0 0 0 0 0 0\n1 1 1 1 1\n2 1 1 1\n", 2, 3,
+            "a line of noise data has 5 numbers, not 4");
+        row("noise data falls back", "2 0 0 0 0 0 0 0 0\n1 1 1 1 1\n.5 1 1 1 1\n", 2, 3,
+            "the frequency falls back in the noise data");
+    }
+
+    void refusesText()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, ports);
+        QFETCH(int, line);
+        QFETCH(QString, reason);
+        const TouchstoneResult result = parseTouchstone(text.toUtf8(), ports);
+        QCOMPARE(result.sentence("x"_s),
+                 (line ? "x, line %1: %2."_s.arg(line).arg(reason) : "x: %1."_s.arg(reason)));
+        QVERIFY(result.network.frequencies.isEmpty());
+    }
+
+    // What stands where a file should be is tried with the other readers, in tests/reliability.
+    void refusesNames()
+    {
+        const QTemporaryDir folder;
+        const QString extension = "the name of a Touchstone file ends in .s1p or .s2p"_s;
+        for (const auto &[name, reason] :
+             {std::pair("a.S3P"_s, "a network of 3 ports, and only one and two ports are read"_s),
+              {"a.txt"_s, extension},
+              {"a.sxp"_s, extension},
+              {"good.S1P"_s, QString()}}) {
+            const Row row(name);
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("1 0.5 0\n") > 0);
+            file.close();
+            const TouchstoneResult result = readTouchstone(file.fileName());
+            QCOMPARE(result.reason, reason);
+            QCOMPARE(result.network.name, name);
+            QCOMPARE(result.network.path, file.fileName());
+        }
+    }
+
+    void readsAMillionPoints()
+    {
+        constexpr int count = 1000000;
+        QByteArray text = "# Hz S RI\n";
+        text.reserve(count * 16);
+        for (int i = 0; i < count; ++i) {
+            text += QByteArray::number(i);
+            text += i % 2 == 0 ? " 0.25 -0.5\n" : "\t0.125 1e-1\n";
+        }
+        int told = 0;
+        const auto until = [&told](int last) {
+            return [&told, last](int percent) {
+                const bool rises = percent >= told;
+                told = percent;
+                return rises && percent < last;
+            };
+        };
+        const TouchstoneResult result = parseTouchstone(text, 1, until(101));
+        QVERIFY2(result.ok(), qPrintable(result.reason));
+        QVERIFY(told > 90);
+        QCOMPARE(result.network.frequencies.size(), count);
+        QCOMPARE(result.network.frequencies.last(), count - 1.0);
+        QCOMPARE(value(result.network, 1, 1, count - 1), std::complex<double>(0.125, 0.1));
+        told = 0;
+        QVERIFY(!parseTouchstone(text, 1, until(20)).ok());
+        QVERIFY(told >= 20 && told < 40);
+    }
+
+    void opensMeasuredFiles()
+    {
+        // How many points, the last frequency in Hz and the largest |S11|, found by other means.
+        const struct {
+            QString name;
+            int points;
+            double stop, largest;
+        } rows[] = {
+            {"radiating-open.s1p"_s, 201, 750e9, 0.214861},
+            {"simulated-oneport.s1p"_s, 401, 750e9, 0.214966},
+            {"ring-slot.s2p"_s, 201, 110e9, 0.856179},
+            {"low-pass-filter.s2p"_s, 2006, 50e9, 0.761650},
+            {"microstrip-line.s2p"_s, 10000, 10e9, 0.442851},
+            {"transistor-with-noise.s2p"_s, 37, 2e9, 0.540540},
+            {"latin1-comments.s2p"_s, 1, 1e9, 1.414214},
+        };
+        const QDir folder(measuredFolder());
+        if (!folder.exists())
+            QSKIP("the folder of measured files is absent (VNA_TOUCHSTONE_DIR can name it)");
+        for (const auto &[name, points, stop, largest] : rows) {
+            const Row row(name);
+            const TouchstoneResult result = readTouchstone(folder.filePath(name));
+            QVERIFY2(result.ok(), qPrintable(result.reason));
+            QCOMPARE(result.network.frequencies.size(), points);
+            QCOMPARE(result.network.frequencies.last(), stop);
+            double most = 0.0;
+            for (int i = 0; i < points; ++i)
+                most = std::max(most, std::abs(value(result.network, 1, 1, i)));
+            QVERIFY2(std::abs(most - largest) < 1e-6, qPrintable(QString::number(most)));
+        }
+        QVERIFY(!readTouchstone(folder.filePath("version2-header.s1p"_s)).ok());
+    }
+};
 
 QTEST_GUILESS_MAIN(TouchstoneTest)
 #include "tst_touchstone.moc"

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/placement.h>
 
-#include <QWidget>
-#include <QtTest>
-
 #include <vnatest.h>
 
 using namespace VnaTest;

@@ -2,10 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/roundlabel.h>
 
-#include <QImage>
-#include <QtTest>
-
-#include <tables.h>
 #include <vnatest.h>
 
 using Controls::RoundLabel;
@@ -20,9 +16,7 @@ private Q_SLOTS:
     {
         const QString frequency = "100.123456789GHz"_s;
         const struct {
-            QString text;
-            QString room;
-            QString shown;
+            QString text, room, shown;
         } rows[] = {
             {frequency, frequency, frequency},
             {frequency, "100.123457GHz"_s, "100.123457GHz"_s}, // rounds up

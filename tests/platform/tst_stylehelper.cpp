@@ -2,13 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/stylehelper.h>
 
-#include <QApplication>
-#include <QDir>
-#include <QLabel>
-#include <QTemporaryDir>
-#include <QtTest>
-
-#include <tables.h>
 #include <vnatest.h>
 
 using Utils::StyleHelper;

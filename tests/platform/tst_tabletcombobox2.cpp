@@ -4,14 +4,8 @@
 #include <platform/layoutmanagerprofile.h>
 #include <platform/tabletcombobox2.h>
 
-#include <QPixmap>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QtTest>
-
 #include <memory>
 
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <plot/qcpitemtracermarker.h>
 
-#include <QtTest>
-
 #include <vnatest.h>
 
+using namespace VnaTest;
 using Plot::QCPItemTracerMarker;
 
-class tst_QCPItemTracerMarker : public VnaTest::TestCase
+class tst_QCPItemTracerMarker : public TestCase
 {
     Q_OBJECT
 
@@ -37,51 +36,42 @@ private Q_SLOTS:
         TestCase::cleanup();
     }
 
-    void startsAsAnInvisibleBaseTracer()
-    {
-        QCOMPARE(m_tracer->style(), QCPItemTracer::tsNone);
-        QCOMPARE(m_tracer->shape(), Plot::Equilateral);
-        QVERIFY(m_tracer->isPointingDown());
-    }
-
-    void hitDistance_data()
-    {
-        QTest::addColumn<int>("shape");
-        QTest::addColumn<bool>("down");
-        QTest::addColumn<double>("size");
-        QTest::addColumn<QPointF>("offset"); // from the apex, in pixels
-        QTest::addColumn<double>("distance");
-        const double halfBase = 15 * 0.57735;
-        QTest::newRow("apex") << 1 << true << 15.0 << QPointF(0, 0) << 0.0;
-        QTest::newRow("inside") << 1 << true << 15.0 << QPointF(0, -10) << 0.0;
-        QTest::newRow("on the corner") << 1 << true << 15.0 << QPointF(halfBase - 1e-9, -15) << 0.0;
-        QTest::newRow("8 px beside the apex") << 1 << true << 15.0 << QPointF(8, 0) << 8.0;
-        QTest::newRow("just too far") << 1 << true << 15.0 << QPointF(8.01, 0) << -1.0;
-        QTest::newRow("below, near") << 1 << true << 15.0 << QPointF(0, 5) << 5.0;
-        QTest::newRow("beyond the base") << 1 << true << 15.0 << QPointF(0, -15.5) << -1.0;
-        QTest::newRow("pointing up, inside") << 1 << false << 15.0 << QPointF(0, 14) << 0.0;
-        QTest::newRow("pointing up, above") << 1 << false << 15.0 << QPointF(0, -14) << -1.0;
-        QTest::newRow("narrow misses") << 0 << true << 15.0 << QPointF(6, -14) << -1.0;
-        QTest::newRow("unknown shape is narrow") << 2 << true << 15.0 << QPointF(6, -14) << -1.0;
-        QTest::newRow("narrow hits") << 0 << true << 15.0 << QPointF(3, -14) << 0.0;
-        QTest::newRow("size 0 counts as 1") << 1 << true << 0.0 << QPointF(0, -0.9) << 0.0;
-        QTest::newRow("negative size counts as 1") << 1 << true << -9.0 << QPointF(0, -8) << 8.0;
-    }
-
     void hitDistance()
     {
-        QFETCH(int, shape);
-        QFETCH(bool, down);
-        QFETCH(double, size);
-        QFETCH(QPointF, offset);
-        m_tracer->setShape(static_cast<Plot::TracerShape>(shape));
-        m_tracer->setPointingDown(down);
-        m_tracer->setSize(size);
-        QTEST(m_tracer->selectTest(apex() + offset, false), "distance");
+        const double halfBase = 15 * 0.57735;
+        const struct {
+            int shape;
+            bool down;
+            double size;
+            QPointF offset; ///< from the apex, in pixels
+            double distance;
+        } rows[] = {
+            {1, true, 15.0, {0, 0}, 0.0},
+            {1, true, 15.0, {halfBase - 1e-9, -15}, 0.0}, // on the corner
+            {1, true, 15.0, {8, 0}, 8.0},
+            {1, true, 15.0, {8.01, 0}, -1.0},
+            {1, true, 15.0, {0, 5}, 5.0},
+            {1, true, 15.0, {0, -15.5}, -1.0},
+            {1, false, 15.0, {0, 14}, 0.0},
+            {1, false, 15.0, {0, -14}, -1.0},
+            {0, true, 15.0, {6, -14}, -1.0},
+            {2, true, 15.0, {6, -14}, -1.0}, // an unknown shape is narrow
+            {0, true, 15.0, {3, -14}, 0.0},
+            {1, true, 0.0, {0, -0.9}, 0.0}, // no size counts as 1
+            {1, true, -9.0, {0, -8}, 8.0},
+        };
+        for (const auto &[shape, down, size, offset, distance] : rows) {
+            const Row row("%1 px at %2, %3"_s.arg(size).arg(offset.x()).arg(offset.y()));
+            m_tracer->setShape(static_cast<Plot::TracerShape>(shape));
+            m_tracer->setPointingDown(down);
+            m_tracer->setSize(size);
+            QCOMPARE(m_tracer->selectTest(apex() + offset, false), distance);
+        }
     }
 
     void unselectableIsMissedOnlyWhenAsked()
     {
+        QCOMPARE(m_tracer->style(), QCPItemTracer::tsNone); // draws itself
         m_tracer->setSelectable(false);
         QCOMPARE(m_tracer->selectTest(apex(), true), -1.0);
         QCOMPARE(m_tracer->selectTest(apex(), false), 0.0);

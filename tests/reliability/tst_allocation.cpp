@@ -10,12 +10,9 @@
 
 #include <fuzz/tracejudge.h>
 
-#include <QtTest>
-
 #include <cmath>
 #include <new>
 
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -103,7 +100,7 @@ using Task = std::function<bool()>;
 
 Q_DECLARE_METATYPE(Task)
 
-class tst_Allocation : public VnaTest::TestCase
+class tst_Allocation : public TestCase
 {
     Q_OBJECT
 
@@ -115,12 +112,6 @@ private Q_SLOTS:
         const QVector<int> kept = SmithRender::decimate(trace.real, trace.imag, view()).keptIndices;
         row("decimation", Task([=] {
                 return SmithRender::decimate(trace.real, trace.imag, view()).keptIndices == kept;
-            }));
-        row("trace index", Task([=] {
-                SmithRender::TraceTree tree;
-                tree.setSource(trace.real, trace.imag);
-                return tree.decimate(view()).keptIndices == kept
-                    && tree.nearestIndex(view(), {1.0, 1.0}) >= 0;
             }));
         // One that goes on living after it failed.
         const auto tree = std::make_shared<SmithRender::TraceTree>();

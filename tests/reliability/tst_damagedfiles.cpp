@@ -6,16 +6,12 @@
 #include <panel/touchstone.h>
 #include <platform/stylehelper.h>
 
-#include <QApplication>
-#include <QTemporaryDir>
-#include <QtTest>
-
 #include <atomic>
+#include <functional>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -49,80 +45,56 @@ QString readSheet(const QString &path)
 }
 
 /// Nobody is kept from any file as the superuser: give up that right for a while.
-class Unprivileged
-{
-public:
-    Unprivileged()
-        : m_user(geteuid())
-    {
-        if (m_user == 0)
-            m_done = seteuid(65534) == 0;
-    }
-    ~Unprivileged()
-    {
-        if (m_done)
-            m_done = seteuid(m_user) != 0;
-    }
-
-private:
-    Q_DISABLE_COPY(Unprivileged)
-    uid_t m_user;
-    bool m_done = false;
+struct Unprivileged {
+    bool given = seteuid(65534) == 0;
+    ~Unprivileged() { given = seteuid(getuid()) != 0; }
 };
 
 } // namespace
 
-class tst_DamagedFiles : public VnaTest::TestCase
+class tst_DamagedFiles : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void notAFile_data()
-    {
-        columns<QString>("reason");
-        row("sound", "");
-        row("missing", "there is no such file");
-        row("folder", "this is a folder, not a file");
-        row("pipe", "this is no ordinary file");
-        row("locked", "the file cannot be read (Permission denied)");
-        row("empty", "the file holds no data");
-        row("100 MB of nothing",
-            "\"????????????????????????\u2026\" stands where a finite number belongs");
-        row("more than anyone needs", "the file is larger than 512 MB");
-    }
-
     void notAFile()
     {
-        QFETCH(QString, reason);
-        const QString row = QString::fromLatin1(QTest::currentDataTag());
-        const QTemporaryDir folder;
-        QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)));
-        const QString names[] = {folder.filePath("a.s1p"_s), folder.filePath("a.ini"_s),
-                                 folder.filePath("a.css"_s)};
-        const QByteArray texts[] = {s_network, s_settings, s_sheet};
-        for (int i = 0; i < 3; ++i) {
-            const QString &name = names[i];
-            if (row == "folder"_s) {
-                QVERIFY(QDir().mkdir(name));
-            } else if (row == "pipe"_s) {
-                QVERIFY(mkfifo(qPrintable(name), 0666) == 0);
-            } else if (row != "missing"_s) {
-                QVERIFY(write(name, row == "sound"_s || row == "locked"_s ? texts[i] : ""));
-                if (row.startsWith("100"_s))
-                    QVERIFY(QFile::resize(name, 100 * 1000 * 1000));
-                if (row.startsWith("more"_s))
-                    QVERIFY(QFile::resize(name, 512 * 1024 * 1024 + 1));
-                if (row == "locked"_s)
-                    QVERIFY(QFile::setPermissions(name, {}));
-            }
-        }
-        {
+        using Make = std::function<bool(const QString &name, const QByteArray &text)>;
+        const auto sized = [](qint64 size) {
+            return [size](const QString &name, const QByteArray &) {
+                return write(name, {}) && QFile::resize(name, size);
+            };
+        };
+        const std::pair<QString, Make> rows[] = {
+            {QString(),
+             [](const QString &name, const QByteArray &text) { return write(name, text); }},
+            {"there is no such file"_s, [](auto &&...) { return true; }},
+            {"this is a folder, not a file"_s,
+             [](const QString &name, auto &&) { return QDir().mkdir(name); }},
+            {"this is no ordinary file"_s,
+             [](const QString &name, auto &&) { return mkfifo(qPrintable(name), 0666) == 0; }},
+            {"the file cannot be read (Permission denied)"_s,
+             [](const QString &name, const QByteArray &text) {
+                 return write(name, text) && QFile::setPermissions(name, {});
+             }},
+            {"the file holds no data"_s, sized(0)},
+            {"\"????????????????????????\u2026\" stands where a finite number belongs"_s,
+             sized(100 * 1000 * 1000)},
+            {"the file is larger than 512 MB"_s, sized(512 * 1024 * 1024 + 1)},
+        };
+        for (const auto &[reason, make] : rows) {
+            const QTemporaryDir folder;
+            QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)));
+            const QString network = folder.filePath("a.s1p"_s);
+            const QString settings = folder.filePath("a.ini"_s);
+            const QString sheet = folder.filePath("a.css"_s);
+            QVERIFY(make(network, s_network) && make(settings, s_settings) && make(sheet, s_sheet));
             const Unprivileged user;
-            const Panel::TouchstoneResult network = Panel::readTouchstone(names[0]);
-            QCOMPARE(network.reason, reason);
-            QCOMPARE(network.network.points(), reason.isEmpty() ? 2 : 0);
-            QCOMPARE(readPalette(names[1]).size(), reason.isEmpty() ? 2 : 0);
-            QCOMPARE(readSheet(names[2]), reason.isEmpty() ? QLatin1String(s_sheet) : ""_s);
+            const Panel::TouchstoneResult result = Panel::readTouchstone(network);
+            QCOMPARE(result.reason, reason);
+            QCOMPARE(result.network.points(), reason.isEmpty() ? 2 : 0);
+            QCOMPARE(readPalette(settings).size(), reason.isEmpty() ? 2 : 0);
+            QCOMPARE(readSheet(sheet), reason.isEmpty() ? QLatin1String(s_sheet) : ""_s);
         }
         Utils::StyleHelper::setThemes({});
     }

@@ -18,19 +18,12 @@
 
 #include <fuzz/census.h>
 
-#include <QDialog>
-#include <QDoubleValidator>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QtTest>
-
 #include <algorithm>
 #include <memory>
 #include <numeric>
 #include <vector>
 
 #include <popupscene.h>
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace Controls;
@@ -60,8 +53,9 @@ struct Scene {
         return qobject_cast<T *>(parts[i].data());
     }
     /// An occasion that is a signal of part \a i.
-    template<typename T, typename Signal>
-    void signal(const char *name, std::size_t i, Signal told, const std::function<void()> &happen)
+    template<typename T, typename... Values>
+    void signal(const char *name, std::size_t i, void (T::*told)(Values...),
+                const std::function<void()> &happen)
     {
         occasions.push_back({name, happen, [this, i, told](const std::function<void()> &slot) {
                                  QObject::connect(part<T>(i), told, slot);
@@ -91,27 +85,6 @@ struct MarkerOwner : QObject {
     Plot::Marker marker;
 };
 
-void useChart(const Scene &s)
-{
-    if (auto *const plot = s.part<QCustomPlot>(1)) {
-        QResizeEvent resize(plot->size(), {});
-        QCoreApplication::sendEvent(plot, &resize);
-        plot->replot();
-    }
-    if (auto *const chart = s.part<SmithChartPlot>(2)) {
-        chart->setCurveData(1, {}, {0.1, 0.2, 0.3}, {0.1, 0.2, 0.3});
-        chart->setMarkerIndex(1, 1, 1.5);
-        chart->setGridMode(SmithChartPlot::ImpedanceAndAdmittance);
-        chart->zoomAt({0.1, 0.1}, 1.5);
-    }
-    if (s.parts[3]) {
-        auto &marker = static_cast<MarkerOwner *>(s.parts[3].data())->marker;
-        marker.setVisible(true);
-        marker.setColors(QPen(Qt::red), Qt::NoBrush);
-        marker.setPositionCoordinates(static_cast<QCPCurve *>(nullptr), 0.1, 0.1);
-    }
-}
-
 void makeChart(Scene &s)
 {
     auto *const window = new QWidget;
@@ -130,75 +103,71 @@ void makeChart(Scene &s)
     plot->replot();
     s.parts = {window, plot, chart, owner};
 
-    s.use = [&s] { useChart(s); };
-    const auto call = [&s](auto function) {
-        return [&s, function] {
-            if (auto *const alive = s.part<SmithChartPlot>(2))
-                function(*alive);
-        };
+    s.use = [&s] {
+        if (auto *const itsPlot = s.part<QCustomPlot>(1)) {
+            QResizeEvent resize(itsPlot->size(), {});
+            QCoreApplication::sendEvent(itsPlot, &resize);
+            itsPlot->replot();
+        }
+        if (auto *const itsChart = s.part<SmithChartPlot>(2)) {
+            itsChart->setCurveData(1, {}, {0.1, 0.2, 0.3}, {0.1, 0.2, 0.3});
+            itsChart->setMarkerIndex(1, 1, 1.5);
+            itsChart->setGridMode(SmithChartPlot::ImpedanceAndAdmittance);
+            itsChart->zoomAt({0.1, 0.1}, 1.5);
+            itsChart->clearMarkerSelection();
+            itsChart->setMarkerVisible(1, 1, true);
+            itsChart->addCurve(3, QPen());
+        }
+        if (s.parts[3]) {
+            auto &marker = static_cast<MarkerOwner *>(s.parts[3].data())->marker;
+            marker.setVisible(true);
+            marker.setColors(QPen(Qt::red), Qt::NoBrush);
+            marker.setPositionCoordinates(static_cast<QCPCurve *>(nullptr), 0.1, 0.1);
+        }
     };
     using Chart = SmithChartPlot;
+    using Act = std::function<void(Chart &)>;
+    const auto call = [&s](const Act &act) { return [&s, act] { act(*s.part<Chart>(2)); }; };
+    const auto on = [&s, call](const char *name, auto signal, const Act &act) {
+        s.signal(name, 2, signal, call(act));
+    };
     const auto pixel = [](Chart &c) {
         return c.getMarker(1, 1)->getTracer()->position->pixelPosition().toPoint();
     };
     const auto drag = [pixel](Chart &c) { c.beginMarkerDragAt(pixel(c)); };
-    s.signal<Chart>("selected", 2, &Chart::markerSelected,
-                    call([](Chart &c) { c.selectMarker(1, 1); }));
-    s.signal<Chart>("selection cleared", 2, &Chart::markerSelectionCleared, call([](Chart &c) {
-                        c.selectMarker(1, 1);
-                        c.removeCurve(1);
-                    }));
-    s.signal<Chart>("selection requested", 2, &Chart::markerSelectionRequested, call(drag));
-    s.signal<Chart>("drag started", 2, &Chart::markerDragStarted, call(drag));
-    s.signal<Chart>("dragged", 2, &Chart::markerPositionChanged, call([=](Chart &c) {
-                        drag(c);
-                        c.updateMarkerDragAt({20, 20});
-                    }));
-    s.signal<Chart>("dropped", 2, &Chart::markerDragFinished, call([=](Chart &c) {
-                        drag(c);
-                        c.endMarkerDragAt({20, 20});
-                    }));
-    s.signal<Chart>("double clicked", 2, &Chart::activeTraceDoubleClicked,
-                    call([=](Chart &c) { c.handleDoubleClick(pixel(c), Qt::NoModifier); }));
+    on("selected", &Chart::markerSelected, [](Chart &c) { c.selectMarker(1, 1); });
+    on("selection cleared", &Chart::markerSelectionCleared, [](Chart &c) {
+        c.selectMarker(1, 1);
+        c.removeCurve(1);
+    });
+    on("selection requested", &Chart::markerSelectionRequested, drag);
+    on("drag started", &Chart::markerDragStarted, drag);
+    on("dragged", &Chart::markerPositionChanged, [=](Chart &c) {
+        drag(c);
+        c.updateMarkerDragAt({20, 20});
+    });
+    on("dropped", &Chart::markerDragFinished, [=](Chart &c) {
+        drag(c);
+        c.endMarkerDragAt({20, 20});
+    });
+    on("delete key", &Chart::markerDeleteRequested, [&s](Chart &c) {
+        c.selectMarker(1, 1);
+        sendKey(s.parts[1], Qt::Key_Delete);
+    });
+    on("double clicked", &Chart::activeTraceDoubleClicked,
+       [=](Chart &c) { c.handleDoubleClick(pixel(c), Qt::NoModifier); });
     for (const int count : {1, 2}) { // of the replots that it asks for
-        s.occasions.push_back({"replot",
-                               call([](Chart &c) { c.setCurveData(1, {}, {0.2}, {0.2}); }),
-                               [&s, count](const std::function<void()> &slot) {
-                                   s.part<Chart>(2)->setQueuedReplotHandler(
-                                       [slot, left = std::make_shared<int>(count)] {
-                                           if (--*left == 0)
-                                               slot();
-                                       });
-                               }});
-        s.occasions.push_back({"replot of a grid",
-                               call([](Chart &c) { c.setGridMode(Chart::Admittance); }),
-                               s.occasions.back().listen});
-        s.occasions.push_back({"replot of no curves", call([](Chart &c) { c.clearAllCurves(); }),
-                               s.occasions.back().listen});
+        const auto listen = [&s, count](const std::function<void()> &slot) {
+            s.part<Chart>(2)->setQueuedReplotHandler([slot, left = std::make_shared<int>(count)] {
+                if (--*left == 0)
+                    slot();
+            });
+        };
+        for (const Act &act : {Act([](Chart &c) { c.setCurveData(1, {}, {0.2}, {0.2}); }),
+                               Act([](Chart &c) { c.setGridMode(Chart::Admittance); }),
+                               Act([](Chart &c) { c.clearAllCurves(); })})
+            s.occasions.push_back({"replot", call(act), listen});
     }
-}
-
-void useEntry(const Scene &s)
-{
-    if (auto *const adapter = s.part<BaseUnitAdapter>(1)) {
-        adapter->setProperty("inputText", "3"_s);
-        sendKey(adapter, Qt::Key_Up);
-        sendKey(adapter, Qt::Key_Return);
-    }
-    if (auto *const stepper = s.part<StepController>(2))
-        stepper->stepBy(1.0, 1);
-    if (auto *const keypad = s.part<TouchNumKeyboard>(3)) {
-        keypad->setIndicatorText("1"_s, 0, 1, 1);
-        if (auto *const key = keypad->findChild<QPushButton *>("btn1"_s))
-            key->click();
-    }
-    if (auto *const field = s.part<EditableWidget>(4)) {
-        field->onFocus();
-        field->setEditorText("4GHz"_s, 0, 1, 1);
-        field->overrideKeyboardFocusProxy(field);
-        field->restoreKeyboardFocusProxy();
-    }
-    QCoreApplication::processEvents();
 }
 
 void makeEntry(Scene &s)
@@ -218,7 +187,27 @@ void makeEntry(Scene &s)
     field->onFocus();
     s.parts = {window, adapter, stepper, keypad, field};
 
-    s.use = [&s] { useEntry(s); };
+    s.use = [&s] {
+        if (auto *const itsAdapter = s.part<BaseUnitAdapter>(1)) {
+            itsAdapter->setProperty("inputText", "3"_s);
+            sendKey(itsAdapter, Qt::Key_Up);
+            sendKey(itsAdapter, Qt::Key_Return);
+        }
+        if (auto *const itsStepper = s.part<StepController>(2))
+            itsStepper->stepBy(1.0, 1);
+        if (auto *const itsKeypad = s.part<TouchNumKeyboard>(3)) {
+            itsKeypad->setIndicatorText("1"_s, 0, 1, 1);
+            if (auto *const key = itsKeypad->findChild<QPushButton *>("btn1"_s))
+                key->click();
+        }
+        if (auto *const itsField = s.part<EditableWidget>(4)) {
+            itsField->onFocus();
+            itsField->setEditorText("4GHz"_s, 0, 1, 1);
+            itsField->overrideKeyboardFocusProxy(itsField);
+            itsField->restoreKeyboardFocusProxy();
+        }
+        QCoreApplication::processEvents();
+    };
     const auto type = [&s](std::size_t i, Qt::Key key) {
         return [&s, i, key] {
             QObject *receiver = s.parts[i];
@@ -229,37 +218,20 @@ void makeEntry(Scene &s)
     };
     using Adapter = BaseUnitAdapter;
     for (const std::size_t receiver : {1u, 4u}) {
-        s.signal<Adapter>("finished", 1, &Adapter::editingFinished, type(receiver, Qt::Key_Return));
-        s.signal<Adapter>("cancelled", 1, &Adapter::specialKeyHandled,
-                          type(receiver, Qt::Key_Escape));
-        s.signal<Adapter>("point", 1, &Adapter::specialKeyHandled, type(receiver, Qt::Key_Period));
-        s.signal<Adapter>("step wanted", 1, &Adapter::stepBy, type(receiver, Qt::Key_Up));
-        s.signal<StepController>("stepped", 2, &StepController::stepped,
-                                 type(receiver, Qt::Key_Down));
+        s.signal("finished", 1, &Adapter::editingFinished, type(receiver, Qt::Key_Return));
+        s.signal("cancelled", 1, &Adapter::specialKeyHandled, type(receiver, Qt::Key_Escape));
+        s.signal("point", 1, &Adapter::specialKeyHandled, type(receiver, Qt::Key_Period));
+        s.signal("step wanted", 1, &Adapter::stepBy, type(receiver, Qt::Key_Up));
+        s.signal("stepped", 2, &StepController::stepped, type(receiver, Qt::Key_Down));
     }
-    s.signal<Adapter>("stepped and told", 1, &Adapter::editingFinished, type(1, Qt::Key_Up));
-    s.signal<Adapter>("cursor in the unit", 1, &Adapter::cursorPosCrossUnit, [&s] {
+    s.signal("stepped and told", 1, &Adapter::editingFinished, type(1, Qt::Key_Up));
+    s.signal("cursor in the unit", 1, &Adapter::cursorPosCrossUnit, [&s] {
         s.parts[1]->setProperty("inputText", "2GHz"_s);
         s.parts[1]->setProperty("cursorPos", 3);
     });
     // A line edit tells of its cursor from inside its own setText(), and must outlive that.
     s.occasions.back().onlyLater = true;
-    s.signal<QDialog>("keypad closed", 3, &QDialog::finished,
-                      [&s] { s.part<QDialog>(3)->reject(); });
-}
-
-void useOverlay(const Scene &s)
-{
-    if (auto *const host = s.part<QWidget>(0))
-        host->resize(host->width() + 1, 300);
-    if (auto *const overlay = s.part<OverlayContainer>(2)) {
-        overlay->setDimEnabled(false);
-        if (auto *const dialog = s.part<QDialog>(3))
-            overlay->showWithDialog(dialog, OverlayContainer::Accept, true,
-                                    OverlayContainer::LeftOfAnchor, s.part<QWidget>(1));
-        if (auto *const host = s.part<QWidget>(0))
-            overlay->attachToHost(host);
-    }
+    s.signal("keypad closed", 3, &QDialog::finished, [&s] { s.part<QDialog>(3)->reject(); });
 }
 
 void makeOverlay(Scene &s)
@@ -276,28 +248,22 @@ void makeOverlay(Scene &s)
     overlay->showWithDialog(dialog, OverlayContainer::Reject, true, OverlayContainer::LeftOfAnchor,
                             anchor);
     s.parts = {host, anchor, overlay, dialog};
-    s.use = [&s] { useOverlay(s); };
-    s.signal<OverlayContainer>("outside", 2, &OverlayContainer::outsideClicked, [&s] {
-        press(s.part<QWidget>(2), {1, 1});
-    });
-    s.signal<QDialog>("rejected", 3, &QDialog::rejected, [&s] {
-        press(s.part<QWidget>(2), {1, 1});
-    });
-}
-
-void useLock(const Scene &s)
-{
-    if (auto *const lock = s.part<LockWidget>(2)) {
-        sendKey(lock, Qt::Key_Space);
-        lock->setScreenLockEnable(true);
-    }
-    for (const std::size_t i : {0u, 1u}) {
-        if (auto *const widget = s.part<QWidget>(i)) {
-            press(widget, {5, 5});
-            widget->resize(widget->width() + 1, 200);
+    s.use = [&s] {
+        if (auto *const itsHost = s.part<QWidget>(0))
+            itsHost->resize(itsHost->width() + 1, 300);
+        if (auto *const itsOverlay = s.part<OverlayContainer>(2)) {
+            itsOverlay->setDimEnabled(false);
+            if (auto *const itsDialog = s.part<QDialog>(3))
+                itsOverlay->showWithDialog(itsDialog, OverlayContainer::Accept, true,
+                                           OverlayContainer::LeftOfAnchor, s.part<QWidget>(1));
+            if (auto *const itsHost = s.part<QWidget>(0))
+                itsOverlay->attachToHost(itsHost);
         }
-    }
-    QCoreApplication::processEvents();
+    };
+    s.signal("outside", 2, &OverlayContainer::outsideClicked, [&s] {
+        press(s.part<QWidget>(2), {1, 1});
+    });
+    s.signal("rejected", 3, &QDialog::rejected, [&s] { press(s.part<QWidget>(2), {1, 1}); });
 }
 
 void makeLock(Scene &s)
@@ -311,19 +277,19 @@ void makeLock(Scene &s)
     lock->setScreenLockEnable(true);
     QCoreApplication::processEvents();
     s.parts = {window, target, lock};
-    s.use = [&s] { useLock(s); };
-}
-
-/// A list that the host opens from a button of its own.
-void usePopup(const Scene &s)
-{
-    if (auto *const popup = s.part<PopupWidget>(2)) {
-        popup->addItem("c"_s);
-        popup->setCurrentItem("b"_s);
-        popup->popup();
-        popup->show();
-        popup->close();
-    }
+    s.use = [&s] {
+        if (auto *const itsLock = s.part<LockWidget>(2)) {
+            sendKey(itsLock, Qt::Key_Space);
+            itsLock->setScreenLockEnable(true);
+        }
+        for (const std::size_t i : {0u, 1u}) {
+            if (auto *const widget = s.part<QWidget>(i)) {
+                press(widget, {5, 5});
+                widget->resize(widget->width() + 1, 200);
+            }
+        }
+        QCoreApplication::processEvents();
+    };
 }
 
 void makePopup(Scene &s)
@@ -336,12 +302,22 @@ void makePopup(Scene &s)
     popup->popup();
     popup->show();
     s.parts = {window, button, popup};
-    s.use = [&s] { usePopup(s); };
-    s.signal<PopupWidget>("picked", 2, &PopupWidget::currentItemChanged, [&s] {
-        clickItem(s.part<PopupWidget>(2)->findChild<QListWidget *>(), 1);
+    s.use = [&s] {
+        if (auto *const itsPopup = s.part<PopupWidget>(2)) {
+            itsPopup->addItem("c"_s);
+            itsPopup->setCurrentItem("b"_s);
+            itsPopup->popup();
+            itsPopup->show();
+            itsPopup->close();
+        }
+    };
+    s.signal("picked", 2, &PopupWidget::currentItemChanged,
+             [&s] { clickItem(s.part<PopupWidget>(2)->findChild<QListWidget *>(), 1); });
+    s.signal("picked by key", 2, &PopupWidget::currentItemChanged, [&s] {
+        s.part<PopupWidget>(2)->findChild<QListWidget *>()->setCurrentRow(1);
+        typeKey(s.part<PopupWidget>(2), Qt::Key_Return);
     });
-    s.signal<PopupWidget>("closed", 2, &PopupWidget::widgetClosed,
-                          [&s] { s.part<PopupWidget>(2)->close(); });
+    s.signal("closed", 2, &PopupWidget::widgetClosed, [&s] { s.part<PopupWidget>(2)->close(); });
 }
 
 /// A button that has a list of its own.
@@ -373,29 +349,27 @@ Button *makeListButton(Scene &s)
     return button;
 }
 
+/// Opens the list of a button and taps a row that is not chosen.
+void pickFromList(const Scene &s)
+{
+    s.part<QAbstractButton>(1)->click();
+    clickItem(s.parts[1]->findChild<QListWidget *>(), 1);
+}
+
 void makeEnumButton(Scene &s)
 {
     makeListButton<EnumTextButton>(s)->setEnums({{1, "a"_s}, {2, "b"_s}});
-    const auto choose = [&s] { s.part<EnumTextButton>(1)->onPopupWidgetItemChanged("b"_s); };
-    s.signal<EnumTextButton>("toggled", 1, &EnumTextButton::currentItemToggled, choose);
-    s.signal<EnumTextButton>("edited", 1, &EnumTextButton::currentItemEdited, choose);
+    const auto pick = [&s] { pickFromList(s); };
+    s.signal("toggled", 1, &EnumTextButton::currentItemToggled, pick);
+    s.signal("edited", 1, &EnumTextButton::currentItemEdited, pick);
 }
 
 void makeMenuButton(Scene &s)
 {
     makeListButton<MenuButton>(s)->setMenuItems({{1, "a"_s}, {2, "b"_s}});
-    s.signal<MenuButton>("clicked", 1, QOverload<int>::of(&MenuButton::menuItemClicked),
-                         [&s] { s.part<MenuButton>(1)->onPopupWidgetItemChanged("b"_s); });
-}
-
-void useDisplayPanel(const Scene &s)
-{
-    if (auto *const profile = s.part<Graph::LayoutManagerProifle>(1))
-        profile->setLayoutType(Graph::LayoutType::Quad);
-    if (auto *const panel = s.part<DisplayPanel>(2)) {
-        panel->updateThemeIcons(false);
-        panel->findChild<QComboBox *>()->setCurrentIndex(1);
-    }
+    const auto pick = [&s] { pickFromList(s); };
+    s.signal("clicked", 1, qOverload<int>(&MenuButton::menuItemClicked), pick);
+    s.signal("text", 1, qOverload<const QString &>(&MenuButton::menuItemClicked), pick);
 }
 
 void makeDisplayPanel(Scene &s)
@@ -404,13 +378,21 @@ void makeDisplayPanel(Scene &s)
     auto *const profile = new Graph::LayoutManagerProifle;
     auto *const panel = new DisplayPanel(profile, window);
     s.parts = {window, profile, panel};
-    s.use = [&s] { useDisplayPanel(s); };
+    s.use = [&s] {
+        if (auto *const itsProfile = s.part<Graph::LayoutManagerProifle>(1))
+            itsProfile->setLayoutType(Graph::LayoutType::Quad);
+        if (auto *const itsPanel = s.part<DisplayPanel>(2)) {
+            itsPanel->updateThemeIcons(false);
+            QEvent language(QEvent::LanguageChange);
+            QCoreApplication::sendEvent(itsPanel, &language);
+            itsPanel->findChild<QComboBox *>()->setCurrentIndex(1);
+        }
+    };
     const auto change = [&s] {
         s.part<Graph::LayoutManagerProifle>(1)->setLayoutType(Graph::LayoutType::Stacked);
     };
-    s.signal<DisplayPanel>("changed", 2, &DisplayPanel::layoutChanged, change);
-    s.signal<Graph::LayoutManagerProifle>("profile changed", 1,
-                                          &Graph::LayoutManagerProifle::layoutTypeChanged, change);
+    s.signal("changed", 2, &DisplayPanel::layoutChanged, change);
+    s.signal("profile changed", 1, &Graph::LayoutManagerProifle::layoutTypeChanged, change);
 }
 
 using Make = void (*)(Scene &);
@@ -419,7 +401,7 @@ using Make = void (*)(Scene &);
 
 Q_DECLARE_METATYPE(Make)
 
-class tst_Teardown : public VnaTest::TestCase
+class tst_Teardown : public TestCase
 {
     Q_OBJECT
 
@@ -481,9 +463,8 @@ private Q_SLOTS:
                         std::any_of(scene.parts.begin(), scene.parts.end(),
                                     [](const QPointer<QObject> &part) { return !part.isNull(); });
                     if (left || QTest::currentTestFailed()) {
-                        QFAIL(qPrintable(QStringLiteral("occasion %1, order %2, %3")
-                                             .arg(occasion)
-                                             .arg(text(order), later ? "later"_s : "now"_s)));
+                        QFAIL(qPrintable("occasion %1, order %2, %3"_s.arg(occasion).arg(
+                            text(order), later ? "later"_s : "now"_s)));
                     }
                 }
             } while (std::next_permutation(order.begin(), order.end()));

@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QPointer>
-#include <QTouchEvent>
-#include <QWidget>
-#include <QWindow>
 #include <QtTest>
+#include <QtWidgets>
 
 /*! Mouse, touch and keys on shown widgets, sent through their window as the platform would;
    positions are in the widget. */
@@ -80,11 +77,11 @@ inline void typeKey(const QWidget *widget, Qt::Key key, const QString &text = QS
 }
 
 /// Press at \a from, some moves, release at \a to, both in the window's coordinates.
-inline void mouseDrag(QWindow *window, const QPoint &from, const QPoint &to)
+inline void mouseDrag(QWindow *window, const QPoint &from, const QPoint &to, int steps = 3)
 {
     QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
-    for (int step = 1; step <= 3; ++step)
-        QTest::mouseMove(window, from + (to - from) * step / 3);
+    for (int step = 1; step <= steps; ++step)
+        QTest::mouseMove(window, from + (to - from) * step / steps);
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, to);
 }
 

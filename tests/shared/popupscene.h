@@ -4,8 +4,6 @@
 
 #include <widgets/popupwidget.h>
 
-#include <QListWidget>
-
 #include "pointer.h"
 
 namespace VnaTest

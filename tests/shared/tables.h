@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <type_traits>
 
@@ -39,6 +39,18 @@ void row(const char *name, const Values &...values)
             data << value;
     };
     (add(values), ...);
+}
+
+/// Writes each emission of a signal into a log: its name, and the values that it tells.
+template<typename Sender, typename Class, typename... Values>
+void note(QStringList &log, const char *name, const Sender *sender,
+          void (Class::*signal)(Values...))
+{
+    QObject::connect(sender, signal, sender, [&log, name](const std::decay_t<Values> &...values) {
+        QString line = QString::fromUtf8(name);
+        (line.append(QLatin1Char(' ') + QVariant::fromValue(values).toString()), ...);
+        log << line;
+    });
 }
 
 } // namespace VnaTest

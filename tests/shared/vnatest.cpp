@@ -4,10 +4,6 @@
 
 #include <fuzz/census.h>
 
-#include <QElapsedTimer>
-#include <QStringList>
-#include <QtTest>
-
 #include <memory>
 
 namespace VnaTest

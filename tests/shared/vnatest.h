@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+/*! \file
+    What every test starts from: the headers of Qt, short forms of tables, and the base of the
+    test classes. */
 #pragma once
 
-#include <QObject>
-#include <QString>
+#include "tables.h"
 
 namespace VnaTest
 {

@@ -6,8 +6,7 @@
 
 #include <fuzz/tracejudge.h>
 
-#include <QPointF>
-#include <QVector>
+#include <QtTest>
 
 #include <cmath>
 #include <limits>
@@ -36,6 +35,16 @@ enum Kind {
     Offset,
     KindCount
 };
+
+/// A row for each kind, in a column "kind".
+inline void addKinds()
+{
+    QTest::addColumn<int>("kind");
+    const char *names[] = {"smooth",   "noisy",   "aliased", "steps", "repeated",
+                           "straight", "lattice", "huge",    "tiny",  "offset"};
+    for (int kind = 0; kind < KindCount; ++kind)
+        QTest::newRow(names[kind]) << kind;
+}
 
 using Random = std::mt19937;
 

@@ -4,13 +4,12 @@
 
 #include <smithchart/decimation.h>
 
-#include <QtTest>
-
 #include <vnatest.h>
 
 #include <functional>
 #include <set>
 
+using namespace VnaTest;
 using namespace SmithRender;
 using namespace TraceSamples;
 
@@ -125,7 +124,7 @@ Trace line(int count)
 
 } // namespace
 
-class tst_Decimation : public VnaTest::TestCase
+class tst_Decimation : public TestCase
 {
     Q_OBJECT
 
@@ -151,50 +150,43 @@ private Q_SLOTS:
         QVERIFY(undefined != Viewport(undefined));
     }
 
-    void usableViewports_data()
-    {
-        QTest::addColumn<std::function<void(Viewport &)>>("change");
-        QTest::addColumn<bool>("usable");
-        using Change = std::function<void(Viewport &)>;
-        const auto row = [](const char *name, bool usable, const Change &change) {
-            QTest::newRow(name) << change << usable;
-        };
-        row("plain", true, [](Viewport &) {});
-        row("no tolerance", true, [](Viewport &v) { v.tolerancePx = 0.0; });
-        row("before the first layout", false, [](Viewport &v) { v.width = 0; });
-        row("no height", false, [](Viewport &v) { v.height = 0; });
-        row("NaN range", false, [](Viewport &v) { v.xMin = notANumber; });
-        row("infinite range", false, [](Viewport &v) { v.yMax = infinity; });
-        row("empty range", false, [](Viewport &v) { v.xMax = v.xMin; });
-        row("reversed range", false, [](Viewport &v) { v.yMax = v.yMin - 1.0; });
-        row("span overflows", false, [](Viewport &v) { v.xMin = -1.5e308, v.xMax = 1.5e308; });
-        row("ratio below 1", false, [](Viewport &v) { v.devicePixelRatio = 0.99; });
-        row("infinite ratio", false, [](Viewport &v) { v.devicePixelRatio = infinity; });
-        row("negative tolerance", false, [](Viewport &v) { v.tolerancePx = -0.1; });
-        row("NaN tolerance", false, [](Viewport &v) { v.tolerancePx = notANumber; });
-    }
-
     void usableViewports()
     {
-        QFETCH(std::function<void(Viewport &)>, change);
-        QFETCH(bool, usable);
-        Viewport viewport = plainView();
-        change(viewport);
-        QCOMPARE(viewport.isUsable(), usable);
-
+        const std::pair<bool, std::function<void(Viewport &)>> rows[] = {
+            {true, [](Viewport &) {}},
+            {true, [](Viewport &v) { v.tolerancePx = 0.0; }},
+            {false, [](Viewport &v) { v.width = 0; }}, // before the first layout
+            {false, [](Viewport &v) { v.height = 0; }},
+            {false, [](Viewport &v) { v.xMin = notANumber; }},
+            {false, [](Viewport &v) { v.yMax = infinity; }},
+            {false, [](Viewport &v) { v.xMax = v.xMin; }},
+            {false, [](Viewport &v) { v.yMax = v.yMin - 1.0; }},
+            {false, [](Viewport &v) { v.xMin = -1.5e308, v.xMax = 1.5e308; }}, // the span overflows
+            {false, [](Viewport &v) { v.devicePixelRatio = 0.99; }},
+            {false, [](Viewport &v) { v.devicePixelRatio = infinity; }},
+            {false, [](Viewport &v) { v.tolerancePx = -0.1; }},
+            {false, [](Viewport &v) { v.tolerancePx = notANumber; }},
+        };
         const Trace trace = line(1000);
-        const DecimationResult result = decimate(trace.real, trace.imag, viewport);
-        QCOMPARE(result.passedThrough, !usable);
-        QCOMPARE(result.keptIndices.size() == 1000, !usable);
-        QCOMPARE(nearestIndex(trace.real, trace.imag, viewport, {50.0, 75.0}), usable ? 0 : -1);
+        for (const auto &[usable, change] : rows) {
+            Viewport viewport = plainView();
+            change(viewport);
+            QString text;
+            QDebug(&text) << viewport;
+            const Row row(text);
+            QCOMPARE(viewport.isUsable(), usable);
+            const DecimationResult result = decimate(trace.real, trace.imag, viewport);
+            QCOMPARE(result.passedThrough, !usable);
+            QCOMPARE(result.keptIndices.size() == 1000, !usable);
+            QCOMPARE(nearestIndex(trace.real, trace.imag, viewport, {50.0, 75.0}), usable ? 0 : -1);
+        }
     }
 
-    void shortTracesPassThrough()
+    void someTracesPassThrough()
     {
         const auto keptOf = [](int count, int width, double ratio) {
-            const Trace trace = line(count);
-            return decimate(trace.real, trace.imag,
-                            squareViewport(0.0, 0.0, 1.0, width, 100, ratio));
+            const Trace of = line(count);
+            return decimate(of.real, of.imag, squareViewport(0.0, 0.0, 1.0, width, 100, ratio));
         };
         QVERIFY(keptOf(256, 100, 1.0).passedThrough);
         QVERIFY(keptOf(257, 100, 1.0).decimated);
@@ -203,6 +195,13 @@ private Q_SLOTS:
         QCOMPARE(result.keptIndices, (QVector<int>{0, 400}));
         QVERIFY(result.decimated && !result.passedThrough);
         QVERIFY(decimate({}, {1.0}, plainView()).keptIndices.isEmpty());
+
+        // And what cannot be projected.
+        Trace trace = line(1000);
+        trace.real[500] = 1e308;
+        const DecimationResult wild = decimate(trace.real, trace.imag, plainView());
+        QVERIFY(wild.passedThrough && !wild.decimated);
+        QCOMPARE(wild.keptIndices.size(), 1000);
     }
 
     void keepsWhatStandsOut()
@@ -227,23 +226,7 @@ private Q_SLOTS:
                  (QVector<int>{0, 500, 999}));
     }
 
-    void whatCannotBeProjectedPassesThrough()
-    {
-        Trace trace = line(1000);
-        trace.real[500] = 1e308;
-        const DecimationResult result = decimate(trace.real, trace.imag, plainView());
-        QVERIFY(result.passedThrough && !result.decimated);
-        QCOMPARE(result.keptIndices.size(), 1000);
-    }
-
-    void agreesWithTheTextbook_data()
-    {
-        QTest::addColumn<int>("kind");
-        const char *names[] = {"smooth",   "noisy",   "aliased", "steps", "repeated",
-                               "straight", "lattice", "huge",    "tiny",  "offset"};
-        for (int kind = 0; kind < KindCount; ++kind)
-            QTest::newRow(names[kind]) << kind;
-    }
+    void agreesWithTheTextbook_data() { addKinds(); }
 
     void agreesWithTheTextbook()
     {
@@ -311,8 +294,6 @@ private Q_SLOTS:
         QVERIFY(decimate(trace.real, trace.imag, plainView()).keptIndices.size() > 100);
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(SmithRender::Viewport &)>)
 
 QTEST_APPLESS_MAIN(tst_Decimation)
 #include "tst_decimation.moc"

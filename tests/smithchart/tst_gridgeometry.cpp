@@ -4,41 +4,33 @@
 #include <smithchart/preset.h>
 #include <smithchart/smithchartplot.h>
 
-#include <QtTest>
-
 #include <vnatest.h>
 
 #include <cmath>
 #include <complex>
 
+using namespace VnaTest;
 using namespace SmithChart;
 
-class tst_GridGeometry : public VnaTest::TestCase
+class tst_GridGeometry : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void presets_data()
-    {
-        QTest::addColumn<int>("preset");
-        QTest::addColumn<int>("resistances");
-        QTest::addColumn<int>("reactances");
-        QTest::newRow("basic") << int(Basic) << 4 << 6;
-        QTest::newRow("standard") << int(Standard) << 6 << 10;
-        QTest::newRow("detailed") << int(Detailed) << 8 << 14;
-        QTest::newRow("below the range") << -1 << 0 << 0;
-        QTest::newRow("above the range") << 3 << 0 << 0;
-    }
-
     void presets()
     {
-        QFETCH(int, preset);
-        const GridValues values = gridValues(static_cast<Preset>(preset));
-        QTEST(int(values.resistances.size()), "resistances");
-        QTEST(int(values.reactances.size()), "reactances");
-        QVERIFY(std::is_sorted(values.resistances.cbegin(), values.resistances.cend()));
-        for (const double x : values.reactances)
-            QVERIFY2(values.reactances.contains(-x), "each magnitude comes with both signs");
+        struct Expected {
+            int preset, resistances, reactances;
+        };
+        for (const auto &[preset, resistances, reactances] :
+             {Expected{Basic, 4, 6}, {Standard, 6, 10}, {Detailed, 8, 14}, {-1, 0, 0}, {3, 0, 0}}) {
+            const GridValues values = gridValues(static_cast<Preset>(preset));
+            QCOMPARE(int(values.resistances.size()), resistances);
+            QCOMPARE(int(values.reactances.size()), reactances);
+            QVERIFY(std::is_sorted(values.resistances.cbegin(), values.resistances.cend()));
+            for (const double x : values.reactances)
+                QVERIFY2(values.reactances.contains(-x), "each magnitude comes with both signs");
+        }
     }
 
     // Every drawn point must have the resistance or reactance that its circle stands for.
@@ -95,9 +87,7 @@ private Q_SLOTS:
     void labels()
     {
         const Grid grid = gridGeometry({0, 0.5}, {-0.2, 10}, 36);
-        QCOMPARE(grid.impedance.labels.text,
-                 (QVector<QString>{QStringLiteral("0"), QStringLiteral("0.5"),
-                                   QStringLiteral("-0.2"), QStringLiteral("10")}));
+        QCOMPARE(grid.impedance.labels.text, (QVector<QString>{"0"_s, "0.5"_s, "-0.2"_s, "10"_s}));
         QCOMPARE(grid.impedance.labels.x.at(1), -1.0 / 3.0);
         QCOMPARE(grid.impedance.labels.y.at(1), -0.03);
         QCOMPARE(grid.admittance.labels.x.at(1), 1.0 / 3.0);
@@ -113,23 +103,13 @@ private Q_SLOTS:
         QCOMPARE(grid.realAxisX, (QVector<double>{-1.0, 1.0}));
     }
 
-    void labelAlignments_data()
-    {
-        QTest::addColumn<double>("x");
-        QTest::addColumn<double>("y");
-        QTest::addColumn<int>("alignment");
-        QTest::newRow("real axis") << 0.8 << -0.03 << 36;
-        QTest::newRow("top") << 0.0 << 1.0 << (4 | 192);
-        QTest::newRow("bottom left") << -0.6 << -0.8 << (6 | 160);
-        QTest::newRow("right, middle") << 0.99 << 0.1 << (5 | 128);
-        QTest::newRow("centre") << 0.1 << -0.1 << 132;
-    }
-
     void labelAlignments()
     {
-        QFETCH(double, x);
-        QFETCH(double, y);
-        QTEST(int(labelAlignment(x, y)), "alignment");
+        QCOMPARE(int(labelAlignment(0.8, -0.03)), 36); // real axis
+        QCOMPARE(int(labelAlignment(0.0, 1.0)), 4 | 192); // top
+        QCOMPARE(int(labelAlignment(-0.6, -0.8)), 6 | 160); // bottom left
+        QCOMPARE(int(labelAlignment(0.99, 0.1)), 5 | 128); // right, middle
+        QCOMPARE(int(labelAlignment(0.1, -0.1)), 132); // centre
     }
 
     /// The same grid, handed out as lists of numbers in place of whatever they held.

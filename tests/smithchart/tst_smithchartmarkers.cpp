@@ -3,15 +3,16 @@
 // Markers and the pointer, with real events on a shown plot.
 #include <smithchart/smithchartplot.h>
 
-#include <QtTest>
-
 #include <vnatest.h>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <memory>
 
-class tst_SmithChartMarkers : public VnaTest::TestCase
+using namespace VnaTest;
+
+class tst_SmithChartMarkers : public TestCase
 {
     Q_OBJECT
 
@@ -43,27 +44,14 @@ private Q_SLOTS:
         m_chart->setActiveTrace(1);
         QCoreApplication::processEvents();
 
-        const auto log = [this](const char *what) {
-            return [this, what](int trace, int local, double index = -1.0) {
-                m_log << QStringLiteral("%1 %2.%3").arg(QLatin1String(what)).arg(trace).arg(local)
-                        + (index < 0 ? QString() : QStringLiteral(" %1").arg(index));
-            };
-        };
-        SmithChartPlot *const chart = m_chart.get();
-        connect(chart, &SmithChartPlot::markerSelectionRequested, chart,
-                [f = log("request")](int t, int l) { f(t, l); });
-        connect(chart, &SmithChartPlot::markerDragStarted, chart,
-                [f = log("start")](int t, int l) { f(t, l); });
-        connect(chart, &SmithChartPlot::markerPositionChanged, chart,
-                [f = log("move")](int t, int l, double i) { f(t, l, i); });
-        connect(chart, &SmithChartPlot::markerDragFinished, chart,
-                [f = log("finish")](int t, int l, double i) { f(t, l, i); });
-        connect(chart, &SmithChartPlot::markerSelected, chart,
-                [f = log("selected")](int t, int l) { f(t, l); });
-        connect(chart, &SmithChartPlot::markerSelectionCleared, chart,
-                [this] { m_log << QStringLiteral("cleared"); });
-        connect(chart, &SmithChartPlot::markerDeleteRequested, chart,
-                [f = log("delete")](int t, int l) { f(t, l); });
+        using Chart = SmithChartPlot;
+        note(m_log, "request", m_chart.get(), &Chart::markerSelectionRequested);
+        note(m_log, "start", m_chart.get(), &Chart::markerDragStarted);
+        note(m_log, "move", m_chart.get(), &Chart::markerPositionChanged);
+        note(m_log, "finish", m_chart.get(), &Chart::markerDragFinished);
+        note(m_log, "selected", m_chart.get(), &Chart::markerSelected);
+        note(m_log, "cleared", m_chart.get(), &Chart::markerSelectionCleared);
+        note(m_log, "delete", m_chart.get(), &Chart::markerDeleteRequested);
     }
 
     void cleanup()
@@ -102,8 +90,8 @@ private Q_SLOTS:
         box->setBrush(Qt::white);
         box->topLeft->setCoords(-2.0, 2.0);
         box->bottomRight->setCoords(2.0, -2.0);
-        box->setLayer(QStringLiteral("markers"));
-        const QPoint apex = dataPixel(m_real[5], m_imag[5]).toPoint();
+        box->setLayer("markers"_s);
+        const QPoint apex = pointPixel(5).toPoint();
         QVERIFY(m_chart->beginMarkerDragAt(apex + QPoint(0, -3)));
         m_chart->endMarkerDragAt(apex);
         QVERIFY(!m_chart->beginMarkerDragAt(apex + QPoint(0, 60)));
@@ -111,11 +99,11 @@ private Q_SLOTS:
 
     void tellsTheLogWhatNewDataCosts()
     {
-        QLoggingCategory::setFilterRules(QStringLiteral("vna.smith.render.performance.debug=true"));
-        QTest::ignoreMessage(QtDebugMsg,
-                             QRegularExpression(QStringLiteral(
-                                 "^trace 2: 3 points, 3 displayed, setCurveData .* ms, decimation "
-                                 ".* ms$")));
+        QLoggingCategory::setFilterRules("vna.smith.render.performance.debug=true"_s);
+        QTest::ignoreMessage(
+            QtDebugMsg,
+            QRegularExpression("^trace 2: 3 points, 3 displayed, setCurveData .* ms, decimation "
+                               ".* ms$"_s));
         m_chart->setCurveData(2, {}, {0.1, 0.2, 0.3}, {0.1, 0.2, 0.3});
         m_chart->setCurveData(2, {}, {0.1}, {0.1}); // too soon for another line
         QLoggingCategory::setFilterRules(QString());
@@ -132,11 +120,11 @@ private Q_SLOTS:
         QCOMPARE(at.x(), m_real[2] + (m_real[3] - m_real[2]) * 0.5);
         QCOMPARE(at.y(), m_imag[2] + (m_imag[3] - m_imag[2]) * 0.5);
         QCOMPARE(marker->getId(), 101);
-        QCOMPARE(marker->getLabel()->text(), QStringLiteral("1"));
+        QCOMPARE(marker->getLabel()->text(), "1"_s);
         QCOMPARE(marker->getTracer()->pen().color(), QColor(Qt::red));
         QCOMPARE(marker->getTracer()->pen().widthF(), 1.5);
-        QVERIFY(m_chart->setMarkerLabelText(1, 1, QStringLiteral("R")));
-        QCOMPARE(marker->getLabel()->text(), QStringLiteral("R"));
+        QVERIFY(m_chart->setMarkerLabelText(1, 1, "R"_s));
+        QCOMPARE(marker->getLabel()->text(), "R"_s);
 
         // Outside the data: kept hidden until it is placed and shown.
         QVERIFY(m_chart->addMarkerVisual(1, 2, 11.0, Plot::PointingUp));
@@ -155,24 +143,20 @@ private Q_SLOTS:
         QCOMPARE(m_plot->itemCount(), items);
     }
 
-    void moving()
+    void movingAndNewData()
     {
         m_chart->addMarkerVisual(1, 1, 0.0, Plot::PointingDown);
         QVERIFY(!m_chart->setMarkerIndex(1, 9, 0.0));
-        QVERIFY(!m_chart->setMarkerIndex(1, 1, 11.0));
-        QVERIFY(!m_chart->setMarkerIndex(1, 1, -0.1));
-        QVERIFY(!m_chart->setMarkerIndex(1, 1, qQNaN()));
+        for (const double outside : {11.0, -0.1, qQNaN()})
+            QVERIFY(!m_chart->setMarkerIndex(1, 1, outside));
         QVERIFY(m_chart->setMarkerIndex(1, 1, 10.0));
         m_imag[4] = qQNaN();
         m_chart->setCurveData(1, m_stimulus, m_real, m_imag);
         const QPointF before = positionOf(1, 1);
         QVERIFY(!m_chart->setMarkerIndex(1, 1, 3.5)); // into a gap
         QCOMPARE(positionOf(1, 1), before);
-    }
 
-    void dataChange()
-    {
-        m_chart->addMarkerVisual(1, 1, 2.0, Plot::PointingDown);
+        QVERIFY(m_chart->setMarkerIndex(1, 1, 2.0));
         m_chart->addMarkerVisual(1, 2, 9.0, Plot::PointingDown);
         const QPointF far = positionOf(1, 2);
         m_chart->setCurveData(1, {}, {0.0, 0.1, 0.2}, {0.0, 0.0, 0.3});
@@ -225,12 +209,10 @@ private Q_SLOTS:
         m_chart->clearMarkerSelection();
         m_chart->clearMarkerSelection();
         QVERIFY(!m_chart->getSelectedMarker(trace, local));
-        QCOMPARE(m_log, lines("selected 1.1|selected 2.1|cleared"));
-    }
+        QCOMPARE(m_log, lines("selected 1 1|selected 2 1|cleared"));
 
-    void aNewPenRecoloursTheMarkers()
-    {
-        m_chart->addMarkerVisual(1, 1, 2.0, Plot::PointingDown);
+        // A new pen recolours the markers.
+        m_chart->setCurveVisible(1, true);
         m_chart->addMarkerVisual(1, 2, 4.0, Plot::PointingDown);
         m_chart->selectMarker(1, 2);
         m_chart->setCurvePen(1, QPen(QColor(0, 100, 0)));
@@ -256,7 +238,7 @@ private Q_SLOTS:
         m_chart->clearAllMarkers(); // without a word
         QCOMPARE(m_plot->itemCount(), items);
         QVERIFY(!m_chart->hasVisibleMarkers());
-        QCOMPARE(m_log, lines("selected 1.2|cleared|selected 2.1|cleared|selected 1.1"));
+        QCOMPARE(m_log, lines("selected 1 2|cleared|selected 2 1|cleared|selected 1 1"));
     }
 
     void dragWithTheMouse()
@@ -266,13 +248,13 @@ private Q_SLOTS:
                 &SmithChartPlot::setMarkerIndex);
         press(pixelOf(1, 1) - QPointF(0, 8));
         QVERIFY(m_chart->isDraggingMarker());
-        move(dataPixel(m_real[7], m_imag[7]));
+        move(pointPixel(7));
         QCOMPARE(positionOf(1, 1), QPointF(m_real[7], m_imag[7]));
         move(dataPixel(0.9, 0.05)); // far off the trace: the nearest point counts
         release(dataPixel(0.9, 0.05));
         QVERIFY(!m_chart->isDraggingMarker());
-        move(dataPixel(m_real[3], m_imag[3]));
-        QCOMPARE(m_log, lines("request 1.1|start 1.1|move 1.1 7|move 1.1 0|finish 1.1 0"));
+        move(pointPixel(3));
+        QCOMPARE(m_log, lines("request 1 1|start 1 1|move 1 1 7|move 1 1 0|finish 1 1 0"));
     }
 
     void dragByTheHostsOwnInput()
@@ -281,10 +263,10 @@ private Q_SLOTS:
         QVERIFY(!m_chart->beginMarkerDragAt(QPoint(5, 5)));
         m_chart->updateMarkerDragAt(QPoint(5, 5)); // no drag: nothing
         QVERIFY(m_chart->beginMarkerDragAt(pixelOf(1, 1).toPoint()));
-        m_chart->updateMarkerDragAt(dataPixel(m_real[2], m_imag[2]).toPoint());
+        m_chart->updateMarkerDragAt(pointPixel(2).toPoint());
         m_chart->endMarkerDragAt(QPoint());
         // The host did not move it, so it finishes where it was.
-        QCOMPARE(m_log, lines("request 1.1|start 1.1|move 1.1 2|finish 1.1 5"));
+        QCOMPARE(m_log, lines("request 1 1|start 1 1|move 1 1 2|finish 1 1 5"));
     }
 
     void dragsOfOtherTracesAreConfined()
@@ -297,50 +279,51 @@ private Q_SLOTS:
             release(dataPixel(m_negReal[7], m_negImag[7]));
             return m_log;
         };
-        QCOMPARE(drag(), lines("request 2.1|start 2.1"));
+        QCOMPARE(drag(), lines("request 2 1|start 2 1"));
         QVERIFY(!m_chart->isDraggingMarker());
         m_chart->setOnlyHandleActiveTrace(false);
-        QCOMPARE(drag(), lines("request 2.1|start 2.1|move 2.1 7|finish 2.1 5"));
+        QCOMPARE(drag(), lines("request 2 1|start 2 1|move 2 1 7|finish 2 1 5"));
     }
 
     void whatAPressCatches()
     {
         m_chart->addMarkerVisual(1, 1, 5.0, Plot::PointingDown);
         m_chart->addMarkerVisual(1, 2, 5.0, Plot::PointingDown); // the same place: the earlier wins
-        press(pixelOf(1, 1) + QPointF(0, 4));
-        release({});
-        QCOMPARE(m_log.value(0), QStringLiteral("request 1.1"));
+        const auto tap = [this](QPointF pos, Qt::MouseButton button = Qt::LeftButton) {
+            press(pos, button);
+            release({}, button);
+        };
+        tap(pixelOf(1, 1) + QPointF(0, 4));
+        QCOMPARE(m_log.value(0), "request 1 1"_s);
         m_log.clear();
-        press(pixelOf(1, 1), Qt::RightButton);
-        release({}, Qt::RightButton);
-        press(pixelOf(1, 1) + QPointF(0, 30));
-        release({});
+        tap(pixelOf(1, 1), Qt::RightButton);
+        tap(pixelOf(1, 1) + QPointF(0, 30));
         m_chart->setMarkerVisible(1, 1, false);
         m_chart->setMarkerVisible(1, 2, false);
-        press(pixelOf(1, 1));
-        release({});
+        tap(pixelOf(1, 1));
         m_chart->setMarkerVisible(1, 1, true);
         m_chart->setCurveVisible(1, false);
-        press(pixelOf(1, 1));
-        release({});
+        tap(pixelOf(1, 1));
         m_chart->addMarkerVisual(2, 0, 5.0, Plot::PointingDown); // number 0 is none
-        press(pixelOf(2, 0));
-        release({});
+        tap(pixelOf(2, 0));
         QVERIFY2(m_log.isEmpty(), qPrintable(m_log.join(QLatin1Char('|'))));
     }
 
     void hitTolerance()
     {
         QCOMPARE(m_chart->markerHitTolerancePx(), 18.0);
-        m_chart->setMarkerHitTolerancePx(30.4);
-        QCOMPARE(m_plot->selectionTolerance(), 30);
-        m_chart->setMarkerHitTolerancePx(-4);
-        QCOMPARE(m_chart->markerHitTolerancePx(), 0.0);
-        m_chart->setMarkerHitTolerancePx(qQNaN());
-        QCOMPARE(m_chart->markerHitTolerancePx(), 0.0);
-        m_chart->setMarkerHitTolerancePx(1e300);
-        QCOMPARE(m_chart->markerHitTolerancePx(), 1e300);
-        QCOMPARE(m_plot->selectionTolerance(), std::numeric_limits<int>::max());
+        struct Tolerance {
+            double set, kept;
+            int plot;
+        };
+        for (const auto &[set, kept, plot] : {Tolerance{30.4, 30.4, 30},
+                                              {-4.0, 0.0, 0},
+                                              {qQNaN(), 0.0, 0},
+                                              {1e300, 1e300, std::numeric_limits<int>::max()}}) {
+            m_chart->setMarkerHitTolerancePx(set);
+            QCOMPARE(m_chart->markerHitTolerancePx(), kept);
+            QCOMPARE(m_plot->selectionTolerance(), plot);
+        }
     }
 
     void deleteKey()
@@ -354,7 +337,7 @@ private Q_SLOTS:
             QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
             QCOMPARE(m_chart->eventFilter(m_plot.get(), &event), key != Qt::Key_A);
         }
-        QCOMPARE(m_log, lines("delete 1.7|delete 1.7"));
+        QCOMPARE(m_log, lines("delete 1 7|delete 1 7"));
         QVERIFY(m_chart->getMarker(1, 7));
     }
 
@@ -363,7 +346,7 @@ private Q_SLOTS:
         QSignalSpy active(m_chart.get(), &SmithChartPlot::activeTraceDoubleClicked);
         QSignalSpy any(m_chart.get(), &SmithChartPlot::pointDoubleClicked);
         const QPointF outward(M_SQRT1_2, -M_SQRT1_2); // point 5 lies at 45 degrees
-        const QPoint on5 = dataPixel(m_real[5], m_imag[5]).toPoint();
+        const QPoint on5 = pointPixel(5).toPoint();
         QVERIFY(m_chart->handleDoubleClick(on5 + (outward * 14).toPoint(), Qt::ShiftModifier));
         QCOMPARE(active.count(), 1);
         QCOMPARE(active.at(0).at(0).toInt(), 1);
@@ -388,79 +371,53 @@ private Q_SLOTS:
         QCOMPARE(active.count(), 1);
     }
 
-    // A host may answer any of the signals by taking away what the signal is about, or the chart
-    // itself.
-    void hostTakesThingsAwayInsideASignal_data()
-    {
-        QTest::addColumn<int>("what");
-        QTest::newRow("the marker") << 0;
-        QTest::newRow("the trace") << 1;
-        QTest::newRow("all traces") << 2;
-        QTest::newRow("the chart") << 3;
-    }
-
+    // A host may answer any of the signals by taking away what the signal is about.
     void hostTakesThingsAwayInsideASignal()
     {
-        QFETCH(int, what);
-        const auto takeAway = [this, what] {
-            switch (what) {
-            case 0:
-                m_chart->removeMarkerVisual(1, 1);
-                break;
-            case 1:
-                m_chart->removeCurve(1);
-                break;
-            case 2:
-                m_chart->clearAllCurves();
-                break;
-            default:
-                m_chart.reset();
-            }
+        const std::function<void()> takeAways[] = {
+            [this] { m_chart->removeMarkerVisual(1, 1); },
+            [this] { m_chart->removeCurve(1); },
+            [this] { m_chart->clearAllCurves(); },
         };
-        const auto fresh = [this] {
-            m_chart = std::make_unique<SmithChartPlot>(m_plot.get(), SmithChart::Basic);
-            m_chart->addCurve(1, QPen(Qt::red));
-            m_chart->setCurveData(1, m_stimulus, m_real, m_imag);
-            m_chart->setActiveTrace(1);
-            m_chart->addMarkerVisual(1, 1, 5.0, Plot::PointingDown);
-        };
-        const auto dragOnce = [this] {
+        const auto drag = [this] {
             const QPointF start = pixelOf(1, 1);
             press(start);
             move(start + QPointF(20, 20));
             release(start);
+            QVERIFY(!m_chart->isDraggingMarker());
         };
-
-        fresh();
-        connect(m_chart.get(), &SmithChartPlot::markerSelectionRequested, this, takeAway);
-        dragOnce();
-        QVERIFY(!m_chart || !m_chart->isDraggingMarker());
-
-        fresh();
-        connect(m_chart.get(), &SmithChartPlot::markerPositionChanged, this, takeAway);
-        dragOnce();
-
-        fresh();
-        connect(m_chart.get(), &SmithChartPlot::markerDragFinished, this, takeAway);
-        dragOnce();
-
-        fresh();
-        connect(m_chart.get(), &SmithChartPlot::markerSelected, this, takeAway);
-        m_chart->selectMarker(1, 1);
-
-        fresh();
-        m_chart->selectMarker(1, 1);
-        connect(m_chart.get(), &SmithChartPlot::markerSelectionCleared, this, takeAway);
-        m_chart->removeCurve(1);
-
-        fresh();
-        m_chart->selectMarker(1, 1);
-        connect(m_chart.get(), &SmithChartPlot::markerDeleteRequested, this, takeAway);
-        QTest::sendKeyEvent(QTest::Click, m_plot.get(), Qt::Key_Delete, QString(), Qt::NoModifier);
-
-        fresh();
-        connect(m_chart.get(), &SmithChartPlot::activeTraceDoubleClicked, this, takeAway);
-        QVERIFY(m_chart->handleDoubleClick(pixelOf(1, 1).toPoint(), Qt::NoModifier));
+        const auto select = [this] { m_chart->selectMarker(1, 1); };
+        for (const auto &takeAway : takeAways) {
+            const auto meanwhile = [this, takeAway](auto signal, const auto &happen,
+                                                    const std::function<void()> &before = {}) {
+                m_chart = std::make_unique<SmithChartPlot>(m_plot.get(), SmithChart::Basic);
+                m_chart->addCurve(1, QPen(Qt::red));
+                m_chart->setCurveData(1, m_stimulus, m_real, m_imag);
+                m_chart->setActiveTrace(1);
+                m_chart->addMarkerVisual(1, 1, 5.0, Plot::PointingDown);
+                if (before)
+                    before();
+                connect(m_chart.get(), signal, this, takeAway);
+                happen();
+            };
+            using Chart = SmithChartPlot;
+            meanwhile(&Chart::markerSelectionRequested, drag);
+            meanwhile(&Chart::markerPositionChanged, drag);
+            meanwhile(&Chart::markerDragFinished, drag);
+            meanwhile(&Chart::markerSelected, select);
+            meanwhile(
+                &Chart::markerSelectionCleared, [this] { m_chart->removeCurve(1); }, select);
+            meanwhile(
+                &Chart::markerDeleteRequested,
+                [this] {
+                    QTest::sendKeyEvent(QTest::Click, m_plot.get(), Qt::Key_Delete, QString(),
+                                        Qt::NoModifier);
+                },
+                select);
+            meanwhile(&Chart::activeTraceDoubleClicked, [this] {
+                QVERIFY(m_chart->handleDoubleClick(pixelOf(1, 1).toPoint(), Qt::NoModifier));
+            });
+        }
     }
 
     void plotOrCurveGoneDuringADrag()
@@ -469,35 +426,31 @@ private Q_SLOTS:
         const QPointF start = pixelOf(1, 1);
         press(start);
         m_plot->removePlottable(m_chart->getCurve(1));
-        m_plot->removeLayer(m_plot->layer(QStringLiteral("tracers")));
+        m_plot->removeLayer(m_plot->layer("tracers"_s));
         move(start + QPointF(10, 0));
-        QCOMPARE(m_log, lines("request 1.1|start 1.1"));
+        QCOMPARE(m_log, lines("request 1 1|start 1 1"));
         m_plot.reset();
         m_chart->updateMarkerDragAt(start.toPoint());
         m_chart->endMarkerDragAt(start.toPoint());
     }
 
-    void hidingThePlotEndsTheDrag()
+    void hidingThePlotEndsTheDragOnce()
     {
         m_chart->addMarkerVisual(1, 1, 5.0, Plot::PointingDown);
         press(pixelOf(1, 1));
         m_plot->hide();
         QVERIFY(!m_chart->isDraggingMarker());
-        QCOMPARE(m_log.last(), QStringLiteral("finish 1.1 5"));
-    }
+        QCOMPARE(m_log.last(), "finish 1 1 5"_s);
 
-    void hidingThePlotAtTheEndOfADragEndsItOnce()
-    {
-        m_chart->addMarkerVisual(1, 1, 5.0, Plot::PointingDown);
+        // Also from inside the end of a drag, and the next one ends as any other.
         connect(m_chart.get(), &SmithChartPlot::markerDragFinished, m_plot.get(), &QWidget::hide);
-        QVERIFY(m_chart->beginMarkerDragAt(pixelOf(1, 1).toPoint()));
-        m_chart->endMarkerDragAt({});
-        QCOMPARE(m_log, lines("request 1.1|start 1.1|finish 1.1 5"));
-        m_plot->show(); // and the next drag ends as any other
-        m_log.clear();
-        QVERIFY(m_chart->beginMarkerDragAt(pixelOf(1, 1).toPoint()));
-        m_chart->endMarkerDragAt({});
-        QCOMPARE(m_log, lines("request 1.1|start 1.1|finish 1.1 5"));
+        for (int round = 0; round < 2; ++round) {
+            m_plot->show();
+            m_log.clear();
+            QVERIFY(m_chart->beginMarkerDragAt(pixelOf(1, 1).toPoint()));
+            m_chart->endMarkerDragAt({});
+            QCOMPARE(m_log, lines("request 1 1|start 1 1|finish 1 1 5"));
+        }
     }
 
 private:
@@ -509,6 +462,8 @@ private:
     {
         return {m_plot->xAxis->coordToPixel(x), m_plot->yAxis->coordToPixel(y)};
     }
+    /// Where a point of trace 1 lies.
+    QPointF pointPixel(int index) const { return dataPixel(m_real[index], m_imag[index]); }
     QPointF positionOf(int trace, int local) const
     {
         return m_chart->getMarker(trace, local)->getTracer()->position->coords();

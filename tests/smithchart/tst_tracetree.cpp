@@ -6,13 +6,13 @@
 
 #include <fuzz/tracejudge.h>
 
-#include <QtTest>
-
 #include <vnatest.h>
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
+using namespace VnaTest;
 using namespace SmithRender;
 using namespace TraceSamples;
 using TraceJudge::Judge;
@@ -40,9 +40,26 @@ void compare(TraceTree &tree, const Trace &trace, const Viewport &viewport, Disa
     }
 }
 
+TraceTree treeOf(const Trace &trace)
+{
+    TraceTree tree;
+    tree.setSource(trace.real, trace.imag);
+    return tree;
+}
+
+/// The tree keeps and finds the same points as the plain routines.
+void compareAt(TraceTree &tree, const Trace &trace, const Viewport &viewport,
+               const QPointF &pointer = {30.0, 40.0})
+{
+    QCOMPARE(tree.decimate(viewport).keptIndices,
+             decimate(trace.real, trace.imag, viewport).keptIndices);
+    QCOMPARE(tree.nearestIndex(viewport, pointer),
+             nearestIndex(trace.real, trace.imag, viewport, pointer));
+}
+
 } // namespace
 
-class tst_TraceTree : public VnaTest::TestCase
+class tst_TraceTree : public TestCase
 {
     Q_OBJECT
 
@@ -125,14 +142,7 @@ private Q_SLOTS:
         }
     }
 
-    void keepsWhatThePlainRoutineKeeps_data()
-    {
-        QTest::addColumn<int>("kind");
-        const char *names[] = {"smooth",   "noisy",   "aliased", "steps", "repeated",
-                               "straight", "lattice", "huge",    "tiny",  "offset"};
-        for (int kind = 0; kind < KindCount; ++kind)
-            QTest::newRow(names[kind]) << kind;
-    }
+    void keepsWhatThePlainRoutineKeeps_data() { addKinds(); }
 
     void theJudgeFindsFaults()
     {
@@ -167,8 +177,7 @@ private Q_SLOTS:
                                              : uniformInt(random, 260, 600));
             if (round % 3 == 0)
                 punchGaps(random, trace, round % 2 ? 0.3 : 0.002);
-            TraceTree tree;
-            tree.setSource(trace.real, trace.imag);
+            TraceTree tree = treeOf(trace);
             for (int view = 0; view < 3; ++view) {
                 Viewport viewport = randomViewport(random);
                 viewport.width = std::min(viewport.width, 128);
@@ -210,14 +219,9 @@ private Q_SLOTS:
                     continue;
                 Trace trace = spiral(count, 0.01, 0.005);
                 trace.imag[hole] = notANumber;
-                TraceTree tree;
-                tree.setSource(trace.real, trace.imag);
-                QCOMPARE(tree.decimate(viewport).keptIndices,
-                         decimate(trace.real, trace.imag, viewport).keptIndices);
-                for (int x = 0; x < 100; x += 7) {
-                    QCOMPARE(tree.nearestIndex(viewport, {x + 0.5, 40.0}),
-                             nearestIndex(trace.real, trace.imag, viewport, {x + 0.5, 40.0}));
-                }
+                TraceTree tree = treeOf(trace);
+                for (int x = 0; x < 100; x += 7)
+                    compareAt(tree, trace, viewport, {x + 0.5, 40.0});
             }
         }
     }
@@ -227,12 +231,10 @@ private Q_SLOTS:
     {
         Random random(3);
         const Trace trace = spiral(50000, 0.001, 1e-3);
-        TraceTree wandering;
-        wandering.setSource(trace.real, trace.imag);
+        TraceTree wandering = treeOf(trace);
         for (int round = 0; round < 30; ++round) {
             const Viewport viewport = randomViewport(random);
-            TraceTree fresh;
-            fresh.setSource(trace.real, trace.imag);
+            TraceTree fresh = treeOf(trace);
             if (round % 2)
                 QCOMPARE(fresh.nearestIndex(viewport, {10.0, 10.0}),
                          wandering.nearestIndex(viewport, {10.0, 10.0}));
@@ -241,57 +243,41 @@ private Q_SLOTS:
         }
     }
 
-    void leavesOddViewsToThePlainRoutine_data()
-    {
-        QTest::addColumn<Viewport>("viewport");
-        const Viewport square = squareViewport(0.1, 0.0, 1.05, 100, 80);
-        const auto row = [&](const char *name, const std::function<void(Viewport &)> &change) {
-            Viewport viewport = square;
-            change(viewport);
-            QTest::newRow(name) << viewport;
-        };
-        row("square", [](Viewport &) {});
-        row("not square", [](Viewport &v) { v.xMax += 0.5; });
-        row("not square by a little", [](Viewport &v) { v.xMax += 1e-6; });
-        row("no tolerance", [](Viewport &v) { v.tolerancePx = 0.0; });
-        row("hardly any tolerance", [](Viewport &v) { v.tolerancePx = 1e-12; });
-        row("endless tolerance", [](Viewport &v) { v.tolerancePx = 1e300; });
-        row("minute view",
-            [](Viewport &v) { v.xMin = 0.0, v.xMax = 1e-150, v.yMin = 0.0, v.yMax = 0.8e-150; });
-        row("not usable", [](Viewport &v) { v.width = 0; });
-    }
-
     void leavesOddViewsToThePlainRoutine()
     {
-        QFETCH(Viewport, viewport);
+        const std::function<void(Viewport &)> changes[] = {
+            [](Viewport &) {},
+            [](Viewport &v) { v.xMax += 0.5; }, // not square
+            [](Viewport &v) { v.xMax += 1e-6; },
+            [](Viewport &v) { v.tolerancePx = 0.0; },
+            [](Viewport &v) { v.tolerancePx = 1e-12; },
+            [](Viewport &v) { v.tolerancePx = 1e300; },
+            [](Viewport &v) { v.xMin = 0.0, v.xMax = 1e-150, v.yMin = 0.0, v.yMax = 0.8e-150; },
+            [](Viewport &v) { v.width = 0; },
+        };
         const Trace trace = spiral(2000, 0.01, 0.01);
-        TraceTree tree;
-        tree.setSource(trace.real, trace.imag);
-        const DecimationResult fast = tree.decimate(viewport);
-        const DecimationResult plain = decimate(trace.real, trace.imag, viewport);
-        QCOMPARE(fast.keptIndices, plain.keptIndices);
-        QCOMPARE(fast.passedThrough, plain.passedThrough);
-        QCOMPARE(fast.decimated, plain.decimated);
-        for (const QPointF &pointer : {QPointF(40.0, 40.0), QPointF(notANumber, 0.0)}) {
-            QCOMPARE(tree.nearestIndex(viewport, pointer),
-                     nearestIndex(trace.real, trace.imag, viewport, pointer));
+        for (const auto &change : changes) {
+            Viewport viewport = squareViewport(0.1, 0.0, 1.05, 100, 80);
+            change(viewport);
+            TraceTree tree = treeOf(trace);
+            const DecimationResult fast = tree.decimate(viewport);
+            const DecimationResult plain = decimate(trace.real, trace.imag, viewport);
+            QCOMPARE(fast.passedThrough, plain.passedThrough);
+            QCOMPARE(fast.decimated, plain.decimated);
+            compareAt(tree, trace, viewport);
+            compareAt(tree, trace, viewport, {notANumber, 0.0});
         }
     }
 
     /// A point so far out that pixel coordinates lose their fractions.
     void wildPoints()
     {
-        const Viewport viewport = squareViewport(0.1, 0.0, 1.05, 100, 100);
         for (double far = 1e3; far < 1e17; far *= 10.0) {
             Trace trace = spiral(2000, 0.01, 0.01);
             trace.real[700] = far;
             trace.imag[1300] = -far / 3.0;
-            TraceTree tree;
-            tree.setSource(trace.real, trace.imag);
-            QCOMPARE(tree.decimate(viewport).keptIndices,
-                     decimate(trace.real, trace.imag, viewport).keptIndices);
-            QCOMPARE(tree.nearestIndex(viewport, {30.0, 40.0}),
-                     nearestIndex(trace.real, trace.imag, viewport, {30.0, 40.0}));
+            TraceTree tree = treeOf(trace);
+            compareAt(tree, trace, squareViewport(0.1, 0.0, 1.05, 100, 100));
         }
     }
 
@@ -304,14 +290,12 @@ private Q_SLOTS:
             trace.imag << (i == 500 ? 0.01 : 0.0);
         }
         Viewport viewport = squareViewport(0.0, 0.0, 1.0, 100, 100);
-        TraceTree tree;
-        tree.setSource(trace.real, trace.imag);
+        TraceTree tree = treeOf(trace);
         for (int step = -3; step <= 3; ++step) {
             viewport.tolerancePx = 0.5;
             for (int ulp = 0; ulp < std::abs(step); ++ulp)
                 viewport.tolerancePx = std::nextafter(viewport.tolerancePx, step > 0 ? 1.0 : 0.0);
-            QCOMPARE(tree.decimate(viewport).keptIndices,
-                     decimate(trace.real, trace.imag, viewport).keptIndices);
+            compareAt(tree, trace, viewport);
         }
     }
 
@@ -319,8 +303,7 @@ private Q_SLOTS:
     {
         const Viewport viewport = squareViewport(0.0, 0.0, 1.05, 800, 800);
         const auto bytesAPoint = [&](const Trace &trace, int kept) {
-            TraceTree tree;
-            tree.setSource(trace.real, trace.imag);
+            TraceTree tree = treeOf(trace);
             if (tree.decimate(viewport).keptIndices.size() < kept)
                 return infinity;
             (void)tree.nearestIndex(viewport, {100.0, 100.0});
@@ -338,20 +321,17 @@ private Q_SLOTS:
 
     void sharesTheSource()
     {
-        const Trace trace = spiral(5000, 0.001);
-        const double *data = trace.real.constData();
-        Trace owner = trace;
-        owner.real.detach();
-        data = owner.real.constData();
-        TraceTree tree;
-        tree.setSource(owner.real, owner.imag);
-        (void)tree.decimate(squareViewport(0.0, 0.0, 1.0, 100, 100));
+        const Viewport viewport = squareViewport(0.0, 0.0, 1.0, 100, 100);
+        Trace owner = spiral(5000, 0.001);
+        const double *data = owner.real.constData();
+        TraceTree tree = treeOf(owner);
+        (void)tree.decimate(viewport);
         QVERIFY(!owner.real.isDetached()); // somebody, the tree, still shares it
         QCOMPARE(owner.real.constData(), data);
         tree.setSource({}, {});
         QVERIFY(owner.real.isDetached());
-        QVERIFY(tree.decimate(squareViewport(0.0, 0.0, 1.0, 100, 100)).keptIndices.isEmpty());
-        QCOMPARE(tree.nearestIndex(squareViewport(0.0, 0.0, 1.0, 100, 100), {1.0, 1.0}), -1);
+        QVERIFY(tree.decimate(viewport).keptIndices.isEmpty());
+        QCOMPARE(tree.nearestIndex(viewport, {1.0, 1.0}), -1);
     }
 
     void aCopyKeepsItsSource()
@@ -359,18 +339,13 @@ private Q_SLOTS:
         const Viewport viewport = squareViewport(0.0, 0.0, 1.05, 100, 100);
         const Trace first = spiral(3000, 0.002);
         const Trace second = spiral(4000, 0.01);
-        TraceTree tree;
-        tree.setSource(first.real, first.imag);
+        TraceTree tree = treeOf(first);
         TraceTree copy = tree;
         tree.setSource(second.real, second.imag);
-        QCOMPARE(copy.decimate(viewport).keptIndices,
-                 decimate(first.real, first.imag, viewport).keptIndices);
-        QCOMPARE(tree.decimate(viewport).keptIndices,
-                 decimate(second.real, second.imag, viewport).keptIndices);
+        compareAt(copy, first, viewport);
+        compareAt(tree, second, viewport);
     }
 };
-
-Q_DECLARE_METATYPE(SmithRender::Viewport)
 
 QTEST_APPLESS_MAIN(tst_TraceTree)
 #include "tst_tracetree.moc"

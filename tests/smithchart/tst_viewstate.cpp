@@ -3,13 +3,12 @@
 #include <smithchart/viewport.h>
 #include <smithchart/viewstate.h>
 
-#include <QtTest>
-
 #include <vnatest.h>
 
 #include <cmath>
 #include <limits>
 
+using namespace VnaTest;
 using namespace SmithChart;
 
 namespace
@@ -22,31 +21,27 @@ bool isWholeChart(const ViewState &s)
 
 } // namespace
 
-class tst_ViewState : public VnaTest::TestCase
+class tst_ViewState : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void unitsAreSquare_data()
-    {
-        QTest::addColumn<int>("width");
-        QTest::addColumn<int>("height");
-        QTest::addColumn<double>("halfX");
-        QTest::addColumn<double>("halfY");
-        QTest::newRow("wide") << 400 << 200 << 2.1 << 1.05;
-        QTest::newRow("tall") << 200 << 400 << 1.05 << 2.1;
-        QTest::newRow("square") << 300 << 300 << 1.05 << 1.05;
-        QTest::newRow("not laid out yet") << 0 << 0 << 1.05 << 1.05;
-        QTest::newRow("negative") << -5 << 2 << 1.05 << 2.1;
-    }
-
     void unitsAreSquare()
     {
-        QFETCH(int, width);
-        QFETCH(int, height);
-        const HalfRanges base = baseHalfRanges(width, height);
-        QTEST(base.x, "halfX");
-        QTEST(base.y, "halfY");
+        struct Expected {
+            int width, height;
+            double halfX, halfY;
+        };
+        for (const auto &[width, height, halfX, halfY] :
+             {Expected{400, 200, 2.1, 1.05},
+              {200, 400, 1.05, 2.1},
+              {300, 300, 1.05, 1.05},
+              {0, 0, 1.05, 1.05},
+              {-5, 2, 1.05, 2.1}}) { // not laid out yet, and negative
+            const HalfRanges base = baseHalfRanges(width, height);
+            QCOMPARE(base.x, halfX);
+            QCOMPARE(base.y, halfY);
+        }
     }
 
     void limits()
@@ -132,11 +127,11 @@ private Q_SLOTS:
                       << ViewRanges{-1.0, 1.0, -2.0, 2.0}
                       << SmithRender::Viewport{-1.0, 1.0, -2.0, 2.0, 300, 600, 1.5, 0.5} << 1;
         QCOMPARE(text,
-                 QStringLiteral("SmithChart::ViewState(0.5, -0.25, x2) "
-                                "SmithChart::HalfRanges(1.5, 1.05) "
-                                "SmithChart::ViewRanges(-1..1, -2..2) "
-                                "SmithRender::Viewport(-1..1, -2..2, 300x600 at 1.5, "
-                                "within 0.5 px) 1 "));
+                 "SmithChart::ViewState(0.5, -0.25, x2) "
+                 "SmithChart::HalfRanges(1.5, 1.05) "
+                 "SmithChart::ViewRanges(-1..1, -2..2) "
+                 "SmithRender::Viewport(-1..1, -2..2, 300x600 at 1.5, "
+                 "within 0.5 px) 1 "_s);
     }
 };
 

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <utils/propertywatcher.h>
 
-#include <QPointer>
-#include <QtTest>
+#include <functional>
 
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -14,7 +12,7 @@ using Utils::PropertyWatcher;
 namespace
 {
 
-const QString s_name = QStringLiteral("cursorPos");
+const QString s_name = "cursorPos"_s;
 
 QString text(const QVariant &value)
 {
@@ -56,7 +54,7 @@ struct Watched {
 
 } // namespace
 
-class tst_PropertyWatcher : public VnaTest::TestCase
+class tst_PropertyWatcher : public TestCase
 {
     Q_OBJECT
 
@@ -104,41 +102,30 @@ private Q_SLOTS:
         QCOMPARE(watched.set(9), "4>9, 9>4"_s);
     }
 
-    void survivesAnyOrderOfDestruction_data()
-    {
-        columns<QString, bool>("victim", "inCallback");
-        for (const char *victim : {"object", "watcher", "watch"}) {
-            QTest::addRow("%s in the signal", victim) << victim << false;
-            QTest::addRow("%s in the callback", victim) << victim << true;
-        }
-    }
-
     void survivesAnyOrderOfDestruction()
     {
-        QFETCH(QString, victim);
-        QFETCH(bool, inCallback);
-        QPointer<QObject> object = new QObject;
-        QPointer<PropertyWatcher> watcher = new PropertyWatcher;
-        int calls = 0;
-        const auto destroy = [&] {
-            if (victim == "object"_s)
+        QPointer<QObject> object;
+        QPointer<PropertyWatcher> watcher;
+        const std::function<void()> ends[] = {[&] { delete object; }, [&] { delete watcher; },
+                                              [&] { watcher->stopWatching(object, s_name); }};
+        for (const auto &end : ends) {
+            for (const bool inCallback : {false, true}) {
+                object = new QObject;
+                watcher = new PropertyWatcher;
+                int calls = 0;
+                watcher->watchProperty(object, s_name, [&](const QVariant &) {
+                    ++calls;
+                    if (inCallback)
+                        end();
+                });
+                if (!inCallback)
+                    connect(watcher, &PropertyWatcher::propertyChanged, this, end);
+                object->setProperty("cursorPos", 1);
+                QCOMPARE(calls, inCallback ? 1 : 0);
                 delete object;
-            else if (victim == "watcher"_s)
                 delete watcher;
-            else
-                watcher->stopWatching(object, s_name);
-        };
-        watcher->watchProperty(object, s_name, [&](const QVariant &) {
-            ++calls;
-            if (inCallback)
-                destroy();
-        });
-        if (!inCallback)
-            connect(watcher, &PropertyWatcher::propertyChanged, this, destroy);
-        object->setProperty("cursorPos", 1);
-        QCOMPARE(calls, inCallback ? 1 : 0);
-        delete object;
-        delete watcher;
+            }
+        }
     }
 };
 

@@ -2,14 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/infobutton.h>
 
-#include <QAccessible>
-#include <QGridLayout>
-#include <QLabel>
-#include <QSignalSpy>
-#include <QtTest>
-
 #include <pointer.h>
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -126,8 +119,7 @@ private Q_SLOTS:
     {
         const struct {
             int type;
-            Cell name;
-            Cell info;
+            Cell name, info;
             int secondRowStretch;
         } rows[] = {
             {InfoButton::TopBottom, {0, 0}, {1, 0}, 1},
@@ -184,10 +176,8 @@ private Q_SLOTS:
             button.setInfoWidget(bad);
             QCOMPARE(button.infoWidget(), inner);
         }
-    }
 
-    void survivesInfoWidgetsThatGo()
-    {
+        // One that goes to another button, or away, leaves its place empty.
         InfoButton first;
         InfoButton second;
         auto *const shared = new QLabel;

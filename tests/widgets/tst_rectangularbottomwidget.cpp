@@ -2,10 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/rectangularbottomwidget.h>
 
-#include <QLabel>
-#include <QtTest>
-
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
