@@ -168,6 +168,14 @@ void PanelStateTest::survivesDamage()
     QVERIFY(!PanelState(m_folder.path()).note().isEmpty()); // a folder
     write(path("bad.ini"), QByteArray(2 << 20, '#'));
     QVERIFY(!PanelState(path("bad.ini")).note().isEmpty());
+    // What is saved later replaces it.
+    for (const QByteArray &bad : {QByteArray(2 << 20, '#'), "[traces\nno line of ours\n" + whole}) {
+        write(path("bad.ini"), bad);
+        const PanelState refused(path("bad.ini"));
+        QVERIFY(!refused.note().isEmpty());
+        QVERIFY(refused.save(desk.model, desk.controller, QStringLiteral("de")));
+        QCOMPARE(PanelState(path("bad.ini")).language(), QStringLiteral("de"));
+    }
     QCOMPARE(PanelState(path("none.ini")).note(), QString());
     write(path("file"), {});
     QVERIFY(!PanelState(path("file/state.ini"))
