@@ -107,4 +107,7 @@ private:
 /// One run of the target that this program is made for.
 void run(Input &input);
 
+/// Takes the application down, after the last run: Qt 6 does not let it go with the statics.
+void finish();
+
 } // namespace Fuzz

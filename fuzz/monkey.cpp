@@ -47,8 +47,9 @@ void watchMessages(QtMsgType type, const QMessageLogContext &, const QString &me
         || type == QtInfoMsg
         // What a platform without a display cannot do is no fault of the panel, nor is a pointer
         // beside a pop-up, nor a pinch beyond the edge of the screen, which is smaller than the
-        // panel there.
+        // panel there, nor a finger whose window has gone, which Qt 6 remarks on.
         || message.startsWith(QLatin1String("This plugin does not support"))
+        || message.startsWith(QLatin1String("skipping QEventPoint"))
         || message.startsWith(QLatin1String("Mouse event at "))
         || message.startsWith(QLatin1String("QGestureManager::deliverEvent: could not find")))
         return;

@@ -6,6 +6,8 @@
 // replaced: by every other value, or in a large file by one of those that have a meaning in text
 // (by every one if VNA_EVERY_CHANGE is set, which takes minutes).
 //   fuzz_<target> FOLDER [RUNS [FILE]]
+#include "input.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -82,6 +84,7 @@ int main(int argc, char **argv)
         LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
     }
     std::printf("%d files, %u random inputs\n", static_cast<int>(names.size()), runs);
+    Fuzz::finish();
     // An empty folder would pass whatever happens.
     return names.isEmpty() ? 1 : 0;
 }

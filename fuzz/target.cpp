@@ -19,6 +19,8 @@ void Fuzz::fail(const char *condition, const char *file, int line)
 namespace
 {
 
+QApplication *s_application = nullptr;
+
 /// Qt names its class where it is misused ("QPainter::begin: ..."); all else is chatter.
 void watchMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
@@ -31,10 +33,16 @@ void watchMessages(QtMsgType type, const QMessageLogContext &, const QString &me
 
 } // namespace
 
+void Fuzz::finish()
+{
+    delete s_application;
+    s_application = nullptr;
+}
+
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication application(*argc, *argv);
+    s_application = new QApplication(*argc, *argv);
     QApplication::setQuitOnLastWindowClosed(false);
     qInstallMessageHandler(watchMessages);
     return 0;

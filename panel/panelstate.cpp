@@ -212,6 +212,9 @@ bool PanelState::save(const PanelModel &model, const PanelController &controller
 {
     if (!QDir().mkpath(QFileInfo(m_path).absolutePath()))
         return false;
+    // QSettings reads what is there before it writes, and would not forget that it was damaged.
+    if (!m_usable)
+        QFile::remove(m_path);
     QSettings settings(m_path, QSettings::IniFormat);
     settings.clear();
     const auto set = [&settings](const char *key, const QVariant &value) {

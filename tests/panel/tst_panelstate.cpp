@@ -145,8 +145,15 @@ private Q_SLOTS:
             QVERIFY(trace.scale.perDivision > 0.0);
 
         QVERIFY(!PanelState(m_folder.path()).note().isEmpty()); // a folder
-        write(path("bad.ini"), QByteArray(2 << 20, '#'));
-        QVERIFY(!PanelState(path("bad.ini")).note().isEmpty());
+        // What is saved later replaces it.
+        for (const QByteArray &bad :
+             {QByteArray(2 << 20, '#'), "[traces\nno line of ours\n" + whole}) {
+            write(path("bad.ini"), bad);
+            const PanelState refused(path("bad.ini"));
+            QVERIFY(!refused.note().isEmpty());
+            QVERIFY(refused.save(desk.model, desk.controller, "de"_s));
+            QCOMPARE(PanelState(path("bad.ini")).language(), "de"_s);
+        }
         QCOMPARE(PanelState(path("none.ini")).note(), QString());
         write(path("file"), {});
         QVERIFY(!PanelState(path("file/state.ini")).save(desk.model, desk.controller, "en"_s));
