@@ -29,7 +29,7 @@ function(vna_add_test name)
     add_executable(${name} ${ARG_UNPARSED_ARGUMENTS})
     target_link_libraries(${name} PRIVATE
         vna_build_flags vna_test_support VnaWidgets::Widgets Qt${VNAWIDGETS_QT_MAJOR}::Test ${ARG_LIBRARIES})
-    target_precompile_headers(${name} REUSE_FROM vna_test_support)
+    target_precompile_headers(${name} REUSE_FROM vna_test_headers)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
     vna_set_test_environment(${name})
