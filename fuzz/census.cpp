@@ -5,6 +5,7 @@
 #include <QMutex>
 #include <QObject>
 #include <QSet>
+#include <QWidget>
 
 /// Qt's table of hooks for tools that watch a process; entries 3 and 4 are called for every object
 /// that is made and destroyed, in Qt 5 and Qt 6.
@@ -48,8 +49,10 @@ bool isCounted(const QObject *object)
     // The single instances of the library, and what Qt makes once when it is first wanted.
     static const QStringList lasting = {
         QStringLiteral("Controls::ThemeManager"), QStringLiteral("Utils::GUIContext"),
-        QStringLiteral("Utils::Translator"), QStringLiteral("QTipLabel"),
-        QStringLiteral("QDesktopWidget")};
+        QStringLiteral("Utils::Translator"), QStringLiteral("QTipLabel")};
+    // Nor what stands for a screen, which Qt makes when something first asks for it.
+    if (object->isWidgetType() && static_cast<const QWidget *>(object)->windowType() == Qt::Desktop)
+        return false;
     const QString name = QString::fromLatin1(object->metaObject()->className());
     return !lasting.contains(name)
         && (!name.startsWith(QLatin1Char('Q')) || object->inherits("QWidget")
