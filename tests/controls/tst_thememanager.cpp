@@ -130,6 +130,17 @@ private Q_SLOTS:
                 light.insert(path.size() - 4, "_light"_s);
             QCOMPARE(manager->getIconPath(id), light.replace("screenshot"_s, "scrreenshot"_s));
         }
+        // The picture that both share is turned light for the light theme, and only that.
+        for (const auto theme : {ThemeManager::Dark, ThemeManager::Light}) {
+            manager->setTheme(theme);
+            for (int id = 2; id < dark.size(); ++id) {
+                const QImage file(manager->getIconPath(id));
+                const QImage shown = manager->icon(id).pixmap(file.size()).toImage();
+                QVERIFY(!file.isNull());
+                const bool same = shown == file.convertToFormat(shown.format());
+                QCOMPARE(same, theme == ThemeManager::Dark || !dark.at(id).startsWith("enter"_s));
+            }
+        }
         for (int id : {-1, 8}) {
             QCOMPARE(manager->getIconPath(id), QString());
             QVERIFY(manager->icon(id).isNull());
