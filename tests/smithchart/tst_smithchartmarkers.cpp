@@ -95,6 +95,16 @@ private Q_SLOTS:
         QVERIFY(m_chart->beginMarkerDragAt(apex + QPoint(0, -3)));
         m_chart->endMarkerDragAt(apex);
         QVERIFY(!m_chart->beginMarkerDragAt(apex + QPoint(0, 60)));
+
+        // As far as the tolerance, and no farther.
+        const QPoint below = apex + QPoint(0, 5);
+        const double distance = m_chart->getMarker(1, 1)->getTracer()->selectTest(below, false);
+        QVERIFY(distance > 3.0);
+        m_chart->setMarkerHitTolerancePx(std::nextafter(distance, 0.0));
+        QVERIFY(!m_chart->beginMarkerDragAt(below));
+        m_chart->setMarkerHitTolerancePx(distance);
+        QVERIFY(m_chart->beginMarkerDragAt(below));
+        m_chart->endMarkerDragAt(below);
     }
 
     void tellsTheLogWhatNewDataCosts()
