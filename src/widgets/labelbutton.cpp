@@ -106,9 +106,11 @@ void LabelButton::elidedText()
     const int available = width() - margins.left() - margins.right();
     const QFontMetrics metrics = value->fontMetrics();
     // The end of a value tells more than its beginning.
-    const bool tooWide = metrics.horizontalAdvance(m_labelText) >= available;
-    value->setText(tooWide ? metrics.elidedText(m_labelText, Qt::ElideLeft, available)
-                           : m_labelText);
+    const int advance = metrics.horizontalAdvance(m_labelText);
+    // An advance may have been rounded up: a value as wide as the room has to be shortened, too.
+    value->setText(advance < available ? m_labelText
+                                       : metrics.elidedText(m_labelText, Qt::ElideLeft,
+                                                            qMin(available, advance - 1)));
 }
 
 QSize LabelButton::sizeHint() const
