@@ -115,6 +115,24 @@ private Q_SLOTS:
         }
     }
 
+    void leavesTheAdapterItsKeys()
+    {
+        auto *adapter = frequencyAdapter(m_keypad);
+        const QVector<int> keys{Qt::Key_Up,       Qt::Key_Down,   Qt::Key_PageUp,
+                                Qt::Key_PageDown, Qt::Key_Period, Qt::Key_plusminus};
+        QVector<int> heard;
+        for (const int key : keys) {
+            adapter->setKeyCallback(key, [&heard](QKeyEvent *event) {
+                heard << event->key();
+                return true;
+            });
+        }
+        addField(adapter)->setFocus();
+        for (const int key : keys)
+            typeKey(m_window.get(), Qt::Key(key));
+        QCOMPARE(heard, keys);
+    }
+
     void focusSelectsTheNumber()
     {
         auto *adapter = frequencyAdapter(m_keypad);

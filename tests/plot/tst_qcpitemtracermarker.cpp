@@ -75,6 +75,8 @@ private Q_SLOTS:
         m_tracer->setSelectable(false);
         QCOMPARE(m_tracer->selectTest(apex(), true), -1.0);
         QCOMPARE(m_tracer->selectTest(apex(), false), 0.0);
+        m_tracer->position->setAxisRect(nullptr);
+        QCOMPARE(m_tracer->selectTest(apex(), false), -1.0);
     }
 
     void pannedOutIsNeitherHitNorDrawn()

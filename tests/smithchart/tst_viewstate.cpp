@@ -48,7 +48,8 @@ private Q_SLOTS:
     {
         const HalfRanges square = baseHalfRanges(100, 100);
         QVERIFY(isWholeChart(clampViewState({0.7, 0.7, 0.2}, square)));
-        QVERIFY(isWholeChart(clampViewState({0.7, 0.7, 1.0000000005}, square)));
+        QVERIFY(isWholeChart(clampViewState({0.7, 0.7, magnifiedThreshold}, square)));
+        QVERIFY(!isWholeChart(clampViewState({0.7, 0.7, 1.000000002}, square)));
         QVERIFY(isWholeChart(clampViewState({0.1, 0.1, qQNaN()}, square)));
         QVERIFY(isWholeChart(clampViewState({0.1, 0.1, qInf()}, square)));
         QCOMPARE(clampViewState({0, 0, 50}, square).zoom, 20.0);
