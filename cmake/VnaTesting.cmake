@@ -30,6 +30,12 @@ function(vna_add_test name)
     target_link_libraries(${name} PRIVATE
         vna_build_flags vna_test_support VnaWidgets::Widgets Qt${VNAWIDGETS_QT_MAJOR}::Test ${ARG_LIBRARIES})
     target_precompile_headers(${name} REUSE_FROM vna_test_headers)
+    # Sources of the project in a test are read as everywhere, by clang-tidy too.
+    set(others ${ARG_UNPARSED_ARGUMENTS})
+    list(FILTER others INCLUDE REGEX "^${PROJECT_SOURCE_DIR}/.*\\.cpp$")
+    if(others)
+        set_source_files_properties(${others} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+    endif()
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
     vna_set_test_environment(${name})
