@@ -212,8 +212,10 @@ bool PanelState::save(const PanelModel &model, const PanelController &controller
 {
     if (!QDir().mkpath(QFileInfo(m_path).absolutePath()))
         return false;
-    // QSettings reads what is there before it writes, and would not forget that it was damaged.
-    if (!m_usable)
+    // QSettings reads what is there before it writes, and would not forget that it was damaged. The
+    // first such file is kept: it may be somebody's after all.
+    if (!m_usable && QFileInfo(m_path).isFile()
+        && !QFile::rename(m_path, m_path + QStringLiteral(".damaged")))
         QFile::remove(m_path);
     QSettings settings(m_path, QSettings::IniFormat);
     settings.clear();

@@ -17,7 +17,8 @@ class PanelModel;
     formats, files, traces and markers; measured data are not among it.
 
     A file that is broken, of another version, or holds a value that cannot be, is not used at all,
-    and a sentence says so: half a state would be a puzzle. What is saved later replaces it. */
+    and a sentence says so: half a state would be a puzzle. What is saved later takes its
+    place; the file itself is kept beside it, with ".damaged" behind its name. */
 class PanelState
 {
 public:

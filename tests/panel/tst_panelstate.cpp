@@ -154,6 +154,7 @@ private Q_SLOTS:
             QVERIFY(refused.save(desk.model, desk.controller, "de"_s));
             QCOMPARE(PanelState(path("bad.ini")).language(), "de"_s);
         }
+        QCOMPARE(read(path("bad.ini.damaged")), QByteArray(2 << 20, '#')); // the first one is kept
         QCOMPARE(PanelState(path("none.ini")).note(), QString());
         write(path("file"), {});
         QVERIFY(!PanelState(path("file/state.ini")).save(desk.model, desk.controller, "en"_s));
