@@ -127,9 +127,8 @@ QString BaseUnitAdapter::convertFromBaseValue(double value, QString unit)
 
 double BaseUnitAdapter::convertToBase(const QString &text)
 {
-    bool ok = false;
-    const double value = numberText(text, unitSuffix(text)).toDouble(&ok);
-    return ok && std::isfinite(value) ? value : 0.0;
+    const double value = numberText(text, unitSuffix(text)).toDouble(); // 0 where it is no number
+    return std::isfinite(value) ? value : 0.0;
 }
 
 QStringList BaseUnitAdapter::availableUnits()

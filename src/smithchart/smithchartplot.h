@@ -231,9 +231,9 @@ private:
         int traceId = 0;
         QPointer<QCPCurve> curve; ///< owned by the plot
         QPen basePen; ///< as the caller gave it
-        QVector<double> frequencies;
+        QVector<double> frequencies; ///< as many as there are points
         QVector<double> real;
-        QVector<double> imag;
+        QVector<double> imag; ///< as many as real parts
         SmithRender::TraceTree tree; ///< over the source data
         quint64 sourceRevision = 0;
 

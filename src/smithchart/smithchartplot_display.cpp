@@ -7,7 +7,6 @@
 
 #include <QElapsedTimer>
 
-#include <algorithm>
 #include <cmath>
 
 Q_LOGGING_CATEGORY(smithPerformance, "vna.smith.render.performance", QtWarningMsg)
@@ -38,8 +37,7 @@ bool SmithChartPlot::refreshDisplayCurve(OwnedCurve &record, bool force)
         return false;
     const SmithRender::Viewport viewport = currentRenderViewport();
     record.lastDecimationNs = -1;
-    const int n = static_cast<int>(
-        std::min({record.frequencies.size(), record.real.size(), record.imag.size()}));
+    const int n = static_cast<int>(record.real.size());
     if (n == 0) {
         record.curve->data()->clear();
         record.keptIndices.clear();

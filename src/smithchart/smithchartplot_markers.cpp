@@ -47,7 +47,7 @@ bool SmithChartPlot::createMarkerVisualAt(int traceId, int localId, QCPCurve *cu
     if (!plot() || !curve || findMarker(traceId, localId))
         return false;
     OwnedCurve *const trace = findOwnedCurve(curve);
-    const auto count = trace ? std::min(trace->real.size(), trace->imag.size()) : 0;
+    const auto count = trace ? trace->real.size() : 0;
     const bool valid = sourceIndex >= 0.0 && sourceIndex < static_cast<double>(count);
 
     OwnedMarker record;
@@ -206,7 +206,7 @@ bool SmithChartPlot::setMarkerIndex(int traceId, int localId, double sourceIndex
     if (!record)
         return false;
     OwnedCurve *const trace = findOwnedCurve(record->curve);
-    const auto count = trace ? std::min(trace->real.size(), trace->imag.size()) : 0;
+    const auto count = trace ? trace->real.size() : 0;
     if (sourceIndex < 0.0 || sourceIndex >= static_cast<double>(count)
         || !positionMarkerAtSourceIndex(*record, sourceIndex))
         return false;
@@ -362,7 +362,7 @@ void SmithChartPlot::recolorMarkers(QCPCurve *curve)
 void SmithChartPlot::updateMarkersForCurve(QCPCurve *curve)
 {
     const OwnedCurve *const trace = findOwnedCurve(curve);
-    if (!trace || trace->real.isEmpty() || trace->imag.isEmpty())
+    if (!trace)
         return;
     replaceMarkers(*trace);
     requestQueuedReplot();

@@ -60,19 +60,16 @@ bool SmithChartPlot::eventFilter(QObject *watched, QEvent *event)
 
 bool SmithChartPlot::handleDoubleClick(const QPoint &pos, Qt::KeyboardModifiers modifiers)
 {
-    if (m_onlyHandleActiveTrace && !hasActiveTrace())
-        return false;
-
     QCPCurve *curve = getCurve(m_activeTraceId);
     int index = -1;
     double squaredDistance = std::numeric_limits<double>::infinity();
-    if (hasActiveTrace() && curve && curve->visible())
+    if (curve && curve->visible())
         index = nearestCurveDataIndex(curve, pos, &squaredDistance);
     const bool nearActive = index >= 0 && squaredDistance <= doubleClickToleranceSquared;
 
     if (m_onlyHandleActiveTrace) {
         const OwnedCurve *const record = nearActive ? findOwnedCurve(curve) : nullptr;
-        if (!record || index >= record->frequencies.size())
+        if (!record)
             return false;
         Q_EMIT activeTraceDoubleClicked(m_activeTraceId, record->frequencies.at(index), modifiers);
         return true;
@@ -81,7 +78,7 @@ bool SmithChartPlot::handleDoubleClick(const QPoint &pos, Qt::KeyboardModifiers 
     if (!nearActive && !nearestCurveAndIndex(pos, curve, index, squaredDistance))
         return false;
     const OwnedCurve *const record = findOwnedCurve(curve);
-    if (index < 0 || squaredDistance > doubleClickToleranceSquared || !record)
+    if (squaredDistance > doubleClickToleranceSquared || !record)
         return false;
     Q_EMIT pointDoubleClicked(record->traceId, index, modifiers);
     return true;
@@ -116,9 +113,6 @@ void SmithChartPlot::onPlotMouseMove(QMouseEvent *event)
     parseMarkerId(m_draggingMarkerId, traceId, localId);
     const OwnedMarker *const record = findMarker(traceId, localId);
     if (!record || !record->marker || !record->curve || !record->curve->visible())
-        return;
-    const OwnedCurve *const trace = findOwnedCurve(record->curve);
-    if (!trace || trace->real.isEmpty())
         return;
     const int index =
         nearestCurveDataIndex(record->curve, QtCompat::position(event).toPoint(), nullptr);

@@ -207,7 +207,7 @@ bool SmithChartPlot::hasSourceDataAtIndex(int traceId, double index) const
     const OwnedCurve *const record = findTrace(traceId);
     if (!record || !std::isfinite(index) || index < 0.0)
         return false;
-    if (index > static_cast<double>(std::min(record->frequencies.size(), record->real.size()) - 1))
+    if (index > static_cast<double>(record->real.size() - 1))
         return false;
     const auto below = static_cast<int>(std::floor(index));
     const auto above = static_cast<int>(std::ceil(index));
