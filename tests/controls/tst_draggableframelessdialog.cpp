@@ -168,15 +168,19 @@ private Q_SLOTS:
         Scene scene;
         scene.dialog.setHeaderButton(Bar::CloseButton);
         QLineEdit edit(scene.bar);
-        edit.setGeometry(60, 5, 40, 20);
-        edit.show();
+        QSlider slider(scene.bar);
         QWidget focusable(scene.bar);
-        focusable.setGeometry(110, 5, 20, 20);
-        focusable.setFocusPolicy(Qt::ClickFocus);
-        focusable.show();
+        int left = 60;
+        for (QWidget *child :
+             {static_cast<QWidget *>(&edit), static_cast<QWidget *>(&slider), &focusable}) {
+            child->setFocusPolicy(child == &focusable ? Qt::ClickFocus : Qt::NoFocus);
+            child->setGeometry(left, 5, 20, 20);
+            child->show();
+            left += 30;
+        }
         QCoreApplication::sendPostedEvents();
         const QPoint close(180, 17);
-        for (const QPoint &pos : {QPoint(70, 10), QPoint(120, 10), close}) {
+        for (const QPoint &pos : {QPoint(70, 10), QPoint(100, 10), QPoint(130, 10), close}) {
             QVERIFY(!scene.dialog.shouldStartDrag(scene.bar, pos));
             const QPoint start = scene.position();
             scene.press(pos);

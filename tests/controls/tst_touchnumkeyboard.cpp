@@ -168,10 +168,15 @@ private Q_SLOTS:
             // Every unit on the page sends itself.
             const QStringList captions = page.split(QLatin1Char(' '));
             for (int i = 0; i < 4; ++i) {
-                if (!captions.at(i).startsWith(QLatin1Char('u')))
+                const QString key = "btnUnit%1"_s.arg(i + 1);
+                const bool unit = captions.at(i).startsWith(QLatin1Char('u'));
+                if (captions.at(i) != "-"_s)
+                    QCOMPARE(button(key)->property("keyRole"),
+                             QVariant(unit ? "unit"_s : "page"_s));
+                if (!unit)
                     continue;
                 m_editor->log.clear();
-                click("btnUnit%1"_s.arg(i + 1));
+                click(key);
                 QCOMPARE(m_editor->log.value(0), "+1000004:"_s + captions.at(i));
                 QCOMPARE(m_editor->log.size(), 2);
             }
@@ -328,12 +333,17 @@ private Q_SLOTS:
         QVERIFY(!child);
         mouseClick(m_window.get(), QPoint(5, 5));
 
+        // One whose parent is elsewhere goes back there when the window it was shown on goes.
+        QWidget elsewhere;
+        TouchNumKeyboard guest(&elsewhere);
+        guest.open();
         TouchNumKeyboard keypad;
         keypad.open();
         QCOMPARE(keypad.window(), m_window.get());
         m_window.reset();
         QVERIFY(!keypad.parentWidget());
         QVERIFY(keypad.isHidden());
+        QCOMPARE(guest.parentWidget(), &elsewhere);
 
         // Without any main window it is a dialog of its own.
         keypad.open();

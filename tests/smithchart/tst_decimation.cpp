@@ -272,6 +272,13 @@ private Q_SLOTS:
         QCOMPARE(distance, infinity);
         QCOMPARE(nearestIndex({}, {}, plainView(), {0.0, 0.0}, &distance), -1);
         QCOMPARE(distance, infinity);
+        // What one vector has more than the other is not part of the trace.
+        QVector<double> two = imag;
+        two.resize(2); // the values behind are still in its memory
+        QCOMPARE(nearestIndex(real, two, plainView(), {150.0, 150.0}, nullptr), 1);
+        two = imag;
+        two.resize(1);
+        QCOMPARE(nearestIndex(two, imag, plainView(), {150.0, 150.0}, nullptr), 0);
     }
 
     void mergeIsASortedUnion()

@@ -378,6 +378,17 @@ private Q_SLOTS:
         QCOMPARE(any.last().at(0).toInt(), 1);
         m_chart->setCurveVisible(2, false);
         QVERIFY(!m_chart->handleDoubleClick(on2nd, Qt::NoModifier));
+
+        // Of two traces that are one on the other, the first; of a hidden one nothing.
+        m_chart->setCurveVisible(2, true);
+        m_chart->setCurveData(2, m_stimulus, m_real, m_imag);
+        m_chart->clearActiveTrace();
+        QVERIFY(m_chart->handleDoubleClick(on5, Qt::NoModifier));
+        QCOMPARE(any.last().at(0).toInt(), 1);
+        m_chart->setActiveTrace(1);
+        m_chart->setCurveVisible(1, false);
+        QVERIFY(m_chart->handleDoubleClick(on5, Qt::NoModifier));
+        QCOMPARE(any.last().at(0).toInt(), 2);
         QCOMPARE(active.count(), 1);
     }
 
