@@ -84,14 +84,15 @@ void readThemeSettings(const QString &path, ThemeSettings &dark, ThemeSettings &
     if (!Utils::readSmallFile(path, largestSettingsFile, text))
         return;
 
+    // Read from a copy: the file may be exchanged for another one meanwhile. Where no copy can be
+    // made, only what is harmless as it stands is read.
     QString readable = path;
     QTemporaryFile copy;
     const QByteArray harmless = withoutObjects(text);
-    if (harmless != text) {
-        if (!copy.open() || copy.write(harmless) != harmless.size() || !copy.flush())
-            return;
+    if (copy.open() && copy.write(harmless) == harmless.size() && copy.flush())
         readable = copy.fileName();
-    }
+    else if (harmless != text)
+        return;
     QSettings settings(readable, QSettings::IniFormat);
     QtCompat::setUtf8(settings);
     readGroup(settings, QStringLiteral("ThemeColors/Dark/"), dark);

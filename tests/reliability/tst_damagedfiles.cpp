@@ -99,6 +99,26 @@ private Q_SLOTS:
         Utils::StyleHelper::setThemes({});
     }
 
+    /// Settings are read from a copy; where none can be written, only those without objects.
+    void noRoomForACopy()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x5555)));
+        const QString plain = folder.filePath("plain.ini"_s);
+        const QString withObject = folder.filePath("object.ini"_s);
+        QVERIFY(write(plain, s_settings));
+        QVERIFY(write(withObject, QByteArray(s_settings) + "Dark\\gridColor=@Size(1 2)\n"));
+        const QByteArray before = qgetenv("TMPDIR");
+        for (const bool room : {true, false}) {
+            qputenv("TMPDIR", room ? before : QFile::encodeName(folder.path()));
+            const Unprivileged user;
+            QCOMPARE(readPalette(plain).size(), 2);
+            QCOMPARE(readPalette(withObject).size(), room ? 2 : 0);
+        }
+        qputenv("TMPDIR", before);
+        QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)); // so that it can go
+    }
+
     /// Another process exchanges the file, at once or byte by byte: what was read is one of the
     /// two, or a part of one that the reader refuses or that is sound by itself.
     void replacedWhileRead()
