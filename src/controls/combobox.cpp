@@ -45,10 +45,8 @@ ComboBox::ComboBox(QWidget *parent)
 
 void ComboBox::setItemDisabled(int index, bool disabled)
 {
-    auto *items = qobject_cast<QStandardItemModel *>(model());
-    if (!items || index < 0 || index >= items->rowCount())
-        return;
-    if (QStandardItem *item = items->item(index))
+    const auto *items = qobject_cast<QStandardItemModel *>(model());
+    if (QStandardItem *item = items ? items->item(index) : nullptr)
         item->setEnabled(!disabled);
 }
 

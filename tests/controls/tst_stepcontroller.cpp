@@ -63,6 +63,7 @@ private Q_SLOTS:
         row("zero", 0.0, 1, 0.0);
         row("nearly zero", 1e-16, -1, 1e-16);
         row("down into zero", 1e-15, -1, 0.0);
+        row("down to the smallest", 1.5e-15, -1, 1e-15);
         row("a rounding error below 2", 1.9999999999999998, 1, 2.0);
         row("negative down is its decade", -3.3e3, -1, -1e3);
         row("negative down from 5", -5e3, -1, -1e3);

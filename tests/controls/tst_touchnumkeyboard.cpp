@@ -89,6 +89,21 @@ private Q_SLOTS:
         QCOMPARE(m_editor->log.size(), 2);
     }
 
+    // With the focus on the keypad itself the keys that end an entry still end it, no others.
+    void itsOwnKeysReachTheReceiver()
+    {
+        KeyRecorder receiver;
+        m_keypad->setReceiver(&receiver);
+        m_keypad->open();
+        m_keypad->setFocusPolicy(Qt::StrongFocus);
+        m_keypad->setFocus();
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_A, Qt::Key_Enter, Qt::Key_Escape}) {
+            QVERIFY(m_keypad->hasFocus());
+            typeKey(m_window.get(), key);
+        }
+        QCOMPARE(receiver.log, QStringList({"+1000004:"_s, "+1000005:"_s, "+1000000:"_s}));
+    }
+
     void everyKeyFitsAFinger()
     {
         m_keypad->setShortcutKeys(units(40));
@@ -111,6 +126,7 @@ private Q_SLOTS:
             }
         };
         verifySizes();
+        QVERIFY(button("btnOk"_s)->minimumHeight() < button("btn5"_s)->minimumHeight());
         QFont large = m_keypad->font();
         large.setPointSize(30);
         m_keypad->setFont(large);

@@ -100,6 +100,8 @@ private Q_SLOTS:
         QVERIFY(std::abs(grid.admittance.labels.x.at(2) + g.real()) < 1e-15);
         QVERIFY(std::abs(grid.admittance.labels.y.at(2) + g.imag()) < 1e-15);
         QCOMPARE(grid.boundaryX.size(), 37);
+        QCOMPARE(gridGeometry({}, {}, 1).boundaryX.size(), 2);
+        QVERIFY(gridGeometry({}, {}, 0).boundaryX.isEmpty());
         QCOMPARE(grid.realAxisX, (QVector<double>{-1.0, 1.0}));
     }
 
