@@ -250,7 +250,7 @@ private:
 
     /// A marker: its items on the plot and the point of the trace it marks.
     struct OwnedMarker {
-        std::unique_ptr<Plot::Marker> marker;
+        std::unique_ptr<Plot::Marker> marker; ///< never null
         QPointer<QCPCurve> curve;
         int traceId = 0;
         int localId = 0;

@@ -187,7 +187,7 @@ QVector<const Plot::Marker *> SmithChartPlot::markers(int traceId) const
 {
     QVector<const Plot::Marker *> found;
     for (const OwnedMarker &record : m_ownedMarkers) {
-        if (record.traceId == traceId && record.marker)
+        if (record.traceId == traceId)
             found.append(record.marker.get());
     }
     return found;
@@ -195,9 +195,8 @@ QVector<const Plot::Marker *> SmithChartPlot::markers(int traceId) const
 
 bool SmithChartPlot::hasVisibleMarkers() const
 {
-    return std::any_of(
-        m_ownedMarkers.cbegin(), m_ownedMarkers.cend(),
-        [](const OwnedMarker &record) { return record.marker && record.marker->isVisible(); });
+    return std::any_of(m_ownedMarkers.cbegin(), m_ownedMarkers.cend(),
+                       [](const OwnedMarker &record) { return record.marker->isVisible(); });
 }
 
 bool SmithChartPlot::setMarkerIndex(int traceId, int localId, double sourceIndex)
@@ -312,7 +311,7 @@ void SmithChartPlot::bumpMarkerRevision(OwnedCurve &record)
 bool SmithChartPlot::positionMarkerAtSourceIndex(OwnedMarker &record, double sourceIndex)
 {
     const OwnedCurve *const trace = findOwnedCurve(record.curve);
-    if (!record.marker || !trace)
+    if (!trace)
         return false;
     const auto point = SmithChart::tracePoint(trace->real, trace->imag, sourceIndex);
     return point && record.marker->setPositionCoordinates(record.curve, point->x(), point->y());
@@ -321,7 +320,7 @@ bool SmithChartPlot::positionMarkerAtSourceIndex(OwnedMarker &record, double sou
 /// Draws a marker in its trace's colour: outlined, or filled, lighter and bolder when selected.
 void SmithChartPlot::drawMarkerSelection(const OwnedMarker &record, bool selected)
 {
-    if (!record.marker || !record.curve)
+    if (!record.curve)
         return;
     QPen pen = record.curve->pen();
     QBrush brush;

@@ -112,7 +112,7 @@ void SmithChartPlot::onPlotMouseMove(QMouseEvent *event)
     int localId = 0;
     parseMarkerId(m_draggingMarkerId, traceId, localId);
     const OwnedMarker *const record = findMarker(traceId, localId);
-    if (!record || !record->marker || !record->curve || !record->curve->visible())
+    if (!record || !record->curve || !record->curve->visible())
         return;
     const int index =
         nearestCurveDataIndex(record->curve, QtCompat::position(event).toPoint(), nullptr);
@@ -168,17 +168,15 @@ const SmithChartPlot::OwnedMarker *SmithChartPlot::markerToCatchAt(const QPointF
     const OwnedMarker *best = nullptr;
     double bestDistance = std::numeric_limits<double>::max();
     for (const OwnedMarker &record : m_ownedMarkers) {
-        if (!record.marker || !record.curve || !record.curve->visible())
+        if (!record.curve || !record.curve->visible())
             continue;
         const QCPAbstractItem *const parts[] = {record.marker->getTracer(),
                                                 record.marker->getLabel()};
         for (const QCPAbstractItem *part : parts) {
-            if (part && part->visible() && part == item)
-                return &record;
-        }
-        for (const QCPAbstractItem *part : parts) {
             if (!part || !part->visible())
                 continue;
+            if (part == item)
+                return &record;
             const double distance = part->selectTest(pos, false);
             if (distance >= 0.0 && distance <= m_markerHitTolerancePx && distance < bestDistance) {
                 bestDistance = distance;

@@ -70,6 +70,8 @@ private Q_SLOTS:
         row("micro", "4.7\u00b5s", "\u00b5s", 3);
         row("letters around a prefix", "1m\u00b5s", "m\u00b5s", 1);
         row("must end in a letter", "50k\u03a9", "", 2);
+        row("every letter", "1azAZ", "azAZ", 1);
+        row("beside the letters", "1@[`{s", "s", 1);
         row("exponent", "1e5", "", 1);
         row("only a unit", "GHz", "GHz", 3);
         row("only signs", "+-", "", 2);

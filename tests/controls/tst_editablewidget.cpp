@@ -265,6 +265,7 @@ private Q_SLOTS:
     {
         auto *adapter = frequencyAdapter(m_window.get());
         const auto *field = openEditor(m_keypad, adapter, true);
+        QCOMPARE(m_keypad->indicatorText(), "1GHz"_s);
         type("2"_s);
         type("5"_s);
         QCOMPARE(m_keypad->indicatorText(), "25GHz"_s);

@@ -204,6 +204,7 @@ private Q_SLOTS:
         QVERIFY(menu.isAccepted());
         QVERIFY(outside.isEmpty());
 
+        (void)sendTouchWithoutPoints(&overlay, QEvent::TouchBegin);
         TouchScreen screen(m_window.get());
         screen.tap(QPoint(320, 240));
         QVERIFY(outside.isEmpty());

@@ -188,6 +188,7 @@ private Q_SLOTS:
         m_chart->setCurveData(1, {}, x, y);
         const auto displayed = [this] { return m_chart->getCurve(1)->data()->size(); };
         QCOMPARE(displayed(), 2); // a straight line
+        m_chart->addMarkerVisual(2, 1, 7.0, Plot::PointingDown); // of no concern to this trace
         m_chart->addMarkerVisual(1, 1, 1000.4, Plot::PointingDown);
         QCOMPARE(displayed(), 4);
         QCOMPARE(m_chart->getCurve(1)->data()->at(1)->key, x[1000]);
