@@ -5,7 +5,9 @@
 #include "popupscene.h"
 #include "vnatest.h"
 
+#include <panel/cartesianview.h>
 #include <panel/diagrams.h>
+#include <panel/look.h>
 #include <panel/messagebar.h>
 #include <panel/numericdialog.h>
 #include <panel/panelcontroller.h>
@@ -15,7 +17,9 @@
 #include <panel/smithview.h>
 #include <panel/softkey.h>
 #include <panel/softkeymenu.h>
+#include <panel/sweepcontroller.h>
 #include <plot/qcp.h>
+#include <widgets/switchbutton.h>
 
 /// The panel as main() makes it, on screen with a sample of 2.3 to 2.6 GHz, and a finger to tap it.
 struct PanelDesk {
@@ -36,6 +40,7 @@ struct PanelDesk {
 
     Panel::SmithView *view() const { return window.smithView(); }
     SmithChartPlot *chart() const { return view()->chart(); }
+    QCustomPlot *plot() const { return view()->plot(); }
     const Panel::PanelKeys &keys() const { return window.keys(); }
     Panel::MessageBar *bar() const { return window.messageBar(); }
 
@@ -95,10 +100,10 @@ struct ChartDesk : PanelDesk {
     /// A point of the plot, given as a share of its size, in pixels of the plot.
     QPoint onPlot(double x, double y) const
     {
-        const QRect area = view()->plot()->axisRect()->rect();
+        const QRect area = plot()->axisRect()->rect();
         return {area.left() + qRound(x * area.width()), area.top() + qRound(y * area.height())};
     }
-    QPoint inWindow(const QPoint &onPlot) const { return view()->plot()->mapTo(&window, onPlot); }
+    QPoint inWindow(const QPoint &onPlot) const { return plot()->mapTo(&window, onPlot); }
     QPointF chartPoint(const QPoint &onPlot) const { return view()->coordinates(onPlot); }
 
     void turnWheel(const QPoint &onPlot, int notches) { turnWheelAt(inWindow(onPlot), notches); }
@@ -121,13 +126,13 @@ struct ChartDesk : PanelDesk {
     QPoint onTrace(int traceId, int index) const
     {
         const Panel::Parameter &data = model.data(*model.trace(traceId));
-        return {qRound(view()->plot()->xAxis->coordToPixel(data.real.at(index))),
-                qRound(view()->plot()->yAxis->coordToPixel(data.imag.at(index)))};
+        return {qRound(plot()->xAxis->coordToPixel(data.real.at(index))),
+                qRound(plot()->yAxis->coordToPixel(data.imag.at(index)))};
     }
 
     void doubleClick(const QPoint &onPlot)
     {
-        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow(onPlot));
+        VnaTest::mouseDoubleClick(plot(), onPlot);
         settle();
     }
 

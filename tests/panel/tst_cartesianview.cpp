@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
 
-#include <panel/cartesianview.h>
-#include <panel/look.h>
 #include <panel/readouts.h>
 
 #include <cmath>
@@ -14,9 +12,9 @@ using namespace Panel;
 namespace
 {
 
-/// A two-port of so many points whose S21 falls from 0 dB to -40 dB and turns as it goes; one point
-/// is a spike of 20 dB.
-Network slope(int points)
+/// A two-port of so many points between two frequencies whose parameters fall from 0 dB to -40 dB
+/// and turn as they go; one point is a spike of 20 dB.
+Network slope(int points, double start = 1e9, double stop = 2e9)
 {
     Network network;
     network.ports = 2;
@@ -24,7 +22,7 @@ Network slope(int points)
     const int spike = points * 3 / 10;
     for (int i = 0; i < points; ++i) {
         const double share = double(i) / (points - 1);
-        network.frequencies.append(1e9 + 1e9 * share);
+        network.frequencies.append(start + (stop - start) * share);
         const double magnitude = i == spike ? 10.0 : std::pow(10.0, -2.0 * share);
         for (Parameter &parameter : network.parameters) {
             parameter.real.append(magnitude * std::cos(20.0 * share));
@@ -36,17 +34,18 @@ Network slope(int points)
 
 struct Desk : PanelDesk {
     CartesianView *view() const { return window.cartesianView(); }
+    QCustomPlot *plot() const { return view()->plot(); }
     /// A point of a trace in pixels of the window.
     QPoint onTrace(int traceId, int index) const
     {
         const Trace &trace = *model.trace(traceId);
         const double value = cartesianValueAt(model.data(trace), index, TraceFormat::LogMagnitude);
-        const QPointF point(
-            view()->plot()->xAxis->coordToPixel(model.network(trace).frequencies.at(index)),
-            view()->plot()->yAxis->coordToPixel(value));
-        return view()->plot()->mapTo(&window, point.toPoint());
+        const double hertz = model.network(trace).frequencies.at(index);
+        const QPointF point(plot()->xAxis->coordToPixel(hertz), plot()->yAxis->coordToPixel(value));
+        return plot()->mapTo(&window, point.toPoint());
     }
-    QWindow *screen() const { return window.windowHandle(); }
+    QCPRange x() const { return plot()->xAxis->range(); }
+    QCPRange y() const { return plot()->yAxis->range(); }
 };
 
 } // namespace
@@ -60,7 +59,7 @@ private Q_SLOTS:
     void anotherScreenHasAnotherPixelRatio()
     {
         Desk desk;
-        QCustomPlot *plot = desk.view()->plot();
+        QCustomPlot *plot = desk.plot();
         const double ratio = plot->devicePixelRatioF();
         plot->setBufferDevicePixelRatio(3.0 * ratio);
         int replots = 0;
@@ -75,14 +74,12 @@ private Q_SLOTS:
 
     void readsDecibelsAndDegrees()
     {
-        const auto decibels = TraceFormat::LogMagnitude;
-        const auto degrees = TraceFormat::Phase;
-        QCOMPARE(cartesianValue(0.0, -0.1, decibels), -20.0);
-        QCOMPARE(cartesianValue(0.0, 0.0, decibels), -300.0);
-        QCOMPARE(cartesianValue(-1.0, 0.0, degrees), 180.0);
-        QCOMPARE(cartesianValue(1.0, -1.0, degrees), -45.0);
-        QCOMPARE(cartesianText(-1.324, decibels), "\u22121.32 dB"_s);
-        QCOMPARE(cartesianText(90.0, degrees), "90.0\u00b0"_s);
+        QCOMPARE(cartesianValue(0.0, -0.1, TraceFormat::LogMagnitude), -20.0);
+        QCOMPARE(cartesianValue(0.0, 0.0, TraceFormat::LogMagnitude), -300.0);
+        QCOMPARE(cartesianValue(-1.0, 0.0, TraceFormat::Phase), 180.0);
+        QCOMPARE(cartesianValue(1.0, -1.0, TraceFormat::Phase), -45.0);
+        QCOMPARE(cartesianText(-1.324, TraceFormat::LogMagnitude), "\u22121.32 dB"_s);
+        QCOMPARE(cartesianText(90.0, TraceFormat::Phase), "90.0\u00b0"_s);
     }
 
     void thinsWithoutLosingPeaks()
@@ -100,14 +97,13 @@ private Q_SLOTS:
                 QCOMPARE(line.frequencies.first(), network.frequencies.first());
                 QCOMPARE(line.frequencies.last(), network.frequencies.last());
                 QVERIFY(std::is_sorted(line.frequencies.begin(), line.frequencies.end()));
-                double low = 1e9, high = -1e9;
-                for (int i = 0; i < points; ++i) {
-                    const double value = cartesianValueAt(parameter, i, format);
-                    low = qMin(low, value);
-                    high = qMax(high, value);
-                }
-                QCOMPARE(*std::min_element(line.values.begin(), line.values.end()), low);
-                QCOMPARE(*std::max_element(line.values.begin(), line.values.end()), high);
+                QVector<double> all;
+                for (int i = 0; i < points; ++i)
+                    all << cartesianValueAt(parameter, i, format);
+                const auto [least, most] = std::minmax_element(all.begin(), all.end());
+                const auto ends = std::minmax_element(line.values.begin(), line.values.end());
+                QCOMPARE(*ends.first, *least);
+                QCOMPARE(*ends.second, *most);
             }
         }
     }
@@ -123,8 +119,8 @@ private Q_SLOTS:
         QCOMPARE(s21->pen().color(), currentLook().trace(3));
         bool found = false;
         QVERIFY(s21->getValueRange(found).upper > -3.0);
-        QVERIFY(desk.view()->plot()->yAxis->range() == QCPRange(-100.0, 0.0));
-        QVERIFY(desk.view()->plot()->xAxis->range() == QCPRange(2.3e9, 2.6e9));
+        QVERIFY(desk.y() == QCPRange(-100.0, 0.0));
+        QVERIFY(desk.x() == QCPRange(2.3e9, 2.6e9));
 
         desk.model.setActiveTrace(4);
         QCOMPARE(desk.view()->graph(4)->layer()->name(), "activeTrace"_s);
@@ -159,7 +155,7 @@ private Q_SLOTS:
     void markersFollowTheirPointer()
     {
         Desk desk;
-        QTest::mouseDClick(desk.screen(), Qt::LeftButton, Qt::NoModifier, desk.onTrace(3, 600));
+        mouseDoubleClick(&desk.window, desk.onTrace(3, 600));
         QCOMPARE(desk.model.activeTrace()->id, 3);
         const Marker *marker = desk.model.marker(3, 1);
         QVERIFY(marker && std::abs(marker->index - 600.0) < 4.0);
@@ -169,14 +165,13 @@ private Q_SLOTS:
         // Its triangle stands on the point.
         const QPoint grip = desk.onTrace(3, int(marker->index)) - QPoint(0, 8);
         const QPoint to(desk.onTrace(3, 900).x(), grip.y());
-        mouseDrag(desk.screen(), grip, to, 5);
+        mouseDrag(desk.window.windowHandle(), grip, to, 5);
         QVERIFY(std::abs(marker->index - 900.0) < 4.0);
         const double index = marker->index;
-        const QPointF position = desk.view()->marker(3, 1)->getTracer()->position->coords();
-        QCOMPARE(position.y(),
-                 cartesianValueAt(desk.model.data(*desk.model.trace(3)), index,
-                                  TraceFormat::LogMagnitude));
-        QTest::mouseMove(desk.screen(), grip);
+        const Parameter &data = desk.model.data(*desk.model.trace(3));
+        QCOMPARE(desk.view()->marker(3, 1)->getTracer()->position->value(),
+                 cartesianValueAt(data, index, TraceFormat::LogMagnitude));
+        mouseMove(&desk.window, grip);
         QCOMPARE(marker->index, index);
 
         desk.model.setTraceVisible(3, false);
@@ -184,8 +179,7 @@ private Q_SLOTS:
         desk.model.setTraceVisible(3, true);
         // Beside the marker a tap selects none, and activates the diagram it is on.
         desk.model.setActiveTrace(1);
-        QTest::mouseClick(desk.screen(), Qt::LeftButton, Qt::NoModifier,
-                          desk.onTrace(3, 300) + QPoint(0, 60));
+        mouseClick(&desk.window, desk.onTrace(3, 300) + QPoint(0, 60));
         QCOMPARE(desk.model.activeTrace()->id, 3);
         QVERIFY(!desk.model.selectedMarker());
         desk.model.removeMarker(3, 1);
@@ -198,13 +192,11 @@ private Q_SLOTS:
         desk.model.setNetworks({slope(1001)});
         Desk::settle();
         // Room for the spike of 20 dB.
-        QVERIFY(desk.view()->plot()->yAxis->range() == QCPRange(-80.0, 20.0));
+        QVERIFY(desk.y() == QCPRange(-80.0, 20.0));
         desk.model.addMarker(3, 1000.0);
-        Network network = slope(200001);
-        for (double &frequency : network.frequencies)
-            frequency += 5e8;
+        Network network = slope(200001, 1.5e9, 2.5e9);
         QVERIFY(desk.model.updateNetwork(0, network));
-        QVERIFY(desk.view()->plot()->xAxis->range() == QCPRange(1.5e9, 2.5e9));
+        QVERIFY(desk.x() == QCPRange(1.5e9, 2.5e9));
         QVERIFY(desk.view()->drawnPoints() < 20000);
         // The marker kept its frequency, which is in the middle now.
         QCOMPARE(desk.model.marker(3, 1)->index, 100000.0);
@@ -214,7 +206,7 @@ private Q_SLOTS:
         QVERIFY(std::abs(position().x() - 2e9) < 1.0 && std::abs(position().y() + 20.0) < 0.01);
 
         Q_EMIT desk.keys().format->choicePicked(int(TraceFormat::Phase));
-        QVERIFY(desk.view()->plot()->yAxis->range() == QCPRange(-180.0, 180.0));
+        QVERIFY(desk.y() == QCPRange(-180.0, 180.0));
         const double turned = std::remainder(10.0 * 180.0 / std::acos(-1.0), 360.0);
         QVERIFY(std::abs(position().y() - turned) < 0.01);
 
@@ -227,10 +219,7 @@ private Q_SLOTS:
 
         // The limit of the zoom holds over other frequencies, too.
         desk.view()->setZoom(DiagramView::mostZoom);
-        Network wider = slope(1001);
-        for (double &frequency : wider.frequencies)
-            frequency *= 4.0;
-        desk.model.setNetworks({wider});
+        desk.model.setNetworks({slope(1001, 4e9, 8e9)});
         QCOMPARE(desk.view()->zoom(), DiagramView::mostZoom);
         // A view without traces has no other frequencies, and no other magnification than any.
         QCOMPARE(CartesianView(&desk.model).zoom(), 1.0);

@@ -42,11 +42,11 @@ private Q_SLOTS:
             const CommandLine result =
                 parseCommandLine(arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
             QCOMPARE(result.error, error);
-            if (!error.isEmpty())
-                continue;
-            QCOMPARE(result.files, files);
-            QCOMPARE(result.grabFolder, folder);
-            QCOMPARE(result.size, wanted);
+            if (error.isEmpty()) {
+                QCOMPARE(result.files, files);
+                QCOMPARE(result.grabFolder, folder);
+                QCOMPARE(result.size, wanted);
+            }
         }
     }
 
@@ -67,10 +67,10 @@ private Q_SLOTS:
         const QDir pictures(folder.filePath("new/folder"_s));
         const QStringList names = pictures.entryList(QDir::Files);
         QVERIFY(names.size() >= 10);
+        const QStringList dialogs{"file-dialog.png"_s, "help.png"_s, "settings.png"_s};
         QList<QImage> screens;
         for (const QString &name : names) {
             const QImage screen(pictures.filePath(name));
-            const QStringList dialogs{"file-dialog.png"_s, "help.png"_s, "settings.png"_s};
             if (!dialogs.contains(name))
                 QCOMPARE(screen.size(), QSize(800, 480));
             QVERIFY2(!screens.contains(screen), qPrintable(name));
@@ -80,37 +80,25 @@ private Q_SLOTS:
 
     void answers()
     {
-        const struct {
-            QStringList arguments;
-            int status;
-            QString output, errors;
-        } rows[] = {
-            {{"--help"_s}, 0, "Usage: vnapanel [options] [files]\n"_s, ""_s},
-            {{"--version"_s}, 0, "vnapanel 0."_s, ""_s},
-            {{"--what"_s},
-             2,
-             ""_s,
-             "vnapanel: There is no option --what. Try vnapanel --help.\n"_s},
-            {{"--grab=."_s, "none.s1p"_s},
-             1,
-             ""_s,
-             "vnapanel: none.s1p: there is no such file.\n"_s},
-            {{"--grab=file/below"_s},
-             1,
-             ""_s,
-             "vnapanel: file/below: the folder cannot be made.\n"_s},
+        // What succeeds is written to the standard output, and a fault to the other one.
+        const std::tuple<QString, int, QString> rows[] = {
+            {"--help"_s, 0, "Usage: vnapanel [options] [files]\n"_s},
+            {"--version"_s, 0, "vnapanel 0."_s},
+            {"--what"_s, 2, "vnapanel: There is no option --what. Try vnapanel --help.\n"_s},
+            {"--grab=. none.s1p"_s, 1, "vnapanel: none.s1p: there is no such file.\n"_s},
+            {"--grab=file/below"_s, 1, "vnapanel: file/below: the folder cannot be made.\n"_s},
         };
         const QTemporaryDir folder;
-        QFile file(folder.filePath("file"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        for (const auto &[arguments, status, output, errors] : rows) {
-            const Row row(arguments.first());
+        writeFile(folder.filePath("file"_s), {});
+        for (const auto &[arguments, status, text] : rows) {
+            const Row row(arguments);
             QProcess panel;
             panel.setWorkingDirectory(folder.path());
-            panel.start(QStringLiteral(VNAPANEL_PROGRAM), arguments);
+            panel.start(QStringLiteral(VNAPANEL_PROGRAM), arguments.split(QLatin1Char(' ')));
             QVERIFY(panel.waitForFinished(60000));
-            QCOMPARE(QString::fromUtf8(panel.readAllStandardError()), errors);
-            QCOMPARE(QString::fromUtf8(panel.readAllStandardOutput()).left(output.size()), output);
+            const QString output = QString::fromUtf8(panel.readAllStandardOutput());
+            QVERIFY2(status || output.startsWith(text), qPrintable(output));
+            QCOMPARE(QString::fromUtf8(panel.readAllStandardError()), status ? text : QString());
             QCOMPARE(panel.exitCode(), status);
         }
     }

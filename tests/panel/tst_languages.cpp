@@ -3,7 +3,6 @@
 #include "desk.h"
 
 #include <panel/languages.h>
-#include <panel/look.h>
 #include <panel/simulateddevice.h>
 #include <panel/sweepbar.h>
 #include <panel/touchstone.h>

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
 
-#include <panel/look.h>
 #include <panel/readouts.h>
 #include <widgets/markerstatusitem.h>
 
@@ -25,7 +24,8 @@ private Q_SLOTS:
         QCOMPARE(desk.model.activeTrace()->id, 2);
         QCOMPARE(desk.model.markers().size(), 1);
         QVERIFY(desk.model.marker(2, 1)->index > last - 20.0);
-        QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+        const auto isShown = [&desk] { return desk.chart()->getMarker(2, 1)->isVisible(); };
+        QVERIFY(isShown());
         QVERIFY(desk.view()->readOuts()->height() > 10);
 
         // On a marker a double click means that marker, and adds none.
@@ -34,13 +34,13 @@ private Q_SLOTS:
 
         // A new chart and a hidden trace take the marker with them.
         desk.model.viewSettings()->setDensity(SmithChart::Basic);
-        QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+        QVERIFY(isShown());
         desk.model.setTraceVisible(2, false);
-        QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
+        QVERIFY(!isShown());
         desk.model.viewSettings()->setDensity(SmithChart::Standard);
-        QVERIFY(!desk.chart()->getMarker(2, 1)->isVisible());
+        QVERIFY(!isShown());
         desk.model.setTraceVisible(2, true);
-        QVERIFY(desk.chart()->getMarker(2, 1)->isVisible());
+        QVERIFY(isShown());
     }
 
     void markersFollowTheirPointer()
@@ -49,29 +49,24 @@ private Q_SLOTS:
         desk.model.addMarker(1, 0.0);
         desk.model.addMarker(2, 0.0);
         ChartDesk::settle();
-        const SmithChart::ViewState view = desk.chart()->viewState();
         desk.drag(desk.onTrace(1, 0), desk.onTrace(1, 100));
-        QVERIFY2(std::abs(desk.model.marker(1, 1)->index - 100.0) < 10.0,
-                 qPrintable(QString::number(desk.model.marker(1, 1)->index)));
+        const double index = desk.model.marker(1, 1)->index;
+        QVERIFY2(std::abs(index - 100.0) < 10.0, qPrintable(QString::number(index)));
         QCOMPARE(desk.model.selectedMarker(), desk.model.marker(1, 1));
         QCOMPARE(desk.model.activeTrace()->id, 1);
-        QCOMPARE(desk.chart()->viewState().zoom, view.zoom);
+        QCOMPARE(desk.view()->zoom(), 1.0);
 
-        const double index = desk.model.marker(1, 1)->index;
-        desk.press(Qt::Key_Right);
-        desk.press(Qt::Key_Right);
-        desk.press(Qt::Key_Left);
+        for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left})
+            desk.press(key);
         QCOMPARE(desk.model.marker(1, 1)->index, index + 1.0);
         desk.press(Qt::Key_Delete);
         QVERIFY(!desk.model.marker(1, 1));
         QVERIFY(desk.model.marker(2, 1));
 
         // A tap on free space selects none, one on a marker that marker.
-        QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          desk.inWindow(desk.onTrace(2, 0)));
+        mouseClick(desk.plot(), desk.onTrace(2, 0));
         QCOMPARE(desk.model.selectedMarker(), desk.model.marker(2, 1));
-        QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          desk.inWindow(desk.onPlot(0.01, 0.01)));
+        mouseClick(desk.plot(), desk.onPlot(0.01, 0.01));
         QVERIFY(!desk.model.selectedMarker());
     }
 

@@ -3,11 +3,11 @@
 #include "desk.h"
 
 #include <controls/thememanager.h>
-#include <panel/look.h>
 #include <panel/panelstate.h>
 
 using namespace VnaTest;
 using namespace Panel;
+using Controls::ThemeManager;
 
 namespace
 {
@@ -16,12 +16,6 @@ QByteArray read(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
 } // namespace
@@ -37,7 +31,6 @@ private Q_SLOTS:
     void init()
     {
         TestCase::init();
-        using Controls::ThemeManager;
         PanelDesk desk;
         QFile::copy(sampleFolder() + "/amplifier.s2p"_s, path("a.s2p"));
         desk.controller.openFiles({path("a.s2p")});
@@ -59,7 +52,14 @@ private Q_SLOTS:
         desk.model.setReferenceMarker(2, 2);
         desk.controller.setScreenshotFolder(path("pictures"));
         QVERIFY(PanelState(path("state.ini")).save(desk.model, desk.controller, "de"_s));
+        m_saved = read(path("state.ini"));
         ThemeManager::instance()->setTheme(ThemeManager::Dark);
+    }
+
+    void cleanup()
+    {
+        ThemeManager::instance()->setTheme(ThemeManager::Dark);
+        TestCase::cleanup();
     }
 
     void comesBack()
@@ -72,8 +72,7 @@ private Q_SLOTS:
         PanelDesk desk;
         desk.controller.openFiles(state.files());
         state.restore(&desk.model, &desk.controller);
-        QVERIFY(Controls::ThemeManager::instance()->isLightTheme());
-        Controls::ThemeManager::instance()->setTheme(Controls::ThemeManager::Dark);
+        QVERIFY(ThemeManager::instance()->isLightTheme());
         const ViewSettings *view = desk.model.viewSettings();
         QCOMPARE(view->diagramLayout(), Graph::LayoutType::Quad);
         QCOMPARE(view->gridMode(), SmithChartPlot::Admittance);
@@ -94,14 +93,12 @@ private Q_SLOTS:
         PanelDesk other;
         other.controller.openFiles({sampleFolder() + "/antenna.s1p"_s});
         state.restore(&other.model, &other.controller);
-        Controls::ThemeManager::instance()->setTheme(Controls::ThemeManager::Dark);
         QVERIFY(other.model.markers().isEmpty());
         QCOMPARE(other.model.viewSettings()->gridMode(), SmithChartPlot::Admittance);
     }
 
     void refusesWhatIsNoState()
     {
-        const QByteArray whole = read(path("state.ini"));
         for (const auto &[before, after] : {std::pair("version=1\n", "version=2\n"),
                                             {"version=1\n", "\n"},
                                             {"grid=1", "grid=3"},
@@ -113,9 +110,8 @@ private Q_SLOTS:
                                             {"1\\number=1", "1\\number=99"},
                                             {"size=4", "size=-4"}}) {
             const Row row(QString::fromLatin1(after));
-            QVERIFY2(whole.contains(before), whole.constData());
-            write(path("bad.ini"), QByteArray(whole).replace(before, after));
-            const PanelState state(path("bad.ini"));
+            QVERIFY2(m_saved.contains(before), m_saved.constData());
+            const PanelState state = damaged(QByteArray(m_saved).replace(before, after));
             const bool isOther = QLatin1String(after) == "version=2\n"_s;
             QVERIFY2(state.note().contains(isOther ? "version"_s : "damaged"_s),
                      qPrintable(state.note()));
@@ -125,45 +121,41 @@ private Q_SLOTS:
 
     void survivesDamage()
     {
-        const QByteArray whole = read(path("state.ini"));
         PanelDesk desk;
-        const auto tryBytes = [&](const QByteArray &bytes) {
-            write(path("bad.ini"), bytes);
-            const PanelState state(path("bad.ini"));
-            state.restore(&desk.model, &desk.controller);
-        };
-        for (int size = 0; size < whole.size(); size += 17)
-            tryBytes(whole.left(size));
-        QByteArray bytes = whole;
-        for (int i = 0; i < whole.size(); i += 11) {
-            bytes[i] = char(whole.at(i) ^ (1 + i % 255));
-            tryBytes(bytes);
-            bytes[i] = whole.at(i);
+        for (int size = 0; size < m_saved.size(); size += 17)
+            damaged(m_saved.left(size)).restore(&desk.model, &desk.controller);
+        for (int i = 0; i < m_saved.size(); i += 11) {
+            QByteArray bytes = m_saved;
+            bytes[i] = char(bytes.at(i) ^ (1 + i % 255));
+            damaged(bytes).restore(&desk.model, &desk.controller);
         }
-        Controls::ThemeManager::instance()->setTheme(Controls::ThemeManager::Dark);
         for (const Trace &trace : desk.model.traces())
             QVERIFY(trace.scale.perDivision > 0.0);
 
         QVERIFY(!PanelState(m_folder.path()).note().isEmpty()); // a folder
         // What is saved later replaces it.
         for (const QByteArray &bad :
-             {QByteArray(2 << 20, '#'), "[traces\nno line of ours\n" + whole}) {
-            write(path("bad.ini"), bad);
-            const PanelState refused(path("bad.ini"));
+             {QByteArray(2 << 20, '#'), "[traces\nno line of ours\n" + m_saved}) {
+            const PanelState refused = damaged(bad);
             QVERIFY(!refused.note().isEmpty());
             QVERIFY(refused.save(desk.model, desk.controller, "de"_s));
             QCOMPARE(PanelState(path("bad.ini")).language(), "de"_s);
         }
         QCOMPARE(read(path("bad.ini.damaged")), QByteArray(2 << 20, '#')); // the first one is kept
         QCOMPARE(PanelState(path("none.ini")).note(), QString());
-        write(path("file"), {});
+        writeFile(path("file"), {});
         QVERIFY(!PanelState(path("file/state.ini")).save(desk.model, desk.controller, "en"_s));
     }
 
 private:
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
+    PanelState damaged(const QByteArray &bytes) const
+    {
+        return PanelState(writeFile(path("bad.ini"), bytes));
+    }
 
     QTemporaryDir m_folder;
+    QByteArray m_saved; ///< what init() has saved
 };
 
 QTEST_MAIN(PanelStateTest)

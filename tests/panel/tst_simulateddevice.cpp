@@ -35,11 +35,7 @@ private Q_SLOTS:
     {
         const auto usual = SimulatedDevice::usualSweep;
         const double lowest = Sweep::lowest;
-        const struct {
-            SimulatedDevice::Kind kind;
-            Sweep sweep;
-            int ports;
-        } rows[] = {
+        const std::tuple<SimulatedDevice::Kind, Sweep, int> rows[] = {
             {SimulatedDevice::Antenna, usual(SimulatedDevice::Antenna, 1001), 1},
             {SimulatedDevice::Antenna, usual(SimulatedDevice::Antenna, Sweep::mostPoints), 1},
             {SimulatedDevice::Filter, usual(SimulatedDevice::Filter, 100001), 2},
@@ -62,13 +58,8 @@ private Q_SLOTS:
                 for (const Parameter &parameter : network.parameters) {
                     QCOMPARE(parameter.real.size(), sweep.points);
                     QCOMPARE(parameter.imag.size(), sweep.points);
-                    double largest = 0.0;
-                    for (int i = 0; i < sweep.points; ++i) {
-                        if (!std::isfinite(magnitude(parameter, i)))
-                            QFAIL("not finite");
-                        largest = qMax(largest, magnitude(parameter, i));
-                    }
-                    QVERIFY2(largest <= 1.0, qPrintable(QString::number(largest, 'g', 12)));
+                    for (int i = 0; i < sweep.points; ++i)
+                        QVERIFY(magnitude(parameter, i) <= 1.0); // as NaN is not
                 }
             }
         }
@@ -90,14 +81,16 @@ private Q_SLOTS:
     void driftsAndRepeats()
     {
         SimulatedDevice device(SimulatedDevice::Cable, {10e6, 1e9, 2001});
-        const QVector<double> first = measured(device, 7).parameters.first().real;
-        QCOMPARE(measured(device, 7).parameters.first().real, first);
-        QVERIFY(measured(device, 8).parameters.first().real != first);
+        const auto real = [&device](quint64 moment) {
+            return measured(device, moment).parameters.first().real;
+        };
+        const QVector<double> first = real(7);
+        QCOMPARE(real(7), first);
+        QVERIFY(real(8) != first);
 
         // The noise is there, has no bias to speak of and keeps its limit.
         const double limit = SimulatedDevice::noise(SimulatedDevice::Cable);
-        const QVector<double> second =
-            measured(device, 367).parameters.first().real; // one drift later
+        const QVector<double> second = real(367); // one drift later
         double sum = 0.0, largest = 0.0;
         for (int i = 0; i < first.size(); ++i) {
             sum += second.at(i) - first.at(i);
@@ -110,7 +103,6 @@ private Q_SLOTS:
     void checksSweeps()
     {
         QVERIFY((Sweep{1e6, 9e9, 1000001}).isValid());
-        QVERIFY((Sweep{1e9, 2e9, 201}).isValid());
         // Too few and too many points, reversed, empty, too high, and no number.
         for (const Sweep &sweep :
              {Sweep{1e9, 2e9, 200}, Sweep{1e9, 2e9, 1000002}, Sweep{2e9, 1e9, 201},
@@ -128,8 +120,8 @@ private Q_SLOTS:
             int best = 0;
             for (int i = 0; i < 2501; ++i)
                 best = magnitude(s, i) < magnitude(s, best) ? i : best;
-            QVERIFY2(std::abs(sweep.frame().frequencies.at(best) - tuning) < 0.1 * tuning,
-                     qPrintable(QString::number(sweep.frame().frequencies.at(best))));
+            const double found = sweep.frame().frequencies.at(best);
+            QVERIFY2(std::abs(found - tuning) < 0.1 * tuning, qPrintable(QString::number(found)));
         }
     }
 
@@ -189,8 +181,7 @@ private Q_SLOTS:
             QTest::qWait(5 * SweepSource::frameInterval);
             return frames.size() == before;
         };
-        const Sweep sweep{1e9, 2e9, 201};
-        source.start(SimulatedDevice::Antenna, sweep);
+        source.start(SimulatedDevice::Antenna, {1e9, 2e9, 201});
         QVERIFY(frames.isEmpty());
         QTRY_VERIFY(frames.size() >= 3);
         QVERIFY(frames.at(0) != frames.at(1) && frames.at(1) != frames.at(2));

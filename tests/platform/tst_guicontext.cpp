@@ -19,12 +19,11 @@ private Q_SLOTS:
     {
         GUIContext *context = GUIContext::instance();
         QVERIFY(context->getIsDarkTheme());
-        QSignalSpy changed(context, &GUIContext::darkThemeChanged);
+        QStringList told;
+        note(told, "dark", context, &GUIContext::darkThemeChanged);
         context->setIsDarkTheme(true);
-        QCOMPARE(changed.count(), 0);
         context->setIsDarkTheme(false);
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(changed.at(0).at(0).toBool(), false);
+        QCOMPARE(told, QStringList("dark false"_s));
         QVERIFY(!context->getIsDarkTheme());
     }
 
@@ -32,16 +31,17 @@ private Q_SLOTS:
     {
         Translator *translator = Translator::instance();
         QCOMPARE(translator->currentLanguage(), "English"_s);
-        QSignalSpy changed(translator, &Translator::languageChanged);
+        QStringList told;
+        note(told, "spoken:", translator, &Translator::languageChanged);
         translator->setLanguage(QLocale(QLocale::English, QLocale::UnitedKingdom));
         translator->setLanguage(QLocale::c());
-        QCOMPARE(changed.count(), 0);
+        QVERIFY(told.isEmpty());
         translator->setLanguage(QLocale(QLocale::Chinese, QLocale::China));
         QVERIFY(translator->currentLanguage().contains(QChar(0x4E2D)));
         translator->setLanguage(QLocale(QLocale::German));
         QCOMPARE(translator->currentLanguage(), "Deutsch"_s);
-        QCOMPARE(changed.count(), 2);
-        QCOMPARE(changed.at(1).at(0).toString(), "Deutsch"_s);
+        QCOMPARE(told.count(), 2);
+        QCOMPARE(told.last(), "spoken: Deutsch"_s);
     }
 };
 

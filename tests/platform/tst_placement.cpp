@@ -15,12 +15,7 @@ private Q_SLOTS:
     {
         // The bounds are 800 x 480 at (100, 50) with a margin of 5: 105..895 by 55..525.
         const QSize popup(200, 100);
-        const struct {
-            const char *name;
-            QPoint wanted;
-            QSize size;
-            QPoint expected;
-        } rows[] = {
+        const std::tuple<const char *, QPoint, QSize, QPoint> rows[] = {
             {"inside", {300, 200}, popup, {300, 200}},
             {"exactly bottom right", {695, 425}, popup, {695, 425}},
             {"one past bottom right", {696, 426}, popup, {695, 425}},
@@ -29,10 +24,9 @@ private Q_SLOTS:
             {"too high", {300, 200}, {100, 471}, {300, 55}},
             {"empty", {2000, 2000}, {0, 0}, {895, 525}},
         };
-        for (const auto &row : rows) {
-            const Row name(QLatin1String(row.name));
-            const QRect bounds(100, 50, 800, 480);
-            QCOMPARE(Utils::boundedTopLeft(row.wanted, row.size, bounds, 5), row.expected);
+        for (const auto &[name, wanted, size, expected] : rows) {
+            const Row row(QLatin1String{name});
+            QCOMPARE(Utils::boundedTopLeft(wanted, size, {100, 50, 800, 480}, 5), expected);
         }
     }
 

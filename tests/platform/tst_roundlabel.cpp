@@ -15,9 +15,7 @@ private Q_SLOTS:
     void roundsRatherThanCuts()
     {
         const QString frequency = "100.123456789GHz"_s;
-        const struct {
-            QString text, room, shown;
-        } rows[] = {
+        const std::tuple<QString, QString, QString> rows[] = {
             {frequency, frequency, frequency},
             {frequency, "100.123457GHz"_s, "100.123457GHz"_s}, // rounds up
             {frequency, "100GHz"_s, "100GHz"_s},
@@ -28,21 +26,21 @@ private Q_SLOTS:
             // Rounding 2.412 alone would show another frequency.
             {"2.412 000 GHz"_s, "2.412 00 GH"_s, "2.412 00…"_s},
         };
-        for (const auto &expected : rows) {
-            const Row row(expected.shown);
+        for (const auto &[text, room, shown] : rows) {
+            const Row row(shown);
             RoundLabel label;
-            label.resize(label.fontMetrics().horizontalAdvance(expected.room), 30);
-            label.setText(expected.text);
+            label.resize(label.fontMetrics().horizontalAdvance(room), 30);
+            label.setText(text);
             label.show();
-            QCOMPARE(label.text(), expected.text);
+            QCOMPARE(label.text(), text);
             // Where an ellipsis begins depends on the font.
-            if (expected.shown.endsWith("…"_s))
+            if (shown.endsWith("…"_s))
                 QVERIFY2(label.shownText().endsWith("…"_s), qPrintable(label.shownText()));
             else
-                QCOMPARE(label.shownText(), expected.shown);
+                QCOMPARE(label.shownText(), shown);
             QVERIFY(label.fontMetrics().horizontalAdvance(label.shownText()) <= label.width());
             label.resize(1000, 30);
-            QCOMPARE(label.shownText(), expected.text);
+            QCOMPARE(label.shownText(), text);
         }
         RoundLabel label; // several lines stay whole
         label.resize(10, 40);

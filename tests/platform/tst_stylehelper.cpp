@@ -11,12 +11,9 @@ namespace
 {
 
 /// Counts how often the widget is given a style anew.
-class PolishCounter : public QLabel
-{
-public:
+struct PolishCounter : QLabel {
     int count = 0;
 
-protected:
     void changeEvent(QEvent *event) override
     {
         QLabel::changeEvent(event);
@@ -34,9 +31,7 @@ class tst_StyleHelper : public TestCase
 
     QString write(const QString &name, const QByteArray &text) const
     {
-        QFile file(m_folder.filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() ? file.fileName()
-                                                                                  : QString();
+        return writeFile(m_folder.filePath(name), text);
     }
 
 private Q_SLOTS:

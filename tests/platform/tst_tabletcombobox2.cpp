@@ -19,12 +19,12 @@ namespace
 /// Offers three of the four layouts.
 std::unique_ptr<Adapter> adapterOf(LayoutManagerProifle *profile)
 {
-    return std::make_unique<Adapter>(QVector<Adapter::Entry>{{LayoutType::Quad, "four"_s},
-                                                             {LayoutType::Single, "one"_s},
-                                                             {LayoutType::Stacked, "two"_s}},
-                                     profile, &LayoutManagerProifle::layoutType,
-                                     &LayoutManagerProifle::setLayoutType,
-                                     &LayoutManagerProifle::layoutTypeChanged);
+    using P = LayoutManagerProifle;
+    const QVector<Adapter::Entry> entries{{LayoutType::Quad, "four"_s},
+                                          {LayoutType::Single, "one"_s},
+                                          {LayoutType::Stacked, "two"_s}};
+    return std::make_unique<Adapter>(entries, profile, &P::layoutType, &P::setLayoutType,
+                                     &P::layoutTypeChanged);
 }
 
 /// A box bound to a profile of its own.

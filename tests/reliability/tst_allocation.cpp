@@ -164,8 +164,7 @@ private Q_SLOTS:
         int failures = 0;
         for (long k = 1;; ++k) {
             const long before = t_held;
-            bool right = false;
-            bool threw = false;
+            bool right = false, threw = false;
             t_failAt = k;
             try {
                 right = task();

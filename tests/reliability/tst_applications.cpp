@@ -1,17 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One process may have an application after another, as hosts' own tests do: what the library keeps for the
-// life of the process must not hold on to the first one.
+// One process may have an application after another, as hosts' own tests do: what the library keeps
+// for the life of the process must not hold on to the first one.
 #include <controls/thememanager.h>
 #include <controls/touchnumkeyboard.h>
 #include <smithchart/smithchartplot.h>
 #include <widgets/lockwidget.h>
 #include <widgets/menubutton.h>
 
-#include <QApplication>
-#include <QtTest>
-
-#include <tables.h>
 #include <vnatest.h>
 
 using namespace VnaTest;

@@ -14,19 +14,17 @@
 #include <widgets/enumtextbutton.h>
 #include <widgets/lockwidget.h>
 #include <widgets/menubutton.h>
-#include <widgets/popupwidget.h>
 
 #include <fuzz/census.h>
 
 #include <algorithm>
 #include <memory>
-#include <numeric>
 #include <vector>
 
 #include <popupscene.h>
-#include <vnatest.h>
 
 using namespace Controls;
+using namespace Graph;
 using namespace VnaTest;
 
 namespace
@@ -260,10 +258,9 @@ void makeOverlay(Scene &s)
                 itsOverlay->attachToHost(itsHost);
         }
     };
-    s.signal("outside", 2, &OverlayContainer::outsideClicked, [&s] {
-        press(s.part<QWidget>(2), {1, 1});
-    });
-    s.signal("rejected", 3, &QDialog::rejected, [&s] { press(s.part<QWidget>(2), {1, 1}); });
+    const auto pressOutside = [&s] { press(s.part<QWidget>(2), {1, 1}); };
+    s.signal("outside", 2, &OverlayContainer::outsideClicked, pressOutside);
+    s.signal("rejected", 3, &QDialog::rejected, pressOutside);
 }
 
 void makeLock(Scene &s)
@@ -337,12 +334,11 @@ Button *makeListButton(Scene &s)
         QCoreApplication::processEvents();
     };
     const auto list = [&s] { return s.parts[1]->findChild<PopupWidget *>(); };
-    s.occasions.push_back({"list closed",
-                           [list] {
-                               list()->show();
-                               list()->close();
-                           },
-                           [list](const std::function<void()> &slot) {
+    const auto close = [list] {
+        list()->show();
+        list()->close();
+    };
+    s.occasions.push_back({"list closed", close, [list](const std::function<void()> &slot) {
                                QObject::connect(list(), &PopupWidget::widgetClosed, slot);
                            }});
     window->show();
@@ -375,12 +371,12 @@ void makeMenuButton(Scene &s)
 void makeDisplayPanel(Scene &s)
 {
     auto *const window = new QWidget;
-    auto *const profile = new Graph::LayoutManagerProifle;
+    auto *const profile = new LayoutManagerProifle;
     auto *const panel = new DisplayPanel(profile, window);
     s.parts = {window, profile, panel};
     s.use = [&s] {
-        if (auto *const itsProfile = s.part<Graph::LayoutManagerProifle>(1))
-            itsProfile->setLayoutType(Graph::LayoutType::Quad);
+        if (auto *const itsProfile = s.part<LayoutManagerProifle>(1))
+            itsProfile->setLayoutType(LayoutType::Quad);
         if (auto *const itsPanel = s.part<DisplayPanel>(2)) {
             itsPanel->updateThemeIcons(false);
             QEvent language(QEvent::LanguageChange);
@@ -389,10 +385,10 @@ void makeDisplayPanel(Scene &s)
         }
     };
     const auto change = [&s] {
-        s.part<Graph::LayoutManagerProifle>(1)->setLayoutType(Graph::LayoutType::Stacked);
+        s.part<LayoutManagerProifle>(1)->setLayoutType(LayoutType::Stacked);
     };
     s.signal("changed", 2, &DisplayPanel::layoutChanged, change);
-    s.signal("profile changed", 1, &Graph::LayoutManagerProifle::layoutTypeChanged, change);
+    s.signal("profile changed", 1, &LayoutManagerProifle::layoutTypeChanged, change);
 }
 
 using Make = void (*)(Scene &);
@@ -437,58 +433,39 @@ private Q_SLOTS:
         QFETCH(Make, make);
         Scene first;
         make(first);
-        const std::size_t occasions = first.occasions.size();
-        destroy(first, numbers(first), false);
+        const QByteArray parts = QByteArray("01234567").left(int(first.parts.size()));
+        destroy(first, parts, false);
         // The last one stands for the host itself, between two calls.
-        for (std::size_t occasion = 0; occasion <= occasions; ++occasion) {
-            std::vector<std::size_t> order;
+        for (std::size_t occasion = 0; occasion <= first.occasions.size(); ++occasion) {
+            const bool inSignal = occasion < first.occasions.size();
+            QByteArray order = parts;
             int round = 0;
             do {
                 ++round;
+                // Inside of signals, one way for each order, and the other at the next signal.
+                const bool late = inSignal
+                    && (first.occasions[occasion].onlyLater || (int(occasion) + round) % 2 == 0);
                 for (const bool later : {false, true}) {
-                    // Inside of signals, one way for each order, and the other at the next signal.
-                    const bool inSignal = occasion < occasions;
-                    if (inSignal
-                        && later
-                            != (first.occasions[occasion].onlyLater
-                                || (static_cast<int>(occasion) + round) % 2 == 0))
+                    if (inSignal && later != late)
                         continue;
                     Scene scene;
                     make(scene);
-                    if (order.empty())
-                        order = numbers(scene);
                     tearDown(scene, occasion, order, later);
                     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-                    const bool left =
-                        std::any_of(scene.parts.begin(), scene.parts.end(),
-                                    [](const QPointer<QObject> &part) { return !part.isNull(); });
-                    if (left || QTest::currentTestFailed()) {
-                        QFAIL(qPrintable("occasion %1, order %2, %3"_s.arg(occasion).arg(
-                            text(order), later ? "later"_s : "now"_s)));
-                    }
+                    const auto gone = [](const auto &part) { return part.isNull(); };
+                    QVERIFY2(std::all_of(scene.parts.begin(), scene.parts.end(), gone)
+                                 && !QTest::currentTestFailed(),
+                             qPrintable("occasion %1, order %2, later: %3"_s.arg(occasion)
+                                            .arg(QLatin1String(order))
+                                            .arg(later)));
                 }
             } while (std::next_permutation(order.begin(), order.end()));
         }
     }
 
 private:
-    static std::vector<std::size_t> numbers(const Scene &scene)
-    {
-        std::vector<std::size_t> order(scene.parts.size());
-        std::iota(order.begin(), order.end(), 0);
-        return order;
-    }
-
-    static QString text(const std::vector<std::size_t> &order)
-    {
-        QString text;
-        for (const std::size_t i : order)
-            text += QString::number(i);
-        return text;
-    }
-
-    static void tearDown(Scene &scene, std::size_t occasion, const std::vector<std::size_t> &order,
-                         bool later)
+    /// The order is a text of the parts' numbers.
+    static void tearDown(Scene &scene, std::size_t occasion, const QByteArray &order, bool later)
     {
         if (occasion == scene.occasions.size()) {
             destroy(scene, order, later);
@@ -506,13 +483,14 @@ private:
         scene.use();
     }
 
-    static void destroy(Scene &scene, const std::vector<std::size_t> &order, bool later)
+    static void destroy(Scene &scene, const QByteArray &order, bool later)
     {
-        for (const std::size_t i : order) {
-            if (later && scene.parts[i])
-                scene.parts[i]->deleteLater();
+        for (const char number : order) {
+            QObject *const part = scene.parts[std::size_t(number - '0')];
+            if (later && part)
+                part->deleteLater();
             else
-                delete scene.parts[i].data();
+                delete part;
             Q_EMIT ThemeManager::instance()->themeChanged(ThemeManager::Dark);
             scene.use();
         }

@@ -4,9 +4,6 @@
 #include <smithchart/smithchartplot.h>
 #include <utils/formatting.h>
 
-#include <cmath>
-#include <limits>
-
 #include <vnatest.h>
 
 using namespace VnaTest;

@@ -53,18 +53,26 @@ inline void mouseRelease(const QWidget *widget)
 }
 
 /// The press may destroy the widget, and its window.
-inline void mouseClick(const QWidget *widget, const QPoint &pos)
+inline void mouseClick(const QWidget *widget, const QPoint &pos,
+                       Qt::MouseButton button = Qt::LeftButton)
 {
     const QPointer<QWindow> window = widget->window()->windowHandle();
     const QPoint point = inWindow(widget, pos);
-    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, point);
+    QTest::mousePress(window, button, Qt::NoModifier, point);
     if (window)
-        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, point);
+        QTest::mouseRelease(window, button, Qt::NoModifier, point);
 }
 
 inline void mouseClick(const QWidget *widget)
 {
     mouseClick(widget, widget->rect().center());
+}
+
+inline void mouseDoubleClick(const QWidget *widget, const QPoint &pos,
+                             Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mouseDClick(widget->window()->windowHandle(), button, Qt::NoModifier,
+                       inWindow(widget, pos));
 }
 
 /// Press and release of one key, with the text that a keyboard would send, to a widget's window.
@@ -118,6 +126,11 @@ public:
     void pressSecond(const QPoint &pos)
     {
         QTest::touchEvent(m_window, m_device).move(0, m_first, m_window).press(1, pos, m_window);
+    }
+    void moveBoth(const QPoint &first, const QPoint &second)
+    {
+        m_first = first;
+        QTest::touchEvent(m_window, m_device).move(0, first, m_window).move(1, second, m_window);
     }
     /// The second finger leaves again.
     void releaseSecond(const QPoint &pos)

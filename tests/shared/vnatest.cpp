@@ -82,4 +82,12 @@ QString dataPath(const QString &name)
     return QStringLiteral(VNA_TEST_DATA_DIR "/") + name;
 }
 
+QString writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
+
 } // namespace VnaTest

@@ -45,4 +45,7 @@ private:
 /// Absolute path of a file below tests/data.
 QString dataPath(const QString &name);
 
+/// Writes a file anew, and returns its path. A test that cannot do that ends at once.
+QString writeFile(const QString &path, const QByteArray &bytes);
+
 } // namespace VnaTest

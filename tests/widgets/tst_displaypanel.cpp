@@ -5,8 +5,6 @@
 #include <platform/tabletcombobox2.h>
 #include <widgets/displaypanel.h>
 
-#include <memory>
-
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -21,12 +19,6 @@ QComboBox *boxOf(const QWidget &panel)
     return panel.findChild<Profile::TabletComboBox2 *>("layoutSelectEdit"_s);
 }
 
-void changeLanguage(QWidget *panel)
-{
-    QEvent event(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(panel, &event);
-}
-
 } // namespace
 
 class tst_DisplayPanel : public TestCase
@@ -39,25 +31,23 @@ private Q_SLOTS:
         LayoutManagerProifle profile;
         profile.setLayoutType(LayoutType::Stacked);
         DisplayPanel panel(&profile);
-        QSignalSpy changed(&panel, &DisplayPanel::layoutChanged);
+        QVector<int> told;
+        connect(&panel, &DisplayPanel::layoutChanged, [&told](int type) { told << type; });
         QComboBox *box = boxOf(panel);
         QCOMPARE(box->count(), 4);
         QVERIFY(!box->accessibleName().isEmpty());
-        changeLanguage(&panel); // keeps the choice
+        QEvent language(QEvent::LanguageChange); // keeps the choice
+        QCoreApplication::sendEvent(&panel, &language);
         QCOMPARE(box->currentIndex(), 2);
         QCOMPARE(profile.layoutType(), LayoutType::Stacked);
-        QCOMPARE(changed.count(), 0);
-        QVERIFY(!box->itemIcon(3).isNull());
-
+        QVERIFY(told.isEmpty());
         panel.show();
         box->setFocus();
         QTest::keyClick(panel.windowHandle(), Qt::Key_End);
         QCOMPARE(profile.layoutType(), LayoutType::Quad);
         profile.setLayoutType(LayoutType::Single);
         QCOMPARE(box->currentIndex(), 0);
-        QCOMPARE(changed.count(), 2);
-        QCOMPARE(changed.at(0).at(0).toInt(), int(LayoutType::Quad));
-        QCOMPARE(changed.at(1).at(0).toInt(), int(LayoutType::Single));
+        QCOMPARE(told, (QVector<int>{int(LayoutType::Quad), int(LayoutType::Single)}));
     }
 
     void iconsFollowTheThemeAndTheChoiceStays()

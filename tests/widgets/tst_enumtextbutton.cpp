@@ -3,7 +3,6 @@
 #include <widgets/enumtextbutton.h>
 
 #include <popupscene.h>
-#include <vnatest.h>
 
 using namespace VnaTest;
 
@@ -46,8 +45,7 @@ private Q_SLOTS:
         QVERIFY(f.button->currentEnumSpec() == argument);
         QCOMPARE(f.told, QStringList({"toggled 20"_s, "toggled 20"_s, "toggled 20"_s}));
 
-        const QAccessibleInterface *const accessible =
-            QAccessible::queryAccessibleInterface(f.button);
+        const auto *const accessible = QAccessible::queryAccessibleInterface(f.button);
         QCOMPARE(accessible->role(), QAccessible::ComboBox);
         QCOMPARE(accessible->text(QAccessible::Value), "Argument"_s);
         QVERIFY(accessible->state().hasPopup);
@@ -57,7 +55,7 @@ private Q_SLOTS:
     {
         Scene f;
         f.button->setCurrentEnum(20);
-        f.button->setItemEnabled(0, false);
+        f.button->setItemEnabled("Log mag"_s, false);
         f.button->setEnums(Formats); // the same: nothing is rebuilt
         QVERIFY(!f.isEnabled(0));
         f.button->setEnums({{1, "SWR"_s}, {1, QString()}, {2, "SWR"_s}});
@@ -107,69 +105,19 @@ private Q_SLOTS:
         QVERIFY(f.button->hasFocus());
     }
 
-    void theTapThatClosesDoesNotReopen()
-    {
-        for (const int kind : {0, 1, 2, 3}) {
-            const bool byTouch = kind & 1;
-            const int holdMs = kind & 2 ? 300 : 0;
-            const Row row("%1, %2 ms"_s.arg(byTouch ? "finger"_s : "mouse"_s).arg(holdMs));
-            Scene f;
-            TouchScreen screen(&f.window);
-            const auto tap = [&](int hold) {
-                const QPoint centre = f.button->geometry().center();
-                byTouch ? screen.press(centre) : mousePress(&f.window, centre);
-                QTest::qWait(hold);
-                byTouch ? screen.release(centre) : mouseRelease(&f.window, centre);
-            };
-            tap(0);
-            QVERIFY(f.isOpen());
-            QSignalSpy closed(f.popup(), &PopupWidget::widgetClosed);
-            tap(holdMs);
-            QVERIFY(!f.isOpen());
-            QCOMPARE(closed.count(), 1);
-            QTest::qWait(Scene::GuardMs);
-            tap(0);
-            QVERIFY(f.isOpen());
-            f.popup()->close(); // as a press does that reaches the button as well
-            tap(holdMs);
-            QVERIFY(!f.isOpen());
-        }
-    }
+    void theTapThatClosesDoesNotReopen() { tapThatCloses<Scene>(); }
 
     void opensOnTheScreen()
     {
-        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-        for (const QPoint corner : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
-            const Row row("corner %1, %2"_s.arg(corner.x()).arg(corner.y()));
-            EnumTextButton button;
-            button.setEnums(Formats);
-            showInCorner(&button, screen, corner);
-            const auto *const popup = button.findChild<PopupWidget *>();
-            for (int round = 0; round < 2; ++round) {
-                button.click();
-                const QRect shown = popup->geometry();
-                QVERIFY(screen.adjusted(5, 5, -5, -5).contains(shown));
-                QVERIFY(corner.y() ? shown.bottom() < button.y() : shown.top() >= button.y() + 49);
-                typeKey(popup, Qt::Key_Escape);
-                QVERIFY(!popup->isVisible());
-                QTest::qWait(Scene::GuardMs);
-            }
-        }
+        EnumTextButton button;
+        button.setEnums(Formats);
+        openInCorners(&button);
     }
 
     void tilesOpenInTheMiddleOfTheWindow()
     {
         Scene f;
-        f.button->setViewMode(QListView::IconMode);
-        f.button->setIconSize(80, 70);
-        f.button->setItemCountPerRow(2);
-        f.button->setTitleText("Format"_s);
-        f.button->setTitleVisible(false);
-        f.button->setItemEnabled("Phase"_s, false);
-        QCOMPARE(f.button->iconSize(), QSize(80, 70));
-        QCOMPARE(f.button->itemCountPerRow(), 2);
-        QCOMPARE(f.button->titleText(), "Format"_s);
-        QVERIFY(!f.button->titleVisible() && !f.popup()->titleVisible() && !f.isEnabled(1));
+        setListUp(f);
         mouseClick(f.button);
         QCOMPARE(f.popup()->width(), 161);
         const QPoint middle = f.window.mapToGlobal(f.window.rect().center());

@@ -45,8 +45,7 @@ private Q_SLOTS:
         QCOMPARE(f.button->labelText(), LongValue);
         QVERIFY(f.shown().startsWith(QChar(0x2026)) && f.shown().endsWith("GHz"_s));
         QVERIFY(f.advance(f.shown()) <= 120);
-        const QAccessibleInterface *const accessible =
-            QAccessible::queryAccessibleInterface(f.button);
+        const auto *const accessible = QAccessible::queryAccessibleInterface(f.button);
         QCOMPARE(accessible->text(QAccessible::Name), "Start"_s);
         QCOMPARE(accessible->text(QAccessible::Value), LongValue);
 

@@ -4,18 +4,9 @@
 #include <platform/widgetmousemovetool.h>
 #include <widgets/lockwidget.h>
 
-#include <QAccessible>
-#include <QGraphicsOpacityEffect>
-#include <QLabel>
-#include <QPushButton>
-#include <QSequentialAnimationGroup>
-#include <QSignalSpy>
-#include <QtTest>
-
 #include <memory>
 
 #include <pointer.h>
-#include <tables.h>
 #include <vnatest.h>
 
 using Controls::ThemeManager;
@@ -27,15 +18,13 @@ namespace
 constexpr int LockedIcon = 3;
 constexpr int UnlockedIcon = 4;
 
-/// Notes which event types come through the application's filters.
-class Sink : public QObject
-{
-public:
-    QVector<int> types;
+/// Notes which type of event came through the application's filters last.
+struct Sink : QObject {
+    int last = QEvent::None;
 
     bool event(QEvent *event) override
     {
-        types << event->type();
+        last = event->type();
         return true;
     }
 };
@@ -110,23 +99,21 @@ private Q_SLOTS:
     void lockedBlocksPressesElsewhere()
     {
         Scene scene;
-        QWidget other;
-        QPushButton inOther("other window"_s, &other);
-        QSignalSpy otherClicked(&inOther, &QPushButton::clicked);
+        QPushButton other("other window"_s);
+        const QSignalSpy otherClicked(&other, &QPushButton::clicked);
         other.setGeometry(900, 100, 200, 100);
         showExposed(&other);
 
         mouseClick(&scene.button);
-        mouseClick(&inOther);
+        mouseClick(&other);
         QCOMPARE(scene.clicked.count() + otherClicked.count(), 2);
         scene.tapLock();
         QVERIFY(scene.showsIcon(LockedIcon) && !scene.blinks());
 
         mouseClick(&scene.button);
         QVERIFY(scene.blinks());
-        QTest::mouseDClick(scene.window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                           inWindow(&scene.button, {10, 10}));
-        mouseClick(&inOther);
+        mouseDoubleClick(&scene.button, {10, 10});
+        mouseClick(&other);
         TouchScreen touch(&scene.window);
         touch.tap(inWindow(&scene.button, {10, 10}));
         QVERIFY(!scene.button.isDown());
@@ -170,21 +157,19 @@ private Q_SLOTS:
         QCOMPARE(scene.clicked.count(), 1);
 
         Sink sink;
-        QVector<int> expected;
         const QVector<int> blocked{QEvent::MouseButtonPress, QEvent::MouseButtonDblClick,
                                    QEvent::TouchBegin};
         for (int type = QEvent::Timer; type <= QEvent::TabletTrackingChange; ++type) {
             if (blocked.contains(type))
                 continue;
-            expected << type;
             QEvent event{QEvent::Type(type)};
             QCoreApplication::sendEvent(&sink, &event);
+            QCOMPARE(sink.last, type);
         }
-        QCOMPARE(sink.types, expected);
         // A touch that tells no place passes as well.
         QTouchEvent empty(QEvent::TouchBegin);
         QCoreApplication::sendEvent(&sink, &empty);
-        QCOMPARE(sink.types.last(), int(QEvent::TouchBegin));
+        QCOMPARE(sink.last, int(QEvent::TouchBegin));
         QVERIFY(!scene.blinks());
     }
 
@@ -196,14 +181,7 @@ private Q_SLOTS:
             touch.tap(scene.center());
             QVERIFY(scene.showsIcon(icon));
         }
-        // A cancelled touch is no tap.
-        touch.press(scene.center());
-        sendTouchWithoutPoints(scene.lock.get(), QEvent::TouchCancel);
-        touch.release(scene.center());
-        QVERIFY(scene.showsIcon(UnlockedIcon));
-
-        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(scene.lock.get());
-        QVERIFY(accessible);
+        auto *const accessible = QAccessible::queryAccessibleInterface(scene.lock.get());
         QCOMPARE(accessible->role(), QAccessible::CheckBox);
         QCOMPARE(accessible->text(QAccessible::Name), "Screen lock"_s);
         QVERIFY(!accessible->state().checked);

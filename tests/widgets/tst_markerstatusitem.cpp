@@ -38,9 +38,9 @@ class tst_MarkerStatusItem : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void oneLineNeedsTheColumnsInUse()
+    void oneLine()
     {
-        Readout item;
+        Readout item; // needs the columns in use
         QCOMPARE(item.preferredSingleLineWidth(), 130 + 50 + 70);
         item.fill("2"_s, "3"_s);
         QCOMPARE(item.preferredSingleLineWidth(), 390);
@@ -49,33 +49,25 @@ private Q_SLOTS:
         QCOMPARE(item.preferredSingleLineWidth(), 20 + 50 + 10 + 0 + 30);
         QCOMPARE(item.minimumWidth(), 0);
         QCOMPARE(item.maximumWidth(), QWIDGETSIZE_MAX);
-    }
 
-    void oneLine()
-    {
-        Readout item;
+        item.setKeyColumnWidth(130);
         item.fill(QString(), "5pF"_s);
         item.setNumLabelWidth(61, 62, 63);
         item.setLayoutWidth(400);
-        const struct {
-            const char *name;
-            QString text;
-            int width;
-            Qt::Alignment alignment;
-        } labels[] = {
+        const std::tuple<const char *, QString, int, Qt::Alignment> labels[] = {
             {"nameLabel", "M1:"_s, 40, Qt::AlignLeft},
             {"keyLabel", "2.412GHz"_s, 130, Qt::AlignLeft},
             {"valueLabel1", "-1.32dB"_s, 61, Qt::AlignRight},
             {"valueLabel3", "5pF"_s, 63, Qt::AlignRight},
         };
-        for (const auto &expected : labels) {
-            const Row row(QLatin1String(expected.name));
-            const QLabel *label = item.label(expected.name);
-            QCOMPARE(label->text(), expected.text);
+        for (const auto &[name, text, width, alignment] : labels) {
+            const Row row(QLatin1String{name});
+            const QLabel *label = item.label(name);
+            QCOMPARE(label->text(), text);
             QVERIFY(!label->isHidden());
-            QCOMPARE(label->minimumWidth(), expected.width);
-            QCOMPARE(label->maximumWidth(), expected.width);
-            QCOMPARE(label->alignment(), expected.alignment | Qt::AlignVCenter);
+            QCOMPARE(label->minimumWidth(), width);
+            QCOMPARE(label->maximumWidth(), width);
+            QCOMPARE(label->alignment(), alignment | Qt::AlignVCenter);
         }
         QVERIFY(item.label("valueLabel2")->isHidden());
         QCOMPARE(item.height(), qMax(item.fontMetrics().height() + 2, 16));
@@ -147,7 +139,7 @@ private Q_SLOTS:
         item.fill("2"_s);
         QCOMPARE(item.text("keyLabel"), "2.412GHz"_s);
 
-        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&item);
+        auto *const accessible = QAccessible::queryAccessibleInterface(&item);
         QCOMPARE(accessible->text(QAccessible::Name), "M1:"_s);
         QCOMPARE(accessible->text(QAccessible::Value), "2.412GHz -1.32dB 2"_s);
         QVERIFY(!accessible->state().selected);
@@ -187,21 +179,20 @@ private Q_SLOTS:
         QPushButton before(&window);
         Readout item(&window);
         window.show();
-        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
-            item.clicks.clear();
-            mousePress(&item, Name, button);
-            QCOMPARE(item.clicks.count(), 1);
-            mouseRelease(&item, Name, button);
-        }
-        TouchScreen(&window).tap(Key);
+        mousePress(&item, Name);
+        QCOMPARE(item.clicks.count(), 1);
+        mouseRelease(&item, Name);
+        mouseClick(&item, Name, Qt::RightButton);
         QCOMPARE(item.clicks.count(), 2);
+        TouchScreen(&window).tap(Key);
+        QCOMPARE(item.clicks.count(), 3);
 
         before.setFocus();
         QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
         QVERIFY(item.hasFocus());
         for (Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_A})
             QTest::keyClick(window.windowHandle(), key);
-        QCOMPARE(item.clicks.count(), 5);
+        QCOMPARE(item.clicks.count(), 6);
     }
 
     void routerTakesThePressAndWhatFollows()
@@ -214,12 +205,7 @@ private Q_SLOTS:
             return take;
         });
         item.show();
-        const auto dragFromName = [&item] {
-            mousePress(&item, Name);
-            mouseMove(&item, Key);
-            mouseRelease(&item, Key);
-        };
-        dragFromName();
+        mouseDrag(item.windowHandle(), Name, Key, 1);
         mouseMove(&item, {65, 5});
         const QVector<int> drag{QEvent::MouseButtonPress, QEvent::MouseMove,
                                 QEvent::MouseButtonRelease};
@@ -227,12 +213,11 @@ private Q_SLOTS:
         QCOMPARE(item.clicks.count(), 0);
 
         // The right button is never asked about, and a refused press is a click.
-        mousePress(&item, Name, Qt::RightButton);
-        mouseRelease(&item, Name, Qt::RightButton);
+        mouseClick(&item, Name, Qt::RightButton);
         QCOMPARE(routed.count(), 3);
         QCOMPARE(item.clicks.count(), 1);
         take = false;
-        dragFromName();
+        mouseDrag(item.windowHandle(), Name, Key, 1);
         QCOMPARE(routed.count(), 4);
         QCOMPARE(item.clicks.count(), 2);
 
@@ -261,18 +246,19 @@ private Q_SLOTS:
 
     void itemMayGoInItsOwnEvents()
     {
-        for (const QString &where : {"clicked"_s, "press"_s, "release"_s}) {
-            const Row row(where);
+        // At the click, or in the router at one of these.
+        for (const QEvent::Type at :
+             {QEvent::None, QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const Row row(QString::number(at));
             QWidget window;
             QPointer<MarkerStatusItem> item = new MarkerStatusItem(&window);
             window.resize(320, 40);
             window.show();
-            const bool atPress = where == "press"_s;
-            if (where == "clicked"_s)
+            if (at == QEvent::None)
                 connect(item.data(), &MarkerStatusItem::clicked, [&item] { delete item; });
             else
-                item->setMouseEventRouter([&item, atPress](QMouseEvent *event) {
-                    if (atPress || event->type() == QEvent::MouseButtonRelease)
+                item->setMouseEventRouter([&item, at](QMouseEvent *event) {
+                    if (event->type() == at)
                         delete item;
                     return true;
                 });

@@ -3,7 +3,6 @@
 #include <widgets/menubutton.h>
 
 #include <popupscene.h>
-#include <vnatest.h>
 
 using namespace VnaTest;
 
@@ -27,33 +26,10 @@ class tst_MenuButton : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void handsItsListOn()
-    {
-        Scene f;
-        f.button->setIconSize(80, 70);
-        f.button->setItemCountPerRow(2);
-        f.button->setTitleText("Markers"_s);
-        f.button->setTitleVisible(true);
-        f.button->setViewMode(QListView::IconMode);
-        f.button->setItemEnabled(1, false);
-        QCOMPARE(f.button->iconSize(), QSize(80, 70));
-        QCOMPARE(f.button->itemCountPerRow(), 2);
-        QCOMPARE(f.button->titleText(), "Markers"_s);
-        QVERIFY(f.button->titleVisible());
-        QCOMPARE(f.popup()->viewMode(), QListView::IconMode);
-        QVERIFY(!f.isEnabled(1));
-        f.button->clearMenuItems();
-        f.button->addMenuItem(1, "a"_s);
-        f.button->click();
-        f.button->addMenuItem(2, "b"_s); // while it is open
-        QCOMPARE(f.list()->count(), 2);
-        f.button->clearMenuItems();
-        QVERIFY(!f.isOpen());
-    }
-
     void holdsItsItems()
     {
         Scene f;
+        setListUp(f);
         f.button->setItemEnabled("Maximum"_s, false);
         f.button->setMenuItems(f.button->menuItems()); // the same: nothing is rebuilt
         QVERIFY(!f.isEnabled(0));
@@ -64,12 +40,17 @@ private Q_SLOTS:
         QCOMPARE(f.button->getValueByDisplayName("Minimum"_s), 6);
         f.button->onPopupWidgetItemChanged("Peak"_s);
         QCOMPARE(f.told, QStringList({"value -1"_s, "text Peak"_s}));
+        f.button->click();
+        f.button->addMenuItem(8, "Peak"_s); // while it is open
+        QCOMPARE(f.list()->count(), 4);
         f.button->clearMenuItems();
+        QVERIFY(!f.isOpen());
         QVERIFY(f.button->menuItems().isEmpty());
         QCOMPARE(f.list()->count(), 0);
         QCOMPARE(f.button->getValueByDisplayName("Maximum"_s), -1);
 
         // Without items it is a checkable button.
+        QTest::qWait(Scene::GuardMs);
         QCOMPARE(MenuButton("Search"_s).text(), "Search"_s);
         for (const bool checked : {true, false}) {
             mouseClick(f.button);
@@ -78,6 +59,7 @@ private Q_SLOTS:
         }
 
         f.button->setMenuItems({{5, "Maximum"_s}});
+        f.button->setViewMode(QListView::ListMode);
         f.button->setItemTextAlignment(Qt::AlignHCenter);
         QCOMPARE(f.popup()->styleSheet(),
                  "QListWidget#ListModeView::item { padding-left: 4px; padding-right: 4px; }"_s);
@@ -106,17 +88,8 @@ private Q_SLOTS:
 
     void theTapThatClosesDoesNotReopen()
     {
+        tapThatCloses<Scene>();
         Scene f;
-        for (const int holdMs : {0, 300}) {
-            mouseClick(f.button);
-            QVERIFY(f.isOpen());
-            mousePress(f.button);
-            QTest::qWait(holdMs);
-            mouseRelease(f.button);
-            QVERIFY(!f.isOpen() && !f.button->isChecked());
-            QTest::qWait(Scene::GuardMs);
-        }
-        QVERIFY(f.told.isEmpty());
         mouseClick(f.button); // the list takes the release
         f.popup()->close();
         QVERIFY(f.button->isDown());
@@ -135,23 +108,18 @@ private Q_SLOTS:
         QVERIFY(!f.isOpen() && !f.button->isChecked());
         QTest::qWait(Scene::GuardMs);
 
-        QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(f.button);
+        auto *const accessible = QAccessible::queryAccessibleInterface(f.button);
         QCOMPARE(accessible->role(), QAccessible::ButtonMenu);
         QCOMPARE(accessible->text(QAccessible::Name), "Search"_s);
         accessible->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
         QVERIFY(f.isOpen() && accessible->state().expanded);
     }
 
-    void opensAboveWhenThereIsNoRoomBelow()
+    void opensOnTheScreen()
     {
-        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         MenuButton button;
         button.addMenuItem(1, "one"_s);
-        showInCorner(&button, screen, {1, 1});
-        button.click();
-        const QRect shown = button.findChild<PopupWidget *>()->geometry();
-        QVERIFY(shown.bottom() < button.y());
-        QVERIFY(shown.right() <= screen.right() - 5);
+        openInCorners(&button);
     }
 };
 

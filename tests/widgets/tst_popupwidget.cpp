@@ -3,7 +3,6 @@
 #include <widgets/popupwidget.h>
 
 #include <popupscene.h>
-#include <vnatest.h>
 
 using namespace VnaTest;
 
@@ -15,8 +14,8 @@ const QStringList Formats = {"LogM"_s, "Phase"_s, "Smith"_s};
 QStringList numbered(int count)
 {
     QStringList result;
-    for (int i = 0; i < count; ++i)
-        result << QString::number(i);
+    while (result.size() < count)
+        result << QString::number(result.size());
     return result;
 }
 
@@ -57,25 +56,22 @@ class tst_PopupWidget : public TestCase
 private Q_SLOTS:
     void takesItsSizeFromTheItems()
     {
-        const struct {
-            QListView::ViewMode mode;
-            int items, columns, width, rows;
-        } table[] = {
+        const std::tuple<QListView::ViewMode, int, int, int, int> table[] = {
             {QListView::ListMode, 0, 4, 150, 0},     {QListView::ListMode, 3, 4, 150, 3},
             {QListView::ListMode, 500, 4, 150, 500}, {QListView::IconMode, 0, 4, 481, 0},
             {QListView::IconMode, 4, 4, 481, 1},     {QListView::IconMode, 5, 4, 481, 2},
             {QListView::IconMode, 2, 0, 121, 2}, // no column counts as one
         };
-        for (const auto &expected : table) {
-            const Row row("%1 items, mode %2"_s.arg(expected.items).arg(expected.mode));
-            Fixture f(numbered(expected.items));
-            f.popup->setViewMode(expected.mode);
+        for (const auto &[mode, items, columns, width, rows] : table) {
+            const Row row("%1 items, mode %2"_s.arg(items).arg(mode));
+            Fixture f(numbered(items));
+            f.popup->setViewMode(mode);
             f.popup->setWidgetFixedWidth(150);
-            f.popup->setItemCountPerRow(expected.columns);
+            f.popup->setItemCountPerRow(columns);
             f.popup->popup();
-            const bool tiles = expected.mode == QListView::IconMode;
-            const int height = expected.rows * (tiles ? 100 : f.list()->sizeHintForRow(0));
-            const QSize size(expected.width, 2 * f.list()->frameWidth() + height);
+            const bool tiles = mode == QListView::IconMode;
+            const int height = rows * (tiles ? 100 : f.list()->sizeHintForRow(0));
+            const QSize size(width, 2 * f.list()->frameWidth() + height);
             QCOMPARE(f.popup->minimumSize(), size);
             QCOMPARE(f.popup->maximumSize(), size);
             QVERIFY(f.open());
@@ -181,16 +177,16 @@ private Q_SLOTS:
         Fixture f;
         f.popup->setCurrentItem("LogM"_s);
         f.popup->setItemEnabled(1, false);
-        QVERIFY(f.open());
-        typeKey(f.popup, Qt::Key_Down); // over the disabled one
-        QCOMPARE(f.list()->currentRow(), 2);
-        QCOMPARE(f.picked.count(), 0);
-        typeKey(f.popup, Qt::Key_Return, "\r"_s);
-        QVERIFY(!f.isOpen());
-        QVERIFY(f.open());
-        typeKey(f.popup, Qt::Key_Up);
-        typeKey(f.popup, Qt::Key_Space, " "_s);
-        QVERIFY(!f.isOpen());
+        for (const auto &[arrow, picks, text, row] :
+             {std::tuple(Qt::Key_Down, Qt::Key_Return, "\r"_s, 2), // over the disabled one
+              {Qt::Key_Up, Qt::Key_Space, " "_s, 0}}) {
+            QVERIFY(f.open());
+            typeKey(f.popup, arrow);
+            QCOMPARE(f.list()->currentRow(), row);
+            QVERIFY(f.isOpen());
+            typeKey(f.popup, picks, text);
+            QVERIFY(!f.isOpen());
+        }
         QCOMPARE(f.picked, QStringList({"Smith"_s, "LogM"_s}));
 
         QVERIFY(f.open());
@@ -219,14 +215,13 @@ private Q_SLOTS:
         QCOMPARE(f.popup->height(), untitled + f.title()->sizeHint().height());
         QCOMPARE(f.list()->y(), f.title()->sizeHint().height());
 
-        QWindow *const window = f.popup->windowHandle();
         mousePress(f.title(), {20, 10});
-        QTest::mouseMove(window, QPoint(50, 45)); // window coordinates; the window follows
+        mouseMove(f.title(), {50, 45}); // the title follows
         QCOMPARE(f.popup->pos(), QPoint(230, 235));
-        QTest::mouseMove(window, QPoint(10, 10));
+        mouseMove(f.title(), {10, 10});
         QCOMPARE(f.popup->pos(), QPoint(220, 235));
         mouseRelease(f.title(), {20, 10});
-        QTest::mouseMove(window, QPoint(60, 12));
+        mouseMove(f.title(), {60, 12});
         QCOMPARE(f.popup->pos(), QPoint(220, 235));
         QVERIFY(f.isOpen());
 
@@ -261,24 +256,21 @@ private Q_SLOTS:
         QVERIFY(f.popup->height() > screen.height());
 
         // The arrow keys bring their row onto the screen, at either end.
-        const QPair<Qt::Key, int> steps[] = {
-            {Qt::Key_Down, 43}, {Qt::Key_End, 499}, {Qt::Key_Home, 0}};
-        for (const auto &[key, reached] : steps) {
+        for (const auto &[key, reached] :
+             {std::pair(Qt::Key_Down, 43), {Qt::Key_End, 499}, {Qt::Key_Home, 0}}) {
             for (int i = 0; i < 40; ++i)
                 typeKey(f.popup, key);
             QCOMPARE(f.list()->currentRow(), reached);
             const QRect row = f.rect(reached);
-            const QPoint corner = f.list()->viewport()->mapToGlobal(row.topLeft());
-            QVERIFY(screen.contains(QRect(corner, row.size())));
+            QVERIFY(screen.contains(row.translated(f.list()->viewport()->mapToGlobal(QPoint()))));
         }
 
         // A finger pulls the list along, and its release picks nothing.
-        QWindow *const window = f.popup->windowHandle();
         const int before = f.popup->y();
         mousePress(f.list()->viewport(), {50, 400});
-        QTest::mouseMove(window, {50, 395}); // a tap may tremble
+        mouseMove(f.popup, {50, 395}); // a tap may tremble
         QCOMPARE(f.popup->y(), before);
-        QTest::mouseMove(window, {50, 200});
+        mouseMove(f.popup, {50, 200});
         QVERIFY(f.popup->y() < before - 190);
         mouseRelease(f.list()->viewport(), {50, 400});
         QVERIFY(f.isOpen());
