@@ -44,9 +44,13 @@ private Q_SLOTS:
         QCOMPARE(item.preferredSingleLineWidth(), 130 + 50 + 70);
         item.fill("2"_s, "3"_s);
         QCOMPARE(item.preferredSingleLineWidth(), 390);
-        item.setNumLabelWidth(10, -5, 30);
         item.setKeyColumnWidth(5);
-        QCOMPARE(item.preferredSingleLineWidth(), 20 + 50 + 10 + 0 + 30);
+        // Each of the widths can be the only new one.
+        for (const auto &[first, second, third] :
+             {std::tuple(10, -5, 30), {11, -5, 30}, {11, 4, 30}, {11, 4, 33}}) {
+            item.setNumLabelWidth(first, second, third);
+            QCOMPARE(item.preferredSingleLineWidth(), 70 + first + qMax(second, 0) + third);
+        }
         QCOMPARE(item.minimumWidth(), 0);
         QCOMPARE(item.maximumWidth(), QWIDGETSIZE_MAX);
 

@@ -265,6 +265,19 @@ private Q_SLOTS:
             QVERIFY(screen.contains(row.translated(f.list()->viewport()->mapToGlobal(QPoint()))));
         }
 
+        // The wheel moves it as far as either end, with the same margin.
+        QWidget *const viewport = f.list()->viewport();
+        const auto turn = [viewport](int angle) {
+            QWheelEvent wheel({3, 3}, viewport->mapToGlobal(QPoint(3, 3)), {}, {0, angle},
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(viewport, &wheel);
+        };
+        turn(90000);
+        const int margin = f.popup->y() - screen.top();
+        turn(-90000);
+        QCOMPARE(f.popup->geometry().bottom(), screen.bottom() - margin);
+        turn(90000);
+
         // A finger pulls the list along, and its release picks nothing.
         const int before = f.popup->y();
         mousePress(f.list()->viewport(), {50, 400});
