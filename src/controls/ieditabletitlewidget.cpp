@@ -266,7 +266,7 @@ void IEditableTitleWidget::handleFocusChange(QWidget *old, QWidget *now)
         return;
 
     const QWidget *keypad = m_keyboard;
-    if (keypad && now && (now == keypad || keypad->isAncestorOf(now))) {
+    if (keypad && keypad->isAncestorOf(now)) {
         const bool isTextArea =
             now->parentWidget() == keypad && now->objectName() == QLatin1String("edit");
         if (!isTextArea)

@@ -351,7 +351,7 @@ void TouchNumKeyboard::showEvent(QShowEvent *event)
     if (event->spontaneous())
         return;
     QWidget *focused = QApplication::focusWidget();
-    if (focused != this && !isAncestorOf(focused))
+    if (!isAncestorOf(focused))
         d->formerFocus = focused;
     if (!d->ui.edit->isReadOnly())
         d->ui.edit->setFocus(Qt::OtherFocusReason);

@@ -188,7 +188,7 @@ void TouchNumKeyboardPrivate::letGo()
 void TouchNumKeyboardPrivate::giveFocusBack()
 {
     QWidget *now = QApplication::focusWidget();
-    if (!now || (now != q && !q->isAncestorOf(now)))
+    if (!q->isAncestorOf(now))
         return;
     if (formerFocus)
         formerFocus->setFocus(Qt::OtherFocusReason);

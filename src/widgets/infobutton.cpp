@@ -46,7 +46,7 @@ void InfoButton::setInfoWidget(QWidget *widget)
 {
     if (widget && widget == infoWidget())
         return;
-    if (!widget || widget == m_nameLabel || widget == this || widget->isAncestorOf(this)) {
+    if (!widget || widget == m_nameLabel || widget->isAncestorOf(this)) {
         qWarning() << "InfoButton::setInfoWidget: cannot show" << widget;
         return;
     }

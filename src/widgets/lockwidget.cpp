@@ -236,8 +236,8 @@ bool LockWidget::mustPass(QObject *watched, QEvent *event) const
     default:
         return true;
     }
-    const auto *widget = qobject_cast<QWidget *>(watched);
-    if (widget && (widget == this || isAncestorOf(widget)))
+    // A made-up event need not know its place on the screen.
+    if (isAncestorOf(qobject_cast<QWidget *>(watched)))
         return true;
     return QRect(mapToGlobal(QPoint(0, 0)), size()).contains(global);
 }

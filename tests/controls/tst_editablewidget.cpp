@@ -276,6 +276,10 @@ private Q_SLOTS:
         QCOMPARE(m_keypad->indicatorText(), "95GHz"_s);
         press(m_keypad, "btnC"_s);
         QCOMPARE(m_keypad->indicatorText(), "-95GHz"_s);
+        auto *empty = new EditableWidget(m_keypad, nullptr, m_window->centralWidget());
+        empty->show();
+        empty->setFocus();
+        QCOMPARE(m_keypad->indicatorText(), QString());
         m_keypad->reject();
     }
 

@@ -275,17 +275,21 @@ private Q_SLOTS:
         turn(90000);
         const int margin = f.popup->y() - screen.top();
         turn(-90000);
+        f.popup->hide();
+        f.popup->setCurrentItem("3"_s); // nothing slides unseen
+        f.popup->show();
         QCOMPARE(f.popup->geometry().bottom(), screen.bottom() - margin);
         turn(90000);
 
         // A finger pulls the list along, and its release picks nothing.
         const int before = f.popup->y();
-        mousePress(f.list()->viewport(), {50, 400});
-        mouseMove(f.popup, {50, 395}); // a tap may tremble
+        const QPoint lowest = viewport->mapFromGlobal(QPoint(250, screen.bottom()));
+        mousePress(viewport, lowest); // on a row that is partly seen
+        mouseMove(f.popup, lowest - QPoint(0, 5)); // a tap may tremble
         QCOMPARE(f.popup->y(), before);
-        mouseMove(f.popup, {50, 200});
+        mouseMove(f.popup, lowest - QPoint(0, 200));
         QVERIFY(f.popup->y() < before - 190);
-        mouseRelease(f.list()->viewport(), {50, 400});
+        mouseRelease(viewport, lowest);
         QVERIFY(f.isOpen());
         QCOMPARE(f.picked.count(), 0);
         QCOMPARE(f.list()->currentRow(), 3);
