@@ -97,11 +97,11 @@ private Q_SLOTS:
     void noRoomForACopy()
     {
         const QTemporaryDir folder;
+        const QString plain = writeFile(folder.filePath("plain.ini"_s), s_settings);
+        const QString withObject =
+            writeFile(folder.filePath("object.ini"_s),
+                      QByteArray(s_settings) + "Dark\\gridColor=@Size(1 2)\n");
         QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x5555)));
-        const QString plain = folder.filePath("plain.ini"_s);
-        const QString withObject = folder.filePath("object.ini"_s);
-        QVERIFY(write(plain, s_settings));
-        QVERIFY(write(withObject, QByteArray(s_settings) + "Dark\\gridColor=@Size(1 2)\n"));
         const QByteArray before = qgetenv("TMPDIR");
         for (const bool room : {true, false}) {
             qputenv("TMPDIR", room ? before : QFile::encodeName(folder.path()));
