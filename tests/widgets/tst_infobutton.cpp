@@ -83,6 +83,7 @@ private Q_SLOTS:
             QVERIFY(!child->isDown());
             child->setClickable(true);
         }
+        QCOMPARE(childPressed.count(), 4);
         QCOMPARE(parentClicked.count(), 2);
     }
 
