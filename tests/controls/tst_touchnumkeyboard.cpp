@@ -308,7 +308,7 @@ private Q_SLOTS:
         QCOMPARE(name->text(), "Stop"_s);
         m_keypad->open();
         const QPoint start = m_keypad->pos();
-        const QPoint grip = centre(name);
+        QPoint grip = centre(name);
         mousePress(m_window.get(), grip);
         mouseMove(m_window.get(), grip + QPoint(30, -20));
         QCOMPARE(m_keypad->pos(), start + QPoint(30, -20));
@@ -317,6 +317,14 @@ private Q_SLOTS:
         mouseRelease(m_window.get(), QPoint(799, 0));
         mouseMove(m_window.get(), grip);
         QCOMPARE(m_keypad->y(), 0);
+        // The title ends where its layout does.
+        const auto *title = m_keypad->findChild<QGridLayout *>("titleGridLayout"_s);
+        for (const int below : {0, 1}) {
+            grip = m_keypad->pos() + QPoint(2, title->geometry().bottom() + below);
+            mousePress(m_window.get(), grip);
+            mouseRelease(m_window.get(), grip + QPoint(-10, 10));
+            QCOMPARE(m_keypad->y(), 10);
+        }
     }
 
     void execReturnsHowItEnded()

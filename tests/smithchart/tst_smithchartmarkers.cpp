@@ -130,7 +130,7 @@ private Q_SLOTS:
         QVERIFY(m_chart->addMarkerVisual(1, 1, 2.5, Plot::PointingDown));
         Plot::Marker *const marker = m_chart->getMarker(1, 1);
         QVERIFY(!m_chart->addMarkerVisual(1, 1, 5.0, Plot::PointingUp));
-        QCOMPARE(m_chart->getMarker(1, 1), marker);
+        QCOMPARE(std::as_const(*m_chart).getMarker(1, 1), marker);
         const QPointF at = marker->getTracer()->position->coords();
         QCOMPARE(at.x(), m_real[2] + (m_real[3] - m_real[2]) * 0.5);
         QCOMPARE(at.y(), m_imag[2] + (m_imag[3] - m_imag[2]) * 0.5);
@@ -161,7 +161,7 @@ private Q_SLOTS:
     void movingAndNewData()
     {
         m_chart->addMarkerVisual(1, 1, 0.0, Plot::PointingDown);
-        QVERIFY(!m_chart->setMarkerIndex(1, 9, 0.0));
+        QVERIFY(!m_chart->setMarkerIndex(1, 9, 0.0) && !m_chart->setMarkerVisible(1, 9, true));
         for (const double outside : {11.0, -0.1, qQNaN()})
             QVERIFY(!m_chart->setMarkerIndex(1, 1, outside));
         QVERIFY(m_chart->setMarkerIndex(1, 1, 10.0));
@@ -226,6 +226,15 @@ private Q_SLOTS:
         m_chart->clearMarkerSelection();
         QVERIFY(!m_chart->getSelectedMarker(trace, local));
         QCOMPARE(m_log, lines("selected 1 1|selected 2 1|cleared"));
+        // Whoever replots may select another one meanwhile.
+        m_chart->selectMarker(2, 1);
+        m_log.clear();
+        m_chart->setQueuedReplotHandler([this] {
+            m_chart->setQueuedReplotHandler({});
+            m_chart->selectMarker(2, 1);
+        });
+        m_chart->clearMarkerSelection();
+        QCOMPARE(m_log, lines("selected 2 1"));
 
         // A new pen recolours the markers.
         m_chart->setCurveVisible(1, true);

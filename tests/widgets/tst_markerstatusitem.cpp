@@ -121,6 +121,8 @@ private Q_SLOTS:
                     QVERIFY(advance(lines.at(i) + lines.at(i + 1).at(0)) > 60);
             }
             QCOMPARE(item.height(), block->fontMetrics().lineSpacing() * int(lines.count()) + 2);
+            item.setLayoutWidth(50 + advance(lines.first())); // just enough
+            QVERIFY(block->text().startsWith(lines.first() + QLatin1Char('\n')));
             const Qt::Alignment alignment = Qt::AlignTop | (right ? Qt::AlignRight : Qt::AlignLeft);
             QCOMPARE(block->alignment(), alignment);
             QCOMPARE(item.label("nameLabel")->alignment(), alignment);

@@ -214,6 +214,10 @@ private Q_SLOTS:
         QVERIFY(f.open({200, 200}));
         QCOMPARE(f.popup->height(), untitled + f.title()->sizeHint().height());
         QCOMPARE(f.list()->y(), f.title()->sizeHint().height());
+        const QImage painted = f.title()->grab().toImage();
+        QImage blank = painted;
+        blank.fill(painted.pixelColor(0, 0));
+        QVERIFY(painted != blank);
 
         mousePress(f.title(), {20, 10});
         mouseMove(f.title(), {50, 45}); // the title follows

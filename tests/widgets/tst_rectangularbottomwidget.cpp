@@ -24,6 +24,7 @@ private Q_SLOTS:
             "[Start(GraphLabel)][: ][2.4GHz][Speed: 48/s][Stop(GraphLabel)][: ][2.5GHz]"_s;
         QCOMPARE(shown(bar), told);
         // A new language brings new captions, not the sample values.
+        bar.findChild<QLabel *>("label"_s)->setText("Anfang"_s);
         QEvent event(QEvent::LanguageChange);
         QCoreApplication::sendEvent(&bar, &event);
         QCOMPARE(shown(bar), told);
