@@ -69,9 +69,14 @@ void AbstractButton::keyPressEvent(QKeyEvent *event)
 
 void AbstractButton::keyReleaseEvent(QKeyEvent *event)
 {
-    if (!m_clickable)
+    // Not down, QAbstractButton of Qt 5 would keep the release of a press that went to the parent,
+    // which would stay down.
+    if (!m_clickable) {
         setDown(false);
-    QAbstractButton::keyReleaseEvent(event);
+        event->ignore();
+    } else {
+        QAbstractButton::keyReleaseEvent(event);
+    }
 }
 
 void AbstractButton::paintEvent(QPaintEvent *)
