@@ -83,7 +83,7 @@ def prepare():
     for name in filter(None, files):
         target = SOURCE / name
         target.parent.mkdir(parents=True, exist_ok=True)
-        shutil.copy2(ROOT / name, target)
+        shutil.copy(ROOT / name, target) # newer than what the last run built with a fault in it
     configure = ["cmake", "-S", str(SOURCE), "-B", str(BUILD), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
                  "-DCMAKE_CXX_FLAGS=-g0", "-DVNAWIDGETS_TESTS=OFF", "-DVNAWIDGETS_PANEL=OFF",
                  "-DVNAWIDGETS_EXAMPLES=OFF"]
