@@ -186,6 +186,12 @@ private Q_SLOTS:
             touch.tap(scene.center());
             QVERIFY(scene.showsIcon(icon));
         }
+        // A cancelled touch is no tap.
+        touch.press(scene.center());
+        sendTouchWithoutPoints(scene.lock.get(), QEvent::TouchCancel);
+        touch.release(scene.center());
+        QVERIFY(scene.showsIcon(UnlockedIcon));
+
         auto *const accessible = QAccessible::queryAccessibleInterface(scene.lock.get());
         QCOMPARE(accessible->role(), QAccessible::CheckBox);
         QCOMPARE(accessible->text(QAccessible::Name), "Screen lock"_s);
