@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel.h"
 
-#include <panel/diagrams.h>
-#include <panel/diagramview.h>
-#include <panel/look.h>
-#include <panel/panelcontroller.h>
-#include <panel/panelmodel.h>
-#include <panel/panelwindow.h>
-#include <panel/samples.h>
-#include <panel/simulateddevice.h>
+#include <panel/diagrams/diagrams.h>
+#include <panel/diagrams/diagramview.h>
+#include <panel/files/samples.h>
+#include <panel/look/look.h>
+#include <panel/model/panelmodel.h>
+#include <panel/source/simulateddevice.h>
+#include <panel/window/panelcontroller.h>
+#include <panel/window/panelwindow.h>
 #include <plot/qcp.h>
 
 #include <QApplication>

@@ -9,7 +9,7 @@
 #include "monkeychecks.h"
 #include "monkeypanel.h"
 
-#include <panel/look.h>
+#include <panel/look/look.h>
 
 #include <QApplication>
 #include <QDir>

@@ -5,10 +5,10 @@
 #include "monkeypanel.h"
 
 #include <controls/overlaycontainer.h>
-#include <panel/cartesianview.h>
-#include <panel/diagrams.h>
-#include <panel/markerreading.h>
-#include <panel/smithview.h>
+#include <panel/diagrams/cartesianview.h>
+#include <panel/diagrams/diagrams.h>
+#include <panel/diagrams/markerreading.h>
+#include <panel/diagrams/smithview.h>
 #include <plot/qcp.h>
 #include <smithchart/smithchartplot.h>
 #include <widgets/popupwidget.h>

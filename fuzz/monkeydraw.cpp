@@ -3,9 +3,9 @@
 // What the monkey does next: any place at all, or one where something answers.
 #include "monkeypanel.h"
 
-#include <panel/cartesianview.h>
-#include <panel/diagrams.h>
-#include <panel/smithview.h>
+#include <panel/diagrams/cartesianview.h>
+#include <panel/diagrams/diagrams.h>
+#include <panel/diagrams/smithview.h>
 #include <plot/qcp.h>
 #include <smithchart/smithchartplot.h>
 

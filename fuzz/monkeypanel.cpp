@@ -5,11 +5,11 @@
 #include "census.h"
 
 #include <controls/thememanager.h>
-#include <panel/filecontroller.h>
-#include <panel/filedialog.h>
-#include <panel/languages.h>
-#include <panel/samples.h>
-#include <panel/sweepcontroller.h>
+#include <panel/files/filecontroller.h>
+#include <panel/files/samples.h>
+#include <panel/source/sweepcontroller.h>
+#include <panel/window/filedialog.h>
+#include <panel/window/languages.h>
 
 #include <QApplication>
 #include <QDir>

@@ -4,10 +4,10 @@
 
 #include "monkeyevents.h"
 
-#include <panel/panelcontroller.h>
-#include <panel/panelmodel.h>
-#include <panel/panelstate.h>
-#include <panel/panelwindow.h>
+#include <panel/files/panelstate.h>
+#include <panel/model/panelmodel.h>
+#include <panel/window/panelcontroller.h>
+#include <panel/window/panelwindow.h>
 
 #include <QPointer>
 #include <QTemporaryDir>

@@ -3,7 +3,7 @@
 // The bytes of a Touchstone file: a network that can be drawn, or a reason that can be read.
 #include "input.h"
 
-#include <panel/touchstone.h>
+#include <panel/files/touchstone.h>
 
 #include <algorithm>
 #include <cmath>

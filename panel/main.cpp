@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "commandline.h"
-#include "grab.h"
-#include "languages.h"
-#include "look.h"
-#include "messagebar.h"
-#include "panelcontroller.h"
-#include "panelmodel.h"
-#include "panelstate.h"
-#include "panelwindow.h"
-#include "samples.h"
-#include "sweepcontroller.h"
+#include <panel/files/panelstate.h>
+#include <panel/files/samples.h>
+#include <panel/look/look.h>
+#include <panel/model/panelmodel.h>
+#include <panel/source/sweepcontroller.h>
+#include <panel/window/commandline.h>
+#include <panel/window/grab.h>
+#include <panel/window/languages.h>
+#include <panel/window/messagebar.h>
+#include <panel/window/panelcontroller.h>
+#include <panel/window/panelwindow.h>
 
 #include <QApplication>
 #include <QEventLoop>

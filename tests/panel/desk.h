@@ -5,19 +5,19 @@
 #include "popupscene.h"
 #include "vnatest.h"
 
-#include <panel/cartesianview.h>
-#include <panel/diagrams.h>
-#include <panel/look.h>
-#include <panel/messagebar.h>
-#include <panel/numericdialog.h>
-#include <panel/panelcontroller.h>
-#include <panel/panelmodel.h>
-#include <panel/panelwindow.h>
-#include <panel/samples.h>
-#include <panel/smithview.h>
-#include <panel/softkey.h>
-#include <panel/softkeymenu.h>
-#include <panel/sweepcontroller.h>
+#include <panel/diagrams/cartesianview.h>
+#include <panel/diagrams/diagrams.h>
+#include <panel/diagrams/smithview.h>
+#include <panel/entry/numericdialog.h>
+#include <panel/entry/softkey.h>
+#include <panel/entry/softkeymenu.h>
+#include <panel/files/samples.h>
+#include <panel/look/look.h>
+#include <panel/model/panelmodel.h>
+#include <panel/source/sweepcontroller.h>
+#include <panel/window/messagebar.h>
+#include <panel/window/panelcontroller.h>
+#include <panel/window/panelwindow.h>
 #include <plot/qcp.h>
 #include <widgets/switchbutton.h>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
-#include <panel/commandline.h>
+#include <panel/window/commandline.h>
 
 using namespace VnaTest;
 using namespace Panel;

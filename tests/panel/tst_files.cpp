@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
 
-#include <panel/filecontroller.h>
-#include <panel/filenotes.h>
-#include <panel/screenshot.h>
+#include <panel/files/filecontroller.h>
+#include <panel/files/filenotes.h>
+#include <panel/window/screenshot.h>
 
 using namespace VnaTest;
 using namespace Panel;

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
 
-#include <panel/languages.h>
-#include <panel/simulateddevice.h>
-#include <panel/sweepbar.h>
-#include <panel/touchstone.h>
+#include <panel/files/touchstone.h>
+#include <panel/source/simulateddevice.h>
+#include <panel/window/languages.h>
+#include <panel/window/sweepbar.h>
 #include <platform/translator.h>
 #include <widgets/displaypanel.h>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
 
-#include <panel/readouts.h>
+#include <panel/diagrams/readouts.h>
 #include <widgets/markerstatusitem.h>
 
 using namespace VnaTest;

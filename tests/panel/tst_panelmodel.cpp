@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
-#include <panel/format.h>
-#include <panel/markerreading.h>
-#include <panel/markersearch.h>
-#include <panel/panelmodel.h>
+#include <panel/diagrams/markerreading.h>
+#include <panel/model/format.h>
+#include <panel/model/markersearch.h>
+#include <panel/model/panelmodel.h>
 
 #include <cmath>
 

@@ -3,7 +3,7 @@
 #include "desk.h"
 
 #include <controls/thememanager.h>
-#include <panel/panelstate.h>
+#include <panel/files/panelstate.h>
 
 using namespace VnaTest;
 using namespace Panel;

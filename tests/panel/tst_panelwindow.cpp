@@ -3,10 +3,10 @@
 #include "desk.h"
 
 #include <controls/thememanager.h>
-#include <panel/filedialog.h>
-#include <panel/languages.h>
-#include <panel/timingline.h>
-#include <panel/tracebar.h>
+#include <panel/entry/tracebar.h>
+#include <panel/window/filedialog.h>
+#include <panel/window/languages.h>
+#include <panel/window/timingline.h>
 
 using namespace VnaTest;
 using namespace Panel;

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
-#include <panel/samples.h>
-#include <panel/touchstone.h>
+#include <panel/files/samples.h>
+#include <panel/files/touchstone.h>
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
-#include <panel/sweepsource.h>
+#include <panel/source/sweepsource.h>
 
 #include <cmath>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
 
-#include <panel/filedialog.h>
-#include <panel/timingline.h>
+#include <panel/window/filedialog.h>
+#include <panel/window/timingline.h>
 
 using namespace VnaTest;
 using namespace Panel;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
-#include <panel/touchstone.h>
+#include <panel/files/touchstone.h>
 
 #include <cmath>
 #include <complex>

@@ -5,11 +5,11 @@
 #include "desk.h"
 
 #include <controls/thememanager.h>
-#include <panel/helpdialog.h>
-#include <panel/markersearch.h>
-#include <panel/readouts.h>
-#include <panel/settingsdialog.h>
-#include <panel/tracebar.h>
+#include <panel/diagrams/readouts.h>
+#include <panel/entry/tracebar.h>
+#include <panel/model/markersearch.h>
+#include <panel/window/helpdialog.h>
+#include <panel/window/settingsdialog.h>
 #include <widgets/displaypanel.h>
 #include <widgets/lockwidget.h>
 #include <widgets/menubutton.h>

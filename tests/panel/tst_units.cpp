@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
-#include <panel/stimulus.h>
-#include <panel/units.h>
+#include <panel/entry/units.h>
+#include <panel/model/stimulus.h>
 
 using namespace VnaTest;
 using namespace Panel;

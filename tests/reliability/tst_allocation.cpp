@@ -3,7 +3,7 @@
 // The parts without widgets while memory runs out: each allocation of each task fails once. What
 // comes is std::bad_alloc or the right result, nothing is leaked, and the next try succeeds.
 #include <controls/scaledunitadapter.h>
-#include <panel/touchstone.h>
+#include <panel/files/touchstone.h>
 #include <smithchart/gridgeometry.h>
 #include <smithchart/tracetree.h>
 #include <utils/formatting.h>

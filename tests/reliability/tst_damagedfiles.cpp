@@ -3,7 +3,7 @@
 // What stands where a file should be: each reader takes it for missing, or says in a sentence what
 // is wrong. Damage inside of files is tried by the fuzz targets and their corpora.
 #include <controls/themesettings_p.h>
-#include <panel/touchstone.h>
+#include <panel/files/touchstone.h>
 #include <platform/stylehelper.h>
 
 #include <atomic>

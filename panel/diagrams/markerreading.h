@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+/*! \file
+    What markers read of their points, as numbers and as text. */
+#pragma once
+
+#include <panel/model/network.h>
+#include <panel/model/traceformat.h>
+
+#include <QStringList>
+
+namespace Panel
+{
+
+/// What a marker shows of its point, as text; values that do not exist are dashes.
+struct MarkerReading {
+    QString frequency; ///< "2.450 GHz"
+    /// One to three: "48.21 Ω", "+j3.100 Ω", "204.5 pH".
+    QStringList values;
+};
+
+/// A point of a parameter at a fractional index, which must lie within the data.
+struct MarkedPoint {
+    const Network *network = nullptr;
+    const Parameter *parameter = nullptr;
+    double index = 0.0;
+};
+
+/*! Reads a point on the Smith chart.
+
+    Γ is the parameter, R the reference resistance: the impedance is R (1 + Γ) / (1 - Γ), the
+    admittance (1 - Γ) / (1 + Γ) / R, and the standing wave ratio (1 + |Γ|) / (1 - |Γ|).
+    Automatic counts as Impedance. */
+MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format);
+/// The same as the difference from a reference point, part by part; elements are left out.
+MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
+                               const MarkedPoint &reference);
+
+/// Reads a point of a Cartesian diagram.
+MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format);
+MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format,
+                              const MarkedPoint &reference);
+
+} // namespace Panel

@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "markercontroller.h"
+
+#include "numerickeys.h"
+#include "softkey.h"
+#include <panel/model/format.h>
+#include <panel/model/markersearch.h>
+#include <panel/model/panelmodel.h>
+#include <panel/window/messagebar.h>
+#include <panel/window/panelwindow.h>
+
+#include <widgets/menubutton.h>
+
+#include <cmath>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// The list of the marker key: the commands, then the markers.
+enum MarkerCommand {
+    Add,
+    Remove,
+    RemoveAll,
+    FirstMarker,
+};
+
+enum MarkerTo {
+    ToCenter,
+    ToStart,
+    ToStop,
+};
+
+/// Where a further marker of a trace goes, as a share of its data: each halves the largest gap that
+/// the ones before have left.
+constexpr double s_places[PanelModel::markersPerTrace] = {0.5, 0.25, 0.75, 0.125, 0.625, 0.375};
+
+} // namespace
+
+MarkerController::MarkerController(PanelModel *model, PanelWindow *window, NumericKeys *numbers,
+                                   QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_window(window)
+    , m_numbers(numbers)
+{
+    const PanelKeys &keys = window->keys();
+    connect(keys.marker, &SoftKey::choicePicked, this, &MarkerController::onMarkerPicked);
+    keys.search->setMenuItems({{int(Search::Maximum), tr("Maximum")},
+                               {int(Search::Minimum), tr("Minimum")},
+                               {int(Search::PeakLeft), tr("Next peak left")},
+                               {int(Search::PeakRight), tr("Next peak right")}});
+    connect(keys.search, qOverload<int>(&MenuButton::menuItemClicked), this,
+            &MarkerController::onSearchPicked);
+    keys.markerTo->setMenuItems(
+        {{ToCenter, tr("Center")}, {ToStart, tr("Start")}, {ToStop, tr("Stop")}});
+    connect(keys.markerTo, qOverload<int>(&MenuButton::menuItemClicked), this,
+            &MarkerController::onMarkerToPicked);
+    connect(keys.referenceMarker, &SoftKey::choicePicked, this, [this](int index) {
+        const Trace *trace = m_model->activeTrace();
+        const QVector<Marker> markers = m_model->activeMarkers();
+        if (trace)
+            m_model->setReferenceMarker(
+                trace->id, index > 0 && index <= markers.size() ? markers.at(index - 1).number : 0);
+        showMarkers();
+    });
+    QStringList formats;
+    for (int i = 0; i < readoutFormatCount; ++i)
+        formats << formatName(ReadoutFormat(i));
+    keys.readout->setChoices(formats);
+    connect(keys.readout, &SoftKey::choicePicked, this,
+            [this](int index) { m_model->viewSettings()->setReadoutFormat(ReadoutFormat(index)); });
+
+    for (const auto signal : {&PanelModel::activeTraceChanged, &PanelModel::selectedMarkerChanged,
+                              &PanelModel::tracesChanged})
+        connect(model, signal, this, &MarkerController::showMarkers);
+    for (const auto signal : {&PanelModel::markerAdded, &PanelModel::markerRemoved})
+        connect(model, signal, this, &MarkerController::showMarkers);
+    connect(model, &PanelModel::referenceMarkerChanged, this, &MarkerController::showMarkers);
+    connect(model->viewSettings(), &ViewSettings::changed, this, &MarkerController::showMarkers);
+    connect(model, &PanelModel::markersExhausted, this, [this](int traceId) {
+        m_window->messageBar()->setMessage(
+            tr("Trace %1 has all its %2 markers: remove one to set another.")
+                .arg(traceId)
+                .arg(PanelModel::markersPerTrace));
+    });
+    showMarkers();
+}
+
+void MarkerController::onMarkerPicked(int command)
+{
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
+        return;
+    const QVector<Marker> markers = m_model->activeMarkers();
+    if (command == Add) {
+        const int place = qMin(int(markers.size()), PanelModel::markersPerTrace - 1);
+        const int last = m_model->network(*trace).points() - 1;
+        m_model->addMarker(trace->id, std::floor(last * s_places[place]));
+    } else if (command == Remove) {
+        if (const Marker *marker = m_model->selectedMarker())
+            m_model->removeMarker(marker->trace, marker->number);
+    } else if (command == RemoveAll) {
+        for (const Marker &marker : markers)
+            m_model->removeMarker(marker.trace, marker.number);
+    } else if (command - FirstMarker < markers.size()) {
+        m_model->selectMarker(trace->id, markers.at(command - FirstMarker).number);
+    }
+    showMarkers();
+}
+
+/// Sends the selected marker, or a first one, to what is found.
+void MarkerController::onSearchPicked(int command)
+{
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
+        return;
+    const Marker *marker = m_model->selectedMarker();
+    const int found = searchMarker(m_model->data(*trace), trace->format, Search(command),
+                                   marker ? marker->index : 0.0);
+    if (found < 0)
+        m_window->messageBar()->setMessage(tr("Trace %1 has no such point.").arg(trace->id));
+    else if (marker)
+        m_model->moveMarker(marker->trace, marker->number, found);
+    else
+        m_model->addMarker(trace->id, found);
+}
+
+void MarkerController::onMarkerToPicked(int command)
+{
+    const Marker *marker = m_model->selectedMarker();
+    if (!marker)
+        return;
+    const Trace &trace = *m_model->trace(marker->trace);
+    const double hertz = valueAt(m_model->network(trace).frequencies, marker->index);
+    const Stimulus limits = m_numbers->limits(trace);
+    const Stimulus now = m_numbers->stimulus(trace);
+    const auto changed = command == ToCenter ? withCenter
+        : command == ToStart                 ? withStart
+                                             : withStop;
+    m_numbers->setStimulus(trace, changed(now, hertz, limits));
+}
+
+void MarkerController::showMarkers()
+{
+    const PanelKeys &keys = m_window->keys();
+    const Trace *trace = m_model->activeTrace();
+    const Marker *selected = m_model->selectedMarker();
+    const Marker *reference = trace ? m_model->referenceMarker(trace->id) : nullptr;
+    QStringList commands{tr("Add"), tr("Remove"), tr("Remove all")};
+    QStringList references{tr("None")};
+    int selectedIndex = -1, referenceIndex = 0;
+    for (const Marker &marker : m_model->activeMarkers()) {
+        const QString name = QStringLiteral("M%1").arg(marker.number);
+        if (selected && selected->number == marker.number)
+            selectedIndex = int(commands.size());
+        if (reference && reference->number == marker.number)
+            referenceIndex = int(references.size());
+        commands << name;
+        references << name;
+    }
+    keys.marker->setChoices(commands);
+    keys.marker->setChoice(selectedIndex);
+    if (selectedIndex < 0)
+        keys.marker->setValue(tr("None"));
+    keys.marker->setItemEnabled(Remove, selected);
+    keys.marker->setItemEnabled(RemoveAll, commands.size() > FirstMarker);
+    keys.referenceMarker->setChoices(references);
+    keys.referenceMarker->setChoice(referenceIndex);
+    keys.readout->setChoice(int(m_model->viewSettings()->readoutFormat()));
+    keys.marker->setEnabled(trace);
+    keys.search->setEnabled(trace);
+    keys.markerTo->setEnabled(selected);
+    keys.referenceMarker->setEnabled(references.size() > 1);
+}
+
+} // namespace Panel

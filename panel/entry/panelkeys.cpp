@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panelkeys.h"
+
+#include "softkey.h"
+#include "softkeymenu.h"
+#include <panel/model/panelmodel.h>
+
+#include <widgets/displaypanel.h>
+#include <widgets/menubutton.h>
+#include <widgets/switchbutton.h>
+
+#include <QCoreApplication>
+
+namespace Panel
+{
+
+namespace
+{
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Panel::PanelKeys)
+};
+
+MenuButton *addMenu(SoftKeyMenu *menu, const QString &name)
+{
+    auto *button = new MenuButton(name + QStringLiteral(" \u25be"));
+    button->setAccessibleName(name);
+    menu->addKey(button);
+    return button;
+}
+
+SwitchButton *addSwitch(SoftKeyMenu *menu, const QString &name)
+{
+    auto *button = new SwitchButton;
+    button->setText(name);
+    button->setTextMargins({10, 0, 10, 0});
+    menu->addKey(button);
+    return button;
+}
+
+} // namespace
+
+PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
+{
+    PanelKeys keys{};
+    menu->addPage(Text::tr("Stimulus"));
+    keys.start = menu->addKey(Text::tr("Start"));
+    keys.stop = menu->addKey(Text::tr("Stop"));
+    keys.center = menu->addKey(Text::tr("Center"));
+    keys.span = menu->addKey(Text::tr("Span"));
+    keys.points = menu->addKey(Text::tr("Points"));
+
+    menu->addPage(Text::tr("Trace"));
+    keys.trace = menu->addKey(Text::tr("Trace"));
+    keys.format = menu->addKey(Text::tr("Format"));
+    keys.scale = menu->addKey(Text::tr("Scale"));
+    keys.reference = menu->addKey(Text::tr("Reference"));
+    keys.memory = addMenu(menu, Text::tr("Memory"));
+    keys.visible = addSwitch(menu, Text::tr("Visible"));
+
+    menu->addPage(Text::tr("Marker"));
+    keys.marker = menu->addKey(Text::tr("Marker"));
+    keys.markerStimulus = menu->addKey(Text::tr("Stimulus"));
+    keys.search = addMenu(menu, Text::tr("Search"));
+    keys.markerTo = addMenu(menu, Text::tr("Marker to"));
+    keys.referenceMarker = menu->addKey(Text::tr("Reference"));
+    keys.readout = menu->addKey(Text::tr("Read-out"));
+
+    menu->addPage(Text::tr("Display"));
+    keys.layout = new DisplayPanel(model->viewSettings()->layoutProfile());
+    menu->addWidget(keys.layout);
+    keys.grid = menu->addKey(Text::tr("Grid"));
+    keys.density = menu->addKey(Text::tr("Density"));
+    keys.zoom = menu->addKey(Text::tr("Zoom"));
+    keys.pointer = menu->addKey(Text::tr("Pointer"));
+
+    menu->addPage(Text::tr("Sweep"));
+    keys.source = menu->addKey(Text::tr("Source"));
+    keys.sweep = addSwitch(menu, Text::tr("Sweep"));
+    keys.tune = menu->addKey(Text::tr("Resonance"));
+    keys.timing = addSwitch(menu, Text::tr("Timing"));
+
+    menu->addPage(Text::tr("System"));
+    keys.file = menu->addKey(Text::tr("File"));
+    keys.screenshot = menu->addKey(Text::tr("Screenshot"));
+    keys.settings = menu->addKey(Text::tr("Settings"));
+    keys.help = menu->addKey(Text::tr("Keys"));
+    return keys;
+}
+
+} // namespace Panel

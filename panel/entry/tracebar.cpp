@@ -1,0 +1,280 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tracebar.h"
+
+#include <panel/look/look.h>
+#include <panel/model/panelmodel.h>
+
+#include <controls/thememanager.h>
+#include <utils/qtcompat_p.h>
+
+#include <QAbstractButton>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScroller>
+
+namespace Panel
+{
+
+/// One trace: filled with its colour when active, dashed and pale when hidden.
+class TraceButton : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    TraceButton(int traceId, QWidget *parent)
+        : QAbstractButton(parent)
+        , m_traceId(traceId)
+    {
+        setCheckable(true);
+        setFocusPolicy(Qt::StrongFocus);
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    }
+
+    int traceId() const { return m_traceId; }
+
+    /// The name is followed by the fields.
+    void setTexts(const QString &name, const QStringList &fields, bool shown)
+    {
+        m_shown = shown;
+        if (name != text() || fields != m_fields) {
+            setText(name);
+            m_fields = fields;
+            updateGeometry();
+        }
+        const QString all = name + QLatin1Char(' ') + fields.join(QLatin1Char(' '));
+        setAccessibleName(shown ? all : TraceBar::tr("%1 (hidden)").arg(all));
+        update();
+    }
+
+    /// Leaves out all but the first field.
+    void setShort(bool isShort)
+    {
+        if (isShort == m_short)
+            return;
+        m_short = isShort;
+        updateGeometry();
+        update();
+    }
+
+    QRect fieldRect(int field) const
+    {
+        int left = s_padding + advance(text());
+        for (int i = 0; i < field; ++i)
+            left += advance(m_fields.at(i));
+        return {left, 0, advance(m_fields.at(field)), height()};
+    }
+
+    /// The field at a point, or -1.
+    int fieldAt(const QPoint &position) const
+    {
+        for (int i = 0; i < shownFields(); ++i) {
+            if (fieldRect(i).contains(position))
+                return i;
+        }
+        return -1;
+    }
+
+    /// Where the pointer was released last.
+    QPoint released() const { return m_released; }
+    int fullWidth() const { return width(int(m_fields.size())); }
+
+    QSize sizeHint() const override
+    {
+        return {width(shownFields()), qMax(fontMetrics().height() + 14, 32)};
+    }
+
+protected:
+    // The model says which trace is active, not the click.
+    void nextCheckState() override { }
+
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        m_released = QtCompat::position(event).toPoint();
+        QAbstractButton::mouseReleaseEvent(event);
+        m_released = {-1, -1};
+    }
+
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            click();
+        else
+            QAbstractButton::keyPressEvent(event);
+    }
+
+    void paintEvent(QPaintEvent *) override
+    {
+        const Look look = currentLook();
+        QColor color = look.trace(m_traceId);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        QPen edge(isChecked() || hasFocus() ? color : look.border, hasFocus() ? 2.0 : 1.0);
+        if (!m_shown) {
+            edge.setStyle(Qt::DashLine);
+            color.setAlphaF(isChecked() ? 0.45F : 0.6F);
+        }
+        painter.setPen(edge);
+        painter.setBrush(isChecked() ? QBrush(color) : QBrush(isDown() ? look.button : look.bar));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 4.0, 4.0);
+        painter.setPen(!isChecked() ? color : m_shown ? textOn(color) : look.text);
+        painter.drawText(QRect(s_padding, 0, advance(text()), height()), Qt::AlignVCenter, text());
+        for (int i = 0; i < shownFields(); ++i)
+            painter.drawText(fieldRect(i), Qt::AlignVCenter, m_fields.at(i));
+    }
+
+private:
+    static constexpr int s_padding = 12;
+
+    /// A word and the space after it.
+    int advance(const QString &word) const
+    {
+        return fontMetrics().horizontalAdvance(word + QLatin1Char(' '));
+    }
+    int shownFields() const { return m_short ? 1 : int(m_fields.size()); }
+    int width(int fields) const
+    {
+        int sum = 2 * s_padding + advance(text()) - advance(QString());
+        for (int i = 0; i < fields; ++i)
+            sum += advance(m_fields.at(i));
+        return sum;
+    }
+
+    int m_traceId;
+    QStringList m_fields;
+    bool m_shown = true;
+    bool m_short = false;
+    QPoint m_released = {-1, -1};
+};
+
+TraceBar::TraceBar(const PanelModel *model, QWidget *parent)
+    : QScrollArea(parent)
+    , m_model(model)
+{
+    setAccessibleName(tr("Traces"));
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    auto *content = new QWidget(this);
+    m_row = new QHBoxLayout(content);
+    m_row->setContentsMargins(0, 0, 0, 0);
+    m_row->setSpacing(8);
+    m_row->addStretch();
+    setWidget(content);
+    QScroller::grabGesture(viewport(), QScroller::LeftMouseButtonGesture);
+
+    connect(m_model, &PanelModel::tracesChanged, this, &TraceBar::rebuild);
+    connect(m_model, &PanelModel::activeTraceChanged, this, &TraceBar::refresh);
+    connect(m_model, &PanelModel::traceVisibleChanged, this, &TraceBar::refresh);
+    connect(m_model, &PanelModel::traceScaleChanged, this, &TraceBar::refresh);
+    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
+            &TraceBar::refresh);
+    rebuild();
+}
+
+QSize TraceBar::sizeHint() const
+{
+    return {200, 36};
+}
+
+QSize TraceBar::minimumSizeHint() const
+{
+    return {80, 36};
+}
+
+TraceButton *TraceBar::traceButton(int traceId) const
+{
+    for (TraceButton *button : m_buttons) {
+        if (button->traceId() == traceId)
+            return button;
+    }
+    return nullptr;
+}
+
+QAbstractButton *TraceBar::button(int traceId) const
+{
+    return traceButton(traceId);
+}
+
+QRect TraceBar::fieldRect(int traceId, Field field) const
+{
+    const TraceButton *button = traceButton(traceId);
+    return button ? button->fieldRect(field) : QRect();
+}
+
+/// Makes the buttons where there are others than before.
+void TraceBar::rebuild()
+{
+    QVector<int> ids, before;
+    for (const Trace &trace : m_model->traces())
+        ids.append(trace.id);
+    for (const TraceButton *button : qAsConst(m_buttons))
+        before.append(button->traceId());
+    if (ids != before) {
+        for (TraceButton *button : qAsConst(m_buttons)) {
+            // A button may be the one whose click led here.
+            button->hide();
+            button->deleteLater();
+        }
+        m_buttons.clear();
+        for (const int id : qAsConst(ids)) {
+            auto *button = new TraceButton(id, widget());
+            connect(button, &QAbstractButton::clicked, this, [this, button, id] {
+                const int field = button->fieldAt(button->released());
+                if (!button->isChecked())
+                    Q_EMIT activationRequested(id);
+                else if (field >= 0)
+                    Q_EMIT editRequested(id, Field(field));
+            });
+            m_row->insertWidget(int(m_buttons.size()), button);
+            m_buttons.append(button);
+        }
+    }
+    refresh();
+}
+
+void TraceBar::refresh()
+{
+    const Trace *active = m_model->activeTrace();
+    for (TraceButton *button : qAsConst(m_buttons)) {
+        const Trace *trace = m_model->trace(button->traceId());
+        // Between two signals of the model a button may outlive its trace.
+        if (!trace)
+            continue;
+        button->setToolTip(m_model->network(*trace).name);
+        button->setTexts(tr("Tr%1").arg(trace->id),
+                         {PanelModel::parameterName(*trace), formatName(trace->format),
+                          scaleText(trace->format, trace->scale)},
+                         trace->visible);
+        button->setChecked(trace == active);
+    }
+    fit();
+}
+
+/// Shows all fields of all traces where there is room for them.
+void TraceBar::fit()
+{
+    int wanted = 0;
+    for (const TraceButton *button : qAsConst(m_buttons))
+        wanted += button->fullWidth() + m_row->spacing();
+    const bool tight = wanted > viewport()->width();
+    for (TraceButton *button : qAsConst(m_buttons)) {
+        button->setShort(tight && !button->isChecked());
+        if (button->isChecked())
+            ensureWidgetVisible(button, 8, 0);
+    }
+}
+
+void TraceBar::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    fit();
+}
+
+} // namespace Panel
+
+#include "tracebar.moc"

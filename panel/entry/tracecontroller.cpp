@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tracecontroller.h"
+
+#include "numerickeys.h"
+#include "softkey.h"
+#include <panel/model/panelmodel.h>
+#include <panel/window/panelwindow.h>
+
+#include <platform/placement.h>
+#include <widgets/menubutton.h>
+#include <widgets/popupwidget.h>
+#include <widgets/switchbutton.h>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// The commands of the memory key.
+enum MemoryCommand {
+    Store,
+    Clear,
+};
+
+/// A parameter's ports, in the order of a list.
+struct Ports {
+    int to;
+    int from;
+};
+
+QVector<Ports> parameters(int ports)
+{
+    QVector<Ports> result;
+    for (int to = 1; to <= ports; ++to) {
+        for (int from = 1; from <= ports; ++from)
+            result.append({to, from});
+    }
+    return result;
+}
+
+QStringList formatNames()
+{
+    QStringList names;
+    for (int i = 0; i < traceFormatCount; ++i)
+        names << formatName(TraceFormat(i));
+    return names;
+}
+
+} // namespace
+
+TraceController::TraceController(PanelModel *model, PanelWindow *window, NumericKeys *numbers,
+                                 QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_window(window)
+    , m_numbers(numbers)
+{
+    connect(window->traceBar(), &TraceBar::activationRequested, model, &PanelModel::setActiveTrace);
+    connect(window->traceBar(), &TraceBar::editRequested, this, &TraceController::onEditRequested);
+    connectKeys();
+    for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::activeTraceChanged})
+        connect(model, signal, this, &TraceController::showTrace);
+    connect(model, &PanelModel::memoryChanged, this, &TraceController::showTrace);
+    connect(model, &PanelModel::traceVisibleChanged, this, &TraceController::showTrace);
+    showTrace();
+}
+
+void TraceController::connectKeys()
+{
+    const PanelKeys &keys = m_window->keys();
+    connect(keys.trace, &SoftKey::choicePicked, this, [this](int index) {
+        m_model->setActiveTrace(m_model->traces().at(index).id);
+        showTrace();
+    });
+    keys.format->setChoices(formatNames());
+    connect(keys.format, &SoftKey::choicePicked, this, [this](int index) {
+        if (const Trace *trace = m_model->activeTrace())
+            m_model->setTraceFormat(trace->id, TraceFormat(index));
+        showTrace();
+    });
+    keys.memory->addMenuItem(Store, tr("Data to memory"));
+    keys.memory->addMenuItem(Clear, tr("Clear memory"));
+    connect(keys.memory, qOverload<int>(&MenuButton::menuItemClicked), this,
+            &TraceController::onMemoryPicked);
+    connect(keys.visible, &SwitchButton::statusChanged, this, [this](bool visible) {
+        if (const Trace *trace = m_model->activeTrace())
+            m_model->setTraceVisible(trace->id, visible);
+    });
+}
+
+void TraceController::onMemoryPicked(int command)
+{
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
+        return;
+    if (command == Store)
+        m_model->storeMemory(trace->id);
+    else if (command == Clear)
+        m_model->clearMemory(trace->id);
+}
+
+void TraceController::onEditRequested(int traceId, TraceBar::Field field)
+{
+    const Trace *trace = m_model->trace(traceId);
+    QWidget *button = m_window->traceBar()->button(traceId);
+    if (!trace || !button)
+        return;
+    const QRect place = m_window->traceBar()->fieldRect(traceId, field);
+    if (field == TraceBar::Scale) {
+        m_numbers->editScale(button);
+    } else if (field == TraceBar::Format) {
+        choose(button, place, formatNames(), int(trace->format), [this, traceId](int index) {
+            m_model->setTraceFormat(traceId, TraceFormat(index));
+        });
+    } else {
+        QStringList names;
+        const QVector<Ports> all = parameters(m_model->network(*trace).ports);
+        for (const Ports &ports : all)
+            names << QStringLiteral("S%1%2").arg(ports.to).arg(ports.from);
+        choose(button, place, names, int(names.indexOf(PanelModel::parameterName(*trace))),
+               [this, traceId, all](int index) {
+                   m_model->setTraceParameter(traceId, all.at(index).to, all.at(index).from);
+               });
+    }
+}
+
+void TraceController::choose(QWidget *anchor, const QRect &place, const QStringList &choices,
+                             int current, const std::function<void(int)> &picked)
+{
+    auto *popup = new PopupWidget(m_window);
+    popup->addItems(choices, current);
+    popup->setCurrentItem(choices.value(current));
+    popup->setWidgetFixedWidth(qMax(120, place.width()));
+    connect(popup, &PopupWidget::currentItemChanged, this,
+            [choices, picked](const QString &text) { picked(int(choices.indexOf(text))); });
+    connect(popup, &PopupWidget::widgetClosed, popup, &QObject::deleteLater);
+    popup->popup();
+    popup->move(Utils::boundedTopLeft(anchor->mapToGlobal(place.bottomLeft()), popup->size(),
+                                      m_window->geometry(), 0));
+    popup->show();
+}
+
+void TraceController::showTrace()
+{
+    const PanelKeys &keys = m_window->keys();
+    const Trace *active = m_model->activeTrace();
+    QStringList names;
+    int index = -1;
+    for (const Trace &trace : m_model->traces()) {
+        if (active && trace.id == active->id)
+            index = int(names.size());
+        names << tr("Tr%1 %2").arg(QString::number(trace.id), PanelModel::parameterName(trace));
+    }
+    keys.trace->setChoices(names);
+    keys.trace->setChoice(index);
+    keys.format->setChoice(active ? int(active->format) : -1);
+    keys.visible->setStatus(active && active->visible);
+    keys.memory->setItemEnabled(Clear, active && m_model->memory(active->id));
+    for (QWidget *key : {static_cast<QWidget *>(keys.trace), static_cast<QWidget *>(keys.format),
+                         static_cast<QWidget *>(keys.memory), static_cast<QWidget *>(keys.visible)})
+        key->setEnabled(active);
+}
+
+} // namespace Panel

@@ -1,0 +1,221 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panelwindow.h"
+
+#include "messagebar.h"
+#include "sweepbar.h"
+#include "timingline.h"
+#include <panel/diagrams/diagrams.h>
+#include <panel/entry/softkey.h>
+#include <panel/entry/softkeymenu.h>
+#include <panel/entry/tracebar.h>
+#include <panel/look/elidedlabel.h>
+#include <panel/look/icons.h>
+#include <panel/look/look.h>
+#include <panel/model/panelmodel.h>
+
+#include <controls/thememanager.h>
+#include <widgets/displaypanel.h>
+#include <widgets/lockwidget.h>
+
+#include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// The panel's sign: a small Smith chart.
+QPixmap mark(int size, const QColor &color, double ratio)
+{
+    QPixmap pixmap(qRound(size * ratio), qRound(size * ratio));
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, qMax(1.2, size / 60.0)));
+    const double radius = size / 2.0 - 2.0;
+    painter.translate(size / 2.0, size / 2.0);
+    QPainterPath edge;
+    edge.addEllipse(QPointF(0.0, 0.0), radius, radius);
+    painter.drawPath(edge);
+    painter.setClipPath(edge);
+    painter.drawLine(QPointF(-radius, 0.0), QPointF(radius, 0.0));
+    painter.drawEllipse(QPointF(radius / 2.0, 0.0), radius / 2.0, radius / 2.0);
+    painter.drawEllipse(QPointF(radius, radius), radius, radius);
+    painter.drawEllipse(QPointF(radius, -radius), radius, radius);
+    return pixmap;
+}
+
+} // namespace
+
+PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
+    : QMainWindow(parent)
+    , m_model(model)
+    , m_traceBar(new TraceBar(model))
+    , m_messageBar(new MessageBar)
+    , m_diagrams(new Diagrams(model))
+    , m_sweepBar(new SweepBar(model))
+    , m_timingLine(new TimingLine(m_diagrams))
+    , m_softKeys(new SoftKeyMenu)
+    , m_keys(makePanelKeys(m_softKeys, model))
+{
+    setWindowTitle(tr("Vector network analyser"));
+
+    auto *diagramColumn = new QVBoxLayout;
+    diagramColumn->setSpacing(0);
+    diagramColumn->addWidget(m_messageBar);
+    diagramColumn->addWidget(makeDiagrams(), 1);
+    diagramColumn->addWidget(m_timingLine);
+    diagramColumn->addWidget(m_sweepBar);
+
+    auto *middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    middle->addLayout(diagramColumn, 1);
+    middle->addWidget(m_softKeys);
+
+    setCentralWidget(new QWidget);
+    auto *column = new QVBoxLayout(centralWidget());
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(makeTopBar());
+    column->addLayout(middle, 1);
+    // Over the diagrams, from where it can be dragged aside.
+    m_lock = new LockWidget(centralWidget(), m_pages);
+
+    connect(m_model, &PanelModel::networksChanged, this, &PanelWindow::showModel);
+    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
+            &PanelWindow::recolor);
+    showModel();
+    recolor();
+}
+
+SmithView *PanelWindow::smithView() const
+{
+    return m_diagrams->smithView();
+}
+
+CartesianView *PanelWindow::cartesianView() const
+{
+    return m_diagrams->cartesianView();
+}
+
+QWidget *PanelWindow::makeTopBar()
+{
+    auto *bar = new QWidget;
+    bar->setObjectName(QStringLiteral("topBar"));
+    bar->setAttribute(Qt::WA_StyledBackground);
+    auto *row = new QHBoxLayout(bar);
+    row->setContentsMargins(10, 4, 6, 4);
+    row->setSpacing(8);
+    m_mark = new QLabel;
+    row->addWidget(m_mark);
+    auto *name = new QLabel(tr("VNA"));
+    QFont bold = name->font();
+    bold.setBold(true);
+    name->setFont(bold);
+    row->addWidget(name);
+    row->addWidget(m_traceBar, 1);
+    m_fileName = new ElidedLabel(Qt::ElideMiddle);
+    m_fileName->setObjectName(QStringLiteral("dim"));
+    m_fileName->setAccessibleName(tr("File"));
+    m_fileName->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_fileName->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    m_fileName->setFixedWidth(fontMetrics().averageCharWidth() * 18);
+    row->addWidget(m_fileName);
+    m_themeButton = addBarButton(row, tr("Dark or light"));
+    m_screenshotButton = addBarButton(row, tr("Screenshot"));
+    m_lockButton = addBarButton(row, tr("Lock"));
+    m_lockButton->setCheckable(true);
+    return bar;
+}
+
+QToolButton *PanelWindow::addBarButton(QHBoxLayout *row, const QString &name)
+{
+    auto *button = new QToolButton;
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    button->setMinimumSize(44, 40);
+    button->setIconSize(QSize(20, 20));
+    row->addWidget(button);
+    return button;
+}
+
+QWidget *PanelWindow::makeDiagrams()
+{
+    m_pages = new QStackedWidget;
+    m_pages->setObjectName(QStringLiteral("diagrams"));
+    m_pages->addWidget(m_diagrams);
+    m_pages->addWidget(makeEmptyPage());
+    return m_pages;
+}
+
+QWidget *PanelWindow::makeEmptyPage()
+{
+    auto *page = new QWidget;
+    page->setObjectName(QStringLiteral("emptyPage"));
+    page->setAttribute(Qt::WA_StyledBackground);
+    auto *column = new QVBoxLayout(page);
+    column->setSpacing(12);
+    column->addStretch();
+    m_emptyMark = new QLabel;
+    column->addWidget(m_emptyMark, 0, Qt::AlignHCenter);
+    auto *title = new QLabel(tr("No data"));
+    QFont large = title->font();
+    large.setPixelSize(QFontInfo(large).pixelSize() * 3 / 2);
+    title->setFont(large);
+    column->addWidget(title, 0, Qt::AlignHCenter);
+    auto *hint = new QLabel(tr("Open a Touchstone file (.s1p, .s2p) to see it."));
+    hint->setObjectName(QStringLiteral("dim"));
+    hint->setWordWrap(true);
+    hint->setAlignment(Qt::AlignHCenter);
+    column->addWidget(hint);
+    auto *button = new QPushButton(tr("Open file\u2026"));
+    button->setMinimumSize(160, 44);
+    m_emptyPageButton = button;
+    column->addWidget(button, 0, Qt::AlignHCenter);
+    column->addStretch();
+    return page;
+}
+
+void PanelWindow::showModel()
+{
+    const QVector<Network> &networks = m_model->networks();
+    m_pages->setCurrentIndex(networks.isEmpty() ? 1 : 0);
+    const int files = int(networks.size());
+    const QString name = files == 0 ? QString()
+        : files == 1                ? networks.first().name
+                                    : tr("%n files", nullptr, files);
+    m_fileName->setText(name);
+    m_keys.file->setValue(files == 0 ? tr("Open\u2026") : name);
+}
+
+void PanelWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    // Traces first; the diagrams name the file too.
+    m_fileName->setVisible(width() > 900);
+}
+
+void PanelWindow::recolor()
+{
+    const Look look = currentLook();
+    setStyleSheet(panelStyleSheet(look));
+    const double ratio = devicePixelRatioF();
+    m_mark->setPixmap(mark(24, look.text, ratio));
+    m_emptyMark->setPixmap(mark(120, look.border, ratio));
+    m_themeButton->setIcon(icon("theme"));
+    const auto *theme = Controls::ThemeManager::instance();
+    m_screenshotButton->setIcon(theme->icon(5));
+    m_lockButton->setIcon(theme->icon(3));
+    m_keys.layout->updateThemeIcons(theme->isDarkTheme());
+}
+
+} // namespace Panel

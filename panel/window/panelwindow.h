@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <panel/entry/panelkeys.h>
+
+#include <QMainWindow>
+
+class LockWidget;
+class QAbstractButton;
+class QHBoxLayout;
+class QLabel;
+class QStackedWidget;
+class QToolButton;
+
+namespace Panel
+{
+
+class MessageBar;
+class PanelModel;
+class SmithView;
+class CartesianView;
+class Diagrams;
+class ElidedLabel;
+class SoftKeyMenu;
+class SweepBar;
+class TimingLine;
+class TraceBar;
+
+/*! The panel's window: top bar, diagrams, sweep bar and the column of soft keys, for any size from
+   800 x 480.
+
+    It lays the parts out and follows model and theme. What a key or a gesture does is decided by
+    PanelController. */
+class PanelWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit PanelWindow(PanelModel *model, QWidget *parent = nullptr);
+
+    Diagrams *diagrams() const { return m_diagrams; }
+    SmithView *smithView() const;
+    CartesianView *cartesianView() const;
+    TraceBar *traceBar() const { return m_traceBar; }
+    MessageBar *messageBar() const { return m_messageBar; }
+
+    SoftKeyMenu *softKeys() const { return m_softKeys; }
+    const PanelKeys &keys() const { return m_keys; }
+    SweepBar *sweepBar() const { return m_sweepBar; }
+    TimingLine *timingLine() const { return m_timingLine; }
+    QToolButton *themeButton() const { return m_themeButton; }
+    QToolButton *screenshotButton() const { return m_screenshotButton; }
+    /// Checked while the padlock is shown.
+    QToolButton *lockButton() const { return m_lockButton; }
+    LockWidget *lock() const { return m_lock; }
+    /// The button of the page that stands where there is nothing to show.
+    QAbstractButton *emptyPageButton() const { return m_emptyPageButton; }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    QWidget *makeTopBar();
+    QWidget *makeDiagrams();
+    QWidget *makeEmptyPage();
+    QToolButton *addBarButton(QHBoxLayout *row, const QString &name);
+    void showModel();
+    void recolor();
+
+    PanelModel *m_model;
+    TraceBar *m_traceBar;
+    MessageBar *m_messageBar;
+    Diagrams *m_diagrams;
+    SweepBar *m_sweepBar;
+    TimingLine *m_timingLine;
+    QStackedWidget *m_pages;
+    LockWidget *m_lock;
+    QLabel *m_mark;
+    ElidedLabel *m_fileName;
+    QLabel *m_emptyMark;
+    QToolButton *m_themeButton;
+    QToolButton *m_screenshotButton;
+    QToolButton *m_lockButton;
+    QAbstractButton *m_emptyPageButton;
+    SoftKeyMenu *m_softKeys;
+    PanelKeys m_keys;
+};
+
+} // namespace Panel

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settingsdialog.h"
+
+#include "languages.h"
+#include <panel/model/panelmodel.h>
+
+#include <controls/combobox.h>
+#include <controls/thememanager.h>
+#include <widgets/switchbutton.h>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace Panel
+{
+
+namespace
+{
+
+constexpr int s_fieldHeight = 44;
+
+Controls::ComboBox *makeChoice(const QString &name, const QStringList &choices, int current)
+{
+    auto *choice = new Controls::ComboBox;
+    choice->setAccessibleName(name);
+    choice->addItems(choices);
+    choice->setCurrentIndex(current);
+    choice->setMinimumHeight(s_fieldHeight);
+    return choice;
+}
+
+} // namespace
+
+SettingsDialog::SettingsDialog(PanelModel *model, QWidget *parent)
+    : DraggableFramelessDialog(parent)
+    , m_model(model)
+    , m_form(new QFormLayout(this))
+    , m_folder(new QPushButton)
+{
+    setAccessibleName(tr("Settings"));
+    setWindowTitle(tr("Settings"));
+    setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
+    m_form->setContentsMargins(16, 16 + 35, 16, 16);
+    m_form->setHorizontalSpacing(24);
+    m_form->setVerticalSpacing(8);
+    addTheme();
+    addLanguage();
+    addMarkerModes();
+    addFolder();
+    setMinimumWidth(440);
+}
+
+void SettingsDialog::addRow(const QString &name, QWidget *field)
+{
+    auto *label = new QLabel(name);
+    // In the middle of the row, where the layout would put it at the top.
+    label->setMinimumHeight(s_fieldHeight);
+    m_form->addRow(label, field);
+}
+
+void SettingsDialog::addTheme()
+{
+    using Controls::ThemeManager;
+    ThemeManager *theme = ThemeManager::instance();
+    auto *choice = makeChoice(tr("Look"), {tr("Dark"), tr("Light")}, theme->currentTheme());
+    connect(choice, QOverload<int>::of(&QComboBox::activated), theme,
+            [theme](int index) { theme->setTheme(ThemeManager::Theme(index)); });
+    connect(theme, &ThemeManager::themeChanged, choice,
+            [choice](ThemeManager::Theme now) { choice->setCurrentIndex(now); });
+    addRow(tr("Look"), choice);
+}
+
+void SettingsDialog::addLanguage()
+{
+    QStringList names;
+    for (const Language &language : languages())
+        names << language.name;
+    m_language = makeChoice(tr("Language"), names, 0);
+    connect(m_language, QOverload<int>::of(&QComboBox::activated), this,
+            [this](int index) { Q_EMIT languagePicked(languages().at(index).code); });
+    addRow(tr("Language"), m_language);
+}
+
+SwitchButton *SettingsDialog::addSwitch(const QString &name, bool on)
+{
+    auto *button = new SwitchButton;
+    button->setAccessibleName(name);
+    button->setStatus(on);
+    button->setFixedHeight(s_fieldHeight);
+    addRow(name, button);
+    return button;
+}
+
+void SettingsDialog::addMarkerModes()
+{
+    connect(addSwitch(tr("Markers on measured points only"), m_model->markersDiscrete()),
+            &SwitchButton::statusChanged, m_model, &PanelModel::setMarkersDiscrete);
+    connect(addSwitch(tr("Markers coupled over all traces"), m_model->markersCoupled()),
+            &SwitchButton::statusChanged, m_model, &PanelModel::setMarkersCoupled);
+}
+
+void SettingsDialog::addFolder()
+{
+    m_folder->setMinimumHeight(s_fieldHeight);
+    m_folder->setAccessibleName(tr("Screenshots go to"));
+    connect(m_folder, &QPushButton::clicked, this, &SettingsDialog::pickFolder);
+    addRow(tr("Screenshots go to"), m_folder);
+}
+
+void SettingsDialog::setLanguage(const QString &code)
+{
+    for (int i = 0; i < languages().size(); ++i) {
+        if (languages().at(i).code == code)
+            m_language->setCurrentIndex(i);
+    }
+}
+
+void SettingsDialog::setScreenshotFolder(const QString &folder)
+{
+    m_folder->setToolTip(folder);
+    m_folder->setText(
+        m_folder->fontMetrics().elidedText(QDir::toNativeSeparators(folder), Qt::ElideMiddle, 220));
+}
+
+void SettingsDialog::pickFolder()
+{
+    // Opened, not executed: the panel may go while it is on screen.
+    auto *dialog = new QFileDialog(this, tr("Screenshots go to"), m_folder->toolTip());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &folder) {
+        setScreenshotFolder(folder);
+        Q_EMIT screenshotFolderPicked(folder);
+    });
+    dialog->open();
+}
+
+} // namespace Panel

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sweepbar.h"
+
+#include <panel/look/look.h>
+#include <panel/model/format.h>
+#include <panel/model/panelmodel.h>
+
+#include <widgets/rectangularbottomwidget.h>
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// The speed is told this often, in milliseconds.
+constexpr qint64 s_speedInterval = 500;
+constexpr int s_lineWidth = 2;
+
+} // namespace
+
+SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_bar(new RectangularBottomWidget)
+{
+    setAccessibleName(tr("Sweep"));
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, s_lineWidth, 0, 0);
+    column->addWidget(m_bar);
+    connect(m_model, &PanelModel::activeTraceChanged, this, &SweepBar::showRange);
+    connect(m_model, &PanelModel::stimulusChanged, this, &SweepBar::showRange);
+    connect(m_model, &PanelModel::networkUpdated, this, &SweepBar::showRange);
+    connect(m_model, &PanelModel::networksChanged, this, [this] {
+        m_clock.invalidate();
+        setProgress(0.0);
+        showSpeed(QString());
+    });
+    connect(m_model, &PanelModel::sweepingChanged, this, [this] {
+        if (!m_model->isSweeping() && m_clock.isValid())
+            showSpeed(tr("Hold"));
+        m_clock.invalidate();
+    });
+    showSpeed(QString());
+    showRange();
+}
+
+void SweepBar::showRange()
+{
+    const Trace *trace = m_model->activeTrace();
+    const double none = qQNaN();
+    m_bar->updateRange(frequencyText(trace ? m_model->stimulus(*trace).start : none),
+                       frequencyText(trace ? m_model->stimulus(*trace).stop : none));
+}
+
+void SweepBar::setProgress(double progress)
+{
+    // Drawn to the end for one frame only, a line would flicker.
+    progress = progress < 1.0 || m_progress > 0.0 ? progress : 0.0;
+    if (progress == m_progress)
+        return;
+    m_progress = progress;
+    update(0, 0, width(), s_lineWidth);
+}
+
+void SweepBar::countSweep()
+{
+    if (!m_clock.isValid()) {
+        m_clock.start();
+        m_sweeps = 0;
+        return;
+    }
+    ++m_sweeps;
+    const qint64 elapsed = m_clock.elapsed();
+    if (elapsed < s_speedInterval || !m_model->isSweeping())
+        return;
+    const double speed = m_sweeps * 1000.0 / double(elapsed);
+    showSpeed(tr("Speed: %1 sweeps/s").arg(speed, 0, 'f', speed < 9.95 ? 1 : 0));
+    m_clock.start();
+    m_sweeps = 0;
+}
+
+void SweepBar::showSpeed(const QString &speed)
+{
+    m_bar->setSweepSpeedText(speed);
+    m_bar->setSweepSpeedVisible(!speed.isEmpty());
+}
+
+void SweepBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(0, 0, width(), s_lineWidth, currentLook().bar);
+    painter.fillRect(0, 0, qRound(m_progress * width()), s_lineWidth, currentLook().accent);
+}
+
+} // namespace Panel
