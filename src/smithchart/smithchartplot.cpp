@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smithchartplot.h"
+#include "smithchartplot_p.h"
 
 #include "smithchartlayers_p.h"
 
@@ -11,18 +11,17 @@
 SmithChartPlot::SmithChartPlot(QCustomPlot *plot, QCPAxis *xAxis, QCPAxis *yAxis,
                                SmithChart::Preset preset, QObject *parent)
     : QObject(parent)
-    , m_plot(plot)
-    , m_preset(preset)
+    , d(std::make_unique<SmithChartPlotPrivate>(this, plot, preset))
 {
     // For hosts that queue or spy on the double click signals.
     qRegisterMetaType<Qt::KeyboardModifiers>("Qt::KeyboardModifiers");
     if (!plot)
         return;
-    m_xAxis = xAxis ? xAxis : plot->xAxis;
-    m_yAxis = yAxis ? yAxis : plot->yAxis;
-    syncGridFlags();
-    initializePlot();
-    applyFixedView();
+    d->m_xAxis = xAxis ? xAxis : plot->xAxis;
+    d->m_yAxis = yAxis ? yAxis : plot->yAxis;
+    d->syncGridFlags();
+    d->initializePlot();
+    d->applyFixedView();
     plot->installEventFilter(this);
 }
 
@@ -38,60 +37,73 @@ SmithChartPlot::~SmithChartPlot()
 
 void SmithChartPlot::setAxes(QCPAxis *xAxis, QCPAxis *yAxis)
 {
-    QCustomPlot *const plot = this->plot();
+    QCustomPlot *const plot = d->plot();
     if (!plot)
         return;
     if (!xAxis)
         xAxis = plot->xAxis;
     if (!yAxis)
         yAxis = plot->yAxis;
-    if (xAxis == m_xAxis && yAxis == m_yAxis)
+    if (xAxis == d->m_xAxis && yAxis == d->m_yAxis)
         return;
 
-    for (QCPAxis *axis : {m_xAxis.data(), m_yAxis.data()}) {
+    for (QCPAxis *axis : {d->m_xAxis.data(), d->m_yAxis.data()}) {
         if (axis)
             axis->disconnect(this);
     }
-    m_xAxis = xAxis;
-    m_yAxis = yAxis;
-    for (const OwnedCurve &record : qAsConst(m_curves)) {
+    d->m_xAxis = xAxis;
+    d->m_yAxis = yAxis;
+    for (const auto &record : qAsConst(d->m_curves)) {
         if (record.curve) {
-            record.curve->setKeyAxis(m_xAxis);
-            record.curve->setValueAxis(m_yAxis);
+            record.curve->setKeyAxis(d->m_xAxis);
+            record.curve->setValueAxis(d->m_yAxis);
         }
     }
-    clearSmithChartGrid();
-    connectAxes();
-    for (const OwnedCurve &record : qAsConst(m_curves))
-        replaceMarkers(record);
+    d->clearSmithChartGrid();
+    d->connectAxes();
+    for (const auto &record : qAsConst(d->m_curves))
+        d->replaceMarkers(record);
     const QPointer<SmithChartPlot> self(this);
-    addSmithChartGrid();
+    d->addSmithChartGrid();
     if (!self)
         return;
-    setGridVisible(anyCurveVisible());
-    applyViewState();
-    requestQueuedReplot();
+    d->setGridVisible(d->anyCurveVisible());
+    d->applyViewState();
+    d->requestQueuedReplot();
 }
 
 void SmithChartPlot::setQueuedReplotHandler(const std::function<void()> &handler)
 {
-    m_queuedReplotHandler = handler;
+    d->m_queuedReplotHandler = handler;
 }
 
-QCustomPlot *SmithChartPlot::plot() const
+QCustomPlot *SmithChartPlot::getPlot() const
+{
+    return d->plot();
+}
+
+SmithChartPlotPrivate::SmithChartPlotPrivate(SmithChartPlot *chart, QCustomPlot *plot,
+                                             SmithChart::Preset preset)
+    : q(chart)
+    , m_plot(plot)
+    , m_preset(preset)
+{
+}
+
+QCustomPlot *SmithChartPlotPrivate::plot() const
 {
     return qobject_cast<QCustomPlot *>(m_plot.data());
 }
 
 /// The axis rectangle the chart is drawn in; null unless plot, both axes and the rectangle exist.
-QCPAxisRect *SmithChartPlot::axisRect() const
+QCPAxisRect *SmithChartPlotPrivate::axisRect() const
 {
     return plot() && m_xAxis && m_yAxis ? m_xAxis->axisRect() : nullptr;
 }
 
 /// Sets up layers, connections and grid. The order of the layers is part of the look: the boundary
 /// lies over the traces, and the plot's own content over the whole chart.
-void SmithChartPlot::initializePlot()
+void SmithChartPlotPrivate::initializePlot()
 {
     QCustomPlot *const plot = this->plot();
     const QString base =
@@ -109,28 +121,30 @@ void SmithChartPlot::initializePlot()
 
     applyViewState();
     connectAxes();
-    connect(plot, &QCustomPlot::afterLayout, this, &SmithChartPlot::ensureAspectRatio);
-    connect(plot, &QCustomPlot::mousePress, this, &SmithChartPlot::onPlotMousePress);
-    connect(plot, &QCustomPlot::mouseMove, this, &SmithChartPlot::onPlotMouseMove);
-    connect(plot, &QCustomPlot::mouseRelease, this, &SmithChartPlot::onPlotMouseRelease);
+    QObject::connect(plot, &QCustomPlot::afterLayout, q, [this] { ensureAspectRatio(); });
+    QObject::connect(plot, &QCustomPlot::mousePress, q,
+                     [this](QMouseEvent *event) { onPlotMousePress(event); });
+    QObject::connect(plot, &QCustomPlot::mouseMove, q,
+                     [this](QMouseEvent *event) { onPlotMouseMove(event); });
+    QObject::connect(plot, &QCustomPlot::mouseRelease, q, [this] { finishDrag(); });
     plot->setSelectionTolerance(qRound(m_markerHitTolerancePx));
     addSmithChartGrid();
     setGridVisible(false);
 }
 
 /// A range set from outside is answered by putting the stored view back.
-void SmithChartPlot::connectAxes()
+void SmithChartPlotPrivate::connectAxes()
 {
     for (QCPAxis *axis : {m_xAxis.data(), m_yAxis.data()}) {
         if (axis) {
-            connect(axis, QOverload<const QCPRange &>::of(&QCPAxis::rangeChanged), this,
-                    &SmithChartPlot::applyViewState);
+            QObject::connect(axis, QOverload<const QCPRange &>::of(&QCPAxis::rangeChanged), q,
+                             [this] { applyViewState(); });
         }
     }
 }
 
 /// Calls the host's handler, which may change or delete the chart like any slot.
-void SmithChartPlot::requestQueuedReplot()
+void SmithChartPlotPrivate::requestQueuedReplot()
 {
     // A copy, because the handler may replace itself or delete the chart.
     const std::function<void()> handler = m_queuedReplotHandler;

@@ -7,20 +7,16 @@
 #include <plot/marker.h>
 #include <plot/qcp.h>
 #include <smithchart/preset.h>
-#include <smithchart/tracetree.h>
-#include <smithchart/viewport.h>
 #include <smithchart/viewstate.h>
 
 #include <QObject>
 #include <QPen>
-#include <QPointer>
 #include <QVector>
 
 #include <functional>
 #include <memory>
-#include <vector>
 
-class QMouseEvent;
+class SmithChartPlotPrivate;
 
 /*! Turns a QCustomPlot that the caller owns into a Smith chart.
 
@@ -78,7 +74,7 @@ public:
     ~SmithChartPlot() override;
 
     /// The plot, or null without one or once it has been destroyed.
-    QCustomPlot *getPlot() const { return plot(); }
+    QCustomPlot *getPlot() const;
     /// Moves chart and traces to other axes; a null axis stands for the plot's own of that
     /// direction.
     void setAxes(QCPAxis *xAxis, QCPAxis *yAxis);
@@ -92,7 +88,7 @@ public:
 
     /// Shows the impedance grid, the admittance grid or both. Default: Impedance.
     void setGridMode(GridMode mode);
-    GridMode gridMode() const { return m_gridMode; }
+    GridMode gridMode() const;
     /// Fills the point and label lists of a grid for normalised \a resistances and \a reactances,
     /// with \a samples steps a full circle. Every output is cleared first; x and y lists have equal
     /// lengths.
@@ -141,18 +137,18 @@ public:
     bool setActiveTrace(int traceId);
     void clearActiveTrace();
     /// The id given to setActiveTrace(), or -1 when there is none.
-    int activeTrace() const { return m_activeTraceId; }
-    bool hasActiveTrace() const { return m_activeTraceId > 0; }
+    int activeTrace() const;
+    bool hasActiveTrace() const;
     /*! @} */
 
     /*! \name View (smithchartplot_view.cpp)
         @{ */
 
-    SmithChart::ViewState viewState() const { return m_viewState; }
+    SmithChart::ViewState viewState() const;
     /// Shows the whole chart.
     void resetView();
     /// Whether the view shows less than the whole chart.
-    bool isMagnified() const { return m_viewState.zoom > SmithChart::magnifiedThreshold; }
+    bool isMagnified() const;
     /// Multiplies the magnification (1 to 20) by \a factor about \a anchor in chart coordinates.
     void zoomAt(const QPointF &anchor, double factor);
     /// Shows both ranges, as large as square units and the limits of the view allow.
@@ -163,8 +159,8 @@ public:
         @{ */
 
     /// Whether double clicks and marker drags are confined to the active trace. Default: true.
-    bool onlyHandleActiveTrace() const { return m_onlyHandleActiveTrace; }
-    void setOnlyHandleActiveTrace(bool only) { m_onlyHandleActiveTrace = only; }
+    bool onlyHandleActiveTrace() const;
+    void setOnlyHandleActiveTrace(bool only);
     /// Reports the trace point within 15 pixels of \a pos (plot widget pixels) through a signal;
     /// false if there is none. The host calls it from its own double click or double tap.
     bool handleDoubleClick(const QPoint &pos, Qt::KeyboardModifiers modifiers);
@@ -202,9 +198,9 @@ public:
     bool beginMarkerDragAt(const QPoint &pos);
     void updateMarkerDragAt(const QPoint &pos);
     void endMarkerDragAt(const QPoint &pos);
-    bool isDraggingMarker() const { return m_draggingMarkerId >= 1; }
+    bool isDraggingMarker() const;
     /// How near a press must be to catch a marker, in logical pixels. Default: 18.
-    double markerHitTolerancePx() const { return m_markerHitTolerancePx; }
+    double markerHitTolerancePx() const;
     void setMarkerHitTolerancePx(double px);
     /*! @} */
 
@@ -226,115 +222,5 @@ Q_SIGNALS:
     void markerSelectionRequested(int traceId, int localId);
 
 private:
-    /// A trace: its curve on the plot, its source data, and what was last drawn of it.
-    struct OwnedCurve {
-        int traceId = 0;
-        QPointer<QCPCurve> curve; ///< owned by the plot
-        QPen basePen; ///< as the caller gave it
-        QVector<double> frequencies; ///< as many as there are points
-        QVector<double> real;
-        QVector<double> imag; ///< as many as real parts
-        SmithRender::TraceTree tree; ///< over the source data
-        quint64 sourceRevision = 0;
-
-        SmithRender::Viewport cachedViewport;
-        bool cacheValid = false;
-        quint64 cachedSourceRevision = 0;
-        QVector<int> keptIndices;
-        quint64 markerRevision = 0;
-        quint64 cachedMarkerRevision = 0;
-        qint64 lastDecimationNs = -1; ///< -1: not measured
-        int displayedPointCount = 0;
-        qint64 lastReportMs = 0;
-    };
-
-    /// A marker: its items on the plot and the point of the trace it marks.
-    struct OwnedMarker {
-        std::unique_ptr<Plot::Marker> marker; ///< never null
-        QPointer<QCPCurve> curve;
-        int traceId = 0;
-        int localId = 0;
-        double sourceIndex = -1.0; ///< -1: never placed
-    };
-
-    // Construction, layers, replot
-    QCustomPlot *plot() const;
-    QCPAxisRect *axisRect() const;
-    void initializePlot();
-    void connectAxes();
-    void requestQueuedReplot();
-
-    // Grid
-    void addSmithChartGrid();
-    void clearSmithChartGrid();
-    void rebuildSmithChartGrid();
-    void syncGridFlags();
-    void setGridVisible(bool visible);
-
-    // Traces
-    OwnedCurve *findTrace(int traceId);
-    const OwnedCurve *findTrace(int traceId) const;
-    int findCurveIndexByTraceId(int traceId) const;
-    OwnedCurve *findOwnedCurve(QCPCurve *curve);
-    const OwnedCurve *findOwnedCurve(QCPCurve *curve) const;
-    QVector<QCPCurve *> dataCurves() const;
-    bool anyCurveVisible() const;
-    void moveCurveToLayer(int traceId, const QString &layer);
-    void reportPerformance(OwnedCurve &record, qint64 elapsedNs);
-
-    // View
-    void applyViewState();
-    void applyFixedView();
-    void ensureAspectRatio();
-
-    // Display
-    SmithRender::Viewport currentRenderViewport() const;
-    bool refreshDisplayCurve(OwnedCurve &record, bool force);
-    void refreshAllDisplayCurves(bool force);
-    QVector<int> mandatorySourceIndices(const OwnedCurve &record) const;
-
-    // Pointer
-    const OwnedMarker *markerToCatchAt(const QPointF &pos) const;
-    bool dragIsConfined() const;
-    void finishDrag();
-    void onPlotMousePress(QMouseEvent *event);
-    void onPlotMouseMove(QMouseEvent *event);
-    void onPlotMouseRelease(QMouseEvent *event);
-    int nearestCurveDataIndex(QCPCurve *curve, const QPoint &pos, double *squaredDistance) const;
-    bool nearestCurveAndIndex(const QPoint &pos, QCPCurve *&curve, int &index,
-                              double &squaredDistance) const;
-
-    // Markers
-    const OwnedMarker *findMarker(int traceId, int localId) const;
-    OwnedMarker *findMarker(int traceId, int localId);
-    void removeMarkersOfTrace(int traceId);
-    void bumpMarkerRevision(OwnedCurve &record);
-    int findMarkerIndexByID(int traceId, int localId) const;
-    bool createMarkerVisualAt(int traceId, int localId, QCPCurve *curve, double sourceIndex,
-                              Plot::MarkerType type);
-    bool positionMarkerAtSourceIndex(OwnedMarker &record, double sourceIndex);
-    void drawMarkerSelection(const OwnedMarker &record, bool selected);
-    void updateMarkerVisualSelection(int traceId, int localId, bool selected);
-    void recolorMarkers(QCPCurve *curve);
-    void updateMarkersForCurve(QCPCurve *curve);
-    void replaceMarkers(const OwnedCurve &trace);
-
-    std::function<void()> m_queuedReplotHandler;
-    QPointer<QObject> m_plot; ///< a QObject, because a plot half destroyed must not pass for a plot
-    QPointer<QCPAxis> m_xAxis;
-    QPointer<QCPAxis> m_yAxis;
-    SmithChart::Preset m_preset;
-    SmithChart::ViewState m_viewState;
-    GridMode m_gridMode = Impedance;
-    bool m_showImpedanceGrid = true;
-    bool m_showAdmittanceGrid = false;
-    QVector<OwnedCurve> m_curves;
-    int m_activeTraceId = -1;
-    std::vector<OwnedMarker> m_ownedMarkers;
-    int m_draggingMarkerId = -1;
-    bool m_finishingDrag = false;
-    int m_selectedMarkerId = -1;
-    double m_markerHitTolerancePx = 18.0;
-    bool m_onlyHandleActiveTrace = true;
-    bool m_resizeRefitPending = false;
+    const std::unique_ptr<SmithChartPlotPrivate> d;
 };

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smithchartplot.h"
+#include "smithchartplot_p.h"
 
 #include "decimation.h"
 #include "smithperformance_p.h"
@@ -11,27 +11,29 @@
 
 Q_LOGGING_CATEGORY(smithPerformance, "vna.smith.render.performance", QtWarningMsg)
 
-/// What traces are decimated for: the axes' ranges over the axis rectangle's device pixels.
-SmithRender::Viewport SmithChartPlot::currentRenderViewport() const
+/// The axes' ranges over the device pixels of the x axis' rectangle.
+SmithRender::Viewport SmithChartPlotPrivate::viewportOf(const QCPAxis *xAxis, const QCPAxis *yAxis)
 {
     SmithRender::Viewport viewport;
-    const QCPAxisRect *const rect = axisRect();
-    if (!rect)
-        return viewport;
-    viewport.xMin = m_xAxis->range().lower;
-    viewport.xMax = m_xAxis->range().upper;
-    viewport.yMin = m_yAxis->range().lower;
-    viewport.yMax = m_yAxis->range().upper;
-    viewport.width = rect->width();
-    viewport.height = rect->height();
-    viewport.devicePixelRatio = plot()->devicePixelRatioF();
-    viewport.tolerancePx = 0.5;
+    viewport.xMin = xAxis->range().lower;
+    viewport.xMax = xAxis->range().upper;
+    viewport.yMin = yAxis->range().lower;
+    viewport.yMax = yAxis->range().upper;
+    viewport.width = xAxis->axisRect()->width();
+    viewport.height = xAxis->axisRect()->height();
+    viewport.devicePixelRatio = xAxis->parentPlot()->devicePixelRatioF();
     return viewport;
+}
+
+/// What traces are decimated for.
+SmithRender::Viewport SmithChartPlotPrivate::currentRenderViewport() const
+{
+    return axisRect() ? viewportOf(m_xAxis, m_yAxis) : SmithRender::Viewport();
 }
 
 /// Brings a trace's curve up to date; true when the curve's data was rebuilt. With \a force the
 /// trace is decimated anew even where data and view are unchanged.
-bool SmithChartPlot::refreshDisplayCurve(OwnedCurve &record, bool force)
+bool SmithChartPlotPrivate::refreshDisplayCurve(OwnedCurve &record, bool force)
 {
     if (!record.curve)
         return false;
@@ -77,7 +79,7 @@ bool SmithChartPlot::refreshDisplayCurve(OwnedCurve &record, bool force)
     return true;
 }
 
-void SmithChartPlot::refreshAllDisplayCurves(bool force)
+void SmithChartPlotPrivate::refreshAllDisplayCurves(bool force)
 {
     for (OwnedCurve &record : m_curves)
         refreshDisplayCurve(record, force);
@@ -85,7 +87,7 @@ void SmithChartPlot::refreshAllDisplayCurves(bool force)
 
 /// The points that a trace's markers stand on or between: they stay displayed, so that a marker
 /// sits exactly on the drawn line.
-QVector<int> SmithChartPlot::mandatorySourceIndices(const OwnedCurve &record) const
+QVector<int> SmithChartPlotPrivate::mandatorySourceIndices(const OwnedCurve &record) const
 {
     QVector<int> indices;
     for (const OwnedMarker &marker : m_ownedMarkers) {

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smithchartplot.h"
+#include "smithchartplot_p.h"
 
 #include "gridgeometry.h"
 #include "smithchartlayers_p.h"
@@ -147,7 +147,7 @@ void SmithChartPlot::generateSmithChartGridExtended(
     admittanceLabelText = std::move(grid.admittance.labels.text);
 }
 
-void SmithChartPlot::addSmithChartGrid()
+void SmithChartPlotPrivate::addSmithChartGrid()
 {
     QCustomPlot *const plot = this->plot();
     if (!axisRect() || !plot->layer(SmithLayers::grid()))
@@ -178,7 +178,7 @@ void SmithChartPlot::addSmithChartGrid()
     requestQueuedReplot();
 }
 
-void SmithChartPlot::clearSmithChartGrid()
+void SmithChartPlotPrivate::clearSmithChartGrid()
 {
     QCustomPlot *const plot = this->plot();
     if (!plot)
@@ -193,43 +193,48 @@ void SmithChartPlot::clearSmithChartGrid()
     }
 }
 
-void SmithChartPlot::rebuildSmithChartGrid()
+void SmithChartPlotPrivate::rebuildSmithChartGrid()
 {
     if (!plot())
         return;
     clearSmithChartGrid();
-    const QPointer<SmithChartPlot> self(this);
+    const QPointer<SmithChartPlot> self(q);
     addSmithChartGrid();
     if (self)
         applyFixedView();
 }
 
+SmithChartPlot::GridMode SmithChartPlot::gridMode() const
+{
+    return d->m_gridMode;
+}
+
 void SmithChartPlot::setGridMode(GridMode mode)
 {
-    if (mode == m_gridMode || !plot())
+    if (mode == d->m_gridMode || !d->plot())
         return;
-    m_gridMode = mode;
-    syncGridFlags();
+    d->m_gridMode = mode;
+    d->syncGridFlags();
     const QPointer<SmithChartPlot> self(this);
-    rebuildSmithChartGrid();
+    d->rebuildSmithChartGrid();
     if (self)
-        setGridVisible(anyCurveVisible());
+        d->setGridVisible(d->anyCurveVisible());
 }
 
 /// Derives what to show from the mode; a value that is no mode leaves it as it was.
-void SmithChartPlot::syncGridFlags()
+void SmithChartPlotPrivate::syncGridFlags()
 {
     switch (m_gridMode) {
-    case Impedance:
-    case Admittance:
-    case ImpedanceAndAdmittance:
-        m_showImpedanceGrid = m_gridMode != Admittance;
-        m_showAdmittanceGrid = m_gridMode != Impedance;
+    case SmithChartPlot::Impedance:
+    case SmithChartPlot::Admittance:
+    case SmithChartPlot::ImpedanceAndAdmittance:
+        m_showImpedanceGrid = m_gridMode != SmithChartPlot::Admittance;
+        m_showAdmittanceGrid = m_gridMode != SmithChartPlot::Impedance;
         break;
     }
 }
 
-void SmithChartPlot::setGridVisible(bool visible)
+void SmithChartPlotPrivate::setGridVisible(bool visible)
 {
     QCustomPlot *const plot = this->plot();
     if (!plot)

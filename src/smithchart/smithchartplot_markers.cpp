@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smithchartplot.h"
+#include "smithchartplot_p.h"
 
 #include "tracepoint.h"
 
@@ -36,13 +36,13 @@ void SmithChartPlot::parseMarkerId(int id, int &traceId, int &localId)
 bool SmithChartPlot::addMarkerVisual(int traceId, int localId, double sourceIndex,
                                      Plot::MarkerType type)
 {
-    OwnedCurve *const trace = findTrace(traceId);
+    auto *const trace = d->findTrace(traceId);
     return trace && trace->curve
-        && createMarkerVisualAt(traceId, localId, trace->curve, sourceIndex, type);
+        && d->createMarkerVisualAt(traceId, localId, trace->curve, sourceIndex, type);
 }
 
-bool SmithChartPlot::createMarkerVisualAt(int traceId, int localId, QCPCurve *curve,
-                                          double sourceIndex, Plot::MarkerType type)
+bool SmithChartPlotPrivate::createMarkerVisualAt(int traceId, int localId, QCPCurve *curve,
+                                                 double sourceIndex, Plot::MarkerType type)
 {
     if (!plot() || !curve || findMarker(traceId, localId))
         return false;
@@ -51,7 +51,8 @@ bool SmithChartPlot::createMarkerVisualAt(int traceId, int localId, QCPCurve *cu
     const bool valid = sourceIndex >= 0.0 && sourceIndex < static_cast<double>(count);
 
     OwnedMarker record;
-    record.marker = std::make_unique<Plot::Marker>(plot(), makeMarkerId(traceId, localId), type);
+    record.marker = std::make_unique<Plot::Marker>(
+        plot(), SmithChartPlot::makeMarkerId(traceId, localId), type);
     record.curve = curve;
     record.traceId = traceId;
     record.localId = localId;
@@ -74,76 +75,76 @@ bool SmithChartPlot::createMarkerVisualAt(int traceId, int localId, QCPCurve *cu
 
 bool SmithChartPlot::removeMarkerVisual(int traceId, int localId)
 {
-    const int index = findMarkerIndexByID(traceId, localId);
+    const int index = d->findMarkerIndexByID(traceId, localId);
     if (index < 0)
         return false;
-    const QPointer<QCPCurve> curve = m_ownedMarkers[static_cast<std::size_t>(index)].curve;
-    m_ownedMarkers.erase(m_ownedMarkers.begin() + index);
-    if (OwnedCurve *const trace = findOwnedCurve(curve))
-        bumpMarkerRevision(*trace);
+    const QPointer<QCPCurve> curve = d->m_ownedMarkers[static_cast<std::size_t>(index)].curve;
+    d->m_ownedMarkers.erase(d->m_ownedMarkers.begin() + index);
+    if (auto *const trace = d->findOwnedCurve(curve))
+        d->bumpMarkerRevision(*trace);
     const int id = makeMarkerId(traceId, localId);
-    if (m_draggingMarkerId == id)
-        m_draggingMarkerId = -1;
-    if (m_selectedMarkerId == id) {
-        m_selectedMarkerId = -1;
+    if (d->m_draggingMarkerId == id)
+        d->m_draggingMarkerId = -1;
+    if (d->m_selectedMarkerId == id) {
+        d->m_selectedMarkerId = -1;
         const QPointer<SmithChartPlot> self(this);
         Q_EMIT markerSelectionCleared();
         if (!self)
             return true;
     }
-    requestQueuedReplot();
+    d->requestQueuedReplot();
     return true;
 }
 
 /// Removes all markers of a trace; the chart may be gone afterwards, deleted by a slot.
-void SmithChartPlot::removeMarkersOfTrace(int traceId)
+void SmithChartPlotPrivate::removeMarkersOfTrace(int traceId)
 {
-    const QPointer<SmithChartPlot> self(this);
+    const QPointer<SmithChartPlot> self(q);
     while (self) {
         const auto found = std::find_if(
             m_ownedMarkers.cbegin(), m_ownedMarkers.cend(),
             [traceId](const OwnedMarker &record) { return record.traceId == traceId; });
         if (found == m_ownedMarkers.cend())
             return;
-        removeMarkerVisual(traceId, found->localId);
+        q->removeMarkerVisual(traceId, found->localId);
     }
 }
 
 void SmithChartPlot::clearAllMarkers()
 {
-    if (!plot())
+    if (!d->plot())
         return;
-    m_draggingMarkerId = -1;
-    m_selectedMarkerId = -1; // no signal: whoever clears everything knows
-    m_ownedMarkers.clear();
-    for (OwnedCurve &trace : m_curves)
-        bumpMarkerRevision(trace);
-    requestQueuedReplot();
+    d->m_draggingMarkerId = -1;
+    d->m_selectedMarkerId = -1; // no signal: whoever clears everything knows
+    d->m_ownedMarkers.clear();
+    for (auto &trace : d->m_curves)
+        d->bumpMarkerRevision(trace);
+    d->requestQueuedReplot();
 }
 
 bool SmithChartPlot::selectMarker(int traceId, int localId)
 {
-    const OwnedCurve *const trace = findTrace(traceId);
-    if (!findMarker(traceId, localId) || !trace || !trace->curve || !trace->curve->visible())
+    const auto *const trace = d->findTrace(traceId);
+    if (!d->findMarker(traceId, localId) || !trace || !trace->curve || !trace->curve->visible())
         return false;
     const int id = makeMarkerId(traceId, localId);
-    if (id != m_selectedMarkerId) {
+    if (id != d->m_selectedMarkerId) {
         int oldTraceId = 0;
         int oldLocalId = 0;
         const bool hadSelection = getSelectedMarker(oldTraceId, oldLocalId);
-        m_selectedMarkerId = id;
+        d->m_selectedMarkerId = id;
         const QPointer<SmithChartPlot> self(this);
         // The replot's handler or a slot may choose otherwise.
-        const auto overruled = [&self, id] { return !self || self->m_selectedMarkerId != id; };
+        const auto overruled = [&self, id] { return !self || self->d->m_selectedMarkerId != id; };
         if (hadSelection)
-            updateMarkerVisualSelection(oldTraceId, oldLocalId, false);
+            d->updateMarkerVisualSelection(oldTraceId, oldLocalId, false);
         if (overruled())
             return true;
         Q_EMIT markerSelected(traceId, localId);
         if (overruled())
             return true;
     }
-    updateMarkerVisualSelection(traceId, localId, true);
+    d->updateMarkerVisualSelection(traceId, localId, true);
     return true;
 }
 
@@ -153,40 +154,40 @@ void SmithChartPlot::clearMarkerSelection()
     int localId = 0;
     if (!getSelectedMarker(traceId, localId))
         return;
-    m_selectedMarkerId = -1;
+    d->m_selectedMarkerId = -1;
     const QPointer<SmithChartPlot> self(this);
-    updateMarkerVisualSelection(traceId, localId, false);
-    if (!self || m_selectedMarkerId >= 1) // the replot's handler may have selected another
+    d->updateMarkerVisualSelection(traceId, localId, false);
+    if (!self || d->m_selectedMarkerId >= 1) // the replot's handler may have selected another
         return;
     Q_EMIT markerSelectionCleared();
     if (self)
-        requestQueuedReplot();
+        d->requestQueuedReplot();
 }
 
 bool SmithChartPlot::getSelectedMarker(int &traceId, int &localId) const
 {
-    if (m_selectedMarkerId < 1)
+    if (d->m_selectedMarkerId < 1)
         return false;
-    parseMarkerId(m_selectedMarkerId, traceId, localId);
+    parseMarkerId(d->m_selectedMarkerId, traceId, localId);
     return true;
 }
 
 Plot::Marker *SmithChartPlot::getMarker(int traceId, int localId)
 {
-    const OwnedMarker *const record = findMarker(traceId, localId);
+    const auto *const record = d->findMarker(traceId, localId);
     return record ? record->marker.get() : nullptr;
 }
 
 const Plot::Marker *SmithChartPlot::getMarker(int traceId, int localId) const
 {
-    const OwnedMarker *const record = findMarker(traceId, localId);
+    const auto *const record = d->findMarker(traceId, localId);
     return record ? record->marker.get() : nullptr;
 }
 
 QVector<const Plot::Marker *> SmithChartPlot::markers(int traceId) const
 {
     QVector<const Plot::Marker *> found;
-    for (const OwnedMarker &record : m_ownedMarkers) {
+    for (const auto &record : d->m_ownedMarkers) {
         if (record.traceId == traceId)
             found.append(record.marker.get());
     }
@@ -195,26 +196,26 @@ QVector<const Plot::Marker *> SmithChartPlot::markers(int traceId) const
 
 bool SmithChartPlot::hasVisibleMarkers() const
 {
-    return std::any_of(m_ownedMarkers.cbegin(), m_ownedMarkers.cend(),
-                       [](const OwnedMarker &record) { return record.marker->isVisible(); });
+    return std::any_of(d->m_ownedMarkers.cbegin(), d->m_ownedMarkers.cend(),
+                       [](const auto &record) { return record.marker->isVisible(); });
 }
 
 bool SmithChartPlot::setMarkerIndex(int traceId, int localId, double sourceIndex)
 {
-    OwnedMarker *const record = findMarker(traceId, localId);
+    auto *const record = d->findMarker(traceId, localId);
     if (!record)
         return false;
-    OwnedCurve *const trace = findOwnedCurve(record->curve);
+    auto *const trace = d->findOwnedCurve(record->curve);
     const auto count = trace ? trace->real.size() : 0;
     if (sourceIndex < 0.0 || sourceIndex >= static_cast<double>(count)
-        || !positionMarkerAtSourceIndex(*record, sourceIndex))
+        || !d->positionMarkerAtSourceIndex(*record, sourceIndex))
         return false;
     if (record->sourceIndex != sourceIndex) {
         record->sourceIndex = sourceIndex;
         ++trace->markerRevision;
     }
-    refreshDisplayCurve(*trace, false);
-    requestQueuedReplot();
+    d->refreshDisplayCurve(*trace, false);
+    d->requestQueuedReplot();
     return true;
 }
 
@@ -224,7 +225,7 @@ bool SmithChartPlot::setMarkerLabelText(int traceId, int localId, const QString 
     if (!marker || !marker->getLabel())
         return false;
     marker->getLabel()->setText(text);
-    requestQueuedReplot();
+    d->requestQueuedReplot();
     return true;
 }
 
@@ -238,60 +239,69 @@ bool SmithChartPlot::setMarkerVisible(int traceId, int localId, bool visible)
         marker->getTracer()->setSelectable(visible);
     if (marker->getLabel())
         marker->getLabel()->setSelectable(visible);
-    requestQueuedReplot();
+    d->requestQueuedReplot();
     return true;
 }
 
 bool SmithChartPlot::beginMarkerDragAt(const QPoint &pos)
 {
-    if (!plot())
+    if (!d->plot())
         return false;
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(pos), plot()->mapToGlobal(pos),
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(pos), d->plot()->mapToGlobal(pos),
                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     const QPointer<SmithChartPlot> self(this);
-    onPlotMousePress(&press);
+    d->onPlotMousePress(&press);
     return self && isDraggingMarker();
 }
 
 void SmithChartPlot::updateMarkerDragAt(const QPoint &pos)
 {
-    if (!plot() || !isDraggingMarker())
+    if (!d->plot() || !isDraggingMarker())
         return;
-    QMouseEvent move(QEvent::MouseMove, QPointF(pos), plot()->mapToGlobal(pos), Qt::NoButton,
+    QMouseEvent move(QEvent::MouseMove, QPointF(pos), d->plot()->mapToGlobal(pos), Qt::NoButton,
                      Qt::LeftButton, Qt::NoModifier);
-    onPlotMouseMove(&move);
+    d->onPlotMouseMove(&move);
 }
 
 void SmithChartPlot::endMarkerDragAt(const QPoint &pos)
 {
-    if (!plot() || !isDraggingMarker())
-        return;
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(pos), plot()->mapToGlobal(pos),
-                        Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
-    onPlotMouseRelease(&release);
+    Q_UNUSED(pos) // the marker stays where the host last put it
+    if (d->plot())
+        d->finishDrag();
+}
+
+bool SmithChartPlot::isDraggingMarker() const
+{
+    return d->m_draggingMarkerId >= 1;
+}
+
+double SmithChartPlot::markerHitTolerancePx() const
+{
+    return d->m_markerHitTolerancePx;
 }
 
 void SmithChartPlot::setMarkerHitTolerancePx(double px)
 {
-    m_markerHitTolerancePx = px > 0.0 ? px : 0.0; // NaN gives 0
+    d->m_markerHitTolerancePx = px > 0.0 ? px : 0.0; // NaN gives 0
     constexpr double highest = std::numeric_limits<int>::max();
-    if (QCustomPlot *const plot = this->plot())
-        plot->setSelectionTolerance(qRound(std::min(m_markerHitTolerancePx, highest)));
+    if (QCustomPlot *const plot = d->plot())
+        plot->setSelectionTolerance(qRound(std::min(d->m_markerHitTolerancePx, highest)));
 }
 
-const SmithChartPlot::OwnedMarker *SmithChartPlot::findMarker(int traceId, int localId) const
+const SmithChartPlotPrivate::OwnedMarker *SmithChartPlotPrivate::findMarker(int traceId,
+                                                                            int localId) const
 {
     const int index = findMarkerIndexByID(traceId, localId);
     return index < 0 ? nullptr : &m_ownedMarkers[static_cast<std::size_t>(index)];
 }
 
-SmithChartPlot::OwnedMarker *SmithChartPlot::findMarker(int traceId, int localId)
+SmithChartPlotPrivate::OwnedMarker *SmithChartPlotPrivate::findMarker(int traceId, int localId)
 {
     const int index = findMarkerIndexByID(traceId, localId);
     return index < 0 ? nullptr : &m_ownedMarkers[static_cast<std::size_t>(index)];
 }
 
-int SmithChartPlot::findMarkerIndexByID(int traceId, int localId) const
+int SmithChartPlotPrivate::findMarkerIndexByID(int traceId, int localId) const
 {
     const auto found =
         std::find_if(m_ownedMarkers.cbegin(), m_ownedMarkers.cend(),
@@ -302,13 +312,13 @@ int SmithChartPlot::findMarkerIndexByID(int traceId, int localId) const
 }
 
 /// Lets the display pick up that a trace's markers changed.
-void SmithChartPlot::bumpMarkerRevision(OwnedCurve &record)
+void SmithChartPlotPrivate::bumpMarkerRevision(OwnedCurve &record)
 {
     ++record.markerRevision;
     refreshDisplayCurve(record, false);
 }
 
-bool SmithChartPlot::positionMarkerAtSourceIndex(OwnedMarker &record, double sourceIndex)
+bool SmithChartPlotPrivate::positionMarkerAtSourceIndex(OwnedMarker &record, double sourceIndex)
 {
     const OwnedCurve *const trace = findOwnedCurve(record.curve);
     if (!trace)
@@ -318,7 +328,7 @@ bool SmithChartPlot::positionMarkerAtSourceIndex(OwnedMarker &record, double sou
 }
 
 /// Draws a marker in its trace's colour: outlined, or filled, lighter and bolder when selected.
-void SmithChartPlot::drawMarkerSelection(const OwnedMarker &record, bool selected)
+void SmithChartPlotPrivate::drawMarkerSelection(const OwnedMarker &record, bool selected)
 {
     if (!record.curve)
         return;
@@ -338,7 +348,7 @@ void SmithChartPlot::drawMarkerSelection(const OwnedMarker &record, bool selecte
     }
 }
 
-void SmithChartPlot::updateMarkerVisualSelection(int traceId, int localId, bool selected)
+void SmithChartPlotPrivate::updateMarkerVisualSelection(int traceId, int localId, bool selected)
 {
     if (const OwnedMarker *const record = findMarker(traceId, localId)) {
         drawMarkerSelection(*record, selected);
@@ -347,18 +357,19 @@ void SmithChartPlot::updateMarkerVisualSelection(int traceId, int localId, bool 
 }
 
 /// Gives a trace's markers the colour that its pen has now.
-void SmithChartPlot::recolorMarkers(QCPCurve *curve)
+void SmithChartPlotPrivate::recolorMarkers(QCPCurve *curve)
 {
     for (const OwnedMarker &record : m_ownedMarkers) {
         if (record.curve == curve)
             drawMarkerSelection(record,
-                                makeMarkerId(record.traceId, record.localId) == m_selectedMarkerId);
+                                SmithChartPlot::makeMarkerId(record.traceId, record.localId)
+                                    == m_selectedMarkerId);
     }
 }
 
 /// Puts the markers of a trace whose data changed back on their indices; one beyond the new end
 /// stays where it was.
-void SmithChartPlot::updateMarkersForCurve(QCPCurve *curve)
+void SmithChartPlotPrivate::updateMarkersForCurve(QCPCurve *curve)
 {
     const OwnedCurve *const trace = findOwnedCurve(curve);
     if (!trace)
@@ -367,7 +378,7 @@ void SmithChartPlot::updateMarkersForCurve(QCPCurve *curve)
     requestQueuedReplot();
 }
 
-void SmithChartPlot::replaceMarkers(const OwnedCurve &trace)
+void SmithChartPlotPrivate::replaceMarkers(const OwnedCurve &trace)
 {
     for (OwnedMarker &record : m_ownedMarkers) {
         if (record.curve == trace.curve)

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smithchartplot.h"
+#include "smithchartplot_p.h"
 
 #include "tracetree.h"
 
@@ -21,32 +21,32 @@ constexpr double doubleClickToleranceSquared = 225.0; ///< 15 logical pixels
 
 bool SmithChartPlot::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_plot || !plot())
+    if (watched != d->m_plot || !d->plot())
         return QObject::eventFilter(watched, event);
 
     switch (event->type()) {
     case QEvent::Resize:
-        if (!m_resizeRefitPending) {
-            m_resizeRefitPending = true;
+        if (!d->m_resizeRefitPending) {
+            d->m_resizeRefitPending = true;
             // Several resizes in one pass of the event loop cost one fit.
-            QTimer::singleShot(0, plot(), [self = QPointer<SmithChartPlot>(this)] {
+            QTimer::singleShot(0, d->plot(), [self = QPointer<SmithChartPlot>(this)] {
                 if (self) {
-                    self->m_resizeRefitPending = false;
-                    self->applyFixedView();
+                    self->d->m_resizeRefitPending = false;
+                    self->d->applyFixedView();
                 }
             });
         }
-        requestQueuedReplot();
+        d->requestQueuedReplot();
         break;
     case QEvent::Hide:
-        finishDrag(); // a hidden plot gets no release
+        d->finishDrag(); // a hidden plot gets no release
         break;
     case QEvent::KeyPress: {
         const int key = static_cast<QKeyEvent *>(event)->key();
-        if ((key == Qt::Key_Backspace || key == Qt::Key_Delete) && m_selectedMarkerId > 0) {
+        if ((key == Qt::Key_Backspace || key == Qt::Key_Delete) && d->m_selectedMarkerId > 0) {
             int traceId = 0;
             int localId = 0;
-            parseMarkerId(m_selectedMarkerId, traceId, localId);
+            parseMarkerId(d->m_selectedMarkerId, traceId, localId);
             Q_EMIT markerDeleteRequested(traceId, localId);
             return true;
         }
@@ -58,33 +58,44 @@ bool SmithChartPlot::eventFilter(QObject *watched, QEvent *event)
     return false; // QObject's own filter filters nothing
 }
 
+bool SmithChartPlot::onlyHandleActiveTrace() const
+{
+    return d->m_onlyHandleActiveTrace;
+}
+
+void SmithChartPlot::setOnlyHandleActiveTrace(bool only)
+{
+    d->m_onlyHandleActiveTrace = only;
+}
+
 bool SmithChartPlot::handleDoubleClick(const QPoint &pos, Qt::KeyboardModifiers modifiers)
 {
-    QCPCurve *curve = getCurve(m_activeTraceId);
+    QCPCurve *curve = getCurve(d->m_activeTraceId);
     int index = -1;
     double squaredDistance = std::numeric_limits<double>::infinity();
     if (curve && curve->visible())
-        index = nearestCurveDataIndex(curve, pos, &squaredDistance);
+        index = d->nearestCurveDataIndex(curve, pos, &squaredDistance);
     const bool nearActive = index >= 0 && squaredDistance <= doubleClickToleranceSquared;
 
-    if (m_onlyHandleActiveTrace) {
-        const OwnedCurve *const record = nearActive ? findOwnedCurve(curve) : nullptr;
+    if (d->m_onlyHandleActiveTrace) {
+        const auto *const record = nearActive ? d->findOwnedCurve(curve) : nullptr;
         if (!record)
             return false;
-        Q_EMIT activeTraceDoubleClicked(m_activeTraceId, record->frequencies.at(index), modifiers);
+        Q_EMIT activeTraceDoubleClicked(d->m_activeTraceId, record->frequencies.at(index),
+                                        modifiers);
         return true;
     }
 
-    if (!nearActive && !nearestCurveAndIndex(pos, curve, index, squaredDistance))
+    if (!nearActive && !d->nearestCurveAndIndex(pos, curve, index, squaredDistance))
         return false;
-    const OwnedCurve *const record = findOwnedCurve(curve);
+    const auto *const record = d->findOwnedCurve(curve);
     if (squaredDistance > doubleClickToleranceSquared || !record)
         return false;
     Q_EMIT pointDoubleClicked(record->traceId, index, modifiers);
     return true;
 }
 
-void SmithChartPlot::onPlotMousePress(QMouseEvent *event)
+void SmithChartPlotPrivate::onPlotMousePress(QMouseEvent *event)
 {
     if (!event || event->button() != Qt::LeftButton)
         return;
@@ -93,52 +104,46 @@ void SmithChartPlot::onPlotMousePress(QMouseEvent *event)
         return;
     const int traceId = caught->traceId;
     const int localId = caught->localId;
-    const int id = makeMarkerId(traceId, localId);
+    const int id = SmithChartPlot::makeMarkerId(traceId, localId);
     if (traceId < 1 || localId < 1 || id < 1)
         return;
-    const QPointer<SmithChartPlot> self(this);
-    Q_EMIT markerSelectionRequested(traceId, localId);
+    const QPointer<SmithChartPlot> self(q);
+    Q_EMIT q->markerSelectionRequested(traceId, localId);
     if (!self || !findMarker(traceId, localId)) // the host may have answered by removing it
         return;
     m_draggingMarkerId = id;
-    Q_EMIT markerDragStarted(traceId, localId);
+    Q_EMIT q->markerDragStarted(traceId, localId);
 }
 
-void SmithChartPlot::onPlotMouseMove(QMouseEvent *event)
+void SmithChartPlotPrivate::onPlotMouseMove(QMouseEvent *event)
 {
     if (!event || m_draggingMarkerId < 0 || dragIsConfined())
         return;
     int traceId = 0;
     int localId = 0;
-    parseMarkerId(m_draggingMarkerId, traceId, localId);
+    SmithChartPlot::parseMarkerId(m_draggingMarkerId, traceId, localId);
     const OwnedMarker *const record = findMarker(traceId, localId);
     if (!record || !record->curve || !record->curve->visible())
         return;
     const int index =
         nearestCurveDataIndex(record->curve, QtCompat::position(event).toPoint(), nullptr);
     if (index >= 0)
-        Q_EMIT markerPositionChanged(traceId, localId, index);
-}
-
-void SmithChartPlot::onPlotMouseRelease(QMouseEvent *event)
-{
-    Q_UNUSED(event)
-    finishDrag();
+        Q_EMIT q->markerPositionChanged(traceId, localId, index);
 }
 
 /// Ends a drag where the host last put the marker.
-void SmithChartPlot::finishDrag()
+void SmithChartPlotPrivate::finishDrag()
 {
     if (m_finishingDrag) // a slot hides the plot, or ends the drag once more
         return;
-    if (isDraggingMarker() && !dragIsConfined()) {
+    if (q->isDraggingMarker() && !dragIsConfined()) {
         int traceId = 0;
         int localId = 0;
-        parseMarkerId(m_draggingMarkerId, traceId, localId);
+        SmithChartPlot::parseMarkerId(m_draggingMarkerId, traceId, localId);
         if (const OwnedMarker *const record = findMarker(traceId, localId)) {
-            const QPointer<SmithChartPlot> self(this);
+            const QPointer<SmithChartPlot> self(q);
             m_finishingDrag = true;
-            Q_EMIT markerDragFinished(traceId, localId, record->sourceIndex);
+            Q_EMIT q->markerDragFinished(traceId, localId, record->sourceIndex);
             if (!self)
                 return;
             m_finishingDrag = false;
@@ -149,17 +154,18 @@ void SmithChartPlot::finishDrag()
 
 /// Whether the dragged marker may not move, because only the active trace is handled and it is
 /// another's.
-bool SmithChartPlot::dragIsConfined() const
+bool SmithChartPlotPrivate::dragIsConfined() const
 {
     int traceId = 0;
     int localId = 0;
-    parseMarkerId(m_draggingMarkerId, traceId, localId);
+    SmithChartPlot::parseMarkerId(m_draggingMarkerId, traceId, localId);
     return m_onlyHandleActiveTrace && traceId != m_activeTraceId;
 }
 
 /// The marker that a press catches: the one whose item is under the pointer, else the nearest one
 /// within the hit tolerance. Earlier markers win ties.
-const SmithChartPlot::OwnedMarker *SmithChartPlot::markerToCatchAt(const QPointF &pos) const
+const SmithChartPlotPrivate::OwnedMarker *
+SmithChartPlotPrivate::markerToCatchAt(const QPointF &pos) const
 {
     QCustomPlot *const plot = this->plot();
     if (!plot)
@@ -189,8 +195,8 @@ const SmithChartPlot::OwnedMarker *SmithChartPlot::markerToCatchAt(const QPointF
 
 /// The point of a trace that is nearest to \a pos, or -1; the squared distance is in logical
 /// pixels.
-int SmithChartPlot::nearestCurveDataIndex(QCPCurve *curve, const QPoint &pos,
-                                          double *squaredDistance) const
+int SmithChartPlotPrivate::nearestCurveDataIndex(QCPCurve *curve, const QPoint &pos,
+                                                 double *squaredDistance) const
 {
     if (squaredDistance)
         *squaredDistance = std::numeric_limits<double>::infinity();
@@ -198,20 +204,12 @@ int SmithChartPlot::nearestCurveDataIndex(QCPCurve *curve, const QPoint &pos,
     if (!record || !curve->keyAxis() || !curve->valueAxis() || !curve->keyAxis()->axisRect())
         return -1;
     const QCPAxisRect *const rect = curve->keyAxis()->axisRect();
-    SmithRender::Viewport viewport;
-    viewport.xMin = curve->keyAxis()->range().lower;
-    viewport.xMax = curve->keyAxis()->range().upper;
-    viewport.yMin = curve->valueAxis()->range().lower;
-    viewport.yMax = curve->valueAxis()->range().upper;
-    viewport.width = rect->width();
-    viewport.height = rect->height();
-    viewport.devicePixelRatio = plot() ? plot()->devicePixelRatioF() : 1.0;
-    viewport.tolerancePx = 0.5;
-    return record->tree.nearestIndex(viewport, pos - rect->topLeft(), squaredDistance);
+    return record->tree.nearestIndex(viewportOf(curve->keyAxis(), curve->valueAxis()),
+                                     pos - rect->topLeft(), squaredDistance);
 }
 
-bool SmithChartPlot::nearestCurveAndIndex(const QPoint &pos, QCPCurve *&curve, int &index,
-                                          double &squaredDistance) const
+bool SmithChartPlotPrivate::nearestCurveAndIndex(const QPoint &pos, QCPCurve *&curve, int &index,
+                                                 double &squaredDistance) const
 {
     curve = nullptr;
     index = -1;

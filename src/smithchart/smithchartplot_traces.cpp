@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smithchartplot.h"
+#include "smithchartplot_p.h"
 
 #include "coverageboostcurve_p.h"
 #include "smithchartlayers_p.h"
@@ -35,72 +35,72 @@ void applyTracePen(QCPCurve *curve, const QPen &basePen)
 
 bool SmithChartPlot::addCurve(int traceId, const QPen &pen)
 {
-    if (!axisRect() || traceId < 1 || findTrace(traceId))
+    if (!d->axisRect() || traceId < 1 || d->findTrace(traceId))
         return false;
-    auto *const curve = new CoverageBoostCurve(m_xAxis, m_yAxis);
+    auto *const curve = new CoverageBoostCurve(d->m_xAxis, d->m_yAxis);
     curve->setLayer(SmithLayers::tracers());
     curve->setName(QString::number(traceId));
     applyTracePen(curve, pen);
     curve->setSelectable(QCP::stNone);
     curve->removeFromLegend();
 
-    OwnedCurve record;
+    SmithChartPlotPrivate::OwnedCurve record;
     record.traceId = traceId;
     record.curve = curve;
     record.basePen = pen;
-    m_curves.append(record);
-    setGridVisible(true);
-    requestQueuedReplot();
+    d->m_curves.append(record);
+    d->setGridVisible(true);
+    d->requestQueuedReplot();
     return true;
 }
 
 bool SmithChartPlot::removeCurve(int traceId)
 {
-    QCustomPlot *const plot = this->plot();
-    if (!plot || !findTrace(traceId))
+    QCustomPlot *const plot = d->plot();
+    if (!plot || !d->findTrace(traceId))
         return false;
     const QPointer<SmithChartPlot> self(this);
-    removeMarkersOfTrace(traceId);
+    d->removeMarkersOfTrace(traceId);
     if (!self)
         return true;
     // Looked up anew: a slot of the selection's signal may have changed the traces.
-    const int index = findCurveIndexByTraceId(traceId);
+    const int index = d->findCurveIndexByTraceId(traceId);
     if (index >= 0) {
-        if (QCPCurve *const curve = m_curves.at(index).curve)
+        if (QCPCurve *const curve = d->m_curves.at(index).curve)
             plot->removePlottable(curve);
-        m_curves.remove(index);
+        d->m_curves.remove(index);
     }
-    if (m_activeTraceId == traceId)
-        m_activeTraceId = -1;
-    setGridVisible(anyCurveVisible());
-    requestQueuedReplot();
+    if (d->m_activeTraceId == traceId)
+        d->m_activeTraceId = -1;
+    d->setGridVisible(d->anyCurveVisible());
+    d->requestQueuedReplot();
     return true;
 }
 
 void SmithChartPlot::clearAllCurves()
 {
-    QCustomPlot *const plot = this->plot();
+    QCustomPlot *const plot = d->plot();
     if (!plot)
         return;
     const QPointer<SmithChartPlot> self(this);
     clearAllMarkers();
     if (!self)
         return;
-    for (const OwnedCurve &record : qAsConst(m_curves)) {
+    for (const auto &record : qAsConst(d->m_curves)) {
         if (record.curve)
             plot->removePlottable(record.curve);
     }
-    m_curves.clear();
-    m_activeTraceId = -1;
-    setGridVisible(false);
-    requestQueuedReplot();
+    d->m_curves.clear();
+    d->m_activeTraceId = -1;
+    d->setGridVisible(false);
+    d->requestQueuedReplot();
 }
 
 bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencies,
                                   const QVector<double> &real, const QVector<double> &imag)
 {
-    OwnedCurve *const record = findTrace(traceId);
-    if (!plot() || !record || !record->curve)
+    auto *const record = d->findTrace(traceId);
+    if (!d->plot() || !record || !record->curve)
         return false;
     QElapsedTimer timer;
     if (smithPerformance().isDebugEnabled())
@@ -127,18 +127,18 @@ bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencie
     record->tree.setSource(record->real, record->imag);
     ++record->sourceRevision;
     record->cacheValid = false;
-    refreshDisplayCurve(*record, true);
+    d->refreshDisplayCurve(*record, true);
     if (timer.isValid())
-        reportPerformance(*record, timer.nsecsElapsed());
+        d->reportPerformance(*record, timer.nsecsElapsed());
     const QPointer<SmithChartPlot> self(this);
-    updateMarkersForCurve(record->curve);
+    d->updateMarkersForCurve(record->curve);
     if (self)
-        requestQueuedReplot();
+        d->requestQueuedReplot();
     return true;
 }
 
 /// Tells the log what new data cost, at most every two seconds a trace.
-void SmithChartPlot::reportPerformance(OwnedCurve &record, qint64 elapsedNs)
+void SmithChartPlotPrivate::reportPerformance(OwnedCurve &record, qint64 elapsedNs)
 {
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
     if (record.lastReportMs != 0 && now - record.lastReportMs < reportIntervalMs)
@@ -155,7 +155,7 @@ bool SmithChartPlot::sourceCurveData(int traceId, const QVector<double> *&freque
                                      const QVector<double> *&real,
                                      const QVector<double> *&imag) const
 {
-    const OwnedCurve *const record = findTrace(traceId);
+    const auto *const record = d->findTrace(traceId);
     if (!record)
         return false;
     frequencies = &record->frequencies;
@@ -166,45 +166,55 @@ bool SmithChartPlot::sourceCurveData(int traceId, const QVector<double> *&freque
 
 bool SmithChartPlot::setCurvePen(int traceId, const QPen &pen)
 {
-    OwnedCurve *const record = findTrace(traceId);
+    auto *const record = d->findTrace(traceId);
     if (!record || !record->curve)
         return false;
     record->basePen = pen;
     applyTracePen(record->curve, pen);
-    recolorMarkers(record->curve);
-    requestQueuedReplot();
+    d->recolorMarkers(record->curve);
+    d->requestQueuedReplot();
     return true;
 }
 
 bool SmithChartPlot::setCurveVisible(int traceId, bool visible)
 {
-    OwnedCurve *const record = findTrace(traceId);
+    auto *const record = d->findTrace(traceId);
     if (!record || !record->curve)
         return false;
     record->curve->setVisible(visible);
-    setGridVisible(anyCurveVisible());
-    requestQueuedReplot();
+    d->setGridVisible(d->anyCurveVisible());
+    d->requestQueuedReplot();
     return true;
+}
+
+int SmithChartPlot::activeTrace() const
+{
+    return d->m_activeTraceId;
+}
+
+bool SmithChartPlot::hasActiveTrace() const
+{
+    return d->m_activeTraceId > 0;
 }
 
 QVector<int> SmithChartPlot::traceIds() const
 {
     QVector<int> ids;
-    ids.reserve(m_curves.size());
-    for (const OwnedCurve &record : m_curves)
+    ids.reserve(d->m_curves.size());
+    for (const auto &record : qAsConst(d->m_curves))
         ids.append(record.traceId);
     return ids;
 }
 
 QCPCurve *SmithChartPlot::getCurve(int traceId) const
 {
-    const OwnedCurve *const record = findTrace(traceId);
+    const auto *const record = d->findTrace(traceId);
     return record ? record->curve.data() : nullptr;
 }
 
 bool SmithChartPlot::hasSourceDataAtIndex(int traceId, double index) const
 {
-    const OwnedCurve *const record = findTrace(traceId);
+    const auto *const record = d->findTrace(traceId);
     if (!record || !std::isfinite(index) || index < 0.0)
         return false;
     if (index > static_cast<double>(record->real.size() - 1))
@@ -218,7 +228,7 @@ bool SmithChartPlot::hasSourceDataAtIndex(int traceId, double index) const
 
 bool SmithChartPlot::hasSourceDataAtParameter(int traceId, double frequency) const
 {
-    const OwnedCurve *const record = findTrace(traceId);
+    const auto *const record = d->findTrace(traceId);
     if (!record || !std::isfinite(frequency))
         return false;
     const QVector<double> &f = record->frequencies;
@@ -240,26 +250,26 @@ bool SmithChartPlot::hasSourceDataAtParameter(int traceId, double frequency) con
 
 bool SmithChartPlot::setActiveTrace(int traceId)
 {
-    if (traceId > 0 && !findTrace(traceId)) {
+    if (traceId > 0 && !d->findTrace(traceId)) {
         qWarning() << "SmithChartPlot::setActiveTrace: traceId" << traceId << "not found";
         return false;
     }
-    moveCurveToLayer(m_activeTraceId, SmithLayers::tracers());
-    m_activeTraceId = traceId;
-    moveCurveToLayer(m_activeTraceId, SmithLayers::activeTracers());
-    requestQueuedReplot();
+    d->moveCurveToLayer(d->m_activeTraceId, SmithLayers::tracers());
+    d->m_activeTraceId = traceId;
+    d->moveCurveToLayer(d->m_activeTraceId, SmithLayers::activeTracers());
+    d->requestQueuedReplot();
     return true;
 }
 
 void SmithChartPlot::clearActiveTrace()
 {
-    moveCurveToLayer(m_activeTraceId, SmithLayers::tracers());
-    m_activeTraceId = -1;
-    requestQueuedReplot();
+    d->moveCurveToLayer(d->m_activeTraceId, SmithLayers::tracers());
+    d->m_activeTraceId = -1;
+    d->requestQueuedReplot();
 }
 
 /// Moves a trace to another layer; does nothing for a trace that does not exist.
-void SmithChartPlot::moveCurveToLayer(int traceId, const QString &layer)
+void SmithChartPlotPrivate::moveCurveToLayer(int traceId, const QString &layer)
 {
     const OwnedCurve *const record = traceId > 0 ? findTrace(traceId) : nullptr;
     if (!plot() || !record || !record->curve)
@@ -268,19 +278,19 @@ void SmithChartPlot::moveCurveToLayer(int traceId, const QString &layer)
     applyTracePen(record->curve, record->basePen);
 }
 
-SmithChartPlot::OwnedCurve *SmithChartPlot::findTrace(int traceId)
+SmithChartPlotPrivate::OwnedCurve *SmithChartPlotPrivate::findTrace(int traceId)
 {
     const int index = findCurveIndexByTraceId(traceId);
     return index < 0 ? nullptr : &m_curves[index];
 }
 
-const SmithChartPlot::OwnedCurve *SmithChartPlot::findTrace(int traceId) const
+const SmithChartPlotPrivate::OwnedCurve *SmithChartPlotPrivate::findTrace(int traceId) const
 {
     const int index = findCurveIndexByTraceId(traceId);
     return index < 0 ? nullptr : &m_curves.at(index);
 }
 
-int SmithChartPlot::findCurveIndexByTraceId(int traceId) const
+int SmithChartPlotPrivate::findCurveIndexByTraceId(int traceId) const
 {
     const auto found =
         std::find_if(m_curves.cbegin(), m_curves.cend(),
@@ -288,7 +298,7 @@ int SmithChartPlot::findCurveIndexByTraceId(int traceId) const
     return found == m_curves.cend() ? -1 : static_cast<int>(found - m_curves.cbegin());
 }
 
-SmithChartPlot::OwnedCurve *SmithChartPlot::findOwnedCurve(QCPCurve *curve)
+SmithChartPlotPrivate::OwnedCurve *SmithChartPlotPrivate::findOwnedCurve(QCPCurve *curve)
 {
     for (OwnedCurve &record : m_curves) {
         if (curve && record.curve == curve)
@@ -297,13 +307,14 @@ SmithChartPlot::OwnedCurve *SmithChartPlot::findOwnedCurve(QCPCurve *curve)
     return nullptr;
 }
 
-const SmithChartPlot::OwnedCurve *SmithChartPlot::findOwnedCurve(QCPCurve *curve) const
+const SmithChartPlotPrivate::OwnedCurve *
+SmithChartPlotPrivate::findOwnedCurve(QCPCurve *curve) const
 {
-    return const_cast<SmithChartPlot *>(this)->findOwnedCurve(curve);
+    return const_cast<SmithChartPlotPrivate *>(this)->findOwnedCurve(curve);
 }
 
 /// The visible trace curves on the chart's axes, in the plot's order.
-QVector<QCPCurve *> SmithChartPlot::dataCurves() const
+QVector<QCPCurve *> SmithChartPlotPrivate::dataCurves() const
 {
     QVector<QCPCurve *> curves;
     QCustomPlot *const plot = this->plot();
@@ -321,7 +332,7 @@ QVector<QCPCurve *> SmithChartPlot::dataCurves() const
     return curves;
 }
 
-bool SmithChartPlot::anyCurveVisible() const
+bool SmithChartPlotPrivate::anyCurveVisible() const
 {
     return std::any_of(m_curves.cbegin(), m_curves.cend(), [](const OwnedCurve &record) {
         return record.curve && record.curve->visible();

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smithchartplot.h"
+#include "smithchartplot_p.h"
 
 #include <QSignalBlocker>
 
@@ -14,33 +14,43 @@ SmithChart::HalfRanges baseHalfRanges(const QCPAxisRect *rect)
 
 } // namespace
 
+SmithChart::ViewState SmithChartPlot::viewState() const
+{
+    return d->m_viewState;
+}
+
+bool SmithChartPlot::isMagnified() const
+{
+    return d->m_viewState.zoom > SmithChart::magnifiedThreshold;
+}
+
 void SmithChartPlot::resetView()
 {
-    m_viewState = {};
-    applyViewState();
+    d->m_viewState = {};
+    d->applyViewState();
 }
 
 void SmithChartPlot::zoomAt(const QPointF &anchor, double factor)
 {
-    if (QCPAxisRect *const rect = axisRect()) {
-        m_viewState = SmithChart::zoomedViewState(m_viewState, anchor.x(), anchor.y(), factor,
-                                                  baseHalfRanges(rect));
-        applyViewState();
+    if (QCPAxisRect *const rect = d->axisRect()) {
+        d->m_viewState = SmithChart::zoomedViewState(d->m_viewState, anchor.x(), anchor.y(), factor,
+                                                     baseHalfRanges(rect));
+        d->applyViewState();
     }
 }
 
 void SmithChartPlot::setViewFromRequestedRanges(const QCPRange &xRange, const QCPRange &yRange)
 {
-    if (QCPAxisRect *const rect = axisRect()) {
-        m_viewState = SmithChart::viewStateFromRanges(
+    if (QCPAxisRect *const rect = d->axisRect()) {
+        d->m_viewState = SmithChart::viewStateFromRanges(
             {xRange.lower, xRange.upper, yRange.lower, yRange.upper}, baseHalfRanges(rect));
-        applyViewState();
+        d->applyViewState();
     }
 }
 
 /// Fits both axes to the stored state. The axes' signals are blocked, or each range set here would
 /// come back as one set from outside.
-void SmithChartPlot::applyViewState()
+void SmithChartPlotPrivate::applyViewState()
 {
     QCPAxisRect *const rect = axisRect();
     if (!rect)
@@ -56,7 +66,7 @@ void SmithChartPlot::applyViewState()
     refreshAllDisplayCurves(false);
 }
 
-void SmithChartPlot::applyFixedView()
+void SmithChartPlotPrivate::applyFixedView()
 {
     if (!plot())
         return;
@@ -64,7 +74,7 @@ void SmithChartPlot::applyFixedView()
     requestQueuedReplot();
 }
 
-void SmithChartPlot::ensureAspectRatio()
+void SmithChartPlotPrivate::ensureAspectRatio()
 {
     applyViewState();
 }
