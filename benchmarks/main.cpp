@@ -6,7 +6,7 @@
 #include "ratiotable.h"
 #include "traces.h"
 
-#include <smithchart/tracetree.h>
+#include <smithchart/indexedtrace_p.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -18,7 +18,7 @@
 #include <memory>
 
 using namespace Bench;
-using SmithRender::TraceTree;
+using SmithRender::IndexedTrace;
 using Row = RatioTable::Row;
 
 namespace
@@ -58,7 +58,7 @@ std::string addFirstView(const std::string &data, const TracePointer &trace)
     const std::string name = "first view, " + data;
     add(name, [trace](benchmark::State &state) {
         const SmithRender::Viewport view = fullView();
-        TraceTree tree;
+        IndexedTrace tree;
         int kept = 0;
         for (auto _ : state) {
             tree.setSource(trace->real, trace->imag);
@@ -74,7 +74,7 @@ std::string addZoomSteps(const std::string &data, const TracePointer &trace)
 {
     const std::string name = "zoom steps, " + data;
     add(name, [trace](benchmark::State &state) {
-        TraceTree tree;
+        IndexedTrace tree;
         tree.setSource(trace->real, trace->imag);
         const SmithRender::Viewport views[] = {fullView(), fullView(1.25)};
         bool in = true;
@@ -91,7 +91,7 @@ std::string addFirstZoomStep(const std::string &data, const TracePointer &trace)
 {
     const std::string name = "first zoom step, " + data;
     add(name, [trace](benchmark::State &state) {
-        TraceTree tree;
+        IndexedTrace tree;
         for (auto _ : state) {
             state.PauseTiming();
             tree.setSource(trace->real, trace->imag);
@@ -113,7 +113,7 @@ std::string addNearest(const std::string &data, const TracePointer &trace)
 {
     const std::string name = "nearest point, " + data;
     add(name, [trace](benchmark::State &state) {
-        TraceTree tree;
+        IndexedTrace tree;
         tree.setSource(trace->real, trace->imag);
         benchmark::DoNotOptimize(tree.decimate(fullView()));
         int step = 0;
@@ -148,7 +148,7 @@ std::string addMemory(const std::string &data, const TracePointer &trace)
         double bytes = 0.0;
         for (auto _ : state) {
             const double before = heap();
-            TraceTree tree;
+            IndexedTrace tree;
             tree.setSource(trace->real, trace->imag);
             for (double zoom = 1.0; zoom < 20.0; zoom *= 1.5)
                 benchmark::DoNotOptimize(tree.decimate(fullView(zoom)));

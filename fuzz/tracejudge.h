@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <smithchart/tracetree.h>
+#include <smithchart/indexedtrace_p.h>
+#include <smithchart/viewportprojection_p.h>
 
 #include <QPointF>
 #include <QVector>
@@ -28,7 +29,7 @@ public:
         : m_kept(kept)
         , m_tolerance(viewport.tolerancePx)
     {
-        const SmithRender::Projection projection(viewport);
+        const SmithRender::Projection projection = SmithRender::projectionOf(viewport);
         for (int i = 0; i < trace.real.size(); ++i) {
             m_points.append(QPointF(projection.x(trace.real[i]), projection.y(trace.imag[i])));
             if (isValid(i)) {

@@ -61,7 +61,7 @@ bool isWithinBounds(const TraceJudge::Trace &trace, const Viewport &view)
 {
     if (!view.isUsable())
         return false;
-    const Projection projection(view);
+    const Projection projection = projectionOf(view);
     for (int i = 0; i < trace.real.size(); ++i) {
         if (!std::isfinite(trace.real[i]) || !std::isfinite(trace.imag[i]))
             continue;
@@ -83,7 +83,7 @@ void checkKept(const TraceJudge::Trace &trace, const DecimationResult &result)
     FUZZ_CHECK(kept.isEmpty() || (kept.first() == 0 && kept.last() == count - 1));
 }
 
-void checkIndex(const TraceTree &tree, const TraceJudge::Trace &trace, const Viewport &view,
+void checkIndex(const IndexedTrace &tree, const TraceJudge::Trace &trace, const Viewport &view,
                 const QPointF &pointer)
 {
     const DecimationResult plain = decimate(trace.real, trace.imag, view);
@@ -145,7 +145,7 @@ void Fuzz::run(Input &input)
     if (input.flag())
         checkNumbers(input);
     const TraceJudge::Trace data = trace(input);
-    TraceTree tree;
+    IndexedTrace tree;
     tree.setSource(data.real, data.imag);
     for (int i = 0; i < views; ++i)
         checkIndex(tree, data, view[i], pointer);

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <smithchart/decimation.h>
 
-#include "nearestscan_p.h"
-#include "segment_p.h"
+#include "viewportprojection_p.h"
+
+#include <smithrender/douglaspeucker_p.h>
+#include <smithrender/nearestscan_p.h>
 
 #include <algorithm>
 #include <iterator>
 #include <numeric>
-#include <utility>
 #include <vector>
 
 namespace SmithRender
@@ -26,61 +27,6 @@ DecimationResult passThrough(int count)
     return result;
 }
 
-/// Marks the points of one run without gaps. A helper with memory, so that many short runs share
-/// it.
-class RunSimplifier
-{
-public:
-    RunSimplifier(const std::vector<double> &x, const std::vector<double> &y,
-                  double squaredTolerance, std::vector<bool> &kept)
-        : m_x(x)
-        , m_y(y)
-        , m_squaredTolerance(squaredTolerance)
-        , m_kept(kept)
-    {
-        m_stack.reserve(64);
-    }
-
-    void simplify(int first, int last)
-    {
-        mark(first);
-        mark(last);
-        m_stack.emplace_back(first, last);
-        while (!m_stack.empty()) {
-            const auto [a, b] = m_stack.back();
-            m_stack.pop_back();
-            double farthest = -1.0;
-            int split = a;
-            for (int i = a + 1; i < b; ++i) {
-                const double distance = squaredDistanceToSegment(
-                    at(m_x, i), at(m_y, i), at(m_x, a), at(m_y, a), at(m_x, b), at(m_y, b));
-                if (distance > farthest) {
-                    farthest = distance;
-                    split = i;
-                }
-            }
-            if (farthest > m_squaredTolerance) {
-                mark(split);
-                m_stack.emplace_back(a, split);
-                m_stack.emplace_back(split, b);
-            }
-        }
-    }
-
-private:
-    static double at(const std::vector<double> &values, int i)
-    {
-        return values[static_cast<size_t>(i)];
-    }
-    void mark(int i) { m_kept[static_cast<size_t>(i)] = true; }
-
-    const std::vector<double> &m_x;
-    const std::vector<double> &m_y;
-    const double m_squaredTolerance;
-    std::vector<bool> &m_kept;
-    std::vector<std::pair<int, int>> m_stack;
-};
-
 } // namespace
 
 bool showsAllPoints(int count, const Viewport &viewport)
@@ -97,12 +43,12 @@ DecimationResult decimate(const QVector<double> &real, const QVector<double> &im
     if (showsAllPoints(count, viewport))
         return passThrough(count);
 
-    const Projection projection(viewport);
+    const Projection projection = projectionOf(viewport);
     const auto size = static_cast<size_t>(count);
     std::vector<double> x(size);
     std::vector<double> y(size);
     std::vector<bool> kept(size);
-    RunSimplifier run(x, y, viewport.tolerancePx * viewport.tolerancePx, kept);
+    DouglasPeucker run(x, y, viewport.tolerancePx * viewport.tolerancePx, kept);
     const auto isValid = [&](int i) { return std::isfinite(real[i]) && std::isfinite(imag[i]); };
 
     for (int i = 0; i < count; ++i) {
@@ -161,10 +107,10 @@ int nearestIndex(const QVector<double> &real, const QVector<double> &imag, const
                  const QPointF &pointer, double *squaredDistance)
 {
     const int count = static_cast<int>(std::min(real.size(), imag.size()));
-    NearestScan scan(real.constData(), imag.constData(), viewport, pointer);
+    NearestScan scan = scanFor(viewport, pointer, real.constData(), imag.constData());
     if (viewport.isUsable())
         scan.visit(0, count);
-    return scan.result(squaredDistance);
+    return nearestOf(scan, viewport, squaredDistance);
 }
 
 } // namespace SmithRender

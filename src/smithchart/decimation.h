@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
     Which points of a trace must be drawn, and which of them is nearest to the pointer: the plain
-   routines, linear in the trace's length or worse. TraceTree gives the same answers faster when
-   asked repeatedly. */
+    routines, linear in the trace's length or worse. SmithChartPlot gives the same answers faster,
+    from an index over the trace. */
 #pragma once
 
 #include <vnawidgets_export.h>

@@ -56,7 +56,7 @@ bool SmithChartPlotPrivate::refreshDisplayCurve(OwnedCurve &record, bool force)
         QElapsedTimer timer;
         if (smithPerformance().isDebugEnabled())
             timer.start();
-        record.keptIndices = record.tree.decimate(viewport).keptIndices;
+        record.keptIndices = record.index.decimate(viewport).keptIndices;
         if (timer.isValid())
             record.lastDecimationNs = timer.nsecsElapsed();
         record.cachedSourceRevision = record.sourceRevision;

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "indexedtrace_p.h"
 #include "smithchartplot.h"
-#include "tracetree.h"
 
 #include <QPointer>
 
@@ -24,7 +24,7 @@ public:
         QVector<double> frequencies; ///< as many as there are points
         QVector<double> real;
         QVector<double> imag; ///< as many as real parts
-        SmithRender::TraceTree tree; ///< over the source data
+        SmithRender::IndexedTrace index; ///< over the source data
         quint64 sourceRevision = 0;
 
         SmithRender::Viewport cachedViewport;

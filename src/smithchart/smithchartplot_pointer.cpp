@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smithchartplot_p.h"
 
-#include "tracetree.h"
-
 #include <utils/qtcompat_p.h>
 
 #include <QKeyEvent>
@@ -204,8 +202,8 @@ int SmithChartPlotPrivate::nearestCurveDataIndex(QCPCurve *curve, const QPoint &
     if (!record || !curve->keyAxis() || !curve->valueAxis() || !curve->keyAxis()->axisRect())
         return -1;
     const QCPAxisRect *const rect = curve->keyAxis()->axisRect();
-    return record->tree.nearestIndex(viewportOf(curve->keyAxis(), curve->valueAxis()),
-                                     pos - rect->topLeft(), squaredDistance);
+    return record->index.nearestIndex(viewportOf(curve->keyAxis(), curve->valueAxis()),
+                                      pos - rect->topLeft(), squaredDistance);
 }
 
 bool SmithChartPlotPrivate::nearestCurveAndIndex(const QPoint &pos, QCPCurve *&curve, int &index,

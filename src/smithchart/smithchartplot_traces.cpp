@@ -124,7 +124,7 @@ bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencie
     record->real = newReal;
     record->imag = newImag;
     record->frequencies = newFrequencies;
-    record->tree.setSource(record->real, record->imag);
+    record->index.setSource(record->real, record->imag);
     ++record->sourceRevision;
     record->cacheValid = false;
     d->refreshDisplayCurve(*record, true);

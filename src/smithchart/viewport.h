@@ -2,15 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <vnawidgets_export.h>
-
-#include <QtGlobal>
-
 #include <cmath>
-
-QT_BEGIN_NAMESPACE
-class QDebug;
-QT_END_NAMESPACE
 
 /// What turns long traces into what a screen can show of them.
 namespace SmithRender
@@ -57,35 +49,5 @@ inline bool operator!=(const Viewport &a, const Viewport &b)
 {
     return !(a == b);
 }
-
-VNAWIDGETS_EXPORT QDebug operator<<(QDebug debug, const Viewport &viewport);
-
-/// Maps a point of the plane to device pixels from the axis rectangle's top-left corner, y
-/// downwards.
-class Projection
-{
-public:
-    /// \a viewport must be usable.
-    explicit Projection(const Viewport &viewport)
-        : m_xMin(viewport.xMin)
-        , m_yMax(viewport.yMax)
-        , m_xSpan(viewport.xSpan())
-        , m_ySpan(viewport.ySpan())
-        , m_width(viewport.deviceWidth())
-        , m_height(viewport.deviceHeight())
-    {
-    }
-
-    double x(double real) const { return (real - m_xMin) / m_xSpan * m_width; }
-    double y(double imag) const { return (m_yMax - imag) / m_ySpan * m_height; }
-
-private:
-    double m_xMin;
-    double m_yMax;
-    double m_xSpan;
-    double m_ySpan;
-    double m_width;
-    double m_height;
-};
 
 } // namespace SmithRender

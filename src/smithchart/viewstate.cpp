@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "viewstate.h"
 
-#include <QDebug>
-
 #include <algorithm>
 #include <cmath>
 
@@ -67,29 +65,6 @@ ViewState zoomedViewState(const ViewState &state, double anchorX, double anchorY
     return clampViewState({anchorX - (anchorX - start.centerX) / ratio,
                            anchorY - (anchorY - start.centerY) / ratio, zoom},
                           base);
-}
-
-QDebug operator<<(QDebug debug, const ViewState &state)
-{
-    const QDebugStateSaver saver(debug);
-    debug.nospace() << "SmithChart::ViewState(" << state.centerX << ", " << state.centerY << ", x"
-                    << state.zoom << ')';
-    return debug;
-}
-
-QDebug operator<<(QDebug debug, const HalfRanges &ranges)
-{
-    const QDebugStateSaver saver(debug);
-    debug.nospace() << "SmithChart::HalfRanges(" << ranges.x << ", " << ranges.y << ')';
-    return debug;
-}
-
-QDebug operator<<(QDebug debug, const ViewRanges &ranges)
-{
-    const QDebugStateSaver saver(debug);
-    debug.nospace() << "SmithChart::ViewRanges(" << ranges.xLower << ".." << ranges.xUpper << ", "
-                    << ranges.yLower << ".." << ranges.yUpper << ')';
-    return debug;
 }
 
 } // namespace SmithChart

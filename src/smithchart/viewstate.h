@@ -9,10 +9,6 @@
 
 #include <QtGlobal>
 
-QT_BEGIN_NAMESPACE
-class QDebug;
-QT_END_NAMESPACE
-
 namespace SmithChart
 {
 
@@ -63,12 +59,5 @@ struct ViewRanges {
 [[nodiscard]] VNAWIDGETS_EXPORT ViewState zoomedViewState(const ViewState &state, double anchorX,
                                                           double anchorY, double factor,
                                                           HalfRanges base);
-
-/// \name For debug output
-///@{
-VNAWIDGETS_EXPORT QDebug operator<<(QDebug debug, const ViewState &state);
-VNAWIDGETS_EXPORT QDebug operator<<(QDebug debug, const HalfRanges &ranges);
-VNAWIDGETS_EXPORT QDebug operator<<(QDebug debug, const ViewRanges &ranges);
-///@}
 
 } // namespace SmithChart

@@ -5,7 +5,6 @@
 #include <controls/popupplacement_p.h>
 #include <widgets/popupwidget.h>
 
-#include <QDebug>
 #include <QTimer>
 
 namespace
@@ -14,13 +13,6 @@ namespace
 constexpr int ReopenGuardMs = 200;
 
 } // namespace
-
-QDebug operator<<(QDebug debug, const EnumTextButton::EnumSpec &spec)
-{
-    const QDebugStateSaver saver(debug);
-    debug.nospace() << "EnumSpec(" << spec.value << ", " << spec.text << ')';
-    return debug;
-}
 
 EnumTextButton::EnumTextButton(QWidget *parent)
     : LabelButton(parent)

@@ -10,7 +10,6 @@
 #include <QListView>
 
 class PopupWidget;
-class QDebug;
 class QTimer;
 
 /*! A button for a setting with a fixed set of values: it shows the current choice, and a tap opens
@@ -43,7 +42,6 @@ public:
             return a.value == b.value && a.text == b.text;
         }
         friend bool operator!=(const EnumSpec &a, const EnumSpec &b) { return !(a == b); }
-        VNAWIDGETS_EXPORT friend QDebug operator<<(QDebug debug, const EnumSpec &spec);
     };
 
     explicit EnumTextButton(QWidget *parent = nullptr);

@@ -5,7 +5,7 @@
 #include <controls/scaledunitadapter.h>
 #include <panel/files/touchstone.h>
 #include <smithchart/gridgeometry.h>
-#include <smithchart/tracetree.h>
+#include <smithchart/indexedtrace_p.h>
 #include <utils/formatting.h>
 
 #include <fuzz/tracejudge.h>
@@ -114,7 +114,7 @@ private Q_SLOTS:
                 return SmithRender::decimate(trace.real, trace.imag, view()).keptIndices == kept;
             }));
         // One that goes on living after it failed.
-        const auto tree = std::make_shared<SmithRender::TraceTree>();
+        const auto tree = std::make_shared<SmithRender::IndexedTrace>();
         row("trace index in use", Task([=] {
                 tree->setSource(trace.imag, trace.real);
                 (void)tree->decimate(view());

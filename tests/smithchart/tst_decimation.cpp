@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tracesamples.h"
-
 #include <smithchart/decimation.h>
 
+#include <tracesamples.h>
 #include <vnatest.h>
 
 #include <functional>
@@ -171,9 +170,15 @@ private Q_SLOTS:
         for (const auto &[usable, change] : rows) {
             Viewport viewport = plainView();
             change(viewport);
-            QString text;
-            QDebug(&text) << viewport;
-            const Row row(text);
+            const Row row(QStringLiteral("%1..%2, %3..%4, %5 x %6 at %7, within %8 px")
+                              .arg(viewport.xMin)
+                              .arg(viewport.xMax)
+                              .arg(viewport.yMin)
+                              .arg(viewport.yMax)
+                              .arg(viewport.width)
+                              .arg(viewport.height)
+                              .arg(viewport.devicePixelRatio)
+                              .arg(viewport.tolerancePx));
             QCOMPARE(viewport.isUsable(), usable);
             const DecimationResult result = decimate(trace.real, trace.imag, viewport);
             QCOMPARE(result.passedThrough, !usable);

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <smithchart/viewport.h>
 #include <smithchart/viewstate.h>
 
 #include <vnatest.h>
@@ -119,20 +118,6 @@ private Q_SLOTS:
         QVERIFY(isWholeChart(viewStateFromRanges({0.2, 0.2, 0.0, 1.0}, base)));
         QVERIFY(isWholeChart(viewStateFromRanges({0.0, qInf(), 0.0, 1.0}, base)));
         QVERIFY(isWholeChart(viewStateFromRanges({0.0, 1.0, qQNaN(), 1.0}, base)));
-    }
-
-    void debugOutput()
-    {
-        QString text;
-        QDebug(&text) << ViewState{0.5, -0.25, 2.0} << HalfRanges{1.5, 1.05}
-                      << ViewRanges{-1.0, 1.0, -2.0, 2.0}
-                      << SmithRender::Viewport{-1.0, 1.0, -2.0, 2.0, 300, 600, 1.5, 0.5} << 1;
-        QCOMPARE(text,
-                 "SmithChart::ViewState(0.5, -0.25, x2) "
-                 "SmithChart::HalfRanges(1.5, 1.05) "
-                 "SmithChart::ViewRanges(-1..1, -2..2) "
-                 "SmithRender::Viewport(-1..1, -2..2, 300x600 at 1.5, "
-                 "within 0.5 px) 1 "_s);
     }
 };
 

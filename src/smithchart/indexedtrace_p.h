@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <vnawidgets_export.h>
-
+#include <base/testexport_p.h>
 #include <smithchart/decimation.h>
 
 #include <cstddef>
@@ -12,23 +11,17 @@
 namespace SmithRender
 {
 
-/*! Answers decimate() and nearestIndex() for one trace at many viewports, in about the time it
-   takes to draw the points kept rather than to read the points given.
-
-    Ramer-Douglas-Peucker always splits a run at the farthest point; the tolerance only says when to
-   stop. Where pixels are square, a change of view scales all distances alike, so the splits are the
-   same at every view: a tree that is grown as far as some view has asked for. Whatever it cannot
-   answer that way, such as a view without square pixels, it leaves to the plain routines.
-
-    Results are those of the plain routines. Only where two points are equally far to within the
-   rounding of pixel coordinates may the other one be kept.
+/*! A trace with an index over its points: answers decimate() and nearestIndex() at many viewports,
+    in about the time it takes to draw the points kept rather than to read the points given. The
+    answers are those of the plain routines, which also give them where the index cannot, such as in
+    a view without square pixels; LineGeneralisationTree says which ties it may decide otherwise.
 
     The source is shared, not copied, and nothing is computed before the first question. Copies
-   share what has been grown. For one thread at a time, copies included. */
-class VNAWIDGETS_EXPORT TraceTree
+    share what has been grown. For one thread at a time, copies included. */
+class VNAWIDGETS_TEST_EXPORT IndexedTrace
 {
 public:
-    TraceTree();
+    IndexedTrace();
 
     /// Takes up another trace, cut to the shorter of both. The memory of what was grown is reused
     /// for it; an empty trace gives it back.

@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "traceblocks_p.h"
+#include "boundingvolumehierarchy_p.h"
 
 #include "nearestscan_p.h"
-
-#include <smithchart/viewport.h>
 
 #include <algorithm>
 #include <array>
@@ -18,39 +16,40 @@ namespace
 {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-/// Polygons are made larger by this share of the largest coordinate: far more than all rounding in
+/// k-DOPs are made larger by this share of the largest coordinate: far more than all rounding in
 /// distances to them, far less than matters.
 constexpr double margin = 1e-13;
 /// Runs of up to this many chords are searched by chords alone.
 constexpr int fewChords = 16;
-/// Chords whose points stray less than this share of the block's extent say where the block lies.
-constexpr double smallSag = 0.125;
-/// Squares of distances below this vanish, and a sag may seem smaller than it is by as much.
+/// Chords whose points deviate by less than this share of the leaf's extent say where its points
+/// lie.
+constexpr double smallDeviation = 0.125;
+/// Squares of distances below this vanish, and a deviation may seem smaller than it is by as much.
 constexpr double smallestBounded = 1e-150;
 /// Squares of coordinates beyond this overflow, and bounds made of them would rule out anything.
 constexpr double largestBounded = 1e150;
 
-Polygon emptyPolygon()
+Kdop emptyKdop()
 {
-    Polygon polygon;
-    polygon.reach.fill(-infinity);
-    return polygon;
+    Kdop kdop;
+    kdop.support.fill(-infinity);
+    return kdop;
 }
 
-void unite(Polygon &polygon, const Polygon &other)
+void unite(Kdop &kdop, const Kdop &other)
 {
-    for (size_t j = 0; j < polygon.reach.size(); ++j)
-        polygon.reach[j] = std::max(polygon.reach[j], other.reach[j]);
+    for (size_t j = 0; j < kdop.support.size(); ++j)
+        kdop.support[j] = std::max(kdop.support[j], other.support[j]);
 }
 
-double extentOf(const Polygon &polygon)
+double extentOf(const Kdop &kdop)
 {
-    return std::max(polygon.reach[0] + polygon.reach[8], polygon.reach[4] + polygon.reach[12]);
+    return std::max(kdop.support[0] + kdop.support[8], kdop.support[4] + kdop.support[12]);
 }
 
 } // namespace
 
-void TraceBlocks::build(const double *x, const double *y, int count)
+void BoundingVolumeHierarchy::build(const double *x, const double *y, int count)
 {
     m_x = x;
     m_y = y;
@@ -64,106 +63,107 @@ void TraceBlocks::build(const double *x, const double *y, int count)
     m_chordY.resize(padded);
     std::fill_n(m_chordX.begin() + chords + 1, VectorKernels::widest, 0.0);
     std::fill_n(m_chordY.begin() + chords + 1, VectorKernels::widest, 0.0);
-    m_sag.resize(static_cast<size_t>(chords));
+    m_deviation.resize(static_cast<size_t>(chords));
 
-    const int blocks = partsOf(blockShift);
-    m_finite.assign(static_cast<size_t>(blocks), true);
+    const int leaves = partsOf(leafShift);
+    m_finite.assign(static_cast<size_t>(leaves), true);
     m_levels.resize(1);
-    m_levels[0].resize(static_cast<size_t>(blocks));
-    for (int block = 0; block < blocks; ++block)
-        buildBlock(block);
+    m_levels[0].resize(static_cast<size_t>(leaves));
+    for (int leaf = 0; leaf < leaves; ++leaf)
+        buildLeaf(leaf);
 
     m_room = margin * m_largest;
-    for (double &sag : m_sag)
-        sag += m_room;
-    for (Polygon &polygon : m_levels[0]) {
-        for (double &reach : polygon.reach)
-            reach += m_room;
+    for (double &deviation : m_deviation)
+        deviation += m_room;
+    for (Kdop &kdop : m_levels[0]) {
+        for (double &support : kdop.support)
+            support += m_room;
     }
     buildLevels();
 }
 
-void TraceBlocks::buildBlock(int block)
+void BoundingVolumeHierarchy::buildLeaf(int leaf)
 {
     const VectorKernels &kernels = vectorKernels();
-    const int first = block << blockShift;
-    const int last = std::min(first + (1 << blockShift), m_count - 1);
+    const int first = leaf << leafShift;
+    const int last = std::min(first + (1 << leafShift), m_count - 1);
     const int firstChord = first >> chordShift;
     const int chords = std::max((last - first + (1 << chordShift) - 1) >> chordShift, 1);
-    double largestSag = 0.0;
+    double largestDeviation = 0.0;
     for (int chord = firstChord; chord < firstChord + chords; ++chord) {
         const auto at = static_cast<size_t>(chord);
         const int i = chord << chordShift;
         const int end = std::min(i + (1 << chordShift), last);
         const Segment segment(m_x[i], m_y[i], m_x[end], m_y[end]);
-        const double sag =
-            std::sqrt(kernels.strayFrom(m_x, m_y, i, end + 1, segment)) + smallestBounded;
+        const double deviation =
+            std::sqrt(kernels.squaredDeviation(m_x, m_y, i, end + 1, segment)) + smallestBounded;
         m_chordX[at] = m_x[i];
         m_chordY[at] = m_y[i];
         m_chordX[at + 1] = m_x[end];
         m_chordY[at + 1] = m_y[end];
-        m_sag[at] = sag;
-        largestSag = std::max(largestSag, sag);
+        m_deviation[at] = deviation;
+        largestDeviation = std::max(largestDeviation, deviation);
     }
 
-    Polygon &polygon = m_levels[0][static_cast<size_t>(block)];
-    const bool finite = largestSag < infinity;
-    m_finite[static_cast<size_t>(block)] = finite;
+    Kdop &kdop = m_levels[0][static_cast<size_t>(leaf)];
+    const bool finite = largestDeviation < infinity;
+    m_finite[static_cast<size_t>(leaf)] = finite;
     if (finite) {
-        // Around the chords, and wider by the sag: soon done, and good enough where the chords say
-        // most about the trace.
+        // Around the chords, and wider by the deviation: soon done, and good enough where the
+        // chords say most about the trace.
         kernels.enclose(m_chordX.data(), m_chordY.data(), firstChord, firstChord + chords + 1,
-                        polygon);
-        if (largestSag > smallSag * extentOf(polygon)) {
-            kernels.enclose(m_x, m_y, first, last + 1, polygon);
+                        kdop);
+        if (largestDeviation > smallDeviation * extentOf(kdop)) {
+            kernels.enclose(m_x, m_y, first, last + 1, kdop);
         } else {
-            for (double &reach : polygon.reach)
-                reach += largestSag;
+            for (double &support : kdop.support)
+                support += largestDeviation;
         }
     } else {
-        polygon = emptyPolygon();
+        kdop = emptyKdop();
         for (int i = first; i <= last; ++i) {
-            Polygon point;
+            Kdop point;
             if (!std::isfinite(m_x[i]) || !std::isfinite(m_y[i]))
                 continue;
             kernels.enclose(m_x, m_y, i, i + 1, point);
-            unite(polygon, point);
+            unite(kdop, point);
         }
     }
     for (const size_t axis : {0u, 4u, 8u, 12u})
-        m_largest = std::max(m_largest, polygon.reach[axis]);
+        m_largest = std::max(m_largest, kdop.support[axis]);
 }
 
-void TraceBlocks::buildLevels()
+void BoundingVolumeHierarchy::buildLevels()
 {
     constexpr size_t fanOut = 1u << fanOutShift;
     while (m_levels.back().size() > fanOut) {
-        const std::vector<Polygon> &lower = m_levels.back();
-        std::vector<Polygon> level((lower.size() + fanOut - 1) / fanOut, emptyPolygon());
-        for (size_t block = 0; block < lower.size(); ++block)
-            unite(level[block / fanOut], lower[block]);
+        const std::vector<Kdop> &lower = m_levels.back();
+        std::vector<Kdop> level((lower.size() + fanOut - 1) / fanOut, emptyKdop());
+        for (size_t node = 0; node < lower.size(); ++node)
+            unite(level[node / fanOut], lower[node]);
         m_levels.push_back(std::move(level));
     }
 }
 
-size_t TraceBlocks::memoryUsed() const
+size_t BoundingVolumeHierarchy::memoryUsed() const
 {
-    size_t bytes = (m_chordX.capacity() + m_chordY.capacity() + m_sag.capacity()) * sizeof(double)
+    size_t bytes =
+        (m_chordX.capacity() + m_chordY.capacity() + m_deviation.capacity()) * sizeof(double)
         + m_finite.capacity() / 8 + m_stack.capacity() * sizeof(Candidate);
-    for (const std::vector<Polygon> &level : m_levels)
-        bytes += sizeof(std::vector<Polygon>) + level.capacity() * sizeof(Polygon);
+    for (const std::vector<Kdop> &level : m_levels)
+        bytes += sizeof(std::vector<Kdop>) + level.capacity() * sizeof(Kdop);
     return bytes;
 }
 
-/// Puts the blocks \a firstBlock to \a lastBlock that \a promise does not rule out on the stack,
+/// Puts the nodes \a firstNode to \a lastNode that \a promise does not rule out on the stack,
 /// the most promising on top.
 template<typename Promise>
-void TraceBlocks::push(int level, int firstBlock, int lastBlock, const Promise &promise)
+void BoundingVolumeHierarchy::push(int level, int firstNode, int lastNode, const Promise &promise)
 {
     const size_t base = m_stack.size();
-    for (int block = firstBlock; block <= lastBlock; ++block) {
-        Candidate candidate{0.0, 0.0, level, block};
-        if (!promise(m_levels[static_cast<size_t>(level)][static_cast<size_t>(block)], candidate))
+    for (int node = firstNode; node <= lastNode; ++node) {
+        Candidate candidate{0.0, 0.0, level, node};
+        if (!promise(m_levels[static_cast<size_t>(level)][static_cast<size_t>(node)], candidate))
             continue;
         size_t at = m_stack.size();
         m_stack.push_back(candidate);
@@ -173,7 +173,7 @@ void TraceBlocks::push(int level, int firstBlock, int lastBlock, const Promise &
     }
 }
 
-Farthest TraceBlocks::farthest(int first, int end, const Segment &segment)
+Farthest BoundingVolumeHierarchy::farthest(int first, int end, const Segment &segment)
 {
     const VectorKernels &kernels = vectorKernels();
     Farthest best;
@@ -186,19 +186,18 @@ Farthest TraceBlocks::farthest(int first, int end, const Segment &segment)
         return best;
     }
 
-    // Behind the best so far, a block must promise more than the polygons' room: where values
-    // repeat, most blocks hold a point as far as the best, and the first of them is the one to
-    // find.
+    // Behind the best so far, a node must promise more than the k-DOPs' room: where values repeat,
+    // most nodes hold a point as far as the best, and the first of them is the one to find.
     double tie = -1.0;
     const auto canWin = [&](const Candidate &candidate) {
-        const bool isBehind = (candidate.block << shiftOf(candidate.level)) > best.index;
+        const bool isBehind = (candidate.node << shiftOf(candidate.level)) > best.index;
         return candidate.bound > (isBehind ? tie : best.squaredDistance);
     };
     const auto pushOverlapping = [&](int level, int from, int to) {
         const int shift = shiftOf(level);
         push(level, std::max(from, first >> shift), std::min(to, (end - 1) >> shift),
-             [&](const Polygon &polygon, Candidate &candidate) {
-                 candidate.bound = kernels.farthestOf(polygon, segment);
+             [&](const Kdop &kdop, Candidate &candidate) {
+                 candidate.bound = kernels.farthestOf(kdop, segment);
                  candidate.promise = candidate.bound;
                  return canWin(candidate);
              });
@@ -208,27 +207,28 @@ Farthest TraceBlocks::farthest(int first, int end, const Segment &segment)
            && (end - first) >> shiftOf(level + 1) >= 2)
         ++level;
     m_stack.clear();
-    pushOverlapping(level, 0, blocksAt(level) - 1);
+    pushOverlapping(level, 0, nodesAt(level) - 1);
     while (!m_stack.empty()) {
         const Candidate top = m_stack.back();
         m_stack.pop_back();
         if (!canWin(top))
             continue;
         if (top.level == 0) {
-            const int from = top.block << blockShift;
-            farthestByChords(std::max(first, from), std::min(end, from + (1 << blockShift)),
-                             segment, best);
+            const int from = top.node << leafShift;
+            farthestByChords(std::max(first, from), std::min(end, from + (1 << leafShift)), segment,
+                             best);
             const double distance = std::sqrt(best.squaredDistance) + 2.0 * m_room;
             tie = distance * distance;
         } else {
-            const int child = top.block << fanOutShift;
+            const int child = top.node << fanOutShift;
             pushOverlapping(top.level - 1, child, child + (1 << fanOutShift) - 1);
         }
     }
     return best;
 }
 
-void TraceBlocks::farthestByChords(int first, int end, const Segment &segment, Farthest &best) const
+void BoundingVolumeHierarchy::farthestByChords(int first, int end, const Segment &segment,
+                                               Farthest &best) const
 {
     const VectorKernels &kernels = vectorKernels();
     const int firstChord = first >> chordShift;
@@ -242,7 +242,7 @@ void TraceBlocks::farthestByChords(int first, int end, const Segment &segment, F
     double farthest = std::sqrt(std::max(best.squaredDistance, 0.0));
     for (int k = 0; k < chords; ++k) {
         const auto ends = distances.begin() + k;
-        const double needed = farthest - m_sag[at + static_cast<size_t>(k)];
+        const double needed = farthest - m_deviation[at + static_cast<size_t>(k)];
         if (needed > 0.0 && std::max(ends[0], ends[1]) <= needed * needed)
             continue;
         const int from = (firstChord + k) << chordShift;
@@ -252,65 +252,60 @@ void TraceBlocks::farthestByChords(int first, int end, const Segment &segment, F
     }
 }
 
-void TraceBlocks::nearest(const Viewport &viewport, NearestScan &scan)
+void BoundingVolumeHierarchy::nearest(NearestScan &scan)
 {
     // Distances in pixels are at least those in the plane times the coarser scale.
-    const double xScale = viewport.deviceWidth() / viewport.xSpan();
-    const double yScale = viewport.deviceHeight() / viewport.ySpan();
-    const double scale = std::min(xScale, yScale);
-    const double x = viewport.xMin + scan.x() / xScale;
-    const double y = viewport.yMax - scan.y() / yScale;
-    const double reach =
-        std::max({std::fabs(viewport.xMin), std::fabs(viewport.xMax), std::fabs(viewport.yMin),
-                  std::fabs(viewport.yMax), std::fabs(x), std::fabs(y), m_largest});
-    if (!(reach < largestBounded)) {
+    const Projection &projection = scan.projection();
+    const double scale = std::min(projection.xScale(), projection.yScale());
+    const double x = projection.xMin() + scan.x() / projection.xScale();
+    const double y = projection.yMax() - scan.y() / projection.yScale();
+    const double largestX = projection.largestX();
+    const double largestY = projection.largestY();
+    if (!(std::max({largestX, largestY, std::fabs(x), std::fabs(y), m_largest}) < largestBounded)) {
         scan.visit(0, m_count);
         return;
     }
-    const double slack = margin
-        * (std::max(std::fabs(viewport.xMin), std::fabs(viewport.xMax))
-           + std::max(std::fabs(viewport.yMin), std::fabs(viewport.yMax)) + std::fabs(x)
-           + std::fabs(y));
+    const double slack = margin * (largestX + largestY + std::fabs(x) + std::fabs(y));
 
-    const auto promise = [&](const Polygon &polygon, Candidate &candidate) {
-        const double toPolygon = distanceAtLeast(polygon, x, y) - slack;
-        const double distance = std::max(toPolygon, 0.0) * scale;
+    const auto promise = [&](const Kdop &kdop, Candidate &candidate) {
+        const double toKdop = distanceAtLeast(kdop, x, y) - slack;
+        const double distance = std::max(toKdop, 0.0) * scale;
         candidate.bound = distance * distance;
-        // Points of a winding trace lie along the polygon rather than in its middle.
-        candidate.promise = -std::fabs(toPolygon);
+        // Points of a winding trace lie along the edges rather than in its middle.
+        candidate.promise = -std::fabs(toKdop);
         return !(candidate.bound > scan.best());
     };
     m_stack.clear();
     const int top = static_cast<int>(m_levels.size()) - 1;
-    push(top, 0, blocksAt(top) - 1, promise);
+    push(top, 0, nodesAt(top) - 1, promise);
     while (!m_stack.empty()) {
         const Candidate candidate = m_stack.back();
         m_stack.pop_back();
         if (candidate.bound > scan.best())
             continue;
         if (candidate.level == 0) {
-            nearestByChords(candidate.block, x, y, scale, slack, scan);
+            nearestByChords(candidate.node, x, y, scale, slack, scan);
         } else {
             const int lower = candidate.level - 1;
-            const int first = candidate.block << fanOutShift;
-            push(lower, first, std::min(first + (1 << fanOutShift), blocksAt(lower)) - 1, promise);
+            const int first = candidate.node << fanOutShift;
+            push(lower, first, std::min(first + (1 << fanOutShift), nodesAt(lower)) - 1, promise);
         }
     }
 }
 
-void TraceBlocks::nearestByChords(int block, double x, double y, double scale, double slack,
-                                  NearestScan &scan) const
+void BoundingVolumeHierarchy::nearestByChords(int leaf, double x, double y, double scale,
+                                              double slack, NearestScan &scan) const
 {
     constexpr int step = 1 << chordShift;
-    if (block == 0)
+    if (leaf == 0)
         scan.visit(0, 1);
-    const int first = block << blockShift;
-    const int last = std::min(first + (1 << blockShift), m_count - 1);
+    const int first = leaf << leafShift;
+    const int last = std::min(first + (1 << leafShift), m_count - 1);
     for (int i = first; i < last; i += step) {
         const auto chord = static_cast<size_t>(i >> chordShift);
         const double toChord = std::sqrt(squaredDistanceToSegment(
             x, y, m_chordX[chord], m_chordY[chord], m_chordX[chord + 1], m_chordY[chord + 1]));
-        const double distance = std::max(toChord - m_sag[chord] - slack, 0.0) * scale;
+        const double distance = std::max(toChord - m_deviation[chord] - slack, 0.0) * scale;
         if (distance * distance > scan.best())
             continue;
         scan.visit(i + 1, std::min(i + step, last) + 1);

@@ -148,8 +148,8 @@ VNA_INLINE void squaredDistancesBody(const double *x, const double *y, int count
     }
 }
 
-// The cosines and sines of the polygon's directions, and what makes a corner of two neighbouring
-// reaches: corner = reach[j] * near[j] + reach[j + 1] * far[j].
+// The cosines and sines of a k-DOP's directions, and what makes a corner of two neighbouring
+// supports: corner = support[j] * near[j] + support[j + 1] * far[j].
 constexpr double cos1 = 0.92387953251128675613; // cos(pi/8)
 constexpr double cos2 = 0.70710678118654752440;
 constexpr double cos3 = 0.38268343236508977173;
@@ -160,16 +160,16 @@ constexpr std::array<double, 17> sines{0.0,   cos3,  cos2,  cos1, 1.0,   cos1,  
                                        -cos3, -cos2, -cos1, -1.0, -cos1, -cos2, -cos3, 0.0};
 
 struct CornerWeights {
-    double nearX[Polygon::directions];
-    double nearY[Polygon::directions];
-    double farX[Polygon::directions];
-    double farY[Polygon::directions];
+    double nearX[Kdop::directions];
+    double nearY[Kdop::directions];
+    double farX[Kdop::directions];
+    double farY[Kdop::directions];
 };
 
 constexpr CornerWeights makeCornerWeights()
 {
     CornerWeights w{};
-    for (size_t j = 0; j < Polygon::directions; ++j) {
+    for (size_t j = 0; j < Kdop::directions; ++j) {
         w.nearX[j] = sines[j + 1] / cos3;
         w.nearY[j] = -cosines[j + 1] / cos3;
         w.farX[j] = -sines[j] / cos3;
@@ -181,20 +181,20 @@ constexpr CornerWeights makeCornerWeights()
 constexpr CornerWeights weights = makeCornerWeights();
 
 template<int Width>
-VNA_INLINE double farthestOfBody(const Polygon &polygon, const Segment &segment)
+VNA_INLINE double farthestOfBody(const Kdop &kdop, const Segment &segment)
 {
     using Doubles = typename Vector<Width>::Doubles;
     Doubles farthest = Doubles();
-    for (int j = 0; j < Polygon::directions; j += Width) {
-        Doubles reach, next, nearX, nearY, farX, farY, distance;
-        load<Width>(polygon.reach.data() + j, reach);
-        load<Width>(polygon.reach.data() + j + 1, next);
+    for (int j = 0; j < Kdop::directions; j += Width) {
+        Doubles support, next, nearX, nearY, farX, farY, distance;
+        load<Width>(kdop.support.data() + j, support);
+        load<Width>(kdop.support.data() + j + 1, next);
         load<Width>(weights.nearX + j, nearX);
         load<Width>(weights.nearY + j, nearY);
         load<Width>(weights.farX + j, farX);
         load<Width>(weights.farY + j, farY);
-        const Doubles x = reach * nearX + next * farX;
-        const Doubles y = reach * nearY + next * farY;
+        const Doubles x = support * nearX + next * farX;
+        const Doubles y = support * nearY + next * farY;
         squaredDistances(x, y, segment, distance);
         farthest = distance > farthest ? distance : farthest;
     }
@@ -205,8 +205,8 @@ VNA_INLINE double farthestOfBody(const Polygon &polygon, const Segment &segment)
 }
 
 template<int Width>
-VNA_INLINE double strayFromBody(const double *x, const double *y, int first, int end,
-                                const Segment &s)
+VNA_INLINE double squaredDeviationBody(const double *x, const double *y, int first, int end,
+                                       const Segment &s)
 {
     using Doubles = typename Vector<Width>::Doubles;
     const double scaledX = s.dx * s.inverse;
@@ -250,9 +250,9 @@ VNA_INLINE double strayFromBody(const double *x, const double *y, int first, int
     return total - total == 0.0 ? result : std::numeric_limits<double>::infinity();
 }
 
-/// The reaches along \a Axes axes from the one numbered \a from, both ways.
+/// The supports along \a Axes axes from the one numbered \a from, both ways.
 template<int Width, int From, int Axes>
-VNA_INLINE void encloseAlong(const double *x, const double *y, int first, int end, Polygon &polygon)
+VNA_INLINE void encloseAlong(const double *x, const double *y, int first, int end, Kdop &kdop)
 {
     using Doubles = typename Vector<Width>::Doubles;
     constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -291,19 +291,19 @@ VNA_INLINE void encloseAlong(const double *x, const double *y, int first, int en
             lowest = std::min(lowest, lane(low[k], l));
             highest = std::max(highest, lane(high[k], l));
         }
-        polygon.reach[static_cast<size_t>(From + k)] = highest;
-        polygon.reach[static_cast<size_t>(From + k + Polygon::directions / 2)] = -lowest;
+        kdop.support[static_cast<size_t>(From + k)] = highest;
+        kdop.support[static_cast<size_t>(From + k + Kdop::directions / 2)] = -lowest;
     }
 }
 
 template<int Width>
-VNA_INLINE void encloseBody(const double *x, const double *y, int first, int end, Polygon &polygon)
+VNA_INLINE void encloseBody(const double *x, const double *y, int first, int end, Kdop &kdop)
 {
     // Two halves, so that the running extremes stay in registers.
-    constexpr int axes = Polygon::directions / 4;
-    encloseAlong<Width, 0, axes>(x, y, first, end, polygon);
-    encloseAlong<Width, axes, axes>(x, y, first, end, polygon);
-    polygon.reach[Polygon::directions] = polygon.reach[0];
+    constexpr int axes = Kdop::directions / 4;
+    encloseAlong<Width, 0, axes>(x, y, first, end, kdop);
+    encloseAlong<Width, axes, axes>(x, y, first, end, kdop);
+    kdop.support[Kdop::directions] = kdop.support[0];
 }
 
 #define VNA_KERNELS(Name, Width, Attribute)                                                        \
@@ -317,22 +317,22 @@ VNA_INLINE void encloseBody(const double *x, const double *y, int first, int end
     {                                                                                              \
         squaredDistancesBody<Width>(x, y, count, segment, result);                                 \
     }                                                                                              \
-    Attribute double farthestOf##Name(const Polygon &polygon, const Segment &segment)              \
+    Attribute double farthestOf##Name(const Kdop &kdop, const Segment &segment)                    \
     {                                                                                              \
-        return farthestOfBody<Width>(polygon, segment);                                            \
+        return farthestOfBody<Width>(kdop, segment);                                               \
     }                                                                                              \
-    Attribute double strayFrom##Name(const double *x, const double *y, int first, int end,         \
-                                     const Segment &segment)                                       \
+    Attribute double squaredDeviation##Name(const double *x, const double *y, int first, int end,  \
+                                            const Segment &segment)                                \
     {                                                                                              \
-        return strayFromBody<Width>(x, y, first, end, segment);                                    \
+        return squaredDeviationBody<Width>(x, y, first, end, segment);                             \
     }                                                                                              \
-    Attribute void enclose##Name(const double *x, const double *y, int first, int end,             \
-                                 Polygon &polygon)                                                 \
+    Attribute void enclose##Name(const double *x, const double *y, int first, int end, Kdop &kdop) \
     {                                                                                              \
-        encloseBody<Width>(x, y, first, end, polygon);                                             \
+        encloseBody<Width>(x, y, first, end, kdop);                                                \
     }                                                                                              \
     constexpr VectorKernels kernels##Name{farthest##Name, squaredDistances##Name,                  \
-                                          farthestOf##Name, strayFrom##Name, enclose##Name};
+                                          farthestOf##Name, squaredDeviation##Name,                \
+                                          enclose##Name};
 
 VNA_KERNELS(Plain, 1, )
 #ifdef VNA_VECTOR_TYPES
@@ -344,11 +344,11 @@ VNA_KERNELS(Wide4, 4, __attribute__((target("avx2"))))
 
 } // namespace
 
-double distanceAtLeast(const Polygon &polygon, double x, double y)
+double distanceAtLeast(const Kdop &kdop, double x, double y)
 {
     double distance = -std::numeric_limits<double>::infinity();
-    for (size_t j = 0; j < Polygon::directions; ++j)
-        distance = std::max(distance, x * cosines[j] + y * sines[j] - polygon.reach[j]);
+    for (size_t j = 0; j < Kdop::directions; ++j)
+        distance = std::max(distance, x * cosines[j] + y * sines[j] - kdop.support[j]);
     return distance;
 }
 

@@ -1,16 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tracesamples.h"
-
-#include <smithchart/vectorkernels_p.h>
-
 #include <fuzz/tracejudge.h>
 
+#include <tracesamples.h>
 #include <vnatest.h>
 
 #include <algorithm>
 #include <functional>
-#include <vector>
 
 using namespace VnaTest;
 using namespace SmithRender;
@@ -25,7 +21,7 @@ struct Disagreement {
     int faults = 0;
 };
 
-void compare(TraceTree &tree, const Trace &trace, const Viewport &viewport, Disagreement &count)
+void compare(IndexedTrace &tree, const Trace &trace, const Viewport &viewport, Disagreement &count)
 {
     const DecimationResult plain = decimate(trace.real, trace.imag, viewport);
     const DecimationResult fast = tree.decimate(viewport);
@@ -40,15 +36,15 @@ void compare(TraceTree &tree, const Trace &trace, const Viewport &viewport, Disa
     }
 }
 
-TraceTree treeOf(const Trace &trace)
+IndexedTrace treeOf(const Trace &trace)
 {
-    TraceTree tree;
+    IndexedTrace tree;
     tree.setSource(trace.real, trace.imag);
     return tree;
 }
 
 /// The tree keeps and finds the same points as the plain routines.
-void compareAt(TraceTree &tree, const Trace &trace, const Viewport &viewport,
+void compareAt(IndexedTrace &tree, const Trace &trace, const Viewport &viewport,
                const QPointF &pointer = {30.0, 40.0})
 {
     QCOMPARE(tree.decimate(viewport).keptIndices,
@@ -59,89 +55,11 @@ void compareAt(TraceTree &tree, const Trace &trace, const Viewport &viewport,
 
 } // namespace
 
-class tst_TraceTree : public TestCase
+class tst_IndexedTrace : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void allWidthsGiveTheSameBits()
-    {
-        Random random(7);
-        const VectorKernels &plain = *allVectorKernels()[0];
-        for (int round = 0; round < 2000; ++round) {
-            const int count = uniformInt(random, 1, 200);
-            Trace trace = randomTrace(random, static_cast<Kind>(round % KindCount), count);
-            // Exactly as much memory as may be read, so that reading on is found out.
-            std::vector<double> x(trace.real.begin(), trace.real.end());
-            std::vector<double> y(trace.imag.begin(), trace.imag.end());
-            const int first = uniformInt(random, 0, count - 1);
-            const int end = uniformInt(random, first, count);
-            const Segment segment(x[0], y[0], x.back(), round % 3 ? y.back() : y[0]);
-
-            Farthest wanted;
-            plain.farthest(x.data(), y.data(), first, end, count, segment, wanted);
-            Farthest oneByOne;
-            for (int i = first; i < end; ++i)
-                plain.farthest(x.data(), y.data(), i, i + 1, count, segment, oneByOne);
-            QCOMPARE(wanted.index, oneByOne.index);
-            Polygon polygon;
-            const double stray = plain.strayFrom(x.data(), y.data(), first, end, segment);
-            const bool finite = first < end && std::isfinite(stray);
-            double bound = 0.0;
-            if (finite) {
-                plain.enclose(x.data(), y.data(), first, end, polygon);
-                bound = plain.farthestOf(polygon, segment);
-                QVERIFY(bound >= wanted.squaredDistance * (1.0 - 1e-9));
-                QVERIFY(std::fabs(std::sqrt(stray) - std::sqrt(wanted.squaredDistance))
-                        <= 1e-13 * (std::fabs(x[0]) + std::fabs(y[0]) + std::sqrt(bound)));
-            }
-
-            for (const VectorKernels *kernels : allVectorKernels()) {
-                if (!kernels)
-                    continue;
-                Farthest farthest;
-                kernels->farthest(x.data(), y.data(), first, end, count, segment, farthest);
-                QCOMPARE(farthest.index, wanted.index);
-                QVERIFY(farthest.squaredDistance == wanted.squaredDistance);
-
-                const int whole = count / VectorKernels::widest * VectorKernels::widest;
-                std::vector<double> distances(x.size());
-                kernels->squaredDistances(x.data(), y.data(), whole, segment, distances.data());
-                for (int i = 0; i < whole; ++i) {
-                    Farthest one;
-                    plain.farthest(x.data(), y.data(), i, i + 1, count, segment, one);
-                    QVERIFY(distances[static_cast<size_t>(i)] == one.squaredDistance);
-                }
-
-                QVERIFY(kernels->strayFrom(x.data(), y.data(), first, end, segment) == stray);
-                if (finite) {
-                    Polygon other;
-                    kernels->enclose(x.data(), y.data(), first, end, other);
-                    QVERIFY(std::equal(polygon.reach.begin(), polygon.reach.end(),
-                                       other.reach.begin()));
-                    QVERIFY(kernels->farthestOf(other, segment) == bound);
-                }
-            }
-        }
-    }
-
-    void everyWidthSeesWhatIsNotFinite()
-    {
-        for (const VectorKernels *kernels : allVectorKernels()) {
-            for (int hole = 0; kernels && hole < 40; ++hole) {
-                std::vector<double> x(40, 1.0);
-                std::vector<double> y(40, -1.0);
-                const auto stray = [&] {
-                    const Segment segment(x[0], y[0], x[39], y[39]);
-                    return kernels->strayFrom(x.data(), y.data(), 0, 40, segment);
-                };
-                QCOMPARE(stray(), 0.0);
-                (hole % 2 ? x : y)[static_cast<size_t>(hole)] = hole % 3 ? notANumber : -infinity;
-                QCOMPARE(stray(), infinity);
-            }
-        }
-    }
-
     void keepsWhatThePlainRoutineKeeps_data() { addKinds(); }
 
     void theJudgeFindsFaults()
@@ -177,7 +95,7 @@ private Q_SLOTS:
                                              : uniformInt(random, 260, 600));
             if (round % 3 == 0)
                 punchGaps(random, trace, round % 2 ? 0.3 : 0.002);
-            TraceTree tree = treeOf(trace);
+            IndexedTrace tree = treeOf(trace);
             for (int view = 0; view < 3; ++view) {
                 Viewport viewport = randomViewport(random);
                 viewport.width = std::min(viewport.width, 128);
@@ -219,7 +137,7 @@ private Q_SLOTS:
                     continue;
                 Trace trace = spiral(count, 0.01, 0.005);
                 trace.imag[hole] = notANumber;
-                TraceTree tree = treeOf(trace);
+                IndexedTrace tree = treeOf(trace);
                 for (int x = 0; x < 100; x += 7)
                     compareAt(tree, trace, viewport, {x + 0.5, 40.0});
             }
@@ -231,10 +149,10 @@ private Q_SLOTS:
     {
         Random random(3);
         const Trace trace = spiral(50000, 0.001, 1e-3);
-        TraceTree wandering = treeOf(trace);
+        IndexedTrace wandering = treeOf(trace);
         for (int round = 0; round < 30; ++round) {
             const Viewport viewport = randomViewport(random);
-            TraceTree fresh = treeOf(trace);
+            IndexedTrace fresh = treeOf(trace);
             if (round % 2)
                 QCOMPARE(fresh.nearestIndex(viewport, {10.0, 10.0}),
                          wandering.nearestIndex(viewport, {10.0, 10.0}));
@@ -259,7 +177,7 @@ private Q_SLOTS:
         for (const auto &change : changes) {
             Viewport viewport = squareViewport(0.1, 0.0, 1.05, 100, 80);
             change(viewport);
-            TraceTree tree = treeOf(trace);
+            IndexedTrace tree = treeOf(trace);
             const DecimationResult fast = tree.decimate(viewport);
             const DecimationResult plain = decimate(trace.real, trace.imag, viewport);
             QCOMPARE(fast.passedThrough, plain.passedThrough);
@@ -276,7 +194,7 @@ private Q_SLOTS:
             Trace trace = spiral(2000, 0.01, 0.01);
             trace.real[700] = far;
             trace.imag[1300] = -far / 3.0;
-            TraceTree tree = treeOf(trace);
+            IndexedTrace tree = treeOf(trace);
             compareAt(tree, trace, squareViewport(0.1, 0.0, 1.05, 100, 100));
         }
     }
@@ -290,7 +208,7 @@ private Q_SLOTS:
             trace.imag << (i == 500 ? 0.01 : 0.0);
         }
         Viewport viewport = squareViewport(0.0, 0.0, 1.0, 100, 100);
-        TraceTree tree = treeOf(trace);
+        IndexedTrace tree = treeOf(trace);
         for (int step = -3; step <= 3; ++step) {
             viewport.tolerancePx = 0.5;
             for (int ulp = 0; ulp < std::abs(step); ++ulp)
@@ -303,7 +221,7 @@ private Q_SLOTS:
     {
         const Viewport viewport = squareViewport(0.0, 0.0, 1.05, 800, 800);
         const auto bytesAPoint = [&](const Trace &trace, int kept) {
-            TraceTree tree = treeOf(trace);
+            IndexedTrace tree = treeOf(trace);
             if (tree.decimate(viewport).keptIndices.size() < kept)
                 return infinity;
             (void)tree.nearestIndex(viewport, {100.0, 100.0});
@@ -324,7 +242,7 @@ private Q_SLOTS:
         const Viewport viewport = squareViewport(0.0, 0.0, 1.0, 100, 100);
         Trace owner = spiral(5000, 0.001);
         const double *data = owner.real.constData();
-        TraceTree tree = treeOf(owner);
+        IndexedTrace tree = treeOf(owner);
         (void)tree.decimate(viewport);
         QVERIFY(!owner.real.isDetached()); // somebody, the tree, still shares it
         QCOMPARE(owner.real.constData(), data);
@@ -339,13 +257,13 @@ private Q_SLOTS:
         const Viewport viewport = squareViewport(0.0, 0.0, 1.05, 100, 100);
         const Trace first = spiral(3000, 0.002);
         const Trace second = spiral(4000, 0.01);
-        TraceTree tree = treeOf(first);
-        TraceTree copy = tree;
+        IndexedTrace tree = treeOf(first);
+        IndexedTrace copy = tree;
         tree.setSource(second.real, second.imag);
         compareAt(copy, first, viewport);
         compareAt(tree, second, viewport);
     }
 };
 
-QTEST_APPLESS_MAIN(tst_TraceTree)
-#include "tst_tracetree.moc"
+QTEST_APPLESS_MAIN(tst_IndexedTrace)
+#include "tst_indexedtrace.moc"

@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "projection_p.h"
 #include "segment_p.h"
-
-#include <smithchart/viewport.h>
-
-#include <QPointF>
 
 #include <cmath>
 #include <limits>
@@ -19,17 +16,18 @@ namespace SmithRender
 class NearestScan
 {
 public:
-    NearestScan(const double *real, const double *imag, const Viewport &viewport,
-                const QPointF &pointer)
+    /// For the pointer at (\a x, \a y) in device pixels.
+    NearestScan(const double *real, const double *imag, const Projection &projection, double x,
+                double y)
         : m_real(real)
         , m_imag(imag)
-        , m_projection(viewport)
-        , m_ratio(viewport.devicePixelRatio)
-        , m_x(pointer.x() * m_ratio)
-        , m_y(pointer.y() * m_ratio)
+        , m_projection(projection)
+        , m_x(x)
+        , m_y(y)
     {
     }
 
+    const Projection &projection() const { return m_projection; }
     double x() const { return m_x; }
     double y() const { return m_y; }
     /// Nothing farther than this can change the result any more.
@@ -54,14 +52,10 @@ public:
         }
     }
 
-    /// The nearest point, or -1; \a squaredDistance, if given, becomes logical pixels.
-    int result(double *squaredDistance) const
+    /// The nearest point, or -1 with an infinite distance.
+    int index() const
     {
-        const Candidate &winner = m_segment.distance < m_point.distance ? m_segment : m_point;
-        if (squaredDistance)
-            *squaredDistance =
-                winner.index < 0 ? winner.distance : winner.distance / (m_ratio * m_ratio);
-        return winner.index;
+        return m_segment.distance < m_point.distance ? m_segment.index : m_point.index;
     }
 
 private:
@@ -99,7 +93,6 @@ private:
     const double *m_real;
     const double *m_imag;
     Projection m_projection;
-    double m_ratio;
     double m_x;
     double m_y;
     Candidate m_point;

@@ -6,7 +6,7 @@
    for bit. */
 #pragma once
 
-#include <vnawidgets_export.h>
+#include <base/testexport_p.h>
 
 #include <array>
 #include <limits>
@@ -50,16 +50,17 @@ struct Farthest {
     }
 };
 
-/*! A convex polygon of fixed edge directions around a set of points: how far the set reaches in
-   each of 16 directions, the first along x, then anticlockwise. The last value repeats the first.
-   An empty set reaches to minus infinity. */
-struct Polygon {
+/*! A k-DOP around a set of points: a discrete oriented polytope, which is the convex polygon whose
+   k edge directions are fixed (Klosowski et al. 1998). Kept as the set's support in each direction,
+   the first along x, then anticlockwise: the largest scalar product of a point with the direction.
+   The last value repeats the first. An empty set has supports of minus infinity. */
+struct Kdop {
     static constexpr int directions = 16;
-    std::array<double, directions + 1> reach;
+    std::array<double, directions + 1> support;
 };
 
 /// No point of the set is nearer to (\a x, \a y) than this; below 0 inside.
-[[nodiscard]] double distanceAtLeast(const Polygon &polygon, double x, double y);
+[[nodiscard]] double distanceAtLeast(const Kdop &kdop, double x, double y);
 
 /// One set of inner loops. All pointers are to the first point of a trace.
 struct VectorKernels {
@@ -71,20 +72,21 @@ struct VectorKernels {
     /// multiple of the widest vector.
     void (*squaredDistances)(const double *x, const double *y, int count, const Segment &segment,
                              double *result);
-    /// The largest squared distance to \a segment of any point in \a polygon.
-    double (*farthestOf)(const Polygon &polygon, const Segment &segment);
-    /// The largest squared distance to \a segment of the points \a first to \a end - 1, to within
-    /// rounding; infinite if a point is not finite, or so far away that squares overflow.
-    double (*strayFrom)(const double *x, const double *y, int first, int end,
-                        const Segment &segment);
-    /// The polygon around the points \a first to \a end - 1, which must be finite.
-    void (*enclose)(const double *x, const double *y, int first, int end, Polygon &polygon);
+    /// The largest squared distance to \a segment of any point in \a kdop.
+    double (*farthestOf)(const Kdop &kdop, const Segment &segment);
+    /// The squared deviation from \a segment: the largest squared distance of the points \a first
+    /// to \a end - 1, to within rounding; infinite if a point is not finite, or so far away that
+    /// squares overflow.
+    double (*squaredDeviation)(const double *x, const double *y, int first, int end,
+                               const Segment &segment);
+    /// The k-DOP around the points \a first to \a end - 1, which must be finite.
+    void (*enclose)(const double *x, const double *y, int first, int end, Kdop &kdop);
 
     static constexpr int widest = 4; ///< points in the widest vector of any set
 };
 
 /// The sets this processor can run, narrowest first; null for those it cannot.
-[[nodiscard]] VNAWIDGETS_EXPORT std::array<const VectorKernels *, 3> allVectorKernels();
+[[nodiscard]] VNAWIDGETS_TEST_EXPORT std::array<const VectorKernels *, 3> allVectorKernels();
 
 /// The widest of them, chosen once.
 [[nodiscard]] const VectorKernels &vectorKernels();

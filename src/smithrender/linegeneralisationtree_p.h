@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "projection_p.h"
+#include "vectorkernels_p.h"
+
+#include <QVector>
+
+#include <cmath>
+#include <cstddef>
+#include <vector>
+
+namespace SmithRender
+{
+
+class BoundingVolumeHierarchy;
+
+/*! The binary line generalisation tree (BLG-tree: van Oosterom and van den Bos 1989) of each part
+   of a line between gaps. Ramer-Douglas-Peucker always splits a line at the point of the largest
+    deviation; the tolerance only says when to stop. Where pixels are square, a change of view
+   scales all distances alike, so the splits are the same at every view: a node holds a split and
+   its deviation. Nodes are made when a view first asks for them.
+
+    What is kept is what DouglasPeucker keeps. Only where two points deviate equally to within the
+    rounding of pixel coordinates may the other one be kept. */
+class LineGeneralisationTree
+{
+public:
+    /// Takes up a line of \a count points, whose \a volumes have been built; all must outlive
+    /// their use here. Memory of the line before is reused.
+    void build(const double *x, const double *y, int count, BoundingVolumeHierarchy &volumes);
+
+    /// Whether the tree's splits are those of a view, to within rounding.
+    [[nodiscard]] bool fits(const Projection &projection, double tolerance) const;
+    /// Appends the points that stand for the line in a view that the tree fits: no other is farther
+    /// than \a tolerance, in device pixels, from the line drawn. Points that are not finite are
+    /// kept and make gaps.
+    void simplify(const Projection &projection, double tolerance, QVector<int> &kept);
+
+    size_t memoryUsed() const;
+
+private:
+    /// Where a run splits, and the nodes of its two parts.
+    struct Node {
+        double squaredDeviation = -1.0;
+        int split = -1; ///< -1: not searched yet
+        int children = -1; ///< the first of one for each part that is long; -1: none yet
+    };
+
+    /// Finite points between gaps or ends.
+    struct Run {
+        int first;
+        int last;
+        int node;
+    };
+
+    /// A part of a run, still to be looked at.
+    struct Part {
+        int first;
+        int last;
+        int node; ///< -1: too short to have one
+    };
+
+    /// What a view asks of the tree.
+    struct View {
+        View(const Projection &shownAs, double tolerance);
+
+        Projection projection;
+        double squaredTolerance; ///< in device pixels
+        double surely; ///< squared deviations above it, in the plane, are above the tolerance
+        double surelyNot;
+    };
+
+    bool isFinite(int i) const { return std::isfinite(m_x[i]) && std::isfinite(m_y[i]); }
+    void findRuns();
+    Farthest search(int first, int last);
+    Farthest splitOf(const Part &part);
+    bool isSplit(const Part &part, const Farthest &farthest, const View &view) const;
+    void simplify(const Run &run, const View &view, QVector<int> &kept);
+
+    const double *m_x = nullptr;
+    const double *m_y = nullptr;
+    int m_count = 0;
+    BoundingVolumeHierarchy *m_volumes = nullptr;
+    std::vector<Run> m_runs;
+    std::vector<Node> m_nodes;
+    std::vector<Part> m_parts;
+};
+
+} // namespace SmithRender

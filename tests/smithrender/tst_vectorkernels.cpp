@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <smithrender/vectorkernels_p.h>
+
+#include <tracesamples.h>
+#include <vnatest.h>
+
+#include <algorithm>
+#include <vector>
+
+using namespace VnaTest;
+using namespace SmithRender;
+using namespace TraceSamples;
+
+class tst_VectorKernels : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void allWidthsGiveTheSameBits()
+    {
+        Random random(7);
+        const VectorKernels &plain = *allVectorKernels()[0];
+        for (int round = 0; round < 2000; ++round) {
+            const int count = uniformInt(random, 1, 200);
+            Trace trace = randomTrace(random, static_cast<Kind>(round % KindCount), count);
+            // Exactly as much memory as may be read, so that reading on is found out.
+            std::vector<double> x(trace.real.begin(), trace.real.end());
+            std::vector<double> y(trace.imag.begin(), trace.imag.end());
+            const int first = uniformInt(random, 0, count - 1);
+            const int end = uniformInt(random, first, count);
+            const Segment segment(x[0], y[0], x.back(), round % 3 ? y.back() : y[0]);
+
+            Farthest wanted;
+            plain.farthest(x.data(), y.data(), first, end, count, segment, wanted);
+            Farthest oneByOne;
+            for (int i = first; i < end; ++i)
+                plain.farthest(x.data(), y.data(), i, i + 1, count, segment, oneByOne);
+            QCOMPARE(wanted.index, oneByOne.index);
+            Kdop kdop;
+            const double deviation =
+                plain.squaredDeviation(x.data(), y.data(), first, end, segment);
+            const bool finite = first < end && std::isfinite(deviation);
+            double bound = 0.0;
+            if (finite) {
+                plain.enclose(x.data(), y.data(), first, end, kdop);
+                bound = plain.farthestOf(kdop, segment);
+                QVERIFY(bound >= wanted.squaredDistance * (1.0 - 1e-9));
+                QVERIFY(std::fabs(std::sqrt(deviation) - std::sqrt(wanted.squaredDistance))
+                        <= 1e-13 * (std::fabs(x[0]) + std::fabs(y[0]) + std::sqrt(bound)));
+            }
+
+            for (const VectorKernels *kernels : allVectorKernels()) {
+                if (!kernels)
+                    continue;
+                Farthest farthest;
+                kernels->farthest(x.data(), y.data(), first, end, count, segment, farthest);
+                QCOMPARE(farthest.index, wanted.index);
+                QVERIFY(farthest.squaredDistance == wanted.squaredDistance);
+
+                const int whole = count / VectorKernels::widest * VectorKernels::widest;
+                std::vector<double> distances(x.size());
+                kernels->squaredDistances(x.data(), y.data(), whole, segment, distances.data());
+                for (int i = 0; i < whole; ++i) {
+                    Farthest one;
+                    plain.farthest(x.data(), y.data(), i, i + 1, count, segment, one);
+                    QVERIFY(distances[static_cast<size_t>(i)] == one.squaredDistance);
+                }
+
+                QVERIFY(kernels->squaredDeviation(x.data(), y.data(), first, end, segment)
+                        == deviation);
+                if (finite) {
+                    Kdop other;
+                    kernels->enclose(x.data(), y.data(), first, end, other);
+                    QVERIFY(std::equal(kdop.support.begin(), kdop.support.end(),
+                                       other.support.begin()));
+                    QVERIFY(kernels->farthestOf(other, segment) == bound);
+                }
+            }
+        }
+    }
+
+    void everyWidthSeesWhatIsNotFinite()
+    {
+        for (const VectorKernels *kernels : allVectorKernels()) {
+            for (int hole = 0; kernels && hole < 40; ++hole) {
+                std::vector<double> x(40, 1.0);
+                std::vector<double> y(40, -1.0);
+                const auto deviation = [&] {
+                    const Segment segment(x[0], y[0], x[39], y[39]);
+                    return kernels->squaredDeviation(x.data(), y.data(), 0, 40, segment);
+                };
+                QCOMPARE(deviation(), 0.0);
+                (hole % 2 ? x : y)[static_cast<size_t>(hole)] = hole % 3 ? notANumber : -infinity;
+                QCOMPARE(deviation(), infinity);
+            }
+        }
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_VectorKernels)
+#include "tst_vectorkernels.moc"
