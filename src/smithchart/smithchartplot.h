@@ -6,6 +6,7 @@
 
 #include <plot/marker.h>
 #include <plot/qcp.h>
+#include <smithchart/gridlook.h>
 #include <smithchart/preset.h>
 #include <smithchart/viewstate.h>
 
@@ -15,6 +16,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class SmithChartPlotPrivate;
 
@@ -149,7 +151,8 @@ public:
     void resetView();
     /// Whether the view shows less than the whole chart.
     bool isMagnified() const;
-    /// Multiplies the magnification (1 to 20) by \a factor about \a anchor in chart coordinates.
+    /// Multiplies the magnification (1 to maximumZoom()) by \a factor about \a anchor in chart
+    /// coordinates.
     void zoomAt(const QPointF &anchor, double factor);
     /// Shows both ranges, as large as square units and the limits of the view allow.
     void setViewFromRequestedRanges(const QCPRange &xRange, const QCPRange &yRange);
@@ -202,6 +205,25 @@ public:
     /// How near a press must be to catch a marker, in logical pixels. Default: 18.
     double markerHitTolerancePx() const;
     void setMarkerHitTolerancePx(double px);
+    /*! @} */
+
+    /*! \name Beyond the presets: off until a host asks for it
+        @{ */
+
+    /// Draws, in place of the preset's values, a grid whose lines and labels follow the view: at
+    /// every magnification they stand some 30 to 70 pixels apart. Default: false.
+    void setGridFollowsView(bool follows);
+    bool gridFollowsView() const;
+    /// Labels that grid in ohms and siemens, at round values of these, for a reference impedance.
+    /// Without one, the default, values are normalised. False unless it is finite and above 0.
+    bool setGridReference(std::optional<double> ohms);
+    std::optional<double> gridReference() const;
+    /// Pens, font and colours of the grid.
+    void setGridLook(const SmithChart::GridLook &look);
+    SmithChart::GridLook gridLook() const;
+    /// How far the view may be magnified: 1 to 1,000,000, else false. Default: 20.
+    bool setMaximumZoom(double zoom);
+    double maximumZoom() const;
     /*! @} */
 
 Q_SIGNALS:

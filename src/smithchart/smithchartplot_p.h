@@ -7,6 +7,7 @@
 
 #include <QPointer>
 
+#include <optional>
 #include <vector>
 
 class QMouseEvent;
@@ -62,6 +63,11 @@ public:
     void rebuildSmithChartGrid();
     void syncGridFlags();
     void setGridVisible(bool visible);
+    void addPresetGrid();
+    void addViewGrid();
+    void applyGridChange();
+    QString boundaryLayer() const;
+    bool isOurs(const QObject *object) const;
 
     // Traces
     OwnedCurve *findTrace(int traceId);
@@ -78,6 +84,7 @@ public:
     void applyViewState();
     void applyFixedView();
     void ensureAspectRatio();
+    void setViewState(const SmithChart::ViewState &state);
 
     // Display
     static SmithRender::Viewport viewportOf(const QCPAxis *xAxis, const QCPAxis *yAxis);
@@ -121,6 +128,10 @@ public:
     SmithChartPlot::GridMode m_gridMode = SmithChartPlot::Impedance;
     bool m_showImpedanceGrid = true;
     bool m_showAdmittanceGrid = false;
+    SmithChart::GridLook m_gridLook;
+    bool m_gridFollowsView = false;
+    std::optional<double> m_gridReference; ///< ohms; none: normalised values
+    double m_maximumZoom = SmithChart::maximumZoom;
     QVector<OwnedCurve> m_curves;
     int m_activeTraceId = -1;
     std::vector<OwnedMarker> m_ownedMarkers;

@@ -26,26 +26,49 @@ bool SmithChartPlot::isMagnified() const
 
 void SmithChartPlot::resetView()
 {
-    d->m_viewState = {};
-    d->applyViewState();
+    d->setViewState({});
 }
 
 void SmithChartPlot::zoomAt(const QPointF &anchor, double factor)
 {
     if (QCPAxisRect *const rect = d->axisRect()) {
-        d->m_viewState = SmithChart::zoomedViewState(d->m_viewState, anchor.x(), anchor.y(), factor,
-                                                     baseHalfRanges(rect));
-        d->applyViewState();
+        d->setViewState(SmithChart::zoomedViewState(d->m_viewState, anchor.x(), anchor.y(), factor,
+                                                    baseHalfRanges(rect), d->m_maximumZoom));
     }
 }
 
 void SmithChartPlot::setViewFromRequestedRanges(const QCPRange &xRange, const QCPRange &yRange)
 {
     if (QCPAxisRect *const rect = d->axisRect()) {
-        d->m_viewState = SmithChart::viewStateFromRanges(
-            {xRange.lower, xRange.upper, yRange.lower, yRange.upper}, baseHalfRanges(rect));
-        d->applyViewState();
+        d->setViewState(SmithChart::viewStateFromRanges(
+            {xRange.lower, xRange.upper, yRange.lower, yRange.upper}, baseHalfRanges(rect),
+            d->m_maximumZoom));
     }
+}
+
+double SmithChartPlot::maximumZoom() const
+{
+    return d->m_maximumZoom;
+}
+
+bool SmithChartPlot::setMaximumZoom(double zoom)
+{
+    constexpr double highest = 1e6; // beyond, pixels are no longer told apart
+    if (!(zoom >= 1.0 && zoom <= highest))
+        return false;
+    d->m_maximumZoom = zoom;
+    d->setViewState(d->m_viewState);
+    return true;
+}
+
+/// Shows another view; a replot is asked for if the picture changes.
+void SmithChartPlotPrivate::setViewState(const SmithChart::ViewState &state)
+{
+    const SmithChart::ViewState before = m_viewState;
+    m_viewState = state;
+    applyViewState();
+    if (m_viewState != before)
+        requestQueuedReplot();
 }
 
 /// Fits both axes to the stored state. The axes' signals are blocked, or each range set here would
@@ -56,7 +79,7 @@ void SmithChartPlotPrivate::applyViewState()
     if (!rect)
         return;
     const SmithChart::HalfRanges base = baseHalfRanges(rect);
-    m_viewState = SmithChart::clampViewState(m_viewState, base);
+    m_viewState = SmithChart::clampViewState(m_viewState, base, m_maximumZoom);
     const SmithChart::ViewRanges ranges = SmithChart::viewRanges(m_viewState, base);
 
     const QSignalBlocker blockX(m_xAxis);

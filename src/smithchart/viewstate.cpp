@@ -17,11 +17,11 @@ HalfRanges baseHalfRanges(int width, int height)
     return {viewMargin, viewMargin * h / w};
 }
 
-ViewState clampViewState(ViewState state, HalfRanges base)
+ViewState clampViewState(ViewState state, HalfRanges base, double maximum)
 {
     if (!std::isfinite(state.zoom))
         state.zoom = 1.0;
-    state.zoom = std::clamp(state.zoom, 1.0, maximumZoom);
+    state.zoom = std::clamp(state.zoom, 1.0, maximum);
     if (state.zoom <= magnifiedThreshold)
         return {};
 
@@ -42,7 +42,7 @@ ViewRanges viewRanges(const ViewState &state, HalfRanges base)
             state.centerY + halfY};
 }
 
-ViewState viewStateFromRanges(const ViewRanges &ranges, HalfRanges base)
+ViewState viewStateFromRanges(const ViewRanges &ranges, HalfRanges base, double maximum)
 {
     const double xSpan = ranges.xUpper - ranges.xLower;
     const double ySpan = ranges.yUpper - ranges.yLower;
@@ -50,21 +50,22 @@ ViewState viewStateFromRanges(const ViewRanges &ranges, HalfRanges base)
         return {};
     // The smaller magnification wins, so that both requested ranges stay visible.
     const double zoom = std::min(2.0 * base.x / std::abs(xSpan), 2.0 * base.y / std::abs(ySpan));
-    return clampViewState({ranges.xLower + xSpan / 2.0, ranges.yLower + ySpan / 2.0, zoom}, base);
+    return clampViewState({ranges.xLower + xSpan / 2.0, ranges.yLower + ySpan / 2.0, zoom}, base,
+                          maximum);
 }
 
 ViewState zoomedViewState(const ViewState &state, double anchorX, double anchorY, double factor,
-                          HalfRanges base)
+                          HalfRanges base, double maximum)
 {
-    const ViewState start = clampViewState(state, base);
+    const ViewState start = clampViewState(state, base, maximum);
     if (!std::isfinite(anchorX) || !std::isfinite(anchorY) || !std::isfinite(factor)
         || factor <= 0.0)
         return start;
-    const double zoom = std::clamp(start.zoom * factor, 1.0, maximumZoom);
+    const double zoom = std::clamp(start.zoom * factor, 1.0, maximum);
     const double ratio = zoom / start.zoom;
     return clampViewState({anchorX - (anchorX - start.centerX) / ratio,
                            anchorY - (anchorY - start.centerY) / ratio, zoom},
-                          base);
+                          base, maximum);
 }
 
 } // namespace SmithChart

@@ -21,7 +21,7 @@ struct ViewState {
 
 constexpr double viewMargin =
     1.05; ///< half the height shown at zoom 1: the unit circle and 5 % of room
-constexpr double maximumZoom = 20.0;
+constexpr double maximumZoom = 20.0; ///< where a chart sets no other
 constexpr double magnifiedThreshold = 1.000000001; ///< a zoom up to this counts as 1
 
 /// Half the lengths of the two axis ranges.
@@ -42,9 +42,10 @@ struct ViewRanges {
 /// 1).
 [[nodiscard]] VNAWIDGETS_EXPORT HalfRanges baseHalfRanges(int width, int height);
 
-/// \a state brought inside its limits: finite, zoom 1 to maximumZoom, never showing more than zoom
+/// \a state brought inside its limits: finite, zoom 1 to \a maximum, never showing more than zoom
 /// 1 does.
-[[nodiscard]] VNAWIDGETS_EXPORT ViewState clampViewState(ViewState state, HalfRanges base);
+[[nodiscard]] VNAWIDGETS_EXPORT ViewState clampViewState(ViewState state, HalfRanges base,
+                                                         double maximum = maximumZoom);
 
 /// The axis ranges that show \a state, which must be clamped.
 [[nodiscard]] VNAWIDGETS_EXPORT ViewRanges viewRanges(const ViewState &state, HalfRanges base);
@@ -52,12 +53,25 @@ struct ViewRanges {
 /// The closest state that shows all of \a ranges; the whole chart for spans that are 0 or not
 /// finite.
 [[nodiscard]] VNAWIDGETS_EXPORT ViewState viewStateFromRanges(const ViewRanges &ranges,
-                                                              HalfRanges base);
+                                                              HalfRanges base,
+                                                              double maximum = maximumZoom);
 
 /*! \a state magnified by \a factor so that the chart point (\a anchorX, \a anchorY) stays where it
    is. Merely clamped when the anchor is not finite or \a factor is not a finite number above 0. */
 [[nodiscard]] VNAWIDGETS_EXPORT ViewState zoomedViewState(const ViewState &state, double anchorX,
                                                           double anchorY, double factor,
-                                                          HalfRanges base);
+                                                          HalfRanges base,
+                                                          double maximum = maximumZoom);
+
+/// Exact comparison.
+inline bool operator==(const ViewState &a, const ViewState &b)
+{
+    return a.centerX == b.centerX && a.centerY == b.centerY && a.zoom == b.zoom;
+}
+
+inline bool operator!=(const ViewState &a, const ViewState &b)
+{
+    return !(a == b);
+}
 
 } // namespace SmithChart
