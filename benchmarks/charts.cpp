@@ -31,11 +31,12 @@ QVector<double> indices(int count)
 
 } // namespace
 
-void zoomAndReplot(benchmark::State &state, const Trace &trace)
+void zoomAndReplot(benchmark::State &state, const Trace &trace, GridKind grid)
 {
     const QVector<double> frequencies = indices(static_cast<int>(trace.real.size()));
     QCustomPlot plot;
     SmithChartPlot chart(&plot, SmithChart::Standard);
+    chart.setGridFollowsView(grid == GridKind::FollowsView);
     layOut(plot);
     for (int id = 1; id <= 4; ++id) {
         // Four traces, not one shared: each turned by a quarter.

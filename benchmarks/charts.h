@@ -10,8 +10,14 @@
 namespace Bench
 {
 
+/// Which grid a chart has.
+enum class GridKind {
+    Standard, ///< of the preset
+    FollowsView,
+};
+
 /// Magnifies four traces like \a trace by a step and back, and draws after each.
-void zoomAndReplot(benchmark::State &state, const Trace &trace);
+void zoomAndReplot(benchmark::State &state, const Trace &trace, GridKind grid = GridKind::Standard);
 
 /// Gives a chart new data and draws it.
 void setDataAndReplot(benchmark::State &state, const Trace &trace);

@@ -219,6 +219,15 @@ void addAll(RatioTable &table)
                   1.5,
                   "zoom and replot, long",
                   {"zoom and replot, short"}});
+    add("zoom and replot, grid follows", [shortTrace](benchmark::State &state) {
+        zoomAndReplot(state, *shortTrace, GridKind::FollowsView);
+    });
+    table.addRow({"zoomAt and replot, grid follows, to preset",
+                  sweep,
+                  Row::ShareOfTime,
+                  1.5,
+                  "zoom and replot, grid follows",
+                  {"zoom and replot, short"}});
     add("setCurveData and replot",
         [smooth](benchmark::State &state) { setDataAndReplot(state, *smooth); });
     add("QCPCurve::setData and replot",
