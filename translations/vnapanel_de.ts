@@ -177,6 +177,10 @@
         <source>Each file is shown in its own reference: %1.</source>
         <translation>Jede Datei wird mit ihrer eigenen Bezugsimpedanz gezeigt: %1.</translation>
     </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::HelpDialog</name>
@@ -711,20 +715,12 @@
         <translation>die Datei enthält keine Daten</translation>
     </message>
     <message>
-        <source>%1 is a keyword of Touchstone version 2, and only version 1 is read</source>
-        <translation>%1 ist ein Schlüsselwort von Touchstone Version 2, gelesen wird nur Version 1</translation>
-    </message>
-    <message>
         <source>the option line comes after data</source>
         <translation>die Optionszeile kommt erst nach Daten</translation>
     </message>
     <message>
         <source>the reference resistance after R must be a number above zero</source>
         <translation>der Bezugswiderstand nach R muss eine Zahl über null sein</translation>
-    </message>
-    <message>
-        <source>the file holds %1 parameters, and only S parameters are read</source>
-        <translation>die Datei enthält %1-Parameter, gelesen werden nur Streuparameter (S)</translation>
     </message>
     <message>
         <source>%1 is no option of a Touchstone file</source>
@@ -751,14 +747,6 @@
         <translation>die Frequenz fällt zurück</translation>
     </message>
     <message>
-        <source>the point has more than the %1 numbers of a one-port</source>
-        <translation>der Punkt hat mehr als die %1 Zahlen eines Eintors</translation>
-    </message>
-    <message>
-        <source>the point has more than the %1 numbers of a two-port</source>
-        <translation>der Punkt hat mehr als die %1 Zahlen eines Zweitors</translation>
-    </message>
-    <message>
         <source>a value is beyond all bounds</source>
         <translation>ein Wert liegt über allen Grenzen</translation>
     </message>
@@ -783,14 +771,6 @@
         <translation>dies ist ein Ordner, keine Datei</translation>
     </message>
     <message>
-        <source>the name of a Touchstone file ends in .s1p or .s2p</source>
-        <translation>der Name einer Touchstone-Datei endet auf .s1p oder .s2p</translation>
-    </message>
-    <message>
-        <source>a network of %1 ports, and only one and two ports are read</source>
-        <translation>ein Netzwerk mit %1 Toren, gelesen werden nur ein und zwei Tore</translation>
-    </message>
-    <message>
         <source>%1, line %2: %3.</source>
         <translation>%1, Zeile %2: %3.</translation>
     </message>
@@ -801,6 +781,170 @@
     <message>
         <source>the file has more than %1 points</source>
         <translation>die Datei hat mehr als %1 Punkte</translation>
+    </message>
+    <message>
+        <source>R has no number, and 50 ohms are assumed</source>
+        <translation>R hat keine Zahl, angenommen werden 50 Ohm</translation>
+    </message>
+    <message>
+        <source>%1 stands twice</source>
+        <translation>%1 steht zweimal</translation>
+    </message>
+    <message>
+        <source>%1 is no value for %2</source>
+        <translation>%1 ist kein Wert für %2</translation>
+    </message>
+    <message>
+        <source>version %1 of the format is not known</source>
+        <translation>die Version %1 des Formats ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>version 1 has no keywords, and their meaning in version 2 is assumed</source>
+        <translation>Version 1 hat keine Schlüsselwörter, angenommen wird ihre Bedeutung in Version 2</translation>
+    </message>
+    <message>
+        <source>a reference must be a number above zero, and not %1</source>
+        <translation>ein Bezugswiderstand muss eine Zahl über null sein und nicht %1</translation>
+    </message>
+    <message>
+        <source>%1 is no mode such as S1, D2,3 or C2,3</source>
+        <translation>%1 ist keine Mode wie S1, D2,3 oder C2,3</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>a network of %1 ports, and at most %2 ports are read</source>
+        <translation>ein Netzwerk mit %1 Toren, gelesen werden höchstens %2 Tore</translation>
+    </message>
+    <message>
+        <source>only two-ports have G and H parameters</source>
+        <translation>nur Zweitore haben G- und H-Parameter</translation>
+    </message>
+    <message>
+        <source>%1 is missing, and 21_12 is assumed</source>
+        <translation>%1 fehlt, angenommen wird 21_12</translation>
+    </message>
+    <message>
+        <source>%1 references for %2 ports</source>
+        <translation>%1 Bezugswiderstände für %2 Tore</translation>
+    </message>
+    <message>
+        <source>only S parameters can have a complex reference</source>
+        <translation>nur S-Parameter können einen komplexen Bezug haben</translation>
+    </message>
+    <message>
+        <source>mixed modes are read of S parameters, and of Z and Y in ohms</source>
+        <translation>gemischte Moden werden von S-Parametern gelesen und von Z und Y in Ohm</translation>
+    </message>
+    <message>
+        <source>the mixed modes name a port that does not exist</source>
+        <translation>die gemischten Moden nennen ein Tor, das es nicht gibt</translation>
+    </message>
+    <message>
+        <source>the mixed modes name port %1 twice</source>
+        <translation>die gemischten Moden nennen Tor %1 zweimal</translation>
+    </message>
+    <message>
+        <source>the ports %1 and %2 of a mixed mode have different references</source>
+        <translation>die Tore %1 und %2 einer gemischten Mode haben verschiedene Bezugswiderstände</translation>
+    </message>
+    <message>
+        <source>the mixed modes do not name port %1 once as S or as D and C of one pair</source>
+        <translation>die gemischten Moden nennen Tor %1 nicht einmal als S oder als D und C eines Paares</translation>
+    </message>
+    <message>
+        <source>%1 does not stand where it belongs</source>
+        <translation>%1 steht nicht, wo es hingehört</translation>
+    </message>
+    <message>
+        <source>the line is longer than %1 MB</source>
+        <translation>die Zeile ist länger als %1 MB</translation>
+    </message>
+    <message>
+        <source>%1 is no keyword of a Touchstone file</source>
+        <translation>%1 ist kein Schlüsselwort einer Touchstone-Datei</translation>
+    </message>
+    <message>
+        <source>only two-ports have noise data</source>
+        <translation>nur Zweitore haben Rauschdaten</translation>
+    </message>
+    <message>
+        <source>the first point has %1 numbers, and no number of ports has so many</source>
+        <translation>der erste Punkt hat %1 Zahlen, und so viele hat keine Zahl von Toren</translation>
+    </message>
+    <message>
+        <source>the point has more than %1 numbers</source>
+        <translation>der Punkt hat mehr als %1 Zahlen</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 announced frequencies are there</source>
+        <translation>von %2 angekündigten Frequenzen sind %1 da</translation>
+    </message>
+    <message>
+        <source>there are more than the %1 announced frequencies</source>
+        <translation>es sind mehr als die %1 angekündigten Frequenzen</translation>
+    </message>
+    <message>
+        <source>the references are the port impedances in its comments, and not what is shown</source>
+        <translation>der Bezug sind die Torimpedanzen in den Kommentaren und nicht, was angezeigt wird</translation>
+    </message>
+    <message>
+        <source>only the first %1 MB of its comments are kept</source>
+        <translation>nur die ersten %1 MB der Kommentare bleiben erhalten</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 numbers</source>
+        <translation>die Datei hat mehr als %1 Zahlen</translation>
+    </message>
+    <message>
+        <source>the parameters of this point have no S parameters</source>
+        <translation>zu den Parametern dieses Punktes gibt es keine S-Parameter</translation>
+    </message>
+    <message>
+        <source>the name of a network&apos;s file ends in .s1p, .s2p and so on, .ts or .csv</source>
+        <translation>der Name einer Netzwerk-Datei endet auf .s1p, .s2p und so weiter, .ts oder .csv</translation>
+    </message>
+    <message>
+        <source>the name of a file with %1 ports ends in .s%1p</source>
+        <translation>der Name einer Datei mit %1 Toren endet auf .s%1p</translation>
+    </message>
+    <message>
+        <source>there is such a file already</source>
+        <translation>eine solche Datei gibt es schon</translation>
+    </message>
+    <message>
+        <source>the file that is there is newer than what was to be saved</source>
+        <translation>die vorhandene Datei ist neuer als das, was zu speichern war</translation>
+    </message>
+    <message>
+        <source>the file cannot be written (%1)</source>
+        <translation>die Datei lässt sich nicht schreiben (%1)</translation>
+    </message>
+    <message>
+        <source>the name of a Touchstone file ends in .s1p, .s2p and so on, or in .ts</source>
+        <translation>der Name einer Touchstone-Datei endet auf .s1p, .s2p und so weiter oder auf .ts</translation>
+    </message>
+    <message>
+        <source>Touchstone files have no complex references</source>
+        <translation>Touchstone-Dateien haben keinen komplexen Bezug</translation>
+    </message>
+    <message>
+        <source>the noise data is not complete</source>
+        <translation>die Rauschdaten sind nicht vollständig</translation>
+    </message>
+    <message>
+        <source>version 1 has no room for this noise data</source>
+        <translation>Version 1 hat für diese Rauschdaten keinen Platz</translation>
+    </message>
+    <message>
+        <source>the network holds no data</source>
+        <translation>das Netzwerk enthält keine Daten</translation>
+    </message>
+    <message>
+        <source>%1 has no finite value at %2 Hz</source>
+        <translation>%1 hat bei %2 Hz keinen endlichen Wert</translation>
     </message>
 </context>
 <context>

@@ -172,6 +172,10 @@
         <source>Each file is shown in its own reference: %1.</source>
         <translation>各文件按各自的参考阻抗显示：%1。</translation>
     </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1：%2。</translation>
+    </message>
 </context>
 <context>
     <name>Panel::HelpDialog</name>
@@ -705,20 +709,12 @@
         <translation>文件不含数据</translation>
     </message>
     <message>
-        <source>%1 is a keyword of Touchstone version 2, and only version 1 is read</source>
-        <translation>%1 是 Touchstone 第 2 版的关键字，仅支持第 1 版</translation>
-    </message>
-    <message>
         <source>the option line comes after data</source>
         <translation>选项行出现在数据之后</translation>
     </message>
     <message>
         <source>the reference resistance after R must be a number above zero</source>
         <translation>R 之后的参考电阻必须是大于零的数</translation>
-    </message>
-    <message>
-        <source>the file holds %1 parameters, and only S parameters are read</source>
-        <translation>文件含 %1 参数，仅支持 S 参数</translation>
     </message>
     <message>
         <source>%1 is no option of a Touchstone file</source>
@@ -745,14 +741,6 @@
         <translation>频率回退</translation>
     </message>
     <message>
-        <source>the point has more than the %1 numbers of a one-port</source>
-        <translation>该点的数值多于单端口的 %1 个</translation>
-    </message>
-    <message>
-        <source>the point has more than the %1 numbers of a two-port</source>
-        <translation>该点的数值多于双端口的 %1 个</translation>
-    </message>
-    <message>
         <source>a value is beyond all bounds</source>
         <translation>数值超出一切界限</translation>
     </message>
@@ -777,14 +765,6 @@
         <translation>这是文件夹，不是文件</translation>
     </message>
     <message>
-        <source>the name of a Touchstone file ends in .s1p or .s2p</source>
-        <translation>Touchstone 文件名应以 .s1p 或 .s2p 结尾</translation>
-    </message>
-    <message>
-        <source>a network of %1 ports, and only one and two ports are read</source>
-        <translation>%1 端口网络，仅支持单端口和双端口</translation>
-    </message>
-    <message>
         <source>%1, line %2: %3.</source>
         <translation>%1，第 %2 行：%3。</translation>
     </message>
@@ -795,6 +775,170 @@
     <message>
         <source>the file has more than %1 points</source>
         <translation>文件超过 %1 个点</translation>
+    </message>
+    <message>
+        <source>R has no number, and 50 ohms are assumed</source>
+        <translation>R 之后没有数，按 50 欧姆处理</translation>
+    </message>
+    <message>
+        <source>%1 stands twice</source>
+        <translation>%1 出现两次</translation>
+    </message>
+    <message>
+        <source>%1 is no value for %2</source>
+        <translation>%1 不是 %2 的有效值</translation>
+    </message>
+    <message>
+        <source>version %1 of the format is not known</source>
+        <translation>未知的格式版本 %1</translation>
+    </message>
+    <message>
+        <source>version 1 has no keywords, and their meaning in version 2 is assumed</source>
+        <translation>第 1 版没有关键字，按第 2 版的含义处理</translation>
+    </message>
+    <message>
+        <source>a reference must be a number above zero, and not %1</source>
+        <translation>参考阻抗必须是大于零的数，而不是 %1</translation>
+    </message>
+    <message>
+        <source>%1 is no mode such as S1, D2,3 or C2,3</source>
+        <translation>%1 不是 S1、D2,3 或 C2,3 这样的模式</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>缺少 %1</translation>
+    </message>
+    <message>
+        <source>a network of %1 ports, and at most %2 ports are read</source>
+        <translation>%1 端口网络，最多支持 %2 个端口</translation>
+    </message>
+    <message>
+        <source>only two-ports have G and H parameters</source>
+        <translation>只有双端口才有 G 和 H 参数</translation>
+    </message>
+    <message>
+        <source>%1 is missing, and 21_12 is assumed</source>
+        <translation>缺少 %1，按 21_12 处理</translation>
+    </message>
+    <message>
+        <source>%1 references for %2 ports</source>
+        <translation>%2 个端口却有 %1 个参考阻抗</translation>
+    </message>
+    <message>
+        <source>only S parameters can have a complex reference</source>
+        <translation>只有 S 参数可以有复数参考阻抗</translation>
+    </message>
+    <message>
+        <source>mixed modes are read of S parameters, and of Z and Y in ohms</source>
+        <translation>混合模式仅支持 S 参数以及以欧姆为单位的 Z 和 Y 参数</translation>
+    </message>
+    <message>
+        <source>the mixed modes name a port that does not exist</source>
+        <translation>混合模式中出现不存在的端口</translation>
+    </message>
+    <message>
+        <source>the mixed modes name port %1 twice</source>
+        <translation>混合模式中端口 %1 出现两次</translation>
+    </message>
+    <message>
+        <source>the ports %1 and %2 of a mixed mode have different references</source>
+        <translation>同一混合模式的端口 %1 和 %2 参考阻抗不同</translation>
+    </message>
+    <message>
+        <source>the mixed modes do not name port %1 once as S or as D and C of one pair</source>
+        <translation>混合模式没有把端口 %1 列为一次 S 或同一对的 D 和 C</translation>
+    </message>
+    <message>
+        <source>%1 does not stand where it belongs</source>
+        <translation>%1 的位置不对</translation>
+    </message>
+    <message>
+        <source>the line is longer than %1 MB</source>
+        <translation>该行超过 %1 MB</translation>
+    </message>
+    <message>
+        <source>%1 is no keyword of a Touchstone file</source>
+        <translation>%1 不是 Touchstone 文件的关键字</translation>
+    </message>
+    <message>
+        <source>only two-ports have noise data</source>
+        <translation>只有双端口才有噪声数据</translation>
+    </message>
+    <message>
+        <source>the first point has %1 numbers, and no number of ports has so many</source>
+        <translation>第一个点有 %1 个数，与任何端口数都不符</translation>
+    </message>
+    <message>
+        <source>the point has more than %1 numbers</source>
+        <translation>该点的数值多于 %1 个</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 announced frequencies are there</source>
+        <translation>声明了 %2 个频率，实有 %1 个</translation>
+    </message>
+    <message>
+        <source>there are more than the %1 announced frequencies</source>
+        <translation>频率多于所声明的 %1 个</translation>
+    </message>
+    <message>
+        <source>the references are the port impedances in its comments, and not what is shown</source>
+        <translation>参考阻抗是注释中的端口阻抗，而不是所显示的值</translation>
+    </message>
+    <message>
+        <source>only the first %1 MB of its comments are kept</source>
+        <translation>注释仅保留前 %1 MB</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 numbers</source>
+        <translation>文件超过 %1 个数</translation>
+    </message>
+    <message>
+        <source>the parameters of this point have no S parameters</source>
+        <translation>该点的参数没有对应的 S 参数</translation>
+    </message>
+    <message>
+        <source>the name of a network&apos;s file ends in .s1p, .s2p and so on, .ts or .csv</source>
+        <translation>网络文件名应以 .s1p、.s2p 等，.ts 或 .csv 结尾</translation>
+    </message>
+    <message>
+        <source>the name of a file with %1 ports ends in .s%1p</source>
+        <translation>%1 端口的文件名应以 .s%1p 结尾</translation>
+    </message>
+    <message>
+        <source>there is such a file already</source>
+        <translation>已有此文件</translation>
+    </message>
+    <message>
+        <source>the file that is there is newer than what was to be saved</source>
+        <translation>现有文件比要保存的内容更新</translation>
+    </message>
+    <message>
+        <source>the file cannot be written (%1)</source>
+        <translation>文件无法写入（%1）</translation>
+    </message>
+    <message>
+        <source>the name of a Touchstone file ends in .s1p, .s2p and so on, or in .ts</source>
+        <translation>Touchstone 文件名应以 .s1p、.s2p 等或 .ts 结尾</translation>
+    </message>
+    <message>
+        <source>Touchstone files have no complex references</source>
+        <translation>Touchstone 文件不支持复数参考阻抗</translation>
+    </message>
+    <message>
+        <source>the noise data is not complete</source>
+        <translation>噪声数据不完整</translation>
+    </message>
+    <message>
+        <source>version 1 has no room for this noise data</source>
+        <translation>第 1 版无法容纳这些噪声数据</translation>
+    </message>
+    <message>
+        <source>the network holds no data</source>
+        <translation>网络不含数据</translation>
+    </message>
+    <message>
+        <source>%1 has no finite value at %2 Hz</source>
+        <translation>%1 在 %2 Hz 处没有有限数值</translation>
     </message>
 </context>
 <context>

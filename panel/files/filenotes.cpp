@@ -48,6 +48,9 @@ QStringList fileNotes(const QVector<Network> &networks)
                          "Panel::FileNotes",
                          "%1 holds a single point, at %2: set a marker to see it.")
                          .arg(network.name, frequencyText(network.frequencies.first()));
+        for (const QString &remark : network.remarks)
+            notes << QCoreApplication::translate("Panel::FileNotes", "%1: %2.")
+                         .arg(network.name, remark);
         const QStringList empty = emptyParameters(network);
         if (!empty.isEmpty())
             notes << QCoreApplication::translate("Panel::FileNotes", "%1: %2 holds no values.")

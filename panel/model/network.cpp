@@ -7,6 +7,15 @@
 namespace Panel
 {
 
+void Network::setReferences(const QVector<std::complex<double>> &ohms)
+{
+    const std::complex<double> first = ohms.value(0, 50.0);
+    const bool same = first.imag() == 0.0 && ohms.count(first) == ohms.size();
+    references = same ? QVector<std::complex<double>>() : ohms;
+    // There is nothing better to say in one number; who needs more asks reference().
+    referenceOhms = first.real();
+}
+
 double valueAt(const QVector<double> &values, double index)
 {
     const int last = int(values.size()) - 1;

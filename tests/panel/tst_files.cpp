@@ -258,7 +258,7 @@ private Q_SLOTS:
         QVERIFY(drop({text, good}));
         QTRY_COMPARE(desk.keys().file->value(), "good.s1p"_s);
         QCOMPARE(desk.bar()->message(),
-                 "notes.txt: the name of a Touchstone file ends in .s1p or .s2p."_s);
+                 "notes.txt: the name of a Touchstone file ends in .s1p, .s2p and so on, or in .ts."_s);
     }
 
     void notesWhatLooksUnlikeExpected()

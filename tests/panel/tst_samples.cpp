@@ -3,7 +3,7 @@
 #include "vnatest.h"
 
 #include <panel/files/samples.h>
-#include <panel/files/touchstone.h>
+#include <panel/touchstone/touchstone.h>
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vnatest.h"
 
-#include <panel/files/touchstone.h>
+#include <panel/touchstone/touchstone.h>
 
 #include <cmath>
 #include <complex>
@@ -12,6 +12,8 @@ using namespace Panel;
 
 namespace
 {
+
+const double degree = std::acos(-1.0) / 180.0;
 
 std::complex<double> value(const Network &network, int to, int from, int point)
 {
@@ -109,12 +111,8 @@ private Q_SLOTS:
             "1: the reference resistance after R must be a number above zero";
         const char *const badFrequency =
             "1: the frequency must not be below zero nor beyond all bounds";
-        row("Z parameters", "! a\n# MHz z MA R 75\n", 1,
-            "2: the file holds Z parameters, and only S parameters are read");
-        row("version 2", "!\n[Version] 2.0\n# Hz S RI\n", 1,
-            "2: \"[Version]\" is a keyword of Touchstone version 2, and only version 1 is read");
         row("unknown option", "# THz S RI\n", 1, "1: \"THz\" is no option of a Touchstone file");
-        row("R without a number", "# Hz S RI R\n", 1, noResistance);
+        row("R without a number", "# Hz S RI R fifty\n", 1, noResistance);
         row("R zero", "# Hz S RI R 0\n", 1, noResistance);
         row("late option line", "1 0 0\n# Hz S RI\n", 1, "2: the option line comes after data");
         word("text for a number", "# Hz S RI\n1 0 0\n\n2 abc 0\n", 4, "abc"_s);
@@ -132,14 +130,15 @@ private Q_SLOTS:
         row("short last line of two ports", "1 0 0 0 0 0 0 0 0\n2 0 0 0 0 0 0\n", 2,
             "2: the last point has 7 of 9 numbers");
         row("short line within", "1 0 0 0 0 0 0 0\n2 0 0 0 0 0 0 0 0\n", 2,
-            "2: the point has more than the 9 numbers of a two-port");
+            "2: the point has more than 9 numbers");
         row("two-port data named .s1p", "1 0 0 0 0 0 0 0 0\n", 1,
-            "1: the point has more than the 3 numbers of a one-port");
+            "1: the point has more than 3 numbers");
         const char *const fallsBack = "2: the frequency falls back";
         row("frequency falls back", "2 0 0\n1 0 0\n", 1, fallsBack);
         row("frequency of a two-port falls back", "2 0 0 0 0 0 0 0 0\n1 0 0 0 0 0 0 0 0\n", 2,
             fallsBack);
-        row("noise data of one port", "2 0 0\n1 1 1 1 1\n", 1, fallsBack);
+        row("noise data of one port", "2 0 0\n1 1 1 1 1\n", 1,
+            "2: the point has more than 3 numbers");
         row("noise data alone", "1 1 1 1 1\n", 2, "1: the last point has 5 of 9 numbers");
         row("line of four in noise data", "2 0 0 0 0 0 0 0 0\n1 1 1 1 1\n2 1 1 1\n", 2,
             "3: a line of noise data has 5 numbers, not 4");
@@ -161,9 +160,12 @@ private Q_SLOTS:
     void refusesNames()
     {
         const QTemporaryDir folder;
-        const QString extension = "the name of a Touchstone file ends in .s1p or .s2p"_s;
+        const QString extension =
+            "the name of a Touchstone file ends in .s1p, .s2p and so on, or in .ts"_s;
         for (const auto &[name, reason] :
-             {std::pair("a.S3P"_s, "a network of 3 ports, and only one and two ports are read"_s),
+             {std::pair("a.S1000P"_s, "a network of 1000 ports, and at most 256 ports are read"_s),
+              {"a.s99999999999p"_s, extension},
+              {"good.TS"_s, QString()},
               {"a.txt"_s, extension},
               {"a.sxp"_s, extension},
               {"good.S1P"_s, QString()}}) {
@@ -213,6 +215,24 @@ private Q_SLOTS:
             {"microstrip-line.s2p"_s, 10000, 10e9, 0.442851},
             {"transistor-with-noise.s2p"_s, 37, 2e9, 0.540540},
             {"latin1-comments.s2p"_s, 1, 1e9, 1.414214},
+            {"version2-header.s1p"_s, 5, 500e6, 0.999651},
+        };
+        // One value of each; angles in degrees.
+        const struct {
+            QString name;
+            int ports, to, from, point;
+            std::complex<double> s;
+        } values[] = {
+            {"v2-reference-per-port.ts"_s, 4, 1, 2, 0, std::polar(0.4, -42.2 * degree)},
+            {"v2-lower-triangle.ts"_s, 4, 2, 1, 0, std::polar(0.4, -42.2 * degree)},
+            {"v2-z-in-ohms.ts"_s, 1, 1, 1, 0, {0.576066, -0.023342}},
+            {"v2-two-port-noise.ts"_s, 2, 2, 1, 0, std::polar(3.57, 157 * degree)},
+            {"v2-mixed-modes.ts"_s, 6, 1, 1, 0, {5.5, -7.0}},
+            {"v2-mixed-modes.ts"_s, 6, 6, 6, 0, {5.65, 6.5}},
+            {"v2-three-ports-reference-over-lines.ts"_s, 3, 2, 2, 0, -0.994583},
+            {"three-ports-port-impedances.s3p"_s, 3, 2, 1, 0,
+             std::polar(0.696804, -9.887444 * degree)},
+            {"eight-ports-wrapped-rows.s8p"_s, 8, 8, 8, 2, {0.597830, 0.538853}},
         };
         // Beside the source tree, or as the environment says.
         const QDir folder(qEnvironmentVariable(
@@ -230,7 +250,13 @@ private Q_SLOTS:
                 most = std::max(most, std::abs(value(result.network, 1, 1, i)));
             QVERIFY2(std::abs(most - largest) < 1e-6, qPrintable(QString::number(most)));
         }
-        QVERIFY(!readTouchstone(folder.filePath("version2-header.s1p"_s)).ok());
+        for (const auto &[name, ports, to, from, point, s] : values) {
+            const Row row(name);
+            const TouchstoneResult result = readTouchstone(folder.filePath(name));
+            QVERIFY2(result.ok(), qPrintable(result.reason));
+            QCOMPARE(result.network.ports, ports);
+            QVERIFY(std::abs(value(result.network, to, from, point) - s) < 1e-6);
+        }
     }
 };
 

@@ -3,7 +3,8 @@
 // The parts without widgets while memory runs out: each allocation of each task fails once. What
 // comes is std::bad_alloc or the right result, nothing is leaked, and the next try succeeds.
 #include <controls/scaledunitadapter.h>
-#include <panel/files/touchstone.h>
+#include <panel/touchstone/touchstone.h>
+#include <panel/touchstone/touchstonewriter.h>
 #include <smithchart/gridgeometry.h>
 #include <smithchart/indexedtrace_p.h>
 #include <utils/formatting.h>
@@ -132,6 +133,18 @@ private Q_SLOTS:
                     Panel::parseTouchstone("# MHz S DB R 75\n1 -3 45\n2 -4 46\n", 1);
                 return result.ok() && result.network.points() == 2
                     && result.network.s(1, 1).imag.size() == 2;
+            }));
+        row("Touchstone of version 2, and written", Task([] {
+                const auto result = Panel::parseTouchstone(
+                    "[Version] 2.0\n# Hz Z RI\n[Number of Ports] 2\n[Two-Port Data Order] 12_21\n"
+                    "[Number of Frequencies] 1\n[Reference]\n50 75 ! ohms\n[Network Data]\n"
+                    "1 9 0 1 0 1 0 9 0\n[End]\n",
+                    0);
+                QBuffer buffer;
+                buffer.open(QIODevice::WriteOnly);
+                Panel::writeTouchstone(buffer, result.network, 2);
+                return result.ok() && result.network.comments.size() == 1
+                    && Panel::parseTouchstone(buffer.data(), 0).network.reference(2) == 75.0;
             }));
         row("Touchstone refused", Task([] {
                 const auto result = Panel::parseTouchstone("# MHz S DB R 75\n1 -3 x\n", 1);

@@ -3,7 +3,7 @@
 // What stands where a file should be: each reader takes it for missing, or says in a sentence what
 // is wrong. Damage inside of files is tried by the fuzz targets and their corpora.
 #include <controls/themesettings_p.h>
-#include <panel/files/touchstone.h>
+#include <panel/touchstone/touchstone.h>
 #include <platform/stylehelper.h>
 
 #include <atomic>
@@ -73,8 +73,9 @@ private Q_SLOTS:
              [](const QString &name) { return QFile::setPermissions(name, {}); }},
             {"the file holds no data"_s, sized(0)},
             {"\"????????????????????????\u2026\" stands where a finite number belongs"_s,
-             sized(100 * 1000 * 1000)},
-            {"the file is larger than 512 MB"_s, sized(512 * 1024 * 1024 + 1)},
+             sized(2 * 1000 * 1000)},
+            {"the line is longer than 64 MB"_s, sized(70 * 1000 * 1000)},
+            {"the file is larger than 4096 MB"_s, sized((qint64(4096) << 20) + 1)},
         };
         for (const auto &[reason, make] : rows) {
             const QTemporaryDir folder;
