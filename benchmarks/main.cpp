@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "charts.h"
+#include "files.h"
 #include "panel.h"
 #include "peers.h"
 #include "ratiotable.h"
@@ -291,6 +292,22 @@ void addPanel(RatioTable &table)
                   {}});
 }
 
+void addFiles(RatioTable &table)
+{
+    constexpr int points = 4000000;
+    add("file, network", [](benchmark::State &state) { readNetwork(state, points); });
+    add("file, numbers", [](benchmark::State &state) { readNumbers(state, points); });
+    table.addRow({"file of a two-port, to its bytes and numbers",
+                  points,
+                  Row::ShareOfTime,
+                  1.5,
+                  "file, network",
+                  {"file, numbers"}});
+    // Twice its frequency and its eight numbers.
+    table.addRow(
+        {"memory, file of a two-port", points, Row::BytesAPoint, 144.0, "file, network", {}});
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -312,6 +329,7 @@ int main(int argc, char **argv)
     RatioTable table;
     addAll(table);
     addPanel(table);
+    addFiles(table);
     benchmark::RunSpecifiedBenchmarks(&table);
     table.print();
     if (parser.isSet(json) && !table.writeJson(parser.value(json))) {

@@ -77,4 +77,18 @@ QString saveNetwork(const QString &path, const Network &network, const SaveOptio
     return result.ok() ? QString() : result.sentence(path);
 }
 
+Conversion convertFile(const QString &from, const QString &to, const SaveOptions &options)
+{
+    const TouchstoneResult result = readTouchstone(from);
+    Conversion conversion;
+    for (const QString &remark : result.network.remarks) {
+        TouchstoneResult sentence;
+        sentence.reason = remark;
+        conversion.remarks << sentence.sentence(from);
+    }
+    conversion.error =
+        result.ok() ? saveNetwork(to, result.network, options) : result.sentence(from);
+    return conversion;
+}
+
 } // namespace Panel

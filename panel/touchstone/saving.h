@@ -20,4 +20,15 @@ struct SaveOptions {
     set. Empty for success; otherwise one sentence that names the file. */
 QString saveNetwork(const QString &path, const Network &network, const SaveOptions &options = {});
 
+/// What came of converting a file: sentences that name it.
+struct Conversion {
+    /// Empty for success.
+    QString error;
+    /// What had to be assumed of the file.
+    QStringList remarks;
+};
+
+/// Reads a file, and saves what it holds under another name.
+Conversion convertFile(const QString &from, const QString &to, const SaveOptions &options = {});
+
 } // namespace Panel

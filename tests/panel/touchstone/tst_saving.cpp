@@ -222,6 +222,35 @@ private Q_SLOTS:
                  "the network holds no data"_s);
     }
 
+    void converts()
+    {
+        const QTemporaryDir folder;
+        const auto path = [&folder](const char *name) {
+            return folder.filePath(QString::fromLatin1(name));
+        };
+        const QString two = writeFile(path("two.s2p"), "# GHz S RI R\n1 11 0 21 0 12 0 22 0\n");
+        const Conversion first = convertFile(two, path("two.ts"));
+        QCOMPARE(first.error, QString());
+        QCOMPARE(first.remarks, QStringList{two + ": R has no number, and 50 ohms are assumed."_s});
+        QVERIFY(contents(path("two.ts")).contains("[Version] 2.0"));
+        // Back again: what is there is older than what it came from, or is not.
+        const QDateTime before = QFileInfo(two).lastModified();
+        const auto setTime = [](const QString &name, const QDateTime &time) {
+            QFile file(name);
+            return file.open(QIODevice::ReadWrite)
+                && file.setFileTime(time, QFileDevice::FileModificationTime);
+        };
+        QVERIFY(setTime(path("two.ts"), before.addSecs(-60)));
+        QCOMPARE(convertFile(path("two.ts"), two).error,
+                 two + ": the file that is there is newer than what was to be saved."_s);
+        QVERIFY(setTime(path("two.ts"), before.addSecs(60)));
+        QCOMPARE(convertFile(path("two.ts"), two).error, QString());
+        QVERIFY(!contents(two).contains("GHz"));
+        QCOMPARE(convertFile(path("none.s1p"), path("none.csv")).error,
+                 path("none.s1p") + ": there is no such file."_s);
+        QVERIFY(!QFile::exists(path("none.csv")));
+    }
+
     void keepsWhatIsThere()
     {
         const QTemporaryDir folder;
