@@ -30,8 +30,14 @@ namespace SmithChart
         return QPointF(real.at(i), imag.at(i));
     if (i + 1 >= n || !finite(real.at(i + 1), imag.at(i + 1)))
         return std::nullopt;
-    const double x = real.at(i) + (real.at(i + 1) - real.at(i)) * fraction;
-    const double y = imag.at(i) + (imag.at(i + 1) - imag.at(i)) * fraction;
+    const auto between = [fraction](double p, double q) {
+        const double difference = q - p;
+        // The weighted sum where the difference is beyond all numbers.
+        return std::isfinite(difference) ? p + difference * fraction
+                                         : p * (1.0 - fraction) + q * fraction;
+    };
+    const double x = between(real.at(i), real.at(i + 1));
+    const double y = between(imag.at(i), imag.at(i + 1));
     return finite(x, y) ? std::optional<QPointF>(QPointF(x, y)) : std::nullopt;
 }
 

@@ -302,6 +302,12 @@ private Q_SLOTS:
             QVERIFY2(!m_chart->hasSourceDataAtIndex(1, index), qPrintable(QString::number(index)));
         QVERIFY(!m_chart->hasSourceDataAtIndex(2, 0.0));
 
+        // Between the largest numbers: their difference is none, their mean is.
+        const double largest = std::numeric_limits<double>::max();
+        m_chart->setCurveData(1, {10, 20}, {-largest, largest}, {0, 0});
+        QVERIFY(m_chart->hasSourceDataAtIndex(1, 0.5));
+        QVERIFY(m_chart->hasSourceDataAtParameter(1, 12.0));
+
         // Falling in the middle and doubled at 20: found wherever one branch has data.
         m_chart->setCurveData(1, {10, 20, 20, 5}, {0, qQNaN(), 0, 0}, {0, 0, 0, 0});
         for (const double stimulus : {10.0, 20.0, 15.0, 7.5})
@@ -345,6 +351,7 @@ private Q_SLOTS:
         QCOMPARE(requests, 2);
         QCoreApplication::processEvents();
         QCOMPARE(requests, 3);
+        m_chart->setQueuedReplotHandler({}); // or the chart's end would still count
     }
 
     void replotHandlerReplacesTheReplot()
@@ -413,6 +420,35 @@ private Q_SLOTS:
         Controls::ThemeManager::instance()->setTheme(Controls::ThemeManager::Dark);
         QVERIFY2(twice > once * 5 / 4, qPrintable("%1 %2"_s.arg(once).arg(twice)));
         QVERIFY2(shifted > twice, qPrintable("%1 %2"_s.arg(twice).arg(shifted)));
+    }
+
+    /// A trace around the view leaves no ink in it, in the light theme neither, whose second stroke
+    /// is shifted.
+    void traceAroundTheViewLeavesNoInk()
+    {
+        layOut(*m_plot, {400, 400});
+        m_chart->addCurve(1, QPen(Qt::black));
+        QVector<double> real;
+        QVector<double> imag;
+        for (int i = 0; i <= 200; ++i) {
+            real.append(0.9 * std::cos(i * 0.0314159));
+            imag.append(0.9 * std::sin(i * 0.0314159));
+        }
+        m_chart->setCurveData(1, {}, real, imag);
+        m_chart->zoomAt({0.0, 0.0}, 5.0);
+        for (int i = 0; i < m_plot->itemCount(); ++i)
+            m_plot->item(i)->setVisible(false);
+        for (int i = 0; i < m_plot->plottableCount(); ++i)
+            m_plot->plottable(i)->setVisible(false);
+        for (QCPAxis *axis : m_plot->axisRect()->axes())
+            axis->setVisible(false);
+        const auto picture = [this] { return m_plot->toPixmap(400, 400).toImage(); };
+        const QImage empty = picture();
+        m_chart->getCurve(1)->setVisible(true);
+        for (const auto theme : {Controls::ThemeManager::Dark, Controls::ThemeManager::Light}) {
+            Controls::ThemeManager::instance()->setTheme(theme);
+            QCOMPARE(inkOf(picture()), inkOf(empty));
+        }
     }
 
     void withoutAPlot()
