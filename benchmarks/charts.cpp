@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "charts.h"
 
+#include <smithchart/limitarea.h>
 #include <smithchart/smithchartplot.h>
 
+#include <cmath>
 #include <numeric>
 
 namespace Bench
@@ -59,6 +61,33 @@ void zoomAndReplot(benchmark::State &state, const Trace &trace, GridKind grid)
         in = !in;
     }
     state.counters["displayed"] = chart.getCurve(1)->dataCount();
+}
+
+void testLimit(benchmark::State &state, const Trace &trace)
+{
+    constexpr int corners = 60;
+    QPolygonF star;
+    for (int i = 0; i < corners; ++i) {
+        const double angle = 2.0 * 3.141592653589793 * i / corners;
+        star << QPointF(std::cos(angle), std::sin(angle)) * (i % 2 == 0 ? 0.9 : 0.5);
+    }
+    SmithChart::LimitArea area;
+    area.setPolygon(star, SmithChart::LimitArea::StayInside);
+    int failing = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(
+            failing = static_cast<int>(area.test(trace.real, trace.imag).failing.size()));
+    state.counters["failing"] = failing;
+}
+
+void onePass(benchmark::State &state, const Trace &trace)
+{
+    for (auto _ : state) {
+        double sum = 0.0;
+        for (int i = 0; i < trace.real.size(); ++i)
+            sum += trace.real.at(i) * trace.imag.at(i);
+        benchmark::DoNotOptimize(sum);
+    }
 }
 
 void setDataAndReplot(benchmark::State &state, const Trace &trace)

@@ -19,6 +19,12 @@ enum class GridKind {
 /// Magnifies four traces like \a trace by a step and back, and draws after each.
 void zoomAndReplot(benchmark::State &state, const Trace &trace, GridKind grid = GridKind::Standard);
 
+/// Tests a trace against a polygon with many corners, most of whose border it crosses.
+void testLimit(benchmark::State &state, const Trace &trace);
+
+/// Reads a trace once.
+void onePass(benchmark::State &state, const Trace &trace);
+
 /// Gives a chart new data and draws it.
 void setDataAndReplot(benchmark::State &state, const Trace &trace);
 

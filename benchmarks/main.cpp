@@ -208,6 +208,15 @@ void addAll(RatioTable &table)
                   addMemory("all points kept", shared(spiral(million, 618034.0))),
                   {}});
 
+    add("limit test, star", [smooth](benchmark::State &state) { testLimit(state, *smooth); });
+    add("one pass, smooth spiral", [smooth](benchmark::State &state) { onePass(state, *smooth); });
+    table.addRow({"limit test, star of 60 corners, to one pass",
+                  million,
+                  Row::ShareOfTime,
+                  8.0,
+                  "limit test, star",
+                  {"one pass, smooth spiral"}});
+
     const auto longTrace = shared(spiral(million, 3.0));
     const auto shortTrace = shared(spiral(sweep, 3.0));
     add("zoom and replot, long",

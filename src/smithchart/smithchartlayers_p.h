@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <plot/qcp.h>
+
 #include <QString>
 
 /// The names of the plot's layers that a Smith chart uses; that of the markers is
@@ -33,6 +35,30 @@ inline QString activeTracers()
 inline QString boundary()
 {
     return QStringLiteral("smithBoundary");
+}
+
+/// Reference circles and limit areas, over the grid and under the traces.
+inline QString references()
+{
+    return QStringLiteral("smithReferences");
+}
+
+/// What fails a limit, over the traces.
+inline QString failures()
+{
+    return QStringLiteral("smithFailures");
+}
+
+/// The name of a layer, made above another if need be; of the plot's main layer where that other
+/// is missing.
+inline QString ensure(QCustomPlot *plot, const QString &name, const QString &below)
+{
+    if (plot->layer(name))
+        return name;
+    QCPLayer *const neighbour = plot->layer(below);
+    return neighbour && plot->addLayer(name, neighbour, QCustomPlot::limAbove)
+        ? name
+        : QStringLiteral("main");
 }
 
 } // namespace SmithLayers

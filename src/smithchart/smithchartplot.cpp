@@ -32,6 +32,8 @@ SmithChartPlot::SmithChartPlot(QCustomPlot *plot, SmithChart::Preset preset, QOb
 
 SmithChartPlot::~SmithChartPlot()
 {
+    if (d->m_dragLine)
+        d->m_dragLine->parentPlot()->removeItem(d->m_dragLine);
     clearAllCurves();
 }
 
@@ -75,6 +77,16 @@ void SmithChartPlot::setAxes(QCPAxis *xAxis, QCPAxis *yAxis)
 void SmithChartPlot::setQueuedReplotHandler(const std::function<void()> &handler)
 {
     d->m_queuedReplotHandler = handler;
+}
+
+QCPAxis *SmithChartPlot::xAxis() const
+{
+    return d->m_xAxis;
+}
+
+QCPAxis *SmithChartPlot::yAxis() const
+{
+    return d->m_yAxis;
 }
 
 QCustomPlot *SmithChartPlot::getPlot() const

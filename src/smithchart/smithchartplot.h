@@ -179,8 +179,8 @@ public:
     static int makeMarkerId(int traceId, int localId);
     static void parseMarkerId(int id, int &traceId, int &localId);
     /// Adds a marker at a fractional index into the trace's data. One outside the data is kept
-    /// hidden until setMarkerIndex() and setMarkerVisible(). False for an unknown trace or a pair
-    /// that exists.
+    /// hidden until setMarkerIndex() and setMarkerVisible(). False for an unknown trace, a pair
+    /// that exists, or a number above 99.
     bool addMarkerVisual(int traceId, int localId, double sourceIndex, Plot::MarkerType type);
     bool removeMarkerVisual(int traceId, int localId);
     void clearAllMarkers();
@@ -224,6 +224,15 @@ public:
     /// How far the view may be magnified: 1 to 1,000,000, else false. Default: 20.
     bool setMaximumZoom(double zoom);
     double maximumZoom() const;
+    /// The axes of real and imaginary part; null once they are gone.
+    QCPAxis *xAxis() const;
+    QCPAxis *yAxis() const;
+    /// Keeps a dragged marker on its branch where a trace crosses itself: it moves to the nearest
+    /// point that it can reach along the trace, and to another only if that one is farther from
+    /// the pointer than \a px logical pixels; a line shows where the pointer is. 0, the default:
+    /// to the nearest point always. False unless it is finite and at least 0.
+    bool setMarkerDragJumpPx(double px);
+    double markerDragJumpPx() const;
     /*! @} */
 
 Q_SIGNALS:
@@ -244,5 +253,7 @@ Q_SIGNALS:
     void markerSelectionRequested(int traceId, int localId);
 
 private:
+    friend class SmithLimit;
+
     const std::unique_ptr<SmithChartPlotPrivate> d;
 };

@@ -37,7 +37,9 @@ bool SmithChartPlot::addMarkerVisual(int traceId, int localId, double sourceInde
                                      Plot::MarkerType type)
 {
     auto *const trace = d->findTrace(traceId);
-    return trace && trace->curve
+    // A number beyond the ids' range would read back as another trace's; 0 is none, but has a place.
+    const bool isNumber = localId >= 0 && localId < markersPerTrace;
+    return isNumber && trace && trace->curve
         && d->createMarkerVisualAt(traceId, localId, trace->curve, sourceIndex, type);
 }
 
@@ -84,7 +86,7 @@ bool SmithChartPlot::removeMarkerVisual(int traceId, int localId)
         d->bumpMarkerRevision(*trace);
     const int id = makeMarkerId(traceId, localId);
     if (d->m_draggingMarkerId == id)
-        d->m_draggingMarkerId = -1;
+        d->forgetDrag();
     if (d->m_selectedMarkerId == id) {
         d->m_selectedMarkerId = -1;
         const QPointer<SmithChartPlot> self(this);
@@ -114,7 +116,7 @@ void SmithChartPlot::clearAllMarkers()
 {
     if (!d->plot())
         return;
-    d->m_draggingMarkerId = -1;
+    d->forgetDrag();
     d->m_selectedMarkerId = -1; // no signal: whoever clears everything knows
     d->m_ownedMarkers.clear();
     for (auto &trace : d->m_curves)

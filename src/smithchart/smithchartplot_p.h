@@ -97,6 +97,10 @@ public:
     const OwnedMarker *markerToCatchAt(const QPointF &pos) const;
     bool dragIsConfined() const;
     void finishDrag();
+    int draggedIndex(const OwnedMarker &record, const QPoint &pos) const;
+    void showDragLine(const OwnedMarker &record, const QPoint &pos);
+    void hideDragLine();
+    void forgetDrag();
     void onPlotMousePress(QMouseEvent *event);
     void onPlotMouseMove(QMouseEvent *event);
     int nearestCurveDataIndex(QCPCurve *curve, const QPoint &pos, double *squaredDistance) const;
@@ -139,6 +143,8 @@ public:
     bool m_finishingDrag = false;
     int m_selectedMarkerId = -1;
     double m_markerHitTolerancePx = 18.0;
+    double m_markerDragJumpPx = 0.0;
+    QPointer<QCPItemLine> m_dragLine; ///< owned by the plot; made when first shown
     bool m_onlyHandleActiveTrace = true;
     bool m_resizeRefitPending = false;
 };

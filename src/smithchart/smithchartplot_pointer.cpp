@@ -1,13 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "reachablepoint_p.h"
 #include "smithchartplot_p.h"
 
+#include <plot/markerslayer_p.h>
 #include <utils/qtcompat_p.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTimer>
 
+#include <cmath>
 #include <limits>
 
 namespace
@@ -123,16 +126,104 @@ void SmithChartPlotPrivate::onPlotMouseMove(QMouseEvent *event)
     const OwnedMarker *const record = findMarker(traceId, localId);
     if (!record || !record->curve || !record->curve->visible())
         return;
-    const int index =
-        nearestCurveDataIndex(record->curve, QtCompat::position(event).toPoint(), nullptr);
-    if (index >= 0)
-        Q_EMIT q->markerPositionChanged(traceId, localId, index);
+    const QPoint pos = QtCompat::position(event).toPoint();
+    const int index = draggedIndex(*record, pos);
+    if (index < 0)
+        return;
+    const QPointer<SmithChartPlot> self(q);
+    Q_EMIT q->markerPositionChanged(traceId, localId, index);
+    if (!self || m_markerDragJumpPx <= 0.0)
+        return;
+    if (const OwnedMarker *const moved = findMarker(traceId, localId)) // where the host put it
+        showDragLine(*moved, pos);
+}
+
+/// Where a dragged marker is to go: to the nearest point, or as the host chose, to one that it
+/// reaches along its trace.
+int SmithChartPlotPrivate::draggedIndex(const OwnedMarker &record, const QPoint &pos) const
+{
+    const OwnedCurve *const trace = findOwnedCurve(record.curve);
+    if (m_markerDragJumpPx > 0.0 && trace && record.sourceIndex >= 0.0) {
+        const auto *const rect =
+            record.curve->keyAxis() ? record.curve->keyAxis()->axisRect() : nullptr;
+        double squaredDistance = 0.0;
+        const int reached = !rect
+            ? -1
+            : SmithRender::reachableIndex(
+                trace->real, trace->imag,
+                viewportOf(record.curve->keyAxis(), record.curve->valueAxis()),
+                pos - rect->topLeft(), qRound(record.sourceIndex), &squaredDistance);
+        if (reached >= 0 && squaredDistance <= m_markerDragJumpPx * m_markerDragJumpPx)
+            return reached;
+    }
+    return nearestCurveDataIndex(record.curve, pos, nullptr);
+}
+
+/// Ties a marker to the pointer while both are apart.
+void SmithChartPlotPrivate::showDragLine(const OwnedMarker &record, const QPoint &pos)
+{
+    const QCPItemTracer *const tracer = record.marker->getTracer();
+    QCustomPlot *const plot = this->plot();
+    if (!tracer || !plot)
+        return;
+    constexpr double apartPx = 6.0;
+    const QPointF marker = tracer->position->pixelPosition();
+    const QPointF way = QPointF(pos) - marker;
+    if (std::hypot(way.x(), way.y()) < apartPx) {
+        hideDragLine();
+        return;
+    }
+    if (!m_dragLine) {
+        m_dragLine = new QCPItemLine(plot);
+        m_dragLine->setLayer(Plot::markersLayerName());
+        m_dragLine->setSelectable(false);
+        for (QCPItemPosition *end : {m_dragLine->start, m_dragLine->end})
+            end->setType(QCPItemPosition::ptAbsolute);
+    }
+    m_dragLine->setPen(QPen(tracer->pen().color(), 1.0));
+    m_dragLine->setVisible(true);
+    m_dragLine->start->setCoords(marker);
+    m_dragLine->end->setCoords(pos);
+    requestQueuedReplot();
+}
+
+void SmithChartPlotPrivate::hideDragLine()
+{
+    if (!m_dragLine || !m_dragLine->visible())
+        return;
+    m_dragLine->setVisible(false);
+    requestQueuedReplot();
+}
+
+/// Ends a drag without a word, for a marker that is gone.
+void SmithChartPlotPrivate::forgetDrag()
+{
+    m_draggingMarkerId = -1;
+    if (m_dragLine)
+        m_dragLine->setVisible(false);
+}
+
+double SmithChartPlot::markerDragJumpPx() const
+{
+    return d->m_markerDragJumpPx;
+}
+
+bool SmithChartPlot::setMarkerDragJumpPx(double px)
+{
+    if (!std::isfinite(px) || px < 0.0)
+        return false;
+    d->m_markerDragJumpPx = px;
+    return true;
 }
 
 /// Ends a drag where the host last put the marker.
 void SmithChartPlotPrivate::finishDrag()
 {
     if (m_finishingDrag) // a slot hides the plot, or ends the drag once more
+        return;
+    const QPointer<SmithChartPlot> chart(q);
+    hideDragLine();
+    if (!chart)
         return;
     if (q->isDraggingMarker() && !dragIsConfined()) {
         int traceId = 0;

@@ -21,6 +21,8 @@
 #include <VnaWidgets/RectangularBottomWidget>
 #include <VnaWidgets/ScaledUnitAdapter>
 #include <VnaWidgets/SmithChartPlot>
+#include <VnaWidgets/SmithCircle>
+#include <VnaWidgets/SmithLimit>
 #include <VnaWidgets/Step125Controller>
 #include <VnaWidgets/SwitchButton>
 #include <VnaWidgets/ThemeManager>

@@ -201,6 +201,7 @@ private Q_SLOTS:
         QCOMPARE(requests, 2);
         m_chart->resetView();
         QCOMPARE(requests, 3);
+        m_chart->setQueuedReplotHandler({});
     }
 
     void magnificationBeyondTheDefault()

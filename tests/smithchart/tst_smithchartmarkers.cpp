@@ -77,10 +77,82 @@ private Q_SLOTS:
         const int huge = std::numeric_limits<int>::max();
         QVERIFY(m_chart->addCurve(huge, QPen()));
         m_chart->setCurveData(huge, {}, {0.0}, {0.0});
-        QVERIFY(m_chart->addMarkerVisual(huge, huge, 0.0, Plot::PointingDown));
+        QVERIFY(m_chart->addMarkerVisual(huge, 99, 0.0, Plot::PointingDown));
         m_chart->beginMarkerDragAt(dataPixel(0.0, 0.0).toPoint());
-        QVERIFY(m_chart->selectMarker(huge, huge));
-        QVERIFY(m_chart->removeMarkerVisual(huge, huge));
+        QVERIFY(m_chart->selectMarker(huge, 99));
+        QVERIFY(m_chart->removeMarkerVisual(huge, 99));
+    }
+
+    /// Number 100 of trace 1 would read back as number 0 of trace 2.
+    void numberThatIsAnotherTraces()
+    {
+        for (const int number : {100, 250, -1, std::numeric_limits<int>::max()})
+            QVERIFY(!m_chart->addMarkerVisual(1, number, 5.0, Plot::PointingDown));
+        QVERIFY(m_chart->addMarkerVisual(1, 99, 5.0, Plot::PointingDown));
+        QVERIFY(m_chart->addMarkerVisual(1, 0, 5.0, Plot::PointingDown));
+    }
+
+    /// Where a trace crosses itself, a drag stays on its branch if the host wants that.
+    void dragStaysOnItsBranch()
+    {
+        // A bow: through the middle twice, at points 100 and 300.
+        QVector<double> real;
+        QVector<double> imag;
+        for (int i = 0; i <= 400; ++i) {
+            const double t = i * 2.0 * 3.141592653589793 / 400.0;
+            real.append(0.8 * std::cos(t));
+            imag.append(0.8 * std::sin(2.0 * t));
+        }
+        m_chart->setCurveData(1, {}, real, imag);
+        m_chart->addMarkerVisual(1, 1, 90.0, Plot::PointingDown);
+        int index = 90;
+        connect(m_chart.get(), &SmithChartPlot::markerPositionChanged, m_chart.get(),
+                [&](int trace, int marker, double at) {
+                    m_chart->setMarkerIndex(trace, marker, at);
+                    index = qRound(at);
+                });
+        const auto pixelAt = [&](int i) { return dataPixel(real.at(i), imag.at(i)).toPoint(); };
+        const auto items = m_plot->itemCount();
+        for (const double bad : {-1.0, double(qQNaN()), double(qInf())})
+            QVERIFY(!m_chart->setMarkerDragJumpPx(bad));
+        QCOMPARE(m_chart->markerDragJumpPx(), 0.0);
+
+        // Along the other branch from the crossing on: it would jump there.
+        const auto drag = [&](const QVector<int> &along) {
+            m_chart->setMarkerIndex(1, 1, 90.0);
+            QVERIFY(m_chart->beginMarkerDragAt(pixelAt(90)));
+            for (const int i : along)
+                m_chart->updateMarkerDragAt(pixelAt(i));
+        };
+        const QVector<int> way{95, 100, 300, 296, 292};
+        drag(way);
+        QVERIFY2(index > 280, qPrintable(QString::number(index)));
+        m_chart->endMarkerDragAt(pixelAt(292));
+        QCOMPARE(m_plot->itemCount(), items);
+
+        QVERIFY(m_chart->setMarkerDragJumpPx(60.0));
+        drag(way);
+        QVERIFY2(index > 85 && index < 115, qPrintable(QString::number(index)));
+        // Apart from the pointer, a line leads to it, which goes with the drag.
+        const auto line = [this]() -> QCPItemLine * {
+            for (int i = 0; i < m_plot->itemCount(); ++i) {
+                if (auto *found = qobject_cast<QCPItemLine *>(m_plot->item(i)))
+                    return found;
+            }
+            return nullptr;
+        };
+        QVERIFY(line() && line()->visible());
+        QCOMPARE(line()->end->coords(), QPointF(pixelAt(292)));
+        m_chart->endMarkerDragAt(pixelAt(292));
+        QVERIFY(!line()->visible());
+
+        // Farther than the host's distance, it jumps.
+        drag({95, 100, 300, 240});
+        QVERIFY2(std::abs(index - 240) < 3, qPrintable(QString::number(index)));
+        m_chart->updateMarkerDragAt(pixelAt(240) + QPoint(30, 30));
+        QVERIFY(line()->visible());
+        m_chart->removeMarkerVisual(1, 1);
+        QVERIFY(!line()->visible());
     }
 
     void catchesAMarkerUnderAnItemOfTheHost()
