@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/stylehelper.h>
 
-#include <utils/smallfile_p.h>
+#include <base/smallfile_p.h>
 
 #include <QApplication>
 #include <QDir>

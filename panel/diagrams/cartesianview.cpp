@@ -6,7 +6,7 @@
 #include <panel/model/format.h>
 
 #include <plot/qcp.h>
-#include <utils/qtcompat_p.h>
+#include <base/qtcompat_p.h>
 
 #include <algorithm>
 #include <cmath>

@@ -5,7 +5,7 @@
 #include "diagramview.h"
 
 #include <plot/qcp.h>
-#include <utils/qtcompat_p.h>
+#include <base/qtcompat_p.h>
 
 #include <QApplication>
 #include <QGestureEvent>

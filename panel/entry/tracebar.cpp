@@ -6,7 +6,7 @@
 #include <panel/model/panelmodel.h>
 
 #include <controls/thememanager.h>
-#include <utils/qtcompat_p.h>
+#include <base/qtcompat_p.h>
 
 #include <QAbstractButton>
 #include <QHBoxLayout>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/draggableframelessdialog.h>
 
+#include <base/qtcompat_p.h>
+#include <base/secondfinger_p.h>
 #include <platform/placement.h>
-#include <utils/qtcompat_p.h>
-#include <utils/secondfinger_p.h>
 
 #include <QAbstractSlider>
 #include <QHBoxLayout>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/overlaycontainer.h>
 
+#include <base/qtcompat_p.h>
 #include <platform/placement.h>
-#include <utils/qtcompat_p.h>
 
 #include <QApplication>
 #include <QDialog>

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "themesettings_p.h"
 
-#include <utils/qtcompat_p.h>
-#include <utils/smallfile_p.h>
+#include <base/smallfile_p.h>
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QSettings>
-#include <QTemporaryFile>
+#include <QHash>
+#include <QVariant>
 
 namespace Controls
 {
@@ -16,11 +15,58 @@ namespace Controls
 namespace
 {
 
-/// QSettings takes a text with commas outside quotes for a list: this is the text as it was
-/// written.
-QString settingsText(const QSettings &settings, const QString &key)
+using Texts = QHash<QString, QString>;
+
+/// Takes the next line off \a text: it ends at a line break or a semicolon outside quotes, and the
+/// semicolon begins a line of its own, a comment.
+QByteArray takeLine(const QByteArray &text, int &at)
 {
-    return settings.value(key).toStringList().join(QLatin1Char(','));
+    const int begin = at;
+    bool isQuoted = false;
+    for (; at < text.size(); ++at) {
+        const char c = text.at(at);
+        if (c == '"')
+            isQuoted = !isQuoted;
+        else if (c == '\\')
+            ++at; // what follows means nothing here
+        else if (!isQuoted && (c == '\n' || c == '\r' || (c == ';' && at > begin)))
+            break;
+    }
+    const int end = qMin(at, int(text.size()));
+    if (end < text.size() && text.at(end) != ';')
+        ++at;
+    return text.mid(begin, end - begin).trimmed();
+}
+
+/// A name in the group of another is written with a stroke of either kind.
+QString keyName(const QByteArray &text)
+{
+    return QString::fromUtf8(text.trimmed()).replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
+
+/*! The texts of an INI file by "group/key", without quotes. Colours are all that is asked for, so
+    texts are taken as they stand: stored objects and escapes, which QSettings would decode and
+    believe, name no colour. Read from bytes at hand, because the file may be exchanged for another
+    one meanwhile. */
+Texts readIni(const QByteArray &text)
+{
+    Texts texts;
+    QString group;
+    int at = text.startsWith("\xef\xbb\xbf") ? 3 : 0;
+    while (at < text.size()) {
+        const QByteArray line = takeLine(text, at);
+        const auto equals = line.indexOf('=');
+        if (line.startsWith('[') && line.contains(']')) {
+            group = keyName(line.mid(1, line.indexOf(']') - 1)) + QLatin1Char('/');
+            if (group == QLatin1String("General/"))
+                group.clear();
+        } else if (equals > 0 && !line.startsWith(';')) {
+            QString value = QString::fromUtf8(line.mid(equals + 1));
+            texts.insert(group + keyName(line.left(equals)),
+                         value.remove(QLatin1Char('"')).trimmed());
+        }
+    }
+    return texts;
 }
 
 /// The colour of that name, invalid (and without a warning) when there is none.
@@ -41,28 +87,16 @@ QVector<QColor> colorsFromList(const QString &text)
     return colors;
 }
 
-void readGroup(const QSettings &settings, const QString &group, ThemeSettings &theme)
+void readGroup(const Texts &texts, const QString &group, ThemeSettings &theme)
 {
     for (const char *name : {"gridColor", "borderColor", "backgroundColor"}) {
-        const QString key = group + QLatin1String(name);
-        if (settings.contains(key))
-            theme.colors.insert(QLatin1String(name), colorFromName(settingsText(settings, key)));
+        const auto text = texts.constFind(group + QLatin1String(name));
+        if (text != texts.constEnd())
+            theme.colors.insert(QLatin1String(name), colorFromName(*text));
     }
-    theme.tracePalette =
-        colorsFromList(settingsText(settings, group + QLatin1String("tracePalette")));
+    theme.tracePalette = colorsFromList(texts.value(group + QLatin1String("tracePalette")));
     theme.memoryTracePalette =
-        colorsFromList(settingsText(settings, group + QLatin1String("memoryTracePalette")));
-}
-
-/*! The text without what QSettings takes for a stored object, "@Variant(...)" for one: it would
-    decode every value of the group, whoever wrote it, believe the lengths that stand in there and
-    ask for so much memory. No colour has an "@", be it written as a numeric escape. */
-QByteArray withoutObjects(QByteArray text)
-{
-    text.replace('@', '?');
-    for (const char digit : {'x', '0', '1', '2', '3', '4', '5', '6', '7'})
-        text.replace(QByteArray("\\") + digit, QByteArray("?") + digit);
-    return text;
+        colorsFromList(texts.value(group + QLatin1String("memoryTracePalette")));
 }
 
 } // namespace
@@ -84,19 +118,9 @@ void readThemeSettings(const QString &path, ThemeSettings &dark, ThemeSettings &
     if (!Utils::readSmallFile(path, largestSettingsFile, text))
         return;
 
-    // Read from a copy: the file may be exchanged for another one meanwhile. Where no copy can be
-    // made, only what is harmless as it stands is read.
-    QString readable = path;
-    QTemporaryFile copy;
-    const QByteArray harmless = withoutObjects(text);
-    if (copy.open() && copy.write(harmless) == harmless.size() && copy.flush())
-        readable = copy.fileName();
-    else if (harmless != text)
-        return;
-    QSettings settings(readable, QSettings::IniFormat);
-    QtCompat::setUtf8(settings);
-    readGroup(settings, QStringLiteral("ThemeColors/Dark/"), dark);
-    readGroup(settings, QStringLiteral("ThemeColors/Light/"), light);
+    const Texts texts = readIni(text);
+    readGroup(texts, QStringLiteral("ThemeColors/Dark/"), dark);
+    readGroup(texts, QStringLiteral("ThemeColors/Light/"), light);
 }
 
 } // namespace Controls

@@ -4,10 +4,10 @@
 
 #include "touchnumkeyboard_p.h"
 
+#include <base/qtcompat_p.h>
 #include <controls/keypadedit_p.h>
 #include <controls/thememanager.h>
 #include <platform/placement.h>
-#include <utils/qtcompat_p.h>
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "touchnumkeyboard_p.h"
 
+#include <base/qtcompat_p.h>
 #include <controls/thememanager.h>
-#include <utils/qtcompat_p.h>
 
 #include <QApplication>
 #include <QFile>

@@ -3,8 +3,8 @@
 #include "reachablepoint_p.h"
 #include "smithchartplot_p.h"
 
+#include <base/qtcompat_p.h>
 #include <plot/markerslayer_p.h>
-#include <utils/qtcompat_p.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/abstractbutton.h>
 
-#include <utils/fingersize_p.h>
+#include <base/fingersize_p.h>
 #include <widgets/buttonaccessible_p.h>
 
 #include <QKeyEvent>

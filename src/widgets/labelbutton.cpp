@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/labelbutton.h>
 
-#include <utils/fingersize_p.h>
-#include <utils/qtcompat_p.h>
+#include <base/fingersize_p.h>
+#include <base/qtcompat_p.h>
 
 #include <QAccessible>
 #include <QDebug>

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/lockwidget.h>
 
+#include <base/qtcompat_p.h>
+#include <base/secondfinger_p.h>
 #include <controls/thememanager.h>
 #include <platform/widgetmousemovetool.h>
-#include <utils/qtcompat_p.h>
-#include <utils/secondfinger_p.h>
 
 #include "ui_lockwidget.h"
 

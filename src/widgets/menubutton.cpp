@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/menubutton.h>
 
+#include <base/fingersize_p.h>
 #include <controls/popupplacement_p.h>
-#include <utils/fingersize_p.h>
 #include <widgets/buttonaccessible_p.h>
 #include <widgets/popupwidget.h>
 

@@ -244,6 +244,15 @@ private Q_SLOTS:
              "Light/backgroundColor=#666",
              QString(dark).replace(0, 23, "#111111|#222222|#ff0000"_s),
              QString(light).replace(0, 23, "#444444|#555555|#666666"_s));
+        row("group of a group, and no group",
+            QByteArray(
+                "ThemeColors/Light/gridColor=#444444\n[ThemeColors\\Light]\n"
+                "borderColor=#555555\n[ General ]\nThemeColors\\Light\\backgroundColor=#666"),
+            dark, QString(light).replace(0, 23, "#444444|#555555|#666666"_s));
+        file("comments and marks that do not close",
+             "; Dark\\gridColor=red\nDark\\gridColor=#292e33;Dark\\gridColor=red\n=red\n[\n"
+             "Light\\tracePalette=\"red,\n lime\"\nLight\\borderColor=\"red\n",
+             dark, QString(red).replace(8, 7, "#ff0000"_s));
         file("colour that is none",
              "Dark\\gridColor=greyish\nDark\\textColor=red\nLight\\gridColor=", invalid(dark),
              invalid(light));

@@ -22,6 +22,9 @@ namespace
 
 const char s_network[] = "# MHz S RI R 50\n1 0.5 0.5\n2 0.25 0.5\n";
 const char s_settings[] = "[ThemeColors]\nDark\\tracePalette=\"#ff0000,#00ff00\"\n";
+constexpr QFile::Permissions everybodyMayAll = QFile::ReadOwner | QFile::WriteOwner
+    | QFile::ExeOwner | QFile::ReadUser | QFile::WriteUser | QFile::ExeUser | QFile::ReadGroup
+    | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
 const char s_sheet[] = "QLabel { color: #ff0000; }";
 
 QVector<QColor> readPalette(const QString &path)
@@ -79,7 +82,7 @@ private Q_SLOTS:
         };
         for (const auto &[reason, make] : rows) {
             const QTemporaryDir folder;
-            QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)));
+            QVERIFY(QFile::setPermissions(folder.path(), everybodyMayAll));
             const QString network = writeFile(folder.filePath("a.s1p"_s), s_network);
             const QString settings = writeFile(folder.filePath("a.ini"_s), s_settings);
             const QString sheet = writeFile(folder.filePath("a.css"_s), s_sheet);
@@ -92,26 +95,6 @@ private Q_SLOTS:
             QCOMPARE(readSheet(sheet), reason.isEmpty() ? QLatin1String(s_sheet) : ""_s);
         }
         Utils::StyleHelper::setThemes({});
-    }
-
-    /// Settings are read from a copy; where none can be written, only those without objects.
-    void noRoomForACopy()
-    {
-        const QTemporaryDir folder;
-        const QString plain = writeFile(folder.filePath("plain.ini"_s), s_settings);
-        const QString withObject =
-            writeFile(folder.filePath("object.ini"_s),
-                      QByteArray(s_settings) + "Dark\\gridColor=@Size(1 2)\n");
-        QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x5555)));
-        const QByteArray before = qgetenv("TMPDIR");
-        for (const bool room : {true, false}) {
-            qputenv("TMPDIR", room ? before : QFile::encodeName(folder.path()));
-            const Unprivileged user;
-            QCOMPARE(readPalette(plain).size(), 2);
-            QCOMPARE(readPalette(withObject).size(), room ? 2 : 0);
-        }
-        qputenv("TMPDIR", before);
-        QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)); // so that it can go
     }
 
     /// Another process exchanges the file, at once or byte by byte: what was read is one of the

@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
-    What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else.
- */
+    What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else. */
 #pragma once
 
 #include <QEvent>
 #include <QMouseEvent>
-#include <QSettings>
 #include <QTouchEvent>
 #include <QWheelEvent>
 
@@ -83,16 +81,6 @@ inline QPointF firstTouchGlobalPosition(const QTouchEvent *event)
     return event->points().first().globalPosition();
 #else
     return event->touchPoints().first().screenPos();
-#endif
-}
-
-/// Makes an INI file UTF-8, which Qt 6 takes for granted.
-inline void setUtf8(QSettings &settings)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    Q_UNUSED(settings)
-#else
-    settings.setIniCodec("UTF-8");
 #endif
 }
 
