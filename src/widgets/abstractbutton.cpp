@@ -14,7 +14,7 @@
 AbstractButton::AbstractButton(QWidget *parent)
     : QAbstractButton(parent)
 {
-    ButtonAccessible::install();
+    ButtonAccessible::install<AbstractButton, ButtonAccessible>();
 }
 
 void AbstractButton::setClickable(bool clickable)

@@ -2,68 +2,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/buttonaccessible_p.h>
 
-#include <widgets/enumtextbutton.h>
-#include <widgets/menubutton.h>
 #include <widgets/popupwidget.h>
-#include <widgets/switchbutton.h>
-
-namespace
-{
-
-QAccessibleInterface *createInterface(const QString &, QObject *object)
-{
-    if (qobject_cast<AbstractButton *>(object) || qobject_cast<MenuButton *>(object))
-        return new ButtonAccessible(static_cast<QAbstractButton *>(object));
-    return nullptr;
-}
-
-} // namespace
 
 ButtonAccessible::ButtonAccessible(QAbstractButton *button)
     : QAccessibleWidget(button)
 {
 }
 
-void ButtonAccessible::install()
-{
-    QAccessible::installFactory(createInterface);
-}
-
 QAccessible::Role ButtonAccessible::role() const
 {
-    if (qobject_cast<EnumTextButton *>(object()))
-        return QAccessible::ComboBox;
-    if (qobject_cast<MenuButton *>(object()))
-        return QAccessible::ButtonMenu;
-    if (qobject_cast<SwitchButton *>(object()) || button()->isCheckable())
-        return QAccessible::CheckBox;
-    return QAccessible::Button;
+    return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
 }
 
 QString ButtonAccessible::text(QAccessible::Text kind) const
 {
-    const auto *const info = qobject_cast<InfoButton *>(object());
-    if (kind == QAccessible::Name && info && info->accessibleName().isEmpty())
-        return info->text();
-    if (kind == QAccessible::Name && !info && button()->accessibleName().isEmpty())
-        return button()->text().remove(QLatin1Char('&'));
-    if (kind == QAccessible::Value) {
-        if (const auto *const label = qobject_cast<LabelButton *>(object()))
-            return label->labelText();
-        if (const auto *const toggle = qobject_cast<SwitchButton *>(object()))
-            return toggle->status() ? SwitchButton::tr("On") : SwitchButton::tr("Off");
-    }
+    if (kind == QAccessible::Name && button()->accessibleName().isEmpty())
+        return name();
+    if (kind == QAccessible::Value)
+        return value();
     return QAccessibleWidget::text(kind);
 }
 
 QAccessible::State ButtonAccessible::state() const
 {
     QAccessible::State state = QAccessibleWidget::state();
-    const auto *const toggle = qobject_cast<SwitchButton *>(object());
     state.pressed = button()->isDown();
-    state.checkable = toggle || button()->isCheckable();
-    state.checked = toggle ? toggle->status() : button()->isChecked();
-    if (const auto *const popup = object()->findChild<PopupWidget *>()) {
+    state.checkable = button()->isCheckable();
+    state.checked = button()->isChecked();
+    if (const auto *const popup = button()->findChild<PopupWidget *>()) {
         state.hasPopup = true;
         state.expandable = true;
         state.expanded = popup->isVisible();
@@ -80,21 +46,25 @@ QStringList ButtonAccessible::actionNames() const
 
 void ButtonAccessible::doAction(const QString &name)
 {
-    if (name != mainAction()) {
+    if (name == mainAction())
+        activate();
+    else
         QAccessibleWidget::doAction(name);
-    } else if (auto *const toggle = qobject_cast<SwitchButton *>(object())) {
-        toggle
-            ->findChild<QAbstractButton *>(toggle->status() ? QStringLiteral("btnOff")
-                                                            : QStringLiteral("btnOn"))
-            ->click();
-    } else {
-        button()->click();
-    }
 }
 
-QAbstractButton *ButtonAccessible::button() const
+QString ButtonAccessible::name() const
 {
-    return static_cast<QAbstractButton *>(object());
+    return button()->text().remove(QLatin1Char('&'));
+}
+
+QString ButtonAccessible::value() const
+{
+    return QAccessibleWidget::text(QAccessible::Value);
+}
+
+void ButtonAccessible::activate()
+{
+    button()->click();
 }
 
 QString ButtonAccessible::mainAction() const

@@ -2,18 +2,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QAbstractButton>
 #include <QAccessibleWidget>
 
-class QAbstractButton;
-
-/// Tells assistive tools the role, name, value, state and action of this library's buttons.
+/// Tells assistive tools the role, name, value, state and action of a button. Buttons that have more
+/// to tell derive from it and install that class in place.
 class ButtonAccessible : public QAccessibleWidget
 {
 public:
     explicit ButtonAccessible(QAbstractButton *button);
 
-    /// Makes Qt ask this class about the buttons; repeated calls do nothing.
-    static void install();
+    /// Makes Qt ask \a Interface about objects of the class \a Button and of those derived from it
+    /// that install nothing themselves; repeated calls do nothing.
+    template<typename Button, typename Interface>
+    static void install()
+    {
+        QAccessible::installFactory(
+            [](const QString &className, QObject *object) -> QAccessibleInterface * {
+                return className == QLatin1String(Button::staticMetaObject.className())
+                    ? new Interface(static_cast<Button *>(object))
+                    : nullptr;
+            });
+    }
 
     QAccessible::Role role() const override;
     QString text(QAccessible::Text kind) const override;
@@ -21,7 +31,27 @@ public:
     QStringList actionNames() const override;
     void doAction(const QString &name) override;
 
+protected:
+    QAbstractButton *button() const { return static_cast<QAbstractButton *>(object()); }
+    /// The name while the host has set none.
+    virtual QString name() const;
+    /// What the button shows beside its name.
+    virtual QString value() const;
+    /// What the main action does.
+    virtual void activate();
+
 private:
-    QAbstractButton *button() const;
     QString mainAction() const;
+};
+
+/// For a button whose name is not the text of QAbstractButton.
+template<typename Button>
+class NamedButtonAccessible : public ButtonAccessible
+{
+public:
+    using ButtonAccessible::ButtonAccessible;
+
+protected:
+    Button *button() const { return static_cast<Button *>(object()); }
+    QString name() const override { return button()->text(); }
 };

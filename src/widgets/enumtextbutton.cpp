@@ -2,49 +2,46 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/enumtextbutton.h>
 
-#include <controls/popupplacement_p.h>
+#include <platform/placement.h>
+#include <widgets/buttonaccessible_p.h>
+#include <widgets/listbutton_p.h>
 #include <widgets/popupwidget.h>
-
-#include <QTimer>
 
 namespace
 {
 
-constexpr int ReopenGuardMs = 200;
+class EnumTextButtonAccessible : public NamedButtonAccessible<EnumTextButton>
+{
+public:
+    using NamedButtonAccessible::NamedButtonAccessible;
+
+    QAccessible::Role role() const override { return QAccessible::ComboBox; }
+
+protected:
+    QString value() const override { return button()->labelText(); }
+};
 
 } // namespace
 
 EnumTextButton::EnumTextButton(QWidget *parent)
     : LabelButton(parent)
-    , m_popup(new PopupWidget(this))
-    , m_reopenGuard(new QTimer(this))
+    , m_list(std::make_unique<ListButton>(this))
 {
-    m_reopenGuard->setSingleShot(true);
-    m_reopenGuard->setInterval(ReopenGuardMs);
-    m_popup->installEventFilter(this);
-
+    ButtonAccessible::install<EnumTextButton, EnumTextButtonAccessible>();
     connect(this, &EnumTextButton::clicked, this, &EnumTextButton::onClicked);
-    connect(m_popup, &PopupWidget::widgetClosed, this, [this] { setChecked(false); });
-    connect(m_popup, &PopupWidget::currentItemChanged, this,
+    connect(m_list->popup(), &PopupWidget::currentItemChanged, this,
             &EnumTextButton::onPopupWidgetItemChanged);
     connect(this, &EnumTextButton::currentItemToggled, this, &EnumTextButton::onCurrentItemToggled);
 }
+
+EnumTextButton::~EnumTextButton() = default;
 
 void EnumTextButton::setEnums(const QList<EnumSpec> &enums)
 {
     if (m_enums == enums)
         return;
     m_enums = enums;
-    m_values.clear();
-    m_texts.clear();
-    for (const EnumSpec &spec : enums) {
-        m_values << spec.value;
-        m_texts << spec.text;
-    }
-    if (m_popup->isVisible())
-        m_popup->close(); // what it offers is no longer true
-    m_popup->clear();
-    m_popup->addItems(m_texts, 0);
+    m_list->setEntries(enums);
 }
 
 bool EnumTextButton::setCurrentEnum(const EnumSpec &spec)
@@ -60,11 +57,11 @@ bool EnumTextButton::setCurrentEnum(const EnumSpec &spec)
 
 bool EnumTextButton::setCurrentEnum(int value)
 {
-    const int index = int(m_values.indexOf(value));
+    const int index = m_list->indexOf(value);
     if (index < 0)
         return false;
     m_currentValue = value;
-    m_currentText = m_texts.at(index);
+    m_currentText = m_list->textAt(index);
     setLabelText(m_currentText);
     Q_EMIT currentItemToggled(value);
     return true;
@@ -72,80 +69,74 @@ bool EnumTextButton::setCurrentEnum(int value)
 
 void EnumTextButton::setIconSize(int width, int height)
 {
-    m_popup->setIconSize(width, height);
+    m_list->popup()->setIconSize(width, height);
 }
 
 QSize EnumTextButton::iconSize() const
 {
-    return m_popup->iconSize();
+    return m_list->popup()->iconSize();
 }
 
 void EnumTextButton::setItemCountPerRow(int count)
 {
-    m_popup->setItemCountPerRow(count);
+    m_list->popup()->setItemCountPerRow(count);
 }
 
 int EnumTextButton::itemCountPerRow() const
 {
-    return m_popup->itemCountPerRow();
+    return m_list->popup()->itemCountPerRow();
 }
 
 void EnumTextButton::setItemEnabled(const QString &text, bool enabled)
 {
-    m_popup->setItemEnabled(text, enabled);
+    m_list->popup()->setItemEnabled(text, enabled);
 }
 
 void EnumTextButton::setItemEnabled(int index, bool enabled)
 {
-    m_popup->setItemEnabled(index, enabled);
+    m_list->popup()->setItemEnabled(index, enabled);
 }
 
 void EnumTextButton::setTitleText(const QString &text)
 {
-    m_popup->setTitleText(text);
+    m_list->popup()->setTitleText(text);
 }
 
 QString EnumTextButton::titleText() const
 {
-    return m_popup->titleText();
+    return m_list->popup()->titleText();
 }
 
 void EnumTextButton::setTitleVisible(bool visible)
 {
-    m_popup->setTitleVisible(visible);
+    m_list->popup()->setTitleVisible(visible);
 }
 
 bool EnumTextButton::titleVisible() const
 {
-    return m_popup->titleVisible();
+    return m_list->popup()->titleVisible();
 }
 
 void EnumTextButton::setViewMode(QListView::ViewMode mode)
 {
-    m_popup->setViewMode(mode);
+    m_list->popup()->setViewMode(mode);
 }
 
 void EnumTextButton::onClicked(bool)
 {
     // The list closed at the press; a slow finger may lift long after the guard ran out.
-    if (m_reopenGuard->isActive() || m_closedByPress || m_enums.isEmpty()) {
+    if (m_list->reopenGuard()->isActive() || m_closedByPress || m_list->isEmpty())
         setChecked(false);
-        return;
-    }
-    m_popup->setWidgetFixedWidth(popupWidth());
-    m_popup->setItemTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_popup->setCurrentItem(m_currentText);
-    m_popup->setWindowTitle(text()); // what assistive tools call it
-    m_popup->popup();
-    m_popup->show();
+    else
+        m_list->open(text(), m_currentText, Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void EnumTextButton::onPopupWidgetItemChanged(const QString &text)
 {
-    const int index = int(m_texts.indexOf(text));
+    const int index = m_list->indexOf(text);
     if (index < 0)
         return;
-    const int value = m_values.at(index);
+    const int value = m_list->valueAt(index);
     const QPointer<EnumTextButton> alive(this);
     setCurrentEnum(value);
     if (alive)
@@ -154,26 +145,24 @@ void EnumTextButton::onPopupWidgetItemChanged(const QString &text)
 
 void EnumTextButton::onCurrentItemToggled(int)
 {
-    m_popup->setCurrentItem(m_currentText);
+    m_list->popup()->setCurrentItem(m_currentText);
 }
 
 void EnumTextButton::updatePopupPosition()
 {
-    if (m_popup->viewMode() == QListView::IconMode) {
-        Utils::centerWidgetInHost(m_popup, window());
+    if (m_list->popup()->viewMode() == QListView::IconMode) {
+        Utils::centerWidgetInHost(m_list->popup(), window());
         return;
     }
-    m_popup->setWidgetFixedWidth(popupWidth());
-    const QRect button(mapToGlobal(QPoint()), size());
-    m_popup->move(Controls::popupTopLeft(button, m_popup->size(),
-                                         Controls::availableGeometryAt(button.center()), 0));
+    m_list->fitWidth();
+    m_list->moveToButton(rect().center());
 }
 
 bool EnumTextButton::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_popup) {
+    if (watched == m_list->popup()) {
         if (event->type() == QEvent::Close)
-            m_reopenGuard->start();
+            m_list->reopenGuard()->start();
         else if (event->type() == QEvent::Show)
             updatePopupPosition();
     }
@@ -182,7 +171,7 @@ bool EnumTextButton::eventFilter(QObject *watched, QEvent *event)
 
 void EnumTextButton::mousePressEvent(QMouseEvent *event)
 {
-    m_closedByPress = m_reopenGuard->isActive();
+    m_closedByPress = m_list->reopenGuard()->isActive();
     LabelButton::mousePressEvent(event);
 }
 

@@ -9,8 +9,9 @@
 #include <QList>
 #include <QListView>
 
-class PopupWidget;
-class QTimer;
+#include <memory>
+
+class ListButton;
 
 /*! A button for a setting with a fixed set of values: it shows the current choice, and a tap opens
     the list of all of them, as rows below (or above) it or as tiles in the middle of the window.
@@ -45,6 +46,7 @@ public:
     };
 
     explicit EnumTextButton(QWidget *parent = nullptr);
+    ~EnumTextButton() override;
 
     /// The choices in display order. Setting them leaves the current choice as it is.
     QList<EnumSpec> enums() const { return m_enums; }
@@ -95,14 +97,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    int popupWidth() const { return width() * 3 / 2; }
-
+    const std::unique_ptr<ListButton> m_list;
     QList<EnumSpec> m_enums;
-    QList<int> m_values;
-    QStringList m_texts;
     int m_currentValue = 0;
     QString m_currentText;
-    PopupWidget *m_popup;
-    QTimer *m_reopenGuard;
     bool m_closedByPress = false; ///< the finger now on the button closed the list
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/infobutton.h>
 
+#include <widgets/buttonaccessible_p.h>
+
 #include <QDebug>
 #include <QGridLayout>
 #include <QLabel>
@@ -15,6 +17,7 @@ InfoButton::InfoButton(QWidget *parent)
     , m_infoWidget(new QWidget(this))
     , m_nameLabel(new QLabel(this))
 {
+    ButtonAccessible::install<InfoButton, NamedButtonAccessible<InfoButton>>();
     qRegisterMetaType<QMargins>("QMargins");
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred); // soft keys share a column
     m_layout->setContentsMargins(0, 0, 0, 0);

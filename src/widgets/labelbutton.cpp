@@ -4,9 +4,9 @@
 
 #include <base/fingersize_p.h>
 #include <base/qtcompat_p.h>
+#include <widgets/buttonaccessible_p.h>
 
 #include <QAccessible>
-#include <QDebug>
 #include <QDynamicPropertyChangeEvent>
 #include <QLabel>
 
@@ -16,11 +16,21 @@ namespace
 constexpr char MultilineProperty[] = "multilineLabel";
 constexpr int MultilineOverhang = 10;
 
+class LabelButtonAccessible : public NamedButtonAccessible<LabelButton>
+{
+public:
+    using NamedButtonAccessible::NamedButtonAccessible;
+
+protected:
+    QString value() const override { return button()->labelText(); }
+};
+
 } // namespace
 
 LabelButton::LabelButton(QWidget *parent)
     : InfoButton(parent)
 {
+    ButtonAccessible::install<LabelButton, LabelButtonAccessible>();
     auto *const value = new QLabel(this);
     value->setObjectName(QStringLiteral("valueLabel"));
     value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);

@@ -3,18 +3,23 @@
 #include <widgets/menubutton.h>
 
 #include <base/fingersize_p.h>
-#include <controls/popupplacement_p.h>
 #include <widgets/buttonaccessible_p.h>
+#include <widgets/listbutton_p.h>
 #include <widgets/popupwidget.h>
 
 #include <QMouseEvent>
 #include <QPointer>
-#include <QTimer>
 
 namespace
 {
 
-constexpr int ReopenGuardMs = 200;
+class MenuButtonAccessible : public ButtonAccessible
+{
+public:
+    using ButtonAccessible::ButtonAccessible;
+
+    QAccessible::Role role() const override { return QAccessible::ButtonMenu; }
+};
 
 } // namespace
 
@@ -26,134 +31,117 @@ MenuButton::MenuButton(const QString &text, QWidget *parent)
 
 MenuButton::MenuButton(QWidget *parent)
     : QPushButton(parent)
-    , m_popup(new PopupWidget(this))
-    , m_reopenGuard(new QTimer(this))
+    , m_list(std::make_unique<ListButton>(this))
 {
-    ButtonAccessible::install();
+    ButtonAccessible::install<MenuButton, MenuButtonAccessible>();
     setCheckable(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    m_popup->hide();
-    m_popup->installEventFilter(this);
-    m_reopenGuard->setSingleShot(true);
-    m_reopenGuard->setInterval(ReopenGuardMs);
-
-    connect(m_popup, &PopupWidget::currentItemChanged, this, &MenuButton::onPopupWidgetItemChanged);
-    connect(m_popup, &PopupWidget::widgetClosed, this, [this] { setChecked(false); });
-    connect(m_reopenGuard, &QTimer::timeout, this, [this] {
+    connect(m_list->popup(), &PopupWidget::currentItemChanged, this,
+            &MenuButton::onPopupWidgetItemChanged);
+    connect(m_list->reopenGuard(), &QTimer::timeout, this, [this] {
         setChecked(false);
         setDown(false);
     });
     // A press opens the list by itself; this is for the keyboard and for click().
     connect(this, &MenuButton::clicked, this, [this] {
-        if (m_reopenGuard->isActive())
+        if (m_list->reopenGuard()->isActive())
             setChecked(false);
         else
             openPopup();
     });
 }
 
+MenuButton::~MenuButton() = default;
+
 void MenuButton::setMenuItems(const QList<MenuSpec> &items)
 {
     if (m_menuItems == items)
         return;
-    clearMenuItems();
     m_menuItems = items;
-    for (const MenuSpec &item : items) {
-        m_values << item.value;
-        m_texts << item.text;
-    }
-    m_popup->addItems(m_texts, 0);
+    m_list->setEntries(items);
 }
 
 void MenuButton::addMenuItem(int value, const QString &text)
 {
     m_menuItems << MenuSpec{value, text};
-    m_values << value;
-    m_texts << text;
-    m_popup->addItem(text);
-    if (m_popup->isVisible())
-        m_popup->popup();
+    m_list->append(value, text);
 }
 
 void MenuButton::clearMenuItems()
 {
-    if (m_popup->isVisible())
-        m_popup->close(); // what it offers is no longer true
     m_menuItems.clear();
-    m_values.clear();
-    m_texts.clear();
-    m_popup->clear();
+    m_list->clear();
 }
 
 int MenuButton::getValueByDisplayName(const QString &text) const
 {
-    return m_values.value(m_texts.indexOf(text), -1);
+    return m_list->valueAt(m_list->indexOf(text));
 }
 
 void MenuButton::setItemTextAlignment(Qt::Alignment alignment)
 {
     m_itemTextAlignment = alignment;
-    m_popup->setItemTextAlignment(alignment);
+    m_list->popup()->setItemTextAlignment(alignment);
     // Centred entries need the padding of both sides; others keep the theme's.
-    m_popup->setStyleSheet(alignment & Qt::AlignHCenter
-                               ? QStringLiteral("QListWidget#ListModeView::item { padding-left: "
-                                                "4px; padding-right: 4px; }")
-                               : QString());
+    m_list->popup()->setStyleSheet(alignment & Qt::AlignHCenter ? QStringLiteral(
+                                       "QListWidget#ListModeView::item { padding-left: "
+                                       "4px; padding-right: 4px; }")
+                                                                : QString());
 }
 
 void MenuButton::setIconSize(int width, int height)
 {
-    m_popup->setIconSize(width, height);
+    m_list->popup()->setIconSize(width, height);
 }
 
 QSize MenuButton::iconSize() const
 {
-    return m_popup->iconSize();
+    return m_list->popup()->iconSize();
 }
 
 void MenuButton::setItemCountPerRow(int count)
 {
-    m_popup->setItemCountPerRow(count);
+    m_list->popup()->setItemCountPerRow(count);
 }
 
 int MenuButton::itemCountPerRow() const
 {
-    return m_popup->itemCountPerRow();
+    return m_list->popup()->itemCountPerRow();
 }
 
 void MenuButton::setItemEnabled(const QString &text, bool enabled)
 {
-    m_popup->setItemEnabled(text, enabled);
+    m_list->popup()->setItemEnabled(text, enabled);
 }
 
 void MenuButton::setItemEnabled(int index, bool enabled)
 {
-    m_popup->setItemEnabled(index, enabled);
+    m_list->popup()->setItemEnabled(index, enabled);
 }
 
 void MenuButton::setTitleText(const QString &text)
 {
-    m_popup->setTitleText(text);
+    m_list->popup()->setTitleText(text);
 }
 
 QString MenuButton::titleText() const
 {
-    return m_popup->titleText();
+    return m_list->popup()->titleText();
 }
 
 void MenuButton::setTitleVisible(bool visible)
 {
-    m_popup->setTitleVisible(visible);
+    m_list->popup()->setTitleVisible(visible);
 }
 
 bool MenuButton::titleVisible() const
 {
-    return m_popup->titleVisible();
+    return m_list->popup()->titleVisible();
 }
 
 void MenuButton::setViewMode(QListView::ViewMode mode)
 {
-    m_popup->setViewMode(mode);
+    m_list->popup()->setViewMode(mode);
 }
 
 QSize MenuButton::sizeHint() const
@@ -170,28 +158,25 @@ void MenuButton::onPopupWidgetItemChanged(const QString &text)
         Q_EMIT menuItemClicked(text);
     if (!alive)
         return;
-    m_popup->hide();
+    m_list->popup()->hide();
     setChecked(false);
 }
 
 void MenuButton::updatePopupPosition()
 {
-    if (!m_popup->isVisible())
-        return;
-    const QRect button(mapToGlobal(QPoint()), size());
-    m_popup->move(Controls::popupTopLeft(button, m_popup->size(),
-                                         Controls::availableGeometryAt(button.bottomLeft()), 0));
+    if (m_list->popup()->isVisible())
+        m_list->moveToButton(rect().bottomLeft());
 }
 
 bool MenuButton::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_popup) {
+    if (watched == m_list->popup()) {
         switch (event->type()) {
         case QEvent::FocusOut:
         case QEvent::Hide:
         case QEvent::Close:
         case QEvent::WindowDeactivate:
-            m_reopenGuard->start();
+            m_list->reopenGuard()->start();
             break;
         case QEvent::Show:
             updatePopupPosition();
@@ -205,7 +190,7 @@ bool MenuButton::eventFilter(QObject *watched, QEvent *event)
 
 void MenuButton::mousePressEvent(QMouseEvent *event)
 {
-    if (m_reopenGuard->isActive()) {
+    if (m_list->reopenGuard()->isActive()) {
         setChecked(false);
         return;
     }
@@ -220,12 +205,6 @@ void MenuButton::openPopup()
     if (m_menuItems.isEmpty())
         return;
     setChecked(true);
-    if (m_popup->isVisible())
-        return;
-    m_popup->setItemTextAlignment(m_itemTextAlignment);
-    m_popup->setWidgetFixedWidth(width() * 3 / 2);
-    m_popup->setCurrentItem(QString()); // a menu has no current entry
-    m_popup->setWindowTitle(text()); // what assistive tools call it
-    m_popup->popup();
-    m_popup->show();
+    if (!m_list->popup()->isVisible())
+        m_list->open(text(), QString(), m_itemTextAlignment); // a menu has no current entry
 }

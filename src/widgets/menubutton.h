@@ -8,8 +8,9 @@
 #include <QListView>
 #include <QPushButton>
 
-class PopupWidget;
-class QTimer;
+#include <memory>
+
+class ListButton;
 
 /*! A push button that offers a menu of commands in a list sized for fingers. A press, Space or
     click() opens the list; picking an entry reports it, and nothing is remembered.
@@ -45,6 +46,7 @@ public:
 
     explicit MenuButton(QWidget *parent = nullptr);
     explicit MenuButton(const QString &text, QWidget *parent = nullptr);
+    ~MenuButton() override;
 
     /// The commands in display order.
     QList<MenuSpec> menuItems() const { return m_menuItems; }
@@ -95,10 +97,7 @@ protected:
 private:
     void openPopup();
 
+    const std::unique_ptr<ListButton> m_list;
     QList<MenuSpec> m_menuItems;
-    QList<int> m_values;
-    QStringList m_texts;
-    PopupWidget *m_popup;
-    QTimer *m_reopenGuard;
     Qt::Alignment m_itemTextAlignment = Qt::AlignLeft;
 };

@@ -2,10 +2,47 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/switchbutton.h>
 
+#include <widgets/buttonaccessible_p.h>
+
 #include <QButtonGroup>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
+
+namespace
+{
+
+class SwitchButtonAccessible : public NamedButtonAccessible<SwitchButton>
+{
+public:
+    using NamedButtonAccessible::NamedButtonAccessible;
+
+    QAccessible::Role role() const override { return QAccessible::CheckBox; }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = ButtonAccessible::state();
+        state.checkable = true;
+        state.checked = button()->status();
+        return state;
+    }
+
+protected:
+    QString value() const override
+    {
+        return button()->status() ? SwitchButton::tr("On") : SwitchButton::tr("Off");
+    }
+
+    void activate() override
+    {
+        button()
+            ->findChild<QAbstractButton *>(button()->status() ? QStringLiteral("btnOff")
+                                                              : QStringLiteral("btnOn"))
+            ->click();
+    }
+};
+
+} // namespace
 
 SwitchButton::SwitchButton(QWidget *parent)
     : InfoButton(parent)
@@ -15,6 +52,7 @@ SwitchButton::SwitchButton(QWidget *parent)
     , m_layout(new QHBoxLayout(m_container))
     , m_lastClicked(m_offButton)
 {
+    ButtonAccessible::install<SwitchButton, SwitchButtonAccessible>();
     m_layout->setContentsMargins(10, 0, 10, 0);
     m_layout->setSpacing(0);
     auto *const group = new QButtonGroup(this);

@@ -10,7 +10,7 @@ class QHBoxLayout;
 class QPushButton;
 
 /*! A setting that is on or off: its name, and the two buttons "On" and "Off" beside it, of which
-   one is always checked.
+    one is always checked.
 
     Not for a choice of more than two (EnumTextButton).
 

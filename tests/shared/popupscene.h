@@ -10,6 +10,13 @@
 namespace VnaTest
 {
 
+/// Waits until a tap on a button whose list closed counts as a new one.
+inline void waitForGuard(const QWidget *button)
+{
+    const auto *const guard = button->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    QTRY_VERIFY(!guard->isActive());
+}
+
 /// Taps row \a row of a list.
 inline void clickItem(const QListWidget *list, int row)
 {
@@ -31,8 +38,8 @@ struct PopupScene {
     bool isEnabled(int row) const { return list()->item(row)->flags() & Qt::ItemIsEnabled; }
     void clickItem(int row) const { VnaTest::clickItem(list(), row); }
 
-    /// Time enough for a tap to count as a new one.
-    static constexpr int GuardMs = 250;
+    /// Waits until a tap counts as a new one.
+    void waitForGuard() const { VnaTest::waitForGuard(button); }
 
     QWidget window;
     QPointer<Button> button = new Button(&window);
@@ -79,7 +86,7 @@ void tapThatCloses()
         tap(holdMs);
         QVERIFY(!f.isOpen() && !f.button->isChecked());
         QCOMPARE(closed.count(), 1);
-        QTest::qWait(Scene::GuardMs);
+        f.waitForGuard();
         tap(0);
         QVERIFY(f.isOpen());
         f.popup()->close(); // as a press does that reaches the button as well
@@ -109,7 +116,7 @@ void openInCorners(Button *button)
             QVERIFY(corner.y() ? shown.bottom() < button->y() : shown.top() >= button->y() + 49);
             typeKey(popup, Qt::Key_Escape);
             QVERIFY(!popup->isVisible());
-            QTest::qWait(PopupScene<Button>::GuardMs);
+            waitForGuard(button);
         }
     }
 }

@@ -86,14 +86,14 @@ private Q_SLOTS:
         f.button->click();
         QVERIFY(!f.isOpen()); // too soon after the closing
 
-        QTest::qWait(Scene::GuardMs);
+        f.waitForGuard();
         mouseClick(f.button);
         QCOMPARE(f.list()->currentRow(), 2);
         f.clickItem(2); // the same again: closes without a word
         QVERIFY(!f.isOpen());
         QCOMPARE(f.told.count(), 2);
 
-        QTest::qWait(Scene::GuardMs);
+        f.waitForGuard();
         f.button->setFocus();
         QVERIFY(QTest::qWaitForWindowActive(&f.window));
         typeKey(&f.window, Qt::Key_Space, " "_s);
@@ -129,7 +129,7 @@ private Q_SLOTS:
     {
         Scene f;
         const auto open = [&f] {
-            QTest::qWait(Scene::GuardMs);
+            f.waitForGuard();
             mouseClick(f.button);
             return f.isOpen();
         };

@@ -50,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(f.button->getValueByDisplayName("Maximum"_s), -1);
 
         // Without items it is a checkable button.
-        QTest::qWait(Scene::GuardMs);
+        f.waitForGuard();
         QCOMPARE(MenuButton("Search"_s).text(), "Search"_s);
         for (const bool checked : {true, false}) {
             mouseClick(f.button);
@@ -82,7 +82,7 @@ private Q_SLOTS:
             QVERIFY(!f.isOpen() && !f.button->isChecked());
             QCOMPARE(f.told, QStringList({"value 6"_s, "text Minimum"_s}));
             f.told.clear();
-            QTest::qWait(Scene::GuardMs);
+            f.waitForGuard();
         }
     }
 
@@ -106,7 +106,7 @@ private Q_SLOTS:
         QVERIFY(f.isOpen() && f.button->isChecked());
         typeKey(f.popup(), Qt::Key_Escape);
         QVERIFY(!f.isOpen() && !f.button->isChecked());
-        QTest::qWait(Scene::GuardMs);
+        f.waitForGuard();
 
         auto *const accessible = QAccessible::queryAccessibleInterface(f.button);
         QCOMPARE(accessible->role(), QAccessible::ButtonMenu);
