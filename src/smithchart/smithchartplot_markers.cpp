@@ -4,6 +4,8 @@
 
 #include "tracepoint.h"
 
+#include <plot/markerselection.h>
+
 #include <QMouseEvent>
 
 #include <algorithm>
@@ -12,11 +14,8 @@
 namespace
 {
 
-constexpr int markersPerTrace =
-    100; ///< a marker id is the trace id times this plus the marker's number
-constexpr double markerPenWidth = 1.5;
-constexpr double selectedMarkerPenWidth = 2.5;
-constexpr int selectedLighterPercent = 130;
+/// A marker id is the trace id times this plus the marker's number.
+constexpr int markersPerTrace = 100;
 
 } // namespace
 
@@ -329,25 +328,10 @@ bool SmithChartPlotPrivate::positionMarkerAtSourceIndex(OwnedMarker &record, dou
     return point && record.marker->setPositionCoordinates(record.curve, point->x(), point->y());
 }
 
-/// Draws a marker in its trace's colour: outlined, or filled, lighter and bolder when selected.
 void SmithChartPlotPrivate::drawMarkerSelection(const OwnedMarker &record, bool selected)
 {
-    if (!record.curve)
-        return;
-    QPen pen = record.curve->pen();
-    QBrush brush;
-    pen.setWidthF(markerPenWidth);
-    if (selected) {
-        pen.setWidthF(selectedMarkerPenWidth);
-        pen.setColor(pen.color().lighter(selectedLighterPercent));
-        brush = QBrush(pen.color());
-    }
-    record.marker->setColors(pen, brush);
-    if (QCPItemText *const label = record.marker->getLabel()) {
-        QFont font = label->font();
-        font.setWeight(QFont::Normal);
-        label->setFont(font);
-    }
+    if (record.curve)
+        Plot::drawMarker(*record.marker, record.curve->pen(), selected);
 }
 
 void SmithChartPlotPrivate::updateMarkerVisualSelection(int traceId, int localId, bool selected)

@@ -4,6 +4,7 @@
 #include "smithchartplot_p.h"
 
 #include <base/qtcompat_p.h>
+#include <plot/markerselection.h>
 #include <plot/markerslayer_p.h>
 
 #include <QKeyEvent>
@@ -251,35 +252,19 @@ bool SmithChartPlotPrivate::dragIsConfined() const
     return m_onlyHandleActiveTrace && traceId != m_activeTraceId;
 }
 
-/// The marker that a press catches: the one whose item is under the pointer, else the nearest one
-/// within the hit tolerance. Earlier markers win ties.
+/// The marker that a press catches, of a trace that is shown.
 const SmithChartPlotPrivate::OwnedMarker *
 SmithChartPlotPrivate::markerToCatchAt(const QPointF &pos) const
 {
-    QCustomPlot *const plot = this->plot();
-    if (!plot)
+    if (!plot())
         return nullptr;
-    const QCPAbstractItem *const item = plot->itemAt(pos, true);
-    const OwnedMarker *best = nullptr;
-    double bestDistance = std::numeric_limits<double>::max();
+    QVector<const Plot::Marker *> markers;
     for (const OwnedMarker &record : m_ownedMarkers) {
-        if (!record.curve || !record.curve->visible())
-            continue;
-        const QCPAbstractItem *const parts[] = {record.marker->getTracer(),
-                                                record.marker->getLabel()};
-        for (const QCPAbstractItem *part : parts) {
-            if (!part || !part->visible())
-                continue;
-            if (part == item)
-                return &record;
-            const double distance = part->selectTest(pos, false);
-            if (distance >= 0.0 && distance <= m_markerHitTolerancePx && distance < bestDistance) {
-                bestDistance = distance;
-                best = &record;
-            }
-        }
+        const bool isShown = record.curve && record.curve->visible();
+        markers.append(isShown ? record.marker.get() : nullptr);
     }
-    return best;
+    const int index = Plot::markerAt(markers, pos, m_markerHitTolerancePx);
+    return index < 0 ? nullptr : &m_ownedMarkers[static_cast<std::size_t>(index)];
 }
 
 /// The point of a trace that is nearest to \a pos, or -1; the squared distance is in logical

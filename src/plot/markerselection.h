@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+/*! \file
+    How a selected marker looks, and which marker a finger means: the same on every diagram. */
+#pragma once
+
+#include <vnawidgets_export.h>
+
+#include <plot/marker.h>
+
+#include <QPen>
+#include <QVector>
+
+namespace Plot
+{
+
+/// Draws a marker in the colour of its trace's pen: outlined, or filled, lighter and bolder when it
+/// is selected.
+VNAWIDGETS_EXPORT void drawMarker(Marker &marker, const QPen &tracePen, bool selected);
+
+/// The place in \a markers of the one that a press at \a pos (plot widget pixels) catches: the one
+/// whose item is under the pointer, else the nearest within \a tolerancePx logical pixels, the
+/// earlier of equals. Hidden ones and null are passed over. -1 if there is none.
+[[nodiscard]] VNAWIDGETS_EXPORT int markerAt(const QVector<const Marker *> &markers,
+                                             const QPointF &pos, double tolerancePx);
+
+} // namespace Plot
