@@ -3,6 +3,7 @@
 
 # The Debian packages, one for each component; script/package builds them. Debian's names for libraries: the soname
 # with a hyphen where a digit would meet a digit.
+block() # what is set here is for CPack alone
 set(version ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 if(VNAWIDGETS_QT_MAJOR EQUAL 5)
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libvnawidgets${version})
@@ -47,3 +48,4 @@ set(CPACK_DEBIAN_PANEL_PACKAGE_RECOMMENDS fonts-wqy-microhei) # for Chinese
 set(CPACK_COMPONENT_PANEL_DESCRIPTION "Front panel of a vector network analyser, on Touchstone files
  The demonstration of VnaWidgets: vnapanel, and vnagallery with every widget.")
 include(CPack)
+endblock()

@@ -7,18 +7,21 @@ cd "$project_dir" || exit 1
 
 say() { printf '%s\n' "$*" >&2; }
 
-# build PRESET [cmake --build arguments]: configures where that has not been done, and builds.
+# build PRESET [cmake --build arguments]: configures where that has not been done with the presets as they are now, and
+# builds.
 build() {
     local preset=$1
     shift
-    if [ ! -f "build/$preset/build.ninja" ]; then
+    local applied=build/$preset/CMakePresets.applied.json
+    if [ ! -f "build/$preset/build.ninja" ] || ! cmp -s CMakePresets.json "$applied"; then
         say "Configuring build/$preset"
-        cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
+        cmake --fresh --preset "$preset" >"build-$preset.log" 2>&1 || {
             cat "build-$preset.log" >&2
             rm -f "build-$preset.log"
             return 1
         }
         rm -f "build-$preset.log"
+        cp CMakePresets.json "$applied"
     fi
     say "Building build/$preset"
     cmake --build --preset "$preset" "$@" >&2
