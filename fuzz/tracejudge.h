@@ -21,7 +21,7 @@ struct Trace {
 };
 
 /*! Tells a tie from a fault: whether kept indices are a right answer, where points and distances
-   that differ by no more than the rounding of pixel coordinates count as equal. */
+    that differ by no more than the rounding of pixel coordinates count as equal. */
 class Judge
 {
 public:

@@ -15,7 +15,7 @@ namespace Profile
 /*! The list view of one enumeration \a T in a profile object.
 
     The profile needs a getter, a setter and a signal for the value. It may be null or die first:
-   there is then no current entry, and choices are dropped.
+    there is then no current entry, and choices are dropped.
 
     \code
     using Layouts = Profile::EnumProfileAdapter<Graph::LayoutType>;

@@ -22,7 +22,7 @@ Q_ENUM_NS(LayoutType)
 /*! The part of the instrument's settings that says how diagrams are laid out.
 
     It holds the value and tells changes; keeping it from one start to the next is the host's
-   business.
+    business.
 
     \code
     auto *profile = new Graph::LayoutManagerProifle(this);

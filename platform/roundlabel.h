@@ -12,9 +12,9 @@ namespace Controls
 /*! A label for one reading that would rather round its number than cut it off.
 
     A plain label that is too narrow drops the first or the last characters, and "-100.33dBm"
-   becomes "00.33dBm". Here decimals are rounded away until the reading fits, and what still does
-   not fit ends in an ellipsis. text() stays what was set. Texts of several lines, rich texts and
-   selected texts are shown as they are.
+    becomes "00.33dBm". Here decimals are rounded away until the reading fits, and what still does
+    not fit ends in an ellipsis. text() stays what was set. Texts of several lines, rich texts and
+    selected texts are shown as they are.
 
     \code
     auto *stimulus = new Controls::RoundLabel(this);

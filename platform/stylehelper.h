@@ -12,8 +12,8 @@ namespace Utils
 /*! Puts style sheet files into force for the whole application.
 
     There is one sheet at a time: what setThemes() applies takes the place of whatever the
-   application had, so nothing of an earlier theme stays behind. Not for styling a single widget:
-   use QWidget::setStyleSheet() for that.
+    application had, so nothing of an earlier theme stays behind. Not for styling a single widget:
+    use QWidget::setStyleSheet() for that.
 
     \code
     QStringList files = Utils::StyleHelper::defaultThemeFiles(dark);
@@ -30,8 +30,8 @@ public:
 
     /*! Joins the files in list order and applies them to the application. Relative names are taken
         from the application's folder, text is UTF-8, a file that cannot be read or has more than 1
-       MiB is left out. Does nothing when the text is the one in force, since a new sheet costs
-       every widget a polish. */
+        MiB is left out. Does nothing when the text is the one in force, since a new sheet costs
+        every widget a polish. */
     static void setThemes(const QStringList &files);
 };
 

@@ -21,10 +21,12 @@ class IEnumProfileAdapter;
 
     \code
     box->reset();
-    box->setProfile(adapter);
+    box->setProfile(layouts);
     box->afterSetProfile();
-    box->setIcons({":/Graph/Image/layout1", ":/Graph/Image/layout2"}); // before or after, as you
-   like \endcode */
+    box->setIcons({QStringLiteral(":/Graph/Image/layout1"), QStringLiteral(":/Graph/Image/layout2")});
+    \endcode
+
+    Icons may be set before or after the entries. */
 class VNAPLATFORM_EXPORT TabletComboBox2 : public QComboBox
 {
     Q_OBJECT

@@ -15,8 +15,8 @@ namespace Utils
 /*! Lets a mouse or a finger drag a widget about, and tells a tap from a drag.
 
     A child widget stays inside its parent, a window inside the available part of its screen. The
-   tool takes all presses of the left button and all touches of the widget; put it on a handle or on
-   a floating button, not on a widget with contents to press.
+    tool takes all presses of the left button and all touches of the widget; put it on a handle or
+    on a floating button, not on a widget with contents to press.
 
     \code
     auto *tool = new Utils::WidgetMouseMoveTool(padlock);
@@ -37,7 +37,7 @@ public:
 
 Q_SIGNALS:
     /*! A press and a release with less way between them than QApplication::startDragDistance(), by
-       the left button or one finger. A second finger or a cancelled touch makes it no tap. */
+        the left button or one finger. A second finger or a cancelled touch makes it no tap. */
     void clicked();
 
 protected:

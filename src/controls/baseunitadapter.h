@@ -39,6 +39,9 @@ namespace Controls
         double convertToBase(const QString &text) override; // NaN for text to be refused
         QString convertFromBaseValue(double value, QString unit) override;
     };
+    \endcode
+
+    \code
     auto *level = new LevelAdapter(keypad); // a commit closes the parent, if it is a dialog
     level->setValidator(new QDoubleValidator(-40, 10, 2, level));
     level->setRealValue(-12.5);

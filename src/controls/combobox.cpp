@@ -16,7 +16,7 @@ namespace
 {
 
 /*! Draws the rows of the list, which is exactly as wide as its longest text: the space that styles
-   keep free beside a text is taken from outside the row rather than from the text. */
+    keep free beside a text is taken from outside the row rather than from the text. */
 class RowDelegate : public QStyledItemDelegate
 {
 public:

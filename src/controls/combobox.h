@@ -10,7 +10,7 @@ namespace Controls
 {
 
 /*! A combo box for the touch screen: its list is as wide as its longest entry, opens below the box,
-   or above it where there is no room below, and stays 5 pixels inside the screen.
+    or above it where there is no room below, and stays 5 pixels inside the screen.
 
     Not for a value of a stored profile: Profile::TabletComboBox2 binds to those.
 

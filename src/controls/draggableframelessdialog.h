@@ -16,13 +16,13 @@ namespace Controls
 {
 
 /*! The title bar of a frameless dialog: its title and, on request, buttons to minimise, maximise
-   and close. DraggableFramelessDialog makes its own; alone it serves dialogs that are moved some
-   other way.
+    and close. DraggableFramelessDialog makes its own; alone it serves dialogs that are moved some
+    other way.
 
     Style sheets address it as "draggableDialogTitleBar", its label as "draggableDialogTitleLabel"
-   and the buttons as "draggableDialogMinimizeButton", "draggableDialogMaximizeButton" (with the
-   property "max" while maximised) and "draggableDialogCloseButton"; their icons come from there
-   too.
+    and the buttons as "draggableDialogMinimizeButton", "draggableDialogMaximizeButton" (with the
+    property "max" while maximised) and "draggableDialogCloseButton"; their icons come from there
+    too.
 
     \code
     auto *bar = new Controls::DraggableDialogTitleBar(dialog);
@@ -80,9 +80,9 @@ private:
 /*! A dialog without a system frame for the touch screen, dragged by its own title bar.
 
     It centres itself over its parent when shown and stays inside the parent while dragged and when
-   the parent shrinks; without a parent it stays on its screen. The dialog's own layout must leave
-   the height of the title bar free at the top. Not for dialogs that the window manager should
-   frame.
+    the parent shrinks; without a parent it stays on its screen. The dialog's own layout must leave
+    the height of the title bar free at the top. Not for dialogs that the window manager should
+    frame.
 
     \code
     Controls::DraggableFramelessDialog dialog(mainWindow);

@@ -25,11 +25,15 @@ class TouchNumKeyboard;
 
     Not an editor itself: a derived class brings a line edit and shows what setEditorText() says.
     \code
-    MyField::MyField(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter, QWidget *parent)
-        : IEditableTitleWidget(keyboard, adapter, parent)
+    class MyField : public Controls::IEditableTitleWidget
     {
-        attachEditor(new QLineEdit(this));
-    }
+    public:
+        MyField(Controls::TouchNumKeyboard *keypad, Controls::BaseUnitAdapter *adapter)
+            : IEditableTitleWidget(keypad, adapter)
+        {
+            attachEditor(new QLineEdit(this));
+        }
+    };
     \endcode
 
     An edit begins when the editor gets the focus and ends with Return or a unit key (commit),

@@ -17,7 +17,7 @@ namespace Controls
     keypad->setAttribute(Qt::WA_DeleteOnClose);
     auto *adapter = new FrequencyAdapter(keypad);
     new Controls::KeypadEditor(keypad, adapter);
-    adapter->setRealValue(stop);
+    adapter->setRealValue(2.9e9);
     connect(adapter, &FrequencyAdapter::editingFinished, sweep, &Sweep::setStop);
     keypad->open(); // shows the value, its number selected
     \endcode

@@ -18,13 +18,13 @@ namespace Controls
 {
 
 /*! Knows whether the user interface is dark or light, and the colours, trace palettes and icons of
-   each.
+    each.
 
     Whatever paints asks here at the moment of painting and connects to themeChanged() to paint
-   again; nobody keeps colours of their own. The tables are filled once, from built-in values and
-   from the group "ThemeColors" of "../configuration/settings.ini" beside the application (or of the
-   file named by the application's dynamic property "vnaSettingsPath"), and never change afterwards.
-   Until the first setTheme() no style sheet is touched.
+    again; nobody keeps colours of their own. The tables are filled once, from built-in values and
+    from the group "ThemeColors" of "../configuration/settings.ini" beside the application (or of
+    the file named by the application's dynamic property "vnaSettingsPath"), and never change
+    afterwards. Until the first setTheme() no style sheet is touched.
 
     Not for the look of ordinary widgets: that is the style sheets' business.
 
@@ -56,8 +56,8 @@ public:
     bool isLightTheme() const { return m_theme == Light; }
 
     /*! The colour of that name in the current theme; an invalid colour for an unknown name. Besides
-       the names below: "buttonColor", "statusBarColor", "listItemEnabledColor",
-       "listItemSelectedColor", "listItemHoverColor", "listItemDefaultColor". */
+        the names below: "buttonColor", "statusBarColor", "listItemEnabledColor",
+        "listItemSelectedColor", "listItemHoverColor", "listItemDefaultColor". */
     QColor getColor(const QString &key) const;
     QColor backgroundColor() const;
     QColor borderColor() const;
@@ -72,8 +72,8 @@ public:
     QVector<QColor> getMemoryTracePalette() const;
 
     /*! File or resource of icon \a id in the current theme: 0 logo (a customer's own, or the
-       Chinese one, where there is one), 1 built-in logo, 2 enter key, 3 lock, 4 unlock, 5
-       screenshot, 6 hide panel, 7 show panel. Empty for any other number. */
+        Chinese one, where there is one), 1 built-in logo, 2 enter key, 3 lock, 4 unlock, 5
+        screenshot, 6 hide panel, 7 show panel. Empty for any other number. */
     QString getIconPath(int id) const;
     /// The icon of getIconPath(); the enter key is inverted in the light theme. Null for an unknown
     /// id.
@@ -81,8 +81,8 @@ public:
 
 public Q_SLOTS:
     /*! Switches the theme: the application-wide dark flag, then the style sheets, then
-       themeChanged(). All of it happens for the current theme too, which takes in style sheet files
-       edited meanwhile. */
+        themeChanged(). All of it happens for the current theme too, which takes in style sheet
+        files edited meanwhile. */
     void setTheme(Controls::ThemeManager::Theme theme);
     /// Light when dark, dark otherwise.
     void toggleTheme();
@@ -112,8 +112,8 @@ private:
 };
 
 /*! The image with red, green and blue inverted and its transparency kept, for light-theme icons
-   made from dark-theme artwork. 32-bit formats stay, all others become ARGB32; a null image comes
-   back null. */
+    made from dark-theme artwork. 32-bit formats stay, all others become ARGB32; a null image comes
+    back null. */
 VNAWIDGETS_EXPORT QImage invertImageColors(const QImage &image);
 
 } // namespace Controls

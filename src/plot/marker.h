@@ -23,9 +23,9 @@ enum MarkerType : int {
 /*! A marker on a trace: a triangle whose apex touches the marked point, and a text beside it.
 
     It works on QCPCurve and on QCPGraph, and draws on the layer "markers", which it keeps topmost.
-   It owns its two items: destroying the marker takes them off the plot, so it can be moved but not
-   copied. Items or a plot that are gone before the marker are survived. It is not selectable,
-   draggable or numbered by itself; SmithChartPlot adds that.
+    It owns its two items: destroying the marker takes them off the plot, so it can be moved but not
+    copied. Items or a plot that are gone before the marker are survived. It is not selectable,
+    draggable or numbered by itself; SmithChartPlot adds that.
 
     \code
     Plot::Marker marker(plot, 101, Plot::PointingDown);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
     The one door to QCustomPlot. Its header uses the bare words signals, slots, emit and foreach,
-   which a host built with QT_NO_KEYWORDS does not have: they are lent to it here and taken back
-   afterwards. */
+    which a host built with QT_NO_KEYWORDS does not have: they are lent to it here and taken back
+    afterwards. */
 #pragma once
 
 #include <QtCore/qglobal.h>

@@ -18,8 +18,8 @@ enum TracerShape : int {
 /*! The triangle of a marker: its apex touches the marked point.
 
     It is neither drawn nor hit while the point lies outside the plot's axis rectangle, so that a
-   marker that is panned out does not lie over axes and margins. It knows nothing of traces, numbers
-   or selection; a Plot::Marker places and colours it.
+    marker that is panned out does not lie over axes and margins. It knows nothing of traces,
+    numbers or selection; a Plot::Marker places and colours it.
 
     \code
     auto *tracer = new Plot::QCPItemTracerMarker(plot);

@@ -7,8 +7,8 @@
 /*! The curve of a trace: strokes its line twice.
 
     A thin anti-aliased line spreads over two pixel rows and looks faint; the second stroke gives it
-   full coverage. On a light background that is not enough, so there the second one is shifted by a
-   quarter of a device pixel. */
+    full coverage. On a light background that is not enough, so there the second one is shifted by a
+    quarter of a device pixel. */
 class CoverageBoostCurve : public QCPCurve
 {
     Q_OBJECT

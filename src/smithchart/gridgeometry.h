@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
     The geometry of the Smith chart's grid in the plane of the reflection coefficient, as plain
-   numbers.
+    numbers.
 
     With z = r + jx the normalised impedance and G = (z - 1) / (z + 1) the reflection coefficient,
-   constant r maps to a circle about (r/(r+1), 0) with radius 1/(r+1), and constant x to one about
-   (1, 1/x) with radius 1/x (P. H. Smith, "Transmission line calculator", Electronics, January
-   1939). The admittance chart is the same picture turned by half a turn. */
+    constant r maps to a circle about (r/(r+1), 0) with radius 1/(r+1), and constant x to one about
+    (1, 1/x) with radius 1/x (P. H. Smith, "Transmission line calculator", Electronics, January
+    1939). The admittance chart is the same picture turned by half a turn. */
 #pragma once
 
 #include <vnawidgets_export.h>
@@ -49,8 +49,8 @@ struct Grid {
 };
 
 /*! Appends the parts of a circle that lie inside the unit disk, one run an arc. The circle is
-   walked from angle 0 in \a samples steps, so an arc that spans angle 0 arrives in two runs; \a
-   radius may be negative, which starts the walk on the far side. */
+    walked from angle 0 in \a samples steps, so an arc that spans angle 0 arrives in two runs; \a
+    radius may be negative, which starts the walk on the far side. */
 VNAWIDGETS_EXPORT void appendCircleInsideUnitDisk(double centerX, double centerY, double radius,
                                                   int samples, Runs &runs);
 

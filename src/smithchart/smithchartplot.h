@@ -23,17 +23,17 @@ class SmithChartPlotPrivate;
 /*! Turns a QCustomPlot that the caller owns into a Smith chart.
 
     The chart draws a grid, traces of reflection coefficients and markers on the plot, keeps the
-   view round at every size, and reports what the user does as request signals: it never moves a
-   marker, selects one or changes data by itself. It measures nothing, owns neither plot nor axes,
-   and does not pan or zoom on its own; the host calls zoomAt() and setViewFromRequestedRanges(). A
-   plot or an axis destroyed before the chart is survived: the chart then does nothing and its
-   setters return false.
+    view round at every size, and reports what the user does as request signals: it never moves a
+    marker, selects one or changes data by itself. It measures nothing, owns neither plot nor axes,
+    and does not pan or zoom on its own; the host calls zoomAt() and setViewFromRequestedRanges(). A
+    plot or an axis destroyed before the chart is survived: the chart then does nothing and its
+    setters return false.
 
     \code
-    auto *plot = new QCustomPlot(window);
-    auto *chart = new SmithChartPlot(plot, SmithChart::Standard, window);
+    auto *plot = new QCustomPlot(mainWindow);
+    auto *chart = new SmithChartPlot(plot, SmithChart::Standard, mainWindow);
     chart->addCurve(1, QPen(Qt::yellow));
-    chart->setCurveData(1, frequenciesHz, real, imag);
+    chart->setCurveData(1, frequencies, real, imaginary);
     chart->setActiveTrace(1);
     chart->addMarkerVisual(1, 1, 100.0, Plot::PointingDown);
     connect(chart, &SmithChartPlot::markerPositionChanged, chart, &SmithChartPlot::setMarkerIndex);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
     The view of a Smith chart as plain numbers: a centre and a magnification, from which both axis
-   ranges follow for any widget shape, so that units stay square and the chart stays round. */
+    ranges follow for any widget shape, so that units stay square and the chart stays round. */
 #pragma once
 
 #include <vnawidgets_export.h>
@@ -57,7 +57,7 @@ struct ViewRanges {
                                                               double maximum = maximumZoom);
 
 /*! \a state magnified by \a factor so that the chart point (\a anchorX, \a anchorY) stays where it
-   is. Merely clamped when the anchor is not finite or \a factor is not a finite number above 0. */
+    is. Merely clamped when the anchor is not finite or \a factor is not a finite number above 0. */
 [[nodiscard]] VNAWIDGETS_EXPORT ViewState zoomedViewState(const ViewState &state, double anchorX,
                                                           double anchorY, double factor,
                                                           HalfRanges base,

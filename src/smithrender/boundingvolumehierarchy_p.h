@@ -19,9 +19,9 @@ class NearestScan;
 
     Two kinds of bounds, for what each does well. A chord joins two points a few dozen apart, and
     its deviation is how far those between lie from it: next to nothing on smooth lines. A leaf has
-   a k-DOP around its points, which serves for points in any order; eight nodes of one level make
-   one of the next. Distance to a segment is convex, so the ends of a chord, or the corners of a
-   k-DOP, bound it for all between them.
+    a k-DOP around its points, which serves for points in any order; eight nodes of one level make
+    one of the next. Distance to a segment is convex, so the ends of a chord, or the corners of a
+    k-DOP, bound it for all between them.
 
     Chord or leaf i of n points covers point i x n to point (i + 1) x n, both included. */
 class BoundingVolumeHierarchy

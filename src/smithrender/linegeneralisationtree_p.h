@@ -17,10 +17,10 @@ namespace SmithRender
 class BoundingVolumeHierarchy;
 
 /*! The binary line generalisation tree (BLG-tree: van Oosterom and van den Bos 1989) of each part
-   of a line between gaps. Ramer-Douglas-Peucker always splits a line at the point of the largest
+    of a line between gaps. Ramer-Douglas-Peucker always splits a line at the point of the largest
     deviation; the tolerance only says when to stop. Where pixels are square, a change of view
-   scales all distances alike, so the splits are the same at every view: a node holds a split and
-   its deviation. Nodes are made when a view first asks for them.
+    scales all distances alike, so the splits are the same at every view: a node holds a split and
+    its deviation. Nodes are made when a view first asks for them.
 
     What is kept is what DouglasPeucker keeps. Only where two points deviate equally to within the
     rounding of pixel coordinates may the other one be kept. */

@@ -12,7 +12,7 @@ namespace SmithRender
 {
 
 /*! Looks for the trace point nearest to a pointer among the ranges it is shown, in any order: what
-   it finds depends only on which points it has seen. Distances are squared, in device pixels. */
+    it finds depends only on which points it has seen. Distances are squared, in device pixels. */
 class NearestScan
 {
 public:

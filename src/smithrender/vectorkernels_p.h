@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
     The inner loops over a trace's points, in the widest vectors the processor has. Every width does
-   the same operations on each point and never fuses multiply and add, so results are identical, bit
-   for bit. */
+    the same operations on each point and never fuses multiply and add, so results are identical,
+    bit for bit. */
 #pragma once
 
 #include <base/testexport_p.h>
@@ -51,9 +51,9 @@ struct Farthest {
 };
 
 /*! A k-DOP around a set of points: a discrete oriented polytope, which is the convex polygon whose
-   k edge directions are fixed (Klosowski et al. 1998). Kept as the set's support in each direction,
-   the first along x, then anticlockwise: the largest scalar product of a point with the direction.
-   The last value repeats the first. An empty set has supports of minus infinity. */
+    k edge directions are fixed (Klosowski et al. 1998). Kept as the set's support in each
+    direction, the first along x, then anticlockwise: the largest scalar product of a point with the
+    direction. The last value repeats the first. An empty set has supports of minus infinity. */
 struct Kdop {
     static constexpr int directions = 16;
     std::array<double, directions + 1> support;

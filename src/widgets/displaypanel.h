@@ -25,8 +25,8 @@ class DisplayPanel;
 /*! The panel that chooses how the diagrams share the window.
 
     Its combo box is bound to the layout profile: a choice is written there, and a change made
-   elsewhere shows here. The icons follow the dark flag of Utils::GUIContext. The profile is not
-   owned; it may be null or die first, and choices then have no effect.
+    elsewhere shows here. The icons follow the dark flag of Utils::GUIContext. The profile is not
+    owned; it may be null or die first, and choices then have no effect.
 
     \code
     auto *panel = new DisplayPanel(settings->layoutProfile(), sidebar);

@@ -27,16 +27,18 @@ class WidgetMouseMoveTool;
 
     A tap (or Space) locks and unlocks. While locked, presses and touches anywhere else in the
     application are swallowed, and the padlock blinks to say why; keys, wheel and releases pass.
-   While unlocked the padlock can be dragged out of the way. Not a protection: there is no code to
-   enter.
+    While unlocked the padlock can be dragged out of the way. Not a protection: there is no code to
+    enter.
 
     The padlock and the target share one coordinate system: give it the target's parent as parent,
-   or none when the target is a window. The target may be null or die first; the padlock stays then.
+    or none when the target is a window. The target may be null or die first; the padlock stays
+    then.
 
     \code
-    auto *lock = new LockWidget(centralWidget, diagramArea); // diagramArea is a child of
-   centralWidget connect(lockAction, &QAction::toggled, lock, [lock](bool on) {
-   lock->setScreenLockEnable(on); }); \endcode */
+    auto *lock = new LockWidget(centralWidget, diagramArea); // a child of centralWidget
+    connect(lockAction, &QAction::toggled, lock,
+            [lock](bool on) { lock->setScreenLockEnable(on); });
+    \endcode */
 class VNAWIDGETS_EXPORT LockWidget : public QWidget
 {
     Q_OBJECT

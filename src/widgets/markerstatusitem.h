@@ -15,18 +15,18 @@ class MarkerStatusItem;
 }
 
 /*! One line of a marker read-out: a dot when selected, the marker's name, its stimulus and up to
-   three response values.
+    three response values.
 
     Everything stands on one line while the width allows; in a narrower place the stimulus and the
     values fold into a block beside the name, and the height follows. The texts come formatted from
-   the owner. Not for tables of many markers: use an item view for those.
+    the owner. Not for tables of many markers: use an item view for those.
 
     \code
     auto *item = new MarkerStatusItem(plot);
     item->setText("M1R:", "2.412GHz", "48.21Ω", "3.10Ω", "204.5pH");
     item->setColor(traceColor);
     item->setSelectedStatus(true);
-    item->setMouseEventRouter([chart](QMouseEvent *event) { return chart->takePress(event); });
+    item->setMouseEventRouter([this](QMouseEvent *event) { return chart->takePress(event); });
     connect(item, &MarkerStatusItem::clicked, this, [this] { selectMarker(1); });
     \endcode */
 class VNAWIDGETS_EXPORT MarkerStatusItem : public QWidget
@@ -61,7 +61,7 @@ public:
     void setLayoutWidth(int width);
 
     /*! Lets \a router have left presses first. Where it returns true, it gets the moves and the
-       release too, and clicked() does not fire. An empty function ends that. */
+        release too, and clicked() does not fire. An empty function ends that. */
     void setMouseEventRouter(std::function<bool(QMouseEvent *)> router);
 
 Q_SIGNALS:

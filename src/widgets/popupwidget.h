@@ -24,7 +24,7 @@ class QVBoxLayout;
     auto *popup = new PopupWidget(button);
     popup->addItems({tr("LogM"), tr("Phase"), tr("Smith")}, 0);
     popup->setCurrentItem(tr("Smith"));
-    connect(popup, &PopupWidget::currentItemChanged, this, &Panel::setFormat);
+    connect(popup, &PopupWidget::currentItemChanged, this, &Panel::setFormatName);
     popup->popup(); // takes its size from the items
     popup->move(button->mapToGlobal(button->rect().bottomLeft()));
     popup->show();

@@ -14,7 +14,7 @@ class RectangularBottomWidget;
 }
 
 /*! The thin bar under a Cartesian diagram: sweep start at the left, sweep speed in the middle, stop
-   at the right.
+    at the right.
 
     It shows what it is told and computes nothing; texts come formatted with their units. Not for
     entering start and stop: use a button with the numeric keypad for that.

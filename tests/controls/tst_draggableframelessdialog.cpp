@@ -14,7 +14,8 @@ namespace
 
 const QPoint Title(40, 17); // on the title's text
 const QPoint Centred(200, 125);
-const QFlags<Bar::Button> AllButtons(0x7);
+const QFlags<Bar::Button> AllButtons =
+    QFlags<Bar::Button>(Bar::MinimizeButton) | Bar::MaximizeButton | Bar::CloseButton;
 
 /// A dialog of 200 x 150 over a host of 600 x 400.
 struct Scene {

@@ -9,6 +9,7 @@
 #include <VnaWidgets/DisplayPanel>
 #include <VnaWidgets/DraggableFramelessDialog>
 #include <VnaWidgets/EditableWidget>
+#include <VnaWidgets/EnumProfileAdapter>
 #include <VnaWidgets/EnumTextButton>
 #include <VnaWidgets/GUIContext>
 #include <VnaWidgets/KeypadEditor>
@@ -18,15 +19,24 @@
 #include <VnaWidgets/MenuButton>
 #include <VnaWidgets/OverlayContainer>
 #include <VnaWidgets/PopupWidget>
+#include <VnaWidgets/PropertyWatcher>
 #include <VnaWidgets/RectangularBottomWidget>
+#include <VnaWidgets/RoundLabel>
 #include <VnaWidgets/ScaledUnitAdapter>
 #include <VnaWidgets/SmithChartPlot>
 #include <VnaWidgets/SmithCircle>
 #include <VnaWidgets/SmithLimit>
 #include <VnaWidgets/Step125Controller>
+#include <VnaWidgets/StyleHelper>
 #include <VnaWidgets/SwitchButton>
+#include <VnaWidgets/TabletComboBox2>
 #include <VnaWidgets/ThemeManager>
 #include <VnaWidgets/TouchNumKeyboard>
+#include <VnaWidgets/Translator>
+#include <VnaWidgets/WidgetMouseMoveTool>
+
+#include <platform/placement.h>
+#include <utils/formatting.h>
 
 #include <QAction>
 #include <QApplication>
@@ -53,6 +63,15 @@ struct Sweep : QObject {
     void setStop(double) { }
 };
 
+struct Source : QObject {
+    void setLevel(double) { }
+};
+
+struct LevelAdapter : Controls::BaseUnitAdapter {
+    using Controls::BaseUnitAdapter::BaseUnitAdapter;
+};
+using FrequencyAdapter = LevelAdapter;
+
 struct Analyser : QObject {
     bool isSweeping() const { return false; }
     void setSweeping(bool) { }
@@ -76,6 +95,8 @@ struct Panel : QWidget {
     void setFormatName(const QString &) { }
     void setStartFrequency(double) { }
     void showReading(int, int, double) { }
+    void keepOutOfUnit(int) { }
+    void toggleLock() { }
 
     QMainWindow *mainWindow = nullptr;
     QWidget *centralWidget = nullptr;
@@ -85,6 +106,16 @@ struct Panel : QWidget {
     LabelButton *softKey = nullptr;
     QPushButton *button = nullptr;
     QPushButton *lockButton = nullptr;
+    QWidget *padlock = nullptr;
+    QWidget *popup = nullptr;
+    QDialog *dialog = nullptr;
+    QLabel *languageLabel = nullptr;
+    QLineEdit *editor = nullptr;
+    Profile::TabletComboBox2 *box = nullptr;
+    Profile::TabletComboBox2 *comboBox = nullptr;
+    Profile::IEnumProfileAdapter *layouts = nullptr;
+    Graph::LayoutManagerProifle *profile = nullptr;
+    Controls::TouchNumKeyboard *keypad = nullptr;
     QAction *homeAction = nullptr;
     QAction *lockAction = nullptr;
     QPainter painter;
@@ -103,7 +134,11 @@ struct Panel : QWidget {
     Controls::StepController *stepper = nullptr;
     Controls::BaseUnitAdapter *start = nullptr;
     Controls::BaseUnitAdapter *stop = nullptr;
+    Controls::BaseUnitAdapter *span = nullptr;
+    Controls::BaseUnitAdapter *adapter = nullptr;
+    Source *source = nullptr;
     QVector<Controls::ScaledUnitAdapter::Unit> frequencyUnits;
+    bool dark = true;
     bool remoteControlled = false;
     bool isReflection = true;
     bool sweeping = true;

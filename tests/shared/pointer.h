@@ -6,7 +6,7 @@
 #include <QtWidgets>
 
 /*! Mouse, touch and keys on shown widgets, sent through their window as the platform would;
-   positions are in the widget. */
+    positions are in the widget. */
 namespace VnaTest
 {
 

@@ -12,7 +12,7 @@ namespace VnaTest
 
 /*! Base of every test class: a warning that nobody expected fails the test function that caused it,
     and so do widgets, parts of plots and other objects that are still there at its end. A class
-   with its own init() or cleanup() calls these first and last. */
+    with its own init() or cleanup() calls these first and last. */
 class TestCase : public QObject
 {
     Q_OBJECT
