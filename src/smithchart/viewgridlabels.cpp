@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "viewgridlabels_p.h"
 
-#include <QLocale>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -15,12 +13,14 @@ namespace SmithChart
 namespace
 {
 
-constexpr double labelGapPx = 5.0; ///< between labels, at least
+constexpr double labelGapPx = 5.0; ///< between labels side by side, at least
+constexpr double labelRowGapPx = 2.0; ///< between labels one below the other
 constexpr double lineGapPx = 2.0; ///< between a label and the axis, the rim or the view's edge
 
 QString numberText(double value)
 {
-    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+    constexpr int digits = 12; // more would show what scaling to a unit rounds
+    return QString::number(value, 'g', digits);
 }
 
 /// All drawn pieces of one line.
@@ -83,7 +83,7 @@ private:
     {
         if (crossesRim(rect))
             return false;
-        const QRectF roomy = rect.adjusted(-labelGapPx, -labelGapPx, labelGapPx, labelGapPx);
+        const QRectF roomy = rect.adjusted(-labelGapPx, -labelRowGapPx, labelGapPx, labelRowGapPx);
         return std::none_of(m_taken.cbegin(), m_taken.cend(), [&](const ViewGridLabel &other) {
             return other.rect.intersects(roomy);
         });

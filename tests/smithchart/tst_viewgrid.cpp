@@ -236,6 +236,7 @@ private Q_SLOTS:
         QCOMPARE(gridLabelText(GridPart::Imaginary, 1500.0, GridUnit::Ohms), "j1.5k"_s);
         QCOMPARE(gridLabelText(GridPart::Real, 2e6, GridUnit::Ohms), "2M"_s);
         QCOMPARE(gridLabelText(GridPart::Real, 0.02, GridUnit::Siemens), "20m"_s);
+        QCOMPARE(gridLabelText(GridPart::Imaginary, 0.01172, GridUnit::Siemens), "j11.72m"_s);
         QCOMPARE(gridLabelText(GridPart::Real, 0.0005, GridUnit::Siemens), "500"_s + QChar(0xb5));
     }
 
@@ -307,6 +308,17 @@ private Q_SLOTS:
         QVERIFY(find(QChar(0x2212) + "j1"_s).top() > mapping.toPixel({0.0, -1.0}).y());
         for (const char *text : {"0.2", "0.5", "2", "5", "10", "j0.2", "j0.5", "j2", "j5"})
             QVERIFY2(find(QString::fromLatin1(text)).isValid(), text);
+
+        // Beside them there is room for those of a second chart: above and inside.
+        const GridMapping second(view, GridChart::Admittance);
+        rules.asSecondChart = true;
+        QVector<ViewGridLabel> both = labels;
+        appendViewGridLabels(viewGridLines(second.chartView(), {1.0, 40.0}), second, rules, both);
+        int aboveAxis = 0;
+        for (auto i = labels.size(); i < both.size(); ++i)
+            aboveAxis += both.at(i).part == GridPart::Real ? 1 : 0;
+        QVERIFY2(aboveAxis >= 6, qPrintable(QString::number(aboveAxis)));
+        rules.asSecondChart = false;
 
         // The admittance chart is the same, turned by half a turn.
         const GridMapping turned(view, GridChart::Admittance);
