@@ -15,41 +15,49 @@ PolygonGrid::PolygonGrid(const QPolygonF &polygon)
     , m_rows(cells)
     , m_cells(cells * cells, Outside)
 {
-    for (int i = 0; i < polygon.size(); ++i)
-        crossCells({polygon.at(i), polygon.at((i + 1) % polygon.size())});
+    for (int i = 0; i < polygon.size(); ++i) {
+        const QPointF &a = polygon.at(i);
+        const QPointF &b = polygon.at((i + 1) % polygon.size());
+        crossCells(a.y() <= b.y() ? Edge{a, b} : Edge{b, a});
+    }
     for (int row = 0; row < cells; ++row) {
         const double y = m_box.top() + (row + 0.5) / m_rowsPerUnit;
+        Cell previous = Crossed;
         for (int column = 0; column < cells; ++column) {
             Cell &cell = m_cells[static_cast<std::size_t>(row * cells + column)];
-            const double x = m_box.left() + (column + 0.5) / m_columnsPerUnit;
-            if (cell != Crossed && isInside(x, y, m_rows[static_cast<std::size_t>(row)]))
-                cell = Inside;
+            if (cell != Crossed && previous != Crossed) {
+                cell = previous; // no edge between them
+            } else if (cell != Crossed) {
+                const double x = m_box.left() + (column + 0.5) / m_columnsPerUnit;
+                cell = isInside(x, y, m_rows[static_cast<std::size_t>(row)]) ? Inside : Outside;
+            }
+            previous = cell;
         }
     }
 }
 
-/// Marks the cells that an edge may meet: row by row, from where it enters to where it leaves, and
-/// one more on each side for rounding.
+/// Marks the cells that an edge may meet: row by row, from where it enters to where it leaves.
 void PolygonGrid::crossCells(const Edge &edge)
 {
-    const QPointF &low = edge.a.y() <= edge.b.y() ? edge.a : edge.b;
-    const QPointF &high = edge.a.y() <= edge.b.y() ? edge.b : edge.a;
-    const int firstRow = std::max(cellOf((low.y() - m_box.top()) * m_rowsPerUnit) - 1, 0);
-    const int lastRow = std::min(cellOf((high.y() - m_box.top()) * m_rowsPerUnit) + 1, cells - 1);
-    const double height = high.y() - low.y();
-    const auto columnAt = [&](double y) {
-        const double share = height > 0.0 ? std::clamp((y - low.y()) / height, 0.0, 1.0) : 0.0;
-        return cellOf((low.x() + share * (high.x() - low.x()) - m_box.left()) * m_columnsPerUnit);
+    constexpr double rounding = 1e-6; // of a cell
+    const QPointF &low = edge.low;
+    const QPointF &high = edge.high;
+    const double lowRow = (low.y() - m_box.top()) * m_rowsPerUnit;
+    const double highRow = (high.y() - m_box.top()) * m_rowsPerUnit;
+    const double lowColumn = (low.x() - m_box.left()) * m_columnsPerUnit;
+    const double highColumn = (high.x() - m_box.left()) * m_columnsPerUnit;
+    const double height = highRow - lowRow;
+    const auto columnAt = [&](double row) {
+        return lowColumn + std::clamp((row - lowRow) / height, 0.0, 1.0) * (highColumn - lowColumn);
     };
-    for (int row = firstRow; row <= lastRow; ++row) {
+    for (int row = cellOf(lowRow - rounding); row <= cellOf(highRow + rounding); ++row) {
         m_rows[static_cast<std::size_t>(row)].push_back(edge);
-        int first = columnAt(m_box.top() + row / m_rowsPerUnit);
-        int last = columnAt(m_box.top() + (row + 1) / m_rowsPerUnit);
-        if (height <= 0.0)
-            last = cellOf((high.x() - m_box.left()) * m_columnsPerUnit);
-        if (first > last)
-            std::swap(first, last);
-        for (int column = std::max(first - 1, 0); column <= std::min(last + 1, cells - 1); ++column)
+        // An edge as flat as rounding crosses all of its columns at once.
+        const bool flat = height < rounding;
+        const double enters = flat ? lowColumn : columnAt(row - rounding);
+        const double leaves = flat ? highColumn : columnAt(row + 1 + rounding);
+        const int last = cellOf(std::max(enters, leaves) + rounding);
+        for (int column = cellOf(std::min(enters, leaves) - rounding); column <= last; ++column)
             m_cells[static_cast<std::size_t>(row * cells + column)] = Crossed;
     }
 }
@@ -59,13 +67,14 @@ bool PolygonGrid::isInside(double x, double y, const std::vector<Edge> &edges)
 {
     bool inside = false;
     for (const Edge &edge : edges) {
-        const QPointF &a = edge.a;
-        const QPointF &b = edge.b;
+        const QPointF &a = edge.low;
+        const QPointF &b = edge.high;
+        if (y < a.y() || y > b.y())
+            continue;
         const double side = (b.x() - a.x()) * (y - a.y()) - (b.y() - a.y()) * (x - a.x());
-        if (side == 0.0 && x >= std::min(a.x(), b.x()) && x <= std::max(a.x(), b.x())
-            && y >= std::min(a.y(), b.y()) && y <= std::max(a.y(), b.y()))
+        if (side == 0.0 && x >= std::min(a.x(), b.x()) && x <= std::max(a.x(), b.x()))
             return true;
-        if ((a.y() > y) != (b.y() > y) && (side > 0.0) == (b.y() > a.y()))
+        if (y < b.y() && side > 0.0) // an end counts for one of the two edges that share it
             inside = !inside;
     }
     return inside;

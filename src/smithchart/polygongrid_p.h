@@ -21,13 +21,15 @@ public:
 
     bool contains(double x, double y) const
     {
-        if (!(x >= m_box.left() && x <= m_box.right() && y >= m_box.top() && y <= m_box.bottom()))
+        const double column = (x - m_box.left()) * m_columnsPerUnit;
+        const double line = (y - m_box.top()) * m_rowsPerUnit;
+        if (!(column >= 0.0 && column <= cells && line >= 0.0 && line <= cells)) // NaN, too
             return false;
-        const int row = cellOf((y - m_box.top()) * m_rowsPerUnit);
-        const Cell cell = m_cells[static_cast<std::size_t>(
-            row * cells + cellOf((x - m_box.left()) * m_columnsPerUnit))];
-        return cell == Crossed ? isInside(x, y, m_rows[static_cast<std::size_t>(row)])
-                               : cell == Inside;
+        const int row = cellOf(line);
+        const Cell cell = m_cells[static_cast<std::size_t>(row * cells + cellOf(column))];
+        if (cell != Crossed)
+            return cell == Inside;
+        return isInside(x, y, m_rows[static_cast<std::size_t>(row)]);
     }
     QPainterPath outline() const;
 
@@ -38,11 +40,11 @@ private:
         Crossed,
     };
     struct Edge {
-        QPointF a;
-        QPointF b;
+        QPointF low; ///< the end of the smaller y
+        QPointF high;
     };
 
-    static constexpr int cells = 64; ///< in a row, and in a column
+    static constexpr int cells = 256; ///< in a row, and in a column
 
     static int cellOf(double position)
     {
