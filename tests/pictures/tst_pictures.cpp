@@ -73,9 +73,11 @@ QImage keypad(const QFont &font)
     keypad->setWindowTitle("Stop"_s);
     keypad->open();
     // With the focus come the value and the unit keys.
-    const bool hasFocus =
-        QTest::qWaitFor([&] { return keypad->isAncestorOf(QApplication::focusWidget()); });
-    return hasFocus ? grabbed(*keypad) : QImage();
+    const auto *const edit = keypad->findChild<QLineEdit *>("edit"_s);
+    if (!QTest::qWaitFor([edit] { return edit->hasFocus() && edit->text() == "2.45GHz"_s; }))
+        return QImage();
+    QCoreApplication::sendPostedEvents(); // lays the unit keys out
+    return grabbed(*keypad);
 }
 
 QImage list(const QFont &font)
