@@ -12,8 +12,7 @@ KeypadEditor::KeypadEditor(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter)
     : IEditableTitleWidget(keyboard, adapter, keyboard)
 {
     hide();
-    auto *edit =
-        keyboard->findChild<QLineEdit *>(QStringLiteral("edit"), Qt::FindDirectChildrenOnly);
+    QLineEdit *const edit = keyboard->lineEdit();
     edit->setReadOnly(false);
     edit->setFocusPolicy(Qt::StrongFocus);
     edit->setAccessibleName(tr("Value"));

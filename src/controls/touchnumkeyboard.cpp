@@ -244,10 +244,48 @@ void TouchNumKeyboard::open()
     }
     disconnect(overlay, &OverlayContainer::outsideClicked, this, nullptr);
     connect(overlay, &OverlayContainer::outsideClicked, this, [d] { d->pressOutside(); });
-    overlay->showWithDialog(this, OverlayContainer::None, false,
+    overlay->showWithDialog(this, OverlayContainer::None, d->dims,
                             d->popupAnchor ? OverlayContainer::LeftOfAnchor
                                            : OverlayContainer::Centered,
                             d->popupAnchor);
+}
+
+bool TouchNumKeyboard::isDimEnabled() const
+{
+    return d_ptr->dims;
+}
+
+void TouchNumKeyboard::setDimEnabled(bool dim)
+{
+    d_ptr->dims = dim;
+    if (OverlayContainer *const overlay = d_ptr->overlay())
+        overlay->setDimEnabled(dim);
+}
+
+void TouchNumKeyboard::setExtraWidget(QWidget *widget)
+{
+    if (widget == d_ptr->extraWidget)
+        return;
+    if (d_ptr->extraWidget) {
+        // It may be the one whose signal led here.
+        d_ptr->extraWidget->hide();
+        d_ptr->ui.titleEditVerticalLayout->removeWidget(d_ptr->extraWidget);
+        d_ptr->extraWidget->deleteLater();
+    }
+    d_ptr->extraWidget = widget;
+    QVBoxLayout *const column = d_ptr->ui.titleEditVerticalLayout;
+    if (widget)
+        column->insertWidget(column->indexOf(d_ptr->ui.edit) + 1, widget);
+}
+
+QWidget *TouchNumKeyboard::extraWidget() const
+{
+    return d_ptr->extraWidget;
+}
+
+QLineEdit *TouchNumKeyboard::lineEdit() const
+{
+    return d_ptr->ui.edit;
 }
 
 int TouchNumKeyboard::exec()

@@ -10,6 +10,7 @@
 #include <memory>
 
 QT_BEGIN_NAMESPACE
+class QLineEdit;
 class QWheelEvent;
 QT_END_NAMESPACE
 
@@ -111,6 +112,16 @@ public:
     /// Shows the keypad as a tool window at the bottom of the screen. It blocks nothing and leaves
     /// the active window alone, so that its keys reach the focused editor of any window.
     void showGlobal();
+
+    /// Dims what lies behind the keypad while it is embedded in a main window. Default: false.
+    bool isDimEnabled() const;
+    void setDimEnabled(bool dim);
+    /// Puts a widget below the text area, in full width, and owns it; the one before is deleted.
+    void setExtraWidget(QWidget *widget);
+    QWidget *extraWidget() const;
+    /// The text area, which is the editor of a KeypadEditor; an event filter installed here sees keys
+    /// before the editor does. Never null.
+    QLineEdit *lineEdit() const;
 
 Q_SIGNALS:
     /// Gestures on the indicator: the cursor position in its text that is nearest to the pointer.

@@ -77,6 +77,8 @@ public:
     QPointer<QObject> receiver;
     QPointer<QWidget> popupAnchor;
     QPointer<QWidget> titleWidget;
+    QPointer<QWidget> extraWidget;
+    bool dims = false;
     QVBoxLayout *titleWidgetLayout = nullptr; ///< keeps the title widget off the edges
     TouchNumKeyboard::PressOutsidePolicy pressOutsidePolicy = TouchNumKeyboard::PressOutsideCancels;
 

@@ -45,9 +45,9 @@ struct StimulusRange {
     \code
     SmithChart::LimitArea matched;
     matched.setCircle({0.0, 0.0}, 0.1, SmithChart::LimitArea::StayInside);
-    const SmithChart::LimitResult result = matched.test(real, imag);
+    const SmithChart::LimitResult result = matched.test({0.0, 0.5}, {0.0, 0.0});
     if (!result.passed())
-        showFailure(result.firstFailing);
+        qWarning("It fails from point %d on.", result.firstFailing);
     \endcode */
 class VNAWIDGETS_EXPORT LimitArea
 {

@@ -207,6 +207,22 @@ public:
     void setMarkerHitTolerancePx(double px);
     /*! @} */
 
+    /*! \name For a host with a hit test of its own (smithchartplot_pointer.cpp)
+        @{ */
+
+    /// Whether a press on the plot catches the marker under it. Default: true. A host that decides
+    /// by itself what a finger means turns it off and calls beginMarkerDrag().
+    bool pressDragsMarkers() const;
+    void setPressDragsMarkers(bool drags);
+    /// What a press on this marker does: asks for its selection and begins to drag it, until the
+    /// left button is released. False for an unknown marker, and when the host has removed it.
+    bool beginMarkerDrag(int traceId, int localId);
+    /// The point of a trace that is nearest to \a pos (plot widget pixels), and its distance in
+    /// logical pixels. False, without touching either, for a trace that is unknown, hidden or
+    /// without points in view.
+    bool nearestPoint(int traceId, const QPoint &pos, int &index, double &distance) const;
+    /*! @} */
+
     /*! \name Beyond the presets: off until a host asks for it
         @{ */
 

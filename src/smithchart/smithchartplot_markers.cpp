@@ -248,10 +248,8 @@ bool SmithChartPlot::beginMarkerDragAt(const QPoint &pos)
 {
     if (!d->plot())
         return false;
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(pos), d->plot()->mapToGlobal(pos),
-                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     const QPointer<SmithChartPlot> self(this);
-    d->onPlotMousePress(&press);
+    d->catchMarkerAt(pos);
     return self && isDraggingMarker();
 }
 

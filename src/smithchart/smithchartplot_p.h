@@ -102,6 +102,8 @@ public:
     void hideDragLine();
     void forgetDrag();
     void onPlotMousePress(QMouseEvent *event);
+    void catchMarkerAt(const QPointF &pos);
+    bool catchMarker(int traceId, int localId);
     void onPlotMouseMove(QMouseEvent *event);
     int nearestCurveDataIndex(QCPCurve *curve, const QPoint &pos, double *squaredDistance) const;
     bool nearestCurveAndIndex(const QPoint &pos, QCPCurve *&curve, int &index,
@@ -146,5 +148,6 @@ public:
     double m_markerDragJumpPx = 0.0;
     QPointer<QCPItemLine> m_dragLine; ///< owned by the plot; made when first shown
     bool m_onlyHandleActiveTrace = true;
+    bool m_pressDragsMarkers = true;
     bool m_resizeRefitPending = false;
 };

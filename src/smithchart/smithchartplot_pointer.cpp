@@ -99,22 +99,59 @@ bool SmithChartPlot::handleDoubleClick(const QPoint &pos, Qt::KeyboardModifiers 
 
 void SmithChartPlotPrivate::onPlotMousePress(QMouseEvent *event)
 {
-    if (!event || event->button() != Qt::LeftButton)
-        return;
-    const OwnedMarker *const caught = markerToCatchAt(QtCompat::position(event));
-    if (!caught)
-        return;
-    const int traceId = caught->traceId;
-    const int localId = caught->localId;
+    if (event && event->button() == Qt::LeftButton && m_pressDragsMarkers)
+        catchMarkerAt(QtCompat::position(event));
+}
+
+void SmithChartPlotPrivate::catchMarkerAt(const QPointF &pos)
+{
+    if (const OwnedMarker *const caught = markerToCatchAt(pos))
+        catchMarker(caught->traceId, caught->localId);
+}
+
+/// Asks for a marker's selection and begins to drag it; false if it is not there (any more).
+bool SmithChartPlotPrivate::catchMarker(int traceId, int localId)
+{
     const int id = SmithChartPlot::makeMarkerId(traceId, localId);
-    if (traceId < 1 || localId < 1 || id < 1)
-        return;
+    if (traceId < 1 || localId < 1 || id < 1 || !findMarker(traceId, localId))
+        return false;
     const QPointer<SmithChartPlot> self(q);
     Q_EMIT q->markerSelectionRequested(traceId, localId);
     if (!self || !findMarker(traceId, localId)) // the host may have answered by removing it
-        return;
+        return false;
     m_draggingMarkerId = id;
     Q_EMIT q->markerDragStarted(traceId, localId);
+    return self && m_draggingMarkerId == id;
+}
+
+bool SmithChartPlot::pressDragsMarkers() const
+{
+    return d->m_pressDragsMarkers;
+}
+
+void SmithChartPlot::setPressDragsMarkers(bool drags)
+{
+    d->m_pressDragsMarkers = drags;
+}
+
+bool SmithChartPlot::beginMarkerDrag(int traceId, int localId)
+{
+    return d->plot() && d->catchMarker(traceId, localId);
+}
+
+bool SmithChartPlot::nearestPoint(int traceId, const QPoint &pos, int &index,
+                                  double &distance) const
+{
+    QCPCurve *const curve = getCurve(traceId);
+    if (!curve || !curve->visible())
+        return false;
+    double squaredDistance = 0.0;
+    const int nearest = d->nearestCurveDataIndex(curve, pos, &squaredDistance);
+    if (nearest < 0)
+        return false;
+    index = nearest;
+    distance = std::sqrt(squaredDistance);
+    return true;
 }
 
 void SmithChartPlotPrivate::onPlotMouseMove(QMouseEvent *event)

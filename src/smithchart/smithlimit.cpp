@@ -64,7 +64,7 @@ protected:
         const QColor border =
             color.isValid() ? color : Controls::ThemeManager::instance()->textColor();
         QColor fill = border;
-        fill.setAlphaF(0.12);
+        fill.setAlpha(31); // an eighth: traces show through
         painter->setPen(QPen(border, 1.0));
         painter->setBrush(fill);
         painter->drawPath(toPixel.map(outline));

@@ -34,7 +34,8 @@ QPen penOf(const QPen &base, int strength)
 {
     constexpr double faintest = 0.45;
     QColor color = base.color();
-    color.setAlphaF(color.alphaF() * (faintest + (1.0 - faintest) * strength / (strengths - 1)));
+    color.setAlpha(
+        qRound(color.alpha() * (faintest + (1.0 - faintest) * strength / (strengths - 1))));
     QPen pen = base;
     pen.setStyle(Qt::SolidLine);
     pen.setColor(color);

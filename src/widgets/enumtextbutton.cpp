@@ -122,6 +122,16 @@ void EnumTextButton::setViewMode(QListView::ViewMode mode)
     m_list->popup()->setViewMode(mode);
 }
 
+bool EnumTextButton::listScrollsInside() const
+{
+    return m_list->popup()->scrollsInside();
+}
+
+void EnumTextButton::setListScrollsInside(bool scrolls)
+{
+    m_list->popup()->setScrollsInside(scrolls);
+}
+
 void EnumTextButton::onClicked(bool)
 {
     // The list closed at the press; a slow finger may lift long after the guard ran out.

@@ -75,6 +75,10 @@ public:
     void setViewMode(QListView::ViewMode mode);
     ///@}
 
+    /// Whether a list taller than its screen scrolls inside; see PopupWidget. Default: false.
+    bool listScrollsInside() const;
+    void setListScrollsInside(bool scrolls);
+
 Q_SIGNALS:
     /// The user picked a choice; follows currentItemToggled().
     void currentItemEdited(int value);

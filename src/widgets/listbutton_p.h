@@ -14,6 +14,8 @@ class PopupWidget;
 class ListButton
 {
 public:
+    ListButton(const ListButton &) = delete;
+    ListButton &operator=(const ListButton &) = delete;
     explicit ListButton(QAbstractButton *button);
 
     PopupWidget *popup() const { return m_popup; }

@@ -119,6 +119,7 @@ bool LockWidget::eventFilter(QObject *watched, QEvent *event)
     blinkGroup->start();
     // Swallowed either way.
     event->setAccepted(!Utils::isSecondFinger(event));
+    Q_EMIT pressBlocked();
     return true;
 }
 
@@ -208,6 +209,7 @@ void LockWidget::setLocked(bool lock)
     changed.checked = true;
     QAccessibleStateChangeEvent event(this, changed);
     QAccessible::updateAccessibility(&event);
+    Q_EMIT lockedChanged(locked);
 }
 
 void LockWidget::stopBlinking()

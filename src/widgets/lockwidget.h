@@ -51,6 +51,18 @@ public:
     void setScreenLockEnable(bool enable);
     /// Whether the padlock is visible.
     bool getScreenLockEnable() const;
+    /// Whether presses are swallowed. False at the start.
+    bool isLocked() const { return locked; }
+
+public Q_SLOTS:
+    /// Locks as a tap on the padlock does, or unlocks; presses are swallowed only while it is shown.
+    void setLocked(bool lock);
+
+Q_SIGNALS:
+    /// Fires when it was locked or unlocked, by whomever.
+    void lockedChanged(bool locked);
+    /// A press or touch was swallowed.
+    void pressBlocked();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -66,7 +78,6 @@ private:
     void addAnimation();
     void scheduleDefaultPosition();
     void loadPixmaps();
-    void setLocked(bool lock);
     void stopBlinking();
     bool mustPass(QObject *watched, QEvent *event) const;
 

@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QScreen>
+#include <QScroller>
 #include <QStyle>
 #include <QStyledItemDelegate>
 #include <QTimer>
@@ -107,7 +108,6 @@ PopupWidget::PopupWidget(QWidget *parent)
     m_listWidget->setItemDelegate(new TouchItemDelegate(m_listWidget));
     m_listWidget->installEventFilter(this);
     m_listWidget->viewport()->installEventFilter(this);
-    m_listWidget->setFocus(); // so that keys reach it as soon as the pop-up shows
 
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
@@ -256,10 +256,17 @@ void PopupWidget::popup()
                 frame + (count + columns - 1) / columns * m_iconSize.height()};
     }
     size = size.expandedTo({0, 0});
+    const int titleHeight = titleVisible() ? m_titleLabel->sizeHint().height() : 0;
+    if (m_scrollsInside) {
+        const QScreen *const target = parentWidget() ? parentWidget()->screen() : screen();
+        const int room = target->availableGeometry().height() - 2 * ScreenMargin - titleHeight;
+        size.setHeight(qMin(size.height(), qMax(0, room)));
+    }
     m_listWidget->setFixedSize(size);
-    setFixedSize(size.width(),
-                 size.height() + (titleVisible() ? m_titleLabel->sizeHint().height() : 0));
-    if (count > 0)
+    setFixedSize(size.width(), size.height() + titleHeight);
+    if (QListWidgetItem *const chosen = m_scrollsInside ? m_listWidget->currentItem() : nullptr)
+        m_listWidget->scrollToItem(chosen);
+    else if (count > 0)
         m_listWidget->scrollToItem(m_listWidget->item(0), QAbstractItemView::PositionAtTop);
 }
 
@@ -274,6 +281,24 @@ bool PopupWidget::eventFilter(QObject *watched, QEvent *event)
     if ((watched == m_listWidget || watched == m_listWidget->viewport()) && filterList(event))
         return true;
     return QWidget::eventFilter(watched, event);
+}
+
+void PopupWidget::setScrollsInside(bool scrolls)
+{
+    if (scrolls == m_scrollsInside)
+        return;
+    m_scrollsInside = scrolls;
+    if (scrolls)
+        QScroller::grabGesture(m_listWidget->viewport(), QScroller::LeftMouseButtonGesture);
+    else
+        QScroller::ungrabGesture(m_listWidget->viewport());
+}
+
+void PopupWidget::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    // Each time: a list that was disabled meanwhile has lost it.
+    m_listWidget->setFocus(Qt::PopupFocusReason);
 }
 
 void PopupWidget::closeEvent(QCloseEvent *event)
@@ -346,6 +371,8 @@ bool PopupWidget::filterList(QEvent *event)
 {
     switch (event->type()) {
     case QEvent::Wheel:
+        if (m_scrollsInside)
+            return false;
         slideTo(pos().y() + static_cast<QWheelEvent *>(event)->angleDelta().y());
         return true;
     case QEvent::KeyPress:

@@ -85,6 +85,11 @@ public:
     /// Fits the size to the items, without scroll bars; the caller moves and shows the pop-up.
     void popup();
 
+    /// Whether a list taller than its screen is made to fit, from the next popup(), and scrolls
+    /// inside: for platforms where a window cannot move itself. Default: false.
+    bool scrollsInside() const { return m_scrollsInside; }
+    void setScrollsInside(bool scrolls);
+
 Q_SIGNALS:
     /// The user picked an item whose text is not the chosen one's.
     void currentItemChanged(const QString &text);
@@ -94,6 +99,7 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void onItemClicked(QListWidgetItem *item);
@@ -119,4 +125,5 @@ private:
     int m_pressTop = 0; ///< of the pop-up when the finger came down
     bool m_sliding = false;
     bool m_picking = false;
+    bool m_scrollsInside = false;
 };

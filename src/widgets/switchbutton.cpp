@@ -60,6 +60,7 @@ SwitchButton::SwitchButton(QWidget *parent)
     m_onButton->setObjectName(QStringLiteral("btnOn"));
     m_offButton->setObjectName(QStringLiteral("btnOff"));
     for (QPushButton *const button : {m_onButton, m_offButton}) {
+        button->setAutoDefault(false); // Return in a dialog is no tap on a switch
         button->setCheckable(true);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         button->installEventFilter(this);
