@@ -5,7 +5,7 @@
 #include <panel/diagrams/diagrams.h>
 #include <panel/diagrams/diagramview.h>
 #include <panel/files/samples.h>
-#include <panel/look/look.h>
+#include <panel/ground/look.h>
 #include <panel/model/panelmodel.h>
 #include <panel/source/simulateddevice.h>
 #include <panel/window/panelcontroller.h>
@@ -35,16 +35,15 @@ struct LivePanel {
         : window(&model)
         , controller(&model, &window)
     {
-        using Panel::SimulatedDevice;
-        SimulatedDevice filter(SimulatedDevice::Filter,
-                               SimulatedDevice::usualSweep(SimulatedDevice::Filter, points));
+        using Panel::Source;
+        Panel::SimulatedDevice filter(Source::Filter, Panel::defaultSweep(Source::Filter, points));
         for (int i = 0; i < 2; ++i) {
             frames[i] = filter.preview();
             filter.measure(frames[i], 0, filter.points(), quint64(i) * 60);
         }
         window.resize(1280, 800);
         window.show();
-        model.setNetworks({frames[0]});
+        model.openNetworks({frames[0]});
         for (const Panel::Trace &trace : model.traces())
             model.addMarker(trace.id, points / 3.0);
         settle();

@@ -9,7 +9,7 @@
 #include "monkeychecks.h"
 #include "monkeypanel.h"
 
-#include <panel/look/look.h>
+#include <panel/ground/look.h>
 
 #include <QApplication>
 #include <QDir>

@@ -137,8 +137,8 @@ bool Desk::drawPointOfTrace(Random &random, QPoint &position) const
     const int points = m_model->network(*trace).points();
     const int index = markers.isEmpty() || random.oneIn(3)
         ? random.below(qMax(points, 1))
-        : int(markers.at(random.below(int(markers.size()))).index);
-    if (index >= points)
+        : int(m_model->indexOf(markers.at(random.below(int(markers.size())))));
+    if (index < 0 || index >= points)
         return false;
     QPointF pixel;
     if (qobject_cast<Panel::SmithView *>(view)) {
@@ -258,7 +258,7 @@ Event Desk::draw(Random &random) const
         break;
     case Species::Sweep:
         event.a = random.below(3);
-        event.b = random.oneIn(3) ? 20001 : random.between(201, 2001);
+        event.b = random.oneIn(3) ? 20001 : random.between(2, 2001);
         break;
     case Species::DropPanel:
         event.a = random.below(3);

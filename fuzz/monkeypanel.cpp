@@ -7,9 +7,9 @@
 #include <controls/thememanager.h>
 #include <panel/files/filecontroller.h>
 #include <panel/files/samples.h>
-#include <panel/source/sweepcontroller.h>
+#include <panel/ground/languages.h>
 #include <panel/window/filedialog.h>
-#include <panel/window/languages.h>
+#include <panel/window/panellock.h>
 
 #include <QApplication>
 #include <QDir>
@@ -115,7 +115,7 @@ void Files::damageState(int how, int place)
         bytes.truncate(at);
         break;
     case 2:
-        bytes.insert(at, "\n[traces]\n1\\format=nan\nsize=-1\n");
+        bytes.insert(at, ", \"scale\": null, \"networks\": [{}], ");
         break;
     case 3:
         bytes.remove(at, 1 + place % 40);
@@ -140,18 +140,20 @@ Desk::~Desk() = default;
 
 void Desk::makePanel(const Panel::PanelState *state)
 {
-    if (!m_model)
+    if (!m_model) {
         m_model = std::make_unique<Panel::PanelModel>();
+        countChanges();
+    }
     m_window = std::make_unique<Panel::PanelWindow>(m_model.get());
     m_controller = std::make_unique<Panel::PanelController>(m_model.get(), m_window.get());
-    m_controller->setScreenshotFolder(m_files->pictures());
+    m_model->preferences()->setScreenshotFolder(m_files->pictures());
     m_window->resize(1024, 600);
     if (state && !state->files().isEmpty())
-        m_controller->openFiles(state->files());
+        m_controller->fileController()->openFiles(state->files());
     if (m_model->networks().isEmpty())
-        m_controller->openFiles({Panel::startSample()});
+        m_controller->fileController()->openFiles({Panel::startSample()});
     if (state)
-        state->restore(m_model.get(), m_controller.get());
+        state->restore(m_model.get());
     m_window->show();
     m_window->activateWindow();
     settle();
@@ -187,8 +189,7 @@ void Desk::dropPanel(const Event &event)
 
 void Desk::restart(const Event &event)
 {
-    const bool saved =
-        Panel::PanelState(m_files->state()).save(*m_model, *m_controller, m_controller->language());
+    const bool saved = Panel::PanelState::save(*m_model, m_files->state());
     destroyPanel(true);
     settle();
     if (event.a > 0)
@@ -425,7 +426,7 @@ void Desk::host(const Event &event)
         Panel::Sweep sweep = m_model->sweep();
         sweep.points = event.b;
         m_model->setSweep(sweep);
-        m_controller->sweepController()->simulate(Panel::SimulatedDevice::Kind(event.a));
+        m_model->setSource(Panel::Source(event.a + 1));
         break;
     }
     case Species::DropPanel:
@@ -456,8 +457,30 @@ void Desk::keepBounds()
         dialog->setFolder(m_files->folder());
 }
 
+void Desk::countChanges()
+{
+    using Panel::PanelModel;
+    const PanelModel *model = m_model.get();
+    const auto count = [this] { ++m_changes; };
+    for (const auto signal :
+         {&PanelModel::markerAdded, &PanelModel::markerMoved, &PanelModel::markerRemoved})
+        QObject::connect(model, signal, model, count);
+    QObject::connect(model, &PanelModel::zoomChanged, model, count);
+    QObject::connect(model, &PanelModel::traceScaleChanged, model, count);
+    QObject::connect(model, &PanelModel::traceVisibleChanged, model, count);
+    QObject::connect(model, &PanelModel::memoryChanged, model, count);
+    QObject::connect(model->viewSettings(), &Panel::ViewSettings::changed, model, count);
+    QObject::connect(model->preferences(), &Panel::Preferences::changed, model, count);
+    QObject::connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged,
+                     model, count);
+}
+
 void Desk::perform(const Event &event)
 {
+    const auto isLocked = [this] { return m_window->lock()->isLocked(); };
+    const bool byHand = event.species <= Species::Key && !isPointerDown();
+    const bool locked = byHand && isLocked();
+    const int changes = m_changes;
     switch (event.species) {
     case Species::Tap:
     case Species::DoubleTap:
@@ -485,6 +508,8 @@ void Desk::perform(const Event &event)
         break;
     }
     settle();
+    if (locked && isLocked() && m_changes != changes)
+        m_broken << QStringLiteral("a locked panel has changed");
     keepBounds();
 }
 

@@ -31,7 +31,7 @@ public:
     /// Writes other contents, removes the file, or brings back what it was.
     void change(int index, int how);
     /// Where the panel's state is kept.
-    QString state() const { return m_dir.filePath(QStringLiteral("state.ini")); }
+    QString state() const { return m_dir.filePath(QStringLiteral("state.json")); }
     /// Damages the saved state in one of five ways, at a place that is anywhere in it or behind.
     void damageState(int how, int place);
 
@@ -80,6 +80,7 @@ private:
     void key(const Event &event);
     void host(const Event &event);
     void keepBounds();
+    void countChanges();
     QPoint drawPosition(Random &random, bool behind) const;
     bool drawPointOfTrace(Random &random, QPoint &position) const;
 
@@ -95,6 +96,7 @@ private:
     int m_fingers = 0;
     QPointer<QWindow> m_touchedWindow;
     QPoint m_finger[2];
+    int m_changes = 0; ///< of what only a hand changes
     QStringList m_broken;
 };
 

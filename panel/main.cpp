@@ -1,21 +1,25 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <panel/files/filecontroller.h>
 #include <panel/files/panelstate.h>
 #include <panel/files/samples.h>
-#include <panel/look/look.h>
+#include <panel/files/statekeeper.h>
+#include <panel/ground/languages.h>
+#include <panel/ground/look.h>
 #include <panel/model/panelmodel.h>
-#include <panel/source/sweepcontroller.h>
+#include <panel/touchstone/saving.h>
 #include <panel/window/commandline.h>
 #include <panel/window/grab.h>
-#include <panel/window/languages.h>
 #include <panel/window/messagebar.h>
 #include <panel/window/panelcontroller.h>
 #include <panel/window/panelwindow.h>
+#include <panel/window/quitsignals.h>
 
 #include <QApplication>
 #include <QEventLoop>
 #include <QFile>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include <cstdio>
@@ -59,15 +63,44 @@ void printPeakMemory()
 
 /// Opens the files that were asked for, or else those of the last time, or else a sample; false if
 /// one that was asked for cannot be read.
-bool openFiles(Panel::PanelController *controller, const QStringList &files,
+bool openFiles(Panel::FileController *controller, const QStringList &files,
                const QStringList &filesOfLastTime)
 {
     if (!files.isEmpty())
         return controller->openFiles(files);
-    if (filesOfLastTime.isEmpty())
+    if (filesOfLastTime.isEmpty() || !controller->openFiles(filesOfLastTime))
         return controller->openFiles({Panel::startSample()});
-    controller->openFiles(filesOfLastTime);
     return true;
+}
+
+/// Converts a file; what had to be assumed of it is said.
+int convert(const Panel::CommandLine &commandLine)
+{
+    const Panel::Conversion conversion =
+        Panel::convertFile(commandLine.files.first(), commandLine.saveFile,
+                           {commandLine.touchstoneVersion, commandLine.overwrite});
+    for (const QString &remark : conversion.remarks)
+        std::fprintf(stderr, "vnapanel: %s\n", qUtf8Printable(remark));
+    if (!conversion.error.isEmpty())
+        std::fprintf(stderr, "vnapanel: %s\n", qUtf8Printable(conversion.error));
+    return conversion.error.isEmpty() ? 0 : 1;
+}
+
+/// So that a picture has something to show.
+void waitForSweep(Panel::PanelController *controller)
+{
+    QEventLoop swept;
+    QObject::connect(controller, &Panel::PanelController::sweepCompleted, &swept,
+                     &QEventLoop::quit);
+    swept.exec();
+}
+
+/// Makes the window no larger than its screen, once its frame is known.
+void fitToScreen(QWidget *window)
+{
+    const QRect available = window->screen()->availableGeometry();
+    const QSize frame = window->frameGeometry().size() - window->size();
+    window->resize(window->size().boundedTo(available.size() - frame));
 }
 
 } // namespace
@@ -83,12 +116,17 @@ int main(int argc, char **argv)
         return 2;
     }
     if (commandLine.help) {
+        const QCoreApplication application(argc, argv);
         std::fputs(qUtf8Printable(helpText()), stdout);
         return 0;
     }
     if (commandLine.version) {
         std::puts("vnapanel " VNAPANEL_VERSION);
         return 0;
+    }
+    if (!commandLine.saveFile.isEmpty()) {
+        const QCoreApplication application(argc, argv);
+        return convert(commandLine);
     }
     const bool grabs = !commandLine.grabFolder.isEmpty();
     const auto unset = [](const char *name) { return qEnvironmentVariableIsEmpty(name); };
@@ -104,8 +142,9 @@ int main(int argc, char **argv)
     application.setApplicationName(QStringLiteral("vnapanel"));
     setUpApplication();
     // Pictures and timings are of the panel as it is made, whatever somebody has left.
-    const PanelState state(grabs || commandLine.exitWhenShown    ? QString()
-                               : commandLine.stateFile.isEmpty() ? PanelState::usualPath()
+    const bool keepsState = !grabs && !commandLine.exitWhenShown;
+    const PanelState state(!keepsState                           ? QString()
+                               : commandLine.stateFile.isEmpty() ? PanelState::defaultPath()
                                                                  : commandLine.stateFile);
     const QString saved = state.language().isEmpty() ? QStringLiteral("en") : state.language();
     setLanguage(commandLine.language.isEmpty() ? saved : commandLine.language);
@@ -114,23 +153,25 @@ int main(int argc, char **argv)
     PanelWindow window(&model);
     PanelController controller(&model, &window);
     window.resize(commandLine.size);
-    const bool opened = openFiles(&controller, commandLine.files, state.files());
-    if (commandLine.simulate) {
-        controller.sweepController()->simulate(SimulatedDevice::Filter);
-        // So that a picture has something to show.
-        QEventLoop swept;
-        QObject::connect(controller.sweepController(), &SweepController::sweepCompleted, &swept,
-                         &QEventLoop::quit);
-        swept.exec();
-    }
+    const bool opened = openFiles(controller.fileController(), commandLine.files, state.files());
     if (grabs) {
+        if (commandLine.simulate) {
+            model.setSource(Source::Filter);
+            waitForSweep(&controller);
+        }
         window.setAttribute(Qt::WA_DontShowOnScreen);
         window.show();
         return grabScreens(&model, &window, commandLine.grabFolder) && opened ? 0 : 1;
     }
-    state.restore(&model, &controller);
+    // Files that are asked for come before a simulation of the last time.
+    state.restore(&model, commandLine.files.isEmpty() && !commandLine.simulate);
+    if (commandLine.simulate)
+        model.setSource(Source::Filter);
     if (!state.note().isEmpty())
         window.messageBar()->setMessage(state.note());
+    else if (commandLine.files.isEmpty() && state.files().isEmpty() && !commandLine.simulate)
+        window.messageBar()->notify(QCoreApplication::translate(
+            "Panel::PanelWindow", "This is a sample. Open your own files with System, File."));
     // No larger than what it is shown on.
     window.resize(commandLine.size.boundedTo(window.screen()->availableSize()));
     window.show();
@@ -141,8 +182,13 @@ int main(int argc, char **argv)
         printPeakMemory();
         return 0;
     }
+    QTimer::singleShot(200, &window, [&window] { fitToScreen(&window); });
+    StateKeeper keeper(&model, state.path());
+    const QuitSignals quitSignals;
     const int status = QApplication::exec();
-    if (!state.save(model, controller, controller.language()))
-        std::fprintf(stderr, "vnapanel: the panel's state could not be saved.\n");
-    return status;
+    if (keeper.save())
+        return status;
+    std::fprintf(stderr, "vnapanel: the panel's state could not be saved to %s.\n",
+                 qUtf8Printable(state.path()));
+    return 1;
 }

@@ -11,9 +11,28 @@
         <source>ref %1</source>
         <translation>Ref %1</translation>
     </message>
+    <message>
+        <source>Tr%1 %2</source>
+        <translation>Tr%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 lies above: fit</source>
+        <translation>%1 liegt darüber: einpassen</translation>
+    </message>
+    <message>
+        <source>%1 lies below: fit</source>
+        <translation>%1 liegt darunter: einpassen</translation>
+    </message>
 </context>
 <context>
-    <name>Panel::DiagramController</name>
+    <name>Panel::DiagramView</name>
+    <message>
+        <source>All traces are hidden</source>
+        <translation>Alle Kurven sind ausgeblendet</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::DisplayKeys</name>
     <message>
         <source>Impedance</source>
         <translation>Impedanz</translation>
@@ -48,13 +67,6 @@
     </message>
 </context>
 <context>
-    <name>Panel::DiagramView</name>
-    <message>
-        <source>All traces are hidden</source>
-        <translation>Alle Kurven sind ausgeblendet</translation>
-    </message>
-</context>
-<context>
     <name>Panel::FileController</name>
     <message>
         <source>Reading %1</source>
@@ -66,10 +78,6 @@
             <numerusform>%n Datei wird gelesen</numerusform>
             <numerusform>%n Dateien werden gelesen</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
     </message>
     <message numerus="yes">
         <source>(%n more)</source>
@@ -99,14 +107,6 @@
             <numerusform>%n Datei wurde auf dem Datenträger geändert.</numerusform>
             <numerusform>%n Dateien wurden auf dem Datenträger geändert.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>Neu laden</translation>
-    </message>
-    <message>
-        <source>Only files of this computer can be opened.</source>
-        <translation>Nur Dateien dieses Rechners lassen sich öffnen.</translation>
     </message>
 </context>
 <context>
@@ -151,16 +151,16 @@
         </translation>
     </message>
     <message>
-        <source>No .s1p or .s2p files here</source>
-        <translation>Hier sind keine .s1p- oder .s2p-Dateien</translation>
-    </message>
-    <message>
         <source>This folder cannot be read</source>
         <translation>Dieser Ordner lässt sich nicht lesen</translation>
     </message>
     <message>
         <source>Tap files to pick them</source>
         <translation>Dateien zum Auswählen antippen</translation>
+    </message>
+    <message>
+        <source>No Touchstone files here</source>
+        <translation>Keine Touchstone-Dateien hier</translation>
     </message>
 </context>
 <context>
@@ -209,10 +209,6 @@
         <translation>Diagramm vergrößern oder ganz zeigen</translation>
     </message>
     <message>
-        <source>move the selected marker, or the view</source>
-        <translation>gewählten Marker oder Ausschnitt verschieben</translation>
-    </message>
-    <message>
         <source>move the view</source>
         <translation>Ausschnitt verschieben</translation>
     </message>
@@ -253,10 +249,6 @@
         <translation>Strg + L</translation>
     </message>
     <message>
-        <source>show or hide the padlock</source>
-        <translation>Sperrschloss ein- oder ausblenden</translation>
-    </message>
-    <message>
         <source>Ctrl + T</source>
         <translation>Strg + T</translation>
     </message>
@@ -287,6 +279,22 @@
     <message>
         <source>quit</source>
         <translation>beenden</translation>
+    </message>
+    <message>
+        <source>move the selected marker, with Ctrl by a point; or the view</source>
+        <translation>gewählten Marker bewegen, mit Strg um einen Punkt; oder den Ausschnitt</translation>
+    </message>
+    <message>
+        <source>G, M, k</source>
+        <translation>G, M, k</translation>
+    </message>
+    <message>
+        <source>finish a typed number in GHz, MHz or kHz</source>
+        <translation>getippte Zahl in GHz, MHz oder kHz abschließen</translation>
+    </message>
+    <message>
+        <source>lock the panel, or unlock it</source>
+        <translation>Bedienung sperren oder freigeben</translation>
     </message>
 </context>
 <context>
@@ -388,6 +396,14 @@
         <source>Scale, %1/</source>
         <translation>Skala, %1/</translation>
     </message>
+    <message>
+        <source>Stop moved along, to %1.</source>
+        <translation>Stopp ist mitgegangen, auf %1.</translation>
+    </message>
+    <message>
+        <source>Start moved along, to %1.</source>
+        <translation>Start ist mitgegangen, auf %1.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelController</name>
@@ -396,8 +412,16 @@
         <translation>Die Sprache wechselt mit dem nächsten Start des Programms.</translation>
     </message>
     <message>
-        <source>The screenshot is %1.</source>
-        <translation>Das Bildschirmfoto liegt in %1.</translation>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>Gespeichert: %1</translation>
     </message>
 </context>
 <context>
@@ -522,6 +546,10 @@
         <source>Keys</source>
         <translation>Tasten</translation>
     </message>
+    <message>
+        <source>Whole view</source>
+        <translation>Ganze Ansicht</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -569,10 +597,6 @@
         <translation>Keine Daten</translation>
     </message>
     <message>
-        <source>Open a Touchstone file (.s1p, .s2p) to see it.</source>
-        <translation>Eine Touchstone-Datei (.s1p, .s2p) öffnen, um sie zu sehen.</translation>
-    </message>
-    <message>
         <source>Open file…</source>
         <translation>Datei öffnen…</translation>
     </message>
@@ -587,12 +611,40 @@
         <source>Open…</source>
         <translation>Öffnen…</translation>
     </message>
+    <message>
+        <source>The panel is locked: tap the padlock to unlock.</source>
+        <translation>Die Bedienung ist gesperrt: zum Freigeben auf das Schloss tippen.</translation>
+    </message>
+    <message>
+        <source>Simulated: %1</source>
+        <translation>Simuliert: %1</translation>
+    </message>
+    <message>
+        <source>Sample: %1</source>
+        <translation>Beispiel: %1</translation>
+    </message>
+    <message>
+        <source>Only files of this computer can be opened.</source>
+        <translation>Nur Dateien dieses Rechners lassen sich öffnen.</translation>
+    </message>
+    <message>
+        <source>This is a sample. Open your own files with System, File.</source>
+        <translation>Dies ist ein Beispiel. Eigene Dateien öffnet System, Datei.</translation>
+    </message>
+    <message>
+        <source>Open a Touchstone file (.s1p, .s2p, .ts) to see it.</source>
+        <translation>Eine Touchstone-Datei (.s1p, .s2p, .ts) öffnen, um sie zu sehen.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::ReadOuts</name>
     <message>
         <source>Markers</source>
         <translation>Marker</translation>
+    </message>
+    <message>
+        <source>Tap a trace twice to set a marker.</source>
+        <translation>Zweimal auf eine Kurve tippen setzt einen Marker.</translation>
     </message>
 </context>
 <context>
@@ -642,7 +694,22 @@
     </message>
 </context>
 <context>
-    <name>Panel::SimulatedDevice</name>
+    <name>Panel::SmithView</name>
+    <message>
+        <source>Smith chart</source>
+        <translation>Smith-Diagramm</translation>
+    </message>
+    <message>
+        <source>Z %1</source>
+        <translation>Z %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Source</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
     <message>
         <source>Antenna</source>
         <translation>Antenne</translation>
@@ -654,17 +721,6 @@
     <message>
         <source>Long cable</source>
         <translation>Langes Kabel</translation>
-    </message>
-</context>
-<context>
-    <name>Panel::SmithView</name>
-    <message>
-        <source>Smith chart</source>
-        <translation>Smith-Diagramm</translation>
-    </message>
-    <message>
-        <source>Z %1</source>
-        <translation>Z %1</translation>
     </message>
 </context>
 <context>
@@ -680,13 +736,6 @@
     <message>
         <source>Speed: %1 sweeps/s</source>
         <translation>Rate: %1 Sweeps/s</translation>
-    </message>
-</context>
-<context>
-    <name>Panel::SweepController</name>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
     </message>
 </context>
 <context>

@@ -11,9 +11,28 @@
         <source>ref %1</source>
         <translation>参考 %1</translation>
     </message>
+    <message>
+        <source>Tr%1 %2</source>
+        <translation>Tr%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 lies above: fit</source>
+        <translation>%1 在上方：适配</translation>
+    </message>
+    <message>
+        <source>%1 lies below: fit</source>
+        <translation>%1 在下方：适配</translation>
+    </message>
 </context>
 <context>
-    <name>Panel::DiagramController</name>
+    <name>Panel::DiagramView</name>
+    <message>
+        <source>All traces are hidden</source>
+        <translation>所有轨迹均已隐藏</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::DisplayKeys</name>
     <message>
         <source>Impedance</source>
         <translation>阻抗</translation>
@@ -48,13 +67,6 @@
     </message>
 </context>
 <context>
-    <name>Panel::DiagramView</name>
-    <message>
-        <source>All traces are hidden</source>
-        <translation>所有轨迹均已隐藏</translation>
-    </message>
-</context>
-<context>
     <name>Panel::FileController</name>
     <message>
         <source>Reading %1</source>
@@ -65,10 +77,6 @@
         <translation>
             <numerusform>正在读取 %n 个文件</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
     </message>
     <message numerus="yes">
         <source>(%n more)</source>
@@ -95,14 +103,6 @@
         <translation>
             <numerusform>%n 个文件在磁盘上已更改。</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>重新读取</translation>
-    </message>
-    <message>
-        <source>Only files of this computer can be opened.</source>
-        <translation>只能打开本机上的文件。</translation>
     </message>
 </context>
 <context>
@@ -146,16 +146,16 @@
         </translation>
     </message>
     <message>
-        <source>No .s1p or .s2p files here</source>
-        <translation>此处没有 .s1p 或 .s2p 文件</translation>
-    </message>
-    <message>
         <source>This folder cannot be read</source>
         <translation>此文件夹无法读取</translation>
     </message>
     <message>
         <source>Tap files to pick them</source>
         <translation>点按文件以选择</translation>
+    </message>
+    <message>
+        <source>No Touchstone files here</source>
+        <translation>此处没有 Touchstone 文件</translation>
     </message>
 </context>
 <context>
@@ -204,10 +204,6 @@
         <translation>放大图形，或显示全图</translation>
     </message>
     <message>
-        <source>move the selected marker, or the view</source>
-        <translation>移动所选标记或视图</translation>
-    </message>
-    <message>
         <source>move the view</source>
         <translation>移动视图</translation>
     </message>
@@ -248,10 +244,6 @@
         <translation>Ctrl + L</translation>
     </message>
     <message>
-        <source>show or hide the padlock</source>
-        <translation>显示或隐藏屏幕锁</translation>
-    </message>
-    <message>
         <source>Ctrl + T</source>
         <translation>Ctrl + T</translation>
     </message>
@@ -282,6 +274,22 @@
     <message>
         <source>quit</source>
         <translation>退出</translation>
+    </message>
+    <message>
+        <source>move the selected marker, with Ctrl by a point; or the view</source>
+        <translation>移动所选标记，按住 Ctrl 移动一个点；或移动视图</translation>
+    </message>
+    <message>
+        <source>G, M, k</source>
+        <translation>G, M, k</translation>
+    </message>
+    <message>
+        <source>finish a typed number in GHz, MHz or kHz</source>
+        <translation>以 GHz、MHz 或 kHz 完成输入</translation>
+    </message>
+    <message>
+        <source>lock the panel, or unlock it</source>
+        <translation>锁定或解锁面板</translation>
     </message>
 </context>
 <context>
@@ -383,6 +391,14 @@
         <source>Scale, %1/</source>
         <translation>刻度，%1/</translation>
     </message>
+    <message>
+        <source>Stop moved along, to %1.</source>
+        <translation>终止频率随之移至 %1。</translation>
+    </message>
+    <message>
+        <source>Start moved along, to %1.</source>
+        <translation>起始频率随之移至 %1。</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelController</name>
@@ -391,8 +407,16 @@
         <translation>语言将在下次启动程序时更改。</translation>
     </message>
     <message>
-        <source>The screenshot is %1.</source>
-        <translation>截屏已保存为 %1。</translation>
+        <source>Reload</source>
+        <translation>重新读取</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>已保存 %1</translation>
     </message>
 </context>
 <context>
@@ -517,6 +541,10 @@
         <source>Keys</source>
         <translation>按键</translation>
     </message>
+    <message>
+        <source>Whole view</source>
+        <translation>全图</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -564,10 +592,6 @@
         <translation>无数据</translation>
     </message>
     <message>
-        <source>Open a Touchstone file (.s1p, .s2p) to see it.</source>
-        <translation>打开 Touchstone 文件（.s1p、.s2p）即可查看。</translation>
-    </message>
-    <message>
         <source>Open file…</source>
         <translation>打开文件…</translation>
     </message>
@@ -581,12 +605,40 @@
         <source>Open…</source>
         <translation>打开…</translation>
     </message>
+    <message>
+        <source>The panel is locked: tap the padlock to unlock.</source>
+        <translation>面板已锁定：点按挂锁解锁。</translation>
+    </message>
+    <message>
+        <source>Simulated: %1</source>
+        <translation>模拟：%1</translation>
+    </message>
+    <message>
+        <source>Sample: %1</source>
+        <translation>示例：%1</translation>
+    </message>
+    <message>
+        <source>Only files of this computer can be opened.</source>
+        <translation>只能打开本机上的文件。</translation>
+    </message>
+    <message>
+        <source>This is a sample. Open your own files with System, File.</source>
+        <translation>这是示例。用“系统”“文件”打开您的文件。</translation>
+    </message>
+    <message>
+        <source>Open a Touchstone file (.s1p, .s2p, .ts) to see it.</source>
+        <translation>打开 Touchstone 文件（.s1p、.s2p、.ts）即可查看。</translation>
+    </message>
 </context>
 <context>
     <name>Panel::ReadOuts</name>
     <message>
         <source>Markers</source>
         <translation>标记</translation>
+    </message>
+    <message>
+        <source>Tap a trace twice to set a marker.</source>
+        <translation>双击轨迹以设置标记。</translation>
     </message>
 </context>
 <context>
@@ -636,7 +688,22 @@
     </message>
 </context>
 <context>
-    <name>Panel::SimulatedDevice</name>
+    <name>Panel::SmithView</name>
+    <message>
+        <source>Smith chart</source>
+        <translation>史密斯圆图</translation>
+    </message>
+    <message>
+        <source>Z %1</source>
+        <translation>Z %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Source</name>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
     <message>
         <source>Antenna</source>
         <translation>天线</translation>
@@ -648,17 +715,6 @@
     <message>
         <source>Long cable</source>
         <translation>长电缆</translation>
-    </message>
-</context>
-<context>
-    <name>Panel::SmithView</name>
-    <message>
-        <source>Smith chart</source>
-        <translation>史密斯圆图</translation>
-    </message>
-    <message>
-        <source>Z %1</source>
-        <translation>Z %1</translation>
     </message>
 </context>
 <context>
@@ -674,13 +730,6 @@
     <message>
         <source>Speed: %1 sweeps/s</source>
         <translation>速度：%1 次/秒</translation>
-    </message>
-</context>
-<context>
-    <name>Panel::SweepController</name>
-    <message>
-        <source>File</source>
-        <translation>文件</translation>
     </message>
 </context>
 <context>

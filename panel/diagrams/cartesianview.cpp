@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cartesianview.h"
 
-#include <panel/look/look.h>
-#include <panel/model/format.h>
+#include <panel/ground/look.h>
 
-#include <plot/qcp.h>
-#include <base/qtcompat_p.h>
+#include <plot/markerselection.h>
 
-#include <algorithm>
+#include <QPushButton>
+
 #include <cmath>
 
 namespace Panel
@@ -17,27 +16,37 @@ namespace Panel
 namespace
 {
 
-constexpr int s_frequencyDivisions = 10;
-/// How near a finger must be to a marker or a line, in pixels.
-constexpr double s_reach = 24.0;
-
 QString activeLayer()
 {
     return QStringLiteral("activeTrace");
 }
 
+/// Draws it above all others of its layer.
+void bringToFront(QCPLayerable *item)
+{
+    if (item)
+        item->setLayer(item->layer());
+}
+
 } // namespace
 
-CartesianView::CartesianView(const PanelModel *model, QWidget *parent)
-    : DiagramView(model, parent)
+CartesianView::CartesianView(const PanelModel *model, const DiagramId &id, QWidget *parent)
+    : DiagramView(model, id, parent)
+    , m_frequencies(plot())
+    , m_fitButton(new QPushButton(plot()))
 {
     setUpPlot();
-    connect(plot(), &QCustomPlot::mousePress, this, &CartesianView::onPress);
-    connect(plot(), &QCustomPlot::mouseMove, this, &CartesianView::onMove);
-    connect(plot(), &QCustomPlot::mouseRelease, this, [this] { m_dragged = {0, 0}; });
-    connect(m_model, &PanelModel::traceScaleChanged, this, [this](int id) {
-        showScale(id);
-        updateTitle();
+    m_fitButton->setObjectName(QStringLiteral("fitTrace"));
+    m_fitButton->setAutoDefault(false);
+    m_fitButton->hide();
+    connect(m_fitButton, &QPushButton::clicked, this, [this] { Q_EMIT fitRequested(m_offScale); });
+    connect(m_model, &PanelModel::traceScaleChanged, this, [this](int traceId) {
+        if (m_lines.count(traceId) == 0)
+            return;
+        showScale(traceId);
+        showWrittenScale();
+        showOffScale();
+        replotLater();
     });
     recolor();
 }
@@ -47,7 +56,8 @@ void CartesianView::setUpPlot()
     plot()->setAccessibleName(tr("Cartesian diagram"));
     plot()->addLayer(activeLayer(), plot()->layer(QStringLiteral("main")));
     // Above is room for a marker on the topmost line and its number.
-    plot()->axisRect()->setMinimumMargins(QMargins(12, 18 + fontMetrics().height() + 6, 14, 14));
+    plot()->axisRect()->setMinimumMargins(
+        QMargins(12, 18 + fontMetrics().height() + 6, 14, FrequencyAxis::heightFor(fontMetrics())));
     plot()->axisRect()->setupFullAxesBox();
     for (QCPAxis *axis : plot()->axisRect()->axes()) {
         axis->setTicks(axis == plot()->yAxis || axis == plot()->xAxis);
@@ -56,13 +66,11 @@ void CartesianView::setUpPlot()
         axis->setTickLabels(axis == plot()->yAxis);
     }
     plot()->yAxis->setTickLabelPadding(8);
-    plot()->xAxis->grid()->setZeroLinePen(Qt::NoPen);
     plot()->yAxis->grid()->setZeroLinePen(Qt::NoPen);
     plot()->yAxis->setNumberFormat(QStringLiteral("gb"));
     plot()->yAxis->setNumberPrecision(4);
-    plot()->xAxis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
     plot()->yAxis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
-    setFrequencies(m_lowest, m_highest);
+    m_frequencies.setRange(m_whole);
 }
 
 QCPGraph *CartesianView::graph(int traceId) const
@@ -77,7 +85,7 @@ QCPGraph *CartesianView::memoryGraph(int traceId) const
     return found == m_lines.end() ? nullptr : found->second.memory;
 }
 
-const Plot::Marker *CartesianView::marker(int traceId, int number) const
+const Plot::Marker *CartesianView::drawnMarker(int traceId, int number) const
 {
     const auto found = m_markers.find({traceId, number});
     return found == m_markers.end() ? nullptr : &found->second;
@@ -86,7 +94,6 @@ const Plot::Marker *CartesianView::marker(int traceId, int number) const
 void CartesianView::clearLines()
 {
     m_markers.clear();
-    m_dragged = {0, 0};
     plot()->clearGraphs();
     for (const auto &[id, line] : m_lines)
         plot()->axisRect()->removeAxis(line.values);
@@ -96,71 +103,71 @@ void CartesianView::clearLines()
 void CartesianView::loadTraces()
 {
     clearLines();
-    for (const Trace &trace : traces()) {
-        Line &line = m_lines[trace.id];
-        line.values = plot()->axisRect()->addAxis(QCPAxis::atLeft);
-        line.values->setVisible(false);
-        line.values->grid()->setVisible(false);
-        line.graph = plot()->addGraph(plot()->xAxis, line.values);
-        line.graph->setSelectable(QCP::stNone);
-        line.graph->setVisible(trace.visible);
-    }
-    if (m_lines.empty())
-        return;
-    const bool magnified = zoom() > 1.0 && m_lowest < m_highest;
+    for (const Trace &trace : traces())
+        addLine(trace);
     fitFrequencies();
-    if (magnified)
-        setFrequencies(plot()->xAxis->range().lower, plot()->xAxis->range().upper);
-    else
-        setFrequencies(m_lowest, m_highest);
     for (const Trace &trace : traces()) {
         showScale(trace.id);
         showMemory(trace);
-        for (const Marker &marker : m_model->markersOf(trace.id))
-            addMarker(trace, marker);
     }
-    loadLines();
+    fillLines();
     showActiveTrace();
     recolor();
 }
 
+void CartesianView::addLine(const Trace &trace)
+{
+    Line &line = m_lines[trace.id];
+    line.values = plot()->axisRect()->addAxis(QCPAxis::atLeft);
+    line.values->setVisible(false);
+    line.values->grid()->setVisible(false);
+    line.graph = plot()->addGraph(plot()->xAxis, line.values);
+    line.graph->setSelectable(QCP::stNone);
+    line.graph->setVisible(trace.visible);
+}
+
 void CartesianView::updateTraces(int network)
 {
-    const double lowest = m_lowest, highest = m_highest;
-    fitFrequencies();
-    if (lowest != m_lowest || highest != m_highest)
-        setFrequencies(m_lowest, m_highest);
-    for (const Trace &trace : traces()) {
-        if (trace.network == network)
-            loadLine(trace);
+    if (fitFrequencies()) {
+        fillLines();
+    } else {
+        for (const Trace &trace : traces()) {
+            if (trace.network == network)
+                fillLine(trace);
+        }
+        showOffScale();
     }
+    replotLater();
 }
 
-void CartesianView::loadLines()
+void CartesianView::fillLines()
 {
     for (const Trace &trace : traces())
-        loadLine(trace);
+        fillLine(trace);
+    showOffScale();
 }
 
-void CartesianView::loadLine(const Trace &trace)
+/// Gives a line the points that the pixel columns of the last layout need, and places its markers.
+void CartesianView::fillLine(const Trace &trace)
 {
     const auto found = m_lines.find(trace.id);
-    if (found == m_lines.end())
+    if (found == m_lines.end() || m_laidOut.isEmpty())
         return;
-    const QCPRange range = plot()->xAxis->range();
+    Line &line = found->second;
+    const QCPRange range = m_frequencies.range();
     const auto load = [&](QCPGraph *graph, const QVector<double> &frequencies,
                           const Parameter &parameter) {
-        const CartesianLine line = cartesianLine(frequencies, parameter, trace.format,
-                                                 plot()->width(), range.lower, range.upper);
-        graph->setData(line.frequencies, line.values, true);
+        CartesianLine points = cartesianLine(frequencies, parameter, trace.format,
+                                             m_laidOut.width(), range.lower, range.upper);
+        graph->setData(points.frequencies, points.values, true);
+        return points;
     };
-    load(found->second.graph, m_model->network(trace).frequencies, m_model->data(trace));
+    line.drawn = valueRange(
+        load(line.graph, m_model->network(trace).frequencies, m_model->data(trace)).values);
     const Memory *memory = m_model->memory(trace.id);
-    if (found->second.memory && memory)
-        load(found->second.memory, memory->frequencies, memory->parameter);
-    for (const Marker &marker : m_model->markersOf(trace.id))
-        moveMarker(trace, marker);
-    replotLater();
+    if (line.memory && memory)
+        load(line.memory, memory->frequencies, memory->parameter);
+    placeMarkers(trace);
 }
 
 void CartesianView::showMemory(const Trace &trace)
@@ -173,71 +180,122 @@ void CartesianView::showMemory(const Trace &trace)
     } else if (stored && !line.memory) {
         line.memory = plot()->addGraph(plot()->xAxis, line.values);
         line.memory->setSelectable(QCP::stNone);
-        line.memory->setPen(QPen(currentLook().memory(trace.id)));
+        line.memory->setPen(currentLook().memoryPen(trace.id, trace.network));
         line.memory->setVisible(trace.visible);
     }
-    loadLine(trace);
+    fillLine(trace);
+    replotLater();
 }
 
-void CartesianView::fitFrequencies()
+/// Takes in all frequencies of the traces; true if there are others to show than before.
+bool CartesianView::fitFrequencies()
 {
-    m_lowest = qInf();
-    m_highest = -qInf();
+    double lowest = qInf(), highest = -qInf();
     for (const Trace &trace : traces()) {
         const QVector<double> &frequencies = m_model->network(trace).frequencies;
         if (frequencies.isEmpty())
             continue;
-        m_lowest = qMin(m_lowest, frequencies.first());
-        m_highest = qMax(m_highest, frequencies.last());
+        lowest = qMin(lowest, frequencies.first());
+        highest = qMax(highest, frequencies.last());
     }
-    if (m_lowest > m_highest)
-        m_lowest = m_highest = 0.0;
+    if (lowest > highest)
+        lowest = highest = 0.0;
     // A single frequency stands in the middle.
-    if (m_lowest == m_highest) {
-        m_lowest -= 1.0;
-        m_highest += 1.0;
+    if (lowest == highest) {
+        lowest -= 1.0;
+        highest += 1.0;
     }
+    m_whole = {lowest, highest};
+    const QCPRange before = m_frequencies.range();
+    m_frequencies.setRange(shownRange(m_model->zoom(id())));
+    return m_frequencies.range() != before;
 }
 
-void CartesianView::setFrequencies(double from, double to)
+QCPRange CartesianView::shownRange(const Zoom &zoom) const
 {
-    // Also a range that was chosen for other frequencies keeps the limits of the zoom.
-    const double whole = m_highest - m_lowest;
-    const double span = qBound(whole / mostZoom, to - from, whole);
-    from = qBound(m_lowest, from, m_highest - span);
-    const QCPRange range(from, from + span);
-    if (range == plot()->xAxis->range())
-        return;
-    auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(plot()->xAxis->ticker());
-    ticker->setTickOrigin(range.lower);
-    ticker->setTickStep(range.size() / s_frequencyDivisions);
-    plot()->xAxis->setRange(range);
+    const double half = m_whole.size() / 2.0;
+    const double centre = m_whole.center() + zoom.x * half;
+    // The ends themselves, where sums would round.
+    return zoom.isWhole() ? m_whole
+                          : QCPRange(centre - half / zoom.factor, centre + half / zoom.factor);
+}
+
+void CartesianView::showZoom()
+{
+    m_frequencies.setRange(shownRange(m_model->zoom(id())));
+    fillLines();
     replotLater();
 }
 
 void CartesianView::showScale(int traceId)
 {
-    const auto found = m_lines.find(traceId);
-    if (found == m_lines.end())
-        return;
     const Trace &trace = *m_model->trace(traceId);
-    const QCPRange range(trace.scale.top - divisions(trace.format) * trace.scale.perDivision,
-                         trace.scale.top);
-    found->second.values->setRange(range);
-    for (const Marker &marker : m_model->markersOf(traceId))
-        moveMarker(trace, marker);
+    m_lines.at(traceId).values->setRange(bottom(trace.format, trace.scale), trace.scale.top);
+    placeMarkers(trace);
+}
+
+/// Writes the scale of the active trace.
+void CartesianView::showWrittenScale()
+{
     const Trace *active = activeTrace();
-    if (active && active->id == traceId) {
-        auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(plot()->yAxis->ticker());
-        ticker->setTickOrigin(trace.scale.top);
-        // Where divisions are too low for their numbers, each line stands for several.
-        const double height = plot()->axisRect()->height() / double(divisions(trace.format));
-        const double needed = QFontMetricsF(plot()->yAxis->tickLabelFont()).height() / height;
-        const int step = needed <= 1.0 ? 1 : needed <= 2.0 ? 2 : 5;
-        ticker->setTickStep(step * trace.scale.perDivision);
-        plot()->yAxis->setRange(range);
+    if (!active || m_laidOut.isEmpty())
+        return;
+    auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(plot()->yAxis->ticker());
+    ticker->setTickOrigin(active->scale.top);
+    // Where divisions are too low for their numbers, each line stands for several.
+    const double height = m_laidOut.height() / double(traits(active->format).divisions);
+    const double needed = QFontMetricsF(plot()->yAxis->tickLabelFont()).height() / height;
+    const int step = needed <= 1.0 ? 1 : needed <= 2.0 ? 2 : 5;
+    ticker->setTickStep(step * active->scale.perDivision);
+    plot()->yAxis->setRange(bottom(active->format, active->scale), active->scale.top);
+}
+
+/// Offers to fit the first visible trace, the active one before all others, that has no point
+/// between bottom and top.
+void CartesianView::showOffScale()
+{
+    const Trace *active = activeTrace();
+    QVector<Trace> order = traces();
+    std::stable_partition(order.begin(), order.end(), [active](const Trace &trace) {
+        return active && trace.id == active->id;
+    });
+    m_offScale = 0;
+    for (const Trace &trace : qAsConst(order)) {
+        const ValueRange drawn = m_lines.at(trace.id).drawn;
+        const bool above = drawn.lowest > trace.scale.top;
+        const bool below = drawn.highest < bottom(trace.format, trace.scale);
+        if (!trace.visible || (!above && !below))
+            continue;
+        m_offScale = trace.id;
+        const QString name =
+            tr("Tr%1 %2").arg(QString::number(trace.id), PanelModel::parameterName(trace));
+        m_fitButton->setText(above ? tr("%1 lies above: fit").arg(name)
+                                   : tr("%1 lies below: fit").arg(name));
+        m_fitButton->adjustSize();
+        break;
     }
-    replotLater();
+    m_fitButton->setVisible(m_offScale != 0);
+    const QRect place = plot()->axisRect()->rect();
+    m_fitButton->move(place.right() - m_fitButton->width() - 8, place.top() + 8);
+}
+
+void CartesianView::onLayout()
+{
+    const QCPAxisRect *rect = plot()->axisRect();
+    const bool changed = rect->size() != m_laidOut;
+    // Other numbers beside the axis may want another margin, which leaves another rectangle.
+    constexpr int mostPasses = 3;
+    for (int pass = 0; pass < mostPasses && rect->size() != m_laidOut; ++pass) {
+        m_laidOut = rect->size();
+        showWrittenScale();
+        for (const auto phase : {QCPLayoutElement::upPreparation, QCPLayoutElement::upMargins,
+                                 QCPLayoutElement::upLayout})
+            plot()->plotLayout()->update(phase);
+    }
+    m_laidOut = rect->size();
+    m_frequencies.fit();
+    if (changed)
+        fillLines();
 }
 
 void CartesianView::setTraceVisible(const Trace &trace)
@@ -246,10 +304,8 @@ void CartesianView::setTraceVisible(const Trace &trace)
     line.graph->setVisible(trace.visible);
     if (line.memory)
         line.memory->setVisible(trace.visible);
-    for (auto &[key, marker] : m_markers) {
-        if (key.first == trace.id)
-            marker.setVisible(trace.visible);
-    }
+    placeMarkers(trace);
+    showOffScale();
     replotLater();
 }
 
@@ -258,39 +314,36 @@ void CartesianView::showActiveTrace()
     const Trace *active = activeTrace();
     for (const auto &[id, line] : m_lines)
         line.graph->setLayer(active && active->id == id ? activeLayer() : QStringLiteral("main"));
-    if (active)
-        showScale(active->id);
-    replotLater();
-}
-
-void CartesianView::addMarker(const Trace &trace, const Marker &added)
-{
-    Plot::Marker &marker = m_markers
-                               .emplace(MarkerKey(trace.id, added.number),
-                                        Plot::Marker(plot(), added.number, Plot::PointingDown))
-                               .first->second;
-    marker.getLabel()->setText(QString::number(added.number));
-    marker.setVisible(trace.visible);
-    moveMarker(trace, added);
+    showWrittenScale();
+    showOffScale();
     showSelectedMarker();
 }
 
-void CartesianView::moveMarker(const Trace &trace, const Marker &moved)
+void CartesianView::placeMarker(const Trace &trace, const Marker &placed)
 {
-    const auto found = m_markers.find({trace.id, moved.number});
-    if (found == m_markers.end())
-        return;
-    const double hertz = valueAt(m_model->network(trace).frequencies, moved.index);
-    const double value = cartesianValueAt(m_model->data(trace), moved.index, trace.format);
-    const bool shown =
-        trace.visible && std::isfinite(value) && plot()->xAxis->range().contains(hertz);
+    const MarkerKey key(trace.id, placed.number);
+    auto found = m_markers.find(key);
+    if (found == m_markers.end()) {
+        found =
+            m_markers.emplace(key, Plot::Marker(plot(), placed.number, Plot::PointingDown)).first;
+        found->second.getLabel()->setText(QString::number(placed.number));
+        showSelectedMarker();
+    }
     Plot::Marker &marker = found->second;
-    // Beyond the scale it stands at the diagram's edge, of which the upper one lies a pixel outside
-    // for the plot.
-    const QCPRange scale = m_lines.at(trace.id).values->range();
-    const double pixel = scale.size() / qMax(2, plot()->axisRect()->height());
-    marker.setPositionCoordinates(graph(trace.id), hertz,
-                                  qBound(scale.lower, value, scale.upper - pixel));
+    const double index = m_model->indexOf(placed);
+    const double hertz = m_model->hertzOf(placed);
+    const double value =
+        index < 0.0 ? qQNaN() : cartesianValueAt(m_model->data(trace), index, trace.format);
+    const bool shown = trace.visible && std::isfinite(value) && !m_laidOut.isEmpty()
+        && m_frequencies.range().contains(hertz);
+    if (shown) {
+        // Beyond the scale it stands at the diagram's edge, of which the upper one lies a pixel
+        // outside for the plot.
+        const QCPRange scale = m_lines.at(trace.id).values->range();
+        const double pixel = scale.size() / qMax(2, m_laidOut.height());
+        marker.setPositionCoordinates(graph(trace.id), hertz,
+                                      qBound(scale.lower, value, scale.upper - pixel));
+    }
     if (marker.isVisible() != shown)
         marker.setVisible(shown);
     replotLater();
@@ -305,14 +358,23 @@ void CartesianView::removeMarker(int traceId, int number)
 void CartesianView::showSelectedMarker()
 {
     const Look look = currentLook();
-    const Marker *selected = m_model->selectedMarker();
+    const Trace *active = activeTrace();
+    const auto raiseMarker = [](Plot::Marker &marker) {
+        bringToFront(marker.getTracer());
+        bringToFront(marker.getLabel());
+    };
+    Plot::Marker *selected = nullptr;
     for (auto &[key, marker] : m_markers) {
-        // As on the Smith chart.
-        const bool filled =
-            selected && selected->trace == key.first && selected->number == key.second;
-        const QColor color = filled ? look.trace(key.first).lighter(120) : look.trace(key.first);
-        marker.setColors(QPen(color, filled ? 2.0 : 1.5), filled ? QBrush(color) : QBrush());
+        const Marker *const own = m_model->marker(key.first, key.second);
+        const bool filled = own && m_model->isSelected(*own);
+        Plot::drawMarker(marker, QPen(look.trace(key.first)), filled);
+        if (filled)
+            selected = &marker;
+        else if (active && active->id == key.first)
+            raiseMarker(marker);
     }
+    if (selected)
+        raiseMarker(*selected);
     replotLater();
 }
 
@@ -331,10 +393,12 @@ void CartesianView::recolor()
         axis->setTickLabelFont(labels);
         axis->grid()->setPen(QPen(faint));
     }
-    for (const auto &[id, line] : m_lines) {
-        line.graph->setPen(QPen(look.trace(id)));
+    m_frequencies.setLook(labels, look.dimText);
+    for (const Trace &trace : traces()) {
+        const Line &line = m_lines.at(trace.id);
+        line.graph->setPen(look.pen(trace.id, trace.network));
         if (line.memory)
-            line.memory->setPen(QPen(look.memory(id)));
+            line.memory->setPen(look.memoryPen(trace.id, trace.network));
     }
     showSelectedMarker();
 }
@@ -344,8 +408,9 @@ QStringList CartesianView::titleParts() const
     const Trace *active = activeTrace();
     if (!active)
         return {};
-    return {formatName(active->format), scaleText(active->format, active->scale),
-            tr("ref %1").arg(cartesianReferenceText(active->scale.top, active->format))};
+    return {formatName(active->format), divisionText(active->format, active->scale.perDivision),
+            tr("ref %1").arg(cartesianReferenceText(active->scale.top, active->format)),
+            m_model->network(*active).name};
 }
 
 int CartesianView::drawnPoints() const
@@ -356,129 +421,64 @@ int CartesianView::drawnPoints() const
     return count;
 }
 
-void CartesianView::resizeEvent(QResizeEvent *event)
+void CartesianView::dragTo(int traceId, int number, const QPointF &position)
 {
-    DiagramView::resizeEvent(event);
-    // Other columns want other points, and another height other numbers.
-    loadLines();
-    if (const Trace *active = activeTrace())
-        showScale(active->id);
+    const double index = nearestIndex(traceId, position);
+    if (index >= 0.0)
+        Q_EMIT markerMoveRequested(traceId, number, index);
 }
 
-double CartesianView::zoom() const
-{
-    return (m_highest - m_lowest) / plot()->xAxis->range().size();
-}
-
-void CartesianView::setZoom(double zoom)
-{
-    zoomAt(plot()->axisRect()->center(), zoom / this->zoom());
-}
-
-void CartesianView::zoomAt(const QPointF &position, double factor)
-{
-    const double wanted = qBound(1.0, zoom() * factor, mostZoom);
-    if (!std::isfinite(wanted))
-        return;
-    const QCPRange range = plot()->xAxis->range();
-    const double anchor = plot()->xAxis->pixelToCoord(position.x());
-    const double span = (m_highest - m_lowest) / wanted;
-    const double from = anchor - (anchor - range.lower) * span / range.size();
-    setFrequencies(from, from + span);
-    loadLines();
-    Q_EMIT viewChanged();
-}
-
-void CartesianView::moveTo(const QPointF &coordinates, const QPointF &position)
-{
-    if (zoom() <= 1.0)
-        return;
-    const QCPRange range =
-        plot()->xAxis->range() + (coordinates.x() - this->coordinates(position).x());
-    setFrequencies(range.lower, range.upper);
-    loadLines();
-    Q_EMIT viewChanged();
-}
-
-void CartesianView::resetView()
-{
-    setFrequencies(m_lowest, m_highest);
-    loadLines();
-    Q_EMIT viewChanged();
-}
-
-double CartesianView::indexAt(int traceId, const QPointF &position) const
+/// The index of a trace's point below or above a point of the plot widget; -1 without data.
+double CartesianView::nearestIndex(int traceId, const QPointF &position) const
 {
     const QVector<double> &frequencies = m_model->network(*m_model->trace(traceId)).frequencies;
-    return indexOfFrequency(frequencies, plot()->xAxis->pixelToCoord(position.x()));
+    return frequencies.isEmpty()
+        ? -1.0
+        : indexOfFrequency(frequencies, plot()->xAxis->pixelToCoord(position.x()));
 }
 
-bool CartesianView::reaches(int traceId) const
+int CartesianView::pointsPerStep(int traceId) const
 {
-    const Trace *active = activeTrace();
-    return !m_model->viewSettings()->onlyActiveTrace() || (active && active->id == traceId);
+    const int points = m_model->network(*m_model->trace(traceId)).points();
+    const double shown = points * m_frequencies.range().size() / m_whole.size();
+    return qMax(1, qRound(shown / qMax(1, m_laidOut.width())));
 }
 
-void CartesianView::onPress(QMouseEvent *event)
+Zoom CartesianView::zoomFor(double centre, double factor) const
 {
-    m_dragged = {0, 0};
-    if (event->button() != Qt::LeftButton)
-        return;
-    double nearest = s_reach;
-    for (const auto &[key, marker] : m_markers) {
-        if (!marker.isVisible() || !reaches(key.first))
-            continue;
-        // The middle of the triangle, which stands on its point.
-        const QPointF middle = marker.getTracer()->position->pixelPosition() - QPointF(0.0, 8.0);
-        const double distance = QLineF(middle, QtCompat::position(event)).length();
-        if (distance < nearest) {
-            nearest = distance;
-            m_dragged = key;
-        }
-    }
-    if (m_dragged.first)
-        Q_EMIT markerSelectionRequested(m_dragged.first, m_dragged.second);
+    return bounded({factor, (centre - m_whole.center()) / (m_whole.size() / 2.0), 0.0}, false);
 }
 
-void CartesianView::onMove(QMouseEvent *event)
+Zoom CartesianView::zoomedAt(const QPointF &position, double factor) const
 {
-    // A release that was lost ends the drag here.
-    if (!event->buttons().testFlag(Qt::LeftButton)
-        || !m_model->marker(m_dragged.first, m_dragged.second))
-        m_dragged = {0, 0};
-    else
-        Q_EMIT markerMoveRequested(m_dragged.first, m_dragged.second,
-                                   indexAt(m_dragged.first, QtCompat::position(event)));
+    const double wanted = qBound(1.0, m_model->zoom(id()).factor * factor, Zoom::maximum);
+    if (!std::isfinite(factor))
+        return m_model->zoom(id());
+    const QCPRange range = m_frequencies.range();
+    const double anchor = plot()->xAxis->pixelToCoord(position.x());
+    const double ratio = m_whole.size() / wanted / range.size();
+    return zoomFor(anchor + (range.center() - anchor) * ratio, wanted);
 }
 
-bool CartesianView::pick(const QPoint &position, Qt::KeyboardModifiers)
+Zoom CartesianView::movedTo(const QPointF &coordinates, const QPointF &position) const
 {
-    double nearest = s_reach;
-    int picked = 0;
+    const double shift = coordinates.x() - this->coordinates(position).x();
+    return zoomFor(m_frequencies.range().center() + shift, m_model->zoom(id()).factor);
+}
+
+Hit CartesianView::hitLine(const QPointF &position) const
+{
+    Hit nearest;
+    double least = reach;
     for (const Trace &trace : traces()) {
-        if (!trace.visible || !reaches(trace.id) || m_model->network(trace).frequencies.isEmpty())
-            continue;
-        const double value =
-            cartesianValueAt(m_model->data(trace), indexAt(trace.id, position), trace.format);
         const double distance =
-            std::abs(m_lines.at(trace.id).values->coordToPixel(value) - position.y());
-        if (distance < nearest) {
-            nearest = distance;
-            picked = trace.id;
-        }
+            reaches(trace) ? m_lines.at(trace.id).graph->selectTest(position, false) : -1.0;
+        if (distance < 0.0 || distance >= least)
+            continue;
+        least = distance;
+        nearest = {Hit::Line, trace.id, 0, std::round(nearestIndex(trace.id, position))};
     }
-    if (picked)
-        Q_EMIT pointPicked(picked, std::round(indexAt(picked, position)));
-    return picked > 0;
-}
-
-void CartesianView::keyPressEvent(QKeyEvent *event)
-{
-    const Marker *selected = m_model->selectedMarker();
-    if (event->key() == Qt::Key_Delete && selected && traceIds().contains(selected->trace))
-        Q_EMIT markerDeleteRequested(selected->trace, selected->number);
-    else
-        DiagramView::keyPressEvent(event);
+    return nearest;
 }
 
 } // namespace Panel

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "diagramview.h"
+#include "frequencyaxis.h"
+
 #include <panel/model/cartesian.h>
 
 #include <plot/marker.h>
@@ -10,7 +12,7 @@
 #include <map>
 #include <utility>
 
-class QMouseEvent;
+class QPushButton;
 
 namespace Panel
 {
@@ -24,39 +26,37 @@ class CartesianView : public DiagramView
     Q_OBJECT
 
 public:
-    explicit CartesianView(const PanelModel *model, QWidget *parent = nullptr);
+    CartesianView(const PanelModel *model, const DiagramId &id, QWidget *parent = nullptr);
 
     /// The line of a trace, or null.
     QCPGraph *graph(int traceId) const;
     /// The line of a trace's stored data, or null.
     QCPGraph *memoryGraph(int traceId) const;
-    /// A marker as it is drawn, or null.
-    const Plot::Marker *marker(int traceId, int number) const;
+    const FrequencyAxis &frequencyAxis() const { return m_frequencies; }
+    /// What offers to fit a trace that is wholly outside the diagram; hidden while there is none.
+    QPushButton *fitButton() const { return m_fitButton; }
 
-    double zoom() const override;
-    void setZoom(double zoom) override;
-    void zoomAt(const QPointF &position, double factor) override;
-    void moveTo(const QPointF &coordinates, const QPointF &position) override;
-    void resetView() override;
-    bool isMarkerPressed() const override { return m_dragged.first > 0; }
-    bool pick(const QPoint &position, Qt::KeyboardModifiers modifiers) override;
+    void dragTo(int traceId, int number, const QPointF &position) override;
+    const Plot::Marker *drawnMarker(int traceId, int number) const override;
+    int pointsPerStep(int traceId) const override;
+    Zoom zoomedAt(const QPointF &position, double factor) const override;
+    Zoom movedTo(const QPointF &coordinates, const QPointF &position) const override;
     int drawnPoints() const override;
 
 protected:
     void loadTraces() override;
     void updateTraces(int network) override;
     void recolor() override;
+    void showZoom() override;
     void setTraceVisible(const Trace &trace) override;
     void showActiveTrace() override;
-    void addMarker(const Trace &trace, const Marker &marker) override;
-    void moveMarker(const Trace &trace, const Marker &marker) override;
+    void placeMarker(const Trace &trace, const Marker &marker) override;
     void removeMarker(int traceId, int number) override;
     void showSelectedMarker() override;
     void showMemory(const Trace &trace) override;
     QStringList titleParts() const override;
-
-    void resizeEvent(QResizeEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    void onLayout() override;
+    Hit hitLine(const QPointF &position) const override;
 
 private:
     using MarkerKey = std::pair<int, int>; ///< trace and number
@@ -65,28 +65,30 @@ private:
         QCPGraph *graph = nullptr;
         QCPGraph *memory = nullptr; ///< null while nothing is stored
         QCPAxis *values = nullptr;
+        ValueRange drawn; ///< the values of the line
     };
 
     void setUpPlot();
+    double nearestIndex(int traceId, const QPointF &position) const;
     void clearLines();
-    void loadLines();
-    void loadLine(const Trace &trace);
-    void fitFrequencies();
+    void addLine(const Trace &trace);
+    void fillLine(const Trace &trace);
+    void fillLines();
+    bool fitFrequencies();
     void showScale(int traceId);
-    void setFrequencies(double from, double to);
-    void onPress(QMouseEvent *event);
-    void onMove(QMouseEvent *event);
-    /// Whether the pointer may act on a trace.
-    bool reaches(int traceId) const;
-    /// The index of a trace at a point of the plot widget.
-    double indexAt(int traceId, const QPointF &position) const;
+    void showWrittenScale();
+    void showOffScale();
+    QCPRange shownRange(const Zoom &zoom) const;
+    Zoom zoomFor(double centre, double factor) const;
 
+    FrequencyAxis m_frequencies;
     std::map<int, Line> m_lines; ///< by trace
     std::map<MarkerKey, Plot::Marker> m_markers;
-    MarkerKey m_dragged = {0, 0};
+    QPushButton *m_fitButton;
+    int m_offScale = 0; ///< the trace that the button is about
+    QSize m_laidOut; ///< of the axis rectangle; empty before the first layout
     /// All frequencies that there are, in Hz; the view shows a part.
-    double m_lowest = 0.0;
-    double m_highest = 1.0;
+    QCPRange m_whole = {0.0, 1.0};
 };
 
 } // namespace Panel

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chartgestures.h"
 
-#include "diagramview.h"
+#include <panel/ground/pointerevent.h>
 
 #include <plot/qcp.h>
-#include <base/qtcompat_p.h>
 
 #include <QApplication>
 #include <QGestureEvent>
+#include <QKeyEvent>
 
 #include <cmath>
 
@@ -23,6 +23,25 @@ constexpr double s_zoomStep = 1.25;
 /// Pixels that an arrow key moves the view.
 constexpr double s_panStep = 40.0;
 
+QPointF centreOf(const DiagramView *view)
+{
+    return view->plot()->axisRect()->center();
+}
+
+/// Moves the selected marker by so many points, to the ends of its data at most; a parked one comes
+/// back to the nearer end.
+void stepMarker(PanelModel *model, const Marker &marker, double points)
+{
+    const Network &network = model->network(*model->trace(marker.trace));
+    const double last = network.points() - 1;
+    double index = model->indexOf(marker);
+    if (index < 0.0)
+        index = indexOfFrequency(network.frequencies, marker.place.hertz);
+    else
+        index += points;
+    model->moveMarker(marker.trace, marker.number, qBound(0.0, index, last));
+}
+
 } // namespace
 
 ChartGestures::ChartGestures(PanelModel *model, DiagramView *view)
@@ -31,7 +50,6 @@ ChartGestures::ChartGestures(PanelModel *model, DiagramView *view)
     , m_view(view)
 {
     QCustomPlot *plot = view->plot();
-    // The view connected first: a press that catches a marker has done so when it comes here.
     connect(plot, &QCustomPlot::mouseWheel, this, &ChartGestures::onWheel);
     connect(plot, &QCustomPlot::mousePress, this, &ChartGestures::onPress);
     connect(plot, &QCustomPlot::mouseMove, this, &ChartGestures::onMove);
@@ -43,10 +61,7 @@ ChartGestures::ChartGestures(PanelModel *model, DiagramView *view)
     connect(view, &DiagramView::markerSelectionRequested, model, &PanelModel::selectMarker);
     connect(view, &DiagramView::markerMoveRequested, model, &PanelModel::moveMarker);
     connect(view, &DiagramView::markerDeleteRequested, model, &PanelModel::removeMarker);
-    connect(view, &DiagramView::pointPicked, this, [this](int traceId, double index) {
-        m_model->setActiveTrace(traceId);
-        m_model->addMarker(traceId, index);
-    });
+    connect(view, &DiagramView::fitRequested, model, &PanelModel::fitTrace);
 }
 
 bool ChartGestures::eventFilter(QObject *watched, QEvent *event)
@@ -55,7 +70,12 @@ bool ChartGestures::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Gesture:
         return onGesture(static_cast<QGestureEvent *>(event));
     case QEvent::KeyPress:
-        return onKey(static_cast<QKeyEvent *>(event));
+        return handleKey(m_model, m_view, static_cast<QKeyEvent *>(event));
+    case QEvent::FocusIn:
+        // By a key: a press decides by what lies under it.
+        if (static_cast<QFocusEvent *>(event)->reason() != Qt::MouseFocusReason)
+            activate();
+        break;
     case QEvent::Hide:
     case QEvent::UngrabMouse:
     case QEvent::WindowBlocked:
@@ -70,10 +90,19 @@ bool ChartGestures::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
+/// Makes the diagram the active one, unless it is.
+void ChartGestures::activate()
+{
+    if (const Trace *trace = m_view->activeTrace())
+        m_model->setActiveTrace(trace->id);
+}
+
 void ChartGestures::onWheel(QWheelEvent *event)
 {
+    activate();
     const double notches = event->angleDelta().y() / 120.0;
-    m_view->zoomAt(event->position(), std::pow(s_zoomStep, notches));
+    m_model->setZoom(m_view->id(),
+                     m_view->zoomedAt(event->position(), std::pow(s_zoomStep, notches)));
     event->accept();
 }
 
@@ -81,16 +110,23 @@ void ChartGestures::onPress(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    m_pressedMarker = m_view->isMarkerPressed();
-    if (m_pressedMarker)
+    m_pressed = pointerPosition(event);
+    m_hit = m_view->hit(m_pressed);
+    m_drag = m_hit.kind == Hit::MarkerBody ? Drag::Marker : Drag::Pressed;
+    if (m_drag != Drag::Marker)
         return;
-    m_drag = Drag::Pressed;
-    m_pressed = QtCompat::position(event);
+    m_model->selectMarker(m_hit.trace, m_hit.marker);
+    m_view->beginDrag(m_hit.trace, m_hit.marker);
 }
 
 void ChartGestures::onMove(QMouseEvent *event)
 {
-    const QPointF position = QtCompat::position(event);
+    // A release that was lost ends the drag here.
+    if (!event->buttons().testFlag(Qt::LeftButton))
+        m_drag = Drag::None;
+    const QPointF position = pointerPosition(event);
+    if (m_drag == Drag::Marker && m_model->marker(m_hit.trace, m_hit.marker))
+        m_view->dragTo(m_hit.trace, m_hit.marker, position);
     if (m_drag == Drag::Pressed) {
         if ((position - m_pressed).manhattanLength() < QApplication::startDragDistance())
             return;
@@ -98,8 +134,8 @@ void ChartGestures::onMove(QMouseEvent *event)
         m_drag = Drag::Panning;
         m_grabbed = m_view->coordinates(position);
     }
-    if (m_drag == Drag::Panning)
-        m_view->moveTo(m_grabbed, position);
+    if (m_drag == Drag::Panning && !m_model->zoom(m_view->id()).isWhole())
+        m_model->setZoom(m_view->id(), m_view->movedTo(m_grabbed, position));
 }
 
 void ChartGestures::onRelease()
@@ -107,8 +143,10 @@ void ChartGestures::onRelease()
     // A tap beside all markers.
     if (m_drag == Drag::Pressed) {
         m_model->selectMarker(0, 0);
-        if (const Trace *trace = m_view->activeTrace())
-            m_model->setActiveTrace(trace->id);
+        if (m_hit.kind == Hit::Line)
+            m_model->setActiveTrace(m_hit.trace);
+        else
+            activate();
     }
     m_drag = Drag::None;
 }
@@ -116,10 +154,13 @@ void ChartGestures::onRelease()
 void ChartGestures::onDoubleClick(QMouseEvent *event)
 {
     m_drag = Drag::None;
-    if (event->button() != Qt::LeftButton || m_pressedMarker)
+    if (event->button() != Qt::LeftButton)
         return;
-    if (!m_view->pick(QtCompat::position(event).toPoint(), event->modifiers()))
-        m_view->resetView();
+    const Hit hit = m_view->hit(pointerPosition(event));
+    if (hit.kind != Hit::Line)
+        return;
+    m_model->setActiveTrace(hit.trace);
+    m_model->addMarker(hit.trace, hit.index);
 }
 
 bool ChartGestures::onGesture(QGestureEvent *event)
@@ -130,33 +171,50 @@ bool ChartGestures::onGesture(QGestureEvent *event)
     // The first finger of the two came as a mouse press.
     m_drag = Drag::None;
     const QPointF centre = m_view->plot()->mapFromGlobal(pinch->centerPoint().toPoint());
-    if (pinch->state() == Qt::GestureStarted)
+    if (pinch->state() == Qt::GestureStarted) {
+        activate();
         m_grabbed = m_view->coordinates(centre);
-    m_view->moveTo(m_grabbed, centre);
-    m_view->zoomAt(centre, pinch->scaleFactor());
+    }
+    m_model->setZoom(m_view->id(), m_view->movedTo(m_grabbed, centre));
+    m_model->setZoom(m_view->id(), m_view->zoomedAt(centre, pinch->scaleFactor()));
     return true;
 }
 
-bool ChartGestures::onKey(QKeyEvent *event)
+bool ChartGestures::handleKey(PanelModel *model, DiagramView *view, const QKeyEvent *event)
 {
+    const Marker *selected = model->selectedMarker();
+    const auto zoom = [=](double factor) {
+        model->setZoom(view->id(), view->zoomedAt(centreOf(view), factor));
+    };
+    const auto pan = [=](double right, double down) {
+        const QPointF from = centreOf(view);
+        model->setZoom(view->id(),
+                       view->movedTo(view->coordinates(from), from + QPointF(right, down)));
+    };
+    const auto step = [=](int direction) {
+        const bool onePoint = event->modifiers().testFlag(Qt::ControlModifier);
+        if (selected)
+            stepMarker(model, *selected,
+                       direction * (onePoint ? 1 : view->pointsPerStep(selected->trace)));
+        else
+            pan(-direction * s_panStep, 0.0);
+    };
     switch (event->key()) {
     case Qt::Key_Plus:
     case Qt::Key_Equal:
-        m_view->setZoom(m_view->zoom() * s_zoomStep);
+        zoom(s_zoomStep);
         return true;
     case Qt::Key_Minus:
-        m_view->setZoom(m_view->zoom() / s_zoomStep);
+        zoom(1.0 / s_zoomStep);
         return true;
     case Qt::Key_0:
-        m_view->resetView();
+        model->setZoom(view->id(), Zoom());
         return true;
     case Qt::Key_Left:
-        if (!stepMarker(-1))
-            pan(s_panStep, 0.0);
+        step(-1);
         return true;
     case Qt::Key_Right:
-        if (!stepMarker(1))
-            pan(-s_panStep, 0.0);
+        step(1);
         return true;
     case Qt::Key_Up:
         pan(0.0, s_panStep);
@@ -165,26 +223,16 @@ bool ChartGestures::onKey(QKeyEvent *event)
         pan(0.0, -s_panStep);
         return true;
     case Qt::Key_Escape:
-        m_model->selectMarker(0, 0);
+        model->selectMarker(0, 0);
+        return true;
+    case Qt::Key_Delete:
+    case Qt::Key_Backspace:
+        if (selected)
+            model->removeMarker(selected->trace, selected->number);
         return true;
     default:
         return false;
     }
-}
-
-bool ChartGestures::stepMarker(int points)
-{
-    const Marker *marker = m_model->selectedMarker();
-    if (!marker)
-        return false;
-    m_model->moveMarker(marker->trace, marker->number, marker->index + points);
-    return true;
-}
-
-void ChartGestures::pan(double right, double down)
-{
-    const QPointF from = m_view->plot()->axisRect()->center();
-    m_view->moveTo(m_view->coordinates(from), from + QPointF(right, down));
 }
 
 } // namespace Panel

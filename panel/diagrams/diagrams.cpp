@@ -3,35 +3,40 @@
 #include "diagrams.h"
 
 #include "cartesianview.h"
+#include "chartgestures.h"
 #include "smithview.h"
-#include <panel/look/look.h>
+
+#include <panel/ground/look.h>
 
 #include <controls/thememanager.h>
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QPainter>
 
 namespace Panel
 {
 
-/// An edge of one pixel around a view, whose colour says which diagram is active.
+/// An edge around a view: its colour says which diagram is active, its width whether keys go there.
 class DiagramFrame : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit DiagramFrame(QWidget *view)
+    explicit DiagramFrame(QWidget *view, QWidget *parent)
+        : QWidget(parent)
     {
         auto *inside = new QHBoxLayout(this);
-        inside->setContentsMargins(1, 1, 1, 1);
+        inside->setContentsMargins(s_width, s_width, s_width, s_width);
         inside->addWidget(view);
     }
 
-    void setEdge(const QColor &color)
+    void setEdge(const QColor &color, bool focused)
     {
-        if (color == m_edge)
+        if (color == m_edge && focused == m_focused)
             return;
         m_edge = color;
+        m_focused = focused;
         update();
     }
 
@@ -39,56 +44,28 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
+        const int lines = m_focused ? s_width : 1;
         painter.setPen(m_edge);
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        for (int i = 0; i < lines; ++i)
+            painter.drawRect(rect().adjusted(i, i, -1 - i, -1 - i));
     }
 
 private:
+    static constexpr int s_width = 2;
+
     QColor m_edge;
+    bool m_focused = false;
 };
 
-QVector<QVector<int>> assignTraces(Graph::LayoutType layout, const QVector<Trace> &traces,
-                                   int activeTrace)
-{
-    /// What has to be the same for two traces to share a diagram.
-    const auto shareDiagram = [layout](const Trace &a, const Trace &b) {
-        if (layout != Graph::LayoutType::Quad)
-            return a.onSmithChart() == b.onSmithChart();
-        return a.format == b.format && a.to == b.to && a.from == b.from;
-    };
-    QVector<Trace> firsts; // of each diagram
-    QVector<QVector<int>> diagrams;
-    int active = 0;
-    for (const Trace &trace : traces) {
-        int diagram = 0;
-        while (diagram < firsts.size() && !shareDiagram(firsts.at(diagram), trace))
-            ++diagram;
-        if (diagram == firsts.size()) {
-            firsts.append(trace);
-            diagrams.append(QVector<int>());
-        }
-        diagrams[diagram].append(trace.id);
-        if (trace.id == activeTrace)
-            active = diagram;
-    }
-    if (layout == Graph::LayoutType::Single)
-        return diagrams.mid(active, 1);
-    if (layout == Graph::LayoutType::Quad)
-        return diagrams.mid(active / 4 * 4, 4);
-    if (diagrams.size() == 2 && !firsts.first().onSmithChart())
-        std::swap(diagrams[0], diagrams[1]);
-    return diagrams;
-}
-
-Diagrams::Diagrams(const PanelModel *model, QWidget *parent)
+Diagrams::Diagrams(PanelModel *model, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
     , m_grid(new QGridLayout(this))
 {
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_grid->setSpacing(0);
-    view(m_smithViews, 0);
-    view(m_cartesianViews, 0);
+    view({true, 0});
+    view({false, 0});
     connect(m_model, &PanelModel::tracesChanged, this, [this] { arrange(true); });
     connect(m_model, &PanelModel::activeTraceChanged, this, [this] { arrange(false); });
     connect(m_model->viewSettings(), &ViewSettings::changed, this, [this] { arrange(false); });
@@ -100,9 +77,7 @@ Diagrams::Diagrams(const PanelModel *model, QWidget *parent)
 QVector<DiagramView *> Diagrams::allViews() const
 {
     QVector<DiagramView *> all;
-    for (SmithView *view : m_smithViews)
-        all.append(view);
-    for (CartesianView *view : m_cartesianViews)
+    for (const auto &[id, view] : m_views)
         all.append(view);
     return all;
 }
@@ -117,38 +92,47 @@ DiagramView *Diagrams::activeView() const
     return nullptr;
 }
 
-void Diagrams::resetViews()
+SmithView *Diagrams::smithView() const
 {
-    for (DiagramView *view : allViews())
-        view->resetView();
+    return static_cast<SmithView *>(m_views.at({true, 0}));
 }
 
-template<typename View>
-View *Diagrams::view(QVector<View *> &views, int index)
+CartesianView *Diagrams::cartesianView() const
 {
-    if (index == views.size()) {
-        auto *view = new View(m_model);
-        (new DiagramFrame(view))->setParent(this);
-        view->parentWidget()->hide();
-        views.append(view);
-        Q_EMIT viewMade(view);
-    }
-    return views.at(index);
+    return static_cast<CartesianView *>(m_views.at({false, 0}));
+}
+
+/// The view of a diagram, made when it is first needed.
+DiagramView *Diagrams::view(const DiagramId &id)
+{
+    DiagramView *&view = m_views[id];
+    if (view)
+        return view;
+    if (id.smith)
+        view = new SmithView(m_model, id);
+    else
+        view = new CartesianView(m_model, id);
+    (new DiagramFrame(view, this))->hide();
+    new ChartGestures(m_model, view);
+    view->plot()->installEventFilter(this);
+    return view;
+}
+
+bool Diagrams::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        recolor();
+    return QWidget::eventFilter(watched, event);
 }
 
 void Diagrams::arrange(bool reload)
 {
-    const Trace *active = m_model->activeTrace();
-    const auto diagrams = assignTraces(m_model->viewSettings()->diagramLayout(), m_model->traces(),
-                                       active ? active->id : 0);
+    const QVector<PlannedDiagram> planned = m_model->diagrams();
     QVector<DiagramView *> shown;
-    int smiths = 0, cartesians = 0;
-    for (const QVector<int> &ids : diagrams) {
-        DiagramView *view = m_model->trace(ids.first())->onSmithChart()
-            ? static_cast<DiagramView *>(this->view(m_smithViews, smiths++))
-            : this->view(m_cartesianViews, cartesians++);
-        if (reload || view->traceIds() != ids)
-            view->setTraces(ids);
+    for (const PlannedDiagram &diagram : planned) {
+        DiagramView *view = this->view(diagram.id);
+        if (reload || view->traceIds() != diagram.traces)
+            view->setTraces(diagram.traces);
         shown.append(view);
     }
     for (DiagramView *view : allViews()) {
@@ -186,10 +170,11 @@ void Diagrams::recolor()
     const Look look = currentLook();
     const DiagramView *active = activeView();
     for (DiagramView *view : qAsConst(m_shown)) {
+        const bool focused = view->plot()->hasFocus();
+        const bool marked = focused || (m_shown.size() > 1 && view == active);
+        const QColor plain = m_shown.size() > 1 ? look.border : look.background;
         static_cast<DiagramFrame *>(view->parentWidget())
-            ->setEdge(m_shown.size() < 2   ? look.background
-                          : view == active ? look.accent
-                                           : look.border);
+            ->setEdge(marked ? look.accent : plain, focused);
     }
 }
 

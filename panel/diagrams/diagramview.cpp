@@ -3,20 +3,25 @@
 #include "diagramview.h"
 
 #include "readouts.h"
-#include <panel/look/elidedlabel.h>
+
+#include <panel/ground/elidedlabel.h>
 
 #include <controls/thememanager.h>
-#include <plot/qcp.h>
+#include <plot/marker.h>
 
 #include <QElapsedTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <cmath>
+
 namespace Panel
 {
 
-DiagramView::DiagramView(const PanelModel *model, QWidget *parent)
+DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
+    , m_id(id)
     , m_title(new ElidedLabel(Qt::ElideRight, this))
     , m_readOuts(new ReadOuts(model, this))
     , m_plot(new QCustomPlot(this))
@@ -32,25 +37,13 @@ DiagramView::DiagramView(const PanelModel *model, QWidget *parent)
     m_plot->setFocusPolicy(Qt::StrongFocus);
     connect(m_readOuts, &ReadOuts::selectionRequested, this,
             &DiagramView::markerSelectionRequested);
+    connect(m_plot, &QCustomPlot::afterLayout, this, [this] { onLayout(); });
     followModel();
+    followMarkers();
 }
 
 void DiagramView::followModel()
 {
-    /// For a change of one trace that is on show.
-    const auto onTrace = [this](auto member) {
-        return [this, member](int id) {
-            if (m_traceIds.contains(id) && m_model->trace(id))
-                (this->*member)(*m_model->trace(id));
-        };
-    };
-    const auto onMarker = [this](auto member) {
-        return [this, member](int traceId, int number) {
-            const Marker *marker = m_model->marker(traceId, number);
-            if (m_traceIds.contains(traceId) && marker)
-                (this->*member)(*m_model->trace(traceId), *marker);
-        };
-    };
     connect(m_model, &PanelModel::stimulusChanged, this, [this] { loadTraces(); });
     connect(m_model, &PanelModel::networkUpdated, this, [this](int network) {
         // A hidden diagram catches up when it is shown.
@@ -64,31 +57,53 @@ void DiagramView::followModel()
     });
     connect(m_model, &PanelModel::activeTraceChanged, this, [this] {
         showActiveTrace();
-        const Trace *active = activeTrace();
-        m_readOuts->setTrace(active ? active->id : 0);
         updateTitle();
     });
-    connect(m_model, &PanelModel::traceVisibleChanged, this,
-            onTrace(&DiagramView::setTraceVisible));
-    connect(m_model, &PanelModel::traceVisibleChanged, this, &DiagramView::updateTitle);
-    connect(m_model, &PanelModel::memoryChanged, this, onTrace(&DiagramView::showMemory));
-    connect(m_model, &PanelModel::markerAdded, this, onMarker(&DiagramView::addMarker));
-    connect(m_model, &PanelModel::markerMoved, this, onMarker(&DiagramView::moveMarker));
+    connect(m_model, &PanelModel::traceScaleChanged, this, &DiagramView::updateTitle);
+    connect(m_model, &PanelModel::traceVisibleChanged, this, [this](int id) {
+        if (m_traceIds.contains(id) && m_model->trace(id))
+            setTraceVisible(*m_model->trace(id));
+        updateTitle();
+    });
+    connect(m_model, &PanelModel::memoryChanged, this, [this](int id) {
+        if (m_traceIds.contains(id) && m_model->trace(id))
+            showMemory(*m_model->trace(id));
+    });
+    connect(m_model, &PanelModel::zoomChanged, this, [this](const DiagramId &changed) {
+        if (changed != m_id)
+            return;
+        showZoom();
+        updateTitle();
+    });
+    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
+            [this] { recolor(); });
+}
+
+void DiagramView::followMarkers()
+{
+    const auto place = [this](int traceId, int number) {
+        const Marker *marker = m_model->marker(traceId, number);
+        if (m_traceIds.contains(traceId) && marker)
+            placeMarker(*m_model->trace(traceId), *marker);
+    };
+    connect(m_model, &PanelModel::markerAdded, this, place);
+    connect(m_model, &PanelModel::markerMoved, this, place);
     connect(m_model, &PanelModel::markerRemoved, this, [this](int traceId, int number) {
         if (m_traceIds.contains(traceId))
             removeMarker(traceId, number);
     });
+    connect(m_model, &PanelModel::markerModeChanged, this, [this] {
+        for (const Trace &trace : traces())
+            placeMarkers(trace);
+    });
     connect(m_model, &PanelModel::selectedMarkerChanged, this, [this] { showSelectedMarker(); });
-    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
-            [this] { recolor(); });
 }
 
 void DiagramView::setTraces(const QVector<int> &ids)
 {
     m_traceIds = ids;
     loadTraces();
-    const Trace *active = activeTrace();
-    m_readOuts->setTrace(active ? active->id : 0);
+    m_readOuts->setTraces(ids);
     updateTitle();
 }
 
@@ -102,9 +117,64 @@ QVector<Trace> DiagramView::traces() const
     return result;
 }
 
+bool DiagramView::reaches(const Trace &trace) const
+{
+    const Trace *active = activeTrace();
+    return trace.visible
+        && (!m_model->viewSettings()->onlyActiveTrace() || (active && active->id == trace.id));
+}
+
+void DiagramView::placeMarkers(const Trace &trace)
+{
+    for (const Marker &marker : m_model->markersOf(trace.id))
+        placeMarker(trace, marker);
+}
+
+Hit DiagramView::hit(const QPointF &position) const
+{
+    const Hit marker = hitMarker(position);
+    return marker.kind == Hit::Nothing ? hitLine(position) : marker;
+}
+
+Hit DiagramView::hitMarker(const QPointF &position) const
+{
+    Hit nearest;
+    double least = reach;
+    const Trace *active = activeTrace();
+    for (const Trace &trace : traces()) {
+        if (!reaches(trace))
+            continue;
+        for (const Marker &marker : m_model->markersOf(trace.id)) {
+            const Plot::Marker *drawn = drawnMarker(trace.id, marker.number);
+            if (!drawn || !drawn->isVisible())
+                continue;
+            // From the tip, where the body stands on its point, to the body's far edge.
+            const QPointF tip = drawn->getTracer()->position->pixelPosition();
+            const double height = std::max(1.0, drawn->getTracer()->size());
+            const double up = std::clamp(tip.y() - position.y(), 0.0, height);
+            double distance = std::hypot(position.x() - tip.x(), position.y() - (tip.y() - up));
+            // Of two that coincide, the selected one, then the active trace's.
+            if (m_model->isSelected(marker))
+                distance -= 2.0;
+            else if (active && active->id == trace.id)
+                distance -= 1.0;
+            if (distance < least) {
+                least = distance;
+                nearest = {Hit::MarkerBody, trace.id, marker.number, m_model->indexOf(marker)};
+            }
+        }
+    }
+    return nearest;
+}
+
 QPointF DiagramView::coordinates(const QPointF &position) const
 {
     return {m_plot->xAxis->pixelToCoord(position.x()), m_plot->yAxis->pixelToCoord(position.y())};
+}
+
+QString DiagramView::title() const
+{
+    return m_title->text();
 }
 
 void DiagramView::updateTitle()
@@ -132,8 +202,7 @@ void DiagramView::replotLater()
 void DiagramView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    // The diagram keeps the greater part.
-    m_readOuts->setRoom(height() / 4);
+    m_readOuts->setRoom(height());
 }
 
 void DiagramView::showEvent(QShowEvent *event)

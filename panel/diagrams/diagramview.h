@@ -8,29 +8,49 @@
 
 class QCustomPlot;
 
+namespace Plot
+{
+class Marker;
+}
+
 namespace Panel
 {
 
 class ElidedLabel;
 class ReadOuts;
 
-/*! A diagram with some of the model's traces: a line that names them, the read-outs of a trace's
+/// What lies under a finger.
+struct Hit {
+    enum Kind {
+        Nothing,
+        Line, ///< a point of a trace
+        MarkerBody,
+    };
+    Kind kind = Nothing;
+    int trace = 0;
+    int marker = 0; ///< its number
+    double index = 0.0; ///< of the point in the trace's data on show
+};
+
+/*! A diagram with some of the model's traces: a line that names them, the read-outs of their
     markers, and a plot.
 
-    It follows the model and the theme by itself. What a pointer does on it is reported as a
-    request; ChartGestures answers. */
+    It follows the model and the theme by itself, and writes to neither. ChartGestures asks what lies
+    under a finger and decides what comes of it. */
 class DiagramView : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The greatest magnification.
-    static constexpr double mostZoom = 20.0;
+    /// How near a finger must be to a marker or a line, in pixels.
+    static constexpr double reach = 22.0;
 
-    explicit DiagramView(const PanelModel *model, QWidget *parent = nullptr);
+    DiagramView(const PanelModel *model, const DiagramId &id, QWidget *parent = nullptr);
 
+    DiagramId id() const { return m_id; }
     QCustomPlot *plot() const { return m_plot; }
     ReadOuts *readOuts() const { return m_readOuts; }
+    QString title() const;
 
     /// The ids of the traces on show, which must be traces for this kind of diagram.
     QVector<int> traceIds() const { return m_traceIds; }
@@ -38,25 +58,28 @@ public:
     /// The one of them that is active or was last, or null.
     const Trace *activeTrace() const { return m_model->activeTrace(m_traceIds); }
 
-    /// \name What part of the diagram is seen; points of the plot widget are in its pixels
+    /// What lies at a point of the plot widget: the nearest marker within reach, else the nearest
+    /// trace.
+    Hit hit(const QPointF &position) const;
+    /// A press on a marker begins to drag it; while the pointer moves, markerMoveRequested() asks
+    /// for it to follow.
+    virtual void beginDrag(int /*traceId*/, int /*number*/) { }
+    virtual void dragTo(int /*traceId*/, int /*number*/, const QPointF & /*position*/) { }
+    /// A marker as it is drawn, or null.
+    virtual const Plot::Marker *drawnMarker(int traceId, int number) const = 0;
+    /// How many points of a trace lie under one step on the screen; at least 1.
+    virtual int pointsPerStep(int traceId) const = 0;
+
+    /// \name The zoom that a gesture asks for; points of the plot widget are in its pixels
     ///@{
-    virtual double zoom() const = 0;
-    /// Magnifies about the centre of the view to a factor between 1 and mostZoom.
-    virtual void setZoom(double zoom) = 0;
-    /// Magnifies the part around a point, which stays where it is.
-    virtual void zoomAt(const QPointF &position, double factor) = 0;
-    /// Shifts a magnified view so that these coordinates of the plot lie at a point of the widget,
-    /// or as near to it as the edge of the diagram allows.
-    virtual void moveTo(const QPointF &coordinates, const QPointF &position) = 0;
-    virtual void resetView() = 0;
+    /// The part around a point is magnified, and the point stays where it is.
+    virtual Zoom zoomedAt(const QPointF &position, double factor) const = 0;
+    /// The view is shifted so that these coordinates of the plot lie at a point of the widget, or as
+    /// near to it as the edge of the diagram allows.
+    virtual Zoom movedTo(const QPointF &coordinates, const QPointF &position) const = 0;
     /// The coordinates of the plot at a point of the widget.
     QPointF coordinates(const QPointF &position) const;
     ///@}
-
-    /// Whether the pointer that was pressed last has caught a marker and not let it go.
-    virtual bool isMarkerPressed() const = 0;
-    /// Reports the point of a trace at a point of the widget as picked; false if there is none.
-    virtual bool pick(const QPoint &position, Qt::KeyboardModifiers modifiers) = 0;
 
     /// How many points of the traces on show are drawn.
     virtual int drawnPoints() const = 0;
@@ -64,15 +87,13 @@ public:
     double dataMilliseconds() const { return m_dataMilliseconds; }
 
 Q_SIGNALS:
-    /// Zoom or centre of the view changed.
-    void viewChanged();
-    /// A press on a marker.
-    void markerSelectionRequested(int traceId, int number);
     /// A dragged marker is asked to move to a point of its trace.
     void markerMoveRequested(int traceId, int number, double index);
+    /// A row of the read-outs was tapped.
+    void markerSelectionRequested(int traceId, int number);
     void markerDeleteRequested(int traceId, int number);
-    /// A double tap on a trace.
-    void pointPicked(int traceId, double index);
+    /// A trace that nobody can see is to be given a scale at which it is seen.
+    void fitRequested(int traceId);
 
 protected:
     /// Shows the traces, and all that belongs to them, from scratch.
@@ -80,18 +101,27 @@ protected:
     /// Takes over new data of the traces of a network; called while the view is visible.
     virtual void updateTraces(int network) = 0;
     virtual void recolor() = 0;
+    virtual void showZoom() = 0;
     virtual void setTraceVisible(const Trace &trace) = 0;
     virtual void showActiveTrace() = 0;
-    virtual void addMarker(const Trace &trace, const Marker &marker) = 0;
-    virtual void moveMarker(const Trace &trace, const Marker &marker) = 0;
+    /// Draws a marker where the model has it, which may be a new one; a parked one is not drawn.
+    virtual void placeMarker(const Trace &trace, const Marker &marker) = 0;
     virtual void removeMarker(int traceId, int number) = 0;
     virtual void showSelectedMarker() = 0;
     virtual void showMemory(const Trace &trace) = 0;
     /// What the title says beside the names of the traces.
     virtual QStringList titleParts() const = 0;
+    /// The plot has been laid out: what depends on its pixels is computed here and nowhere else.
+    virtual void onLayout() = 0;
+    /// The nearest trace within reach, as a Hit that is a Line or Nothing.
+    virtual Hit hitLine(const QPointF &position) const = 0;
 
     /// The traces on show.
     QVector<Trace> traces() const;
+    /// Whether the pointer may act on a trace.
+    bool reaches(const Trace &trace) const;
+    /// Places all markers of a trace.
+    void placeMarkers(const Trace &trace);
     void updateTitle();
     void replotLater();
 
@@ -103,7 +133,10 @@ protected:
 
 private:
     void followModel();
+    void followMarkers();
+    Hit hitMarker(const QPointF &position) const;
 
+    DiagramId m_id;
     ElidedLabel *m_title;
     ReadOuts *m_readOuts;
     QCustomPlot *m_plot;

@@ -3,7 +3,7 @@
 #include "markerreading.h"
 
 #include <panel/model/cartesian.h>
-#include <panel/model/format.h>
+#include <panel/ground/numbertext.h>
 
 #include <cmath>
 #include <complex>
@@ -176,6 +176,24 @@ MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format,
         difference = wrapped(difference);
     return {frequencyText(frequency(point) - frequency(reference)),
             {cartesianText(difference, format)}};
+}
+
+MarkerReading readMarker(const PanelModel &model, const Marker &marker, const Marker *reference)
+{
+    const Trace &trace = *model.trace(marker.trace);
+    const auto point = [&](const Marker &marked) {
+        return MarkedPoint{&model.network(trace), &model.data(trace), model.indexOf(marked)};
+    };
+    const ReadoutFormat format = model.viewSettings()->effectiveReadoutFormat();
+    if (point(marker).index < 0.0 || (reference && point(*reference).index < 0.0)) {
+        const double from = reference ? model.hertzOf(*reference) : 0.0;
+        return {frequencyText(model.hertzOf(marker) - from), {nothingText()}};
+    }
+    if (trace.onSmithChart())
+        return reference ? readOnSmithChart(point(marker), format, point(*reference))
+                         : readOnSmithChart(point(marker), format);
+    return reference ? readOnCartesian(point(marker), trace.format, point(*reference))
+                     : readOnCartesian(point(marker), trace.format);
 }
 
 } // namespace Panel

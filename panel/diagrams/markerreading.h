@@ -4,8 +4,7 @@
     What markers read of their points, as numbers and as text. */
 #pragma once
 
-#include <panel/model/network.h>
-#include <panel/model/traceformat.h>
+#include <panel/model/panelmodel.h>
 
 #include <QStringList>
 
@@ -35,6 +34,10 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format);
 /// The same as the difference from a reference point, part by part; elements are left out.
 MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
                                const MarkedPoint &reference);
+
+/// Reads a marker in the format of its trace, as the difference from a reference marker if there is
+/// one. While one of them is parked there are dashes but for the frequency.
+MarkerReading readMarker(const PanelModel &model, const Marker &marker, const Marker *reference);
 
 /// Reads a point of a Cartesian diagram.
 MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format);

@@ -3,12 +3,15 @@
 #include "readouts.h"
 
 #include "markerreading.h"
-#include <panel/look/look.h>
+
+#include <panel/ground/look.h>
 
 #include <controls/thememanager.h>
 #include <widgets/markerstatusitem.h>
 
 #include <QEvent>
+#include <QLabel>
+#include <QScroller>
 
 namespace Panel
 {
@@ -17,154 +20,183 @@ namespace
 {
 
 constexpr int s_margin = 4;
-/// Widths in average characters of the stimulus and of the values.
-constexpr int s_stimulusWidth = 14;
-constexpr int s_valueWidths[] = {10, 12, 11};
+/// Between the texts of two columns, in pixels.
+constexpr int s_gap = 14;
+/// A row for so much height of the diagram, in pixels, and the most rows.
+constexpr int s_heightForARow = 190;
+constexpr int s_mostRows = 4;
 
 } // namespace
 
 ReadOuts::ReadOuts(const PanelModel *model, QWidget *parent)
-    : QWidget(parent)
+    : QScrollArea(parent)
     , m_model(model)
+    , m_hint(new QLabel(tr("Tap a trace twice to set a marker."), this))
 {
     setAccessibleName(tr("Markers"));
-    const auto refreshOwn = [this](int traceId) {
-        if (traceId == m_trace)
-            refresh();
-    };
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(false);
+    setWidget(new QWidget(this));
+    QScroller::grabGesture(viewport(), QScroller::LeftMouseButtonGesture);
+    m_hint->setObjectName(QStringLiteral("dim"));
+    m_hint->setIndent(6 + s_margin);
+    m_hint->setAttribute(Qt::WA_TransparentForMouseEvents);
+    forgetWidths();
+
     connect(m_model, &PanelModel::stimulusChanged, this, &ReadOuts::refresh);
     connect(m_model, &PanelModel::networkUpdated, this, &ReadOuts::refresh);
-    connect(m_model, &PanelModel::markerAdded, this, refreshOwn);
-    connect(m_model, &PanelModel::markerMoved, this, refreshOwn);
-    connect(m_model, &PanelModel::markerRemoved, this, refreshOwn);
-    connect(m_model, &PanelModel::referenceMarkerChanged, this, refreshOwn);
+    for (const auto signal :
+         {&PanelModel::markerAdded, &PanelModel::markerMoved, &PanelModel::markerRemoved})
+        connect(m_model, signal, this, &ReadOuts::refreshTrace);
+    connect(m_model, &PanelModel::referenceMarkerChanged, this, &ReadOuts::refreshTrace);
+    connect(m_model, &PanelModel::markerModeChanged, this, &ReadOuts::refresh);
     connect(m_model, &PanelModel::selectedMarkerChanged, this, &ReadOuts::refresh);
+    connect(m_model, &PanelModel::traceVisibleChanged, this, &ReadOuts::refreshTrace);
     connect(m_model->viewSettings(), &ViewSettings::changed, this, &ReadOuts::refresh);
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
             &ReadOuts::refresh);
 }
 
-void ReadOuts::setTrace(int traceId)
+void ReadOuts::setTraces(const QVector<int> &ids)
 {
-    m_trace = traceId;
+    if (ids != m_traces)
+        forgetWidths();
+    m_traces = ids;
     refresh();
 }
 
 void ReadOuts::setRoom(int height)
 {
-    if (height == m_room)
-        return;
-    m_room = height;
-    arrange();
+    m_rows = qBound(1, height / s_heightForARow, s_mostRows);
+    setFixedHeight(m_rows * rowHeight());
+}
+
+int ReadOuts::rowHeight() const
+{
+    return fontMetrics().height() + 8;
+}
+
+void ReadOuts::refreshTrace(int traceId)
+{
+    if (m_traces.contains(traceId))
+        refresh();
 }
 
 void ReadOuts::refresh()
 {
-    QVector<Marker> markers = m_model->markersOf(m_trace);
-    const Marker *selected = m_model->selectedMarker();
-    std::stable_partition(markers.begin(), markers.end(), [selected](const Marker &marker) {
-        return selected && marker.trace == selected->trace && marker.number == selected->number;
-    });
-    m_numbers.clear();
-    for (int row = 0; row < markers.size(); ++row) {
-        const Marker &marker = markers.at(row);
+    m_markers.clear();
+    for (const int id : qAsConst(m_traces)) {
+        const Trace *trace = m_model->trace(id);
+        if (trace && trace->visible)
+            m_markers += m_model->markersOf(id);
+    }
+    for (int row = 0; row < m_markers.size(); ++row) {
         if (row == m_items.size())
             m_items.append(makeItem());
-        showReading(m_items.at(row), marker);
-        m_numbers.append(marker.number);
+        showReading(m_items.at(row), m_markers.at(row));
     }
     arrange();
+    for (int row = 0; row < m_markers.size(); ++row) {
+        if (m_model->isSelected(m_markers.at(row)))
+            ensureWidgetVisible(m_items.at(row), 0, 0);
+    }
 }
 
 MarkerStatusItem *ReadOuts::makeItem()
 {
-    auto *item = new MarkerStatusItem(this);
+    auto *item = new MarkerStatusItem(widget());
     const int row = int(m_items.size());
     connect(item, &MarkerStatusItem::clicked, this, [this, row] {
-        if (row < m_numbers.size())
-            Q_EMIT selectionRequested(m_trace, m_numbers.at(row));
+        if (row < m_markers.size())
+            Q_EMIT selectionRequested(m_markers.at(row).trace, m_markers.at(row).number);
     });
     return item;
 }
 
-void ReadOuts::showReading(MarkerStatusItem *item, const Marker &marker) const
+void ReadOuts::showReading(MarkerStatusItem *item, const Marker &marker)
 {
-    const Trace &trace = *m_model->trace(m_trace);
-    const auto point = [&](const Marker &marked) {
-        return MarkedPoint{&m_model->network(trace), &m_model->data(trace), marked.index};
-    };
-    const Marker *reference = m_model->referenceMarker(m_trace);
+    const Trace &trace = *m_model->trace(marker.trace);
+    const Marker *reference = m_model->referenceMarker(trace.id);
     const bool isReference = reference && reference->number == marker.number;
-    MarkerReading reading;
-    if (trace.onSmithChart()) {
-        const ReadoutFormat format = m_model->viewSettings()->effectiveReadoutFormat();
-        reading = reference && !isReference
-            ? readOnSmithChart(point(marker), format, point(*reference))
-            : readOnSmithChart(point(marker), format);
-    } else {
-        reading = reference && !isReference
-            ? readOnCartesian(point(marker), trace.format, point(*reference))
-            : readOnCartesian(point(marker), trace.format);
-    }
+    const MarkerReading reading =
+        readMarker(*m_model, marker, isReference ? nullptr : reference);
     QString name = QStringLiteral("M%1").arg(marker.number);
     if (isReference)
         name += QLatin1Char('R');
     else if (reference)
         name.prepend(QChar(0x0394));
-    item->setText(name, reading.frequency, reading.values.value(0), reading.values.value(1),
-                  reading.values.value(2));
-    const Marker *selected = m_model->selectedMarker();
-    item->setSelectedStatus(selected && selected->trace == marker.trace
-                            && selected->number == marker.number);
-    item->setColor(currentLook().trace(m_trace));
-    item->setAccessibleDescription(reading.frequency + QLatin1Char(' ')
-                                   + reading.values.join(QLatin1Char(' ')));
+    const QStringList texts{reading.frequency, reading.values.value(0), reading.values.value(1),
+                            reading.values.value(2)};
+    widenColumns(texts);
+    item->setText(name, texts.at(0), texts.at(1), texts.at(2), texts.at(3));
+    item->setSelectedStatus(m_model->isSelected(marker));
+    item->setColor(currentLook().trace(trace.id));
+    item->setAccessibleDescription(PanelModel::parameterName(trace) + QLatin1Char(' ')
+                                   + texts.join(QLatin1Char(' ')));
 }
 
-/// Places the items in columns, and takes the height that they need.
+/// Makes room for the texts in their columns. Columns only grow: numbers that change in a live
+/// sweep would make them tremble.
+void ReadOuts::widenColumns(const QStringList &texts)
+{
+    for (int i = 0; i < m_widths.size(); ++i) {
+        if (!texts.at(i).isEmpty())
+            m_widths[i] =
+                qMax(m_widths.at(i), fontMetrics().horizontalAdvance(texts.at(i)) + s_gap);
+    }
+}
+
+void ReadOuts::forgetWidths()
+{
+    m_widths = {0, 0, 0, 0};
+}
+
+/// Places the rows, side by side where two fit.
 void ReadOuts::arrange()
 {
-    const int character = fontMetrics().averageCharWidth();
+    const int width = qMax(1, viewport()->width());
     int y = 0, rowHeight = 0, column = 0;
     for (int row = 0; row < m_items.size(); ++row) {
         MarkerStatusItem *item = m_items.at(row);
-        bool shown = row < m_numbers.size();
+        const bool shown = row < m_markers.size();
         if (shown) {
-            item->setKeyColumnWidth(s_stimulusWidth * character);
-            item->setNumLabelWidth(s_valueWidths[0] * character, s_valueWidths[1] * character,
-                                   s_valueWidths[2] * character);
+            item->setKeyColumnWidth(m_widths.at(0));
+            item->setNumLabelWidth(m_widths.at(1), m_widths.at(2), m_widths.at(3));
             const int single = item->preferredSingleLineWidth();
-            const int columns = qMax(1, (width() - 2 * s_margin) / (single + s_margin));
-            if (column == columns) {
+            const int columns = qMax(1, (width - 2 * s_margin) / (single + s_margin));
+            if (column >= columns) {
                 column = 0;
                 y += rowHeight;
                 rowHeight = 0;
             }
-            item->setLayoutWidth(qMin(single, width() - 2 * s_margin));
-            shown = row == 0 || y + item->height() <= m_room;
+            item->setLayoutWidth(qMin(single, width - 2 * s_margin));
             item->move(s_margin + column * (single + s_margin), y);
-            rowHeight = shown ? qMax(rowHeight, item->height()) : rowHeight;
+            rowHeight = qMax(rowHeight, qMax(item->height(), this->rowHeight()));
             ++column;
         }
         item->setVisible(shown);
     }
-    const int height = y + rowHeight;
-    if (height != this->height() || minimumHeight() != height)
-        setFixedHeight(height);
+    widget()->resize(width, y + rowHeight);
+    m_hint->setVisible(m_markers.isEmpty());
+    m_hint->setGeometry(0, 0, width, this->rowHeight());
 }
 
 void ReadOuts::resizeEvent(QResizeEvent *event)
 {
-    QWidget::resizeEvent(event);
-    if (event->size().width() != event->oldSize().width())
-        arrange();
+    QScrollArea::resizeEvent(event);
+    arrange();
 }
 
 void ReadOuts::changeEvent(QEvent *event)
 {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        arrange();
+    QScrollArea::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        forgetWidths();
+        refresh();
+    }
 }
 
 } // namespace Panel

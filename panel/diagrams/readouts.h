@@ -4,32 +4,33 @@
 
 #include <panel/model/panelmodel.h>
 
-#include <QWidget>
+#include <QScrollArea>
 
 class MarkerStatusItem;
+class QLabel;
 
 namespace Panel
 {
 
-/*! The read-outs of the markers of one trace: the selected one first and with a dot, the others as
-    their difference from the trace's reference marker where it has one; of no height without
-    markers.
+/*! The read-outs of the markers of a diagram: trace by trace in their colours, the selected one with
+    a dot, the others as their difference from their trace's reference marker where it has one.
 
-    Items stand side by side where there is room, and as many are shown as the height allows. A tap
-    on one asks for its marker to be selected. */
-class ReadOuts : public QWidget
+    Rows keep their order. The height follows from the room alone, never from how many markers there
+    are, so that the diagram below does not move; what does not fit scrolls under a finger. A tap on
+    a row asks for its marker to be selected. */
+class ReadOuts : public QScrollArea
 {
     Q_OBJECT
 
 public:
     explicit ReadOuts(const PanelModel *model, QWidget *parent = nullptr);
 
-    /// The trace whose markers are read; 0 for none.
-    void setTrace(int traceId);
-    /// The height that the items can have at most, in pixels; one is shown in any case.
+    /// The traces whose markers are read.
+    void setTraces(const QVector<int> &ids);
+    /// Takes a share of this height, in pixels: one to four rows.
     void setRoom(int height);
-    /// The markers on show, from the first item on.
-    QVector<int> numbers() const { return m_numbers; }
+    /// The markers on show, from the first row on.
+    const QVector<Marker> &markers() const { return m_markers; }
     MarkerStatusItem *item(int row) const { return m_items.value(row); }
 
 Q_SIGNALS:
@@ -41,15 +42,21 @@ protected:
 
 private:
     void refresh();
+    void refreshTrace(int traceId);
+    void showReading(MarkerStatusItem *item, const Marker &marker);
+    void widenColumns(const QStringList &texts);
+    void forgetWidths();
     void arrange();
-    void showReading(MarkerStatusItem *item, const Marker &marker) const;
     MarkerStatusItem *makeItem();
+    int rowHeight() const;
 
     const PanelModel *m_model;
-    int m_trace = 0;
-    int m_room = 0;
-    QVector<int> m_numbers;
+    QLabel *m_hint; ///< in place of the rows while there are none
+    QVector<int> m_traces;
+    QVector<Marker> m_markers;
     QVector<MarkerStatusItem *> m_items; ///< made when first needed, hidden when not
+    QVector<int> m_widths; ///< of the columns, in pixels: frequency and three values
+    int m_rows = 1;
 };
 
 } // namespace Panel

@@ -2,16 +2,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smithview.h"
 
-#include <panel/look/look.h>
-#include <panel/model/format.h>
+#include <panel/ground/look.h>
+#include <panel/ground/numbertext.h>
 
 #include <plot/qcp.h>
 
 namespace Panel
 {
 
-SmithView::SmithView(const PanelModel *model, QWidget *parent)
-    : DiagramView(model, parent)
+namespace
+{
+
+/// An arrow key takes a marker around the whole trace in so many steps, or point by point.
+constexpr int s_stepsAround = 1000;
+
+Zoom zoomOf(const SmithChart::ViewState &state)
+{
+    return bounded({state.zoom, state.centerX, state.centerY}, true);
+}
+
+bool isSame(const SmithChart::ViewState &a, const SmithChart::ViewState &b)
+{
+    constexpr double rounding = 1e-9;
+    return qAbs(a.zoom - b.zoom) <= rounding * b.zoom && qAbs(a.centerX - b.centerX) <= rounding
+        && qAbs(a.centerY - b.centerY) <= rounding;
+}
+
+} // namespace
+
+SmithView::SmithView(const PanelModel *model, const DiagramId &id, QWidget *parent)
+    : DiagramView(model, id, parent)
     , m_density(model->viewSettings()->density())
 {
     // The chart needs the axes as scales only.
@@ -38,35 +58,20 @@ void SmithView::followSettings()
 
 void SmithView::makeChart()
 {
-    const QCPRange x = plot()->xAxis->range();
-    const QCPRange y = plot()->yAxis->range();
-    const bool replaced = m_chart;
     delete m_chart;
     // A chart leaves its grid on the plot.
     plot()->clearItems();
     plot()->clearPlottables();
     m_chart = new SmithChartPlot(plot(), m_density, this);
-    followSettings();
-    connect(m_chart, &SmithChartPlot::pointDoubleClicked, this, [this](int traceId, int index) {
-        if (traceIds().contains(traceId)) // not stored data
-            Q_EMIT pointPicked(traceId, index);
-    });
-    connect(m_chart, &SmithChartPlot::activeTraceDoubleClicked, this,
-            [this](int traceId, double stimulus) {
-                const Network &network = m_model->network(*m_model->trace(traceId));
-                Q_EMIT pointPicked(traceId, indexOfFrequency(network.frequencies, stimulus));
-            });
-    connect(m_chart, &SmithChartPlot::markerSelectionRequested, this,
-            [this](int traceId, int number) {
-                if (!m_chart->onlyHandleActiveTrace() || traceId == m_chart->activeTrace())
-                    Q_EMIT markerSelectionRequested(traceId, number);
-            });
+    // What a finger means is decided by whoever asks hit().
+    m_chart->setPressDragsMarkers(false);
+    m_chart->setGridMode(m_model->viewSettings()->gridMode());
+    m_chart->setOnlyHandleActiveTrace(m_model->viewSettings()->onlyActiveTrace());
     connect(m_chart, &SmithChartPlot::markerPositionChanged, this, &SmithView::markerMoveRequested);
     connect(m_chart, &SmithChartPlot::markerDeleteRequested, this,
             &SmithView::markerDeleteRequested);
     loadTraces();
-    if (replaced)
-        m_chart->setViewFromRequestedRanges(x, y);
+    showZoom();
 }
 
 void SmithView::loadTraces()
@@ -75,13 +80,12 @@ void SmithView::loadTraces()
     const Look look = currentLook();
     for (const Trace &trace : traces()) {
         const Parameter &values = m_model->data(trace);
-        m_chart->addCurve(trace.id, QPen(look.trace(trace.id)));
+        m_chart->addCurve(trace.id, look.pen(trace.id, trace.network));
         m_chart->setCurveData(trace.id, m_model->network(trace).frequencies, values.real,
                               values.imag);
         m_chart->setCurveVisible(trace.id, trace.visible);
         showMemory(trace);
-        for (const Marker &marker : m_model->markersOf(trace.id))
-            addMarker(trace, marker);
+        placeMarkers(trace);
     }
     showActiveTrace();
     showSelectedMarker();
@@ -92,7 +96,7 @@ void SmithView::showMemory(const Trace &trace)
     const int id = memoryId(trace.id);
     m_chart->removeCurve(id);
     if (const Memory *memory = m_model->memory(trace.id)) {
-        m_chart->addCurve(id, QPen(currentLook().memory(trace.id)));
+        m_chart->addCurve(id, currentLook().memoryPen(trace.id, trace.network));
         m_chart->setCurveData(id, memory->frequencies, memory->parameter.real,
                               memory->parameter.imag);
         m_chart->setCurveVisible(id, trace.visible);
@@ -108,18 +112,43 @@ void SmithView::updateTraces(int network)
         const Parameter &values = m_model->data(trace);
         m_chart->setCurveData(trace.id, m_model->network(trace).frequencies, values.real,
                               values.imag);
+        placeMarkers(trace);
     }
 }
 
-void SmithView::moveMarker(const Trace &trace, const Marker &moved)
+void SmithView::beginDrag(int traceId, int number)
 {
-    m_chart->setMarkerIndex(trace.id, moved.number, moved.index);
-    const Plot::Marker *marker = m_chart->getMarker(trace.id, moved.number);
-    if (!marker || marker->isVisible())
-        return;
-    // Shorter data had no place for it.
-    m_chart->setMarkerVisible(trace.id, moved.number, trace.visible);
-    showSelectedMarker();
+    m_chart->beginMarkerDrag(traceId, number);
+}
+
+const Plot::Marker *SmithView::drawnMarker(int traceId, int number) const
+{
+    return m_chart->getMarker(traceId, number);
+}
+
+void SmithView::placeMarker(const Trace &trace, const Marker &placed)
+{
+    const double index = m_model->indexOf(placed);
+    const bool shown = trace.visible && index >= 0.0;
+    if (!m_chart->getMarker(trace.id, placed.number)) {
+        if (index < 0.0)
+            return;
+        m_chart->addMarkerVisual(trace.id, placed.number, index, Plot::PointingDown);
+        showSelectedMarker();
+    } else if (index >= 0.0) {
+        m_chart->setMarkerIndex(trace.id, placed.number, index);
+    }
+    const Plot::Marker *marker = m_chart->getMarker(trace.id, placed.number);
+    if (marker && marker->isVisible() != shown) {
+        m_chart->setMarkerVisible(trace.id, placed.number, shown);
+        if (shown)
+            showSelectedMarker();
+    }
+}
+
+int SmithView::pointsPerStep(int traceId) const
+{
+    return qMax(1, m_model->network(*m_model->trace(traceId)).points() / s_stepsAround);
 }
 
 int SmithView::drawnPoints() const
@@ -137,14 +166,7 @@ void SmithView::setTraceVisible(const Trace &trace)
 {
     m_chart->setCurveVisible(trace.id, trace.visible);
     m_chart->setCurveVisible(memoryId(trace.id), trace.visible);
-    for (const Marker &marker : m_model->markersOf(trace.id))
-        m_chart->setMarkerVisible(trace.id, marker.number, trace.visible);
-}
-
-void SmithView::addMarker(const Trace &trace, const Marker &marker)
-{
-    m_chart->addMarkerVisual(trace.id, marker.number, marker.index, Plot::PointingDown);
-    m_chart->setMarkerVisible(trace.id, marker.number, trace.visible);
+    placeMarkers(trace);
 }
 
 void SmithView::removeMarker(int traceId, int number)
@@ -172,8 +194,8 @@ void SmithView::recolor()
     const Look look = currentLook();
     plot()->setBackground(look.background);
     for (const Trace &trace : traces()) {
-        m_chart->setCurvePen(trace.id, QPen(look.trace(trace.id)));
-        m_chart->setCurvePen(memoryId(trace.id), QPen(look.memory(trace.id)));
+        m_chart->setCurvePen(trace.id, look.pen(trace.id, trace.network));
+        m_chart->setCurvePen(memoryId(trace.id), look.memoryPen(trace.id, trace.network));
     }
     replotLater();
 }
@@ -187,44 +209,71 @@ QStringList SmithView::titleParts() const
             m_model->network(*active).name};
 }
 
-void SmithView::zoomAt(const QPointF &position, double factor)
+SmithChart::HalfRanges SmithView::halfRanges() const
 {
-    m_chart->zoomAt(coordinates(position), factor);
-    showView();
+    const QCPAxisRect *rect = plot()->axisRect();
+    return SmithChart::baseHalfRanges(rect->width(), rect->height());
 }
 
-void SmithView::setZoom(double zoom)
+/// The model's zoom in the present shape of the plot.
+SmithChart::ViewState SmithView::wantedView() const
 {
-    const SmithChart::ViewState state = m_chart->viewState();
-    m_chart->zoomAt({state.centerX, state.centerY}, zoom / state.zoom);
-    showView();
+    const Zoom zoom = m_model->zoom(id());
+    return SmithChart::clampViewState({zoom.x, zoom.y, zoom.factor}, halfRanges());
 }
 
-void SmithView::moveTo(const QPointF &coordinates, const QPointF &position)
+void SmithView::showZoom()
 {
-    if (!m_chart->isMagnified())
+    const SmithChart::ViewState wanted = wantedView();
+    if (!m_laidOut || isSame(m_chart->viewState(), wanted))
         return;
-    const QPointF shift = coordinates - this->coordinates(position);
-    m_chart->setViewFromRequestedRanges(plot()->xAxis->range() + shift.x(),
-                                        plot()->yAxis->range() + shift.y());
-    showView();
-}
-
-void SmithView::resetView()
-{
-    m_chart->resetView();
-    showView();
-}
-
-bool SmithView::pick(const QPoint &position, Qt::KeyboardModifiers modifiers)
-{
-    return m_chart->handleDoubleClick(position, modifiers);
-}
-
-void SmithView::showView()
-{
+    if (m_model->zoom(id()).isWhole()) {
+        m_chart->resetView();
+    } else {
+        const SmithChart::ViewRanges ranges = SmithChart::viewRanges(wanted, halfRanges());
+        m_chart->setViewFromRequestedRanges({ranges.xLower, ranges.xUpper},
+                                            {ranges.yLower, ranges.yUpper});
+    }
     replotLater();
-    Q_EMIT viewChanged();
+}
+
+void SmithView::onLayout()
+{
+    m_laidOut = true;
+    showZoom();
+}
+
+Zoom SmithView::zoomedAt(const QPointF &position, double factor) const
+{
+    const QPointF anchor = coordinates(position);
+    return zoomOf(SmithChart::zoomedViewState(wantedView(), anchor.x(), anchor.y(), factor,
+                                              halfRanges()));
+}
+
+Zoom SmithView::movedTo(const QPointF &coordinates, const QPointF &position) const
+{
+    const QPointF shift = coordinates - this->coordinates(position);
+    SmithChart::ViewState view = wantedView();
+    view.centerX += shift.x();
+    view.centerY += shift.y();
+    return zoomOf(SmithChart::clampViewState(view, halfRanges()));
+}
+
+Hit SmithView::hitLine(const QPointF &position) const
+{
+    Hit nearest;
+    double least = reach;
+    for (const Trace &trace : traces()) {
+        int index = -1;
+        double distance = 0.0;
+        if (!reaches(trace)
+            || !m_chart->nearestPoint(trace.id, position.toPoint(), index, distance)
+            || distance >= least)
+            continue;
+        least = distance;
+        nearest = {Hit::Line, trace.id, 0, double(index)};
+    }
+    return nearest;
 }
 
 } // namespace Panel

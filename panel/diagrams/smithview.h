@@ -17,43 +17,46 @@ class SmithView : public DiagramView
     Q_OBJECT
 
 public:
-    explicit SmithView(const PanelModel *model, QWidget *parent = nullptr);
+    SmithView(const PanelModel *model, const DiagramId &id, QWidget *parent = nullptr);
 
     SmithChartPlot *chart() const { return m_chart; }
     /// The id that the chart knows the stored data of a trace by.
     static constexpr int memoryId(int traceId) { return traceId + s_firstMemoryId; }
 
-    double zoom() const override { return m_chart->viewState().zoom; }
-    void setZoom(double zoom) override;
-    void zoomAt(const QPointF &position, double factor) override;
-    void moveTo(const QPointF &coordinates, const QPointF &position) override;
-    void resetView() override;
-    bool isMarkerPressed() const override { return m_chart->isDraggingMarker(); }
-    bool pick(const QPoint &position, Qt::KeyboardModifiers modifiers) override;
+    /// The chart itself follows the pointer from here on.
+    void beginDrag(int traceId, int number) override;
+    const Plot::Marker *drawnMarker(int traceId, int number) const override;
+    int pointsPerStep(int traceId) const override;
+    Zoom zoomedAt(const QPointF &position, double factor) const override;
+    Zoom movedTo(const QPointF &coordinates, const QPointF &position) const override;
     int drawnPoints() const override;
 
 protected:
     void loadTraces() override;
     void updateTraces(int network) override;
     void recolor() override;
+    void showZoom() override;
     void setTraceVisible(const Trace &trace) override;
     void showActiveTrace() override;
-    void addMarker(const Trace &trace, const Marker &marker) override;
-    void moveMarker(const Trace &trace, const Marker &marker) override;
+    void placeMarker(const Trace &trace, const Marker &marker) override;
     void removeMarker(int traceId, int number) override;
     void showSelectedMarker() override;
     void showMemory(const Trace &trace) override;
     QStringList titleParts() const override;
+    void onLayout() override;
+    Hit hitLine(const QPointF &position) const override;
 
 private:
     static constexpr int s_firstMemoryId = 1000;
 
     void makeChart();
     void followSettings();
-    void showView();
+    SmithChart::HalfRanges halfRanges() const;
+    SmithChart::ViewState wantedView() const;
 
     SmithChartPlot *m_chart = nullptr;
     SmithChart::Preset m_density;
+    bool m_laidOut = false;
 };
 
 } // namespace Panel

@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "markercontroller.h"
 
-#include "numerickeys.h"
 #include "softkey.h"
-#include <panel/model/format.h>
+#include <panel/ground/numbertext.h>
 #include <panel/model/markersearch.h>
 #include <panel/model/panelmodel.h>
-#include <panel/window/messagebar.h>
-#include <panel/window/panelwindow.h>
 
 #include <widgets/menubutton.h>
 
@@ -36,18 +33,15 @@ enum MarkerTo {
 
 /// Where a further marker of a trace goes, as a share of its data: each halves the largest gap that
 /// the ones before have left.
-constexpr double s_places[PanelModel::markersPerTrace] = {0.5, 0.25, 0.75, 0.125, 0.625, 0.375};
+constexpr double s_places[Markers::perTrace] = {0.5, 0.25, 0.75, 0.125, 0.625, 0.375};
 
 } // namespace
 
-MarkerController::MarkerController(PanelModel *model, PanelWindow *window, NumericKeys *numbers,
-                                   QObject *parent)
+MarkerController::MarkerController(PanelModel *model, const PanelKeys &keys, QObject *parent)
     : QObject(parent)
     , m_model(model)
-    , m_window(window)
-    , m_numbers(numbers)
+    , m_keys(keys)
 {
-    const PanelKeys &keys = window->keys();
     connect(keys.marker, &SoftKey::choicePicked, this, &MarkerController::onMarkerPicked);
     keys.search->setMenuItems({{int(Search::Maximum), tr("Maximum")},
                                {int(Search::Minimum), tr("Minimum")},
@@ -82,10 +76,10 @@ MarkerController::MarkerController(PanelModel *model, PanelWindow *window, Numer
     connect(model, &PanelModel::referenceMarkerChanged, this, &MarkerController::showMarkers);
     connect(model->viewSettings(), &ViewSettings::changed, this, &MarkerController::showMarkers);
     connect(model, &PanelModel::markersExhausted, this, [this](int traceId) {
-        m_window->messageBar()->setMessage(
+        Q_EMIT said(
             tr("Trace %1 has all its %2 markers: remove one to set another.")
                 .arg(traceId)
-                .arg(PanelModel::markersPerTrace));
+                .arg(Markers::perTrace));
     });
     showMarkers();
 }
@@ -97,7 +91,7 @@ void MarkerController::onMarkerPicked(int command)
         return;
     const QVector<Marker> markers = m_model->activeMarkers();
     if (command == Add) {
-        const int place = qMin(int(markers.size()), PanelModel::markersPerTrace - 1);
+        const int place = qMin(int(markers.size()), Markers::perTrace - 1);
         const int last = m_model->network(*trace).points() - 1;
         m_model->addMarker(trace->id, std::floor(last * s_places[place]));
     } else if (command == Remove) {
@@ -120,9 +114,9 @@ void MarkerController::onSearchPicked(int command)
         return;
     const Marker *marker = m_model->selectedMarker();
     const int found = searchMarker(m_model->data(*trace), trace->format, Search(command),
-                                   marker ? marker->index : 0.0);
+                                   marker ? qMax(0.0, m_model->indexOf(*marker)) : 0.0);
     if (found < 0)
-        m_window->messageBar()->setMessage(tr("Trace %1 has no such point.").arg(trace->id));
+        Q_EMIT said(tr("Trace %1 has no such point.").arg(trace->id));
     else if (marker)
         m_model->moveMarker(marker->trace, marker->number, found);
     else
@@ -135,18 +129,18 @@ void MarkerController::onMarkerToPicked(int command)
     if (!marker)
         return;
     const Trace &trace = *m_model->trace(marker->trace);
-    const double hertz = valueAt(m_model->network(trace).frequencies, marker->index);
-    const Stimulus limits = m_numbers->limits(trace);
-    const Stimulus now = m_numbers->stimulus(trace);
+    const double hertz = m_model->hertzOf(*marker);
+    const Stimulus limits = m_model->limits(trace);
+    const Stimulus now = m_model->stimulus(trace);
     const auto changed = command == ToCenter ? withCenter
         : command == ToStart                 ? withStart
                                              : withStop;
-    m_numbers->setStimulus(trace, changed(now, hertz, limits));
+    m_model->setStimulus(trace, changed(now, hertz, limits, m_model->smallestSpan()));
 }
 
 void MarkerController::showMarkers()
 {
-    const PanelKeys &keys = m_window->keys();
+    const PanelKeys &keys = m_keys;
     const Trace *trace = m_model->activeTrace();
     const Marker *selected = m_model->selectedMarker();
     const Marker *reference = trace ? m_model->referenceMarker(trace->id) : nullptr;

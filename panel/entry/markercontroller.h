@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "panelkeys.h"
+
 #include <QObject>
 
 namespace Panel
 {
 
-class NumericKeys;
 class PanelModel;
-class PanelWindow;
 
 /// Answers the keys about markers.
 class MarkerController : public QObject
@@ -17,8 +17,11 @@ class MarkerController : public QObject
     Q_OBJECT
 
 public:
-    MarkerController(PanelModel *model, PanelWindow *window, NumericKeys *numbers,
-                     QObject *parent = nullptr);
+    MarkerController(PanelModel *model, const PanelKeys &keys, QObject *parent = nullptr);
+
+Q_SIGNALS:
+    /// A sentence for the user.
+    void said(const QString &sentence);
 
 private:
     void onMarkerPicked(int command);
@@ -27,8 +30,7 @@ private:
     void showMarkers();
 
     PanelModel *m_model;
-    PanelWindow *m_window;
-    NumericKeys *m_numbers;
+    PanelKeys m_keys;
 };
 
 } // namespace Panel

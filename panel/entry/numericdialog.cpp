@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numericdialog.h"
 
+#include "typedentry.h"
 #include "units.h"
 
 #include <controls/keypadeditor.h>
-#include <controls/overlaycontainer.h>
 #include <controls/step125controller.h>
 #include <widgets/labelbutton.h>
 
-#include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -37,8 +36,9 @@ NumericDialog::NumericDialog(const QString &title, UnitAdapter *adapter, QWidget
     // The dialog is the adapter's parent: a commit or Escape closes it.
     m_adapter->setParent(this);
     m_editor = new Controls::KeypadEditor(this, m_adapter);
-    m_edit = findChild<QLineEdit *>(QStringLiteral("edit"));
-    m_edit->installEventFilter(this); // once more, to come before the editor's own
+    connect(new TypedEntry(lineEdit(), m_adapter, this), &TypedEntry::refused, this,
+            [this] { flash(tr("Not a value")); });
+    setDimEnabled(true);
 
     m_range->setObjectName(QStringLiteral("range"));
     setTitleWidget(m_range, Qt::AlignRight | Qt::AlignVCenter);
@@ -53,11 +53,7 @@ NumericDialog::NumericDialog(const QString &title, UnitAdapter *adapter, QWidget
     m_stepKey->setFocusPolicy(Qt::TabFocus); // a tap leaves the cursor in the editor
     m_stepKey->setAccessibleName(tr("Step"));
     m_stepKey->hide();
-    if (auto *column = qobject_cast<QBoxLayout *>(layout())) {
-        const int below = column->indexOf(m_edit) + 1;
-        column->insertSpacing(below, 4);
-        column->insertWidget(below + 1, m_stepKey);
-    }
+    setExtraWidget(m_stepKey);
     connect(m_stepKey, &LabelButton::clicked, this,
             [this] { setStep((m_step + 1) % int(m_steps.size())); });
 
@@ -108,36 +104,23 @@ void NumericDialog::setStep(int index)
 void NumericDialog::open()
 {
     TouchNumKeyboard::open();
-    if (auto *overlay = qobject_cast<Controls::OverlayContainer *>(parentWidget()))
-        overlay->setDimEnabled(true);
     // In a window that is not active yet, the focus comes later than the user's eye.
     m_editor->onFocus();
-}
-
-bool NumericDialog::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_edit && event->type() == QEvent::KeyPress) {
-        const auto *press = static_cast<QKeyEvent *>(event);
-        const bool enters = press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter;
-        if (enters && std::isnan(typedValue(press->text()))) {
-            flash(tr("Not a value"));
-            return true;
-        }
-    }
-    return TouchNumKeyboard::eventFilter(watched, event);
 }
 
 bool NumericDialog::isUntouched(const QString &unitKey) const
 {
     const bool changesUnit =
         m_adapter->availableUnits().contains(unitKey) && unitKey != m_adapter->getCurrentUnit();
-    return !changesUnit && m_adapter->property("inputText").toString() == m_adapter->getInputText();
+    return !changesUnit && lineEdit()->text() == m_adapter->getInputText();
 }
 
 double NumericDialog::typedValue(const QString &unitKey) const
 {
+    const bool changesUnit = m_adapter->availableUnits().contains(unitKey);
     QString unit = unitKey;
-    return m_adapter->convertInputTextToValue(m_adapter->property("inputText").toString(), unit);
+    return changesUnit ? m_adapter->convertInputTextToValue(lineEdit()->text(), unit)
+                       : m_adapter->typedValue(lineEdit()->text());
 }
 
 void NumericDialog::onEditingFinished(double value)

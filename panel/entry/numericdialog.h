@@ -7,9 +7,7 @@
 #include <QVector>
 
 class LabelButton;
-class QKeyEvent;
 class QLabel;
-class QLineEdit;
 class QTimer;
 
 namespace Controls
@@ -24,7 +22,7 @@ namespace Panel
 class UnitAdapter;
 
 /*! Asks for one number: title and range, the value to edit, and the keypad, above the dimmed
-   window. It needs a QMainWindow as its host, and deletes itself when it closes.
+    window. It needs a QMainWindow as its host, and deletes itself when it closes.
 
     The value is told as it changes, so that a step shows at once. What is typed beyond the range
    becomes the limit, and limited() says so; what is no number keeps the dialog open. Escape, or a
@@ -68,9 +66,6 @@ Q_SIGNALS:
     /// A value was beyond the range; a sentence that names the limit.
     void limited(const QString &sentence);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void setStep(int index);
     void onEditingFinished(double value);
@@ -85,8 +80,7 @@ private:
     void showRange();
 
     UnitAdapter *m_adapter;
-    Controls::KeypadEditor *m_editor = nullptr;
-    QLineEdit *m_edit = nullptr; ///< events reach the filter before it is found
+    Controls::KeypadEditor *m_editor;
     QLabel *m_range;
     LabelButton *m_stepKey;
     QTimer *m_flashEnd;

@@ -2,16 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numerickeys.h"
 
+#include "numericdialog.h"
 #include "softkey.h"
 #include "units.h"
-#include <panel/diagrams/diagrams.h>
-#include <panel/diagrams/diagramview.h>
+
+#include <panel/ground/numbertext.h>
 #include <panel/model/cartesian.h>
-#include <panel/model/format.h>
-#include <panel/model/panelmodel.h>
-#include <panel/source/sweepcontroller.h>
-#include <panel/window/messagebar.h>
-#include <panel/window/panelwindow.h>
 
 #include <QStyle>
 
@@ -23,8 +19,6 @@ namespace Panel
 namespace
 {
 
-const QString s_nothing = QStringLiteral("\u2013");
-
 /// A tenth, a hundredth and a thousandth of a span as powers of ten, but whole Hz.
 QVector<double> decadeSteps(double span)
 {
@@ -32,78 +26,86 @@ QVector<double> decadeSteps(double span)
     return {tenth, tenth / 10.0, tenth / 100.0};
 }
 
+UnitAdapter *valueAdapter(TraceFormat format)
+{
+    if (format == TraceFormat::LogMagnitude)
+        return new DecibelAdapter;
+    return new NumberAdapter(2);
+}
+
 } // namespace
 
-NumericKeys::NumericKeys(PanelModel *model, PanelWindow *window, SweepController *sweeps,
-                         QObject *parent)
+NumericKeys::NumericKeys(PanelModel *model, const PanelKeys &keys, QWidget *host, QObject *parent)
     : QObject(parent)
     , m_model(model)
-    , m_window(window)
-    , m_sweeps(sweeps)
+    , m_keys(keys)
+    , m_host(host)
 {
     m_stimulusNumbers = {
-        {window->keys().start, [](const Stimulus &s) { return s.start; }, withStart},
-        {window->keys().stop, [](const Stimulus &s) { return s.stop; }, withStop},
-        {window->keys().center, [](const Stimulus &s) { return s.center(); }, withCenter},
-        {window->keys().span, [](const Stimulus &s) { return s.span(); }, withSpan},
+        {keys.start, [](const Stimulus &s) { return s.start; }, withStart},
+        {keys.stop, [](const Stimulus &s) { return s.stop; }, withStop},
+        {keys.center, [](const Stimulus &s) { return s.center(); }, withCenter},
+        {keys.span, [](const Stimulus &s) { return s.span(); }, withSpan},
     };
+    connectKeys();
+    followModel();
+}
+
+void NumericKeys::connectKeys()
+{
     for (const StimulusNumber &number : qAsConst(m_stimulusNumbers))
         connect(number.key, &SoftKey::clicked, this, [this, number] { editStimulus(number); });
-    connect(window->keys().points, &SoftKey::clicked, this, &NumericKeys::editPoints);
-    connect(window->keys().markerStimulus, &SoftKey::clicked, this,
-            &NumericKeys::editMarkerStimulus);
-    connect(window->keys().zoom, &SoftKey::clicked, this, &NumericKeys::editZoom);
+    connect(m_keys.points, &SoftKey::clicked, this, &NumericKeys::editPoints);
+    connect(m_keys.markerStimulus, &SoftKey::clicked, this, &NumericKeys::editMarkerStimulus);
+    connect(m_keys.zoom, &SoftKey::clicked, this, &NumericKeys::editZoom);
+    connect(m_keys.scale, &SoftKey::clicked, this, [this] { editScale(m_keys.scale); });
+    connect(m_keys.reference, &SoftKey::clicked, this, &NumericKeys::editReference);
+    connect(m_keys.tune, &SoftKey::clicked, this, &NumericKeys::editTuning);
+}
 
-    connect(model, &PanelModel::activeTraceChanged, this, &NumericKeys::showStimulus);
-    connect(model, &PanelModel::stimulusChanged, this, &NumericKeys::showStimulus);
-    connect(model, &PanelModel::sweepChanged, this, &NumericKeys::showStimulus);
-    connect(model, &PanelModel::stimulusChanged, this, &NumericKeys::showMarkerStimulus);
-    connect(model, &PanelModel::selectedMarkerChanged, this, &NumericKeys::showMarkerStimulus);
-    connect(model, &PanelModel::markerMoved, this, &NumericKeys::showMarkerStimulus);
-    connect(window->keys().scale, &SoftKey::clicked, this,
-            [this] { editScale(m_window->keys().scale); });
-    connect(window->keys().reference, &SoftKey::clicked, this, &NumericKeys::editReference);
+void NumericKeys::followModel()
+{
+    for (const auto signal : {&PanelModel::activeTraceChanged, &PanelModel::sourceChanged,
+                              &PanelModel::sweepChanged, &PanelModel::networksChanged})
+        connect(m_model, signal, this, &NumericKeys::showStimulus);
+    for (const auto signal : {&PanelModel::stimulusChanged, &PanelModel::networkUpdated})
+        connect(m_model, signal, this, &NumericKeys::showStimulus);
+    for (const auto signal : {&PanelModel::selectedMarkerChanged, &PanelModel::markerModeChanged})
+        connect(m_model, signal, this, &NumericKeys::showMarkerStimulus);
+    connect(m_model, &PanelModel::markerMoved, this, &NumericKeys::showMarkerStimulus);
     for (const auto signal : {&PanelModel::activeTraceChanged, &PanelModel::tracesChanged})
-        connect(model, signal, this, &NumericKeys::showScale);
-    connect(model, &PanelModel::traceScaleChanged, this, &NumericKeys::showScale);
-    connect(window->keys().tune, &SoftKey::clicked, this, &NumericKeys::editTuning);
-    connect(sweeps, &SweepController::tuningChanged, this, &NumericKeys::showTuning);
-    connect(model, &PanelModel::networksChanged, this, &NumericKeys::showTuning);
-    showTuning();
-    const auto watch = [this](const DiagramView *view) {
-        connect(view, &DiagramView::viewChanged, this, &NumericKeys::showZoom);
-    };
-    for (const DiagramView *view : window->diagrams()->allViews())
-        watch(view);
-    connect(window->diagrams(), &Diagrams::viewMade, this, watch);
-    connect(window->diagrams(), &Diagrams::viewsChanged, this, &NumericKeys::showZoom);
-    showScale();
+        connect(m_model, signal, this, &NumericKeys::showScale);
+    connect(m_model, &PanelModel::traceScaleChanged, this, &NumericKeys::showScale);
+    connect(m_model, &PanelModel::zoomChanged, this, &NumericKeys::showScale);
+    connect(m_model->viewSettings(), &ViewSettings::changed, this, &NumericKeys::showScale);
+    for (const auto signal : {&PanelModel::tuningChanged, &PanelModel::sourceChanged})
+        connect(m_model, signal, this, &NumericKeys::showTuning);
     showStimulus();
     showMarkerStimulus();
-    showZoom();
+    showScale();
+    showTuning();
 }
 
 template<typename Apply>
-void NumericKeys::edit(QWidget *key, const QString &name, UnitAdapter *adapter,
+void NumericKeys::edit(QWidget *anchor, const QString &name, UnitAdapter *adapter,
                        const QVector<double> &steps, Apply apply)
 {
-    auto *dialog = new NumericDialog(name, adapter, m_window);
+    auto *dialog = new NumericDialog(name, adapter, m_host);
     dialog->setSteps(steps);
-    dialog->setPopupAnchorWidget(key);
-    MessageBar *bar = m_window->messageBar();
-    bar->setMessage({}); // of the last entry
+    dialog->setPopupAnchorWidget(anchor);
+    Q_EMIT said({}); // of the last entry
     connect(dialog, &NumericDialog::valueChanged, this, apply);
-    connect(dialog, &NumericDialog::limited, bar, &MessageBar::setMessage);
+    connect(dialog, &NumericDialog::limited, this, &NumericKeys::said);
     // Networks that come and go would leave it with another range, or nothing to edit.
     connect(m_model, &PanelModel::networksChanged, dialog, [this, dialog] {
         dialog->disconnect(this); // nor do they take the old value back
         dialog->reject();
     });
-    const auto mark = [key](bool editing) {
-        key->setProperty("editing", editing);
-        key->style()->polish(key);
+    const auto mark = [anchor](bool editing) {
+        anchor->setProperty("editing", editing);
+        anchor->style()->polish(anchor);
     };
-    connect(dialog, &QDialog::finished, key, [mark] { mark(false); });
+    connect(dialog, &QDialog::finished, anchor, [mark] { mark(false); });
     mark(true);
     dialog->open();
 }
@@ -120,13 +122,13 @@ void NumericKeys::editStimulus(const StimulusNumber &number)
     const Trace *trace = m_model->activeTrace();
     if (!trace)
         return;
-    const Stimulus limits = this->limits(*trace);
+    const Stimulus limits = m_model->limits(*trace);
     // What the entry began with: steps go back and forth from there.
-    const Stimulus before = stimulus(*trace);
-    const bool isSpan = number.key == m_window->keys().span;
-    const double leastSpan = m_sweeps->isSimulating() ? Sweep::leastSpan : 0.0;
+    const Stimulus before = m_model->stimulus(*trace);
+    const bool isSpan = number.key == m_keys.span;
     auto *adapter = new FrequencyAdapter;
-    adapter->setRange(isSpan ? leastSpan : limits.start, isSpan ? limits.span() : limits.stop);
+    adapter->setRange(isSpan ? m_model->smallestSpan() : limits.start,
+                      isSpan ? limits.span() : limits.stop);
     adapter->setRealValue(number.value(before));
     QVector<double> steps = decadeSteps(before.span());
     if (isSpan)
@@ -134,9 +136,23 @@ void NumericKeys::editStimulus(const StimulusNumber &number)
     else
         steps.append(NumericDialog::Step125);
     edit(number.key, adapter, steps, [=, id = trace->id](double value) {
-        if (const Trace *edited = m_model->trace(id))
-            setStimulus(*edited, number.changed(before, value, limits));
+        const Trace *edited = m_model->trace(id);
+        if (!edited)
+            return;
+        m_model->setStimulus(*edited,
+                             number.changed(before, value, limits, m_model->smallestSpan()));
+        sayWhatFollowed(number, before, m_model->stimulus(*edited));
     });
+}
+
+/// Start and Stop may take each other along; that is said.
+void NumericKeys::sayWhatFollowed(const StimulusNumber &number, const Stimulus &before,
+                                  const Stimulus &after)
+{
+    if (number.key == m_keys.start && after.stop != before.stop)
+        Q_EMIT said(tr("Stop moved along, to %1.").arg(frequencyText(after.stop)));
+    if (number.key == m_keys.stop && after.start != before.start)
+        Q_EMIT said(tr("Start moved along, to %1.").arg(frequencyText(after.start)));
 }
 
 void NumericKeys::editPoints()
@@ -144,35 +160,11 @@ void NumericKeys::editPoints()
     auto *adapter = new NumberAdapter(0);
     adapter->setRange(Sweep::fewestPoints, Sweep::mostPoints);
     adapter->setRealValue(m_model->sweep().points);
-    edit(m_window->keys().points, adapter, {NumericDialog::Step125, 100.0, 1.0},
-         [this](double value) {
-             Sweep sweep = m_model->sweep();
-             sweep.points = qRound(value);
-             m_model->setSweep(sweep);
-         });
-}
-
-Stimulus NumericKeys::stimulus(const Trace &trace) const
-{
-    return m_sweeps->isSimulating() ? Stimulus{m_model->sweep().start, m_model->sweep().stop}
-                                    : m_model->stimulus(trace);
-}
-
-Stimulus NumericKeys::limits(const Trace &trace) const
-{
-    return m_sweeps->isSimulating() ? Stimulus{Sweep::lowest, Sweep::highest}
-                                    : m_model->limits(trace);
-}
-
-void NumericKeys::setStimulus(const Trace &trace, Stimulus stimulus)
-{
-    if (!m_sweeps->isSimulating()) {
-        m_model->setStimulus(trace, stimulus);
-        return;
-    }
-    if (stimulus.span() < Sweep::leastSpan)
-        stimulus = withSpan(stimulus, Sweep::leastSpan, limits(trace));
-    m_model->setSweep({stimulus.start, stimulus.stop, m_model->sweep().points});
+    edit(m_keys.points, adapter, {NumericDialog::Step125, 100.0, 1.0}, [this](double value) {
+        Sweep sweep = m_model->sweep();
+        sweep.points = qRound(value);
+        m_model->setSweep(sweep);
+    });
 }
 
 void NumericKeys::editMarkerStimulus()
@@ -183,9 +175,9 @@ void NumericKeys::editMarkerStimulus()
     const Network &network = m_model->network(*m_model->trace(marker->trace));
     auto *adapter = new FrequencyAdapter;
     adapter->setRange(network.frequencies.constFirst(), network.frequencies.constLast());
-    adapter->setRealValue(valueAt(network.frequencies, marker->index));
-    QVector<double> steps = decadeSteps(adapter->maximum() - adapter->minimum());
-    edit(m_window->keys().markerStimulus, adapter, steps,
+    adapter->setRealValue(m_model->hertzOf(*marker));
+    const QVector<double> steps = decadeSteps(adapter->maximum() - adapter->minimum());
+    edit(m_keys.markerStimulus, adapter, steps,
          [this, traceId = marker->trace, number = marker->number](double value) {
              if (const Trace *trace = m_model->trace(traceId))
                  m_model->moveMarker(traceId, number,
@@ -196,17 +188,13 @@ void NumericKeys::editMarkerStimulus()
 void NumericKeys::editScale(QWidget *anchor)
 {
     const Trace *trace = m_model->activeTrace();
-    if (!trace)
+    if (trace && trace->onSmithChart())
+        editSmithScale(anchor);
+    if (!trace || trace->onSmithChart())
         return;
     const TraceFormat format = trace->format;
-    UnitAdapter *adapter = format == TraceFormat::LogMagnitude
-        ? static_cast<UnitAdapter *>(new DecibelAdapter)
-        : new NumberAdapter(2);
-    // The Smith chart is magnified 20 times at most.
-    adapter->setRange(format == TraceFormat::Smith ? 1.0 / DiagramView::mostZoom : 0.01,
-                      format == TraceFormat::Smith       ? 1.0
-                          : format == TraceFormat::Phase ? 90.0
-                                                         : 100.0);
+    UnitAdapter *adapter = valueAdapter(format);
+    adapter->setRange(traits(format).smallestDivision, traits(format).largestDivision);
     const Scale before = trace->scale;
     adapter->setRealValue(before.perDivision);
     const QString unit = formatUnit(format);
@@ -214,9 +202,23 @@ void NumericKeys::editScale(QWidget *anchor)
          {NumericDialog::Step125}, [=, id = trace->id](double value) {
              // The standing wave ratio begins at 1, wherever its scale ends.
              const double top = format == TraceFormat::Vswr
-                 ? before.top + divisions(format) * (value - before.perDivision)
+                 ? bottom(format, before) + traits(format).divisions * value
                  : before.top;
              m_model->setTraceScale(id, {value, top});
+         });
+}
+
+/// On a Smith chart a division is a unit over the zoom.
+void NumericKeys::editSmithScale(QWidget *anchor)
+{
+    const DiagramId diagram = m_model->diagramOf(m_model->activeTrace()->id);
+    auto *adapter = new NumberAdapter(2);
+    adapter->setRange(traits(TraceFormat::Smith).smallestDivision,
+                      traits(TraceFormat::Smith).largestDivision);
+    adapter->setRealValue(1.0 / m_model->zoom(diagram).factor);
+    edit(anchor, tr("Scale, %1/").arg(QStringLiteral("U")), adapter, {NumericDialog::Step125},
+         [this, diagram, before = m_model->zoom(diagram)](double value) {
+             m_model->setZoom(diagram, {1.0 / value, before.x, before.y});
          });
 }
 
@@ -225,13 +227,11 @@ void NumericKeys::editReference()
     const Trace *trace = m_model->activeTrace();
     if (!trace || trace->onSmithChart())
         return;
-    UnitAdapter *adapter = trace->format == TraceFormat::LogMagnitude
-        ? static_cast<UnitAdapter *>(new DecibelAdapter)
-        : new NumberAdapter(2);
+    UnitAdapter *adapter = valueAdapter(trace->format);
     adapter->setRange(-1000.0, 1000.0);
     adapter->setRealValue(trace->scale.top);
     const double division = trace->scale.perDivision;
-    edit(m_window->keys().reference, adapter, {division, division / 10.0},
+    edit(m_keys.reference, adapter, {division, division / 10.0},
          [this, division, id = trace->id](double value) {
              m_model->setTraceScale(id, {division, value});
          });
@@ -239,24 +239,25 @@ void NumericKeys::editReference()
 
 void NumericKeys::editTuning()
 {
-    const Stimulus limits = m_sweeps->tuningLimits();
     auto *adapter = new FrequencyAdapter;
-    adapter->setRange(limits.start, limits.stop);
-    adapter->setRealValue(m_sweeps->tuning());
-    edit(m_window->keys().tune, adapter, {10e6, 1e6},
-         [this](double value) { m_sweeps->setTuning(value); });
+    adapter->setRange(tuningLimits.start, tuningLimits.stop);
+    adapter->setRealValue(m_model->tuning());
+    edit(m_keys.tune, adapter, {10e6, 1e6}, [this](double value) { m_model->setTuning(value); });
 }
 
 void NumericKeys::editZoom()
 {
-    DiagramView *view = m_window->diagrams()->activeView();
-    if (!view)
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
         return;
+    const DiagramId diagram = m_model->diagramOf(trace->id);
+    const Zoom before = m_model->zoom(diagram);
     auto *adapter = new NumberAdapter(2);
-    adapter->setRange(1.0, DiagramView::mostZoom);
-    adapter->setRealValue(view->zoom());
-    edit(m_window->keys().zoom, adapter, {NumericDialog::Step125, 1.0, 0.1},
-         [view](double value) { view->setZoom(value); });
+    adapter->setRange(1.0, Zoom::maximum);
+    adapter->setRealValue(before.factor);
+    edit(m_keys.zoom, adapter, {NumericDialog::Step125, 1.0, 0.1}, [=](double value) {
+        m_model->setZoom(diagram, {value, before.x, before.y});
+    });
 }
 
 void NumericKeys::showStimulus()
@@ -264,55 +265,47 @@ void NumericKeys::showStimulus()
     const Trace *trace = m_model->activeTrace();
     for (const StimulusNumber &number : qAsConst(m_stimulusNumbers)) {
         number.key->setEnabled(trace);
-        number.key->setValue(trace ? frequencyText(number.value(stimulus(*trace))) : s_nothing);
+        number.key->setValue(trace ? frequencyText(number.value(m_model->stimulus(*trace)))
+                                   : nothingText());
     }
     // A file has the points that it has.
-    const bool simulating = m_sweeps->isSimulating();
-    m_window->keys().points->setEnabled(trace && simulating);
-    m_window->keys().points->setValue(
-        !trace           ? s_nothing
-            : simulating ? QString::number(m_model->sweep().points)
-                         : QString::number(m_model->network(*trace).frequencies.size()));
+    const bool simulated = isSimulated(m_model->source());
+    m_keys.points->setEnabled(trace && simulated);
+    m_keys.points->setValue(!trace       ? nothingText()
+                                : simulated ? QString::number(m_model->sweep().points)
+                                            : QString::number(m_model->network(*trace).points()));
 }
 
 void NumericKeys::showMarkerStimulus()
 {
     const Marker *marker = m_model->selectedMarker();
-    SoftKey *key = m_window->keys().markerStimulus;
-    key->setEnabled(marker);
-    if (!marker) {
-        key->setValue(s_nothing);
-        return;
-    }
-    const Network &network = m_model->network(*m_model->trace(marker->trace));
-    key->setValue(frequencyText(valueAt(network.frequencies, marker->index)));
+    m_keys.markerStimulus->setEnabled(marker);
+    m_keys.markerStimulus->setValue(marker ? frequencyText(m_model->hertzOf(*marker))
+                                           : nothingText());
 }
 
 void NumericKeys::showScale()
 {
     const Trace *trace = m_model->activeTrace();
-    const PanelKeys &keys = m_window->keys();
     const bool cartesian = trace && !trace->onSmithChart();
-    keys.scale->setValue(trace ? scaleText(trace->format, trace->scale) : s_nothing);
-    keys.scale->setEnabled(trace);
-    keys.reference->setValue(cartesian ? cartesianReferenceText(trace->scale.top, trace->format)
-                                       : s_nothing);
-    keys.reference->setEnabled(cartesian);
+    const Zoom zoom = trace ? m_model->zoom(m_model->diagramOf(trace->id)) : Zoom();
+    m_keys.scale->setValue(!trace        ? nothingText()
+                               : cartesian ? divisionText(trace->format, trace->scale.perDivision)
+                                           : zoomText(zoom.factor));
+    m_keys.scale->setEnabled(trace);
+    m_keys.reference->setValue(cartesian ? cartesianReferenceText(trace->scale.top, trace->format)
+                                         : nothingText());
+    m_keys.reference->setEnabled(cartesian);
+    m_keys.zoom->setEnabled(trace);
+    m_keys.zoom->setValue(trace ? QStringLiteral("%1 \u00d7").arg(zoom.factor, 0, 'f', 2)
+                                : nothingText());
 }
 
 void NumericKeys::showTuning()
 {
-    SoftKey *key = m_window->keys().tune;
-    key->setEnabled(m_sweeps->isTunable());
-    key->setValue(m_sweeps->isTunable() ? frequencyText(m_sweeps->tuning()) : s_nothing);
-}
-
-void NumericKeys::showZoom()
-{
-    const DiagramView *view = m_window->diagrams()->activeView();
-    m_window->keys().zoom->setEnabled(view);
-    m_window->keys().zoom->setValue(view ? QStringLiteral("%1 \u00d7").arg(view->zoom(), 0, 'f', 2)
-                                         : s_nothing);
+    const bool tunable = isTunable(m_model->source());
+    m_keys.tune->setEnabled(tunable);
+    m_keys.tune->setValue(tunable ? frequencyText(m_model->tuning()) : nothingText());
 }
 
 } // namespace Panel

@@ -73,6 +73,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.grid = menu->addKey(Text::tr("Grid"));
     keys.density = menu->addKey(Text::tr("Density"));
     keys.zoom = menu->addKey(Text::tr("Zoom"));
+    keys.whole = menu->addKey(Text::tr("Whole view"));
     keys.pointer = menu->addKey(Text::tr("Pointer"));
 
     menu->addPage(Text::tr("Sweep"));

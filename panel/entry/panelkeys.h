@@ -40,6 +40,7 @@ struct PanelKeys {
     SoftKey *grid;
     SoftKey *density;
     SoftKey *zoom;
+    SoftKey *whole; ///< ends the zoom
     SoftKey *pointer; ///< which traces taps and drags reach
     // Sweep
     SoftKey *source; ///< files, or one of the simulated devices

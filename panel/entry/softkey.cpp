@@ -32,6 +32,7 @@ SoftKey::SoftKey(const QString &name, QWidget *parent)
     // In place of a padding in the style sheet: a value too long is shortened to what these leave.
     setLabelMargins({10, 0, 10, 0});
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    setListScrollsInside(true);
     connect(this, &EnumTextButton::currentItemEdited, this, [this](int index) {
         showValue(); // until the owner agrees
         Q_EMIT choicePicked(index);

@@ -12,8 +12,8 @@ namespace Panel
 /*! A key of the panel's right-hand column: its name, small and dim, over its value.
 
     A key either acts (clicked()) or, once it has choices, opens their list and reports which one
-   was picked (choicePicked()); the value follows only when its owner calls setChoice(). Return
-   presses it, as Space does. The panel knows its keys by this class alone. */
+    was picked (choicePicked()); the value follows only when its owner calls setChoice(). Return
+    presses it, as Space does. The panel knows its keys by this class alone. */
 class SoftKey : public EnumTextButton
 {
     Q_OBJECT

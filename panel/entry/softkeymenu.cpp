@@ -6,7 +6,9 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
+#include <QCoreApplication>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -67,13 +69,28 @@ void SoftKeyMenu::addKey(QWidget *key)
     appendKey(key, qMax(m_keyHeights.value(0), key->minimumSizeHint().height()));
 }
 
-void SoftKeyMenu::appendKey(QWidget *key, int leastHeight)
+void SoftKeyMenu::appendKey(QWidget *key, int smallestHeight)
 {
     // All keys are equally high, whatever they hold: as a soft key likes it, or as there is room.
-    key->setMinimumHeight(leastHeight);
+    key->setMinimumHeight(smallestHeight);
     key->setMaximumHeight(m_keyHeights.value(1, QWIDGETSIZE_MAX));
     key->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     m_column->insertWidget(m_column->count() - 1, key, 1);
+    key->installEventFilter(this);
+    const auto parts = key->findChildren<QWidget *>();
+    for (QWidget *part : parts)
+        part->installEventFilter(this);
+}
+
+bool SoftKeyMenu::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Delete
+            || key == Qt::Key_Backspace)
+            return QCoreApplication::sendEvent(window(), event);
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void SoftKeyMenu::addWidget(QWidget *widget)

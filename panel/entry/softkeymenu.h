@@ -15,8 +15,8 @@ namespace Panel
 
 class SoftKey;
 
-/*! The column of soft keys: pages of keys below the tabs that name them. Tab and the arrow
-   keys reach all of it. */
+/*! The column of soft keys: pages of keys below the tabs that name them. Tab and the arrow keys up
+    and down reach all of it; left, right and Delete go to the window, which has a use for them. */
 class SoftKeyMenu : public QWidget
 {
     Q_OBJECT
@@ -41,13 +41,16 @@ public:
     /// Shows the page that a key, or a part of it, is on.
     void showKey(const QWidget *key);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
-    void appendKey(QWidget *key, int leastHeight);
+    void appendKey(QWidget *key, int smallestHeight);
 
     QButtonGroup *m_tabs;
     QGridLayout *m_tabGrid;
     QStackedWidget *m_pages;
-    QVector<int> m_keyHeights; ///< the least and the usual one of a soft key, once there is one
+    QVector<int> m_keyHeights; ///< the smallest and the preferred one of a soft key, once there is one
     QVBoxLayout *m_column = nullptr; ///< of the page that was begun last
 };
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tracebar.h"
 
-#include <panel/look/look.h>
+#include <panel/ground/look.h>
+#include <panel/ground/pointerevent.h>
 #include <panel/model/panelmodel.h>
 
 #include <controls/thememanager.h>
-#include <base/qtcompat_p.h>
 
 #include <QAbstractButton>
 #include <QHBoxLayout>
@@ -17,7 +17,8 @@
 namespace Panel
 {
 
-/// One trace: filled with its colour when active, dashed and pale when hidden.
+/// One trace: filled with its colour when active, dashed and pale when hidden. Where there are
+/// several files it shows its own below, and how its line is drawn.
 class TraceButton : public QAbstractButton
 {
     Q_OBJECT
@@ -27,6 +28,8 @@ public:
         : QAbstractButton(parent)
         , m_traceId(traceId)
     {
+        m_small = font();
+        m_small.setPixelSize(qMax(9, QFontInfo(m_small).pixelSize() * 3 / 4));
         setCheckable(true);
         setFocusPolicy(Qt::StrongFocus);
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -48,6 +51,17 @@ public:
         update();
     }
 
+    /// The file of the trace by name and place; no name where there is only one file.
+    void setFile(const QString &name, int place)
+    {
+        if (name == m_fileName && place == m_file)
+            return;
+        m_fileName = name;
+        m_file = place;
+        updateGeometry();
+        update();
+    }
+
     /// Leaves out all but the first field.
     void setShort(bool isShort)
     {
@@ -63,7 +77,7 @@ public:
         int left = s_padding + advance(text());
         for (int i = 0; i < field; ++i)
             left += advance(m_fields.at(i));
-        return {left, 0, advance(m_fields.at(field)), height()};
+        return {left, 0, advance(m_fields.at(field)), height() - fileHeight()};
     }
 
     /// The field at a point, or -1.
@@ -82,7 +96,8 @@ public:
 
     QSize sizeHint() const override
     {
-        return {width(shownFields()), qMax(fontMetrics().height() + 14, 32)};
+        return {qMax(width(shownFields()), fileWidth()),
+                qMax(fontMetrics().height() + 14, 32) + fileHeight()};
     }
 
 protected:
@@ -91,7 +106,7 @@ protected:
 
     void mouseReleaseEvent(QMouseEvent *event) override
     {
-        m_released = QtCompat::position(event).toPoint();
+        m_released = pointerPosition(event).toPoint();
         QAbstractButton::mouseReleaseEvent(event);
         m_released = {-1, -1};
     }
@@ -119,13 +134,45 @@ protected:
         painter.setBrush(isChecked() ? QBrush(color) : QBrush(isDown() ? look.button : look.bar));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 4.0, 4.0);
         painter.setPen(!isChecked() ? color : m_shown ? textOn(color) : look.text);
-        painter.drawText(QRect(s_padding, 0, advance(text()), height()), Qt::AlignVCenter, text());
+        painter.drawText(QRect(s_padding, 0, advance(text()), height() - fileHeight()),
+                         Qt::AlignVCenter, text());
         for (int i = 0; i < shownFields(); ++i)
             painter.drawText(fieldRect(i), Qt::AlignVCenter, m_fields.at(i));
+        if (!m_fileName.isEmpty())
+            paintFile(painter);
     }
 
 private:
     static constexpr int s_padding = 12;
+    static constexpr int s_sample = 18; ///< the length of the piece of line
+
+    void paintFile(QPainter &painter)
+    {
+        const int middle = height() - fileHeight() / 2 - 4;
+        QPen line = currentLook().pen(m_traceId, m_file);
+        line.setColor(painter.pen().color());
+        painter.setFont(m_small);
+        const QRect place(s_padding + s_sample + 4, height() - fileHeight() - 4,
+                          width() - 2 * s_padding - s_sample - 4, fileHeight());
+        painter.drawText(place, Qt::AlignVCenter,
+                         QFontMetrics(m_small).elidedText(m_fileName, Qt::ElideRight,
+                                                          place.width()));
+        line.setWidthF(1.5);
+        painter.setPen(line);
+        painter.drawLine(s_padding, middle, s_padding + s_sample, middle);
+    }
+
+    /// Room for the beginning of a long name.
+    int fileWidth() const
+    {
+        const QFontMetrics metrics(m_small);
+        return m_fileName.isEmpty()
+            ? 0
+            : 2 * s_padding + s_sample + 4
+                + qMin(metrics.horizontalAdvance(m_fileName), 10 * metrics.averageCharWidth());
+    }
+
+    int fileHeight() const { return m_fileName.isEmpty() ? 0 : QFontMetrics(m_small).height(); }
 
     /// A word and the space after it.
     int advance(const QString &word) const
@@ -133,6 +180,7 @@ private:
         return fontMetrics().horizontalAdvance(word + QLatin1Char(' '));
     }
     int shownFields() const { return m_short ? 1 : int(m_fields.size()); }
+    using QAbstractButton::width;
     int width(int fields) const
     {
         int sum = 2 * s_padding + advance(text()) - advance(QString());
@@ -143,6 +191,9 @@ private:
 
     int m_traceId;
     QStringList m_fields;
+    QFont m_small;
+    QString m_fileName;
+    int m_file = 0;
     bool m_shown = true;
     bool m_short = false;
     QPoint m_released = {-1, -1};
@@ -171,6 +222,8 @@ TraceBar::TraceBar(const PanelModel *model, QWidget *parent)
     connect(m_model, &PanelModel::activeTraceChanged, this, &TraceBar::refresh);
     connect(m_model, &PanelModel::traceVisibleChanged, this, &TraceBar::refresh);
     connect(m_model, &PanelModel::traceScaleChanged, this, &TraceBar::refresh);
+    connect(m_model, &PanelModel::zoomChanged, this, &TraceBar::refresh);
+    connect(m_model->viewSettings(), &ViewSettings::changed, this, &TraceBar::refresh);
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
             &TraceBar::refresh);
     rebuild();
@@ -178,12 +231,12 @@ TraceBar::TraceBar(const PanelModel *model, QWidget *parent)
 
 QSize TraceBar::sizeHint() const
 {
-    return {200, 36};
+    return {200, 42};
 }
 
 QSize TraceBar::minimumSizeHint() const
 {
-    return {80, 36};
+    return {80, 42};
 }
 
 TraceButton *TraceBar::traceButton(int traceId) const
@@ -248,8 +301,12 @@ void TraceBar::refresh()
         button->setToolTip(m_model->network(*trace).name);
         button->setTexts(tr("Tr%1").arg(trace->id),
                          {PanelModel::parameterName(*trace), formatName(trace->format),
-                          scaleText(trace->format, trace->scale)},
+                          trace->onSmithChart()
+                              ? zoomText(m_model->zoom(m_model->diagramOf(trace->id)).factor)
+                              : divisionText(trace->format, trace->scale.perDivision)},
                          trace->visible);
+        button->setFile(m_model->networks().size() > 1 ? m_model->network(*trace).name : QString(),
+                        trace->network);
         button->setChecked(trace == active);
     }
     fit();

@@ -5,7 +5,6 @@
 #include "numerickeys.h"
 #include "softkey.h"
 #include <panel/model/panelmodel.h>
-#include <panel/window/panelwindow.h>
 
 #include <platform/placement.h>
 #include <widgets/menubutton.h>
@@ -50,15 +49,17 @@ QStringList formatNames()
 
 } // namespace
 
-TraceController::TraceController(PanelModel *model, PanelWindow *window, NumericKeys *numbers,
-                                 QObject *parent)
+TraceController::TraceController(PanelModel *model, const PanelKeys &keys, TraceBar *bar,
+                                 NumericKeys *numbers, QWidget *host, QObject *parent)
     : QObject(parent)
     , m_model(model)
-    , m_window(window)
+    , m_keys(keys)
+    , m_bar(bar)
     , m_numbers(numbers)
+    , m_host(host)
 {
-    connect(window->traceBar(), &TraceBar::activationRequested, model, &PanelModel::setActiveTrace);
-    connect(window->traceBar(), &TraceBar::editRequested, this, &TraceController::onEditRequested);
+    connect(bar, &TraceBar::activationRequested, model, &PanelModel::setActiveTrace);
+    connect(bar, &TraceBar::editRequested, this, &TraceController::onEditRequested);
     connectKeys();
     for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::activeTraceChanged})
         connect(model, signal, this, &TraceController::showTrace);
@@ -69,7 +70,7 @@ TraceController::TraceController(PanelModel *model, PanelWindow *window, Numeric
 
 void TraceController::connectKeys()
 {
-    const PanelKeys &keys = m_window->keys();
+    const PanelKeys &keys = m_keys;
     connect(keys.trace, &SoftKey::choicePicked, this, [this](int index) {
         m_model->setActiveTrace(m_model->traces().at(index).id);
         showTrace();
@@ -104,10 +105,10 @@ void TraceController::onMemoryPicked(int command)
 void TraceController::onEditRequested(int traceId, TraceBar::Field field)
 {
     const Trace *trace = m_model->trace(traceId);
-    QWidget *button = m_window->traceBar()->button(traceId);
+    QWidget *button = m_bar->button(traceId);
     if (!trace || !button)
         return;
-    const QRect place = m_window->traceBar()->fieldRect(traceId, field);
+    const QRect place = m_bar->fieldRect(traceId, field);
     if (field == TraceBar::Scale) {
         m_numbers->editScale(button);
     } else if (field == TraceBar::Format) {
@@ -118,7 +119,7 @@ void TraceController::onEditRequested(int traceId, TraceBar::Field field)
         QStringList names;
         const QVector<Ports> all = parameters(m_model->network(*trace).ports);
         for (const Ports &ports : all)
-            names << QStringLiteral("S%1%2").arg(ports.to).arg(ports.from);
+            names << parameterName(ports.to, ports.from);
         choose(button, place, names, int(names.indexOf(PanelModel::parameterName(*trace))),
                [this, traceId, all](int index) {
                    m_model->setTraceParameter(traceId, all.at(index).to, all.at(index).from);
@@ -129,7 +130,8 @@ void TraceController::onEditRequested(int traceId, TraceBar::Field field)
 void TraceController::choose(QWidget *anchor, const QRect &place, const QStringList &choices,
                              int current, const std::function<void(int)> &picked)
 {
-    auto *popup = new PopupWidget(m_window);
+    auto *popup = new PopupWidget(m_host);
+    popup->setScrollsInside(true);
     popup->addItems(choices, current);
     popup->setCurrentItem(choices.value(current));
     popup->setWidgetFixedWidth(qMax(120, place.width()));
@@ -138,13 +140,13 @@ void TraceController::choose(QWidget *anchor, const QRect &place, const QStringL
     connect(popup, &PopupWidget::widgetClosed, popup, &QObject::deleteLater);
     popup->popup();
     popup->move(Utils::boundedTopLeft(anchor->mapToGlobal(place.bottomLeft()), popup->size(),
-                                      m_window->geometry(), 0));
+                                      m_host->geometry(), 0));
     popup->show();
 }
 
 void TraceController::showTrace()
 {
-    const PanelKeys &keys = m_window->keys();
+    const PanelKeys &keys = m_keys;
     const Trace *active = m_model->activeTrace();
     QStringList names;
     int index = -1;

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "panelkeys.h"
 #include "tracebar.h"
-
-#include <QObject>
 
 #include <functional>
 
@@ -13,7 +12,6 @@ namespace Panel
 
 class NumericKeys;
 class PanelModel;
-class PanelWindow;
 
 /// Answers the list of traces and the keys about the active one.
 class TraceController : public QObject
@@ -21,8 +19,9 @@ class TraceController : public QObject
     Q_OBJECT
 
 public:
-    TraceController(PanelModel *model, PanelWindow *window, NumericKeys *numbers,
-                    QObject *parent = nullptr);
+    /// Lists open above the host.
+    TraceController(PanelModel *model, const PanelKeys &keys, TraceBar *bar, NumericKeys *numbers,
+                    QWidget *host, QObject *parent = nullptr);
 
 private:
     void connectKeys();
@@ -34,8 +33,10 @@ private:
     void showTrace();
 
     PanelModel *m_model;
-    PanelWindow *m_window;
+    PanelKeys m_keys;
+    TraceBar *m_bar;
     NumericKeys *m_numbers;
+    QWidget *m_host;
 };
 
 } // namespace Panel

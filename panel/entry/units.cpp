@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "units.h"
 
+#include <panel/ground/numbertext.h>
+
 #include <QDoubleValidator>
+#include <QRegularExpression>
 
 #include <cmath>
 
@@ -28,7 +31,7 @@ QString UnitAdapter::valueText(double value)
     }
     if (unit > 0)
         text.insert(text.size() - unit, QLatin1Char(' '));
-    return text.replace(QLatin1Char('-'), QChar(0x2212));
+    return withMinusSigns(text);
 }
 
 QString UnitAdapter::rangeText()
@@ -38,17 +41,66 @@ QString UnitAdapter::rangeText()
     return valueText(m_minimum) + QStringLiteral(" \u2026 ") + valueText(m_maximum);
 }
 
-FrequencyAdapter::FrequencyAdapter(QObject *parent)
-    : UnitAdapter({{QStringLiteral("GHz"), 1e9},
-                   {QStringLiteral("MHz"), 1e6},
-                   {QStringLiteral("kHz"), 1e3},
-                   {QStringLiteral("Hz"), 1.0}},
-                  parent)
+QString UnitAdapter::unitOfLetter(QChar letter)
 {
-    setUnitDecimals(QStringLiteral("GHz"), 9);
-    setUnitDecimals(QStringLiteral("MHz"), 6);
-    setUnitDecimals(QStringLiteral("kHz"), 3);
-    setUnitDecimals(QStringLiteral("Hz"), 0);
+    for (const QString &unit : availableUnits()) {
+        if (unit.startsWith(letter, Qt::CaseInsensitive))
+            return unit;
+    }
+    return {};
+}
+
+QString UnitAdapter::normalized(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^([-+]?(?:[0-9]+[.,]?[0-9]*|[.,][0-9]+)(?:[eE][-+]?[0-9]+)?)([^0-9]*)$"));
+    QString typed = text;
+    typed.remove(QLatin1Char(' '));
+    typed.replace(QChar(0x2212), QLatin1Char('-'));
+    const QRegularExpressionMatch match = form.match(typed);
+    if (!match.hasMatch())
+        return {};
+    QString number = match.captured(1);
+    number.replace(QLatin1Char(','), QLatin1Char('.'));
+    // What was typed stands in front of the unit that was there.
+    QString unit = match.captured(2);
+    for (const QString &shown : availableUnits()) {
+        if (unit.size() > shown.size() && unit.endsWith(shown)
+            && !availableUnits().contains(unit)) {
+            unit.chop(shown.size());
+            break;
+        }
+    }
+    if (unit.size() == 1 && !availableUnits().contains(unit))
+        unit = unitOfLetter(unit.front());
+    return match.captured(2).isEmpty() == unit.isEmpty() ? number + unit : QString();
+}
+
+double UnitAdapter::typedValue(const QString &text)
+{
+    const QString typed = normalized(text);
+    QString unit;
+    return typed.isEmpty() ? qQNaN() : convertInputTextToValue(typed, unit);
+}
+
+namespace
+{
+
+QVector<Controls::ScaledUnitAdapter::Unit> frequencyUnitList()
+{
+    QVector<Controls::ScaledUnitAdapter::Unit> list;
+    for (const UnitSize &unit : frequencyUnits)
+        list.append({QLatin1String(unit.name), unit.size});
+    return list;
+}
+
+} // namespace
+
+FrequencyAdapter::FrequencyAdapter(QObject *parent)
+    : UnitAdapter(frequencyUnitList(), parent)
+{
+    for (const UnitSize &unit : frequencyUnits)
+        setUnitDecimals(QLatin1String(unit.name), unit.decimals);
 }
 
 DecibelAdapter::DecibelAdapter(QObject *parent)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
     The quantities of the panel that are entered as numbers: what units they have, how fine they
-   are, and how far they go. */
+    are, and how far they go. */
 #pragma once
 
 #include <controls/scaledunitadapter.h>
@@ -31,6 +31,13 @@ public:
     QString valueText(double value);
     /// "100 kHz … 8.5 GHz", or nothing while there are no limits.
     QString rangeText();
+    /// A typed text as a number and a unit: it may hold spaces, a decimal comma, and a unit or its
+    /// first letter in any case, in front of the one on show. Empty if it is no number.
+    QString normalized(const QString &text);
+    /// What a typed text stands for, in base units; NaN if it is no number.
+    double typedValue(const QString &text);
+    /// The unit that begins with a letter, without regard to case; empty if there is none.
+    QString unitOfLetter(QChar letter);
 
 private:
     double m_minimum = -qInf();

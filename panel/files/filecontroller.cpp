@@ -3,18 +3,12 @@
 #include "filecontroller.h"
 
 #include "filenotes.h"
-#include <panel/diagrams/diagrams.h>
+
 #include <panel/model/panelmodel.h>
-#include <panel/window/filedialog.h>
-#include <panel/window/messagebar.h>
-#include <panel/window/panelwindow.h>
 
 #include <QDir>
-#include <QDropEvent>
 #include <QFileInfo>
-#include <QMimeData>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace Panel
@@ -25,7 +19,7 @@ namespace
 
 /// What reads faster than this many milliseconds needs no progress bar.
 constexpr int s_patience = 400;
-/// More sentences than this would leave no room for the diagrams.
+/// More sentences than this would cover the diagrams.
 constexpr int s_mostSentences = 4;
 
 QString fileName(const QString &path)
@@ -51,27 +45,25 @@ QStringList pathsOf(const QVector<Network> &networks)
 
 } // namespace
 
-FileController::FileController(PanelModel *model, PanelWindow *window, QObject *parent)
+FileController::FileController(PanelModel *model, QObject *parent)
     : QObject(parent)
     , m_model(model)
-    , m_window(window)
     , m_folder(QDir::currentPath())
 {
     m_patience.setSingleShot(true);
     m_patience.setInterval(s_patience);
-    connect(&m_patience, &QTimer::timeout, this, &FileController::showProgress);
+    connect(&m_patience, &QTimer::timeout, this,
+            [this] { Q_EMIT progressed(m_reading, m_percent); });
     connect(&m_loader, &FileLoader::progressed, this, [this](int percent) {
         m_percent = percent;
         if (!m_patience.isActive())
-            showProgress();
+            Q_EMIT progressed(m_reading, m_percent);
     });
     connect(&m_loader, &FileLoader::finished, this, &FileController::onFinished);
     connect(&m_watch, &FileWatch::changed, this, &FileController::onChanged);
     connect(&m_watch, &FileWatch::vanished, this, &FileController::onVanished);
     // A simulation may have hidden files that changed meanwhile.
     connect(m_model, &PanelModel::networksChanged, this, &FileController::showDiskState);
-    m_window->setAcceptDrops(true);
-    m_window->installEventFilter(this);
 }
 
 bool FileController::openFiles(const QStringList &paths)
@@ -89,10 +81,15 @@ void FileController::loadFiles(const QStringList &paths)
     load(paths, false);
 }
 
+void FileController::reloadFiles(const QStringList &paths)
+{
+    load(paths, true);
+}
+
 void FileController::startReading(const QStringList &paths)
 {
     // Watched from here on, so that what changes while it is read is noticed.
-    m_watch.setPaths(m_files + absolute(paths));
+    m_watch.setPaths(pathsOf(m_model->files()) + absolute(paths));
     for (const QString &path : absolute(paths)) {
         m_changed.remove(path);
         m_gone.remove(path);
@@ -112,16 +109,13 @@ void FileController::load(const QStringList &paths, bool again)
     m_loader.load(paths);
 }
 
-void FileController::showProgress()
-{
-    m_window->messageBar()->showProgress(m_reading, m_percent, tr("Cancel"), this,
-                                         [this] { cancel(); });
-}
-
 void FileController::cancel()
 {
     m_loader.cancel();
-    m_watch.setPaths(m_files);
+    m_patience.stop();
+    m_watch.setPaths(pathsOf(m_model->files()));
+    // What was to be read again has still changed.
+    showDiskState();
 }
 
 void FileController::onFinished(const ReadFiles &files)
@@ -136,41 +130,22 @@ void FileController::onFinished(const ReadFiles &files)
 void FileController::open(const ReadFiles &files)
 {
     if (!files.networks.isEmpty()) {
-        m_files = pathsOf(files.networks);
-        m_folder = QFileInfo(m_files.last()).absolutePath();
-        m_window->diagrams()->resetViews();
-        m_model->setNetworks(files.networks);
+        m_folder = QFileInfo(files.networks.last().path).absolutePath();
+        m_model->openNetworks(files.networks);
     }
     report(files);
 }
 
 void FileController::update(const ReadFiles &files)
 {
-    QVector<Network> networks = m_model->networks();
-    QVector<int> updated;
-    bool samePorts = true;
-    for (const Network &network : files.networks) {
-        for (int i = 0; i < networks.size(); ++i) {
-            if (networks.at(i).path != network.path)
-                continue;
-            samePorts = samePorts && networks.at(i).ports == network.ports;
-            networks[i] = network;
-            updated.append(i);
-        }
-        // A simulation took its place; the files that come back after it are the old ones.
-        if (!isShown(network.path))
-            m_changed.insert(network.path);
-    }
-    if (!samePorts)
-        m_model->setNetworks(networks);
-    for (const int i : samePorts ? updated : QVector<int>())
-        m_model->updateNetwork(i, networks.at(i));
+    for (const Network &network : files.networks)
+        m_model->updateFile(int(pathsOf(m_model->files()).indexOf(network.path)), network);
     report(files);
 }
 
 void FileController::report(const ReadFiles &files)
 {
-    m_watch.setPaths(m_files);
+    m_watch.setPaths(pathsOf(m_model->files()));
     QStringList sentences;
     for (const ReadFiles::Refusal &refusal : files.refusals) {
         sentences << refusal.result.sentence(fileName(refusal.path));
@@ -183,7 +158,7 @@ void FileController::report(const ReadFiles &files)
         sentences = sentences.mid(0, s_mostSentences);
         sentences.last() += QLatin1Char(' ') + tr("(%n more)", nullptr, more);
     }
-    m_window->messageBar()->setMessage(sentences.join(QLatin1Char('\n')));
+    Q_EMIT reported(sentences.join(QLatin1Char('\n')));
     showDiskState();
 }
 
@@ -201,17 +176,16 @@ void FileController::onVanished(const QString &path)
     showDiskState();
 }
 
-bool FileController::isShown(const QString &path) const
+/// The paths of the files on show; none while a simulation is.
+QStringList FileController::shownPaths() const
 {
-    return pathsOf(m_model->networks()).contains(path);
+    return isSimulated(m_model->source()) ? QStringList() : pathsOf(m_model->files());
 }
 
 void FileController::showDiskState()
 {
     QStringList gone, changed;
-    for (const QString &path : qAsConst(m_files)) {
-        if (!isShown(path))
-            continue;
+    for (const QString &path : shownPaths()) {
         if (m_gone.contains(path))
             gone << path;
         if (m_changed.contains(path))
@@ -232,44 +206,9 @@ void FileController::showDiskState()
         sentences << tr("%n files have changed on disk.", nullptr, int(changed.size()));
     const QString message = sentences.join(QLatin1Char('\n'));
     if (changed.isEmpty())
-        m_window->messageBar()->setMessage(message);
+        Q_EMIT reported(message);
     else
-        m_window->messageBar()->offer(message, tr("Reload"), this,
-                                      [this, changed] { load(changed, true); });
-}
-
-void FileController::showFileDialog()
-{
-    auto *dialog = new FileDialog(m_window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFolder(m_folder);
-    const QSize room = m_window->size() - QSize(80, 40);
-    dialog->resize(QSize(640, 560).boundedTo(room));
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { loadFiles(dialog->pickedFiles()); });
-    connect(dialog, &QDialog::finished, this, [this, dialog] { m_folder = dialog->folder(); });
-    dialog->open();
-}
-
-bool FileController::eventFilter(QObject *watched, QEvent *event)
-{
-    const bool drags = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove;
-    if (!drags && event->type() != QEvent::Drop)
-        return QObject::eventFilter(watched, event);
-    auto *drop = static_cast<QDropEvent *>(event);
-    if (!drop->mimeData()->hasUrls())
-        return false;
-    drop->acceptProposedAction();
-    if (drags)
-        return true;
-    QStringList paths;
-    for (const QUrl &url : drop->mimeData()->urls()) {
-        if (url.isLocalFile())
-            paths << url.toLocalFile();
-    }
-    if (paths.isEmpty())
-        m_window->messageBar()->setMessage(tr("Only files of this computer can be opened."));
-    load(paths, false);
-    return true;
+        Q_EMIT changesFound(message, changed);
 }
 
 } // namespace Panel

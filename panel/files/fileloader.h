@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "touchstone.h"
+#include <panel/touchstone/touchstone.h>
 
-#include <QObject>
+#include <panel/ground/worker.h>
+
 #include <QStringList>
-#include <QThread>
-
-#include <memory>
 
 namespace Panel
 {
@@ -40,13 +38,12 @@ class FileLoader : public QObject
 
 public:
     explicit FileLoader(QObject *parent = nullptr);
-    ~FileLoader() override;
 
     /// Reads these files from now on; what was being read before is cancelled.
     void load(const QStringList &paths);
     /// Nothing more is told of what was being read.
-    void cancel();
-    bool isLoading() const { return m_job != nullptr; }
+    void cancel() { m_worker.cancel(); }
+    bool isLoading() const { return m_worker.isBusy(); }
 
 Q_SIGNALS:
     void progressed(int percent);
@@ -54,13 +51,7 @@ Q_SIGNALS:
     void finished(const Panel::ReadFiles &files);
 
 private:
-    struct Job;
-
-    void work(const std::shared_ptr<Job> &job);
-
-    QThread m_thread;
-    QObject *m_worker; ///< lives in the thread, and is deleted as it ends
-    std::shared_ptr<Job> m_job; ///< null while nothing is read
+    Worker m_worker;
 };
 
 } // namespace Panel

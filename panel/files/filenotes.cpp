@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "filenotes.h"
 
-#include <panel/model/format.h>
+#include <panel/ground/numbertext.h>
 
 #include <QCoreApplication>
 
@@ -27,7 +27,7 @@ QStringList emptyParameters(const Network &network)
     for (int to = 1; to <= network.ports; ++to) {
         for (int from = 1; from <= network.ports; ++from) {
             if (isEmpty(network.s(to, from)))
-                names << QStringLiteral("S%1%2").arg(to).arg(from);
+                names << parameterName(to, from);
         }
     }
     return names;

@@ -2,16 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panelstate.h"
 
+#include <panel/ground/languages.h>
 #include <panel/model/panelmodel.h>
-#include <panel/window/languages.h>
-#include <panel/window/panelcontroller.h>
 
 #include <controls/thememanager.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QSettings>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QPointer>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <cmath>
@@ -22,10 +24,17 @@ namespace Panel
 namespace
 {
 
-constexpr int s_version = 1;
-/// More would be no state of ours.
-constexpr int s_mostEntries = 10000;
+constexpr int s_version = 2;
 constexpr qint64 s_largestFile = 1 << 20;
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Panel::PanelState)
+};
+
+QLatin1String operator""_key(const char *text, std::size_t size)
+{
+    return QLatin1String(text, int(size));
+}
 
 /// A setting that is a number of a list.
 struct Choice {
@@ -34,240 +43,306 @@ struct Choice {
 };
 
 constexpr Choice s_choices[] = {
-    {"look", 2},
-    {"layout", 4},
-    {"grid", 3},
-    {"density", 3},
-    {"readout", readoutFormatCount},
-    {"onlyActiveTrace", 2},
-    {"markersDiscrete", 2},
-    {"markersCoupled", 2},
+    {"look", 2},    {"layout", 4},
+    {"grid", 3},    {"density", 3},
+    {"source", sourceCount}, {"readout", readoutFormatCount},
 };
 
-int number(const QSettings &settings, const char *key)
+bool isChoice(const QJsonValue &value, int count)
 {
-    return settings.value(QLatin1String(key)).toInt();
+    const double number = value.toDouble(-1.0);
+    return value.isDouble() && number >= 0.0 && number < count && number == std::floor(number);
 }
 
-bool isChoice(const QSettings &settings, const char *key, int count)
+bool isTrace(const QJsonObject &trace)
 {
-    bool ok = false;
-    const int value = settings.value(QLatin1String(key)).toInt(&ok);
-    return ok && value >= 0 && value < count;
+    for (const QJsonValue &value : trace["markers"_key].toArray()) {
+        const QJsonObject marker = value.toObject();
+        if (!isChoice(marker["number"_key], Markers::perTrace + 1) || !marker["hertz"_key].isDouble()
+            || !isChoice(marker["repeat"_key], 1 << 30))
+            return false;
+    }
+    return isChoice(trace["to"_key], 1000) && isChoice(trace["from"_key], 1000)
+        && isChoice(trace["format"_key], traceFormatCount) && trace["scale"_key].isDouble()
+        && trace["top"_key].isDouble() && trace["visible"_key].isBool()
+        && isChoice(trace["reference"_key], Markers::perTrace + 1);
 }
 
-bool isNumber(const QSettings &settings, const char *key)
+bool isValid(const QJsonObject &state)
 {
-    bool ok = false;
-    return std::isfinite(settings.value(QLatin1String(key)).toDouble(&ok)) && ok;
+    for (const Choice &choice : s_choices) {
+        if (!isChoice(state[QLatin1String(choice.key)], choice.count))
+            return false;
+    }
+    for (const QLatin1String flag :
+         {"onlyActiveTrace"_key, "markersDiscrete"_key, "markersCoupled"_key}) {
+        if (!state[flag].isBool())
+            return false;
+    }
+    if (!isLanguage(state["language"_key].toString()) || !state["networks"_key].isArray())
+        return false;
+    for (const QJsonValue &network : state["networks"_key].toArray()) {
+        for (const QJsonValue &trace : network.toObject()["traces"_key].toArray()) {
+            if (!isTrace(trace.toObject()))
+                return false;
+        }
+    }
+    return true;
 }
 
-QString sentence(const char *text)
+/// What tells a network apart: its file, or what was simulated.
+QString identity(const Network &network)
 {
-    return QCoreApplication::translate("Panel::PanelState", text);
+    return network.path.isEmpty() ? network.name : network.path;
+}
+
+QJsonObject written(const PanelModel &model, const Trace &trace)
+{
+    QJsonArray markers;
+    for (const Marker &marker : model.markersOf(trace.id))
+        markers.append(QJsonObject{{"number"_key, marker.number},
+                                   {"hertz"_key, marker.place.hertz},
+                                   {"repeat"_key, marker.place.repeat},
+                                   {"selected"_key, model.isSelected(marker)}});
+    const Marker *reference = model.referenceMarker(trace.id);
+    const Trace *active = model.activeTrace();
+    return {{"to"_key, trace.to},
+            {"from"_key, trace.from},
+            {"format"_key, int(trace.format)},
+            {"scale"_key, trace.scale.perDivision},
+            {"top"_key, trace.scale.top},
+            {"visible"_key, trace.visible},
+            {"active"_key, active && active->id == trace.id},
+            {"reference"_key, reference ? reference->number : 0},
+            {"markers"_key, markers}};
+}
+
+QJsonArray writtenNetworks(const PanelModel &model)
+{
+    QJsonArray networks;
+    for (int i = 0; i < model.networks().size(); ++i) {
+        QJsonArray traces;
+        Stimulus shown;
+        for (const Trace &trace : model.traces()) {
+            if (trace.network != i)
+                continue;
+            shown = model.stimulus(trace);
+            traces.append(written(model, trace));
+        }
+        networks.append(QJsonObject{{"identity"_key, identity(model.networks().at(i))},
+                                    {"start"_key, shown.start},
+                                    {"stop"_key, shown.stop},
+                                    {"traces"_key, traces}});
+    }
+    return networks;
+}
+
+QJsonArray writtenZooms(const PanelModel &model)
+{
+    QJsonArray zooms;
+    for (const auto &[id, zoom] : model.zooms())
+        zooms.append(QJsonObject{{"smith"_key, id.smith},
+                                 {"place"_key, id.place},
+                                 {"factor"_key, zoom.factor},
+                                 {"x"_key, zoom.x},
+                                 {"y"_key, zoom.y}});
+    return zooms;
+}
+
+void restoreTrace(PanelModel *model, int id, const QJsonObject &saved)
+{
+    model->setTraceParameter(id, saved["to"_key].toInt(), saved["from"_key].toInt());
+    model->setTraceFormat(id, TraceFormat(saved["format"_key].toInt()));
+    model->setTraceScale(id, {saved["scale"_key].toDouble(), saved["top"_key].toDouble()});
+    model->setTraceVisible(id, saved["visible"_key].toBool());
+    for (const QJsonValue &value : saved["markers"_key].toArray()) {
+        const QJsonObject marker = value.toObject();
+        model->restoreMarker(id, marker["number"_key].toInt(),
+                             {marker["hertz"_key].toDouble(), marker["repeat"_key].toInt()});
+    }
+    model->setReferenceMarker(id, saved["reference"_key].toInt());
+}
+
+/// Makes active and selected what was.
+void restoreChoices(PanelModel *model, int id, const QJsonObject &saved)
+{
+    if (saved["active"_key].toBool())
+        model->setActiveTrace(id);
+    for (const QJsonValue &value : saved["markers"_key].toArray()) {
+        if (value.toObject()["selected"_key].toBool())
+            model->selectMarker(id, value.toObject()["number"_key].toInt());
+    }
+}
+
+/// Gives each network what was saved of it; the zooms come back where all are the same.
+void restoreNetworks(PanelModel *model, const QJsonObject &state)
+{
+    const QJsonArray saved = state["networks"_key].toArray();
+    QVector<bool> used(saved.size(), false);
+    bool same = saved.size() == model->networks().size();
+    QVector<std::pair<int, QJsonObject>> restored; // traces
+    for (int i = 0; i < model->networks().size(); ++i) {
+        int found = 0;
+        const auto isOurs = [&](int index) {
+            return !used.at(index)
+                && saved.at(index).toObject()["identity"_key].toString()
+                == identity(model->networks().at(i));
+        };
+        while (found < saved.size() && !isOurs(found))
+            ++found;
+        same = same && found == i;
+        if (found == saved.size())
+            continue;
+        used[found] = true;
+        const QJsonObject network = saved.at(found).toObject();
+        const QJsonArray traces = network["traces"_key].toArray();
+        int next = 0;
+        const QVector<Trace> all = model->traces();
+        for (const Trace &trace : all) {
+            if (trace.network != i || next == traces.size())
+                continue;
+            if (next == 0)
+                model->setStimulus(trace,
+                                   {network["start"_key].toDouble(), network["stop"_key].toDouble()});
+            restored.append({trace.id, traces.at(next).toObject()});
+            restoreTrace(model, trace.id, restored.last().second);
+            ++next;
+        }
+    }
+    for (const auto &[id, trace] : qAsConst(restored))
+        restoreChoices(model, id, trace);
+    for (const QJsonValue &value : same ? state["zooms"_key].toArray() : QJsonArray()) {
+        const QJsonObject zoom = value.toObject();
+        model->setZoom({zoom["smith"_key].toBool(), zoom["place"_key].toInt()},
+                       {zoom["factor"_key].toDouble(), zoom["x"_key].toDouble(), zoom["y"_key].toDouble()});
+    }
+    // After the markers, or the first would bring the others along.
+    model->setMarkersDiscrete(state["markersDiscrete"_key].toBool());
+    model->setMarkersCoupled(state["markersCoupled"_key].toBool());
+}
+
+/// A state as it stands in a file; the note says why it cannot be used.
+QJsonObject readState(const QString &path, QString &note)
+{
+    QFile file(path);
+    if (!file.exists())
+        return {};
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        note = Text::tr("The state of the last time cannot be read.");
+        return {};
+    }
+    const QJsonObject state =
+        file.size() > s_largestFile ? QJsonObject()
+                                    : QJsonDocument::fromJson(file.read(s_largestFile)).object();
+    if (state["version"_key].isDouble() && state["version"_key].toInt() != s_version)
+        note = Text::tr("The state of the last time is of another version and not used.");
+    else if (state["version"_key].toInt() != s_version || !isValid(state))
+        note = Text::tr("The state of the last time is damaged and not used.");
+    return note.isEmpty() ? state : QJsonObject();
 }
 
 } // namespace
 
-QString PanelState::usualPath()
+QString PanelState::defaultPath()
 {
     return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)
-        + QStringLiteral("/state.ini");
+        + QStringLiteral("/state.json");
 }
 
 PanelState::PanelState(const QString &path)
     : m_path(path)
+    , m_saved(readState(path, m_note))
 {
-    const QFileInfo file(path);
-    if (!file.exists())
-        return;
-    if (!file.isFile() || !file.isReadable()) {
-        refuse(sentence(
-            QT_TRANSLATE_NOOP("Panel::PanelState", "The state of the last time cannot be read.")));
-        return;
-    }
-    if (file.size() > s_largestFile) {
-        refuse(sentence(QT_TRANSLATE_NOOP("Panel::PanelState",
-                                          "The state of the last time is damaged and not used.")));
-        return;
-    }
-    QSettings settings(path, QSettings::IniFormat);
-    const bool readable = settings.status() == QSettings::NoError;
-    if (readable && settings.contains(QStringLiteral("version"))
-        && number(settings, "version") != s_version)
-        refuse(sentence(
-            QT_TRANSLATE_NOOP("Panel::PanelState",
-                              "The state of the last time is of another version and not used.")));
-    else if (!readable || !isValid(settings))
-        refuse(sentence(QT_TRANSLATE_NOOP("Panel::PanelState",
-                                          "The state of the last time is damaged and not used.")));
-    else
-        m_usable = true;
-    if (!m_usable)
-        return;
-    m_language = settings.value(QStringLiteral("language")).toString();
-    m_files = settings.value(QStringLiteral("files")).toStringList();
 }
 
-void PanelState::refuse(const QString &note)
+QString PanelState::language() const
 {
-    m_note = note;
+    return m_saved["language"_key].toString();
 }
 
-bool PanelState::isValid(QSettings &settings) const
+QStringList PanelState::files() const
 {
-    if (number(settings, "version") != s_version)
-        return false;
-    for (const Choice &choice : s_choices) {
-        if (!isChoice(settings, choice.key, choice.count))
-            return false;
-    }
-    if (!isLanguage(settings.value(QStringLiteral("language")).toString()))
-        return false;
-    const int traces = settings.beginReadArray(QStringLiteral("traces"));
-    bool valid = traces >= 0 && traces < s_mostEntries;
-    for (int i = 0; valid && i < traces; ++i) {
-        settings.setArrayIndex(i);
-        valid = isChoice(settings, "to", 3) && isChoice(settings, "from", 3)
-            && isChoice(settings, "format", traceFormatCount) && isChoice(settings, "visible", 2)
-            && isNumber(settings, "scale") && isNumber(settings, "top")
-            && isChoice(settings, "reference", PanelModel::markersPerTrace + 1);
-    }
-    settings.endArray();
-    const int markers = settings.beginReadArray(QStringLiteral("markers"));
-    valid = valid && markers >= 0 && markers < s_mostEntries;
-    for (int i = 0; valid && i < markers; ++i) {
-        settings.setArrayIndex(i);
-        valid = isChoice(settings, "trace", traces + 1)
-            && isChoice(settings, "number", PanelModel::markersPerTrace + 1)
-            && isNumber(settings, "hertz");
-    }
-    settings.endArray();
-    return valid;
+    QStringList files;
+    for (const QJsonValue &path : m_saved["files"_key].toArray())
+        files << path.toString();
+    return files;
 }
 
-void PanelState::restore(PanelModel *model, PanelController *controller) const
+void PanelState::restore(PanelModel *model, bool withSource) const
 {
-    if (!m_usable)
+    if (m_saved.isEmpty())
         return;
     using Controls::ThemeManager;
-    QSettings settings(m_path, QSettings::IniFormat);
-    const auto look = ThemeManager::Theme(number(settings, "look"));
+    const auto look = ThemeManager::Theme(m_saved["look"_key].toInt());
     if (look != ThemeManager::instance()->currentTheme())
         ThemeManager::instance()->setTheme(look);
     ViewSettings *view = model->viewSettings();
-    view->layoutProfile()->setLayoutType(Graph::LayoutType(number(settings, "layout")));
-    view->setGridMode(SmithChartPlot::GridMode(number(settings, "grid")));
-    view->setDensity(SmithChart::Preset(number(settings, "density")));
-    view->setReadoutFormat(ReadoutFormat(number(settings, "readout")));
-    view->setOnlyActiveTrace(number(settings, "onlyActiveTrace"));
-    const QString folder = settings.value(QStringLiteral("screenshots")).toString();
-    if (!folder.isEmpty())
-        controller->setScreenshotFolder(folder);
+    view->layoutProfile()->setLayoutType(Graph::LayoutType(m_saved["layout"_key].toInt()));
+    view->setGridMode(SmithChartPlot::GridMode(m_saved["grid"_key].toInt()));
+    view->setDensity(SmithChart::Preset(m_saved["density"_key].toInt()));
+    view->setReadoutFormat(ReadoutFormat(m_saved["readout"_key].toInt()));
+    view->setOnlyActiveTrace(m_saved["onlyActiveTrace"_key].toBool());
+    model->preferences()->setScreenshotFolder(m_saved["screenshots"_key].toString());
+    model->setTuning(m_saved["tuning"_key].toDouble(defaultTuning));
 
-    const int traces = settings.beginReadArray(QStringLiteral("traces"));
-    settings.endArray();
-    if (traces == model->traces().size())
-        restoreTraces(settings, model);
-    // After the markers, or the first would bring the others along.
-    model->setMarkersDiscrete(number(settings, "markersDiscrete"));
-    model->setMarkersCoupled(number(settings, "markersCoupled"));
+    const QJsonObject sweep = m_saved["sweep"_key].toObject();
+    const auto source = Source(m_saved["source"_key].toInt());
+    if (withSource && isSimulated(source)) {
+        // Its first data come later.
+        QObject *once = new QObject(model);
+        QObject::connect(model, &PanelModel::networksChanged, once, [=, saved = m_saved] {
+            once->deleteLater();
+            QMetaObject::invokeMethod(
+                model, [=] { restoreNetworks(model, saved); }, Qt::QueuedConnection);
+        });
+        model->setSource(source);
+    } else {
+        restoreNetworks(model, m_saved);
+    }
+    model->setSweep({sweep["start"_key].toDouble(), sweep["stop"_key].toDouble(), sweep["points"_key].toInt()});
 }
 
-void PanelState::restoreTraces(const QSettings &saved, PanelModel *model) const
+bool PanelState::save(const PanelModel &model, const QString &path)
 {
-    QSettings settings(saved.fileName(), QSettings::IniFormat);
-    const QVector<Trace> traces = model->traces();
-    settings.beginReadArray(QStringLiteral("traces"));
-    for (int i = 0; i < traces.size(); ++i) {
-        settings.setArrayIndex(i);
-        const int id = traces.at(i).id;
-        model->setTraceParameter(id, number(settings, "to"), number(settings, "from"));
-        model->setTraceFormat(id, TraceFormat(number(settings, "format")));
-        model->setTraceScale(id,
-                             {settings.value(QStringLiteral("scale")).toDouble(),
-                              settings.value(QStringLiteral("top")).toDouble()});
-        model->setTraceVisible(id, number(settings, "visible"));
-    }
-    settings.endArray();
-    const int markers = settings.beginReadArray(QStringLiteral("markers"));
-    for (int i = 0; i < markers; ++i) {
-        settings.setArrayIndex(i);
-        if (const Trace *trace = model->trace(number(settings, "trace")))
-            model->restoreMarker(trace->id, number(settings, "number"),
-                                 settings.value(QStringLiteral("hertz")).toDouble());
-    }
-    settings.endArray();
-    settings.beginReadArray(QStringLiteral("traces"));
-    for (int i = 0; i < traces.size(); ++i) {
-        settings.setArrayIndex(i);
-        model->setReferenceMarker(traces.at(i).id, number(settings, "reference"));
-    }
-    settings.endArray();
-    model->setActiveTrace(number(settings, "activeTrace"));
-}
-
-bool PanelState::save(const PanelModel &model, const PanelController &controller,
-                      const QString &language) const
-{
-    if (!QDir().mkpath(QFileInfo(m_path).absolutePath()))
-        return false;
-    // QSettings reads what is there before it writes, and would not forget that it was damaged. The
-    // first such file is kept: it may be somebody's after all.
-    if (!m_usable && QFileInfo(m_path).isFile()
-        && !QFile::rename(m_path, m_path + QStringLiteral(".damaged")))
-        QFile::remove(m_path);
-    QSettings settings(m_path, QSettings::IniFormat);
-    settings.clear();
-    const auto set = [&settings](const char *key, const QVariant &value) {
-        settings.setValue(QLatin1String(key), value);
-    };
     const ViewSettings *view = model.viewSettings();
-    set("version", s_version);
-    set("language", language);
-    set("look", int(Controls::ThemeManager::instance()->currentTheme()));
-    set("layout", int(view->diagramLayout()));
-    set("grid", int(view->gridMode()));
-    set("density", int(view->density()));
-    set("readout", int(view->readoutFormat()));
-    set("onlyActiveTrace", int(view->onlyActiveTrace()));
-    set("markersDiscrete", int(model.markersDiscrete()));
-    set("markersCoupled", int(model.markersCoupled()));
-    set("screenshots", controller.screenshotFolder());
-    QStringList files;
-    for (const Network &network : model.networks()) {
-        // Samples and simulated devices are part of the program.
+    const Preferences *preferences = model.preferences();
+    QJsonArray files;
+    for (const Network &network : model.files()) {
+        // Samples are part of the program.
         if (!network.path.isEmpty() && !network.path.startsWith(QLatin1Char(':')))
-            files << network.path;
+            files.append(network.path);
     }
-    set("files", files);
-    set("activeTrace", model.activeTrace() ? model.activeTrace()->id : 0);
-    settings.beginWriteArray(QStringLiteral("traces"), int(model.traces().size()));
-    for (int i = 0; i < model.traces().size(); ++i) {
-        settings.setArrayIndex(i);
-        const Trace &trace = model.traces().at(i);
-        const Marker *reference = model.referenceMarker(trace.id);
-        set("to", trace.to);
-        set("from", trace.from);
-        set("format", int(trace.format));
-        set("scale", trace.scale.perDivision);
-        set("top", trace.scale.top);
-        set("visible", int(trace.visible));
-        set("reference", reference ? reference->number : 0);
-    }
-    settings.endArray();
-    settings.beginWriteArray(QStringLiteral("markers"), int(model.markers().size()));
-    for (int i = 0; i < model.markers().size(); ++i) {
-        settings.setArrayIndex(i);
-        const Marker &marker = model.markers().at(i);
-        const Network &network = model.network(*model.trace(marker.trace));
-        set("trace", marker.trace);
-        set("number", marker.number);
-        set("hertz", valueAt(network.frequencies, marker.index));
-    }
-    settings.endArray();
-    settings.sync();
-    return settings.status() == QSettings::NoError;
+    const Sweep &sweep = model.sweep();
+    const QJsonObject state{
+        {"version"_key, s_version},
+        {"language"_key,
+         preferences->language().isEmpty() ? currentLanguage() : preferences->language()},
+        {"look"_key, int(Controls::ThemeManager::instance()->currentTheme())},
+        {"layout"_key, int(view->diagramLayout())},
+        {"grid"_key, int(view->gridMode())},
+        {"density"_key, int(view->density())},
+        {"readout"_key, int(view->readoutFormat())},
+        {"onlyActiveTrace"_key, view->onlyActiveTrace()},
+        {"markersDiscrete"_key, model.markersDiscrete()},
+        {"markersCoupled"_key, model.markersCoupled()},
+        {"screenshots"_key, preferences->screenshotFolder()},
+        {"source"_key, int(model.source())},
+        {"sweep"_key, QJsonObject{{"start"_key, sweep.start}, {"stop"_key, sweep.stop}, {"points"_key, sweep.points}}},
+        {"tuning"_key, model.tuning()},
+        {"files"_key, files},
+        {"networks"_key, writtenNetworks(model)},
+        {"zooms"_key, writtenZooms(model)},
+    };
+    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
+        return false;
+    // What is no state of ours may be somebody's after all; the first such file is kept.
+    QString note;
+    readState(path, note);
+    if (!note.isEmpty() && QFileInfo(path).isFile())
+        QFile::copy(path, path + QStringLiteral(".damaged"));
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(state).toJson()) > 0
+        && file.commit();
 }
 
 } // namespace Panel

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "samples.h"
 
-#include <QtGlobal>
+#include <panel/model/network.h>
 
 // Outside the namespace, because the macro declares a global function.
 static void registerSamples()
@@ -22,6 +22,11 @@ QString sampleFolder()
 QString startSample()
 {
     return sampleFolder() + QStringLiteral("/band-pass.s2p");
+}
+
+bool isSample(const Network &network)
+{
+    return network.path.startsWith(sampleFolder());
 }
 
 } // namespace Panel

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cartesian.h"
 
-#include "format.h"
+#include <panel/ground/numbertext.h>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace Panel
 {
@@ -124,6 +125,24 @@ double cartesianValue(double real, double imag, TraceFormat format)
                            : std::numeric_limits<double>::quiet_NaN();
 }
 
+ValueRange valueRange(const QVector<double> &values)
+{
+    ValueRange range;
+    for (const double value : values) {
+        range.lowest = std::fmin(range.lowest, value);
+        range.highest = std::fmax(range.highest, value);
+    }
+    return range;
+}
+
+ValueRange valueRange(const Parameter &parameter, TraceFormat format)
+{
+    // The extremes of one column as wide as all points, so that no logarithm is taken of a million.
+    QVector<double> places(parameter.real.size());
+    std::iota(places.begin(), places.end(), 0.0);
+    return valueRange(cartesianLine(places, parameter, format, 1).values);
+}
+
 double cartesianValueAt(const Parameter &parameter, double index, TraceFormat format)
 {
     return cartesianValue(valueAt(parameter.real, index), valueAt(parameter.imag, index), format);
@@ -168,24 +187,28 @@ double highestValue(const Parameter &parameter, TraceFormat format)
                          : cartesianValue(std::sqrt(highest), 0.0, format);
 }
 
+namespace
+{
+
+/// The number and the unit of the format, which stands close to an angle.
+QString withUnit(const QString &number, TraceFormat format)
+{
+    const QString unit = formatUnit(format);
+    return unit.isEmpty() || format == TraceFormat::Phase ? number + unit
+                                                          : number + QLatin1Char(' ') + unit;
+}
+
+} // namespace
+
 QString cartesianText(double value, TraceFormat format)
 {
-    if (!std::isfinite(value))
-        return nothingText();
-    const bool phase = format == TraceFormat::Phase;
-    QString text = QString::number(value, 'f', phase ? 1 : 2);
-    text.replace(QLatin1Char('-'), QChar(0x2212));
-    const QString unit = formatUnit(format);
-    return unit.isEmpty() || phase ? text + unit : text + QLatin1Char(' ') + unit;
+    return std::isfinite(value) ? withUnit(numberText(value, traits(format).decimals), format)
+                                : nothingText();
 }
 
 QString cartesianReferenceText(double value, TraceFormat format)
 {
-    QString text = QString::number(value, 'g', 6);
-    text.replace(QLatin1Char('-'), QChar(0x2212));
-    const QString unit = formatUnit(format);
-    return unit.isEmpty() || format == TraceFormat::Phase ? text + unit
-                                                          : text + QLatin1Char(' ') + unit;
+    return withUnit(withMinusSigns(QString::number(value, 'g', 6)), format);
 }
 
 } // namespace Panel

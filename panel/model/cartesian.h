@@ -19,6 +19,16 @@ struct CartesianLine {
     QVector<double> values;
 };
 
+/// The lowest and highest of some values; NaN where there is none.
+struct ValueRange {
+    double lowest = qQNaN();
+    double highest = qQNaN();
+};
+
+ValueRange valueRange(const QVector<double> &values);
+/// The same of all points of a parameter in a format of a Cartesian diagram.
+ValueRange valueRange(const Parameter &parameter, TraceFormat format);
+
 /*! The value of a parameter in a format of a Cartesian diagram; a magnitude of zero counts as -300
     dB. NaN where there is none: of a NaN, and of the VSWR of a full reflection or more. */
 double cartesianValue(double real, double imag, TraceFormat format);
@@ -28,7 +38,7 @@ double cartesianValueAt(const Parameter &parameter, double index, TraceFormat fo
 /*! The line of a parameter for a diagram of so many pixel columns that shows a range of frequencies
     in Hz: the points within, and the one before and after.
     Where there are many more points than columns, each column keeps its first, lowest, highest and
-   last point: the picture is the same, and the logarithm is taken of those alone. */
+    last point: the picture is the same, and the logarithm is taken of those alone. */
 CartesianLine cartesianLine(const QVector<double> &frequencies, const Parameter &parameter,
                             TraceFormat format, int columns, double from = -qInf(),
                             double to = qInf());

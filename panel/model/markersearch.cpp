@@ -19,21 +19,6 @@ double value(const Parameter &parameter, int index, TraceFormat format)
                                         : cartesianValue(real, imag, format);
 }
 
-double excursion(TraceFormat format)
-{
-    switch (format) {
-    case TraceFormat::Smith:
-        return 0.02;
-    case TraceFormat::LogMagnitude:
-        return 3.0;
-    case TraceFormat::Phase:
-        return 10.0;
-    case TraceFormat::Vswr:
-        return 0.1;
-    }
-    return 0.0;
-}
-
 /// The extreme of the whole; sign is 1 for the highest value and -1 for the lowest.
 int extreme(const Parameter &parameter, TraceFormat format, double sign)
 {
@@ -52,7 +37,7 @@ int extreme(const Parameter &parameter, TraceFormat format, double sign)
 /// The first peak from an index on, in steps of 1 or -1.
 int nextPeak(const Parameter &parameter, TraceFormat format, int from, int step)
 {
-    const double needed = excursion(format);
+    const double needed = traits(format).peakExcursion;
     const int count = int(parameter.real.size());
     // A rise of the excursion has to come before a peak and a fall after it.
     double low = qInf(), high = -qInf();

@@ -36,4 +36,30 @@ double indexOfFrequency(const QVector<double> &frequencies, double hertz)
                                       : below + (hertz - *(above - 1)) / (*above - *(above - 1));
 }
 
+StimulusPlace placeAt(const QVector<double> &frequencies, double index)
+{
+    const double hertz = valueAt(frequencies, index);
+    const auto first = std::lower_bound(frequencies.begin(), frequencies.end(), hertz);
+    const int repeat = int(index) - int(first - frequencies.begin());
+    return {hertz, std::max(0, repeat)};
+}
+
+double indexOfPlace(const QVector<double> &frequencies, const StimulusPlace &place)
+{
+    if (frequencies.isEmpty()
+        || !(place.hertz >= frequencies.first() && place.hertz <= frequencies.last()))
+        return -1.0;
+    const auto [first, last] =
+        std::equal_range(frequencies.begin(), frequencies.end(), place.hertz);
+    const int same = int(last - first);
+    return same == 0 ? indexOfFrequency(frequencies, place.hertz)
+                     : double(first - frequencies.begin() + std::min(place.repeat, same - 1));
+}
+
+QString parameterName(int to, int from)
+{
+    const QString between = std::max(to, from) > 9 ? QStringLiteral(",") : QString();
+    return QLatin1Char('S') + QString::number(to) + between + QString::number(from);
+}
+
 } // namespace Panel

@@ -90,4 +90,25 @@ double valueAt(const QVector<double> &values, double index);
 /// not be empty.
 double indexOfFrequency(const QVector<double> &frequencies, double hertz);
 
+/// A stimulus of a sweep, whatever part of it is at hand.
+struct StimulusPlace {
+    double hertz = 0.0;
+    int repeat = 0; ///< how many points of this very frequency lie before; a sweep may stand still
+
+    friend bool operator==(const StimulusPlace &a, const StimulusPlace &b)
+    {
+        return a.hertz == b.hertz && a.repeat == b.repeat;
+    }
+    friend bool operator!=(const StimulusPlace &a, const StimulusPlace &b) { return !(a == b); }
+};
+
+/// The stimulus at a fractional index. The frequencies must not be empty.
+StimulusPlace placeAt(const QVector<double> &frequencies, double index);
+
+/// The fractional index of a stimulus, or -1 outside the frequencies.
+double indexOfPlace(const QVector<double> &frequencies, const StimulusPlace &place);
+
+/// "S21"; from ten ports on "S2,11".
+QString parameterName(int to, int from);
+
 } // namespace Panel

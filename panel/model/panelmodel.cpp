@@ -4,457 +4,108 @@
 
 #include "cartesian.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace Panel
 {
 
-namespace
+PanelModel::PanelModel(QObject *parent)
+    : QObject(parent)
 {
-
-/// First and last index of the points on show.
-std::pair<int, int> shownPoints(const QVector<double> &frequencies, const Stimulus &stimulus)
-{
-    const auto begin = frequencies.begin();
-    const int last = int(frequencies.size()) - 1;
-    int from = int(std::lower_bound(begin, frequencies.end(), stimulus.start) - begin);
-    int to = int(std::upper_bound(begin, frequencies.end(), stimulus.stop) - begin) - 1;
-    if (from >= to) {
-        // Less than a line: show the one that it lies on.
-        to = std::clamp(to + 1, 0, last);
-        from = std::max(0, to - 1);
-        to = std::min(from + 1, last);
-    }
-    return {from, to};
 }
 
-Network part(const Network &network, int from, int to)
-{
-    Network result = network;
-    if (from == 0 && to == network.frequencies.size() - 1)
-        return result; // shares all its data
-    const int count = to - from + 1;
-    result.frequencies = network.frequencies.mid(from, count);
-    for (Parameter &parameter : result.parameters)
-        parameter = {parameter.real.mid(from, count), parameter.imag.mid(from, count)};
-    return result;
-}
+// Networks and the part of them on show
 
-} // namespace
-
-const Trace *PanelModel::trace(int id) const
+void PanelModel::replaceNetworks(const QVector<Network> &networks)
 {
-    const auto found = std::find_if(m_traces.begin(), m_traces.end(),
-                                    [id](const Trace &trace) { return trace.id == id; });
-    return found == m_traces.end() ? nullptr : &*found;
-}
-
-Trace *PanelModel::findTrace(int id)
-{
-    return const_cast<Trace *>(trace(id));
-}
-
-const Trace *PanelModel::activeTrace(const QVector<int> &among) const
-{
-    for (const int id : m_recentTraces) {
-        if (among.contains(id))
-            return trace(id);
-    }
-    return among.isEmpty() ? nullptr : trace(among.first());
-}
-
-const Trace *PanelModel::activeTrace(bool onSmithChart) const
-{
-    QVector<int> among;
-    for (const Trace &trace : m_traces) {
-        if (trace.onSmithChart() == onSmithChart)
-            among.append(trace.id);
-    }
-    return activeTrace(among);
-}
-
-QString PanelModel::parameterName(const Trace &trace)
-{
-    return QStringLiteral("S%1%2").arg(trace.to).arg(trace.from);
-}
-
-void PanelModel::setNetworks(const QVector<Network> &networks)
-{
-    m_networks = networks;
-    m_shown = networks;
-    m_firstShown.fill(0, m_networks.size());
-    m_stimuli.clear();
-    for (int i = 0; i < m_networks.size(); ++i)
-        m_stimuli.append(limits(i));
-    m_traces.clear();
-    const auto add = [this](int network, int to, int from, TraceFormat format) {
-        m_traces.append({int(m_traces.size()) + 1, network, to, from, format, {}, true});
-    };
-    for (int i = 0; i < m_networks.size(); ++i) {
-        for (int port = 1; port <= m_networks.at(i).ports; ++port)
-            add(i, port, port, TraceFormat::Smith);
-        if (m_networks.at(i).ports == 1) {
-            add(i, 1, 1, TraceFormat::LogMagnitude);
-        } else if (m_networks.at(i).ports == 2) {
-            add(i, 2, 1, TraceFormat::LogMagnitude);
-            add(i, 1, 2, TraceFormat::LogMagnitude);
-        }
-    }
-    for (const TraceFormat format : {TraceFormat::Smith, TraceFormat::LogMagnitude}) {
-        const Scale scale = usualScale(format);
-        for (Trace &trace : m_traces) {
-            if (trace.format == format)
-                trace.scale = scale;
-        }
-    }
-    m_memories.clear();
-    m_markers.clear();
-    m_references.clear();
-    m_selectedTrace = 0;
-    m_selectedNumber = 0;
-    m_activeTrace = m_traces.isEmpty() ? 0 : m_traces.first().id;
-    m_recentTraces = {m_activeTrace};
+    m_networks.replace(networks);
+    m_traces.rebuild(m_networks);
+    QVector<int> ids;
+    for (const Trace &trace : traces())
+        ids.append(trace.id);
+    m_markers.reset(ids);
+    m_zooms.clear();
     Q_EMIT networksChanged();
     Q_EMIT tracesChanged();
     Q_EMIT activeTraceChanged();
     Q_EMIT selectedMarkerChanged();
 }
 
-Scale PanelModel::usualScale(TraceFormat format) const
+void PanelModel::openNetworks(const QVector<Network> &networks)
 {
-    double highest = qQNaN();
-    for (const Trace &trace : m_traces) {
-        if (format == TraceFormat::LogMagnitude && trace.format == format)
-            highest = std::fmax(highest, highestValue(data(trace), format));
-    }
-    return Panel::usualScale(format, highest);
+    const bool simulated = isSimulated(m_source);
+    m_source = Source::Files;
+    m_files = networks;
+    replaceNetworks(networks);
+    if (simulated)
+        Q_EMIT sourceChanged();
 }
 
-void PanelModel::setTraceFormat(int id, TraceFormat format)
+void PanelModel::beginMeasurement(const Network &network)
 {
-    Trace *trace = findTrace(id);
-    if (!trace || trace->format == format)
-        return;
-    trace->format = format;
-    trace->scale = usualScale(format);
-    Q_EMIT tracesChanged();
-}
-
-void PanelModel::setTraceParameter(int id, int to, int from)
-{
-    Trace *trace = findTrace(id);
-    if (!trace || (trace->to == to && trace->from == from))
-        return;
-    const int ports = m_networks.at(trace->network).ports;
-    if (qMin(to, from) < 1 || qMax(to, from) > ports)
-        return;
-    trace->to = to;
-    trace->from = from;
-    // Another parameter's data are nothing to compare with.
-    if (m_memories.remove(id) > 0)
-        Q_EMIT memoryChanged(id);
-    Q_EMIT tracesChanged();
-}
-
-void PanelModel::setTraceScale(int id, const Scale &scale)
-{
-    Trace *trace = findTrace(id);
-    if (!trace || trace->scale == scale || !std::isfinite(scale.top)
-        || !std::isfinite(scale.perDivision) || !(scale.perDivision > 0.0))
-        return;
-    trace->scale = scale;
-    Q_EMIT traceScaleChanged(id);
-}
-
-const Memory *PanelModel::memory(int traceId) const
-{
-    const auto found = m_memories.constFind(traceId);
-    return found == m_memories.constEnd() ? nullptr : &*found;
-}
-
-void PanelModel::storeMemory(int id)
-{
-    const Trace *trace = this->trace(id);
-    if (!trace)
-        return;
-    m_memories.insert(id, {network(*trace).frequencies, data(*trace)});
-    Q_EMIT memoryChanged(id);
-}
-
-void PanelModel::clearMemory(int id)
-{
-    if (m_memories.remove(id) > 0)
-        Q_EMIT memoryChanged(id);
-}
-
-Stimulus PanelModel::limits(int network) const
-{
-    const QVector<double> &frequencies = m_networks.at(network).frequencies;
-    return frequencies.isEmpty() ? Stimulus()
-                                 : Stimulus{frequencies.constFirst(), frequencies.constLast()};
-}
-
-void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
-{
-    const int index = trace.network;
-    const Network &whole = m_networks.at(index);
-    const Stimulus bounds = limits(index);
-    const Stimulus wanted{std::clamp(stimulus.start, bounds.start, bounds.stop),
-                          std::clamp(stimulus.stop, bounds.start, bounds.stop)};
-    if (wanted == m_stimuli.at(index) || wanted.span() < 0.0 || whole.frequencies.isEmpty())
-        return;
-    m_stimuli[index] = wanted;
-    const int before = m_firstShown.at(index);
-    showPart(index);
-    const int shift = before - m_firstShown.at(index);
-    const int last = m_shown.at(index).points() - 1;
-    for (Marker &marker : m_markers) {
-        if (this->trace(marker.trace)->network == index)
-            marker.index = std::clamp(marker.index + shift, 0.0, double(last));
-    }
-    Q_EMIT stimulusChanged(index);
-}
-
-/// Cuts out of a network what its stimulus leaves.
-void PanelModel::showPart(int index)
-{
-    const Network &whole = m_networks.at(index);
-    const auto [from, to] = shownPoints(whole.frequencies, m_stimuli.at(index));
-    m_firstShown[index] = from;
-    m_shown[index] = part(whole, from, to);
+    if (isSimulated(m_source))
+        replaceNetworks({network});
 }
 
 bool PanelModel::updateNetwork(int index, const Network &network)
 {
-    if (index < 0 || index >= m_networks.size() || network.ports != m_networks.at(index).ports
-        || network.frequencies.isEmpty())
+    if (!m_networks.update(index, network))
         return false;
-    const QVector<double> before = m_shown.at(index).frequencies;
-    const Stimulus stimulus = m_stimuli.at(index);
-    const bool magnified = stimulus != limits(index);
-    m_networks[index] = network;
-    m_stimuli[index] = limits(index);
-    if (magnified && stimulus.start < m_stimuli.at(index).stop
-        && stimulus.stop > m_stimuli.at(index).start)
-        m_stimuli[index] = {qMax(stimulus.start, m_stimuli.at(index).start),
-                            qMin(stimulus.stop, m_stimuli.at(index).stop)};
-    showPart(index);
-    const QVector<double> &now = m_shown.at(index).frequencies;
-    QVector<Marker> moved;
-    for (Marker &marker : m_markers) {
-        if (trace(marker.trace)->network != index)
-            continue;
-        const double hertz = valueAt(before, marker.index);
-        if (marker.index <= int(now.size()) - 1 && valueAt(now, marker.index) == hertz)
-            continue; // as in most sweeps
-        marker.index = indexOfFrequency(now, hertz);
-        if (m_markersDiscrete)
-            marker.index = std::round(marker.index);
-        moved.append(marker);
-    }
     Q_EMIT networkUpdated(index);
-    for (const Marker &changed : moved) {
-        // A slot may have removed it.
-        if (marker(changed.trace, changed.number))
-            Q_EMIT markerMoved(changed.trace, changed.number);
-    }
     return true;
 }
 
-void PanelModel::setActiveTrace(int id)
+void PanelModel::updateFile(int index, const Network &network)
 {
-    if (id == m_activeTrace || !trace(id))
+    if (index < 0 || index >= m_files.size())
         return;
-    m_activeTrace = id;
-    m_recentTraces.removeOne(id);
-    m_recentTraces.prepend(id);
-    Q_EMIT activeTraceChanged();
-    if (m_selectedTrace != id)
-        selectMarker(0, 0);
+    m_files[index] = network;
+    if (!isSimulated(m_source) && !updateNetwork(index, network))
+        openNetworks(QVector<Network>(m_files));
 }
 
-void PanelModel::setTraceVisible(int id, bool visible)
+Stimulus PanelModel::stimulus(const Trace &trace) const
 {
-    for (Trace &trace : m_traces) {
-        if (trace.id == id && trace.visible != visible) {
-            trace.visible = visible;
-            Q_EMIT traceVisibleChanged(id, visible);
-            return;
-        }
-    }
+    return isSimulated(m_source) ? m_sweep.stimulus() : m_networks.stimulus(trace.network);
 }
 
-QVector<Marker> PanelModel::activeMarkers() const
+Stimulus PanelModel::limits(const Trace &trace) const
 {
-    return markersOf(m_activeTrace);
+    return isSimulated(m_source) ? Sweep::limits : m_networks.limits(trace.network);
 }
 
-QVector<Marker> PanelModel::markersOf(int traceId) const
+double PanelModel::smallestSpan() const
 {
-    QVector<Marker> result;
-    for (int number = 1; number <= markersPerTrace; ++number) {
-        if (const Marker *found = marker(traceId, number))
-            result.append(*found);
-    }
-    return result;
+    return isSimulated(m_source) ? Sweep::smallestSpan : 0.0;
 }
 
-const Marker *PanelModel::marker(int traceId, int number) const
+void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
 {
-    const auto found = std::find_if(m_markers.begin(), m_markers.end(), [=](const Marker &marker) {
-        return marker.trace == traceId && marker.number == number;
-    });
-    return found == m_markers.end() ? nullptr : &*found;
-}
-
-bool PanelModel::holdsIndex(int traceId, double index) const
-{
-    const Trace *owner = trace(traceId);
-    return owner && index >= 0.0 && index <= network(*owner).points() - 1;
-}
-
-double PanelModel::indexAt(int traceId, double hertz) const
-{
-    const QVector<double> &frequencies = network(*trace(traceId)).frequencies;
-    if (frequencies.isEmpty() || !(hertz >= frequencies.first() && hertz <= frequencies.last()))
-        return -1.0;
-    return indexOfFrequency(frequencies, hertz);
-}
-
-int PanelModel::addMarker(int traceId, double index)
-{
-    int number = 1;
-    while (marker(traceId, number))
-        ++number;
-    if (!holdsIndex(traceId, index))
-        return 0;
-    if (number > markersPerTrace) {
-        Q_EMIT markersExhausted(traceId);
-        return 0;
-    }
-    placeMarker(traceId, number, index);
-    couple(traceId, number);
-    selectMarker(traceId, number);
-    return number;
-}
-
-void PanelModel::restoreMarker(int traceId, int number, double hertz)
-{
-    const double index = trace(traceId) ? indexAt(traceId, hertz) : -1.0;
-    if (index >= 0.0 && number >= 1 && number <= markersPerTrace)
-        placeMarker(traceId, number, index);
-}
-
-void PanelModel::moveMarker(int traceId, int number, double index)
-{
-    if (!holdsIndex(traceId, index) || !marker(traceId, number))
-        return;
-    placeMarker(traceId, number, index);
-    couple(traceId, number);
-}
-
-void PanelModel::placeMarker(int traceId, int number, double index)
-{
-    if (m_markersDiscrete)
-        index = std::round(index);
-    for (Marker &marker : m_markers) {
-        if (marker.trace != traceId || marker.number != number)
-            continue;
-        if (marker.index != index) {
-            marker.index = index;
-            Q_EMIT markerMoved(traceId, number);
-        }
+    const int network = trace.network;
+    if (!isSimulated(m_source)) {
+        if (m_networks.setStimulus(network, stimulus))
+            Q_EMIT stimulusChanged(network);
         return;
     }
-    m_markers.append({traceId, number, index});
-    Q_EMIT markerAdded(traceId, number);
+    setSweep({stimulus.start, stimulus.stop, m_sweep.points});
 }
 
-void PanelModel::couple(int traceId, int number)
+// Source
+
+void PanelModel::setSource(Source source)
 {
-    const Marker *source = marker(traceId, number);
-    if (!m_markersCoupled || !source)
+    if (source == Source::Files) {
+        if (isSimulated(m_source))
+            openNetworks(QVector<Network>(m_files));
         return;
-    const double hertz = valueAt(network(*trace(traceId)).frequencies, source->index);
-    const QVector<Trace> traces = m_traces; // a slot may change them
-    for (const Trace &other : traces) {
-        const double index =
-            other.id != traceId && trace(other.id) ? indexAt(other.id, hertz) : -1.0;
-        if (index >= 0.0)
-            placeMarker(other.id, number, index);
     }
-}
-
-void PanelModel::removeMarker(int traceId, int number)
-{
-    if (!marker(traceId, number))
-        return;
-    dropMarker(traceId, number);
-    if (!m_markersCoupled)
-        return;
-    const QVector<Trace> traces = m_traces;
-    for (const Trace &other : traces)
-        dropMarker(other.id, number);
-}
-
-void PanelModel::dropMarker(int traceId, int number)
-{
-    const Marker *found = marker(traceId, number);
-    if (!found)
-        return;
-    const bool selected = found == selectedMarker();
-    m_markers.remove(int(found - m_markers.constData()));
-    Q_EMIT markerRemoved(traceId, number);
-    if (m_references.value(traceId) == number)
-        setReferenceMarker(traceId, 0);
-    if (selected)
-        selectMarker(0, 0);
-}
-
-void PanelModel::setReferenceMarker(int traceId, int number)
-{
-    if (number != 0 && !marker(traceId, number))
-        number = 0;
-    if (m_references.value(traceId) == number)
-        return;
-    m_references.insert(traceId, number);
-    Q_EMIT referenceMarkerChanged(traceId);
-}
-
-void PanelModel::setMarkersDiscrete(bool discrete)
-{
-    if (discrete == m_markersDiscrete)
-        return;
-    m_markersDiscrete = discrete;
-    Q_EMIT markerModeChanged();
-    const QVector<Marker> markers = m_markers;
-    for (const Marker &each : markers) {
-        if (discrete && marker(each.trace, each.number))
-            placeMarker(each.trace, each.number, each.index);
-    }
-}
-
-void PanelModel::setMarkersCoupled(bool coupled)
-{
-    if (coupled == m_markersCoupled)
-        return;
-    m_markersCoupled = coupled;
-    Q_EMIT markerModeChanged();
-    for (const Marker &each : activeMarkers())
-        couple(each.trace, each.number);
-}
-
-void PanelModel::selectMarker(int traceId, int number)
-{
-    if (!marker(traceId, number))
-        traceId = number = 0;
-    if (traceId == m_selectedTrace && number == m_selectedNumber)
-        return;
-    m_selectedTrace = traceId;
-    m_selectedNumber = number;
-    setActiveTrace(traceId);
-    Q_EMIT selectedMarkerChanged();
+    m_source = source;
+    const Sweep sweep = defaultSweep(source, m_sweep.points);
+    const bool another = sweep != m_sweep;
+    m_sweep = sweep;
+    Q_EMIT sourceChanged();
+    if (another)
+        Q_EMIT sweepChanged();
 }
 
 void PanelModel::setSweep(const Sweep &sweep)
@@ -471,6 +122,267 @@ void PanelModel::setSweeping(bool sweeping)
         return;
     m_sweeping = sweeping;
     Q_EMIT sweepingChanged();
+}
+
+void PanelModel::setTuning(double hertz)
+{
+    const double bounded = qBound(tuningLimits.start, hertz, tuningLimits.stop);
+    if (bounded == m_tuning || !std::isfinite(hertz))
+        return;
+    m_tuning = bounded;
+    Q_EMIT tuningChanged();
+}
+
+// Traces
+
+const Trace *PanelModel::activeTrace(bool onSmithChart) const
+{
+    QVector<int> among;
+    for (const Trace &trace : traces()) {
+        if (trace.onSmithChart() == onSmithChart)
+            among.append(trace.id);
+    }
+    return activeTrace(among);
+}
+
+QString PanelModel::parameterName(const Trace &trace)
+{
+    return Panel::parameterName(trace.to, trace.from);
+}
+
+void PanelModel::setActiveTrace(int id)
+{
+    if (!m_traces.setActive(id))
+        return;
+    const Marker *selected = selectedMarker();
+    const bool reselected = selected && selected->trace != id
+        && m_markers.select(id, markersCoupled() ? selected->number : 0);
+    Q_EMIT activeTraceChanged();
+    if (reselected)
+        Q_EMIT selectedMarkerChanged();
+}
+
+void PanelModel::setTraceVisible(int id, bool visible)
+{
+    if (m_traces.setVisible(id, visible))
+        Q_EMIT traceVisibleChanged(id, visible);
+}
+
+void PanelModel::setTraceFormat(int id, TraceFormat format)
+{
+    if (m_traces.setFormat(id, format, m_networks))
+        Q_EMIT tracesChanged();
+}
+
+void PanelModel::setTraceParameter(int id, int to, int from)
+{
+    const bool stored = memory(id);
+    if (!m_traces.setParameter(id, to, from, m_networks))
+        return;
+    if (stored)
+        Q_EMIT memoryChanged(id);
+    Q_EMIT tracesChanged();
+}
+
+void PanelModel::setTraceScale(int id, const Scale &scale)
+{
+    if (m_traces.setScale(id, scale))
+        Q_EMIT traceScaleChanged(id);
+}
+
+void PanelModel::fitTrace(int id)
+{
+    const Trace *trace = this->trace(id);
+    if (!trace || trace->onSmithChart())
+        return;
+    const ValueRange range = valueRange(data(*trace), trace->format);
+    setTraceScale(id, fittingScale(trace->format, range.lowest, range.highest));
+}
+
+void PanelModel::storeMemory(int id)
+{
+    const Trace *trace = this->trace(id);
+    if (trace && m_traces.storeMemory(id, {network(*trace).frequencies, data(*trace)}))
+        Q_EMIT memoryChanged(id);
+}
+
+void PanelModel::clearMemory(int id)
+{
+    if (m_traces.clearMemory(id))
+        Q_EMIT memoryChanged(id);
+}
+
+// Diagrams
+
+QVector<PlannedDiagram> PanelModel::diagrams() const
+{
+    const Trace *active = activeTrace();
+    return planDiagrams(m_viewSettings.diagramLayout(), traces(), active ? active->id : 0);
+}
+
+DiagramId PanelModel::diagramOf(int traceId) const
+{
+    for (const PlannedDiagram &diagram : diagrams()) {
+        if (diagram.traces.contains(traceId))
+            return diagram.id;
+    }
+    const Trace *trace = this->trace(traceId);
+    return {!trace || trace->onSmithChart(), 0};
+}
+
+Zoom PanelModel::zoom(const DiagramId &diagram) const
+{
+    const auto found = m_zooms.find(diagram);
+    return found == m_zooms.end() ? Zoom() : found->second;
+}
+
+void PanelModel::setZoom(const DiagramId &diagram, const Zoom &zoom)
+{
+    const Zoom wanted = bounded(zoom, diagram.smith);
+    if (wanted == this->zoom(diagram))
+        return;
+    if (wanted.isWhole())
+        m_zooms.erase(diagram);
+    else
+        m_zooms[diagram] = wanted;
+    Q_EMIT zoomChanged(diagram);
+}
+
+// Markers
+
+QVector<Marker> PanelModel::activeMarkers() const
+{
+    const Trace *active = activeTrace();
+    return active ? markersOf(active->id) : QVector<Marker>();
+}
+
+bool PanelModel::isSelected(const Marker &marker) const
+{
+    const Marker *selected = selectedMarker();
+    return selected && selected->trace == marker.trace && selected->number == marker.number;
+}
+
+double PanelModel::indexOf(const Marker &marker) const
+{
+    const double index = indexOfPlace(network(*trace(marker.trace)).frequencies, marker.place);
+    return markersDiscrete() ? std::round(index) : index;
+}
+
+double PanelModel::hertzOf(const Marker &marker) const
+{
+    const double index = indexOf(marker);
+    return index < 0.0 || !markersDiscrete()
+        ? marker.place.hertz
+        : valueAt(network(*trace(marker.trace)).frequencies, index);
+}
+
+bool PanelModel::holdsIndex(int traceId, double index) const
+{
+    const Trace *owner = trace(traceId);
+    return owner && index >= 0.0 && index <= network(*owner).points() - 1;
+}
+
+int PanelModel::addMarker(int traceId, double index)
+{
+    if (!holdsIndex(traceId, index))
+        return 0;
+    const int number = m_markers.freeNumber(traceId);
+    if (number == 0) {
+        Q_EMIT markersExhausted(traceId);
+        return 0;
+    }
+    placeMarker(traceId, number, index);
+    selectMarker(traceId, number);
+    return number;
+}
+
+void PanelModel::restoreMarker(int traceId, int number, const StimulusPlace &place)
+{
+    if (trace(traceId) && number >= 1 && number <= Markers::perTrace && std::isfinite(place.hertz))
+        tell(m_markers.place(traceId, number, place));
+}
+
+void PanelModel::moveMarker(int traceId, int number, double index)
+{
+    if (holdsIndex(traceId, index) && marker(traceId, number))
+        placeMarker(traceId, number, index);
+}
+
+void PanelModel::placeMarker(int traceId, int number, double index)
+{
+    if (markersDiscrete())
+        index = std::round(index);
+    const QVector<double> &frequencies = network(*trace(traceId)).frequencies;
+    tell(m_markers.place(traceId, number, placeAt(frequencies, index)));
+}
+
+/// Emits what became of markers, but for those that a slot has removed meanwhile.
+void PanelModel::tell(const Markers::Changes &changes)
+{
+    for (const MarkerChange &change : changes) {
+        const bool exists = marker(change.trace, change.number);
+        if (change.kind == MarkerChange::Removed)
+            Q_EMIT markerRemoved(change.trace, change.number);
+        else if (exists && change.kind == MarkerChange::Added)
+            Q_EMIT markerAdded(change.trace, change.number);
+        else if (exists)
+            Q_EMIT markerMoved(change.trace, change.number);
+    }
+}
+
+void PanelModel::removeMarker(int traceId, int number)
+{
+    const bool selected = selectedMarker();
+    QVector<int> unreferenced;
+    const Markers::Changes changes = m_markers.remove(traceId, number);
+    for (const MarkerChange &change : changes) {
+        // Asked after the removal, a reference that is gone counts as none.
+        if (!m_markers.reference(change.trace))
+            unreferenced += m_markers.setReference(change.trace, 0);
+    }
+    if (selected && !selectedMarker())
+        m_markers.select(0, 0);
+    tell(changes);
+    for (const int trace : qAsConst(unreferenced))
+        Q_EMIT referenceMarkerChanged(trace);
+    if (selected && !selectedMarker())
+        Q_EMIT selectedMarkerChanged();
+}
+
+void PanelModel::selectMarker(int traceId, int number)
+{
+    if (!m_markers.select(traceId, number))
+        return;
+    const Marker *selected = selectedMarker();
+    if (selected && m_traces.setActive(selected->trace))
+        Q_EMIT activeTraceChanged();
+    Q_EMIT selectedMarkerChanged();
+}
+
+void PanelModel::setReferenceMarker(int traceId, int number)
+{
+    const QVector<int> changed = m_markers.setReference(traceId, number);
+    for (const int trace : changed)
+        Q_EMIT referenceMarkerChanged(trace);
+}
+
+void PanelModel::setMarkersDiscrete(bool discrete)
+{
+    if (m_markers.setDiscrete(discrete))
+        Q_EMIT markerModeChanged();
+}
+
+void PanelModel::setMarkersCoupled(bool coupled)
+{
+    const Trace *active = activeTrace();
+    if (coupled == markersCoupled())
+        return;
+    const Markers::Changes changes = m_markers.setCoupled(coupled, active ? active->id : 0);
+    const QVector<int> referenced = coupled ? m_markers.shareReference(active ? active->id : 0) : QVector<int>();
+    Q_EMIT markerModeChanged();
+    tell(changes);
+    for (const int trace : referenced)
+        Q_EMIT referenceMarkerChanged(trace);
 }
 
 } // namespace Panel

@@ -2,52 +2,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "network.h"
-#include "stimulus.h"
-#include "sweep.h"
+#include "diagramplan.h"
+#include "markers.h"
+#include "networks.h"
+#include "preferences.h"
+#include "source.h"
+#include "traces.h"
 #include "viewsettings.h"
 
-#include <QHash>
+#include <map>
 
 namespace Panel
 {
 
-/// One line on the panel: a parameter of a network in a format.
-struct Trace {
-    int id = 0; ///< from 1, unique on the panel
-    int network = 0; ///< index into PanelModel::networks()
-    int to = 1; ///< port that the wave leaves
-    int from = 1; ///< port that the wave enters
-    TraceFormat format = TraceFormat::Smith; ///< decides which diagram shows it
-    Scale scale;
-    bool visible = true;
+/*! What the panel shows: the one door to networks, traces, markers, zooms and the source.
 
-    bool onSmithChart() const { return format == TraceFormat::Smith; }
-};
+    Each value has one home behind this door: the part on show in Networks, what is drawn in Traces,
+    where the user set a marker in Markers. What follows from them (the index of a marker, the
+    diagram of a trace) is computed when it is asked for. Whoever wants a change calls the model;
+    whoever shows something hears its signals, which are emitted when the change is complete.
 
-/// A trace's data as they were stored to compare later ones with.
-struct Memory {
-    QVector<double> frequencies;
-    Parameter parameter;
-};
-
-/// A marked point of a trace.
-struct Marker {
-    int trace = 0; ///< id of the trace
-    int number = 0; ///< from 1 within the trace
-    double index = 0.0; ///< into the trace's data on show; a fraction lies between two points
-};
-
-/*! What the panel shows, apart from how: the networks, the traces made from them and which one is
-   active.
-
-    Everything that changes here is told by a signal; views read the model and never keep a copy. It
-   knows no widget and no file: whoever has measured or read networks hands them over with
-   setNetworks().
+    It knows no widget and no file: whoever has read or measured networks hands them over.
 
     \code
     PanelModel model;
-    model.setNetworks({readTouchstone(path).network});
+    model.openNetworks({readTouchstone(path).network});
     for (const Trace &trace : model.traces())
         chart->setCurveData(trace.id, model.network(trace).frequencies, ...);
     \endcode */
@@ -56,93 +35,142 @@ class PanelModel : public QObject
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    explicit PanelModel(QObject *parent = nullptr);
 
-    const QVector<Network> &networks() const { return m_networks; }
-    /// Numbered from 1 in the order of the networks. A two-port has its reflections on the Smith
-    /// chart, then its transmissions in dB; a one-port its reflection in both ways.
-    const QVector<Trace> &traces() const { return m_traces; }
-    /// The trace of this id, or null.
-    const Trace *trace(int id) const;
-    /// The active trace, or null when there are no traces.
-    const Trace *activeTrace() const { return trace(m_activeTrace); }
-
-    /// The one of these traces that is active or was last, or null when there is none.
-    const Trace *activeTrace(const QVector<int> &among) const;
-    /// The same among the traces on the Smith chart, or among the others.
-    const Trace *activeTrace(bool onSmithChart) const;
-
-    /// How all of it is to be seen.
-    ViewSettings *viewSettings() { return &m_viewSettings; }
-    const ViewSettings *viewSettings() const { return &m_viewSettings; }
+    /*! \name Networks and the part of them on show
+        @{ */
+    const QVector<Network> &networks() const { return m_networks.all(); }
     /// The part of the trace's network that is on show.
-    const Network &network(const Trace &trace) const { return m_shown.at(trace.network); }
+    const Network &network(const Trace &trace) const { return m_networks.shown(trace.network); }
     const Parameter &data(const Trace &trace) const
     {
         return network(trace).s(trace.to, trace.from);
     }
-    /// The frequencies that the user asked to see; points at both ends need not lie on them.
-    const Stimulus &stimulus(const Trace &trace) const { return m_stimuli.at(trace.network); }
-    /// The frequencies that the trace's whole network has.
-    Stimulus limits(const Trace &trace) const { return limits(trace.network); }
-    /// "S11".
-    static QString parameterName(const Trace &trace);
-    /// What was stored of a trace, or null.
-    const Memory *memory(int traceId) const;
+    /// What the trace's source is to sweep: the sweep of a simulated device, or the part of a file
+    /// on show.
+    Stimulus stimulus(const Trace &trace) const;
+    /// What the stimulus can go to: the limits of the device, or all that the file has.
+    Stimulus limits(const Trace &trace) const;
+    /// The smallest span that the stimulus can have.
+    double smallestSpan() const;
 
-    /// All markers in the order they were added.
-    const QVector<Marker> &markers() const { return m_markers; }
-    /// The markers of a trace by their numbers.
-    QVector<Marker> markersOf(int traceId) const;
-    /// The markers of the active trace by their numbers.
-    QVector<Marker> activeMarkers() const;
-    /// The marker of this trace and number, or null.
-    const Marker *marker(int traceId, int number) const;
-    /// The selected marker, or null.
-    const Marker *selectedMarker() const { return marker(m_selectedTrace, m_selectedNumber); }
-    /// The marker that the others of its trace are read against, or null.
-    const Marker *referenceMarker(int traceId) const
-    {
-        return marker(traceId, m_references.value(traceId));
-    }
-    /// Whether markers stand on measured points only, and not between them.
-    bool markersDiscrete() const { return m_markersDiscrete; }
-    /// Whether markers of the same number stand at the same frequency on all traces.
-    bool markersCoupled() const { return m_markersCoupled; }
-    /// The sweep that is measured, or would be; what files hold does not depend on it.
+    /// Shows files: replaces all networks, makes new traces of them, and ends a simulation. The
+    /// first trace becomes active; markers and zooms go.
+    void openNetworks(const QVector<Network> &networks);
+    /// The same with the first data of a simulated source; nothing happens while files are on show.
+    void beginMeasurement(const Network &network);
+    /// Replaces the data of one network by a new measurement of it; traces and markers stay. False,
+    /// without a change, for an index without a network, another number of ports, or no points.
+    bool updateNetwork(int index, const Network &network);
+    /// Takes a file that was read again. Traces and markers stay unless it has other ports than
+    /// before.
+    void updateFile(int index, const Network &network);
+    /// What a simulated device cannot sweep is ignored; the part of a file is bounded by its limits.
+    void setStimulus(const Trace &trace, const Stimulus &stimulus);
+    /*! @} */
+
+    /*! \name Source
+        @{ */
+    Source source() const { return m_source; }
+    /// The sweep of a simulated source; what files hold does not depend on it.
     const Sweep &sweep() const { return m_sweep; }
     /// Whether measurements go on; otherwise the last one is held.
     bool isSweeping() const { return m_sweeping; }
-    /// How many markers a trace can have.
-    static constexpr int markersPerTrace = 6;
+    /// What the antenna is tuned to, in Hz.
+    double tuning() const { return m_tuning; }
+    /// The networks of the files that were opened last, on show or waiting behind a simulation.
+    const QVector<Network> &files() const { return m_files; }
 
-    /// Replaces all networks and makes new traces of them; the first becomes active. Markers go.
-    void setNetworks(const QVector<Network> &networks);
-    /// Shows a part of the trace's network: the points within, and never less than the two around
-    /// it. Markers keep their frequency, or go to the edge of the part.
-    void setStimulus(const Trace &trace, const Stimulus &stimulus);
-    /// A selected marker of another trace is deselected. An unknown id is ignored.
+    /// A simulated source begins with its default sweep; its data replace the networks when the
+    /// first come. Going back to files shows those of before at once.
+    void setSource(Source source);
+    /// A sweep outside the limits is ignored.
+    void setSweep(const Sweep &sweep);
+    void setSweeping(bool sweeping);
+    /// A value outside the limits moves to the limit.
+    void setTuning(double hertz);
+    /*! @} */
+
+    /*! \name Traces
+        @{ */
+    const QVector<Trace> &traces() const { return m_traces.all(); }
+    /// The trace of this id, or null.
+    const Trace *trace(int id) const { return m_traces.find(id); }
+    /// The active trace, or null when there are no traces.
+    const Trace *activeTrace() const { return m_traces.active(); }
+    /// The one of these traces that is active or was last, or null when there is none.
+    const Trace *activeTrace(const QVector<int> &among) const { return m_traces.active(among); }
+    /// The same among the traces on the Smith chart, or among the others.
+    const Trace *activeTrace(bool onSmithChart) const;
+    /// "S11".
+    static QString parameterName(const Trace &trace);
+    /// What was stored of a trace, or null.
+    const Memory *memory(int traceId) const { return m_traces.memory(traceId); }
+
+    /// A selected marker of another trace is deselected, or, where markers are coupled, that of the
+    /// same number is selected. An unknown id is ignored.
     void setActiveTrace(int id);
-    /// Replaces the data of one network by a new measurement of it; traces and markers stay, the
-    /// part on show too as far as there is any of it, and markers keep their frequencies. False,
-    /// without a change, for an index without a network, another number of ports, or no points.
-    bool updateNetwork(int index, const Network &network);
     void setTraceVisible(int id, bool visible);
-    /// The trace's diagram changes with its format, and the scale becomes the usual one.
+    /// The trace's diagram changes with its format, and the scale becomes the default one.
     void setTraceFormat(int id, TraceFormat format);
     /// A parameter that the trace's network does not have is ignored.
     void setTraceParameter(int id, int to, int from);
     /// What is not finite, or not above zero a division, is ignored.
     void setTraceScale(int id, const Scale &scale);
+    /// Gives a trace over the frequency a scale at which all of its data on show are seen.
+    void fitTrace(int id);
     /// Stores the trace's data on show.
     void storeMemory(int id);
     void clearMemory(int id);
+    /*! @} */
+
+    Preferences *preferences() { return &m_preferences; }
+    const Preferences *preferences() const { return &m_preferences; }
+
+    /*! \name Diagrams
+        @{ */
+    ViewSettings *viewSettings() { return &m_viewSettings; }
+    const ViewSettings *viewSettings() const { return &m_viewSettings; }
+    /// The diagrams of the present layout in reading order.
+    QVector<PlannedDiagram> diagrams() const;
+    /// The diagram that shows a trace, or would if it were in the layout.
+    DiagramId diagramOf(int traceId) const;
+    Zoom zoom(const DiagramId &diagram) const;
+    /// The zooms of the diagrams that do not show all.
+    const std::map<DiagramId, Zoom> &zooms() const { return m_zooms; }
+    /// Bounded; over the frequency nothing beyond the edges is shown.
+    void setZoom(const DiagramId &diagram, const Zoom &zoom);
+    /*! @} */
+
+    /*! \name Markers
+        @{ */
+    /// All markers in the order they were added.
+    const QVector<Marker> &markers() const { return m_markers.all(); }
+    /// The markers of a trace by their numbers.
+    QVector<Marker> markersOf(int traceId) const { return m_markers.of(traceId); }
+    QVector<Marker> activeMarkers() const;
+    /// The marker of this trace and number, or null.
+    const Marker *marker(int traceId, int number) const { return m_markers.find(traceId, number); }
+    const Marker *selectedMarker() const { return m_markers.selected(); }
+    bool isSelected(const Marker &marker) const;
+    /// The marker that the others of its trace are read against, or null.
+    const Marker *referenceMarker(int traceId) const { return m_markers.reference(traceId); }
+    /// Where a marker stands in its trace's data on show; a fraction lies between two points. -1
+    /// while it is parked, because its stimulus is not on show.
+    double indexOf(const Marker &marker) const;
+    /// The frequency in Hz that a marker stands at; a parked one, that it would stand at.
+    double hertzOf(const Marker &marker) const;
+    /// Whether markers stand on measured points only, and not between them.
+    bool markersDiscrete() const { return m_markers.isDiscrete(); }
+    /// Whether markers of the same number stand at the same frequency on all traces.
+    bool markersCoupled() const { return m_markers.isCoupled(); }
+
     /// Marks a point with the lowest free number and selects the marker. Returns the number, or 0
     /// for an unknown trace, an index outside its data, or a trace that has all its markers.
     int addMarker(int traceId, double index);
-    /// Marks a frequency in Hz with a certain number, without selecting the marker; nothing happens
-    /// outside the trace's data on show, or for a number that no marker can have.
-    void restoreMarker(int traceId, int number, double hertz);
+    /// Sets a marker of a certain number at a place on show or not, without selecting it; nothing
+    /// happens for an unknown trace or a number that no marker can have.
+    void restoreMarker(int traceId, int number, const StimulusPlace &place);
     /// An index outside the trace's data on show is ignored, like an unknown marker.
     void moveMarker(int traceId, int number, double index);
     void removeMarker(int traceId, int number);
@@ -151,69 +179,57 @@ public:
     void selectMarker(int traceId, int number);
     /// A marker that does not exist, such as number 0, leaves the trace without a reference.
     void setReferenceMarker(int traceId, int number);
-    /// Moves the markers that stand between points.
     void setMarkersDiscrete(bool discrete);
-    /// Gives all traces the markers of the active one.
+    /// Gives all traces the same markers, those of the active one first.
     void setMarkersCoupled(bool coupled);
-    /// A sweep outside the limits is ignored.
-    void setSweep(const Sweep &sweep);
-    void setSweeping(bool sweeping);
+    /*! @} */
 
 Q_SIGNALS:
     /// All networks and traces are new; tracesChanged() follows.
     void networksChanged();
+    /// A network has new data.
+    void networkUpdated(int index);
+    /// Another part of a network is on show, or is to be swept.
+    void stimulusChanged(int network);
+    void sourceChanged();
+    void sweepChanged();
+    void sweepingChanged();
+    void tuningChanged();
+
     /// Which traces there are, or what and how one of them shows.
     void tracesChanged();
-    void traceScaleChanged(int id);
-    void memoryChanged(int id);
-    /// A network has new data; markers that moved with it are told afterwards.
-    void networkUpdated(int index);
     void activeTraceChanged();
-    /// Another part of a network is on show; indices of its markers have changed with it.
-    void stimulusChanged(int network);
+    void traceScaleChanged(int id);
     void traceVisibleChanged(int id, bool visible);
-    /// A marker was asked for on a trace that has all its markers.
-    void markersExhausted(int traceId);
+    void memoryChanged(int id);
+    void zoomChanged(const Panel::DiagramId &diagram);
+
     void markerAdded(int traceId, int number);
     void markerMoved(int traceId, int number);
     void markerRemoved(int traceId, int number);
+    /// A marker was asked for on a trace that has all its markers.
+    void markersExhausted(int traceId);
     void selectedMarkerChanged();
     void referenceMarkerChanged(int traceId);
-    /// Continuous or discrete, coupled or not.
+    /// Continuous or discrete, coupled or not: where markers stand may have changed.
     void markerModeChanged();
-    void sweepChanged();
-    void sweepingChanged();
 
 private:
+    void replaceNetworks(const QVector<Network> &networks);
     bool holdsIndex(int traceId, double index) const;
-    Trace *findTrace(int id);
-    void showPart(int index);
-    /// The scale for all traces of a format, which they share until the user sets one.
-    Scale usualScale(TraceFormat format) const;
     void placeMarker(int traceId, int number, double index);
-    void dropMarker(int traceId, int number);
-    /// Takes the trace's marker as the model for the same number on all other traces.
-    void couple(int traceId, int number);
-    /// Index on a trace for a frequency of another, or -1 outside its data.
-    double indexAt(int traceId, double hertz) const;
-    Stimulus limits(int network) const;
+    void tell(const Markers::Changes &changes);
 
-    QVector<Network> m_networks;
-    QVector<Network> m_shown; ///< the part of each network that the stimulus leaves
-    QVector<Stimulus> m_stimuli;
-    QVector<int> m_firstShown; ///< index of its first point within the whole network
-    QVector<Trace> m_traces;
-    QVector<Marker> m_markers;
-    int m_activeTrace = 0;
-    QVector<int> m_recentTraces; ///< ids, the one that was active last in front
-    QHash<int, Memory> m_memories; ///< by trace
-    QHash<int, int> m_references; ///< marker numbers by trace
-    bool m_markersDiscrete = false;
-    bool m_markersCoupled = false;
+    Networks m_networks;
+    Traces m_traces;
+    Markers m_markers;
+    std::map<DiagramId, Zoom> m_zooms; ///< of diagrams that do not show all
     ViewSettings m_viewSettings;
-    int m_selectedTrace = 0;
-    int m_selectedNumber = 0;
+    Preferences m_preferences;
+    Source m_source = Source::Files;
+    QVector<Network> m_files; ///< kept while a simulation is on show
     Sweep m_sweep;
+    double m_tuning = defaultTuning;
     bool m_sweeping = true;
 };
 

@@ -7,33 +7,32 @@
 namespace Panel
 {
 
-Stimulus withStart(Stimulus stimulus, double start, const Stimulus &limits)
+Stimulus withStart(Stimulus stimulus, double start, const Stimulus &limits, double smallestSpan)
 {
-    stimulus.start = std::clamp(start, limits.start, limits.stop);
-    if (stimulus.stop <= stimulus.start)
-        stimulus.stop = limits.stop;
+    stimulus.start = std::clamp(start, limits.start, limits.stop - smallestSpan);
+    stimulus.stop = std::max(stimulus.start + smallestSpan, stimulus.stop);
     return stimulus;
 }
 
-Stimulus withStop(Stimulus stimulus, double stop, const Stimulus &limits)
+Stimulus withStop(Stimulus stimulus, double stop, const Stimulus &limits, double smallestSpan)
 {
-    stimulus.stop = std::clamp(stop, limits.start, limits.stop);
-    if (stimulus.start >= stimulus.stop)
-        stimulus.start = limits.start;
+    stimulus.stop = std::clamp(stop, limits.start + smallestSpan, limits.stop);
+    stimulus.start = std::min(stimulus.start, stimulus.stop - smallestSpan);
     return stimulus;
 }
 
-Stimulus withCenter(Stimulus stimulus, double center, const Stimulus &limits)
+Stimulus withCenter(Stimulus stimulus, double center, const Stimulus &limits, double smallestSpan)
 {
-    center = std::clamp(center, limits.start, limits.stop);
+    const double least = smallestSpan / 2.0;
+    center = std::clamp(center, limits.start + least, limits.stop - least);
     const double half =
         std::min({stimulus.span() / 2.0, center - limits.start, limits.stop - center});
-    return {center - half, center + half};
+    return {center - std::max(half, least), center + std::max(half, least)};
 }
 
-Stimulus withSpan(Stimulus stimulus, double span, const Stimulus &limits)
+Stimulus withSpan(Stimulus stimulus, double span, const Stimulus &limits, double smallestSpan)
 {
-    span = std::clamp(span, 0.0, limits.span());
+    span = std::clamp(span, smallestSpan, limits.span());
     const double start =
         std::clamp(stimulus.center() - span / 2.0, limits.start, limits.stop - span);
     return {start, std::min(start + span, limits.stop)};

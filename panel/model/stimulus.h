@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
-    The span of frequencies on show, and how it follows each of the four numbers that describe it.
- */
+    The span of frequencies on show, and how it follows each of the four numbers that describe it. */
 #pragma once
 
 namespace Panel
@@ -23,16 +22,20 @@ struct Stimulus {
     friend bool operator!=(const Stimulus &a, const Stimulus &b) { return !(a == b); }
 };
 
-/// \name One number changed, within the limits of what can be shown
+/// \name One number changed, within the limits of what can be shown and with a smallest span
 ///@{
-/// A start at or beyond the stop moves that to its limit.
-Stimulus withStart(Stimulus stimulus, double start, const Stimulus &limits);
-/// A stop at or below the start moves that to its limit.
-Stimulus withStop(Stimulus stimulus, double stop, const Stimulus &limits);
+/// A start too near to the stop, or beyond it, takes it along.
+Stimulus withStart(Stimulus stimulus, double start, const Stimulus &limits,
+                   double smallestSpan = 0.0);
+/// A stop too near to the start, or below it, takes it along.
+Stimulus withStop(Stimulus stimulus, double stop, const Stimulus &limits,
+                  double smallestSpan = 0.0);
 /// The span stays, or becomes what the limits leave on both sides.
-Stimulus withCenter(Stimulus stimulus, double center, const Stimulus &limits);
+Stimulus withCenter(Stimulus stimulus, double center, const Stimulus &limits,
+                    double smallestSpan = 0.0);
 /// The centre stays, or moves until the span fits.
-Stimulus withSpan(Stimulus stimulus, double span, const Stimulus &limits);
+Stimulus withSpan(Stimulus stimulus, double span, const Stimulus &limits,
+                  double smallestSpan = 0.0);
 ///@}
 
 } // namespace Panel

@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace Panel
@@ -16,27 +18,69 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(Panel::TraceFormat)
 };
 
-} // namespace
+/// In the order of TraceFormat. The magnitude stands for the Smith chart where it has no value of
+/// its own.
+constexpr std::array<FormatTraits, traceFormatCount> s_formats{{
+    {"", 4, 10, {1.0, 1.0}, 0.05, 1.0, 0.02},
+    {"dB", 2, 10, {10.0, 0.0}, 0.01, 100.0, 3.0},
+    {"\u00b0", 1, 8, {45.0, 180.0}, 0.01, 90.0, 10.0},
+    {"", 2, 10, {1.0, 11.0}, 0.01, 100.0, 0.1},
+}};
 
-int divisions(TraceFormat format)
+/// The next division of 1, 2 or 5 times a power of ten that is not below a value above 0.
+double roundedUp(double value)
 {
-    return format == TraceFormat::Phase ? 8 : 10;
+    const double decade = std::pow(10.0, std::floor(std::log10(value)));
+    for (const double step : {1.0, 2.0, 5.0}) {
+        if (value <= step * decade * (1.0 + 1e-9))
+            return step * decade;
+    }
+    return 10.0 * decade;
 }
 
-Scale usualScale(TraceFormat format, double highest)
+} // namespace
+
+const FormatTraits &traits(TraceFormat format)
 {
-    switch (format) {
-    case TraceFormat::Smith:
-        return {1.0, 1.0};
-    case TraceFormat::LogMagnitude:
-        return {10.0,
-                std::isfinite(highest) ? std::ceil(std::fmax(highest, 0.0) / 10.0) * 10.0 : 0.0};
-    case TraceFormat::Phase:
-        return {45.0, 180.0};
-    case TraceFormat::Vswr:
-        return {1.0, 11.0};
-    }
-    return {};
+    return s_formats.at(std::size_t(format));
+}
+
+Scale defaultScale(TraceFormat format, double highest)
+{
+    Scale scale = traits(format).defaultScale;
+    if (format == TraceFormat::LogMagnitude && highest > scale.top && std::isfinite(highest))
+        scale.top = std::ceil(highest / scale.perDivision) * scale.perDivision;
+    return scale;
+}
+
+Scale fittingScale(TraceFormat format, double lowest, double highest)
+{
+    const FormatTraits &row = traits(format);
+    if (!std::isfinite(lowest) || !std::isfinite(highest))
+        return row.defaultScale;
+    // A division of room above and below; the standing wave ratio stands on its 1.
+    const bool standing = format == TraceFormat::Vswr;
+    if (standing)
+        lowest = 1.0;
+    const double needed = (highest - lowest) / (row.divisions - 2);
+    double division =
+        roundedUp(std::clamp(needed, row.smallestDivision, row.largestDivision));
+    if (format == TraceFormat::Phase && division > 20.0)
+        division = division > 45.0 ? 90.0 : 45.0;
+    division = std::min(division, row.largestDivision);
+    if (standing)
+        return {division, 1.0 + row.divisions * division};
+    if (format == TraceFormat::Phase && division >= 45.0)
+        return {division, row.divisions / 2 * division};
+    // In the middle, with the divisions at multiples of themselves.
+    const double top = std::ceil(highest / division - 1e-9);
+    const double used = top - std::floor(lowest / division + 1e-9);
+    return {division, (top + std::floor((row.divisions - used) / 2.0)) * division};
+}
+
+double bottom(TraceFormat format, const Scale &scale)
+{
+    return scale.top - traits(format).divisions * scale.perDivision;
 }
 
 QString formatName(TraceFormat format)
@@ -75,27 +119,20 @@ QString formatName(ReadoutFormat format)
 
 QString formatUnit(TraceFormat format)
 {
-    switch (format) {
-    case TraceFormat::Smith:
-        return QStringLiteral("U");
-    case TraceFormat::LogMagnitude:
-        return QStringLiteral("dB");
-    case TraceFormat::Phase:
-        return QStringLiteral("\u00b0");
-    case TraceFormat::Vswr:
-        break;
-    }
-    return {};
+    return QString::fromUtf8(traits(format).unit);
 }
 
-QString scaleText(TraceFormat format, const Scale &scale)
+QString divisionText(TraceFormat format, double perDivision)
 {
-    const QString number = format == TraceFormat::Smith
-        ? QString::number(scale.perDivision, 'f', 2)
-        : QString::number(scale.perDivision, 'g', 4);
     const QString unit = formatUnit(format);
     const bool close = unit.isEmpty() || format == TraceFormat::Phase;
-    return number + (close ? QString() : QStringLiteral(" ")) + unit + QLatin1Char('/');
+    return QString::number(perDivision, 'g', 4) + (close ? QString() : QStringLiteral(" ")) + unit
+        + QLatin1Char('/');
+}
+
+QString zoomText(double zoom)
+{
+    return QStringLiteral("%1 U/").arg(1.0 / zoom, 0, 'f', 2);
 }
 
 } // namespace Panel

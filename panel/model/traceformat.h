@@ -41,18 +41,36 @@ struct Scale {
     friend bool operator!=(const Scale &a, const Scale &b) { return !(a == b); }
 };
 
-/// How many divisions a Cartesian diagram has from top to bottom.
-int divisions(TraceFormat format);
-/// The scale that a trace of this format begins with; its highest value is needed for decibels.
-Scale usualScale(TraceFormat format, double highest);
+/// What is fixed for a trace format; one row of a table.
+struct FormatTraits {
+    const char *unit; ///< "dB", "°" or nothing
+    int decimals; ///< of a value in a read-out
+    int divisions; ///< of a Cartesian diagram from top to bottom
+    Scale defaultScale;
+    double smallestDivision; ///< that can be set
+    double largestDivision;
+    double peakExcursion; ///< that a peak rises above the points around it, more than noise does
+};
+
+const FormatTraits &traits(TraceFormat format);
+
+/// The scale that a trace of this format begins with; for decibels its highest value decides.
+Scale defaultScale(TraceFormat format, double highest);
+/// A scale at which values from the lowest to the highest fill most of the diagram: divisions of 1,
+/// 2 or 5, and 45 or 90 degrees. The default scale for values that are not finite.
+Scale fittingScale(TraceFormat format, double lowest, double highest);
+/// The value at the diagram's lower edge.
+double bottom(TraceFormat format, const Scale &scale);
 
 /// "LogM": short enough for a list of traces.
 QString formatName(TraceFormat format);
 /// "R + jX".
 QString formatName(ReadoutFormat format);
-/// "dB", "°", "U" of the Smith chart, or nothing.
+/// The unit of a Cartesian diagram's values.
 QString formatUnit(TraceFormat format);
-/// "10 dB/", "1.00 U/": a scale as the list of traces has it.
-QString scaleText(TraceFormat format, const Scale &scale);
+/// "10 dB/": a division as the list of traces has it.
+QString divisionText(TraceFormat format, double perDivision);
+/// "1.00 U/": the division of a Smith chart at a magnification.
+QString zoomText(double zoom);
 
 } // namespace Panel

@@ -23,10 +23,10 @@ void copyPoints(const Network &source, Network &target, int from, int to)
 
 } // namespace
 
-ProgressiveSweep::ProgressiveSweep(SimulatedDevice::Kind kind, const Sweep &sweep, double tuning)
-    : m_kind(kind)
+ProgressiveSweep::ProgressiveSweep(Source source, const Sweep &sweep, double tuning)
+    : m_source(source)
     , m_sweep(sweep)
-    , m_device(kind, sweep, tuning)
+    , m_device(source, sweep, tuning)
     , m_frames{m_device.preview(), m_frames[0]}
 {
 }
@@ -45,7 +45,7 @@ void ProgressiveSweep::advance(int points)
 
 void ProgressiveSweep::setTuning(double tuning)
 {
-    m_device = SimulatedDevice(m_kind, m_sweep, tuning);
+    m_device = SimulatedDevice(m_source, m_sweep, tuning);
     m_position = 0;
 }
 

@@ -15,14 +15,14 @@ namespace Panel
     that the receiver has let go of: a frame costs its new points, whatever the length of the sweep.
 
     \code
-    ProgressiveSweep sweep(SimulatedDevice::Cable, range, SimulatedDevice::usualTuning);
+    ProgressiveSweep sweep(Source::Cable, range, defaultTuning);
     sweep.advance(1601);
     show(sweep.frame(), sweep.progress());
     \endcode */
 class ProgressiveSweep
 {
 public:
-    ProgressiveSweep(SimulatedDevice::Kind kind, const Sweep &sweep, double tuning);
+    ProgressiveSweep(Source source, const Sweep &sweep, double tuning);
 
     /// Measures so many further points, at most to the end of the sweep; after it, the next one
     /// begins.
@@ -36,7 +36,7 @@ public:
     void setTuning(double tuning);
 
 private:
-    SimulatedDevice::Kind m_kind;
+    Source m_source;
     Sweep m_sweep;
     SimulatedDevice m_device;
     Network m_frames[2];

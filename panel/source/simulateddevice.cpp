@@ -4,8 +4,6 @@
 
 #include <samples/circuits.h>
 
-#include <QCoreApplication>
-
 #include <cmath>
 
 namespace Panel
@@ -13,10 +11,6 @@ namespace Panel
 
 namespace
 {
-
-struct Text {
-    Q_DECLARE_TR_FUNCTIONS(Panel::SimulatedDevice)
-};
 
 constexpr double s_pi = 3.14159265358979323846;
 /// The circuit drifts to and fro once in so many moments.
@@ -46,10 +40,11 @@ struct Noise {
 
 } // namespace
 
-SimulatedDevice::SimulatedDevice(Kind kind, const Sweep &sweep, double tuning)
-    : m_kind(kind)
+SimulatedDevice::SimulatedDevice(Source source, const Sweep &sweep, double tuning)
+    : m_source(source)
     , m_tuning(tuning)
-    , m_margin(qMax(1, sweep.points / s_driftShare))
+    , m_drift(double(sweep.points) / s_driftShare)
+    , m_margin(int(std::ceil(m_drift)))
     , m_total(sweep.points + 2 * m_margin + 1)
     , m_step((sweep.stop - sweep.start) / (sweep.points - 1))
 {
@@ -58,59 +53,33 @@ SimulatedDevice::SimulatedDevice(Kind kind, const Sweep &sweep, double tuning)
     for (int i = 0; i < sweep.points; ++i)
         m_frequencies[i] = sweep.start + i * m_step;
     m_frequencies.last() = sweep.stop;
-    m_circuit.resize(kind == Filter ? 4 : 1);
+    m_circuit.resize(source == Source::Filter ? 4 : 1);
     for (Parameter &parameter : m_circuit) {
         parameter.real.resize(m_total);
         parameter.imag.resize(m_total);
     }
 }
 
-QString SimulatedDevice::name(Kind kind)
+double SimulatedDevice::noise(Source source)
 {
-    switch (kind) {
-    case Antenna:
-        return Text::tr("Antenna");
-    case Filter:
-        return Text::tr("Filter");
-    case Cable:
-        break;
-    }
-    return Text::tr("Long cable");
-}
-
-Sweep SimulatedDevice::usualSweep(Kind kind, int points)
-{
-    switch (kind) {
-    case Antenna:
-        return {1.8e9, 6.6e9, points};
-    case Filter:
-        return {2.3e9, 2.6e9, points};
-    case Cable:
-        break;
-    }
-    return {10e6, 1.5e9, points};
-}
-
-double SimulatedDevice::noise(Kind kind)
-{
-    return kind == Cable ? 0.012 : 1e-4;
+    return source == Source::Cable ? 0.012 : 1e-4;
 }
 
 SimulatedDevice::Values SimulatedDevice::circuitAt(double hertz) const
 {
     const double omega = 2.0 * s_pi * qMax(s_lowestHertz, hertz);
-    if (m_kind == Filter) {
+    if (m_source == Source::Filter) {
         const Circuits::Matrix s = Circuits::bandPass(omega);
         return {s.a, s.c, s.b, s.d};
     }
-    return {m_kind == Cable ? Circuits::openCable(omega) : Circuits::antenna(omega, m_tuning)};
+    return {m_source == Source::Cable ? Circuits::openCable(omega) : Circuits::antenna(omega, m_tuning)};
 }
 
 Network SimulatedDevice::preview() const
 {
     Network network;
-    network.name = name(m_kind);
-    network.ports = m_kind == Filter ? 2 : 1;
+    network.name = sourceName(m_source);
+    network.ports = m_source == Source::Filter ? 2 : 1;
     network.frequencies = m_frequencies;
     const QVector<double> values(points());
     network.parameters.fill({values, values}, int(m_circuit.size()));
@@ -154,11 +123,11 @@ void SimulatedDevice::measure(Network &network, int from, int to, quint64 moment
     // Between two passive points, and with its gain reduced by the noise, a passive circuit stays
     // passive.
     const double phase = double(moment % s_driftMoments) / s_driftMoments;
-    const double shift = m_margin * (1.0 + std::sin(2.0 * s_pi * phase));
+    const double shift = m_margin + m_drift * std::sin(2.0 * s_pi * phase);
     const int first = int(shift);
     const double t = shift - first;
-    const double gain = 1.0 - noise(m_kind);
-    const double amplitude = noise(m_kind) / std::sqrt(2.0);
+    const double gain = 1.0 - noise(m_source);
+    const double amplitude = noise(m_source) / std::sqrt(2.0);
     prepare(to + first + 1);
     Noise random{0x9e3779b97f4a7c15ULL * (2 * moment + 1)};
     double x = 0.0, y = 0.0;

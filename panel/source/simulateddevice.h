@@ -3,7 +3,7 @@
 #pragma once
 
 #include <panel/model/network.h>
-#include <panel/model/sweep.h>
+#include <panel/model/source.h>
 
 #include <array>
 #include <complex>
@@ -18,7 +18,7 @@ namespace Panel
    few nanoseconds. No thread is needed, and any one may be used.
 
     \code
-    SimulatedDevice device(SimulatedDevice::Filter, sweep);
+    SimulatedDevice device(Source::Filter, sweep);
     Network network = device.preview();
     device.measure(network, 0, sweep.points, 0);
     model.setNetworks({network});
@@ -26,26 +26,11 @@ namespace Panel
 class SimulatedDevice
 {
 public:
-    enum Kind {
-        Antenna, ///< one port; can be tuned
-        Filter, ///< two ports
-        Cable, ///< one port; open at the far end, with much noise
-    };
+    /// The source must be a simulated one. Others than the antenna ignore the tuning.
+    SimulatedDevice(Source source, const Sweep &sweep, double tuning = defaultTuning);
 
-    /// What an antenna's lower resonance can be tuned to, in Hz: both stay in its usual sweep.
-    static constexpr double lowestTuning = 2.0e9;
-    static constexpr double highestTuning = 2.9e9;
-    static constexpr double usualTuning = 2.45e9;
-
-    /// Other devices than the antenna ignore the tuning.
-    SimulatedDevice(Kind kind, const Sweep &sweep, double tuning = usualTuning);
-
-    /// What the panel calls it.
-    static QString name(Kind kind);
-    /// The frequencies at which there is something to see, with so many points.
-    static Sweep usualSweep(Kind kind, int points);
     /// What the noise cannot exceed, as a share of a full reflection.
-    static double noise(Kind kind);
+    static double noise(Source source);
 
     int points() const { return int(m_frequencies.size()); }
     /// What a quick look finds: measured at some points only, and straight lines between them.
@@ -60,10 +45,11 @@ private:
     Values circuitAt(double hertz) const;
     void prepare(int points);
 
-    Kind m_kind;
+    Source m_source;
     double m_tuning;
     /// How far the circuit drifts each way, in points of the sweep.
-    int m_margin;
+    double m_drift;
+    int m_margin; ///< whole points that the drift needs beyond each end
     int m_total;
     int m_prepared = 0;
     double m_start;

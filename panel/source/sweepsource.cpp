@@ -4,8 +4,6 @@
 
 #include <QPointer>
 
-#include <atomic>
-
 namespace Panel
 {
 
@@ -13,45 +11,28 @@ namespace
 {
 
 /// A frame that comes late has more points, but never so many that it takes long itself.
-constexpr qint64 s_mostPoints = qint64(10) * SweepSource::leastPoints;
+constexpr qint64 s_mostPoints = qint64(10) * SweepSource::fewestPoints;
 
 } // namespace
 
-/// A device on its way through the thread. The thread alone touches the measurement.
-struct SweepSource::Job {
-    std::unique_ptr<ProgressiveSweep> measurement;
-    std::atomic_bool cancelled{false};
-};
-
 SweepSource::SweepSource(QObject *parent)
     : QObject(parent)
-    , m_worker(new QObject)
+    , m_worker(QStringLiteral("sweep"))
 {
-    m_worker->moveToThread(&m_thread);
-    connect(&m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
     m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(frameInterval);
     connect(&m_timer, &QTimer::timeout, this, &SweepSource::deliver);
-    m_thread.setObjectName(QStringLiteral("sweep"));
-    m_thread.start();
 }
 
-SweepSource::~SweepSource()
+void SweepSource::start(Source source, const Sweep &sweep, double tuning)
 {
     stop();
-    m_thread.quit();
-    m_thread.wait();
-}
-
-void SweepSource::start(SimulatedDevice::Kind kind, const Sweep &sweep)
-{
-    stop();
-    m_job = std::make_shared<Job>();
-    const auto work = [job = m_job, kind, sweep, tuning = m_tuning] {
-        if (!job->cancelled)
-            job->measurement = std::make_unique<ProgressiveSweep>(kind, sweep, tuning);
-    };
-    QMetaObject::invokeMethod(m_worker, work, Qt::QueuedConnection);
+    ++m_start;
+    m_worker.begin();
+    m_measurement = std::make_shared<std::unique_ptr<ProgressiveSweep>>();
+    m_worker.post([measurement = m_measurement, source, sweep, tuning](const Worker::Job &) {
+        *measurement = std::make_unique<ProgressiveSweep>(source, sweep, tuning);
+    });
     m_first = true;
     m_clock.start();
     requestFrame();
@@ -62,9 +43,8 @@ void SweepSource::stop()
 {
     m_timer.stop();
     m_frame.reset();
-    if (m_job)
-        m_job->cancelled = true;
-    m_job.reset();
+    m_worker.cancel();
+    m_measurement.reset();
 }
 
 void SweepSource::setHeld(bool held)
@@ -76,32 +56,21 @@ void SweepSource::setHeld(bool held)
 
 void SweepSource::setTuning(double tuning)
 {
-    m_tuning = qBound(SimulatedDevice::lowestTuning, tuning, SimulatedDevice::highestTuning);
-    if (!m_job)
-        return;
-    const auto work = [job = m_job, tuning = m_tuning] {
-        if (!job->cancelled)
-            job->measurement->setTuning(tuning);
-    };
-    QMetaObject::invokeMethod(m_worker, work, Qt::QueuedConnection);
+    m_worker.post([measurement = m_measurement, tuning](const Worker::Job &) {
+        (*measurement)->setTuning(tuning);
+    });
 }
 
 void SweepSource::requestFrame()
 {
     const qint64 due = 1000 * m_clock.restart() / pointMicroseconds;
-    const int points = int(qBound<qint64>(leastPoints, due, s_mostPoints));
-    const auto work = [this, job = m_job, points] {
-        if (job->cancelled)
-            return;
-        job->measurement->advance(points);
-        const Frame frame{job->measurement->frame(), job->measurement->progress()};
-        const auto receive = [this, job, frame] {
-            if (job == m_job)
-                m_frame = std::make_unique<Frame>(frame);
-        };
-        QMetaObject::invokeMethod(this, receive, Qt::QueuedConnection);
-    };
-    QMetaObject::invokeMethod(m_worker, work, Qt::QueuedConnection);
+    const int points = int(qBound<qint64>(fewestPoints, due, s_mostPoints));
+    m_worker.post([this, measurement = m_measurement, points](const Worker::Job &job) {
+        ProgressiveSweep &sweep = **measurement;
+        sweep.advance(points);
+        const Frame frame{sweep.frame(), sweep.progress()};
+        job.tell([this, frame] { m_frame = std::make_unique<Frame>(frame); });
+    });
 }
 
 void SweepSource::deliver()
@@ -111,13 +80,13 @@ void SweepSource::deliver()
         return;
     m_first = false;
     const QPointer<SweepSource> alive(this);
-    const auto job = m_job;
+    const quint64 start = m_start;
     {
         const auto frame = std::move(m_frame);
         Q_EMIT swept(frame->network, frame->progress);
     }
     // Asked for only now that the receiver has let go of the frame before, which is written to.
-    if (alive && job == m_job)
+    if (alive && start == m_start && isRunning())
         requestFrame();
 }
 

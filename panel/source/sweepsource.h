@@ -4,9 +4,9 @@
 
 #include "progressivesweep.h"
 
+#include <panel/ground/worker.h>
+
 #include <QElapsedTimer>
-#include <QObject>
-#include <QThread>
 #include <QTimer>
 
 #include <memory>
@@ -25,7 +25,7 @@ namespace Panel
     \code
     SweepSource source;
     connect(&source, &SweepSource::swept, this, [this](const Network &frame) { ... });
-    source.start(SimulatedDevice::Antenna, sweep);
+    source.start(Source::Antenna, sweep, defaultTuning);
     \endcode */
 class SweepSource : public QObject
 {
@@ -37,23 +37,22 @@ public:
     /// Time that a point takes to measure, in microseconds.
     static constexpr int pointMicroseconds = 10;
     /// Points that a frame has in any case.
-    static constexpr int leastPoints = 1601;
+    static constexpr int fewestPoints = 1601;
 
     explicit SweepSource(QObject *parent = nullptr);
-    ~SweepSource() override;
 
-    /// Sweeps this device from now on. Frames of what ran before do not come any more.
-    void start(SimulatedDevice::Kind kind, const Sweep &sweep);
+    /// Sweeps this device, tuned to so many Hz, from now on. Frames of what ran before do not come
+    /// any more.
+    void start(Source source, const Sweep &sweep, double tuning);
     void stop();
-    bool isRunning() const { return m_job != nullptr; }
+    bool isRunning() const { return m_worker.isBusy(); }
 
     /// Stays with the last frame while held, in the middle of a sweep too; a start while held gives
     /// one frame.
     void setHeld(bool held);
     bool isHeld() const { return m_held; }
 
-    /// What the antenna is tuned to, in Hz. A sweep in progress begins anew.
-    double tuning() const { return m_tuning; }
+    /// Tunes the antenna to so many Hz; a sweep in progress begins anew.
     void setTuning(double tuning);
 
 Q_SIGNALS:
@@ -61,7 +60,6 @@ Q_SIGNALS:
     void swept(const Panel::Network &frame, double progress);
 
 private:
-    struct Job;
     struct Frame {
         Network network;
         double progress;
@@ -70,13 +68,13 @@ private:
     void requestFrame();
     void deliver();
 
-    QThread m_thread;
-    QObject *m_worker; ///< lives in the thread, and is deleted as it ends
+    Worker m_worker;
     QTimer m_timer;
     QElapsedTimer m_clock; ///< since the last frame was asked for
-    std::shared_ptr<Job> m_job; ///< null while stopped
+    /// Of the present job; the thread alone touches it once it runs.
+    std::shared_ptr<std::unique_ptr<ProgressiveSweep>> m_measurement;
     std::unique_ptr<Frame> m_frame; ///< computed and not yet handed out
-    double m_tuning = SimulatedDevice::usualTuning;
+    quint64 m_start = 0; ///< counts the starts
     bool m_first = false; ///< nothing has been handed out since the start
     bool m_held = false;
 };

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commandline.h"
 
-#include "languages.h"
+#include <panel/ground/languages.h>
 
+#include <QCommandLineParser>
 #include <QRegularExpression>
 
 namespace Panel
@@ -15,6 +16,42 @@ namespace
 constexpr QSize s_smallest(800, 480);
 constexpr QSize s_largest(7680, 4320);
 
+QString literal(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        literal("Shows Touchstone files (.s1p, .s2p, .ts) on Smith charts and over the frequency.\n"
+                "Without files it shows those of the last time, or a sample.\n"
+                "\n"
+                "Exit status: 0 if all went well, 1 if a file could not be read or written,\n"
+                "2 if the command line was wrong."));
+    parser.addPositionalArgument(literal("files"), literal("Touchstone files to open."),
+                                 literal("[files...]"));
+    const auto add = [&parser](const QStringList &names, const char *text, const char *value = "") {
+        parser.addOption({names, literal(text), literal(value)});
+    };
+    add({literal("grab")}, "Write a PNG of each screen to DIR and quit; needs no display.", "DIR");
+    add({literal("size")}, "Size of the window in pixels, at least 800x480 (default 1280x800).",
+        "WxH");
+    add({literal("scale")}, "Device pixels for each of these pixels, 1 to 4 (default 1).", "F");
+    add({literal("lang")}, "en, de or zh_CN (default: as it was left).", "CODE");
+    add({literal("state")}, "Keep the panel's state in FILE.", "FILE");
+    add({literal("save")},
+        "Convert one file to OUT, as Touchstone or CSV by its extension, and quit; needs no display.",
+        "OUT");
+    add({literal("touchstone-version")}, "Save as Touchstone 1 or 2 (default: as it needs).", "N");
+    add({literal("overwrite")}, "Save over a file that is newer, too.");
+    add({literal("simulate")}, "Measure a simulated device live.");
+    add({literal("exit-when-shown")},
+        "Quit at the first picture and print the peak memory, to time the start.");
+    add({literal("h"), literal("help")}, "Show this text and quit.");
+    add({literal("version")}, "Show the version and quit.");
+}
+
 bool parseSize(const QString &text, QSize &size)
 {
     static const QRegularExpression form(QStringLiteral("^(\\d{1,5})[xX](\\d{1,5})$"));
@@ -24,101 +61,68 @@ bool parseSize(const QString &text, QSize &size)
         && size.expandedTo(s_smallest) == size;
 }
 
+/// The sentence that says why a value cannot be taken; empty if all can.
+QString readValues(const QCommandLineParser &parser, CommandLine &result)
+{
+    for (const QString &name : parser.optionNames()) {
+        if (parser.isSet(name) && !parser.values(name).isEmpty() && parser.value(name).isEmpty())
+            return literal("--%1 needs a value.").arg(name);
+    }
+    const QString size = parser.value(literal("size"));
+    if (parser.isSet(literal("size")) && !parseSize(size, result.size))
+        return literal("--size wants WIDTHxHEIGHT from 800x480 to 7680x4320, not \"%1\".").arg(size);
+    if (parser.isSet(literal("scale"))) {
+        bool ok = false;
+        const QString scale = parser.value(literal("scale"));
+        result.scale = scale.toDouble(&ok);
+        if (!ok || !(result.scale >= 1.0 && result.scale <= 4.0))
+            return literal("--scale wants a number from 1 to 4, not \"%1\".").arg(scale);
+    }
+    result.saveFile = parser.value(literal("save"));
+    if (parser.isSet(literal("save")) && parser.positionalArguments().size() != 1)
+        return literal("--save wants one file to read.");
+    const QString version = parser.value(literal("touchstone-version"));
+    result.touchstoneVersion = version.toInt();
+    if (parser.isSet(literal("touchstone-version")) && version != QLatin1String("1")
+        && version != QLatin1String("2"))
+        return literal("--touchstone-version wants 1 or 2, not \"%1\".").arg(version);
+    result.overwrite = parser.isSet(literal("overwrite"));
+    result.language = parser.value(literal("lang"));
+    if (parser.isSet(literal("lang")) && !isLanguage(result.language))
+        return literal("--lang wants en, de or zh_CN, not \"%1\".").arg(result.language);
+    return {};
+}
+
 } // namespace
 
 CommandLine parseCommandLine(const QStringList &arguments)
 {
+    QCommandLineParser parser;
+    addOptions(parser);
     CommandLine result;
-    bool options = true;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QString &argument = arguments.at(i);
-        if (!options || !argument.startsWith(QLatin1Char('-')) || argument.size() == 1) {
-            result.files << argument;
-            continue;
-        }
-        if (argument == QLatin1String("--")) {
-            options = false;
-            continue;
-        }
-        const int equals = int(argument.indexOf(QLatin1Char('=')));
-        const QString name = argument.left(equals);
-        static const QStringList valued{QStringLiteral("--grab"), QStringLiteral("--size"),
-                                        QStringLiteral("--scale"), QStringLiteral("--lang"),
-                                        QStringLiteral("--state")};
-        const bool takesValue = valued.contains(name);
-        QString value = equals < 0 ? QString() : argument.mid(equals + 1);
-        if (takesValue && equals < 0 && i + 1 < arguments.size())
-            value = arguments.at(++i);
-        if (takesValue ? value.isEmpty() : equals >= 0) {
-            result.error = takesValue ? QStringLiteral("%1 needs a value.").arg(name)
-                                      : QStringLiteral("%1 takes no value.").arg(name);
-            return result;
-        }
-        if (name == QLatin1String("--grab")) {
-            result.grabFolder = value;
-        } else if (name == QLatin1String("--size")) {
-            if (!parseSize(value, result.size)) {
-                result.error =
-                    QStringLiteral(
-                        "--size wants WIDTHxHEIGHT from 800x480 to 7680x4320, not \"%1\".")
-                        .arg(value);
-                return result;
-            }
-        } else if (name == QLatin1String("--scale")) {
-            bool ok = false;
-            result.scale = value.toDouble(&ok);
-            if (!ok || !(result.scale >= 1.0 && result.scale <= 4.0)) {
-                result.error =
-                    QStringLiteral("--scale wants a number from 1 to 4, not \"%1\".").arg(value);
-                return result;
-            }
-        } else if (name == QLatin1String("--lang")) {
-            result.language = value;
-            if (!isLanguage(value)) {
-                result.error =
-                    QStringLiteral("--lang wants en, de or zh_CN, not \"%1\".").arg(value);
-                return result;
-            }
-        } else if (name == QLatin1String("--state")) {
-            result.stateFile = value;
-        } else if (name == QLatin1String("--simulate")) {
-            result.simulate = true;
-        } else if (name == QLatin1String("--exit-when-shown")) {
-            result.exitWhenShown = true;
-        } else if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
-            result.help = true;
-        } else if (name == QLatin1String("--version")) {
-            result.version = true;
-        } else {
-            result.error = QStringLiteral("There is no option %1.").arg(name);
-            return result;
-        }
+    // The parser takes the first one for the program's name.
+    if (!parser.parse(QStringList{QString()} + arguments)) {
+        result.error = parser.errorText();
+        if (!result.error.endsWith(QLatin1Char('.')))
+            result.error += QLatin1Char('.');
+        return result;
     }
+    result.error = readValues(parser, result);
+    result.files = parser.positionalArguments();
+    result.grabFolder = parser.value(literal("grab"));
+    result.stateFile = parser.value(literal("state"));
+    result.simulate = parser.isSet(literal("simulate"));
+    result.exitWhenShown = parser.isSet(literal("exit-when-shown"));
+    result.help = parser.isSet(literal("help"));
+    result.version = parser.isSet(literal("version"));
     return result;
 }
 
 QString helpText()
 {
-    return QStringLiteral(
-        "Usage: vnapanel [options] [files]\n"
-        "\n"
-        "Shows Touchstone files (.s1p, .s2p) on Smith charts and over the frequency.\n"
-        "Without files it shows those of the last time, or a sample.\n"
-        "\n"
-        "Options:\n"
-        "  --grab DIR   write a PNG of each screen to DIR and quit; needs no display\n"
-        "  --size WxH   size of the window in pixels, at least 800x480 (default 1280x800)\n"
-        "  --scale F    device pixels for each of these pixels, 1 to 4 (default 1)\n"
-        "  --lang CODE  en, de or zh_CN (default: as it was left)\n"
-        "  --state FILE keep the panel's state there\n"
-        "  --simulate   measure a simulated device live\n"
-        "  --exit-when-shown\n"
-        "               quit at the first picture and print the peak memory, to time the start\n"
-        "  --help       show this text and quit\n"
-        "  --version    show the version and quit\n"
-        "\n"
-        "Exit status: 0 if all went well, 1 if a file could not be read or written,\n"
-        "2 if the command line was wrong.\n");
+    QCommandLineParser parser;
+    addOptions(parser);
+    return parser.helpText();
 }
 
 } // namespace Panel

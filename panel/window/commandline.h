@@ -15,7 +15,10 @@ struct CommandLine {
     QSize size = QSize(1280, 800);
     double scale = 1.0; ///< device pixels for each pixel of the size
     QString language; ///< code, or empty: as it was left
-    QString stateFile; ///< empty: the usual place
+    QString stateFile; ///< empty: the default place
+    QString saveFile; ///< convert the file to this one; empty: show the window
+    int touchstoneVersion = 0; ///< 1 or 2; 0: as the file needs
+    bool overwrite = false; ///< save over a newer file, too
     bool simulate = false;
     bool exitWhenShown = false; ///< for timing the start
     bool help = false;
@@ -26,7 +29,7 @@ struct CommandLine {
 /// Reads the arguments that follow the program's name.
 CommandLine parseCommandLine(const QStringList &arguments);
 
-/// The text of --help.
+/// The text of --help; an application object has to exist.
 QString helpText();
 
 } // namespace Panel

@@ -3,8 +3,8 @@
 #include "filedialog.h"
 
 #include <panel/files/samples.h>
-#include <panel/look/elidedlabel.h>
-#include <panel/look/icons.h>
+#include <panel/ground/elidedlabel.h>
+#include <panel/ground/icons.h>
 
 #include <QDir>
 #include <QListWidget>
@@ -93,9 +93,9 @@ void FileDialog::setFolder(const QString &folder)
     m_list->clear();
     const QFileInfoList folders =
         dir.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
-    const QFileInfoList files =
-        dir.entryInfoList({QStringLiteral("*.s1p"), QStringLiteral("*.s2p")}, QDir::Files,
-                          QDir::Name | QDir::IgnoreCase);
+    const QFileInfoList files = dir.entryInfoList(
+        {QStringLiteral("*.s?p"), QStringLiteral("*.s??p"), QStringLiteral("*.ts")}, QDir::Files,
+        QDir::Name | QDir::IgnoreCase);
     for (const QFileInfo &info : folders + files) {
         const QString text = info.isDir()
             ? info.fileName()
@@ -150,7 +150,7 @@ void FileDialog::updateButtons()
     if (picked > 0)
         m_hint->setText(tr("Picked: %n", nullptr, picked));
     else if (m_list->count() == 0)
-        m_hint->setText(QFileInfo(m_folder).isReadable() ? tr("No .s1p or .s2p files here")
+        m_hint->setText(QFileInfo(m_folder).isReadable() ? tr("No Touchstone files here")
                                                          : tr("This folder cannot be read"));
     else
         m_hint->setText(tr("Tap files to pick them"));

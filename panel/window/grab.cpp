@@ -4,10 +4,9 @@
 
 #include "filedialog.h"
 #include "helpdialog.h"
-#include "languages.h"
 #include "messagebar.h"
+#include "panellock.h"
 #include "panelwindow.h"
-#include "screenshot.h"
 #include "settingsdialog.h"
 #include <panel/diagrams/diagrams.h>
 #include <panel/diagrams/diagramview.h>
@@ -16,7 +15,7 @@
 #include <panel/entry/softkey.h>
 #include <panel/entry/softkeymenu.h>
 #include <panel/files/samples.h>
-#include <panel/files/touchstone.h>
+#include <panel/touchstone/touchstone.h>
 #include <panel/model/panelmodel.h>
 
 #include <controls/thememanager.h>
@@ -145,9 +144,9 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     settings->setDensity(SmithChart::Detailed);
     grabber.grab("smith-detailed");
     settings->setDensity(SmithChart::Standard);
-    window->smithView()->setZoom(4.0);
+    model->setZoom(window->smithView()->id(), {4.0, 0.0, 0.0});
     grabber.grab("smith-zoomed");
-    window->smithView()->resetView();
+    model->setZoom(window->smithView()->id(), Zoom());
     layout->setLayoutType(Graph::LayoutType::SideBySide);
 
     const QString message = window->messageBar()->message();
@@ -157,13 +156,13 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     window->messageBar()->setMessage(message);
 
     const QVector<Network> networks = model->networks();
-    model->setNetworks({});
+    model->openNetworks({});
     grabber.grab("empty");
-    model->setNetworks(networks);
+    model->openNetworks(networks);
 
-    window->lockButton()->setChecked(true);
+    window->lock()->setLocked(true);
     grabber.grab("locked");
-    window->lockButton()->setChecked(false);
+    window->lock()->setLocked(false);
 
     const auto grabDialog = [&](QDialog *dialog, const char *name) {
         dialog->setAttribute(Qt::WA_DontShowOnScreen);
@@ -175,8 +174,6 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     files.resize(600, 440);
     grabDialog(&files, "file-dialog");
     SettingsDialog settingsDialog(model, window);
-    settingsDialog.setLanguage(currentLanguage());
-    settingsDialog.setScreenshotFolder(screenshotFolder());
     grabDialog(&settingsDialog, "settings");
     HelpDialog help(window);
     grabDialog(&help, "help");

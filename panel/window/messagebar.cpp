@@ -2,18 +2,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messagebar.h"
 
-#include <panel/look/icons.h>
+#include <panel/ground/icons.h>
 
 #include <controls/thememanager.h>
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QStyle>
 #include <QToolButton>
+#include <QVariant>
 
 namespace Panel
 {
+
+namespace
+{
+
+constexpr int s_mostWidth = 720;
+constexpr int s_margin = 12;
+
+} // namespace
 
 MessageBar::MessageBar(QWidget *parent)
     : QFrame(parent)
@@ -28,7 +39,6 @@ MessageBar::MessageBar(QWidget *parent)
     m_label->setWordWrap(true);
     // What a file is called must not become markup.
     m_label->setTextFormat(Qt::PlainText);
-    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->addWidget(m_label, 1);
 
     m_progress->setTextVisible(false);
@@ -48,6 +58,10 @@ MessageBar::MessageBar(QWidget *parent)
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, m_close,
             recolor);
     recolor();
+    m_leave.setSingleShot(true);
+    m_leave.setInterval(noticeTime);
+    connect(&m_leave, &QTimer::timeout, this, [this] { setMessage(QString()); });
+    parent->installEventFilter(this);
     setMessage(QString());
 }
 
@@ -63,13 +77,59 @@ bool MessageBar::showsProgress() const
 
 void MessageBar::setMessage(const QString &message)
 {
+    showText(message, false);
+}
+
+void MessageBar::notify(const QString &notice)
+{
+    const bool asks = isVisible() && !m_action->isHidden();
+    if (!asks && (isNotice() || isHidden() || !notice.isEmpty()))
+        showText(notice, !notice.isEmpty());
+}
+
+void MessageBar::showText(const QString &message, bool notice)
+{
     disconnect(m_answer);
     m_action->hide();
     m_progress->hide();
     m_close->show();
     m_label->setText(message);
     setAccessibleName(message);
+    if (notice)
+        m_leave.start();
+    else
+        m_leave.stop();
+    setProperty("notice", notice);
+    style()->polish(this);
     setVisible(!message.isEmpty());
+    place();
+}
+
+/// Lies in the middle above the lower edge of the parent, as wide as its text asks for.
+void MessageBar::place()
+{
+    if (isHidden())
+        return;
+    const int room = qMin(s_mostWidth, parentWidget()->width() - 2 * s_margin);
+    // The text alone decides, and breaks where there is no room for a line.
+    const QFontMetrics metrics = m_label->fontMetrics();
+    int text = 0;
+    for (const QString &line : m_label->text().split(QLatin1Char('\n')))
+        text = qMax(text, metrics.horizontalAdvance(line) + 8);
+    m_label->setMinimumWidth(0);
+    const int others = sizeHint().width() - m_label->sizeHint().width();
+    const int width = qBound(240, text + others, qMax(240, room));
+    const int height = qMax(heightForWidth(width), minimumSizeHint().height());
+    setGeometry((parentWidget()->width() - width) / 2, parentWidget()->height() - height - s_margin,
+                width, height);
+    raise();
+}
+
+bool MessageBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parent() && event->type() == QEvent::Resize)
+        place();
+    return QFrame::eventFilter(watched, event);
 }
 
 void MessageBar::offer(const QString &message, const QString &action, const QObject *context,
@@ -78,6 +138,7 @@ void MessageBar::offer(const QString &message, const QString &action, const QObj
     setMessage(message);
     m_action->setText(action);
     m_action->show();
+    place();
     // The call may replace this answer by another.
     m_answer = connect(m_action, &QPushButton::clicked, context, [this, answer] {
         const auto call = answer;
@@ -97,6 +158,7 @@ void MessageBar::showProgress(const QString &message, int percent, const QString
     m_progress->setAccessibleName(message);
     m_progress->show();
     m_close->hide();
+    place();
 }
 
 } // namespace Panel

@@ -2,26 +2,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panelcontroller.h"
 
+#include "filedialog.h"
 #include "helpdialog.h"
-#include "languages.h"
 #include "messagebar.h"
 #include "panelwindow.h"
 #include "screenshot.h"
 #include "settingsdialog.h"
 #include "sweepbar.h"
 #include "timingline.h"
-#include <panel/entry/diagramcontroller.h>
+
+#include <panel/entry/displaykeys.h>
 #include <panel/entry/markercontroller.h>
 #include <panel/entry/numerickeys.h>
 #include <panel/entry/softkey.h>
 #include <panel/entry/softkeymenu.h>
+#include <panel/entry/sourcekeys.h>
 #include <panel/entry/tracecontroller.h>
 #include <panel/files/filecontroller.h>
+#include <panel/ground/languages.h>
 #include <panel/model/panelmodel.h>
 #include <panel/source/sweepcontroller.h>
 
 #include <controls/thememanager.h>
-#include <widgets/lockwidget.h>
 #include <widgets/switchbutton.h>
 
 #include <QDir>
@@ -35,18 +37,27 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     : QObject(parent)
     , m_model(model)
     , m_window(window)
-    , m_sweeps(new SweepController(model, window, this))
-    , m_files(new FileController(model, window, this))
-    , m_screenshotFolder(Panel::screenshotFolder())
-    , m_language(currentLanguage())
+    , m_files(new FileController(model, this))
 {
-    auto *numbers = new NumericKeys(model, window, m_sweeps, this);
-    new DiagramController(model, window, this);
-    new TraceController(model, window, numbers, this);
-    new MarkerController(model, window, numbers, this);
+    makeEntry();
     connectKeys();
+    connectFiles();
     connectSweep();
     addShortcuts();
+}
+
+void PanelController::makeEntry()
+{
+    const PanelKeys &keys = m_window->keys();
+    MessageBar *bar = m_window->messageBar();
+    auto *numbers = new NumericKeys(m_model, keys, m_window, this);
+    connect(numbers, &NumericKeys::said, bar, &MessageBar::notify);
+    new DisplayKeys(m_model, keys, this);
+    new TraceController(m_model, keys, m_window->traceBar(), numbers, m_window, this);
+    auto *markers = new MarkerController(m_model, keys, this);
+    connect(markers, &MarkerController::said, bar, &MessageBar::notify);
+    auto *sources = new SourceKeys(m_model, keys, this);
+    connect(sources, &SourceKeys::fileRequested, this, &PanelController::showFileDialog);
 }
 
 void PanelController::connectKeys()
@@ -67,16 +78,37 @@ void PanelController::connectKeys()
             &Controls::ThemeManager::toggleTheme);
     connect(m_window->screenshotButton(), &QAbstractButton::clicked, this,
             &PanelController::takeScreenshot);
-    connect(m_window->lockButton(), &QAbstractButton::toggled, this,
-            &PanelController::setLockShown);
+    connect(m_model->preferences(), &Preferences::changed, this, [this] {
+        const QString wanted = m_model->preferences()->language();
+        if (!wanted.isEmpty() && wanted != currentLanguage())
+            m_window->messageBar()->notify(
+                tr("The language changes with the next start of the panel."));
+    });
+}
+
+void PanelController::connectFiles()
+{
+    MessageBar *bar = m_window->messageBar();
+    connect(m_window, &PanelWindow::filesDropped, m_files, &FileController::loadFiles);
+    connect(m_files, &FileController::reported, bar, &MessageBar::setMessage);
+    connect(m_files, &FileController::changesFound, this,
+            [this, bar](const QString &sentences, const QStringList &paths) {
+                bar->offer(sentences, tr("Reload"), m_files,
+                           [this, paths] { m_files->reloadFiles(paths); });
+            });
+    connect(m_files, &FileController::progressed, this,
+            [this, bar](const QString &sentence, int percent) {
+                bar->showProgress(sentence, percent, tr("Cancel"), m_files,
+                                  [this] { m_files->cancel(); });
+            });
 }
 
 void PanelController::connectSweep()
 {
-    connect(m_sweeps, &SweepController::fileRequested, this, &PanelController::showFileDialog);
-    connect(m_sweeps, &SweepController::progressed, m_window->sweepBar(), &SweepBar::setProgress);
-    connect(m_sweeps, &SweepController::sweepCompleted, m_window->sweepBar(),
-            &SweepBar::countSweep);
+    auto *sweeps = new SweepController(m_model, this);
+    connect(sweeps, &SweepController::progressed, m_window->sweepBar(), &SweepBar::setProgress);
+    connect(sweeps, &SweepController::sweepCompleted, m_window->sweepBar(), &SweepBar::countSweep);
+    connect(sweeps, &SweepController::sweepCompleted, this, &PanelController::sweepCompleted);
 }
 
 void PanelController::addShortcuts()
@@ -99,30 +131,24 @@ void PanelController::addShortcuts()
         [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); });
 }
 
-bool PanelController::openFiles(const QStringList &paths)
-{
-    return m_files->openFiles(paths);
-}
-
 void PanelController::showFileDialog()
 {
-    m_files->showFileDialog();
+    auto *dialog = new FileDialog(m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFolder(m_dialogFolder.isEmpty() ? m_files->folder() : m_dialogFolder);
+    const QSize room = m_window->size() - QSize(80, 40);
+    dialog->resize(QSize(640, 560).boundedTo(room));
+    connect(dialog, &QDialog::accepted, m_files,
+            [this, dialog] { m_files->loadFiles(dialog->pickedFiles()); });
+    connect(dialog, &QDialog::finished, this,
+            [this, dialog] { m_dialogFolder = dialog->folder(); });
+    dialog->open();
 }
 
 void PanelController::showSettings()
 {
     auto *dialog = new SettingsDialog(m_model, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setLanguage(m_language);
-    connect(dialog, &SettingsDialog::languagePicked, this, [this](const QString &code) {
-        m_language = code;
-        if (code != currentLanguage())
-            m_window->messageBar()->setMessage(
-                tr("The language changes with the next start of the panel."));
-    });
-    dialog->setScreenshotFolder(m_screenshotFolder);
-    connect(dialog, &SettingsDialog::screenshotFolderPicked, this,
-            &PanelController::setScreenshotFolder);
     dialog->open();
 }
 
@@ -135,17 +161,13 @@ void PanelController::showHelp()
 
 void PanelController::takeScreenshot()
 {
-    const Screenshot screenshot = saveScreenshot(m_window, m_screenshotFolder);
-    m_window->messageBar()->setMessage(
-        screenshot.error.isEmpty()
-            ? tr("The screenshot is %1.").arg(QDir::toNativeSeparators(screenshot.path))
-            : screenshot.error);
-}
-
-void PanelController::setLockShown(bool shown)
-{
-    m_window->lockButton()->setChecked(shown);
-    m_window->lock()->setScreenLockEnable(shown);
+    const Screenshot screenshot =
+        saveScreenshot(m_window, folderForScreenshots(*m_model->preferences()));
+    MessageBar *bar = m_window->messageBar();
+    if (screenshot.error.isEmpty())
+        bar->notify(tr("Saved %1").arg(QDir::toNativeSeparators(screenshot.path)));
+    else
+        bar->setMessage(screenshot.error);
 }
 
 void PanelController::setTimingShown(bool shown)

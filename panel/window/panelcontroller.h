@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QObject>
-#include <QStringList>
+#include <QString>
 
 namespace Panel
 {
@@ -11,15 +11,9 @@ namespace Panel
 class FileController;
 class PanelModel;
 class PanelWindow;
-class SweepController;
 
-/*! What the panel does when it is touched: the one place between window and model.
-
-    The window's parts report and the model tells; in between, the controllers decide. This class
-    makes them and answers for the window itself: theme, lock, screenshot, dialogs, shortcuts. A
-    pointer on a diagram has its answers in ChartGestures, a key that is a number in NumericKeys,
-    the traces in TraceController, their markers in MarkerController, the look of the diagrams in
-    DiagramController, files in FileController, simulated devices in SweepController. */
+/*! Brings the parts of the panel together: it makes the controllers of all rooms, tells in the window
+    what they say, and answers for the window itself: theme, lock, screenshot, dialogs, shortcuts. */
 class PanelController : public QObject
 {
     Q_OBJECT
@@ -27,19 +21,7 @@ class PanelController : public QObject
 public:
     PanelController(PanelModel *model, PanelWindow *window, QObject *parent = nullptr);
 
-    /// Opens Touchstone files in place of those shown; true if all of them could be read. Refused
-    /// ones are told in the window and on the terminal; when none can be read, the panel keeps what
-    /// it shows.
-    bool openFiles(const QStringList &paths);
-    /// What runs the simulated devices.
-    SweepController *sweepController() const { return m_sweeps; }
     FileController *fileController() const { return m_files; }
-    /// Where screenshots go.
-    QString screenshotFolder() const { return m_screenshotFolder; }
-    void setScreenshotFolder(const QString &folder) { m_screenshotFolder = folder; }
-
-    /// The code of the language that the user wants from the next start on.
-    QString language() const { return m_language; }
 
 public Q_SLOTS:
     /// Lets the user pick files, and opens them.
@@ -48,21 +30,23 @@ public Q_SLOTS:
     /// Lists what the keyboard does.
     void showHelp();
     void takeScreenshot();
-    /// Shows the padlock, which a tap closes, or takes it away.
-    void setLockShown(bool shown);
     void setTimingShown(bool shown);
 
+Q_SIGNALS:
+    /// A sweep has been measured whole.
+    void sweepCompleted();
+
 private:
+    void makeEntry();
     void connectKeys();
+    void connectFiles();
     void connectSweep();
     void addShortcuts();
 
     PanelModel *m_model;
     PanelWindow *m_window;
-    SweepController *m_sweeps;
     FileController *m_files;
-    QString m_screenshotFolder;
-    QString m_language;
+    QString m_dialogFolder; ///< where the file dialog was left
 };
 
 } // namespace Panel

@@ -3,22 +3,28 @@
 #include "panelwindow.h"
 
 #include "messagebar.h"
+#include "panellock.h"
 #include "sweepbar.h"
 #include "timingline.h"
+#include <panel/diagrams/chartgestures.h>
 #include <panel/diagrams/diagrams.h>
 #include <panel/entry/softkey.h>
 #include <panel/entry/softkeymenu.h>
 #include <panel/entry/tracebar.h>
-#include <panel/look/elidedlabel.h>
-#include <panel/look/icons.h>
-#include <panel/look/look.h>
+#include <panel/files/samples.h>
+#include <panel/ground/elidedlabel.h>
+#include <panel/ground/icons.h>
+#include <panel/ground/look.h>
 #include <panel/model/panelmodel.h>
 
 #include <controls/thememanager.h>
 #include <widgets/displaypanel.h>
 #include <widgets/lockwidget.h>
 
+#include <QDropEvent>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
@@ -60,7 +66,6 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     : QMainWindow(parent)
     , m_model(model)
     , m_traceBar(new TraceBar(model))
-    , m_messageBar(new MessageBar)
     , m_diagrams(new Diagrams(model))
     , m_sweepBar(new SweepBar(model))
     , m_timingLine(new TimingLine(m_diagrams))
@@ -71,7 +76,6 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
 
     auto *diagramColumn = new QVBoxLayout;
     diagramColumn->setSpacing(0);
-    diagramColumn->addWidget(m_messageBar);
     diagramColumn->addWidget(makeDiagrams(), 1);
     diagramColumn->addWidget(m_timingLine);
     diagramColumn->addWidget(m_sweepBar);
@@ -87,8 +91,18 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     column->setSpacing(0);
     column->addWidget(makeTopBar());
     column->addLayout(middle, 1);
-    // Over the diagrams, from where it can be dragged aside.
-    m_lock = new LockWidget(centralWidget(), m_pages);
+    m_messageBar = new MessageBar(m_pages);
+    // Over the diagrams.
+    m_lock = new PanelLock(new LockWidget(centralWidget(), m_pages), this);
+    connect(m_lock, &PanelLock::lockedChanged, this, [this] {
+        showLock();
+        m_messageBar->notify({}); // of how to unlock
+    });
+    connect(m_lockButton, &QToolButton::toggled, m_lock, &PanelLock::setLocked);
+    connect(m_lock, &PanelLock::blocked, m_messageBar, [this] {
+        m_messageBar->notify(tr("The panel is locked: tap the padlock to unlock."));
+    });
+    setAcceptDrops(true);
 
     connect(m_model, &PanelModel::networksChanged, this, &PanelWindow::showModel);
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
@@ -128,7 +142,7 @@ QWidget *PanelWindow::makeTopBar()
     m_fileName->setAccessibleName(tr("File"));
     m_fileName->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_fileName->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    m_fileName->setFixedWidth(fontMetrics().averageCharWidth() * 18);
+    m_fileName->setFixedWidth(fontMetrics().averageCharWidth() * 24);
     row->addWidget(m_fileName);
     m_themeButton = addBarButton(row, tr("Dark or light"));
     m_screenshotButton = addBarButton(row, tr("Screenshot"));
@@ -172,7 +186,7 @@ QWidget *PanelWindow::makeEmptyPage()
     large.setPixelSize(QFontInfo(large).pixelSize() * 3 / 2);
     title->setFont(large);
     column->addWidget(title, 0, Qt::AlignHCenter);
-    auto *hint = new QLabel(tr("Open a Touchstone file (.s1p, .s2p) to see it."));
+    auto *hint = new QLabel(tr("Open a Touchstone file (.s1p, .s2p, .ts) to see it."));
     hint->setObjectName(QStringLiteral("dim"));
     hint->setWordWrap(true);
     hint->setAlignment(Qt::AlignHCenter);
@@ -193,8 +207,12 @@ void PanelWindow::showModel()
     const QString name = files == 0 ? QString()
         : files == 1                ? networks.first().name
                                     : tr("%n files", nullptr, files);
-    m_fileName->setText(name);
-    m_keys.file->setValue(files == 0 ? tr("Open\u2026") : name);
+    // What is no measurement of the user's says so.
+    const QString kind = isSimulated(m_model->source()) ? tr("Simulated: %1")
+        : files == 1 && isSample(networks.first())      ? tr("Sample: %1")
+                                                        : QStringLiteral("%1");
+    m_fileName->setText(kind.arg(name));
+    m_keys.file->setValue(files == 0 || isSimulated(m_model->source()) ? tr("Open\u2026") : name);
 }
 
 void PanelWindow::resizeEvent(QResizeEvent *event)
@@ -202,6 +220,41 @@ void PanelWindow::resizeEvent(QResizeEvent *event)
     QMainWindow::resizeEvent(event);
     // Traces first; the diagrams name the file too.
     m_fileName->setVisible(width() > 900);
+}
+
+/// An open padlock locks, a closed one tells that it has.
+void PanelWindow::showLock()
+{
+    m_lockButton->setChecked(m_lock->isLocked());
+    m_lockButton->setIcon(Controls::ThemeManager::instance()->icon(m_lock->isLocked() ? 3 : 4));
+}
+
+void PanelWindow::keyPressEvent(QKeyEvent *event)
+{
+    // Keys that whoever has the focus has no use for are the active diagram's.
+    DiagramView *view = m_diagrams->activeView();
+    if (!view || !ChartGestures::handleKey(m_model, view, event))
+        QMainWindow::keyPressEvent(event);
+}
+
+void PanelWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void PanelWindow::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    QStringList paths;
+    for (const QUrl &url : event->mimeData()->urls()) {
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    }
+    if (paths.isEmpty())
+        m_messageBar->setMessage(tr("Only files of this computer can be opened."));
+    else
+        Q_EMIT filesDropped(paths);
 }
 
 void PanelWindow::recolor()
@@ -214,7 +267,7 @@ void PanelWindow::recolor()
     m_themeButton->setIcon(icon("theme"));
     const auto *theme = Controls::ThemeManager::instance();
     m_screenshotButton->setIcon(theme->icon(5));
-    m_lockButton->setIcon(theme->icon(3));
+    showLock();
     m_keys.layout->updateThemeIcons(theme->isDarkTheme());
 }
 

@@ -6,7 +6,6 @@
 
 #include <QMainWindow>
 
-class LockWidget;
 class QAbstractButton;
 class QHBoxLayout;
 class QLabel;
@@ -17,6 +16,7 @@ namespace Panel
 {
 
 class MessageBar;
+class PanelLock;
 class PanelModel;
 class SmithView;
 class CartesianView;
@@ -28,7 +28,7 @@ class TimingLine;
 class TraceBar;
 
 /*! The panel's window: top bar, diagrams, sweep bar and the column of soft keys, for any size from
-   800 x 480.
+    800 x 480.
 
     It lays the parts out and follows model and theme. What a key or a gesture does is decided by
     PanelController. */
@@ -51,14 +51,20 @@ public:
     TimingLine *timingLine() const { return m_timingLine; }
     QToolButton *themeButton() const { return m_themeButton; }
     QToolButton *screenshotButton() const { return m_screenshotButton; }
-    /// Checked while the padlock is shown.
+    /// Checked while the panel is locked.
     QToolButton *lockButton() const { return m_lockButton; }
-    LockWidget *lock() const { return m_lock; }
+    PanelLock *lock() const { return m_lock; }
     /// The button of the page that stands where there is nothing to show.
     QAbstractButton *emptyPageButton() const { return m_emptyPageButton; }
 
+Q_SIGNALS:
+    void filesDropped(const QStringList &paths);
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     QWidget *makeTopBar();
@@ -66,6 +72,7 @@ private:
     QWidget *makeEmptyPage();
     QToolButton *addBarButton(QHBoxLayout *row, const QString &name);
     void showModel();
+    void showLock();
     void recolor();
 
     PanelModel *m_model;
@@ -75,7 +82,7 @@ private:
     SweepBar *m_sweepBar;
     TimingLine *m_timingLine;
     QStackedWidget *m_pages;
-    LockWidget *m_lock;
+    PanelLock *m_lock;
     QLabel *m_mark;
     ElidedLabel *m_fileName;
     QLabel *m_emptyMark;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screenshot.h"
 
+#include <panel/model/preferences.h>
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
@@ -33,8 +35,10 @@ bool openNew(QFile &file, const QString &stem)
 
 } // namespace
 
-QString screenshotFolder()
+QString folderForScreenshots(const Preferences &preferences)
 {
+    if (!preferences.screenshotFolder().isEmpty())
+        return preferences.screenshotFolder();
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     return pictures.isEmpty() ? QDir::homePath() : pictures;
 }

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settingsdialog.h"
 
-#include "languages.h"
+#include "screenshot.h"
+
+#include <panel/ground/languages.h>
 #include <panel/model/panelmodel.h>
 
 #include <controls/combobox.h>
@@ -76,13 +78,20 @@ void SettingsDialog::addTheme()
 
 void SettingsDialog::addLanguage()
 {
+    const QString chosen = m_model->preferences()->language();
     QStringList names;
-    for (const Language &language : languages())
+    int current = 0;
+    for (const Language &language : languages()) {
+        if (language.code == (chosen.isEmpty() ? currentLanguage() : chosen))
+            current = int(names.size());
         names << language.name;
-    m_language = makeChoice(tr("Language"), names, 0);
-    connect(m_language, QOverload<int>::of(&QComboBox::activated), this,
-            [this](int index) { Q_EMIT languagePicked(languages().at(index).code); });
-    addRow(tr("Language"), m_language);
+    }
+    auto *choice = makeChoice(tr("Language"), names, current);
+    connect(choice, QOverload<int>::of(&QComboBox::activated), m_model->preferences(),
+            [preferences = m_model->preferences()](int index) {
+                preferences->setLanguage(languages().at(index).code);
+            });
+    addRow(tr("Language"), choice);
 }
 
 SwitchButton *SettingsDialog::addSwitch(const QString &name, bool on)
@@ -106,37 +115,31 @@ void SettingsDialog::addMarkerModes()
 void SettingsDialog::addFolder()
 {
     m_folder->setMinimumHeight(s_fieldHeight);
+    m_folder->setAutoDefault(false);
     m_folder->setAccessibleName(tr("Screenshots go to"));
     connect(m_folder, &QPushButton::clicked, this, &SettingsDialog::pickFolder);
     addRow(tr("Screenshots go to"), m_folder);
+    connect(m_model->preferences(), &Preferences::changed, this, &SettingsDialog::showFolder);
+    showFolder();
 }
 
-void SettingsDialog::setLanguage(const QString &code)
+void SettingsDialog::showFolder()
 {
-    for (int i = 0; i < languages().size(); ++i) {
-        if (languages().at(i).code == code)
-            m_language->setCurrentIndex(i);
-    }
-}
-
-void SettingsDialog::setScreenshotFolder(const QString &folder)
-{
+    const QString folder = QDir::toNativeSeparators(folderForScreenshots(*m_model->preferences()));
     m_folder->setToolTip(folder);
-    m_folder->setText(
-        m_folder->fontMetrics().elidedText(QDir::toNativeSeparators(folder), Qt::ElideMiddle, 220));
+    m_folder->setText(m_folder->fontMetrics().elidedText(folder, Qt::ElideMiddle, 220));
 }
 
 void SettingsDialog::pickFolder()
 {
     // Opened, not executed: the panel may go while it is on screen.
-    auto *dialog = new QFileDialog(this, tr("Screenshots go to"), m_folder->toolTip());
+    auto *dialog = new QFileDialog(this, tr("Screenshots go to"),
+                                   folderForScreenshots(*m_model->preferences()));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &folder) {
-        setScreenshotFolder(folder);
-        Q_EMIT screenshotFolderPicked(folder);
-    });
+    connect(dialog, &QFileDialog::fileSelected, m_model->preferences(),
+            &Preferences::setScreenshotFolder);
     dialog->open();
 }
 

@@ -4,7 +4,6 @@
 
 #include <controls/draggableframelessdialog.h>
 
-class QComboBox;
 class QFormLayout;
 class QPushButton;
 class SwitchButton;
@@ -15,20 +14,13 @@ namespace Panel
 class PanelModel;
 
 /// What is set once and then left alone: look, language, how markers behave, where screenshots go.
-/// A change is in force at once, but for the language, which whoever listens sees to.
+/// A change is in force at once, but for the language, which comes with the next start.
 class SettingsDialog : public Controls::DraggableFramelessDialog
 {
     Q_OBJECT
 
 public:
     explicit SettingsDialog(PanelModel *model, QWidget *parent = nullptr);
-
-    void setLanguage(const QString &code);
-    void setScreenshotFolder(const QString &folder);
-
-Q_SIGNALS:
-    void languagePicked(const QString &code);
-    void screenshotFolderPicked(const QString &folder);
 
 private:
     SwitchButton *addSwitch(const QString &name, bool on);
@@ -38,10 +30,10 @@ private:
     void addMarkerModes();
     void addFolder();
     void pickFolder();
+    void showFolder();
 
     PanelModel *m_model;
     QFormLayout *m_form;
-    QComboBox *m_language = nullptr;
     QPushButton *m_folder;
 };
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sweepbar.h"
 
-#include <panel/look/look.h>
-#include <panel/model/format.h>
+#include <panel/ground/look.h>
+#include <panel/ground/numbertext.h>
 #include <panel/model/panelmodel.h>
 
 #include <widgets/rectangularbottomwidget.h>
@@ -35,11 +35,15 @@ SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
     connect(m_model, &PanelModel::activeTraceChanged, this, &SweepBar::showRange);
     connect(m_model, &PanelModel::stimulusChanged, this, &SweepBar::showRange);
     connect(m_model, &PanelModel::networkUpdated, this, &SweepBar::showRange);
-    connect(m_model, &PanelModel::networksChanged, this, [this] {
-        m_clock.invalidate();
-        setProgress(0.0);
-        showSpeed(QString());
-    });
+    // What was counted was another sweep's.
+    for (const auto signal :
+         {&PanelModel::networksChanged, &PanelModel::sourceChanged, &PanelModel::sweepChanged})
+        connect(m_model, signal, this, [this] {
+            m_clock.invalidate();
+            setProgress(0.0);
+            showSpeed(QString());
+            showRange();
+        });
     connect(m_model, &PanelModel::sweepingChanged, this, [this] {
         if (!m_model->isSweeping() && m_clock.isValid())
             showSpeed(tr("Hold"));

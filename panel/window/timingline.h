@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <panel/look/elidedlabel.h>
+#include <panel/ground/elidedlabel.h>
 
 #include <QTimer>
 

@@ -5,16 +5,17 @@
 #include "popupscene.h"
 #include "vnatest.h"
 
+#include <fuzz/panelrules.h>
 #include <panel/diagrams/cartesianview.h>
 #include <panel/diagrams/diagrams.h>
 #include <panel/diagrams/smithview.h>
 #include <panel/entry/numericdialog.h>
 #include <panel/entry/softkey.h>
 #include <panel/entry/softkeymenu.h>
+#include <panel/files/filecontroller.h>
 #include <panel/files/samples.h>
-#include <panel/look/look.h>
+#include <panel/ground/look.h>
 #include <panel/model/panelmodel.h>
-#include <panel/source/sweepcontroller.h>
 #include <panel/window/messagebar.h>
 #include <panel/window/panelcontroller.h>
 #include <panel/window/panelwindow.h>
@@ -22,6 +23,7 @@
 #include <widgets/switchbutton.h>
 
 /// The panel as main() makes it, on screen with a sample of 2.3 to 2.6 GHz, and a finger to tap it.
+/// What must hold of its diagrams is checked as it goes.
 struct PanelDesk {
     Panel::PanelModel model;
     Panel::PanelWindow window;
@@ -32,11 +34,50 @@ struct PanelDesk {
         , controller(&model, &window)
     {
         window.resize(size);
-        controller.openFiles({Panel::startSample()});
+        open({Panel::startSample()});
         window.show();
         window.activateWindow();
         settle();
     }
+    ~PanelDesk()
+    {
+        settle();
+        checkRules();
+    }
+
+    void checkRules() const
+    {
+        const QStringList broken = Fuzz::brokenRules(model, *window.diagrams());
+        QVERIFY2(broken.isEmpty(), qPrintable(broken.join(QLatin1Char('\n'))));
+    }
+
+    bool open(const QStringList &paths) { return controller.fileController()->openFiles(paths); }
+    /// Opens samples by their names.
+    bool openSamples(const QStringList &names)
+    {
+        QStringList paths;
+        for (const QString &name : names)
+            paths << Panel::sampleFolder() + QLatin1Char('/') + name;
+        return open(paths);
+    }
+    /// Shows networks that are in no file.
+    void show(const QVector<Panel::Network> &networks)
+    {
+        model.openNetworks(networks);
+        settle();
+    }
+    void setLayout(Graph::LayoutType layout)
+    {
+        model.viewSettings()->layoutProfile()->setLayoutType(layout);
+        settle();
+    }
+    /// Where a marker stands in its trace's data.
+    double index(int traceId, int number) const
+    {
+        const Panel::Marker *marker = model.marker(traceId, number);
+        return marker ? model.indexOf(*marker) : qQNaN();
+    }
+    double zoom(const Panel::DiagramView *view) const { return model.zoom(view->id()).factor; }
 
     Panel::SmithView *view() const { return window.smithView(); }
     SmithChartPlot *chart() const { return view()->chart(); }
@@ -93,8 +134,7 @@ struct ChartDesk : PanelDesk {
     explicit ChartDesk(const QSize &size = QSize(1024, 600))
         : PanelDesk(size)
     {
-        model.viewSettings()->layoutProfile()->setLayoutType(Graph::LayoutType::Single);
-        settle();
+        setLayout(Graph::LayoutType::Single);
     }
 
     /// A point of the plot, given as a share of its size, in pixels of the plot.

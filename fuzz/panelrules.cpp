@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panelrules.h"
+
+#include <panel/diagrams/cartesianview.h>
+#include <panel/diagrams/diagrams.h>
+#include <panel/diagrams/smithview.h>
+#include <plot/qcp.h>
+#include <smithchart/smithchartplot.h>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Panel;
+
+namespace Fuzz
+{
+
+namespace
+{
+
+bool isNear(double a, double b, double scale)
+{
+    return std::abs(a - b) <= 1e-6 * std::max(std::abs(scale), 1e-9);
+}
+
+/// "2.45 GHz" in Hz; NaN for what is no frequency.
+double hertzOf(const QString &text)
+{
+    const QStringList words = text.split(QLatin1Char(' '));
+    const int power = 3 * int(QStringLiteral("HkMG").indexOf(words.value(1).left(1)));
+    return words.size() == 2 && power >= 0
+        ? QString(words.first()).replace(QChar(0x2212), QLatin1Char('-')).toDouble()
+            * std::pow(10.0, power)
+        : qQNaN();
+}
+
+class Judge
+{
+public:
+    Judge(const PanelModel &model, const DiagramView *view)
+        : m_model(model)
+        , m_view(view)
+        , m_cartesian(qobject_cast<const CartesianView *>(view))
+    {
+        for (const int id : view->traceIds()) {
+            for (const Marker &marker : model.markersOf(id))
+                checkMarker(*model.trace(id), marker);
+        }
+        if (m_cartesian && view->activeTrace()) {
+            checkFrequencies();
+            checkScale(*view->activeTrace());
+        }
+        if (const auto *smith = qobject_cast<const SmithView *>(view))
+            expect(smith->chart()->viewState().zoom, model.zoom(view->id()).factor, "the zoom");
+    }
+
+    const QStringList &broken() const { return m_broken; }
+
+private:
+    void expect(double found, double wanted, const char *what, double scale = 0.0)
+    {
+        if (!isNear(found, wanted, scale == 0.0 ? wanted : scale))
+            say(QStringLiteral("%1 is %2 and should be %3")
+                    .arg(QLatin1String(what), QString::number(found, 'g', 12),
+                         QString::number(wanted, 'g', 12)));
+    }
+
+    void say(const QString &sentence)
+    {
+        m_broken << QStringLiteral("%1 diagram %2: %3")
+                        .arg(m_cartesian ? QStringLiteral("Cartesian") : QStringLiteral("Smith"))
+                        .arg(m_view->id().place)
+                        .arg(sentence);
+    }
+
+    /// Where a marker belongs in the coordinates of the plot; NaN where it cannot be seen.
+    QPointF place(const Trace &trace, const Marker &marker) const
+    {
+        const double index = m_model.indexOf(marker);
+        if (!trace.visible || index < 0.0)
+            return {qQNaN(), qQNaN()};
+        const Parameter &data = m_model.data(trace);
+        if (!m_cartesian)
+            return {valueAt(data.real, index), valueAt(data.imag, index)};
+        const double hertz = valueAt(m_model.network(trace).frequencies, index);
+        const double value = cartesianValueAt(data, index, trace.format);
+        const QCPRange range = m_cartesian->frequencyAxis().range();
+        if (!range.contains(hertz) || !std::isfinite(value))
+            return {qQNaN(), qQNaN()};
+        return {hertz, std::clamp(value, bottom(trace.format, trace.scale), trace.scale.top)};
+    }
+
+    void checkMarker(const Trace &trace, const Marker &marker)
+    {
+        const QPointF wanted = place(trace, marker);
+        const bool shown = std::isfinite(wanted.x()) && std::isfinite(wanted.y());
+        const Plot::Marker *drawn = m_view->drawnMarker(trace.id, marker.number);
+        const bool isShown = drawn && drawn->isVisible();
+        // A Smith chart leaves a marker in a gap of the data to itself.
+        const bool inGap =
+            !m_cartesian && !shown && trace.visible && m_model.indexOf(marker) >= 0.0;
+        if (shown != isShown && !inGap)
+            say(QStringLiteral("M%1 of Tr%2 is drawn: %3")
+                    .arg(marker.number)
+                    .arg(trace.id)
+                    .arg(isShown));
+        if (!shown || !isShown)
+            return;
+        drawn->getTracer()->updatePosition();
+        const QPointF found = drawn->getTracer()->position->coords();
+        // At the upper edge it may stand a pixel below.
+        const double height = m_cartesian ? 2e6 * trace.scale.perDivision
+                * traits(trace.format).divisions / std::max(2, m_view->plot()->axisRect()->height())
+                                          : wanted.y();
+        expect(found.x(), wanted.x(), "a marker's place");
+        expect(found.y(), wanted.y(), "a marker's value", height);
+    }
+
+    void checkFrequencies()
+    {
+        double lowest = qInf(), highest = -qInf();
+        for (const int id : m_view->traceIds()) {
+            const QVector<double> &hertz = m_model.network(*m_model.trace(id)).frequencies;
+            lowest = std::min(lowest, hertz.first());
+            highest = std::max(highest, hertz.last());
+        }
+        // A single frequency stands in the middle.
+        const QCPRange whole =
+            lowest < highest ? QCPRange(lowest, highest) : QCPRange(lowest - 1.0, lowest + 1.0);
+        const QCPRange range = m_cartesian->frequencyAxis().range();
+        const Zoom zoom = m_model.zoom(m_view->id());
+        const double size = whole.size() / zoom.factor;
+        expect(range.size(), size, "what is seen of the frequencies");
+        expect(range.center(), whole.center() + zoom.x * whole.size() / 2.0, "their centre",
+               whole.size());
+        const QStringList texts = m_cartesian->frequencyAxis().texts();
+        const double rounding = 1e3 * size;
+        expect(hertzOf(texts.at(0)), range.lower, "the left label", rounding);
+        expect(hertzOf(texts.at(2)), range.upper, "the right label", rounding);
+        QString division = texts.at(1).section(QStringLiteral(" \u00b7 "), -1);
+        division.chop(1);
+        expect(hertzOf(division), size / FrequencyAxis::divisions, "the division", rounding);
+    }
+
+    /// What is written at the value axis are the active trace's divisions.
+    void checkScale(const Trace &active)
+    {
+        const QCPRange written = m_view->plot()->yAxis->range();
+        const double size = active.scale.perDivision * traits(active.format).divisions;
+        expect(written.upper, active.scale.top, "the upper edge", size);
+        expect(written.lower, active.scale.top - size, "the lower edge", size);
+        const QVector<double> ticks = m_view->plot()->yAxis->tickVector();
+        for (const double tick : ticks) {
+            const double division = (active.scale.top - tick) / active.scale.perDivision;
+            expect(division, std::round(division), "a grid line", 1.0);
+        }
+        if (ticks.size() < 2)
+            say(QStringLiteral("there are %1 grid lines").arg(ticks.size()));
+    }
+
+    const PanelModel &m_model;
+    const DiagramView *m_view;
+    const CartesianView *m_cartesian;
+    QStringList m_broken;
+};
+
+} // namespace
+
+QStringList brokenRules(const PanelModel &model, const Diagrams &diagrams)
+{
+    QStringList broken;
+    for (const DiagramView *view : diagrams.views()) {
+        // What is hidden catches up when it is shown.
+        if (view->isVisible() && !view->visibleRegion().isEmpty())
+            broken << Judge(model, view).broken();
+    }
+    return broken;
+}
+
+} // namespace Fuzz

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frequencyaxis.h"
+
+#include <panel/ground/numbertext.h>
+
+#include <cmath>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// Digits of a span that its ends are told with.
+constexpr double s_spanDigits = 4.0;
+
+QCPItemText *makeText(QCustomPlot *plot, double place, Qt::Alignment alignment)
+{
+    auto *text = new QCPItemText(plot);
+    text->setLayer(QStringLiteral("axes"));
+    text->setSelectable(false);
+    text->setClipToAxisRect(false);
+    text->setPadding(QMargins(0, 4, 0, 0));
+    text->setPositionAlignment(alignment | Qt::AlignTop);
+    text->position->setType(QCPItemPosition::ptAxisRectRatio);
+    text->position->setAxisRect(plot->axisRect());
+    text->position->setCoords(place, 1.0);
+    return text;
+}
+
+} // namespace
+
+FrequencyAxis::FrequencyAxis(QCustomPlot *plot)
+    : m_axis(plot->xAxis)
+    , m_left(makeText(plot, 0.0, Qt::AlignLeft))
+    , m_centre(makeText(plot, 0.5, Qt::AlignHCenter))
+    , m_right(makeText(plot, 1.0, Qt::AlignRight))
+{
+    m_axis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
+    m_axis->setTickLabels(false);
+    m_axis->grid()->setZeroLinePen(Qt::NoPen);
+}
+
+void FrequencyAxis::setRange(const QCPRange &hertz)
+{
+    auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(m_axis->ticker());
+    ticker->setTickOrigin(hertz.lower);
+    ticker->setTickStep(hertz.size() / divisions);
+    m_axis->setRange(hertz);
+    const double digit = std::pow(10.0, std::floor(std::log10(hertz.size())) - s_spanDigits);
+    const auto text = [digit](double value) {
+        return shortFrequencyText(std::round(value / digit) * digit);
+    };
+    m_left->setText(text(hertz.lower));
+    m_right->setText(text(hertz.upper));
+    m_divisionText = shortFrequencyText(hertz.size() / divisions) + QLatin1Char('/');
+    m_centreText = text(hertz.center()) + QStringLiteral(" \u00b7 ") + m_divisionText;
+    m_centre->setText(m_centreText);
+    fit();
+}
+
+QStringList FrequencyAxis::texts() const
+{
+    return {m_left->text(), m_centre->text(), m_right->text()};
+}
+
+void FrequencyAxis::setLook(const QFont &font, const QColor &color)
+{
+    for (QCPItemText *text : {m_left, m_centre, m_right}) {
+        text->setFont(font);
+        text->setColor(color);
+    }
+}
+
+void FrequencyAxis::fit()
+{
+    const QFontMetrics metrics(m_centre->font());
+    const int gap = metrics.averageCharWidth();
+    const int outer = qMax(metrics.horizontalAdvance(m_left->text()),
+                           metrics.horizontalAdvance(m_right->text()));
+    const int wanted = 2 * (outer + gap) + metrics.horizontalAdvance(m_centreText);
+    m_centre->setText(wanted <= m_axis->axisRect()->width() ? m_centreText : m_divisionText);
+}
+
+} // namespace Panel

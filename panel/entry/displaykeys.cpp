@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "displaykeys.h"
+
+#include "softkey.h"
+
+#include <panel/model/panelmodel.h>
+
+namespace Panel
+{
+
+DisplayKeys::DisplayKeys(PanelModel *model, const PanelKeys &keys, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_keys(keys)
+{
+    ViewSettings *settings = model->viewSettings();
+    keys.grid->setChoices({tr("Impedance"), tr("Admittance"), tr("Both")});
+    connect(keys.grid, &SoftKey::choicePicked, settings,
+            [settings](int index) { settings->setGridMode(SmithChartPlot::GridMode(index)); });
+    keys.density->setChoices({tr("Basic"), tr("Standard"), tr("Detailed")});
+    connect(keys.density, &SoftKey::choicePicked, settings,
+            [settings](int index) { settings->setDensity(SmithChart::Preset(index)); });
+    keys.pointer->setChoices({tr("All traces"), tr("Active only")});
+    connect(keys.pointer, &SoftKey::choicePicked, settings,
+            [settings](int index) { settings->setOnlyActiveTrace(index == 1); });
+    connect(keys.whole, &SoftKey::clicked, model, [model] {
+        if (const Trace *trace = model->activeTrace())
+            model->setZoom(model->diagramOf(trace->id), Zoom());
+    });
+    connect(settings, &ViewSettings::changed, this, &DisplayKeys::showSettings);
+    for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::activeTraceChanged})
+        connect(model, signal, this, &DisplayKeys::showSettings);
+    connect(model, &PanelModel::zoomChanged, this, &DisplayKeys::showSettings);
+    showSettings();
+}
+
+void DisplayKeys::showSettings()
+{
+    const ViewSettings *settings = m_model->viewSettings();
+    m_keys.grid->setChoice(settings->gridMode());
+    m_keys.density->setChoice(settings->density());
+    m_keys.pointer->setChoice(settings->onlyActiveTrace());
+    const Trace *active = m_model->activeTrace();
+    for (SoftKey *key : {m_keys.grid, m_keys.density, m_keys.pointer})
+        key->setEnabled(active);
+    m_keys.whole->setEnabled(active && !m_model->zoom(m_model->diagramOf(active->id)).isWhole());
+}
+
+} // namespace Panel

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QPen>
+#include <QString>
+#include <QVector>
+
+namespace Panel
+{
+
+/// The colours of the panel's own parts in the theme that is in force; ask again after
+/// themeChanged().
+struct Look {
+    QColor background; ///< behind diagrams
+    QColor bar; ///< top and bottom bars, dialogs
+    QColor text;
+    QColor dimText; ///< names and hints beside a value
+    QColor border;
+    QColor button;
+    QColor accent; ///< choice and focus
+    QColor warning; ///< edge of a message
+    QVector<QColor> traces; ///< at least 8, of which no two are alike
+    QVector<QColor> memories;
+
+    /// The colour of a trace: its number picks from the palette, which starts over at its end.
+    QColor trace(int id) const { return traces.at((id - 1) % traces.size()); }
+    /// The same for stored data.
+    QColor memory(int id) const { return memories.at((id - 1) % memories.size()); }
+    /// The line of a trace of a file: the first file's are solid, those of each further one have a
+    /// dash pattern of their own.
+    QPen pen(int id, int file) const;
+    QPen memoryPen(int id, int file) const;
+};
+
+/// Gives the program the panel's font, the pictures of the library and the dark theme; called once
+/// at the start.
+void setUpApplication();
+
+Look currentLook();
+
+/// The style sheet of the panel's window.
+QString panelStyleSheet(const Look &look);
+
+/// Text that can be read on a fill: black or white.
+QColor textOn(const QColor &fill);
+
+} // namespace Panel

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace Panel
+{
+
+/// What is set once and then left alone, whatever the panel shows.
+class Preferences : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// The code of the language that the user wants from the next start on; empty for the present
+    /// one.
+    QString language() const { return m_language; }
+    /// Where screenshots go; empty for the default folder.
+    QString screenshotFolder() const { return m_screenshotFolder; }
+
+    void setLanguage(const QString &code) { set(m_language, code); }
+    void setScreenshotFolder(const QString &folder) { set(m_screenshotFolder, folder); }
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void set(QString &member, const QString &value)
+    {
+        if (value == member)
+            return;
+        member = value;
+        Q_EMIT changed();
+    }
+
+    QString m_language;
+    QString m_screenshotFolder;
+};
+
+} // namespace Panel

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "traces.h"
+
+#include "cartesian.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// More would be a tangle; further parameters are a tap away.
+constexpr int s_portsAtFirst = 4;
+
+} // namespace
+
+const Trace *Traces::find(int id) const
+{
+    const auto found = std::find_if(m_all.begin(), m_all.end(),
+                                    [id](const Trace &trace) { return trace.id == id; });
+    return found == m_all.end() ? nullptr : &*found;
+}
+
+/// The same to be changed: copies of the list that somebody holds stay as they are.
+Trace *Traces::edit(int id)
+{
+    const Trace *found = find(id);
+    return found ? &m_all[int(found - m_all.constData())] : nullptr;
+}
+
+const Trace *Traces::active(const QVector<int> &among) const
+{
+    for (const int id : m_recent) {
+        if (among.contains(id))
+            return find(id);
+    }
+    return among.isEmpty() ? nullptr : find(among.first());
+}
+
+const Memory *Traces::memory(int id) const
+{
+    const auto found = m_memories.constFind(id);
+    return found == m_memories.constEnd() ? nullptr : &*found;
+}
+
+void Traces::rebuild(const Networks &networks)
+{
+    m_all.clear();
+    m_memories.clear();
+    const auto add = [this](int network, int to, int from, TraceFormat format) {
+        m_all.append({int(m_all.size()) + 1, network, to, from, format, {}, true});
+    };
+    for (int i = 0; i < networks.count(); ++i) {
+        const int ports = networks.all().at(i).ports;
+        const int shown = std::min(ports, s_portsAtFirst);
+        for (int port = 1; port <= shown; ++port)
+            add(i, port, port, TraceFormat::Smith);
+        if (ports == 1)
+            add(i, 1, 1, TraceFormat::LogMagnitude);
+        for (int port = 2; port <= shown; ++port)
+            add(i, port, 1, TraceFormat::LogMagnitude);
+        if (ports == 2)
+            add(i, 1, 2, TraceFormat::LogMagnitude);
+        const Scale decibels = startScale(i, TraceFormat::LogMagnitude, networks);
+        for (Trace &trace : m_all) {
+            if (trace.network == i)
+                trace.scale = trace.onSmithChart() ? defaultScale(trace.format, 0.0) : decibels;
+        }
+    }
+    m_recent.clear();
+    if (!m_all.isEmpty())
+        m_recent.append(m_all.first().id);
+}
+
+/// The scale that all traces of a network and format share until the user sets one, so that they
+/// can be compared.
+Scale Traces::startScale(int network, TraceFormat format, const Networks &networks) const
+{
+    double highest = qQNaN();
+    for (const Trace &trace : m_all) {
+        if (trace.network == network && trace.format == format)
+            highest = std::fmax(
+                highest, highestValue(networks.shown(network).s(trace.to, trace.from), format));
+    }
+    return defaultScale(format, highest);
+}
+
+bool Traces::setActive(int id)
+{
+    if (id == m_recent.value(0) || !find(id))
+        return false;
+    m_recent.removeOne(id);
+    m_recent.prepend(id);
+    return true;
+}
+
+bool Traces::setVisible(int id, bool visible)
+{
+    Trace *trace = edit(id);
+    if (!trace || trace->visible == visible)
+        return false;
+    trace->visible = visible;
+    return true;
+}
+
+bool Traces::setFormat(int id, TraceFormat format, const Networks &networks)
+{
+    Trace *trace = edit(id);
+    if (!trace || trace->format == format)
+        return false;
+    trace->format = format;
+    trace->scale = startScale(trace->network, format, networks);
+    return true;
+}
+
+bool Traces::setParameter(int id, int to, int from, const Networks &networks)
+{
+    Trace *trace = edit(id);
+    if (!trace || (trace->to == to && trace->from == from))
+        return false;
+    if (qMin(to, from) < 1 || qMax(to, from) > networks.all().at(trace->network).ports)
+        return false;
+    trace->to = to;
+    trace->from = from;
+    m_memories.remove(id);
+    return true;
+}
+
+bool Traces::setScale(int id, const Scale &scale)
+{
+    Trace *trace = edit(id);
+    if (!trace || trace->scale == scale || !std::isfinite(scale.top)
+        || !std::isfinite(scale.perDivision) || !(scale.perDivision > 0.0))
+        return false;
+    trace->scale = scale;
+    return true;
+}
+
+bool Traces::storeMemory(int id, const Memory &memory)
+{
+    if (!find(id))
+        return false;
+    m_memories.insert(id, memory);
+    return true;
+}
+
+} // namespace Panel

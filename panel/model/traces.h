@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "networks.h"
+#include "traceformat.h"
+
+#include <QHash>
+
+namespace Panel
+{
+
+/// One line on the panel: a parameter of a network in a format.
+struct Trace {
+    int id = 0; ///< from 1, unique on the panel
+    int network = 0; ///< index into Networks::all()
+    int to = 1; ///< port that the wave leaves
+    int from = 1; ///< port that the wave enters
+    TraceFormat format = TraceFormat::Smith; ///< decides which diagram shows it
+    Scale scale; ///< of a Cartesian diagram; a Smith chart has a zoom
+    bool visible = true;
+
+    bool onSmithChart() const { return format == TraceFormat::Smith; }
+};
+
+/// A trace's data as they were stored to compare later ones with.
+struct Memory {
+    QVector<double> frequencies;
+    Parameter parameter;
+};
+
+/// The traces made of the networks, which of them is active, and what was stored of each.
+class Traces
+{
+public:
+    const QVector<Trace> &all() const { return m_all; }
+    /// The trace of this id, or null.
+    const Trace *find(int id) const;
+    /// The active trace, or null when there are no traces.
+    const Trace *active() const { return find(m_recent.value(0)); }
+    /// The one of these traces that is active or was last, or null when there is none.
+    const Trace *active(const QVector<int> &among) const;
+    /// What was stored of a trace, or null.
+    const Memory *memory(int id) const;
+
+    /// Makes new traces, of which the first is active: the reflections of up to four ports on the
+    /// Smith chart, then what they get from port 1 in dB, of a two-port also the way back; of a
+    /// one-port its reflection in both ways.
+    void rebuild(const Networks &networks);
+    /// \name Each returns whether anything changed
+    ///@{
+    bool setActive(int id);
+    bool setVisible(int id, bool visible);
+    /// The scale becomes the default one.
+    bool setFormat(int id, TraceFormat format, const Networks &networks);
+    /// False for a parameter that the trace's network does not have. What was stored is dropped: it
+    /// is nothing to compare with.
+    bool setParameter(int id, int to, int from, const Networks &networks);
+    /// False for a scale that is not finite or not above zero a division.
+    bool setScale(int id, const Scale &scale);
+    bool storeMemory(int id, const Memory &memory);
+    bool clearMemory(int id) { return m_memories.remove(id) > 0; }
+    ///@}
+
+private:
+    Trace *edit(int id);
+    Scale startScale(int network, TraceFormat format, const Networks &networks) const;
+
+    QVector<Trace> m_all;
+    QVector<int> m_recent; ///< ids, the active one in front and the one before behind it
+    QHash<int, Memory> m_memories; ///< by trace
+};
+
+} // namespace Panel

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panellock.h"
+
+#include <widgets/lockwidget.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QShortcutEvent>
+
+namespace Panel
+{
+
+namespace
+{
+
+const QKeySequence s_unlock(int(Qt::CTRL) | int(Qt::Key_L));
+
+} // namespace
+
+PanelLock::PanelLock(LockWidget *padlock, QWidget *window)
+    : QObject(window)
+    , m_padlock(padlock)
+    , m_window(window)
+{
+    connect(padlock, &LockWidget::pressBlocked, this, &PanelLock::blocked);
+    connect(padlock, &LockWidget::lockedChanged, this, [this](bool locked) {
+        if (locked) {
+            qApp->installEventFilter(this);
+        } else {
+            qApp->removeEventFilter(this);
+            m_padlock->setScreenLockEnable(false);
+        }
+        Q_EMIT lockedChanged(locked);
+    });
+}
+
+bool PanelLock::isLocked() const
+{
+    return m_padlock && m_padlock->isLocked();
+}
+
+void PanelLock::setLocked(bool locked)
+{
+    if (!m_padlock || locked == isLocked())
+        return;
+    if (locked)
+        m_padlock->setScreenLockEnable(true);
+    m_padlock->setLocked(locked);
+}
+
+bool PanelLock::eventFilter(QObject *watched, QEvent *event)
+{
+    // A shortcut is an object; of all others, windows come before their widgets.
+    const bool counts = watched->isWidgetType() || event->type() == QEvent::Shortcut;
+    if (!counts || !isBlocked(event))
+        return QObject::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::Shortcut
+        || event->type() == QEvent::Wheel || event->type() == QEvent::Drop)
+        Q_EMIT blocked();
+    return true;
+}
+
+bool PanelLock::isBlocked(QEvent *event) const
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride: {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        const bool unlocks = QKeySequence(int(key->modifiers()) | key->key()) == s_unlock;
+        const bool travels = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+        // A modifier by itself does nothing.
+        const bool modifier = key->key() >= Qt::Key_Shift && key->key() <= Qt::Key_ScrollLock;
+        return !unlocks && !travels && !modifier && !(m_padlock && m_padlock->hasFocus());
+    }
+    case QEvent::Shortcut:
+        return static_cast<QShortcutEvent *>(event)->key() != s_unlock;
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::NativeGesture:
+    case QEvent::Gesture:
+    case QEvent::TabletPress:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+    case QEvent::InputMethod:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace Panel

@@ -1,0 +1,355 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk.h"
+
+#include <cmath>
+
+using namespace VnaTest;
+using namespace Panel;
+
+namespace
+{
+
+/// A two-port of so many points between two frequencies whose parameters fall from 0 dB to -40 dB
+/// and turn as they go; one point is a spike of 20 dB.
+Network slope(int points, double start = 1e9, double stop = 2e9)
+{
+    Network network;
+    network.ports = 2;
+    network.parameters.resize(4);
+    const int spike = points * 3 / 10;
+    for (int i = 0; i < points; ++i) {
+        const double share = double(i) / (points - 1);
+        network.frequencies.append(start + (stop - start) * share);
+        const double magnitude = i == spike ? 10.0 : std::pow(10.0, -2.0 * share);
+        for (Parameter &parameter : network.parameters) {
+            parameter.real.append(magnitude * std::cos(20.0 * share));
+            parameter.imag.append(magnitude * std::sin(20.0 * share));
+        }
+    }
+    return network;
+}
+
+struct Desk : PanelDesk {
+    using PanelDesk::PanelDesk;
+
+    CartesianView *view() const { return window.cartesianView(); }
+    QCustomPlot *plot() const { return view()->plot(); }
+    /// A point of a trace in pixels of the window.
+    QPoint onTrace(int traceId, int index) const
+    {
+        const Trace &trace = *model.trace(traceId);
+        const double value = cartesianValueAt(model.data(trace), index, TraceFormat::LogMagnitude);
+        const double hertz = model.network(trace).frequencies.at(index);
+        const QPointF point(plot()->xAxis->coordToPixel(hertz), plot()->yAxis->coordToPixel(value));
+        return plot()->mapTo(&window, point.toPoint());
+    }
+    QStringList frequencies() const { return view()->frequencyAxis().texts(); }
+    /// Where a marker is drawn.
+    QPointF drawn(int traceId, int number) const
+    {
+        return view()->drawnMarker(traceId, number)->getTracer()->position->coords();
+    }
+    QCPRange x() const { return plot()->xAxis->range(); }
+    QCPRange y() const { return plot()->yAxis->range(); }
+};
+
+} // namespace
+
+class CartesianViewTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// As a window finds when it is moved there.
+    void anotherScreenHasAnotherPixelRatio()
+    {
+        Desk desk;
+        QCustomPlot *plot = desk.plot();
+        const double ratio = plot->devicePixelRatioF();
+        plot->setBufferDevicePixelRatio(3.0 * ratio);
+        int replots = 0;
+        connect(plot, &QCustomPlot::afterReplot, this, [&replots] { ++replots; });
+        QEvent moved(QEvent::ScreenChangeInternal);
+        QCoreApplication::sendEvent(desk.view(), &moved);
+        QCOMPARE(plot->bufferDevicePixelRatio(), ratio);
+        QCOMPARE(replots, 1);
+    }
+
+    void initTestCase() { setUpApplication(); }
+
+    void readsDecibelsAndDegrees()
+    {
+        QCOMPARE(cartesianValue(0.0, -0.1, TraceFormat::LogMagnitude), -20.0);
+        QCOMPARE(cartesianValue(0.0, 0.0, TraceFormat::LogMagnitude), -300.0);
+        QCOMPARE(cartesianValue(-1.0, 0.0, TraceFormat::Phase), 180.0);
+        QCOMPARE(cartesianValue(1.0, -1.0, TraceFormat::Phase), -45.0);
+        QCOMPARE(cartesianText(-1.324, TraceFormat::LogMagnitude), "\u22121.32 dB"_s);
+        QCOMPARE(cartesianText(90.0, TraceFormat::Phase), "90.0\u00b0"_s);
+    }
+
+    void thinsWithoutLosingPeaks()
+    {
+        QVERIFY(cartesianLine({}, {}, TraceFormat::Phase, 100).values.isEmpty());
+        for (const int points : {400, 100003}) { // few are all drawn
+            const Network network = slope(points);
+            const Parameter parameter = network.s(2, 1);
+            for (const auto format : {TraceFormat::LogMagnitude, TraceFormat::Phase}) {
+                const CartesianLine line =
+                    cartesianLine(network.frequencies, parameter, format, 100);
+                QCOMPARE(line.values.size(), line.frequencies.size());
+                QVERIFY(line.values.size() <= 400);
+                // Both ends, and the extremes of the whole.
+                QCOMPARE(line.frequencies.first(), network.frequencies.first());
+                QCOMPARE(line.frequencies.last(), network.frequencies.last());
+                QVERIFY(std::is_sorted(line.frequencies.begin(), line.frequencies.end()));
+                QVector<double> all;
+                for (int i = 0; i < points; ++i)
+                    all << cartesianValueAt(parameter, i, format);
+                const auto [least, most] = std::minmax_element(all.begin(), all.end());
+                const auto ends = std::minmax_element(line.values.begin(), line.values.end());
+                QCOMPARE(*ends.first, *least);
+                QCOMPARE(*ends.second, *most);
+            }
+        }
+    }
+
+    void showsTransmissionBesideReflection()
+    {
+        Desk desk;
+        QCOMPARE(desk.window.smithView()->chart()->traceIds(), (QVector<int>{1, 2}));
+        QVERIFY(!desk.view()->graph(1));
+        QCPGraph *s21 = desk.view()->graph(3);
+        QVERIFY(s21 && desk.view()->graph(4));
+        QVERIFY(desk.view()->isVisible() && desk.window.smithView()->isVisible());
+        QCOMPARE(s21->pen().color(), currentLook().trace(3));
+        bool found = false;
+        QVERIFY(s21->getValueRange(found).upper > -3.0);
+        QVERIFY(desk.y() == QCPRange(-100.0, 0.0));
+        QVERIFY(desk.x() == QCPRange(2.3e9, 2.6e9));
+
+        desk.model.setActiveTrace(4);
+        QCOMPARE(desk.view()->graph(4)->layer()->name(), "activeTrace"_s);
+        QCOMPARE(desk.window.smithView()->chart()->activeTrace(), 1);
+        desk.model.setTraceVisible(4, false);
+        QVERIFY(!desk.view()->graph(4)->visible() && s21->visible());
+    }
+
+    void choosesDiagrams()
+    {
+        Desk desk;
+        const auto shown = [&desk] {
+            return std::pair(desk.window.smithView()->isVisible(), desk.view()->isVisible());
+        };
+        desk.setLayout(Graph::LayoutType::Single);
+        QCOMPARE(shown(), std::pair(true, false));
+        desk.model.setActiveTrace(4);
+        QCOMPARE(shown(), std::pair(false, true));
+        desk.setLayout(Graph::LayoutType::Quad);
+        QCOMPARE(desk.window.diagrams()->views().size(), 4);
+        desk.model.setTraceFormat(4, TraceFormat::Smith);
+        QCOMPARE(desk.window.diagrams()->activeView()->traceIds(), QVector<int>{4});
+        QVERIFY(qobject_cast<SmithView *>(desk.window.diagrams()->activeView()));
+        desk.setLayout(Graph::LayoutType::SideBySide);
+        QCOMPARE(desk.window.smithView()->traceIds(), (QVector<int>{1, 2, 4}));
+        QCOMPARE(desk.view()->traceIds(), QVector<int>{3});
+        desk.show({});
+        QVERIFY(desk.window.diagrams()->views().isEmpty());
+    }
+
+    void markersFollowTheirPointer()
+    {
+        Desk desk;
+        mouseDoubleClick(&desk.window, desk.onTrace(3, 600));
+        QCOMPARE(desk.model.activeTrace()->id, 3);
+        QVERIFY(std::abs(desk.index(3, 1) - 600.0) < 4.0);
+        QCOMPARE(desk.model.selectedMarker(), desk.model.marker(3, 1));
+
+        // Its triangle stands on the point.
+        const QPoint grip = desk.onTrace(3, int(desk.index(3, 1))) - QPoint(0, 8);
+        const QPoint to(desk.onTrace(3, 900).x(), grip.y());
+        mouseDrag(desk.window.windowHandle(), grip, to, 5);
+        const double index = desk.index(3, 1);
+        QVERIFY(std::abs(index - 900.0) < 4.0);
+        const Parameter &data = desk.model.data(*desk.model.trace(3));
+        QCOMPARE(desk.drawn(3, 1).y(), cartesianValueAt(data, index, TraceFormat::LogMagnitude));
+        mouseMove(&desk.window, grip);
+        QCOMPARE(desk.index(3, 1), index);
+
+        desk.model.setTraceVisible(3, false);
+        QVERIFY(!desk.view()->drawnMarker(3, 1)->isVisible());
+        desk.model.setTraceVisible(3, true);
+        // Beside the marker a tap selects none, and activates the diagram it is on.
+        desk.model.setActiveTrace(1);
+        mouseClick(&desk.window, desk.onTrace(3, 300) + QPoint(0, 60));
+        QCOMPARE(desk.model.activeTrace()->id, 3);
+        QVERIFY(!desk.model.selectedMarker());
+        desk.model.removeMarker(3, 1);
+        QVERIFY(!desk.view()->drawnMarker(3, 1));
+    }
+
+    void followsNewDataAndFormats()
+    {
+        Desk desk;
+        desk.show({slope(1001)});
+        // Room for the spike of 20 dB.
+        QVERIFY(desk.y() == QCPRange(-80.0, 20.0));
+        desk.model.addMarker(3, 1000.0);
+        Network network = slope(200001, 1.5e9, 2.5e9);
+        QVERIFY(desk.model.updateNetwork(0, network));
+        QVERIFY(desk.x() == QCPRange(1.5e9, 2.5e9));
+        QVERIFY(desk.view()->drawnPoints() < 20000);
+        // The marker kept its frequency, which is in the middle now.
+        QCOMPARE(desk.index(3, 1), 100000.0);
+        const QPointF drawn = desk.drawn(3, 1);
+        QVERIFY(std::abs(drawn.x() - 2e9) < 1.0 && std::abs(drawn.y() + 20.0) < 0.01);
+
+        Q_EMIT desk.keys().format->choicePicked(int(TraceFormat::Phase));
+        QVERIFY(desk.y() == QCPRange(-180.0, 180.0));
+        const double turned = std::remainder(10.0 * 180.0 / std::acos(-1.0), 360.0);
+        QVERIFY(std::abs(desk.drawn(3, 1).y() - turned) < 0.01);
+
+        // Data of another kind is refused.
+        network.ports = 1;
+        QVERIFY(!desk.model.updateNetwork(0, network));
+        QVERIFY(!desk.model.updateNetwork(1, slope(3)));
+        QVERIFY(!desk.model.updateNetwork(0, Network()));
+        QCOMPARE(desk.model.networks().first().ports, 2);
+    }
+
+    /// What is shown at once, without a tap or another size, is what a size asked for later gives.
+    void firstLayoutIsRight_data()
+    {
+        columns<QSize>("size");
+        for (const QSize &size : {QSize(800, 480), QSize(1280, 800), QSize(1920, 1080)})
+            QTest::addRow("%d high", size.height()) << size;
+    }
+
+    void firstLayoutIsRight()
+    {
+        QFETCH(QSize, size);
+        PanelModel model;
+        PanelWindow window(&model);
+        window.resize(size);
+        model.openNetworks({slope(1001), slope(501, 1.2e9, 4e9)});
+        model.addMarker(3, 300.0);
+        model.addMarker(3, 500.0);
+        model.setTraceFormat(1, TraceFormat::Vswr);
+        model.setActiveTrace(8);
+        model.viewSettings()->layoutProfile()->setLayoutType(Graph::LayoutType::Quad);
+        window.show();
+        const auto check = [&](const char *when) {
+            for (int i = 0; i < 4; ++i)
+                QCoreApplication::processEvents();
+            const QStringList broken = Fuzz::brokenRules(model, *window.diagrams());
+            QVERIFY2(broken.isEmpty(), qPrintable(QLatin1String(when) + broken.join("; "_s)));
+        };
+        check("at first: ");
+        // Lines as near as they can be read.
+        const auto steps = [&window] {
+            QVector<int> counts;
+            for (const DiagramView *view : window.diagrams()->views())
+                counts << int(view->plot()->yAxis->tickVector().size());
+            return counts;
+        };
+        const QVector<int> before = steps();
+        window.resize(size + QSize(8, 8));
+        check("after another size: ");
+        window.resize(size);
+        check("back again: ");
+        QCOMPARE(steps(), before);
+        // A diagram of its own for each: the marker of Tr3 stays with it.
+        model.setActiveTrace(3);
+        check("of other traces: ");
+        int drawn = 0;
+        for (const DiagramView *view : window.diagrams()->views())
+            drawn += view->drawnMarker(3, 1) && view->drawnMarker(3, 1)->isVisible();
+        QCOMPARE(drawn, 1);
+    }
+
+    void writesTheFrequenciesThatItShows()
+    {
+        Desk desk(QSize(1280, 800));
+        const auto is = [&desk](const char *left, const char *centre, const char *right) {
+            Desk::settle();
+            desk.checkRules();
+            const QStringList wanted{QString::fromUtf8(left), QString::fromUtf8(centre),
+                                     QString::fromUtf8(right)};
+            if (desk.frequencies() != wanted)
+                qInfo() << desk.frequencies();
+            return desk.frequencies() == wanted;
+        };
+        QVERIFY(is("2.3 GHz", "2.45 GHz \u00b7 30 MHz/", "2.6 GHz"));
+        desk.model.setActiveTrace(3);
+        desk.model.setZoom(desk.view()->id(), {4.0, 0.5, 0.0});
+        QVERIFY(is("2.4875 GHz", "2.525 GHz \u00b7 7.5 MHz/", "2.5625 GHz"));
+        desk.model.setZoom(desk.view()->id(), Zoom());
+        desk.model.setStimulus(*desk.model.activeTrace(), {2.4e9, 2.5e9});
+        QVERIFY(is("2.4 GHz", "2.45 GHz \u00b7 10 MHz/", "2.5 GHz"));
+        // Of two files all that there is, whichever trace is active.
+        desk.show({slope(11, 1e9, 2e9), slope(11, 3e9, 4e9)});
+        QVERIFY(is("1 GHz", "2.5 GHz \u00b7 300 MHz/", "4 GHz"));
+        desk.model.setActiveTrace(7);
+        QVERIFY(is("1 GHz", "2.5 GHz \u00b7 300 MHz/", "4 GHz"));
+    }
+
+    /// No two traces look alike, whichever file they are of.
+    void tracesOfTwoFilesDiffer()
+    {
+        Desk desk;
+        QVERIFY(desk.openSamples({"amplifier.s2p"_s, "band-pass.s2p"_s}));
+        Desk::settle();
+        QCOMPARE(desk.model.traces().size(), 8);
+        QVector<QColor> colors;
+        for (const Trace &trace : desk.model.traces()) {
+            const QPen pen = currentLook().pen(trace.id, trace.network);
+            QVERIFY(!colors.contains(pen.color()));
+            colors << pen.color();
+            QCOMPARE(pen.style() == Qt::SolidLine, trace.network == 0);
+            if (const QCPGraph *graph = desk.view()->graph(trace.id))
+                QCOMPARE(graph->pen(), pen);
+        }
+    }
+
+    void offersToFitWhatIsOutside()
+    {
+        Desk desk;
+        desk.model.setActiveTrace(3);
+        QVERIFY(!desk.view()->fitButton()->isVisible());
+        desk.model.setTraceScale(4, {10.0, -200.0});
+        QVERIFY(desk.view()->fitButton()->isVisible());
+        QCOMPARE(desk.view()->fitButton()->text(), "Tr4 S12 lies above: fit"_s);
+        desk.model.setTraceVisible(4, false);
+        QVERIFY(!desk.view()->fitButton()->isVisible());
+        desk.model.setTraceVisible(4, true);
+        Desk::settle();
+        desk.click(desk.view()->fitButton());
+        QVERIFY(!desk.view()->fitButton()->isVisible());
+        const Trace &fitted = *desk.model.trace(4);
+        QVERIFY(fitted.scale.top >= highestValue(desk.model.data(fitted), fitted.format));
+    }
+
+    /// Where markers of two traces coincide, the active trace's are seen and meant.
+    void activeMarkersLieOnTop()
+    {
+        Desk desk;
+        desk.show({slope(1001)}); // S12 is S21
+        for (const int trace : {3, 4})
+            desk.model.addMarker(trace, 500.0);
+        for (const int active : {4, 3, 4}) {
+            desk.model.setActiveTrace(active);
+            Desk::settle();
+            const QCPLayer *layer = desk.view()->drawnMarker(3, 1)->getTracer()->layer();
+            const auto depth = [&](int trace) {
+                return layer->children().indexOf(desk.view()->drawnMarker(trace, 1)->getTracer());
+            };
+            QVERIFY(depth(active) > depth(7 - active));
+            mouseClick(&desk.window, desk.onTrace(active, 500) - QPoint(0, 6));
+            QCOMPARE(desk.model.selectedMarker(), desk.model.marker(active, 1));
+            desk.model.selectMarker(0, 0);
+        }
+    }
+};
+
+QTEST_MAIN(CartesianViewTest)
+#include "tst_cartesianview.moc"

@@ -1,0 +1,438 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vnatest.h"
+
+#include <panel/diagrams/markerreading.h>
+#include <panel/ground/numbertext.h>
+#include <panel/model/markersearch.h>
+#include <panel/model/panelmodel.h>
+
+#include <cmath>
+
+using namespace VnaTest;
+using namespace Panel;
+
+namespace
+{
+
+/// A network whose parameters are 0, 1 and so on at each of its frequencies.
+Network network(int ports, const QVector<double> &frequencies = {1e9})
+{
+    Network result;
+    result.ports = ports;
+    result.frequencies = frequencies;
+    const QVector<double> zeros(frequencies.size());
+    for (int i = 0; i < ports * ports; ++i)
+        result.parameters.append({QVector<double>(zeros.size(), i), zeros});
+    return result;
+}
+
+QStringList names(const PanelModel &model)
+{
+    QStringList result;
+    for (const Trace &trace : model.traces())
+        result << QString::number(trace.id) + QLatin1Char(' ') + PanelModel::parameterName(trace);
+    return result;
+}
+
+double index(const PanelModel &model, int trace, int number)
+{
+    const Marker *marker = model.marker(trace, number);
+    return marker ? model.indexOf(*marker) : qQNaN();
+}
+
+} // namespace
+
+class PanelModelTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void makesATraceOfEachParameter()
+    {
+        PanelModel model;
+        QVERIFY(!model.activeTrace());
+        model.openNetworks({network(1), network(2)});
+        QCOMPARE(names(model),
+                 (QStringList{"1 S11"_s, "2 S11"_s, "3 S11"_s, "4 S22"_s, "5 S21"_s, "6 S12"_s}));
+        QCOMPARE(model.data(*model.trace(5)).real, QVector<double>{1.0});
+        QCOMPARE(model.activeTrace(false), model.trace(2));
+        QCOMPARE(model.data(*model.trace(4)).real, QVector<double>{3.0});
+        QCOMPARE(model.network(*model.trace(4)).ports, 2);
+        QCOMPARE(model.activeTrace(), model.trace(1));
+
+        model.setActiveTrace(5);
+        model.setActiveTrace(3);
+        QCOMPARE(model.activeTrace(false), model.trace(5));
+        QCOMPARE(model.activeTrace(true), model.trace(3));
+        model.setTraceVisible(3, false);
+        model.openNetworks({network(1)});
+        QCOMPARE(names(model), (QStringList{"1 S11"_s, "2 S11"_s}));
+        QCOMPARE(model.activeTrace()->id, 1);
+        QVERIFY(model.activeTrace()->visible);
+        QCOMPARE(model.activeTrace(false)->format, TraceFormat::LogMagnitude);
+
+        model.openNetworks({});
+        QVERIFY(!model.activeTrace());
+        QVERIFY(!model.trace(0));
+    }
+
+    void tellsWhatChanged()
+    {
+        PanelModel model;
+        model.openNetworks({network(2)});
+        QStringList told;
+        note(told, "active", &model, &PanelModel::activeTraceChanged);
+        note(told, "visible", &model, &PanelModel::traceVisibleChanged);
+        for (const int id : {1, 0, -1, 5, 2, 2})
+            model.setActiveTrace(id);
+        QCOMPARE(model.activeTrace()->id, 2);
+        model.setTraceVisible(1, true);
+        model.setTraceVisible(7, false);
+        model.setTraceVisible(1, false);
+        QCOMPARE(told, (QStringList{"active"_s, "visible 1 false"_s}));
+
+        model.setActiveTrace(1);
+        note(told, "selected", &model, &PanelModel::selectedMarkerChanged);
+        model.addMarker(2, 0.0);
+        QCOMPARE(model.activeTrace()->id, 2);
+        QCOMPARE(model.selectedMarker(), model.marker(2, 1));
+        QCOMPARE(told.count("selected"_s), 1);
+        model.setActiveTrace(1);
+        QVERIFY(!model.selectedMarker());
+        QCOMPARE(told.count("selected"_s), 2);
+        model.selectMarker(2, 1);
+        QCOMPARE(model.activeTrace()->id, 2);
+        model.removeMarker(2, 1);
+        QVERIFY(!model.selectedMarker());
+        QCOMPARE(told.count("selected"_s), 4);
+        model.selectMarker(2, 1);
+        QCOMPARE(told.count("selected"_s), 4);
+    }
+
+    void numbersMarkers()
+    {
+        PanelModel model;
+        model.openNetworks({network(1, {1e9, 2e9, 3e9})});
+        QStringList told;
+        note(told, "exhausted", &model, &PanelModel::markersExhausted);
+        note(told, "moved", &model, &PanelModel::markerMoved);
+        for (const double outside : {-0.1, 2.1, qQNaN()})
+            QCOMPARE(model.addMarker(1, outside), 0);
+        QCOMPARE(model.addMarker(3, 0.0), 0);
+        for (int number = 1; number <= Markers::perTrace; ++number)
+            QCOMPARE(model.addMarker(1, 2.0), number);
+        QVERIFY(told.isEmpty());
+        QCOMPARE(model.addMarker(1, 0.0), 0);
+        model.removeMarker(1, 2);
+        model.removeMarker(1, 2);
+        QCOMPARE(model.addMarker(1, 0.5), 2);
+        QCOMPARE(index(model, 1, 2), 0.5);
+
+        for (const double index : {0.5, -1.0, 3.0, 1.0})
+            model.moveMarker(1, 2, index);
+        QCOMPARE(told, (QStringList{"exhausted 1"_s, "moved 1 2"_s}));
+        QCOMPARE(index(model, 1, 2), 1.0);
+
+        model.openNetworks(QVector<Network>(model.networks()));
+        QVERIFY(model.markers().isEmpty());
+    }
+
+    void readsPoints_data()
+    {
+        columns<QPointF, int, QString>("gamma", "format", "values");
+        const int z = int(ReadoutFormat::Impedance), y = int(ReadoutFormat::Admittance);
+        const int db = int(ReadoutFormat::Decibels), vswr = int(ReadoutFormat::Vswr);
+        row("match", QPointF(), z, "50.00 \u03a9|+j0.000 \u03a9|");
+        row("short", QPointF(-1, 0), z, "0.000 \u03a9|+j0.000 \u03a9|");
+        row("open", QPointF(1, 0), z, "\u221e \u03a9|\u2013|");
+        // 50 Ohm and j50 Ohm: the inductor has 50 / (2 pi 1 GHz), the capacitor 1 / (2 pi 1 GHz
+        // 50).
+        row("inductive", QPointF(0.2, 0.4), z, "50.00 \u03a9|+j50.00 \u03a9|7.958 nH");
+        row("capacitive", QPointF(0.2, -0.4), z, "50.00 \u03a9|\u2212j50.00 \u03a9|3.183 pF");
+        row("active", QPointF(-2, 0), z, "\u221216.67 \u03a9|+j0.000 \u03a9|");
+        // 1 / (50 + j50) is 10 mS - j10 mS.
+        row("admittance", QPointF(0.2, 0.4), y, "10.00 mS|\u2212j10.00 mS|15.92 nH");
+        row("short as admittance", QPointF(-1, 0), y, "\u221e S|\u2013|");
+        row("polar", QPointF(0, 0.5), int(ReadoutFormat::MagnitudePhase), "0.5000|90.0\u00b0");
+        row("decibels", QPointF(-0.1, 0), db, "\u221220.00 dB|180.0\u00b0");
+        row("standing wave", QPointF(0, -0.5), vswr, "3.00");
+        row("no standing wave", QPointF(1, 0), vswr, "\u2013");
+        row("nothing", QPointF(qQNaN(), 0), z, "\u2013|\u2013|");
+        row("no level", QPointF(qQNaN(), 0), db, "\u2013|\u2013");
+    }
+
+    void readsPoints()
+    {
+        QFETCH(QPointF, gamma);
+        QFETCH(int, format);
+        Network one = network(1);
+        one.parameters = {{{gamma.x()}, {gamma.y()}}};
+        const auto read = [&](double index) {
+            return readOnSmithChart({&one, &one.parameters.first(), index}, ReadoutFormat(format));
+        };
+        QCOMPARE(read(0.0).frequency, "1.000 GHz"_s);
+        QTEST(read(0.0).values.join(QLatin1Char('|')), "values");
+        // Half-way between two points.
+        one.frequencies = {0.5e9, 1.5e9};
+        one.parameters = {{{gamma.x() - 0.1, gamma.x() + 0.1}, {gamma.y() + 0.3, gamma.y() - 0.3}}};
+        QTEST(read(0.5).values.join(QLatin1Char('|')), "values");
+    }
+
+    void readsDifferences()
+    {
+        Network one = network(1, {1e9, 1.5e9});
+        one.parameters = {{{0.0, 0.2}, {0.0, 0.4}}};
+        const auto at = [&one](double index) {
+            return MarkedPoint{&one, &one.parameters.constFirst(), index};
+        };
+        const MarkerReading reading = readOnSmithChart(at(0.0), ReadoutFormat::Impedance, at(1.0));
+        QCOMPARE(reading.frequency, "\u2212500.000 MHz"_s);
+        QCOMPARE(reading.values, (QStringList{"0.000 \u03a9"_s, "\u2212j50.00 \u03a9"_s}));
+        // 179 degrees and -179 degrees are 2 degrees apart.
+        one.parameters = {{{-1.0, -1.0}, {std::tan(0.01), -std::tan(0.01)}}};
+        QCOMPARE(readOnCartesian(at(1.0), TraceFormat::Phase, at(0.0)).values,
+                 QStringList{"1.1\u00b0"_s});
+    }
+
+    void searches()
+    {
+        Parameter values;
+        values.real = {0.1, 0.5, 0.1, 0.11, 0.1, qQNaN(), 0.9, 0.9, 0.1};
+        values.imag.resize(values.real.size());
+        const auto find = [&](Search search, double from) {
+            return searchMarker(values, TraceFormat::Smith, search, from);
+        };
+        QCOMPARE(find(Search::Maximum, 0), 6);
+        QCOMPARE(find(Search::Minimum, 0), 0);
+        QCOMPARE(find(Search::PeakRight, 0), 1);
+        QCOMPARE(find(Search::PeakRight, 1), 6); // not noise of 0.01
+        QCOMPARE(find(Search::PeakLeft, 8), 7);
+        QCOMPARE(find(Search::PeakLeft, 5), 1);
+        QCOMPARE(find(Search::PeakRight, 7), -1);
+        QCOMPARE(searchMarker({}, TraceFormat::Vswr, Search::Maximum, 0), -1);
+        QCOMPARE(searchMarker(values, TraceFormat::LogMagnitude, Search::PeakRight, 0), 1);
+    }
+
+    void formatsAndMemory()
+    {
+        PanelModel model;
+        Network filter = network(2);
+        filter.parameters[1] = {{31.6}, {0.0}}; // S21 of 30 dB
+        model.openNetworks({filter});
+        QCOMPARE(model.trace(3)->scale, (Scale{10.0, 30.0}));
+        QCOMPARE(model.trace(4)->scale, model.trace(3)->scale); // comparable
+        QStringList told;
+        note(told, "traces", &model, &PanelModel::tracesChanged);
+        note(told, "scale", &model, &PanelModel::traceScaleChanged);
+        note(told, "memory", &model, &PanelModel::memoryChanged);
+        model.setTraceFormat(3, TraceFormat::Phase);
+        model.setTraceFormat(3, TraceFormat::Phase);
+        model.setTraceFormat(9, TraceFormat::Phase);
+        QCOMPARE(told, QStringList("traces"_s));
+        told.clear();
+        QCOMPARE(divisionText(model.trace(3)->format, model.trace(3)->scale.perDivision),
+                 "45\u00b0/"_s);
+        for (const Scale &bad : {Scale{0.0, 1.0}, Scale{-1.0, 1.0}, Scale{qQNaN(), 1.0},
+                                 Scale{1.0, qInf()}, model.trace(3)->scale})
+            model.setTraceScale(3, bad);
+        QVERIFY(told.isEmpty());
+        model.setTraceScale(3, {30.0, 90.0});
+        model.storeMemory(3);
+        QCOMPARE(told, (QStringList{"scale 3"_s, "memory 3"_s}));
+        QCOMPARE(model.memory(3)->parameter.real, QVector<double>{31.6});
+        model.setTraceParameter(3, 3, 1);
+        QVERIFY(model.memory(3));
+        model.setTraceParameter(3, 2, 2);
+        QVERIFY(!model.memory(3));
+        QCOMPARE(PanelModel::parameterName(*model.trace(3)), "S22"_s);
+        model.clearMemory(3);
+        QCOMPARE(told.count("memory 3"_s), 2);
+    }
+
+    void couplesMarkers()
+    {
+        PanelModel model;
+        model.openNetworks({network(1, {1e9, 2e9, 3e9}), network(1, {1.5e9, 2e9, 2.5e9})});
+        model.addMarker(1, 0.25);
+        model.setMarkersCoupled(true);
+        QCOMPARE(index(model, 2, 1), 0.25);
+        QCOMPARE(index(model, 3, 1), -1.0); // 1.25 GHz lies outside
+        model.moveMarker(1, 1, 0.75);
+        QCOMPARE(index(model, 3, 1), 0.5);
+        model.moveMarker(4, 1, 1.5);
+        QCOMPARE(index(model, 1, 1), 1.25);
+        model.setMarkersDiscrete(true);
+        QCOMPARE(index(model, 1, 1), 1.0);
+        model.setReferenceMarker(4, 1);
+        QCOMPARE(model.referenceMarker(4), model.marker(4, 1));
+        model.removeMarker(2, 1);
+        QVERIFY(model.markers().isEmpty() && !model.referenceMarker(4));
+    }
+
+    /// Markers and the reference that other traces have come along, whichever trace is active.
+    void couplingTakesTheMarkersOfAll()
+    {
+        PanelModel model;
+        model.openNetworks({network(2, {1e9, 2e9, 3e9}), network(2, {1e9, 2e9, 3e9})});
+        QCOMPARE(model.addMarker(1, 0.25), 1);
+        QCOMPARE(model.addMarker(1, 1.75), 2);
+        model.setReferenceMarker(1, 2);
+        model.addMarker(3, 1.0);
+        QCOMPARE(model.activeTrace()->id, 3);
+        QStringList told;
+        note(told, "reference", &model, &PanelModel::referenceMarkerChanged);
+        model.setMarkersCoupled(true);
+        QCOMPARE(told.size(), 7);
+        for (const Trace &trace : model.traces()) {
+            QCOMPARE(index(model, trace.id, 1), 1.0); // the active trace's own
+            QCOMPARE(index(model, trace.id, 2), 1.75);
+            QCOMPARE(model.referenceMarker(trace.id), model.marker(trace.id, 2));
+        }
+    }
+
+    void parkedMarkersComeBack()
+    {
+        PanelModel model;
+        model.openNetworks(
+            {network(1, {70e9, 75e9, 79e9, 80e9}), network(1, {1e9, 1e9, 1e9, 2e9})});
+        const auto show = [&model](double start, double stop) {
+            model.setStimulus(*model.trace(1), {start, stop});
+        };
+        model.addMarker(1, 1.0);
+        model.addMarker(1, 1.5);
+        show(752.4e9, 752.4e9); // a slip of the finger
+        QCOMPARE(index(model, 1, 1), -1.0);
+        QCOMPARE(model.hertzOf(*model.marker(1, 1)), 75e9);
+        const MarkerReading reading = readMarker(model, *model.marker(1, 1), nullptr);
+        QCOMPARE(reading.frequency, "75.000 GHz"_s);
+        QCOMPARE(reading.values.first(), nothingText());
+        model.setMarkersDiscrete(true);
+        QCOMPARE(index(model, 1, 1), -1.0);
+        model.setMarkersDiscrete(false);
+        show(70e9, 80e9);
+        QCOMPARE(index(model, 1, 1), 1.0);
+        QCOMPARE(index(model, 1, 2), 1.5);
+        // Of points at the same frequency it keeps its own.
+        model.addMarker(3, 2.0);
+        model.setStimulus(*model.trace(3), {1e9, 1e9});
+        model.setStimulus(*model.trace(3), {1e9, 2e9});
+        QCOMPARE(index(model, 3, 1), 2.0);
+        // Data of another length leave it at its frequency, those of another band park it.
+        QVERIFY(model.updateNetwork(0, network(1, {75e9, 76e9})));
+        QCOMPARE(index(model, 1, 1), 0.0);
+        QVERIFY(model.updateNetwork(0, network(1, {1e9, 2e9})));
+        QCOMPARE(index(model, 1, 1), -1.0);
+        QVERIFY(model.updateNetwork(0, network(1, {74e9, 76e9})));
+        QCOMPARE(index(model, 1, 1), 0.5);
+    }
+
+    void startAndStopTakeEachOtherAlong()
+    {
+        const std::tuple<decltype(&withStart), double, Stimulus> rows[] = {
+            {withStart, 150.0, {150.0, 200.0}},
+            {withStart, 300.0, {300.0, 300.0}}, // beyond the stop
+            {withStart, -1.0, {0.0, 200.0}},
+            {withStop, 500.0, {100.0, 500.0}},
+            {withStop, 50.0, {50.0, 50.0}}, // below the start
+            {withCenter, 700.0, {650.0, 750.0}},
+            {withCenter, 990.0, {980.0, 1000.0}}, // near the edge
+            {withSpan, 20.0, {140.0, 160.0}},
+            {withSpan, 400.0, {0.0, 400.0}}, // beyond the edge
+            {withSpan, 5000.0, {0.0, 1000.0}},
+        };
+        for (const auto &[change, value, expected] : rows) {
+            const Row row(QString::number(value));
+            QCOMPARE(change({100.0, 200.0}, value, {0.0, 1000.0}, 0.0), expected);
+        }
+        // A device sweeps its smallest span at the least, and never on to its limit.
+        PanelModel model;
+        model.setSource(Source::Filter);
+        model.beginMeasurement(network(2, {2.3e9, 2.6e9}));
+        const Trace &trace = *model.activeTrace();
+        model.setStimulus(trace, withStart(model.stimulus(trace), 2.7e9, model.limits(trace),
+                                           model.smallestSpan()));
+        QCOMPARE(model.stimulus(trace).start, 2.7e9);
+        QCOMPARE(model.stimulus(trace).stop, 2.7e9 + Sweep::smallestSpan);
+    }
+
+    /// A scale belongs to its trace, and fits whatever that shows.
+    void scalesFitTheirTraces()
+    {
+        const std::tuple<TraceFormat, double, double, Scale> rows[] = {
+            {TraceFormat::LogMagnitude, -3.2, -1.1, {0.5, 0.0}},
+            {TraceFormat::LogMagnitude, -95.0, 12.0, {20.0, 60.0}},
+            {TraceFormat::Phase, -170.0, 170.0, {90.0, 360.0}},
+            {TraceFormat::Vswr, 1.2, 8.0, {1.0, 11.0}},
+            {TraceFormat::Vswr, 5.0, qInf(), {1.0, 11.0}},
+        };
+        for (const auto &[format, lowest, highest, expected] : rows) {
+            const Row row(formatName(format) + QString::number(highest));
+            const Scale scale = fittingScale(format, lowest, highest);
+            QVERIFY2(scale == expected,
+                     qPrintable("%1 %2"_s.arg(scale.perDivision).arg(scale.top)));
+            QVERIFY(bottom(format, scale) <= lowest);
+        }
+        PanelModel model;
+        Network amplifier = network(1, {1e9, 2e9});
+        amplifier.parameters.first().real = {0.001, 100.0}; // -60 dB and 40 dB
+        model.openNetworks({amplifier});
+        model.setTraceScale(2, {0.1, -200.0});
+        model.fitTrace(2);
+        QVERIFY(model.trace(2)->scale.top >= 40.0);
+        QVERIFY(bottom(TraceFormat::LogMagnitude, model.trace(2)->scale) <= -60.0);
+        model.setTraceScale(2, {0.1, -200.0});
+        model.openNetworks({network(1)});
+        QCOMPARE(model.trace(2)->scale, traits(TraceFormat::LogMagnitude).defaultScale);
+    }
+
+    void sourcesTakeTurns()
+    {
+        PanelModel model;
+        QStringList told;
+        note(told, "networks", &model, &PanelModel::networksChanged);
+        note(told, "tuning", &model, &PanelModel::tuningChanged);
+        model.openNetworks({network(2)});
+        model.beginMeasurement(network(1)); // late, of a simulation that has ended
+        QCOMPARE(model.networks().first().ports, 2);
+        model.setSource(Source::Antenna);
+        QCOMPARE(model.networks().first().ports, 2); // until there is something to show
+        model.beginMeasurement(network(1));
+        QCOMPARE(model.networks().first().ports, 1);
+        model.updateFile(0, network(2, {1e9, 3e9})); // read again behind the simulation
+        QCOMPARE(told, (QStringList{"networks"_s, "networks"_s}));
+        model.setSource(Source::Files);
+        QCOMPARE(model.networks().first().points(), 2);
+        for (const auto &[hertz, kept] : {std::pair(2.2e9, 2.2e9),
+                                          {9e9, 2.9e9},
+                                          {qInf(), 2.9e9},
+                                          {1.0, 2.0e9},
+                                          {qQNaN(), 2.0e9}}) {
+            model.setTuning(hertz);
+            QCOMPARE(model.tuning(), kept);
+        }
+        QCOMPARE(told.count("tuning"_s), 3);
+    }
+
+    void writesNumbers()
+    {
+        for (const auto &[value, text] : {std::pair(0.0, "0.000 H"),
+                                          {1.0, "1.000 H"},
+                                          {999.96, "1.000 kH"}, // rounds up to the next prefix
+                                          {999.94, "999.9 H"},
+                                          {0.01234, "12.34 mH"},
+                                          {-4.7e-6, "\u22124.700 \u00b5H"},
+                                          {1e-18, "0.001 fH"},
+                                          {1.5e16, "15000 TH"}})
+            QCOMPARE(engineeringText(value, "H"_s), QString::fromUtf8(text));
+        for (const auto &[hertz, text] : {std::pair(0.0, "0.000 Hz"),
+                                          {999.0, "999.000 Hz"},
+                                          {1e3, "1.000 kHz"},
+                                          {2450000001.0, "2.450000001 GHz"},
+                                          {75.175 * 1e9, "75.175 GHz"}}) // rounding noise
+            QCOMPARE(frequencyText(hertz), QString::fromUtf8(text));
+    }
+};
+
+QTEST_GUILESS_MAIN(PanelModelTest)
+#include "tst_panelmodel.moc"
