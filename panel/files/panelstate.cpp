@@ -56,7 +56,7 @@ bool isChoice(const QJsonValue &value, int count)
 
 bool isTrace(const QJsonObject &trace)
 {
-    for (const QJsonValue &value : trace["markers"_key].toArray()) {
+    for (const QJsonValue value : trace["markers"_key].toArray()) {
         const QJsonObject marker = value.toObject();
         if (!isChoice(marker["number"_key], Markers::perTrace + 1) || !marker["hertz"_key].isDouble()
             || !isChoice(marker["repeat"_key], 1 << 30))
@@ -81,8 +81,8 @@ bool isValid(const QJsonObject &state)
     }
     if (!isLanguage(state["language"_key].toString()) || !state["networks"_key].isArray())
         return false;
-    for (const QJsonValue &network : state["networks"_key].toArray()) {
-        for (const QJsonValue &trace : network.toObject()["traces"_key].toArray()) {
+    for (const QJsonValue network : state["networks"_key].toArray()) {
+        for (const QJsonValue trace : network.toObject()["traces"_key].toArray()) {
             if (!isTrace(trace.toObject()))
                 return false;
         }
@@ -155,7 +155,7 @@ void restoreTrace(PanelModel *model, int id, const QJsonObject &saved)
     model->setTraceFormat(id, TraceFormat(saved["format"_key].toInt()));
     model->setTraceScale(id, {saved["scale"_key].toDouble(), saved["top"_key].toDouble()});
     model->setTraceVisible(id, saved["visible"_key].toBool());
-    for (const QJsonValue &value : saved["markers"_key].toArray()) {
+    for (const QJsonValue value : saved["markers"_key].toArray()) {
         const QJsonObject marker = value.toObject();
         model->restoreMarker(id, marker["number"_key].toInt(),
                              {marker["hertz"_key].toDouble(), marker["repeat"_key].toInt()});
@@ -168,7 +168,7 @@ void restoreChoices(PanelModel *model, int id, const QJsonObject &saved)
 {
     if (saved["active"_key].toBool())
         model->setActiveTrace(id);
-    for (const QJsonValue &value : saved["markers"_key].toArray()) {
+    for (const QJsonValue value : saved["markers"_key].toArray()) {
         if (value.toObject()["selected"_key].toBool())
             model->selectMarker(id, value.toObject()["number"_key].toInt());
     }
@@ -211,7 +211,7 @@ void restoreNetworks(PanelModel *model, const QJsonObject &state)
     }
     for (const auto &[id, trace] : qAsConst(restored))
         restoreChoices(model, id, trace);
-    for (const QJsonValue &value : same ? state["zooms"_key].toArray() : QJsonArray()) {
+    for (const QJsonValue value : same ? state["zooms"_key].toArray() : QJsonArray()) {
         const QJsonObject zoom = value.toObject();
         model->setZoom({zoom["smith"_key].toBool(), zoom["place"_key].toInt()},
                        {zoom["factor"_key].toDouble(), zoom["x"_key].toDouble(), zoom["y"_key].toDouble()});
@@ -263,7 +263,7 @@ QString PanelState::language() const
 QStringList PanelState::files() const
 {
     QStringList files;
-    for (const QJsonValue &path : m_saved["files"_key].toArray())
+    for (const QJsonValue path : m_saved["files"_key].toArray())
         files << path.toString();
     return files;
 }
