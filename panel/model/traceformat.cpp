@@ -71,7 +71,7 @@ Scale fittingScale(TraceFormat format, double lowest, double highest)
     if (standing)
         return {division, 1.0 + row.divisions * division};
     if (format == TraceFormat::Phase && division >= 45.0)
-        return {division, row.divisions / 2 * division};
+        return {division, row.divisions / 2.0 * division};
     // In the middle, with the divisions at multiples of themselves.
     const double top = std::ceil(highest / division - 1e-9);
     const double used = top - std::floor(lowest / division + 1e-9);

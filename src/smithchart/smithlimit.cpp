@@ -232,7 +232,7 @@ LimitResult SmithLimit::test(int traceId)
     } else {
         d->showFailures({}, {});
     }
-    const LimitResult result = d->m_result;
+    LimitResult result = d->m_result;
     if (d->m_verdict != result.passed()) {
         d->m_verdict = result.passed();
         Q_EMIT verdictChanged(result.passed());
