@@ -101,7 +101,7 @@ QString Header::takeOptions(std::string_view line)
         return QString();
     std::string_view word;
     while (nextWord(line, word)) {
-        const QString reason = takeOption(word, line);
+        QString reason = takeOption(word, line);
         if (!reason.isEmpty())
             return reason;
     }
@@ -195,7 +195,7 @@ QString Header::takeMore(std::string_view line)
     std::string_view word;
     while (nextWord(line, word)) {
         if (m_open == Keyword::MixedModeOrder) {
-            const QString reason = takeMode(word);
+            QString reason = takeMode(word);
             if (!reason.isEmpty())
                 return reason;
             continue;

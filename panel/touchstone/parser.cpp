@@ -235,7 +235,7 @@ bool Parser::measureFirstPoint(std::string_view line)
     while (nextWord(line, word)) {
         if (!toNumber(word, value))
             return fail(notANumber(word));
-        if (m_firstPoint.size() > 2 * s_mostPorts * s_mostPorts)
+        if (m_firstPoint.size() > std::size_t(2) * s_mostPorts * s_mostPorts)
             break;
         m_firstPoint.push_back(value);
     }

@@ -134,7 +134,7 @@ void PointStore::store(int pair, int before)
     Parameter &parameter = m_network.parameters[place.parameter];
     double *const real = parameter.real.data() + before;
     double *const imag = parameter.imag.data() + before;
-    const double *from = m_block.data() + 1 + 2 * pair;
+    const double *from = m_block.data() + 1 + 2 * std::ptrdiff_t(pair);
     for (int i = 0; i < m_filled; ++i, from += m_numbers) {
         // Half a value is none.
         const bool isGap = std::isnan(from[0]) || std::isnan(from[1]);

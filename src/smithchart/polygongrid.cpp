@@ -13,7 +13,7 @@ PolygonGrid::PolygonGrid(const QPolygonF &polygon)
     , m_columnsPerUnit(cells / m_box.width())
     , m_rowsPerUnit(cells / m_box.height())
     , m_rows(cells)
-    , m_cells(cells * cells, Outside)
+    , m_cells(std::size_t(cells) * std::size_t(cells), Outside)
 {
     for (int i = 0; i < polygon.size(); ++i) {
         const QPointF &a = polygon.at(i);
