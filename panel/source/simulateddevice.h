@@ -21,7 +21,7 @@ namespace Panel
     SimulatedDevice device(Source::Filter, sweep);
     Network network = device.preview();
     device.measure(network, 0, sweep.points, 0);
-    model.setNetworks({network});
+    model.beginMeasurement(network);
     \endcode */
 class SimulatedDevice
 {
