@@ -184,6 +184,8 @@ int main(int argc, char **argv)
     }
     QTimer::singleShot(200, &window, [&window] { fitToScreen(&window); });
     StateKeeper keeper(&model, state.path());
+    if (opened && !commandLine.files.isEmpty())
+        keeper.noteChange(); // what was asked for is what the next start goes back to
     const QuitSignals quitSignals;
     const int status = QApplication::exec();
     if (keeper.save())

@@ -30,6 +30,13 @@
         <source>All traces are hidden</source>
         <translation>Alle Kurven sind ausgeblendet</translation>
     </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Panel::DisplayKeys</name>

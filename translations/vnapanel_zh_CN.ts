@@ -30,6 +30,12 @@
         <source>All traces are hidden</source>
         <translation>所有轨迹均已隐藏</translation>
     </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n 个文件</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Panel::DisplayKeys</name>

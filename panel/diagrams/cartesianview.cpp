@@ -409,8 +409,7 @@ QStringList CartesianView::titleParts() const
     if (!active)
         return {};
     return {formatName(active->format), divisionText(active->format, active->scale.perDivision),
-            tr("ref %1").arg(cartesianReferenceText(active->scale.top, active->format)),
-            m_model->network(*active).name};
+            tr("ref %1").arg(cartesianReferenceText(active->scale.top, active->format))};
 }
 
 int CartesianView::drawnPoints() const

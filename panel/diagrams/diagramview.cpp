@@ -25,6 +25,7 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
     , m_title(new ElidedLabel(Qt::ElideRight, this))
     , m_readOuts(new ReadOuts(model, this))
     , m_plot(new QCustomPlot(this))
+    , m_body(new QBoxLayout(QBoxLayout::TopToBottom))
 {
     m_title->setObjectName(QStringLiteral("dim"));
     m_title->setContentsMargins(10, 4, 10, 2);
@@ -32,8 +33,9 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_title);
-    column->addWidget(m_readOuts);
-    column->addWidget(m_plot, 1);
+    column->addLayout(m_body, 1);
+    m_body->addWidget(m_readOuts, 1);
+    m_body->addWidget(m_plot, 1);
     m_plot->setFocusPolicy(Qt::StrongFocus);
     connect(m_readOuts, &ReadOuts::selectionRequested, this,
             &DiagramView::markerSelectionRequested);
@@ -179,18 +181,25 @@ QString DiagramView::title() const
 
 void DiagramView::updateTitle()
 {
-    QStringList names;
+    QStringList names, networks;
     for (const Trace &trace : traces()) {
-        const QString name = PanelModel::parameterName(trace);
-        if (trace.visible && !names.contains(name))
-            names << name;
+        if (trace.visible) {
+            names << PanelModel::parameterName(trace);
+            networks << m_model->network(trace).name;
+        }
     }
+    names.removeDuplicates();
+    networks.removeDuplicates();
     QStringList parts;
     if (!names.isEmpty())
         parts << names.join(QStringLiteral(", "));
     else if (!m_traceIds.isEmpty())
         parts << tr("All traces are hidden");
     parts << titleParts();
+    if (networks.size() > 2)
+        parts << tr("%n files", nullptr, int(networks.size()));
+    else if (!networks.isEmpty())
+        parts << networks.join(QStringLiteral(", "));
     m_title->setText(parts.join(QStringLiteral(" \u00b7 ")));
 }
 
@@ -202,7 +211,15 @@ void DiagramView::replotLater()
 void DiagramView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    m_readOuts->setRoom(height());
+    // A square diagram leaves room beside it where it is much wider than high.
+    const int side = m_id.smith ? width() - height() : 0;
+    if (2 * side >= height()) {
+        m_body->setDirection(QBoxLayout::LeftToRight);
+        m_readOuts->showInColumn(side);
+    } else {
+        m_body->setDirection(QBoxLayout::TopToBottom);
+        m_readOuts->showInStrip(size(), m_id.smith ? 3 : 1);
+    }
 }
 
 void DiagramView::showEvent(QShowEvent *event)

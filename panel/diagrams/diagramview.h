@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+class QBoxLayout;
 class QCustomPlot;
 
 namespace Plot
@@ -109,7 +110,7 @@ protected:
     virtual void removeMarker(int traceId, int number) = 0;
     virtual void showSelectedMarker() = 0;
     virtual void showMemory(const Trace &trace) = 0;
-    /// What the title says beside the names of the traces.
+    /// What the title says between the names of the traces and those of their networks.
     virtual QStringList titleParts() const = 0;
     /// The plot has been laid out: what depends on its pixels is computed here and nowhere else.
     virtual void onLayout() = 0;
@@ -140,6 +141,7 @@ private:
     ElidedLabel *m_title;
     ReadOuts *m_readOuts;
     QCustomPlot *m_plot;
+    QBoxLayout *m_body; ///< of read-outs and plot
     QVector<int> m_traceIds;
     double m_dataMilliseconds = 0.0;
     bool m_stale = false; ///< data came while the view was hidden

@@ -25,6 +25,16 @@ constexpr int s_gap = 14;
 /// A row for so much height of the diagram, in pixels, and the most rows.
 constexpr int s_heightForARow = 190;
 constexpr int s_mostRows = 4;
+/// What a row takes whose three values stand on one line, and what one takes whose values fold, in
+/// pixels.
+constexpr int s_widthOfThreeValues = 420;
+constexpr int s_narrowestColumn = 150;
+/// A frequency and three values.
+constexpr int s_columns = 4;
+/// What the dot and the name of a marker take, in pixels.
+constexpr int s_nameWidth = 50;
+/// Between two lines of readings, in pixels.
+constexpr int s_lineGap = 4;
 
 } // namespace
 
@@ -43,6 +53,8 @@ ReadOuts::ReadOuts(const PanelModel *model, QWidget *parent)
     QScroller::grabGesture(viewport(), QScroller::LeftMouseButtonGesture);
     m_hint->setObjectName(QStringLiteral("dim"));
     m_hint->setIndent(6 + s_margin);
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_hint->setAttribute(Qt::WA_TransparentForMouseEvents);
     forgetWidths();
 
@@ -68,15 +80,26 @@ void ReadOuts::setTraces(const QVector<int> &ids)
     refresh();
 }
 
-void ReadOuts::setRoom(int height)
+void ReadOuts::showInStrip(const QSize &diagram, int values)
 {
-    m_rows = qBound(1, height / s_heightForARow, s_mostRows);
-    setFixedHeight(m_rows * rowHeight());
+    setMinimumWidth(0);
+    setMaximumWidth(QWIDGETSIZE_MAX);
+    // A reading of several values that has no room on one line takes two.
+    const int fewest = values > 1 && diagram.width() < s_widthOfThreeValues ? 2 : 1;
+    setFixedHeight(qBound(fewest, diagram.height() / s_heightForARow, s_mostRows) * lineHeight());
 }
 
-int ReadOuts::rowHeight() const
+void ReadOuts::showInColumn(int width)
 {
-    return fontMetrics().height() + 8;
+    setMinimumHeight(0);
+    setMaximumHeight(QWIDGETSIZE_MAX);
+    setMinimumWidth(s_narrowestColumn);
+    setMaximumWidth(qBound(s_narrowestColumn, width, s_widthOfThreeValues));
+}
+
+int ReadOuts::lineHeight() const
+{
+    return fontMetrics().height() + s_lineGap;
 }
 
 void ReadOuts::refreshTrace(int traceId)
@@ -93,95 +116,138 @@ void ReadOuts::refresh()
         if (trace && trace->visible)
             m_markers += m_model->markersOf(id);
     }
-    for (int row = 0; row < m_markers.size(); ++row) {
-        if (row == m_items.size())
-            m_items.append(makeItem());
-        showReading(m_items.at(row), m_markers.at(row));
+    m_texts.clear();
+    for (const Marker &marker : qAsConst(m_markers)) {
+        m_texts.append(textsOf(marker));
+        widenColumns(m_texts.last());
     }
     arrange();
-    for (int row = 0; row < m_markers.size(); ++row) {
-        if (m_model->isSelected(m_markers.at(row)))
-            ensureWidgetVisible(m_items.at(row), 0, 0);
+    for (const Line &line : qAsConst(m_lines)) {
+        if (line.marker >= 0 && m_model->isSelected(m_markers.at(line.marker)))
+            ensureWidgetVisible(line.item, 0, 0);
     }
 }
 
-MarkerStatusItem *ReadOuts::makeItem()
+/// What is read of a marker: its frequency and its values.
+QStringList ReadOuts::textsOf(const Marker &marker) const
 {
-    auto *item = new MarkerStatusItem(widget());
-    const int row = int(m_items.size());
-    connect(item, &MarkerStatusItem::clicked, this, [this, row] {
-        if (row < m_markers.size())
-            Q_EMIT selectionRequested(m_markers.at(row).trace, m_markers.at(row).number);
-    });
-    return item;
-}
-
-void ReadOuts::showReading(MarkerStatusItem *item, const Marker &marker)
-{
-    const Trace &trace = *m_model->trace(marker.trace);
-    const Marker *reference = m_model->referenceMarker(trace.id);
+    const Marker *reference = m_model->referenceMarker(marker.trace);
     const bool isReference = reference && reference->number == marker.number;
     const MarkerReading reading =
         readMarker(*m_model, marker, isReference ? nullptr : reference);
-    QString name = QStringLiteral("M%1").arg(marker.number);
-    if (isReference)
-        name += QLatin1Char('R');
-    else if (reference)
-        name.prepend(QChar(0x0394));
-    const QStringList texts{reading.frequency, reading.values.value(0), reading.values.value(1),
-                            reading.values.value(2)};
-    widenColumns(texts);
-    item->setText(name, texts.at(0), texts.at(1), texts.at(2), texts.at(3));
-    item->setSelectedStatus(m_model->isSelected(marker));
-    item->setColor(currentLook().trace(trace.id));
-    item->setAccessibleDescription(PanelModel::parameterName(trace) + QLatin1Char(' ')
-                                   + texts.join(QLatin1Char(' ')));
+    return QStringList(reading.frequency) + reading.values.mid(0, s_columns - 1);
+}
+
+/// The name of a marker, with a sign where it is a reference or read against one.
+QString ReadOuts::nameOf(const Marker &marker) const
+{
+    const QString name = QStringLiteral("M%1").arg(marker.number);
+    const Marker *reference = m_model->referenceMarker(marker.trace);
+    if (!reference)
+        return name;
+    return reference->number == marker.number ? name + QLatin1Char('R') : QChar(0x0394) + name;
 }
 
 /// Makes room for the texts in their columns. Columns only grow: numbers that change in a live
 /// sweep would make them tremble.
 void ReadOuts::widenColumns(const QStringList &texts)
 {
-    for (int i = 0; i < m_widths.size(); ++i) {
-        if (!texts.at(i).isEmpty())
-            m_widths[i] =
-                qMax(m_widths.at(i), fontMetrics().horizontalAdvance(texts.at(i)) + s_gap);
-    }
+    for (int i = 0; i < texts.size(); ++i)
+        m_widths[i] = qMax(m_widths.at(i), fontMetrics().horizontalAdvance(texts.at(i)) + s_gap);
 }
 
 void ReadOuts::forgetWidths()
 {
-    m_widths = {0, 0, 0, 0};
+    m_widths.fill(0, s_columns);
 }
 
-/// Places the rows, side by side where two fit.
+/// The columns that share a line, from the first one on: as many as the width has room for.
+int ReadOuts::columnsFrom(int first, int count, int width) const
+{
+    int columns = 1;
+    for (int taken = m_widths.at(first) + s_nameWidth; first + columns < count; ++columns) {
+        taken += m_widths.at(first + columns);
+        if (taken > width)
+            break;
+    }
+    return columns;
+}
+
+/// Places the readings: side by side where two fit, over several lines where one does not.
 void ReadOuts::arrange()
 {
     const int width = qMax(1, viewport()->width());
-    int y = 0, rowHeight = 0, column = 0;
-    for (int row = 0; row < m_items.size(); ++row) {
-        MarkerStatusItem *item = m_items.at(row);
-        const bool shown = row < m_markers.size();
-        if (shown) {
-            item->setKeyColumnWidth(m_widths.at(0));
-            item->setNumLabelWidth(m_widths.at(1), m_widths.at(2), m_widths.at(3));
-            const int single = item->preferredSingleLineWidth();
-            const int columns = qMax(1, (width - 2 * s_margin) / (single + s_margin));
-            if (column >= columns) {
-                column = 0;
-                y += rowHeight;
-                rowHeight = 0;
+    const int room = width - 2 * s_margin;
+    int x = s_margin, y = 0, used = 0;
+    for (int row = 0; row < m_markers.size(); ++row) {
+        const QStringList &texts = m_texts.at(row);
+        const bool folds = columnsFrom(0, texts.size(), room) < texts.size();
+        for (int first = 0; first < texts.size();) {
+            const int columns = columnsFrom(first, int(texts.size()), room);
+            MarkerStatusItem *item = showLine(used++, row, first, columns);
+            const int taken = item->preferredSingleLineWidth();
+            if (x > s_margin && (folds || x + taken > room)) {
+                x = s_margin;
+                y += lineHeight();
             }
-            item->setLayoutWidth(qMin(single, width - 2 * s_margin));
-            item->move(s_margin + column * (single + s_margin), y);
-            rowHeight = qMax(rowHeight, qMax(item->height(), this->rowHeight()));
-            ++column;
+            item->setLayoutWidth(taken);
+            item->move(x, y + (lineHeight() - item->height()) / 2);
+            x += taken + s_margin;
+            first += columns;
         }
-        item->setVisible(shown);
+        if (folds)
+            y += s_margin;
     }
-    widget()->resize(width, y + rowHeight);
+    for (int i = 0; i < m_lines.size(); ++i) {
+        m_lines.at(i).item->setVisible(i < used);
+        if (i >= used)
+            m_lines[i].marker = -1;
+    }
+    widget()->resize(width, y + lineHeight());
     m_hint->setVisible(m_markers.isEmpty());
-    m_hint->setGeometry(0, 0, width, this->rowHeight());
+    m_hint->setGeometry(0, s_lineGap / 2, width, qMax(lineHeight(), m_hint->heightForWidth(width)));
+}
+
+/// The item of a line, with some of a marker's texts: columns from the first one on.
+MarkerStatusItem *ReadOuts::showLine(int index, int row, int first, int columns)
+{
+    if (index == m_lines.size())
+        m_lines.append({makeItem(index), row});
+    m_lines[index].marker = row;
+    MarkerStatusItem *item = m_lines.at(index).item;
+    const Marker &marker = m_markers.at(row);
+    const QStringList texts = m_texts.at(row).mid(first, columns);
+    const auto width = [&](int column) {
+        return column < columns ? m_widths.at(first + column) : 0;
+    };
+    item->setText(first == 0 ? nameOf(marker) : QString(), texts.at(0), texts.value(1),
+                  texts.value(2), texts.value(3));
+    item->setKeyColumnWidth(width(0));
+    item->setNumLabelWidth(width(1), width(2), width(3));
+    item->setSelectedStatus(first == 0 && m_model->isSelected(marker));
+    item->setColor(currentLook().trace(marker.trace));
+    item->setAccessibleDescription(PanelModel::parameterName(*m_model->trace(marker.trace))
+                                   + QLatin1Char(' ') + m_texts.at(row).join(QLatin1Char(' ')));
+    return item;
+}
+
+MarkerStatusItem *ReadOuts::makeItem(int index)
+{
+    auto *item = new MarkerStatusItem(widget());
+    connect(item, &MarkerStatusItem::clicked, this, [this, index] {
+        const Marker marker = m_markers.at(m_lines.at(index).marker);
+        Q_EMIT selectionRequested(marker.trace, marker.number);
+    });
+    return item;
+}
+
+MarkerStatusItem *ReadOuts::item(int row) const
+{
+    for (const Line &line : m_lines) {
+        if (line.marker == row)
+            return line.item;
+    }
+    return nullptr;
 }
 
 void ReadOuts::resizeEvent(QResizeEvent *event)

@@ -15,7 +15,7 @@ namespace Panel
 /*! The read-outs of the markers of a diagram: trace by trace in their colours, the selected one with
     a dot, the others as their difference from their trace's reference marker where it has one.
 
-    Rows keep their order. The height follows from the room alone, never from how many markers there
+    Rows keep their order. The size follows from the room alone, never from how many markers there
     are, so that the diagram below does not move; what does not fit scrolls under a finger. A tap on
     a row asks for its marker to be selected. */
 class ReadOuts : public QScrollArea
@@ -27,11 +27,16 @@ public:
 
     /// The traces whose markers are read.
     void setTraces(const QVector<int> &ids);
-    /// Takes a share of this height, in pixels: one to four rows.
-    void setRoom(int height);
+    /// Takes a share of the height of a diagram of this size, one to four lines, for readings of so
+    /// many values.
+    void showInStrip(const QSize &diagram, int values);
+    /// Takes at most so much width beside a diagram, in pixels, within what lines can use; and its
+    /// height.
+    void showInColumn(int width);
     /// The markers on show, from the first row on.
     const QVector<Marker> &markers() const { return m_markers; }
-    MarkerStatusItem *item(int row) const { return m_items.value(row); }
+    /// The first line of a marker's reading, or null.
+    MarkerStatusItem *item(int row) const;
 
 Q_SIGNALS:
     void selectionRequested(int traceId, int number);
@@ -41,22 +46,31 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    /// A line of readings; one that has no room on a line goes over several.
+    struct Line {
+        MarkerStatusItem *item = nullptr;
+        int marker = -1; ///< its place in m_markers; -1 while the line is hidden
+    };
+
     void refresh();
     void refreshTrace(int traceId);
-    void showReading(MarkerStatusItem *item, const Marker &marker);
+    QStringList textsOf(const Marker &marker) const;
+    QString nameOf(const Marker &marker) const;
     void widenColumns(const QStringList &texts);
     void forgetWidths();
+    int columnsFrom(int first, int count, int width) const;
     void arrange();
-    MarkerStatusItem *makeItem();
-    int rowHeight() const;
+    MarkerStatusItem *showLine(int index, int row, int first, int columns);
+    MarkerStatusItem *makeItem(int index);
+    int lineHeight() const;
 
     const PanelModel *m_model;
     QLabel *m_hint; ///< in place of the rows while there are none
     QVector<int> m_traces;
     QVector<Marker> m_markers;
-    QVector<MarkerStatusItem *> m_items; ///< made when first needed, hidden when not
+    QVector<QStringList> m_texts; ///< of the markers
+    QVector<Line> m_lines; ///< made when first needed, hidden when not
     QVector<int> m_widths; ///< of the columns, in pixels: frequency and three values
-    int m_rows = 1;
 };
 
 } // namespace Panel

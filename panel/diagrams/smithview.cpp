@@ -205,8 +205,7 @@ QStringList SmithView::titleParts() const
     const Trace *active = activeTrace();
     if (!active)
         return {};
-    return {tr("Z %1").arg(ohmsText(m_model->network(*active).referenceOhms)),
-            m_model->network(*active).name};
+    return {tr("Z %1").arg(ohmsText(m_model->network(*active).referenceOhms))};
 }
 
 SmithChart::HalfRanges SmithView::halfRanges() const

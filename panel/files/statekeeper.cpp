@@ -24,10 +24,7 @@ StateKeeper::StateKeeper(const PanelModel *model, const QString &path, QObject *
 
 void StateKeeper::followModel()
 {
-    const auto changed = [this] {
-        if (!m_timer.isActive())
-            m_timer.start();
-    };
+    const auto changed = [this] { noteChange(); };
     for (const auto signal :
          {&PanelModel::networksChanged, &PanelModel::sourceChanged, &PanelModel::sweepChanged,
           &PanelModel::tuningChanged, &PanelModel::tracesChanged, &PanelModel::activeTraceChanged,
@@ -45,6 +42,12 @@ void StateKeeper::followModel()
     connect(m_model->preferences(), &Preferences::changed, this, changed);
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
             changed);
+}
+
+void StateKeeper::noteChange()
+{
+    if (!m_timer.isActive())
+        m_timer.start();
 }
 
 bool StateKeeper::save()

@@ -23,6 +23,8 @@ public:
     /// Keeps the state in the file of this path; nothing is written before something changes.
     StateKeeper(const PanelModel *model, const QString &path, QObject *parent = nullptr);
 
+    /// Something changed: the state is written soon.
+    void noteChange();
     /// Writes what has not been written; false if it could not be.
     bool save();
 

@@ -229,6 +229,15 @@ void PanelWindow::showLock()
     m_lockButton->setIcon(Controls::ThemeManager::instance()->icon(m_lock->isLocked() ? 3 : 4));
 }
 
+void PanelWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    // Else the first button would have it.
+    DiagramView *view = m_diagrams->activeView();
+    if (view && !focusWidget())
+        view->plot()->setFocus();
+}
+
 void PanelWindow::keyPressEvent(QKeyEvent *event)
 {
     // Keys that whoever has the focus has no use for are the active diagram's.
