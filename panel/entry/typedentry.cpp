@@ -65,11 +65,7 @@ bool TypedEntry::onKey(const QKeyEvent *event)
     // Whatever else is typed goes on with the number.
     m_unit.clear();
     m_finish->stop();
-    if (text.front() != QLatin1Char(','))
-        return false;
-    QKeyEvent point(QEvent::KeyPress, Qt::Key_Period, Qt::NoModifier, QStringLiteral("."));
-    QCoreApplication::sendEvent(m_editor, &point);
-    return true;
+    return false;
 }
 
 /// The first letter picks a unit, further ones have to spell it.

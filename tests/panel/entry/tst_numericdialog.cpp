@@ -128,6 +128,7 @@ private Q_SLOTS:
             {"2450 MHz\n", 2.45e9, false},
             {"2.45 ghz", 2.45e9, true},
             {"2,45\n", 2.45e9, false}, // in the unit on show
+            {"2,45g", 2.45e9, true},
             {"2450000khz\n", 2.45e9, false},
             {"2x.4y5\n", 2.45e9, false}, // what is no unit is no letter
         };
