@@ -72,6 +72,22 @@
         <source>Active only</source>
         <translation>Nur aktive</translation>
     </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Ohms</source>
+        <translation>Ohm</translation>
+    </message>
+    <message>
+        <source>Normalised</source>
+        <translation>Normiert</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
 </context>
 <context>
     <name>Panel::FileController</name>
@@ -550,12 +566,32 @@
         <translation>Einstellungen</translation>
     </message>
     <message>
-        <source>Keys</source>
-        <translation>Tasten</translation>
-    </message>
-    <message>
         <source>Whole view</source>
         <translation>Ganze Ansicht</translation>
+    </message>
+    <message>
+        <source>Autoscale</source>
+        <translation>Autoskala</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Grenzen</translation>
+    </message>
+    <message>
+        <source>VSWR circle</source>
+        <translation>VSWR-Kreis</translation>
+    </message>
+    <message>
+        <source>VSWR limit</source>
+        <translation>VSWR-Grenze</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>Keyboard help</source>
+        <translation>Tastenhilfe</translation>
     </message>
 </context>
 <context>
@@ -651,7 +687,7 @@
     </message>
     <message>
         <source>Tap a trace twice to set a marker.</source>
-        <translation>Zweimal auf eine Kurve tippen setzt einen Marker.</translation>
+        <translation>Zweimal antippen setzt Marker.</translation>
     </message>
 </context>
 <context>
@@ -709,6 +745,22 @@
     <message>
         <source>Z %1</source>
         <translation>Z %1</translation>
+    </message>
+    <message>
+        <source>VSWR %1</source>
+        <translation>VSWR %1</translation>
+    </message>
+    <message>
+        <source>Tr%1 from %2</source>
+        <translation>Tr%1 ab %2</translation>
+    </message>
+    <message>
+        <source>PASS</source>
+        <translation>BESTANDEN</translation>
+    </message>
+    <message>
+        <source>FAIL</source>
+        <translation>VERLETZT</translation>
     </message>
 </context>
 <context>
@@ -1031,6 +1083,14 @@
     <message>
         <source>Tr%1 %2</source>
         <translation>Tr%1 %2</translation>
+    </message>
+    <message>
+        <source>This trace</source>
+        <translation>Diese Kurve</translation>
+    </message>
+    <message>
+        <source>All traces</source>
+        <translation>Alle Kurven</translation>
     </message>
 </context>
 <context>

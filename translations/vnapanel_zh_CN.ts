@@ -71,6 +71,22 @@
         <source>Active only</source>
         <translation>仅激活轨迹</translation>
     </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Ohms</source>
+        <translation>欧姆</translation>
+    </message>
+    <message>
+        <source>Normalised</source>
+        <translation>归一化</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
 </context>
 <context>
     <name>Panel::FileController</name>
@@ -544,12 +560,32 @@
         <translation>设置</translation>
     </message>
     <message>
-        <source>Keys</source>
-        <translation>按键</translation>
-    </message>
-    <message>
         <source>Whole view</source>
         <translation>全图</translation>
+    </message>
+    <message>
+        <source>Autoscale</source>
+        <translation>自动刻度</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>限值</translation>
+    </message>
+    <message>
+        <source>VSWR circle</source>
+        <translation>驻波比圆</translation>
+    </message>
+    <message>
+        <source>VSWR limit</source>
+        <translation>驻波比限值</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>标注</translation>
+    </message>
+    <message>
+        <source>Keyboard help</source>
+        <translation>键盘帮助</translation>
     </message>
 </context>
 <context>
@@ -702,6 +738,22 @@
     <message>
         <source>Z %1</source>
         <translation>Z %1</translation>
+    </message>
+    <message>
+        <source>VSWR %1</source>
+        <translation>驻波比 %1</translation>
+    </message>
+    <message>
+        <source>Tr%1 from %2</source>
+        <translation>Tr%1 自 %2</translation>
+    </message>
+    <message>
+        <source>PASS</source>
+        <translation>通过</translation>
+    </message>
+    <message>
+        <source>FAIL</source>
+        <translation>不通过</translation>
     </message>
 </context>
 <context>
@@ -1024,6 +1076,14 @@
     <message>
         <source>Tr%1 %2</source>
         <translation>Tr%1 %2</translation>
+    </message>
+    <message>
+        <source>This trace</source>
+        <translation>当前轨迹</translation>
+    </message>
+    <message>
+        <source>All traces</source>
+        <translation>所有轨迹</translation>
     </message>
 </context>
 <context>

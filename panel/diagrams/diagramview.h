@@ -136,6 +136,7 @@ private:
     void followModel();
     void followMarkers();
     Hit hitMarker(const QPointF &position) const;
+    void fanOutNumbers();
 
     DiagramId m_id;
     ElidedLabel *m_title;

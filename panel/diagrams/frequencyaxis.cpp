@@ -77,8 +77,8 @@ void FrequencyAxis::fit()
 {
     const QFontMetrics metrics(m_centre->font());
     const int gap = metrics.averageCharWidth();
-    const int outer = qMax(metrics.horizontalAdvance(m_left->text()),
-                           metrics.horizontalAdvance(m_right->text()));
+    const int outer =
+        qMax(metrics.horizontalAdvance(m_left->text()), metrics.horizontalAdvance(m_right->text()));
     const int wanted = 2 * (outer + gap) + metrics.horizontalAdvance(m_centreText);
     m_centre->setText(wanted <= m_axis->axisRect()->width() ? m_centreText : m_divisionText);
 }

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "markerreading.h"
 
-#include <panel/model/cartesian.h>
 #include <panel/ground/numbertext.h>
+#include <panel/model/cartesian.h>
 
 #include <cmath>
 #include <complex>

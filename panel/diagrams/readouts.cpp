@@ -53,8 +53,6 @@ ReadOuts::ReadOuts(const PanelModel *model, QWidget *parent)
     QScroller::grabGesture(viewport(), QScroller::LeftMouseButtonGesture);
     m_hint->setObjectName(QStringLiteral("dim"));
     m_hint->setIndent(6 + s_margin);
-    m_hint->setWordWrap(true);
-    m_hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_hint->setAttribute(Qt::WA_TransparentForMouseEvents);
     forgetWidths();
 
@@ -84,6 +82,7 @@ void ReadOuts::showInStrip(const QSize &diagram, int values)
 {
     setMinimumWidth(0);
     setMaximumWidth(QWIDGETSIZE_MAX);
+    m_hint->setWordWrap(false);
     // A reading of several values that has no room on one line takes two.
     const int fewest = values > 1 && diagram.width() < s_widthOfThreeValues ? 2 : 1;
     setFixedHeight(qBound(fewest, diagram.height() / s_heightForARow, s_mostRows) * lineHeight());
@@ -93,6 +92,7 @@ void ReadOuts::showInColumn(int width)
 {
     setMinimumHeight(0);
     setMaximumHeight(QWIDGETSIZE_MAX);
+    m_hint->setWordWrap(true);
     setMinimumWidth(s_narrowestColumn);
     setMaximumWidth(qBound(s_narrowestColumn, width, s_widthOfThreeValues));
 }
@@ -133,8 +133,7 @@ QStringList ReadOuts::textsOf(const Marker &marker) const
 {
     const Marker *reference = m_model->referenceMarker(marker.trace);
     const bool isReference = reference && reference->number == marker.number;
-    const MarkerReading reading =
-        readMarker(*m_model, marker, isReference ? nullptr : reference);
+    const MarkerReading reading = readMarker(*m_model, marker, isReference ? nullptr : reference);
     return QStringList(reading.frequency) + reading.values.mid(0, s_columns - 1);
 }
 
@@ -205,7 +204,7 @@ void ReadOuts::arrange()
     }
     widget()->resize(width, y + lineHeight());
     m_hint->setVisible(m_markers.isEmpty());
-    m_hint->setGeometry(0, s_lineGap / 2, width, qMax(lineHeight(), m_hint->heightForWidth(width)));
+    m_hint->setGeometry(0, 0, width, qMax(lineHeight(), m_hint->heightForWidth(width)));
 }
 
 /// The item of a line, with some of a marker's texts: columns from the first one on.

@@ -7,6 +7,8 @@
 
 #include <plot/qcp.h>
 
+#include <QLabel>
+
 namespace Panel
 {
 
@@ -15,6 +17,23 @@ namespace
 
 /// An arrow key takes a marker around the whole trace in so many steps, or point by point.
 constexpr int s_stepsAround = 1000;
+/// A dragged marker leaves its branch of the trace for one so many pixels nearer to the finger.
+constexpr double s_jump = 30.0;
+/// Traces that the verdict names at most.
+constexpr int s_mostFailures = 3;
+
+/// The magnitude of reflection of a standing wave ratio S: (S - 1) / (S + 1).
+double reflectionOf(double ratio)
+{
+    return (ratio - 1.0) / (ratio + 1.0);
+}
+
+SmithChart::Preset presetOf(GridDensity density)
+{
+    return density == GridDensity::Basic   ? SmithChart::Basic
+        : density == GridDensity::Detailed ? SmithChart::Detailed
+                                           : SmithChart::Standard;
+}
 
 Zoom zoomOf(const SmithChart::ViewState &state)
 {
@@ -33,6 +52,7 @@ bool isSame(const SmithChart::ViewState &a, const SmithChart::ViewState &b)
 SmithView::SmithView(const PanelModel *model, const DiagramId &id, QWidget *parent)
     : DiagramView(model, id, parent)
     , m_density(model->viewSettings()->density())
+    , m_verdict(new QLabel(plot()))
 {
     // The chart needs the axes as scales only.
     plot()->xAxis->setVisible(false);
@@ -40,6 +60,8 @@ SmithView::SmithView(const PanelModel *model, const DiagramId &id, QWidget *pare
     plot()->axisRect()->setAutoMargins(QCP::msNone);
     plot()->axisRect()->setMargins(QMargins(8, 4, 8, 8));
     plot()->setAccessibleName(tr("Smith chart"));
+    m_verdict->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_verdict->setAlignment(Qt::AlignCenter);
     makeChart();
     recolor();
     connect(m_model->viewSettings(), &ViewSettings::changed, this, &SmithView::followSettings);
@@ -54,6 +76,93 @@ void SmithView::followSettings()
     }
     m_chart->setGridMode(settings->gridMode());
     m_chart->setOnlyHandleActiveTrace(settings->onlyActiveTrace());
+    showGrid();
+    showLimit();
+}
+
+/// Labels of the grid and the circle to read against.
+void SmithView::showGrid()
+{
+    const ViewSettings *settings = m_model->viewSettings();
+    const Trace *active = activeTrace();
+    if (settings->gridLabels() == GridLabels::Ohms && active)
+        m_chart->setGridReference(m_model->network(*active).referenceOhms);
+    else
+        m_chart->setGridReference(std::nullopt);
+    const double ratio = settings->vswrCircle();
+    if (ratio == 0.0) {
+        if (m_circle)
+            plot()->removeItem(m_circle);
+    } else {
+        if (!m_circle)
+            m_circle = new SmithCircle(plot()->xAxis, plot()->yAxis);
+        m_circle->setVswr(ratio);
+        m_circle->setLabel(tr("VSWR %1").arg(ratio));
+        m_circle->setPen(QPen(currentLook().warning, 1.0, Qt::DashLine));
+    }
+    replotLater();
+}
+
+/// Gives each trace the area that it must stay in; one of them draws it.
+void SmithView::showLimit()
+{
+    const double ratio = m_model->viewSettings()->vswrLimit();
+    for (const auto &[id, limit] : m_limits)
+        delete limit;
+    m_limits.clear();
+    const Look look = currentLook();
+    if (ratio > 1.0) {
+        SmithChart::LimitArea area;
+        area.setCircle({0.0, 0.0}, reflectionOf(ratio), SmithChart::LimitArea::StayInside);
+        for (const Trace &trace : traces()) {
+            auto *limit = new SmithLimit(m_chart);
+            limit->setArea(area);
+            limit->setColors(m_limits.empty() ? look.pass : QColor(Qt::transparent), look.fail);
+            m_limits[trace.id] = limit;
+        }
+    }
+    testTraces();
+}
+
+void SmithView::testTraces()
+{
+    QStringList failing;
+    bool tested = false;
+    for (const auto &[id, limit] : m_limits) {
+        const Trace *trace = m_model->trace(id);
+        if (!trace || !limit)
+            continue;
+        // The first one shows the area for all.
+        limit->setVisible(trace->visible || m_limits.begin()->first == id);
+        const SmithChart::LimitResult result = limit->test(trace->visible ? id : 0);
+        tested = tested || result.tested > 0;
+        if (!result.passed())
+            failing << tr("Tr%1 from %2")
+                           .arg(QString::number(id),
+                                frequencyText(
+                                    m_model->network(*trace).frequencies.at(result.firstFailing)));
+    }
+    m_verdict->setVisible(tested);
+    const Look look = currentLook();
+    const QString sheet =
+        QStringLiteral("padding: 3px 10px; border: 1px solid %1; border-radius: 4px; "
+                       "background: %2; color: %1; font-weight: bold;")
+            .arg((failing.isEmpty() ? look.pass : look.fail).name(), look.bar.name());
+    if (sheet != m_verdict->styleSheet())
+        m_verdict->setStyleSheet(sheet);
+    QString text = QStringLiteral("<span style='font-size:24px'>%1</span>")
+                       .arg(failing.isEmpty() ? tr("PASS") : tr("FAIL"));
+    for (const QString &trace : failing.mid(0, s_mostFailures))
+        text += QLatin1String("<br>") + trace;
+    m_verdict->setText(text);
+    m_verdict->adjustSize();
+    placeVerdict();
+    replotLater();
+}
+
+void SmithView::placeVerdict()
+{
+    m_verdict->move(plot()->width() - m_verdict->width() - 8, 8);
 }
 
 void SmithView::makeChart()
@@ -62,7 +171,10 @@ void SmithView::makeChart()
     // A chart leaves its grid on the plot.
     plot()->clearItems();
     plot()->clearPlottables();
-    m_chart = new SmithChartPlot(plot(), m_density, this);
+    m_chart = new SmithChartPlot(plot(), presetOf(m_density), this);
+    m_chart->setGridFollowsView(m_density == GridDensity::Automatic);
+    m_chart->setMaximumZoom(Zoom::maximum);
+    m_chart->setMarkerDragJumpPx(s_jump);
     // What a finger means is decided by whoever asks hit().
     m_chart->setPressDragsMarkers(false);
     m_chart->setGridMode(m_model->viewSettings()->gridMode());
@@ -89,6 +201,7 @@ void SmithView::loadTraces()
     }
     showActiveTrace();
     showSelectedMarker();
+    showLimit();
 }
 
 void SmithView::showMemory(const Trace &trace)
@@ -114,6 +227,7 @@ void SmithView::updateTraces(int network)
                               values.imag);
         placeMarkers(trace);
     }
+    testTraces();
 }
 
 void SmithView::beginDrag(int traceId, int number)
@@ -167,6 +281,7 @@ void SmithView::setTraceVisible(const Trace &trace)
     m_chart->setCurveVisible(trace.id, trace.visible);
     m_chart->setCurveVisible(memoryId(trace.id), trace.visible);
     placeMarkers(trace);
+    testTraces();
 }
 
 void SmithView::removeMarker(int traceId, int number)
@@ -187,6 +302,7 @@ void SmithView::showActiveTrace()
         m_chart->setActiveTrace(trace->id);
     else
         m_chart->clearActiveTrace();
+    showGrid();
 }
 
 void SmithView::recolor()
@@ -197,7 +313,8 @@ void SmithView::recolor()
         m_chart->setCurvePen(trace.id, look.pen(trace.id, trace.network));
         m_chart->setCurvePen(memoryId(trace.id), look.memoryPen(trace.id, trace.network));
     }
-    replotLater();
+    showGrid();
+    showLimit();
 }
 
 QStringList SmithView::titleParts() const
@@ -218,7 +335,7 @@ SmithChart::HalfRanges SmithView::halfRanges() const
 SmithChart::ViewState SmithView::wantedView() const
 {
     const Zoom zoom = m_model->zoom(id());
-    return SmithChart::clampViewState({zoom.x, zoom.y, zoom.factor}, halfRanges());
+    return SmithChart::clampViewState({zoom.x, zoom.y, zoom.factor}, halfRanges(), Zoom::maximum);
 }
 
 void SmithView::showZoom()
@@ -240,13 +357,14 @@ void SmithView::onLayout()
 {
     m_laidOut = true;
     showZoom();
+    placeVerdict();
 }
 
 Zoom SmithView::zoomedAt(const QPointF &position, double factor) const
 {
     const QPointF anchor = coordinates(position);
     return zoomOf(SmithChart::zoomedViewState(wantedView(), anchor.x(), anchor.y(), factor,
-                                              halfRanges()));
+                                              halfRanges(), Zoom::maximum));
 }
 
 Zoom SmithView::movedTo(const QPointF &coordinates, const QPointF &position) const
@@ -255,7 +373,7 @@ Zoom SmithView::movedTo(const QPointF &coordinates, const QPointF &position) con
     SmithChart::ViewState view = wantedView();
     view.centerX += shift.x();
     view.centerY += shift.y();
-    return zoomOf(SmithChart::clampViewState(view, halfRanges()));
+    return zoomOf(SmithChart::clampViewState(view, halfRanges(), Zoom::maximum));
 }
 
 Hit SmithView::hitLine(const QPointF &position) const
@@ -265,8 +383,7 @@ Hit SmithView::hitLine(const QPointF &position) const
     for (const Trace &trace : traces()) {
         int index = -1;
         double distance = 0.0;
-        if (!reaches(trace)
-            || !m_chart->nearestPoint(trace.id, position.toPoint(), index, distance)
+        if (!reaches(trace) || !m_chart->nearestPoint(trace.id, position.toPoint(), index, distance)
             || distance >= least)
             continue;
         least = distance;

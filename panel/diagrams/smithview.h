@@ -5,11 +5,20 @@
 #include "diagramview.h"
 
 #include <smithchart/smithchartplot.h>
+#include <smithchart/smithcircle.h>
+#include <smithchart/smithlimit.h>
+
+#include <QPointer>
+
+#include <map>
+
+class QLabel;
 
 namespace Panel
 {
 
-/*! Traces on a Smith chart.
+/*! Traces on a Smith chart, with a circle of constant standing wave ratio to read against, and one
+    that traces must stay in.
 
     The chart is a new object after every change of density, which is fixed when a chart is made. */
 class SmithView : public DiagramView
@@ -20,6 +29,8 @@ public:
     SmithView(const PanelModel *model, const DiagramId &id, QWidget *parent = nullptr);
 
     SmithChartPlot *chart() const { return m_chart; }
+    /// What the limit says of the traces on show; hidden without a limit.
+    QLabel *verdict() const { return m_verdict; }
     /// The id that the chart knows the stored data of a trace by.
     static constexpr int memoryId(int traceId) { return traceId + s_firstMemoryId; }
 
@@ -51,11 +62,18 @@ private:
 
     void makeChart();
     void followSettings();
+    void showGrid();
+    void showLimit();
+    void testTraces();
+    void placeVerdict();
     SmithChart::HalfRanges halfRanges() const;
     SmithChart::ViewState wantedView() const;
 
     SmithChartPlot *m_chart = nullptr;
-    SmithChart::Preset m_density;
+    GridDensity m_density;
+    QPointer<SmithCircle> m_circle;
+    std::map<int, QPointer<SmithLimit>> m_limits; ///< by trace
+    QLabel *m_verdict;
     bool m_laidOut = false;
 };
 

@@ -76,10 +76,9 @@ MarkerController::MarkerController(PanelModel *model, const PanelKeys &keys, QOb
     connect(model, &PanelModel::referenceMarkerChanged, this, &MarkerController::showMarkers);
     connect(model->viewSettings(), &ViewSettings::changed, this, &MarkerController::showMarkers);
     connect(model, &PanelModel::markersExhausted, this, [this](int traceId) {
-        Q_EMIT said(
-            tr("Trace %1 has all its %2 markers: remove one to set another.")
-                .arg(traceId)
-                .arg(Markers::perTrace));
+        Q_EMIT said(tr("Trace %1 has all its %2 markers: remove one to set another.")
+                        .arg(traceId)
+                        .arg(Markers::perTrace));
     });
     showMarkers();
 }

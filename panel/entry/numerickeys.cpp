@@ -271,7 +271,7 @@ void NumericKeys::showStimulus()
     // A file has the points that it has.
     const bool simulated = isSimulated(m_model->source());
     m_keys.points->setEnabled(trace && simulated);
-    m_keys.points->setValue(!trace       ? nothingText()
+    m_keys.points->setValue(!trace          ? nothingText()
                                 : simulated ? QString::number(m_model->sweep().points)
                                             : QString::number(m_model->network(*trace).points()));
 }
@@ -289,7 +289,7 @@ void NumericKeys::showScale()
     const Trace *trace = m_model->activeTrace();
     const bool cartesian = trace && !trace->onSmithChart();
     const Zoom zoom = trace ? m_model->zoom(m_model->diagramOf(trace->id)) : Zoom();
-    m_keys.scale->setValue(!trace        ? nothingText()
+    m_keys.scale->setValue(!trace          ? nothingText()
                                : cartesian ? divisionText(trace->format, trace->scale.perDivision)
                                            : zoomText(zoom.factor));
     m_keys.scale->setEnabled(trace);

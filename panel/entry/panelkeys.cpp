@@ -44,22 +44,25 @@ SwitchButton *addSwitch(SoftKeyMenu *menu, const QString &name)
 PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
 {
     PanelKeys keys{};
-    menu->addPage(Text::tr("Stimulus"));
+    menu->addPage(Text::tr("Stimulus"), Glyph::Stimulus);
     keys.start = menu->addKey(Text::tr("Start"));
     keys.stop = menu->addKey(Text::tr("Stop"));
     keys.center = menu->addKey(Text::tr("Center"));
     keys.span = menu->addKey(Text::tr("Span"));
     keys.points = menu->addKey(Text::tr("Points"));
 
-    menu->addPage(Text::tr("Trace"));
+    menu->addPage(Text::tr("Trace"), Glyph::Trace);
     keys.trace = menu->addKey(Text::tr("Trace"));
     keys.format = menu->addKey(Text::tr("Format"));
-    keys.scale = menu->addKey(Text::tr("Scale"));
-    keys.reference = menu->addKey(Text::tr("Reference"));
     keys.memory = addMenu(menu, Text::tr("Memory"));
     keys.visible = addSwitch(menu, Text::tr("Visible"));
 
-    menu->addPage(Text::tr("Marker"));
+    menu->addPage(Text::tr("Scale"), Glyph::Scale);
+    keys.scale = menu->addKey(Text::tr("Scale"));
+    keys.reference = menu->addKey(Text::tr("Reference"));
+    keys.autoScale = addMenu(menu, Text::tr("Autoscale"));
+
+    menu->addPage(Text::tr("Marker"), Glyph::Marker);
     keys.marker = menu->addKey(Text::tr("Marker"));
     keys.markerStimulus = menu->addKey(Text::tr("Stimulus"));
     keys.search = addMenu(menu, Text::tr("Search"));
@@ -67,26 +70,31 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.referenceMarker = menu->addKey(Text::tr("Reference"));
     keys.readout = menu->addKey(Text::tr("Read-out"));
 
-    menu->addPage(Text::tr("Display"));
+    menu->addPage(Text::tr("Limits"), Glyph::Limits);
+    keys.vswrCircle = menu->addKey(Text::tr("VSWR circle"));
+    keys.vswrLimit = menu->addKey(Text::tr("VSWR limit"));
+
+    menu->addPage(Text::tr("Display"), Glyph::Display);
     keys.layout = new DisplayPanel(model->viewSettings()->layoutProfile());
     menu->addWidget(keys.layout);
     keys.grid = menu->addKey(Text::tr("Grid"));
     keys.density = menu->addKey(Text::tr("Density"));
+    keys.gridLabels = menu->addKey(Text::tr("Labels"));
     keys.zoom = menu->addKey(Text::tr("Zoom"));
     keys.whole = menu->addKey(Text::tr("Whole view"));
     keys.pointer = menu->addKey(Text::tr("Pointer"));
 
-    menu->addPage(Text::tr("Sweep"));
+    menu->addPage(Text::tr("Sweep"), Glyph::Sweep);
     keys.source = menu->addKey(Text::tr("Source"));
     keys.sweep = addSwitch(menu, Text::tr("Sweep"));
     keys.tune = menu->addKey(Text::tr("Resonance"));
     keys.timing = addSwitch(menu, Text::tr("Timing"));
 
-    menu->addPage(Text::tr("System"));
+    menu->addPage(Text::tr("System"), Glyph::System);
     keys.file = menu->addKey(Text::tr("File"));
     keys.screenshot = menu->addKey(Text::tr("Screenshot"));
     keys.settings = menu->addKey(Text::tr("Settings"));
-    keys.help = menu->addKey(Text::tr("Keys"));
+    keys.help = menu->addKey(Text::tr("Keyboard help"));
     return keys;
 }
 

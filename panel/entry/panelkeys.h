@@ -24,10 +24,12 @@ struct PanelKeys {
     // Trace
     SoftKey *trace; ///< which is active
     SoftKey *format;
-    SoftKey *scale;
-    SoftKey *reference; ///< the value at the top of a Cartesian diagram
     MenuButton *memory;
     SwitchButton *visible;
+    // Scale
+    SoftKey *scale;
+    SoftKey *reference; ///< the value at the top of a Cartesian diagram
+    MenuButton *autoScale; ///< of one trace, or of all
     // Marker
     SoftKey *marker; ///< adds and removes
     SoftKey *markerStimulus;
@@ -35,10 +37,14 @@ struct PanelKeys {
     MenuButton *markerTo;
     SoftKey *referenceMarker;
     SoftKey *readout;
+    // Limits
+    SoftKey *vswrCircle; ///< a circle on the Smith charts, to read against
+    SoftKey *vswrLimit; ///< an area that traces on the Smith charts must stay in
     // Display
     DisplayPanel *layout;
     SoftKey *grid;
     SoftKey *density;
+    SoftKey *gridLabels; ///< normalised, or in ohms and siemens
     SoftKey *zoom;
     SoftKey *whole; ///< ends the zoom
     SoftKey *pointer; ///< which traces taps and drags reach

@@ -75,7 +75,7 @@ void SoftKey::showValue()
 QSize SoftKey::sizeHint() const
 {
     const QFontMetrics metrics(font());
-    return {metrics.averageCharWidth() * 22, metrics.height() * 5};
+    return {metrics.averageCharWidth() * 17, metrics.height() * 4};
 }
 
 QSize SoftKey::minimumSizeHint() const

@@ -3,55 +3,88 @@
 #include "softkeymenu.h"
 
 #include "softkey.h"
+#include <panel/ground/look.h>
+
+#include <controls/thememanager.h>
 
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QCoreApplication>
-#include <QGridLayout>
 #include <QKeyEvent>
-#include <QPushButton>
 #include <QStackedWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace Panel
 {
 
+namespace
+{
+
+/// In pixels: a finger's width and height, and what a caption of ten letters takes.
+constexpr int s_tabWidth = 68;
+constexpr int s_lowestTab = 44;
+constexpr int s_iconSide = 20;
+/// So much more room for the tabs than for what is below them.
+constexpr int s_tabStretch = 1000;
+
+} // namespace
+
 SoftKeyMenu::SoftKeyMenu(QWidget *parent)
     : QWidget(parent)
     , m_tabs(new QButtonGroup(this))
-    , m_tabGrid(new QGridLayout)
+    , m_tabColumn(new QVBoxLayout)
     , m_pages(new QStackedWidget)
 {
     setObjectName(QStringLiteral("softKeys"));
     setAttribute(Qt::WA_StyledBackground);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(6, 2, 6, 6);
-    column->setSpacing(6);
-    m_tabGrid->setSpacing(0);
-    column->addLayout(m_tabGrid);
-    column->addWidget(m_pages, 1);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 6, 0);
+    row->setSpacing(6);
+    m_tabColumn->setSpacing(0);
+    m_tabColumn->addStretch(1);
+    row->addLayout(m_tabColumn);
+    row->addWidget(m_pages, 1);
     connect(m_tabs, &QButtonGroup::idToggled, this, [this](int page, bool checked) {
         if (checked)
             m_pages->setCurrentIndex(page);
     });
+    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
+            &SoftKeyMenu::recolor);
 }
 
-void SoftKeyMenu::addPage(const QString &name)
+void SoftKeyMenu::addPage(const QString &name, Glyph glyph)
 {
     auto *page = new QWidget;
     m_column = new QVBoxLayout(page);
-    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setContentsMargins(0, 6, 0, 6);
     m_column->setSpacing(6);
     m_column->addStretch(1);
     const int index = m_pages->addWidget(page);
-    auto *tab = new QPushButton(name);
+    auto *tab = new QToolButton;
     tab->setObjectName(QStringLiteral("pageTab"));
+    tab->setText(name);
+    tab->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    tab->setIconSize({s_iconSide, s_iconSide});
     tab->setCheckable(true);
-    tab->setMinimumHeight(fontMetrics().height() + 14);
-    // Two in a row leave room for a finger and for longer names.
-    m_tabGrid->addWidget(tab, index / 2, index % 2);
+    tab->setFocusPolicy(Qt::StrongFocus);
+    tab->setFixedWidth(s_tabWidth);
+    tab->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    tab->setMinimumHeight(s_lowestTab);
+    tab->setMaximumHeight(s_tabWidth);
+    // Above the stretch, which takes nothing before the tabs are as high as they like.
+    m_tabColumn->insertWidget(index, tab, s_tabStretch);
     m_tabs->addButton(tab, index);
+    m_glyphs.append(glyph);
     tab->setChecked(index == 0);
+    recolor();
+}
+
+void SoftKeyMenu::recolor()
+{
+    const Look look = currentLook();
+    for (int i = 0; i < m_glyphs.size(); ++i)
+        m_tabs->button(i)->setIcon(glyphIcon(m_glyphs.at(i), look.dimText, look.accent));
 }
 
 SoftKey *SoftKeyMenu::addKey(const QString &name)

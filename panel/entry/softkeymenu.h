@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <panel/ground/glyphs.h>
+
 #include <QVector>
 #include <QWidget>
 
 class QButtonGroup;
-class QGridLayout;
 class QStackedWidget;
 class QVBoxLayout;
 
@@ -15,7 +16,7 @@ namespace Panel
 
 class SoftKey;
 
-/*! The column of soft keys: pages of keys below the tabs that name them. Tab and the arrow keys up
+/*! The column of soft keys: pages of keys beside the tabs that name them. Tab and the arrow keys up
     and down reach all of it; left, right and Delete go to the window, which has a use for them. */
 class SoftKeyMenu : public QWidget
 {
@@ -25,7 +26,7 @@ public:
     explicit SoftKeyMenu(QWidget *parent = nullptr);
 
     /// Begins a page; the first is the one on show.
-    void addPage(const QString &name);
+    void addPage(const QString &name, Glyph glyph);
     /// Appends a key to the page that was begun last. The menu owns it.
     SoftKey *addKey(const QString &name);
     /// The same with a key that exists already.
@@ -46,11 +47,14 @@ protected:
 
 private:
     void appendKey(QWidget *key, int smallestHeight);
+    void recolor();
 
     QButtonGroup *m_tabs;
-    QGridLayout *m_tabGrid;
+    QVBoxLayout *m_tabColumn;
+    QVector<Glyph> m_glyphs; ///< of the tabs
     QStackedWidget *m_pages;
-    QVector<int> m_keyHeights; ///< the smallest and the preferred one of a soft key, once there is one
+    QVector<int>
+        m_keyHeights; ///< the smallest and the preferred one of a soft key, once there is one
     QVBoxLayout *m_column = nullptr; ///< of the page that was begun last
 };
 

@@ -22,7 +22,8 @@ SourceKeys::SourceKeys(PanelModel *model, const PanelKeys &keys, QObject *parent
     keys.source->setChoices(names);
     connect(keys.source, &SoftKey::choicePicked, this, [this](int index) {
         const auto picked = Source(index);
-        if (picked != Source::Files || (isSimulated(m_model->source()) && !m_model->files().isEmpty()))
+        if (picked != Source::Files
+            || (isSimulated(m_model->source()) && !m_model->files().isEmpty()))
             m_model->setSource(picked);
         else
             Q_EMIT fileRequested();

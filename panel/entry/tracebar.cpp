@@ -154,9 +154,9 @@ private:
         painter.setFont(m_small);
         const QRect place(s_padding + s_sample + 4, height() - fileHeight() - 4,
                           width() - 2 * s_padding - s_sample - 4, fileHeight());
-        painter.drawText(place, Qt::AlignVCenter,
-                         QFontMetrics(m_small).elidedText(m_fileName, Qt::ElideRight,
-                                                          place.width()));
+        painter.drawText(
+            place, Qt::AlignVCenter,
+            QFontMetrics(m_small).elidedText(m_fileName, Qt::ElideRight, place.width()));
         line.setWidthF(1.5);
         painter.setPen(line);
         painter.drawLine(s_padding, middle, s_padding + s_sample, middle);
@@ -166,9 +166,8 @@ private:
     int fileWidth() const
     {
         const QFontMetrics metrics(m_small);
-        return m_fileName.isEmpty()
-            ? 0
-            : 2 * s_padding + s_sample + 4
+        return m_fileName.isEmpty() ? 0
+                                    : 2 * s_padding + s_sample + 4
                 + qMin(metrics.horizontalAdvance(m_fileName), 10 * metrics.averageCharWidth());
     }
 

@@ -23,6 +23,12 @@ enum MemoryCommand {
     Clear,
 };
 
+/// The commands of the autoscale key.
+enum AutoScaleCommand {
+    FitActive,
+    FitAll,
+};
+
 /// A parameter's ports, in the order of a list.
 struct Ports {
     int to;
@@ -85,6 +91,10 @@ void TraceController::connectKeys()
     keys.memory->addMenuItem(Clear, tr("Clear memory"));
     connect(keys.memory, qOverload<int>(&MenuButton::menuItemClicked), this,
             &TraceController::onMemoryPicked);
+    keys.autoScale->addMenuItem(FitActive, tr("This trace"));
+    keys.autoScale->addMenuItem(FitAll, tr("All traces"));
+    connect(keys.autoScale, qOverload<int>(&MenuButton::menuItemClicked), this,
+            &TraceController::onAutoScalePicked);
     connect(keys.visible, &SwitchButton::statusChanged, this, [this](bool visible) {
         if (const Trace *trace = m_model->activeTrace())
             m_model->setTraceVisible(trace->id, visible);
@@ -100,6 +110,15 @@ void TraceController::onMemoryPicked(int command)
         m_model->storeMemory(trace->id);
     else if (command == Clear)
         m_model->clearMemory(trace->id);
+}
+
+void TraceController::onAutoScalePicked(int command)
+{
+    const Trace *active = m_model->activeTrace();
+    for (const Trace &trace : QVector<Trace>(m_model->traces())) {
+        if (command == FitAll || (active && active->id == trace.id))
+            m_model->fitTrace(trace.id);
+    }
 }
 
 void TraceController::onEditRequested(int traceId, TraceBar::Field field)

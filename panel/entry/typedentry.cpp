@@ -99,8 +99,8 @@ QString TypedEntry::number() const
 bool TypedEntry::isValue(const QString &unitKey) const
 {
     const bool changesUnit = m_adapter->availableUnits().contains(unitKey);
-    return std::isfinite(m_adapter->typedValue(changesUnit ? number() + unitKey
-                                                           : m_editor->text()));
+    return std::isfinite(
+        m_adapter->typedValue(changesUnit ? number() + unitKey : m_editor->text()));
 }
 
 /// Presses the key of the unit that was typed.

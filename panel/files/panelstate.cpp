@@ -43,9 +43,12 @@ struct Choice {
 };
 
 constexpr Choice s_choices[] = {
-    {"look", 2},    {"layout", 4},
-    {"grid", 3},    {"density", 3},
-    {"source", sourceCount}, {"readout", readoutFormatCount},
+    {"look", 2},
+    {"layout", 4},
+    {"grid", 3},
+    {"density", gridDensityCount},
+    {"source", sourceCount},
+    {"readout", readoutFormatCount},
 };
 
 bool isChoice(const QJsonValue &value, int count)
@@ -58,8 +61,8 @@ bool isTrace(const QJsonObject &trace)
 {
     for (const QJsonValue value : trace["markers"_key].toArray()) {
         const QJsonObject marker = value.toObject();
-        if (!isChoice(marker["number"_key], Markers::perTrace + 1) || !marker["hertz"_key].isDouble()
-            || !isChoice(marker["repeat"_key], 1 << 30))
+        if (!isChoice(marker["number"_key], Markers::perTrace + 1)
+            || !marker["hertz"_key].isDouble() || !isChoice(marker["repeat"_key], 1 << 30))
             return false;
     }
     return isChoice(trace["to"_key], 1000) && isChoice(trace["from"_key], 1000)
@@ -202,8 +205,8 @@ void restoreNetworks(PanelModel *model, const QJsonObject &state)
             if (trace.network != i || next == traces.size())
                 continue;
             if (next == 0)
-                model->setStimulus(trace,
-                                   {network["start"_key].toDouble(), network["stop"_key].toDouble()});
+                model->setStimulus(
+                    trace, {network["start"_key].toDouble(), network["stop"_key].toDouble()});
             restored.append({trace.id, traces.at(next).toObject()});
             restoreTrace(model, trace.id, restored.last().second);
             ++next;
@@ -213,8 +216,9 @@ void restoreNetworks(PanelModel *model, const QJsonObject &state)
         restoreChoices(model, id, trace);
     for (const QJsonValue value : same ? state["zooms"_key].toArray() : QJsonArray()) {
         const QJsonObject zoom = value.toObject();
-        model->setZoom({zoom["smith"_key].toBool(), zoom["place"_key].toInt()},
-                       {zoom["factor"_key].toDouble(), zoom["x"_key].toDouble(), zoom["y"_key].toDouble()});
+        model->setZoom(
+            {zoom["smith"_key].toBool(), zoom["place"_key].toInt()},
+            {zoom["factor"_key].toDouble(), zoom["x"_key].toDouble(), zoom["y"_key].toDouble()});
     }
     // After the markers, or the first would bring the others along.
     model->setMarkersDiscrete(state["markersDiscrete"_key].toBool());
@@ -231,9 +235,9 @@ QJsonObject readState(const QString &path, QString &note)
         note = Text::tr("The state of the last time cannot be read.");
         return {};
     }
-    const QJsonObject state =
-        file.size() > s_largestFile ? QJsonObject()
-                                    : QJsonDocument::fromJson(file.read(s_largestFile)).object();
+    const QJsonObject state = file.size() > s_largestFile
+        ? QJsonObject()
+        : QJsonDocument::fromJson(file.read(s_largestFile)).object();
     if (state["version"_key].isDouble() && state["version"_key].toInt() != s_version)
         note = Text::tr("The state of the last time is of another version and not used.");
     else if (state["version"_key].toInt() != s_version || !isValid(state))
@@ -279,7 +283,11 @@ void PanelState::restore(PanelModel *model, bool withSource) const
     ViewSettings *view = model->viewSettings();
     view->layoutProfile()->setLayoutType(Graph::LayoutType(m_saved["layout"_key].toInt()));
     view->setGridMode(SmithChartPlot::GridMode(m_saved["grid"_key].toInt()));
-    view->setDensity(SmithChart::Preset(m_saved["density"_key].toInt()));
+    view->setDensity(GridDensity(m_saved["density"_key].toInt()));
+    if (isChoice(m_saved["gridLabels"_key], gridLabelsCount))
+        view->setGridLabels(GridLabels(m_saved["gridLabels"_key].toInt()));
+    view->setVswrCircle(m_saved["vswrCircle"_key].toDouble());
+    view->setVswrLimit(m_saved["vswrLimit"_key].toDouble());
     view->setReadoutFormat(ReadoutFormat(m_saved["readout"_key].toInt()));
     view->setOnlyActiveTrace(m_saved["onlyActiveTrace"_key].toBool());
     model->preferences()->setScreenshotFolder(m_saved["screenshots"_key].toString());
@@ -299,7 +307,8 @@ void PanelState::restore(PanelModel *model, bool withSource) const
     } else {
         restoreNetworks(model, m_saved);
     }
-    model->setSweep({sweep["start"_key].toDouble(), sweep["stop"_key].toDouble(), sweep["points"_key].toInt()});
+    model->setSweep(
+        {sweep["start"_key].toDouble(), sweep["stop"_key].toDouble(), sweep["points"_key].toInt()});
 }
 
 bool PanelState::save(const PanelModel &model, const QString &path)
@@ -321,13 +330,18 @@ bool PanelState::save(const PanelModel &model, const QString &path)
         {"layout"_key, int(view->diagramLayout())},
         {"grid"_key, int(view->gridMode())},
         {"density"_key, int(view->density())},
+        {"gridLabels"_key, int(view->gridLabels())},
+        {"vswrCircle"_key, view->vswrCircle()},
+        {"vswrLimit"_key, view->vswrLimit()},
         {"readout"_key, int(view->readoutFormat())},
         {"onlyActiveTrace"_key, view->onlyActiveTrace()},
         {"markersDiscrete"_key, model.markersDiscrete()},
         {"markersCoupled"_key, model.markersCoupled()},
         {"screenshots"_key, preferences->screenshotFolder()},
         {"source"_key, int(model.source())},
-        {"sweep"_key, QJsonObject{{"start"_key, sweep.start}, {"stop"_key, sweep.stop}, {"points"_key, sweep.points}}},
+        {"sweep"_key,
+         QJsonObject{
+             {"start"_key, sweep.start}, {"stop"_key, sweep.stop}, {"points"_key, sweep.points}}},
         {"tuning"_key, model.tuning()},
         {"files"_key, files},
         {"networks"_key, writtenNetworks(model)},

@@ -83,6 +83,8 @@ Look currentLook()
     look.bar = dark ? QColor(0x14, 0x17, 0x1a) : QColor(0xe1, 0xdc, 0xd6);
     look.dimText = dark ? QColor(0x9a, 0xa5, 0xaf) : QColor(0x4d, 0x58, 0x61);
     look.accent = dark ? QColor(0x40, 0xb5, 0xff) : QColor(0x00, 0x68, 0xb0);
+    look.pass = dark ? QColor(0x3d, 0xd6, 0x8c) : QColor(0x00, 0x7a, 0x45);
+    look.fail = dark ? QColor(0xff, 0x5c, 0x5c) : QColor(0xc6, 0x1a, 0x1a);
     look.warning = dark ? QColor(0xff, 0xb3, 0x47) : QColor(0xa8, 0x4f, 0x00);
     return look;
 }
@@ -102,9 +104,9 @@ Panel--MessageBar[notice="true"] { border-color: @accent; }
 Panel--ReadOuts, Panel--ReadOuts > QWidget > QWidget { background: transparent; border: none; }
 QPushButton#fitTrace { min-height: 36px; padding: 2px 12px; background: @bar; border: 1px solid @warning; border-radius: 4px; color: @text; }
 Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
-QPushButton#pageTab { border: none; border-bottom: 2px solid @border; border-radius: 0px; padding: 4px 5px; background: transparent; color: @dimText; }
-QPushButton#pageTab:checked { border-bottom-color: @accent; color: @text; }
-QPushButton#pageTab:focus { border: 2px solid @accent; padding: 2px 3px; }
+QToolButton#pageTab { border: none; border-left: 3px solid transparent; border-radius: 0px; padding: 2px 0px; background: transparent; color: @dimText; font-size: 11px; }
+QToolButton#pageTab:checked { border-left-color: @accent; color: @text; background: @button; }
+QToolButton#pageTab:focus { border: 2px solid @accent; padding: 1px 0px; }
 Panel--SoftKey[editing="true"] { border-color: @accent; }
 Panel--SoftKey QLabel#valueLabel { padding: 0px; }
 Panel--SoftKey QLabel#valueLabel:disabled { color: @dimText; }

@@ -21,6 +21,8 @@ struct Look {
     QColor button;
     QColor accent; ///< choice and focus
     QColor warning; ///< edge of a message
+    QColor pass; ///< of what keeps within its limits
+    QColor fail;
     QVector<QColor> traces; ///< at least 8, of which no two are alike
     QVector<QColor> memories;
 

@@ -43,7 +43,7 @@ QVector<PlannedDiagram> planDiagrams(Graph::LayoutType layout, const QVector<Tra
 
 /// The part of a diagram that is seen.
 struct Zoom {
-    static constexpr double maximum = 20.0;
+    static constexpr double maximum = 200.0;
 
     double factor = 1.0; ///< 1 shows the whole diagram; up to maximum
     /// The centre of what is seen: on a Smith chart in units of the reflection coefficient, over

@@ -378,7 +378,8 @@ void PanelModel::setMarkersCoupled(bool coupled)
     if (coupled == markersCoupled())
         return;
     const Markers::Changes changes = m_markers.setCoupled(coupled, active ? active->id : 0);
-    const QVector<int> referenced = coupled ? m_markers.shareReference(active ? active->id : 0) : QVector<int>();
+    const QVector<int> referenced =
+        coupled ? m_markers.shareReference(active ? active->id : 0) : QVector<int>();
     Q_EMIT markerModeChanged();
     tell(changes);
     for (const int trace : referenced)

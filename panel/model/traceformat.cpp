@@ -63,8 +63,7 @@ Scale fittingScale(TraceFormat format, double lowest, double highest)
     if (standing)
         lowest = 1.0;
     const double needed = (highest - lowest) / (row.divisions - 2);
-    double division =
-        roundedUp(std::clamp(needed, row.smallestDivision, row.largestDivision));
+    double division = roundedUp(std::clamp(needed, row.smallestDivision, row.largestDivision));
     if (format == TraceFormat::Phase && division > 20.0)
         division = division > 45.0 ? 90.0 : 45.0;
     division = std::min(division, row.largestDivision);

@@ -7,8 +7,27 @@
 #include <platform/layoutmanagerprofile.h>
 #include <smithchart/smithchartplot.h>
 
+#include <cmath>
+
 namespace Panel
 {
+
+/// How many lines the grid of a Smith chart has: those of a preset, or as many as its part in view
+/// has room for.
+enum class GridDensity {
+    Basic,
+    Standard,
+    Detailed,
+    Automatic,
+};
+constexpr int gridDensityCount = 4;
+
+/// What the lines of an automatic grid are labelled with.
+enum class GridLabels {
+    Ohms, ///< and siemens
+    Normalised,
+};
+constexpr int gridLabelsCount = 2;
 
 /// How the user wants to see the traces, whatever they are: the same for all diagrams.
 class ViewSettings : public QObject
@@ -22,7 +41,12 @@ public:
     Graph::LayoutManagerProifle *layoutProfile() { return &m_layout; }
     Graph::LayoutType diagramLayout() const { return m_layout.layoutType(); }
     SmithChartPlot::GridMode gridMode() const { return m_gridMode; }
-    SmithChart::Preset density() const { return m_density; }
+    GridDensity density() const { return m_density; }
+    GridLabels gridLabels() const { return m_gridLabels; }
+    /// The standing wave ratio whose circle is drawn, or 0.
+    double vswrCircle() const { return m_vswrCircle; }
+    /// The standing wave ratio that traces on a Smith chart must not exceed, or 0.
+    double vswrLimit() const { return m_vswrLimit; }
     /// As it was chosen.
     ReadoutFormat readoutFormat() const { return m_readoutFormat; }
     /// What that means on the present grid: never Automatic.
@@ -31,7 +55,11 @@ public:
     bool onlyActiveTrace() const { return m_onlyActiveTrace; }
 
     void setGridMode(SmithChartPlot::GridMode mode) { set(m_gridMode, mode); }
-    void setDensity(SmithChart::Preset density) { set(m_density, density); }
+    void setDensity(GridDensity density) { set(m_density, density); }
+    void setGridLabels(GridLabels labels) { set(m_gridLabels, labels); }
+    /// Anything but a finite ratio above 1 takes the circle, or the limit, away.
+    void setVswrCircle(double ratio) { set(m_vswrCircle, ratioOrNone(ratio)); }
+    void setVswrLimit(double ratio) { set(m_vswrLimit, ratioOrNone(ratio)); }
     void setReadoutFormat(ReadoutFormat format) { set(m_readoutFormat, format); }
     void setOnlyActiveTrace(bool only) { set(m_onlyActiveTrace, only); }
 
@@ -40,6 +68,11 @@ Q_SIGNALS:
     void changed();
 
 private:
+    static double ratioOrNone(double ratio)
+    {
+        return std::isfinite(ratio) && ratio > 1.0 ? ratio : 0.0;
+    }
+
     template<typename T>
     void set(T &member, T value)
     {
@@ -51,7 +84,10 @@ private:
 
     Graph::LayoutManagerProifle m_layout;
     SmithChartPlot::GridMode m_gridMode = SmithChartPlot::Impedance;
-    SmithChart::Preset m_density = SmithChart::Standard;
+    GridDensity m_density = GridDensity::Automatic;
+    GridLabels m_gridLabels = GridLabels::Ohms;
+    double m_vswrCircle = 0.0;
+    double m_vswrLimit = 0.0;
     ReadoutFormat m_readoutFormat = ReadoutFormat::Automatic;
     bool m_onlyActiveTrace = false;
 };

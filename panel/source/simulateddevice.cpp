@@ -72,7 +72,8 @@ SimulatedDevice::Values SimulatedDevice::circuitAt(double hertz) const
         const Circuits::Matrix s = Circuits::bandPass(omega);
         return {s.a, s.c, s.b, s.d};
     }
-    return {m_source == Source::Cable ? Circuits::openCable(omega) : Circuits::antenna(omega, m_tuning)};
+    return {m_source == Source::Cable ? Circuits::openCable(omega)
+                                      : Circuits::antenna(omega, m_tuning)};
 }
 
 Network SimulatedDevice::preview() const

@@ -41,7 +41,8 @@ void addOptions(QCommandLineParser &parser)
     add({literal("lang")}, "en, de or zh_CN (default: as it was left).", "CODE");
     add({literal("state")}, "Keep the panel's state in FILE.", "FILE");
     add({literal("save")},
-        "Convert one file to OUT, as Touchstone or CSV by its extension, and quit; needs no display.",
+        "Convert one file to OUT, as Touchstone or CSV by its extension, and quit; needs no "
+        "display.",
         "OUT");
     add({literal("touchstone-version")}, "Save as Touchstone 1 or 2 (default: as it needs).", "N");
     add({literal("overwrite")}, "Save over a file that is newer, too.");
@@ -70,7 +71,8 @@ QString readValues(const QCommandLineParser &parser, CommandLine &result)
     }
     const QString size = parser.value(literal("size"));
     if (parser.isSet(literal("size")) && !parseSize(size, result.size))
-        return literal("--size wants WIDTHxHEIGHT from 800x480 to 7680x4320, not \"%1\".").arg(size);
+        return literal("--size wants WIDTHxHEIGHT from 800x480 to 7680x4320, not \"%1\".")
+            .arg(size);
     if (parser.isSet(literal("scale"))) {
         bool ok = false;
         const QString scale = parser.value(literal("scale"));

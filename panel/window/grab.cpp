@@ -15,8 +15,8 @@
 #include <panel/entry/softkey.h>
 #include <panel/entry/softkeymenu.h>
 #include <panel/files/samples.h>
-#include <panel/touchstone/touchstone.h>
 #include <panel/model/panelmodel.h>
+#include <panel/touchstone/touchstone.h>
 
 #include <controls/thememanager.h>
 #include <plot/qcp.h>
@@ -139,11 +139,11 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     settings->setGridMode(SmithChartPlot::ImpedanceAndAdmittance);
     grabber.grab("smith-both");
     settings->setGridMode(SmithChartPlot::Impedance);
-    settings->setDensity(SmithChart::Basic);
+    settings->setDensity(GridDensity::Basic);
     grabber.grab("smith-basic");
-    settings->setDensity(SmithChart::Detailed);
+    settings->setDensity(GridDensity::Detailed);
     grabber.grab("smith-detailed");
-    settings->setDensity(SmithChart::Standard);
+    settings->setDensity(GridDensity::Automatic);
     model->setZoom(window->smithView()->id(), {4.0, 0.0, 0.0});
     grabber.grab("smith-zoomed");
     model->setZoom(window->smithView()->id(), Zoom());

@@ -32,14 +32,38 @@ private Q_SLOTS:
         QCOMPARE(desk.model.markers().size(), 1);
 
         // A new chart and a hidden trace take the marker with them.
-        desk.model.viewSettings()->setDensity(SmithChart::Basic);
+        desk.model.viewSettings()->setDensity(GridDensity::Basic);
         QVERIFY(isShown());
         desk.model.setTraceVisible(2, false);
         QVERIFY(!isShown());
-        desk.model.viewSettings()->setDensity(SmithChart::Standard);
+        desk.model.viewSettings()->setDensity(GridDensity::Standard);
         QVERIFY(!isShown());
         desk.model.setTraceVisible(2, true);
         QVERIFY(isShown());
+    }
+
+    void numbersOfMarkersInOnePlaceStandApart()
+    {
+        ChartDesk desk;
+        desk.setLayout(Graph::LayoutType::SideBySide);
+        const DiagramView *views[] = {desk.view(), desk.window.cartesianView()};
+        for (const DiagramView *view : views) {
+            const int trace = view->traceIds().first();
+            for (const double index : {600.0, 601.0, 602.0})
+                desk.model.addMarker(trace, index);
+            ChartDesk::settle();
+            QVector<double> places;
+            for (const int number : {1, 2, 3})
+                places
+                    << view->drawnMarker(trace, number)->getLabel()->position->pixelPosition().x();
+            std::sort(places.begin(), places.end()); // in the order of their tips
+            QVERIFY(places.at(1) - places.at(0) > 8.0 && places.at(2) - places.at(1) > 8.0);
+            // One that moves away takes its number along.
+            desk.model.moveMarker(trace, 3, 900.0);
+            ChartDesk::settle();
+            const Plot::Marker *gone = view->drawnMarker(trace, 3);
+            QCOMPARE(gone->getLabel()->position->coords().x(), 0.0);
+        }
     }
 
     void markersFollowTheirPointer()
@@ -116,7 +140,8 @@ private Q_SLOTS:
         ChartDesk desk;
         desk.model.addMarker(1, 100.0);
         const Parameter at = desk.model.data(*desk.model.trace(1));
-        for (const auto density : {SmithChart::Standard, SmithChart::Detailed, SmithChart::Basic}) {
+        for (const auto density :
+             {GridDensity::Standard, GridDensity::Detailed, GridDensity::Basic}) {
             desk.model.viewSettings()->setDensity(density);
             for (const double factor : {1.0, 3.0}) {
                 desk.model.setZoom(desk.view()->id(), {factor, at.real.at(100), at.imag.at(100)});

@@ -39,7 +39,10 @@ private Q_SLOTS:
         ViewSettings *view = desk.model.viewSettings();
         view->layoutProfile()->setLayoutType(Graph::LayoutType::Quad);
         view->setGridMode(SmithChartPlot::Admittance);
-        view->setDensity(SmithChart::Basic);
+        view->setGridLabels(GridLabels::Normalised);
+        view->setVswrCircle(3.0);
+        view->setVswrLimit(1.5);
+        view->setDensity(GridDensity::Basic);
         view->setReadoutFormat(ReadoutFormat::Vswr);
         view->setOnlyActiveTrace(true);
         desk.model.setTraceParameter(2, 2, 1);
@@ -81,7 +84,10 @@ private Q_SLOTS:
         const ViewSettings *view = desk.model.viewSettings();
         QCOMPARE(view->diagramLayout(), Graph::LayoutType::Quad);
         QCOMPARE(view->gridMode(), SmithChartPlot::Admittance);
-        QCOMPARE(view->density(), SmithChart::Basic);
+        QCOMPARE(view->density(), GridDensity::Basic);
+        QCOMPARE(view->gridLabels(), GridLabels::Normalised);
+        QCOMPARE(view->vswrCircle(), 3.0);
+        QCOMPARE(view->vswrLimit(), 1.5);
         QCOMPARE(view->readoutFormat(), ReadoutFormat::Vswr);
         QVERIFY(view->onlyActiveTrace());
         const Trace *trace = desk.model.trace(2);
@@ -174,7 +180,7 @@ private Q_SLOTS:
         };
         saves([&] { desk.model.addMarker(1, 3.0); });
         saves([&] { desk.model.setZoom({true, 0}, {2.0, 0.0, 0.0}); });
-        saves([&] { desk.model.viewSettings()->setDensity(SmithChart::Basic); });
+        saves([&] { desk.model.viewSettings()->setDensity(GridDensity::Basic); });
         saves([&] { desk.model.preferences()->setLanguage("de"_s); });
         saves([&] { desk.model.setStimulus(*desk.model.trace(1), {2.4e9, 2.5e9}); });
         // At once when asked; another program's sound state is no damage.

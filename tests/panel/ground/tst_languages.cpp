@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
 
-#include <panel/touchstone/touchstone.h>
 #include <panel/ground/languages.h>
+#include <panel/touchstone/touchstone.h>
 #include <panel/window/sweepbar.h>
 #include <platform/translator.h>
 #include <widgets/displaypanel.h>

@@ -350,8 +350,9 @@ private Q_SLOTS:
         model.setSource(Source::Filter);
         model.beginMeasurement(network(2, {2.3e9, 2.6e9}));
         const Trace &trace = *model.activeTrace();
-        model.setStimulus(trace, withStart(model.stimulus(trace), 2.7e9, model.limits(trace),
-                                           model.smallestSpan()));
+        model.setStimulus(
+            trace,
+            withStart(model.stimulus(trace), 2.7e9, model.limits(trace), model.smallestSpan()));
         QCOMPARE(model.stimulus(trace).start, 2.7e9);
         QCOMPARE(model.stimulus(trace).stop, 2.7e9 + Sweep::smallestSpan);
     }

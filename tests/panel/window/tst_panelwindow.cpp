@@ -38,6 +38,29 @@ private Q_SLOTS:
         TestCase::cleanup();
     }
 
+    void limitJudgesTheTracesOfTheChart()
+    {
+        ChartDesk desk;
+        const QLabel *verdict = desk.view()->verdict();
+        QVERIFY(!verdict->isVisible());
+        desk.pick(desk.keys().vswrCircle, 4);
+        QCOMPARE(desk.model.viewSettings()->vswrCircle(), 2.0);
+        desk.pick(desk.keys().vswrLimit, 7);
+        QVERIFY(verdict->isVisible() && verdict->text().contains("Tr1 from 2.300 GHz"_s));
+        // In the pass band alone both reflections are small.
+        desk.model.setStimulus(*desk.model.trace(1), {2.42e9, 2.48e9});
+        ChartDesk::settle();
+        QVERIFY2(verdict->text().contains("PASS"_s), qPrintable(verdict->text()));
+        // A new chart judges as the old one did; what is hidden is not judged.
+        desk.model.setStimulus(*desk.model.trace(1), {2.3e9, 2.6e9});
+        desk.pick(desk.keys().density, 1);
+        QVERIFY(verdict->text().contains("FAIL"_s));
+        desk.model.setTraceVisible(1, false);
+        QVERIFY(!verdict->text().contains("Tr1"_s) && verdict->text().contains("Tr2"_s));
+        desk.pick(desk.keys().vswrLimit, 0);
+        QVERIFY(!verdict->isVisible());
+    }
+
     void densityKeepsEverythingElse()
     {
         ChartDesk desk;
@@ -55,8 +78,9 @@ private Q_SLOTS:
         const int items = desk.plot()->itemCount();
         const int plottables = desk.plot()->plottableCount();
 
-        for (const auto density : {SmithChart::Basic, SmithChart::Detailed, SmithChart::Standard}) {
-            desk.pick(desk.keys().density, density);
+        for (const auto density :
+             {GridDensity::Basic, GridDensity::Detailed, GridDensity::Automatic}) {
+            desk.pick(desk.keys().density, int(density));
             QCOMPARE(desk.keys().density->choice(), int(density));
             QCOMPARE(desk.chart()->gridMode(), SmithChartPlot::ImpedanceAndAdmittance);
             QCOMPARE(desk.chart()->activeTrace(), 2);
@@ -100,7 +124,7 @@ private Q_SLOTS:
         desk.turnWheel(pointer, -20);
         QVERIFY(!desk.chart()->isMagnified());
         desk.turnWheel(pointer, 100);
-        QCOMPARE(desk.zoom(desk.view()), 20.0);
+        QCOMPARE(desk.zoom(desk.view()), Zoom::maximum);
 
         desk.click(desk.keys().whole);
         QVERIFY(!desk.chart()->isMagnified());
