@@ -8,10 +8,10 @@
 #include <controls/scaledunitadapter.h>
 #include <controls/step125controller.h>
 #include <controls/touchnumkeyboard.h>
+#include <tests/shared/events.h>
 
 #include <QCoreApplication>
 #include <QDoubleValidator>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -45,13 +45,8 @@ void sendKey(Fuzz::Input &input, QObject *receiver)
 {
     const int key = keys[input.integer(0, int(std::size(keys)) - 1)];
     const QString typed = input.flag() ? text(input) : QString();
-    const auto modifiers = input.integer(0, 7) ? Qt::NoModifier : Qt::ShiftModifier;
-    const QPointer<QObject> alive(receiver);
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, modifiers, typed);
-        if (alive)
-            QCoreApplication::sendEvent(alive, &event);
-    }
+    VnaTest::sendKey(receiver, key, typed,
+                     input.integer(0, 7) ? Qt::NoModifier : Qt::ShiftModifier);
 }
 
 std::unique_ptr<BaseUnitAdapter> makeAdapter(Fuzz::Input &input)

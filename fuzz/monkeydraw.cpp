@@ -105,10 +105,10 @@ Species drawSpecies(Random &random)
 }
 
 /// While a pointer is down: mostly what it does, and now and then something else.
-Species drawHeld(Random &random, bool touch, int fingers)
+Species drawHeld(Random &random, int fingers)
 {
     const int at = random.below(100);
-    if (!touch)
+    if (fingers == 0)
         return at < 60 ? Species::Move : at < 88 ? Species::Release : drawSpecies(random);
     if (at < 50)
         return fingers == 2 ? Species::TouchSpread : Species::TouchMove;
@@ -203,7 +203,7 @@ Event Desk::draw(Random &random) const
         return event;
     }
     event.species =
-        isPointerDown() ? drawHeld(random, m_fingers > 0, m_fingers) : drawSpecies(random);
+        isPointerDown() ? drawHeld(random, m_touchScreen.fingers()) : drawSpecies(random);
     event.behind = random.oneIn(12);
     const auto at = [&](int &x, int &y) {
         const QPoint position = drawPosition(random, event.behind);

@@ -16,8 +16,6 @@
 #include <QElapsedTimer>
 #include <QTimer>
 #include <QToolButton>
-#include <QTouchEvent>
-#include <QWheelEvent>
 
 #include <utility>
 
@@ -29,19 +27,6 @@ namespace
 
 constexpr int mostPoints = 20001;
 
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(bytes);
-}
-
 /// Also what the panel's own thread of a file or a sweep has handed over.
 void settle()
 {
@@ -51,84 +36,6 @@ void settle()
 }
 
 } // namespace
-
-Files::Files()
-{
-    QDir().mkpath(folder());
-    const QDir samples(Panel::sampleFolder());
-    QByteArray whole;
-    for (const QString &name : samples.entryList(QDir::Files, QDir::Name)) {
-        whole = readFile(samples.filePath(name));
-        add(qPrintable(name), whole);
-    }
-    const QByteArray onePort = readFile(Panel::startSample());
-    add("cut.s2p", whole.left(int(whole.size()) / 2));
-    add("empty.s1p", {});
-    add("words.s1p", "# GHz S MA R 50\none two three\n");
-    add("nan.s1p", "# GHz S RI R 50\n1 nan inf\n2 0 0\n");
-    add("single.s1p", "# GHz S RI R 50\n1 0.5 0.5\n");
-    add("backwards.s1p", "# GHz S RI R 50\n3 0 0\n2 0 0\n1 0 0\n");
-    add("huge.s1p", "# GHz S RI R 50\n1 1e300 -1e300\n2 -1e300 1e300\n3 0 1e-300\n");
-    add("still.s1p", "# Hz S RI R 50\n0 0 0\n1 0 0\n2 0 0\n");
-    QByteArray noise = onePort;
-    Random random(7);
-    for (int i = 0; i < 200; ++i)
-        noise[random.below(int(noise.size()))] = char(random.below(256));
-    add("noise.s1p", noise);
-    QByteArray longFile = "# MHz S RI R 50\n";
-    for (int i = 1; i <= 5000; ++i)
-        longFile += QByteArray::number(i) + (i % 7 ? " 0.1 0.2\n" : " -0.7 0.1\n");
-    add("long.s1p", longFile);
-    m_names << QStringLiteral("missing.s1p") << QStringLiteral("folder.s2p");
-    m_contents << QByteArray() << QByteArray();
-    QDir().mkpath(folder() + QStringLiteral("/folder.s2p"));
-}
-
-void Files::add(const char *name, const QByteArray &bytes)
-{
-    m_names << QString::fromLatin1(name);
-    m_contents << bytes;
-    writeFile(path(int(m_names.size()) - 1), bytes);
-}
-
-QString Files::path(int index) const
-{
-    return QDir(folder()).filePath(m_names.at(index));
-}
-
-void Files::change(int index, int how)
-{
-    if (m_contents.at(index).isEmpty())
-        return;
-    if (how == 0)
-        QFile::remove(path(index));
-    else
-        writeFile(path(index), m_contents.at(how == 1 ? index : how % count()));
-}
-
-void Files::damageState(int how, int place)
-{
-    QByteArray bytes = readFile(state());
-    const int at = bytes.isEmpty() ? 0 : place % int(bytes.size());
-    switch (how) {
-    case 1:
-        bytes.truncate(at);
-        break;
-    case 2:
-        bytes.insert(at, ", \"scale\": null, \"networks\": [{}], ");
-        break;
-    case 3:
-        bytes.remove(at, 1 + place % 40);
-        break;
-    case 4:
-        bytes.fill(char(place), int(bytes.size()));
-        break;
-    default:
-        if (!bytes.isEmpty())
-            bytes[at] = char(place);
-    }
-    writeFile(state(), bytes);
-}
 
 Desk::Desk(Files *files)
     : m_files(files)
@@ -286,51 +193,33 @@ void Desk::touch(const Event &event)
     const QPoint first(event.a, event.b);
     if (event.species == Species::TouchPress) {
         QWindow *window = windowOf(event.behind);
-        if (isPointerDown() || !window || !window->isVisible())
-            return;
-        m_touchedWindow = window;
-        m_fingers = 1;
-        m_finger[0] = first;
-        QTest::touchEvent(window, m_device).press(0, first, window);
+        if (!isPointerDown() && window && window->isVisible())
+            m_touchScreen.press(window, first);
         return;
     }
-    QWindow *window = m_touchedWindow ? m_touchedWindow.data() : windowOf(false);
-    if (m_fingers == 0 || !window)
+    const int fingers = m_touchScreen.fingers();
+    if (fingers == 0 || !m_touchScreen.stayIn(windowOf(false)))
         return;
-    auto points = QTest::touchEvent(window, m_device, false);
     switch (event.species) {
     case Species::TouchMove:
-        m_finger[0] = first;
-        points.move(0, first, window);
-        if (m_fingers == 2)
-            points.stationary(1);
+        m_touchScreen.move(first);
         break;
     case Species::TouchSecond:
-        if (m_fingers == 2)
-            return;
-        m_fingers = 2;
-        m_finger[1] = first;
-        points.move(0, m_finger[0], window).press(1, first, window);
+        if (fingers == 1)
+            m_touchScreen.pressSecond(first);
         break;
     case Species::TouchSpread:
-        if (m_fingers < 2)
-            return;
-        m_finger[0] = first;
-        m_finger[1] = QPoint(event.c, event.d);
-        points.move(0, first, window).move(1, m_finger[1], window);
+        if (fingers == 2)
+            m_touchScreen.moveBoth(first, {event.c, event.d});
         break;
-    case Species::TouchCancel: {
-        QTouchEvent cancel(QEvent::TouchCancel, m_device);
-        QCoreApplication::sendEvent(window, &cancel);
-        // The fingers are still there for the application, which sees them leave.
+    case Species::TouchCancel:
+        m_touchScreen.cancel();
         releasePointer();
-        return;
-    }
+        break;
     default:
         releasePointer();
-        return;
+        break;
     }
-    points.commit();
 }
 
 void Desk::releasePointer()
@@ -340,26 +229,15 @@ void Desk::releasePointer()
         if (QWindow *window = m_pressedWindow ? m_pressedWindow.data() : windowOf(false))
             QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, m_at);
     }
-    QWindow *window = m_touchedWindow ? m_touchedWindow.data() : windowOf(false);
-    if (m_fingers > 0 && window) {
-        auto points = QTest::touchEvent(window, m_device, false);
-        points.release(0, m_finger[0], window);
-        if (m_fingers == 2)
-            points.release(1, m_finger[1], window);
-        m_fingers = 0;
-        points.commit();
-    }
+    if (m_touchScreen.fingers() > 0 && m_touchScreen.stayIn(windowOf(false)))
+        m_touchScreen.release();
 }
 
 void Desk::wheel(const Event &event)
 {
     QWindow *window = windowOf(false);
-    if (!window || !window->isVisible())
-        return;
-    const QPoint position(event.a, event.b);
-    QWheelEvent wheel(position, window->mapToGlobal(position), QPoint(), QPoint(0, 120 * event.c),
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(window, &wheel);
+    if (window && window->isVisible())
+        VnaTest::turnWheel(window, {event.a, event.b}, 120 * event.c);
 }
 
 void Desk::key(const Event &event)

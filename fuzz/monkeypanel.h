@@ -3,45 +3,18 @@
 #pragma once
 
 #include "monkeyevents.h"
+#include "monkeyfiles.h"
 
 #include <panel/files/panelstate.h>
 #include <panel/model/panelmodel.h>
 #include <panel/window/panelcontroller.h>
 #include <panel/window/panelwindow.h>
-
-#include <QPointer>
-#include <QTemporaryDir>
-#include <QtTest>
+#include <tests/shared/pointer.h>
 
 #include <memory>
 
 namespace Monkey
 {
-
-/// The files that are there to be opened, good and broken, in a folder of their own.
-class Files
-{
-public:
-    Files();
-
-    int count() const { return int(m_names.size()); }
-    QString folder() const { return m_dir.filePath(QStringLiteral("monkey/files")); }
-    QString pictures() const { return m_dir.filePath(QStringLiteral("pictures")); }
-    QString path(int index) const;
-    /// Writes other contents, removes the file, or brings back what it was.
-    void change(int index, int how);
-    /// Where the panel's state is kept.
-    QString state() const { return m_dir.filePath(QStringLiteral("state.json")); }
-    /// Damages the saved state in one of five ways, at a place that is anywhere in it or behind.
-    void damageState(int how, int place);
-
-private:
-    void add(const char *name, const QByteArray &bytes);
-
-    QTemporaryDir m_dir;
-    QStringList m_names;
-    QVector<QByteArray> m_contents;
-};
 
 /*! A panel and the hand on it: makes happen what an event says, through the window, as the platform
     would. An event that has no sense where things stand does nothing, so that every part of a log
@@ -58,7 +31,7 @@ public:
 
     Panel::PanelWindow *window() const { return m_window.get(); }
     const Panel::PanelModel *model() const { return m_model.get(); }
-    bool isPointerDown() const { return m_pressed || m_fingers > 0; }
+    bool isPointerDown() const { return m_pressed || m_touchScreen.fingers() > 0; }
     /// What has gone wrong since this was last asked and cannot be seen in the panel.
     QStringList takeBroken();
     /// Takes the panel away, and says what outlived it.
@@ -88,14 +61,11 @@ private:
     std::unique_ptr<Panel::PanelModel> m_model;
     std::unique_ptr<Panel::PanelWindow> m_window;
     std::unique_ptr<Panel::PanelController> m_controller;
-    decltype(QTest::createTouchDevice()) m_device = QTest::createTouchDevice();
 
     bool m_pressed = false;
     QPointer<QWindow> m_pressedWindow;
     QPoint m_at; ///< the mouse, in its window
-    int m_fingers = 0;
-    QPointer<QWindow> m_touchedWindow;
-    QPoint m_finger[2];
+    VnaTest::TouchScreen m_touchScreen;
     int m_changes = 0; ///< of what only a hand changes
     QStringList m_broken;
 };

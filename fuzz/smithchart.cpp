@@ -148,117 +148,113 @@ private:
         m_inPlotEvent = nested;
     }
 
+    /// What a call is about; each does with it what it likes.
+    struct Call {
+        Desk &desk;
+        SmithChartPlot &chart;
+        Input &input;
+        int trace;
+        int local;
+        bool flag;
+    };
+
     void act()
     {
+        using Chart = SmithChartPlot;
+        using Act = void (*)(const Call &);
+        static constexpr Act addCurve = [](const Call &c) {
+            c.chart.addCurve(c.trace, QPen(Qt::GlobalColor(c.input.integer(2, 18))));
+        };
+        static constexpr Act setLine = [](const Call &c) { c.desk.setData(c.trace); };
+        static constexpr Act addMarker = [](const Call &c) {
+            c.chart.addMarkerVisual(c.trace, c.local, c.input.integer(-2, 800) / 2.0,
+                                    static_cast<Plot::MarkerType>(c.flag));
+        };
+        // What occurs more often stands here more often; the corpus counts on the order.
+        static constexpr Act acts[] = {
+            addCurve,
+            addCurve,
+            [](const Call &c) { c.chart.removeCurve(c.trace); },
+            [](const Call &c) {
+                if (c.input.integer(0, 9) == 0)
+                    c.chart.clearAllCurves();
+            },
+            setLine,
+            setLine,
+            setLine,
+            [](const Call &c) { c.chart.setCurveVisible(c.trace, c.flag); },
+            [](const Call &c) {
+                if (c.chart.getCurve(c.trace) || c.flag)
+                    c.chart.setActiveTrace(c.chart.getCurve(c.trace) ? c.trace : 0);
+            },
+            [](const Call &c) { c.chart.clearActiveTrace(); },
+            [](const Call &c) {
+                c.chart.setGridMode(static_cast<Chart::GridMode>(c.input.integer(-1, 3)));
+            },
+            [](const Call &c) {
+                const QPointF anchor(c.input.real(), c.input.real());
+                c.chart.zoomAt(anchor, c.input.real());
+            },
+            [](const Call &c) {
+                if (QCustomPlot *const plot = c.desk.m_plot)
+                    c.chart.setAxes(c.flag ? plot->xAxis : plot->xAxis2, plot->yAxis);
+            },
+            addMarker,
+            addMarker,
+            [](const Call &c) { c.chart.removeMarkerVisual(c.trace, c.local); },
+            [](const Call &c) {
+                const double index = c.flag ? c.input.real() : c.input.integer(-2, 800) / 2.0;
+                c.chart.setMarkerIndex(c.trace, c.local, index);
+            },
+            [](const Call &c) { c.chart.setMarkerVisible(c.trace, c.local, c.flag); },
+            [](const Call &c) { c.chart.selectMarker(c.trace, c.local); },
+            [](const Call &c) {
+                c.flag ? c.chart.clearMarkerSelection()
+                       : (void)c.chart.setCurvePen(c.trace, QPen(Qt::red));
+            },
+            [](const Call &c) { c.desk.press(c.chart.getMarker(c.trace, c.local), c.flag); },
+            [](const Call &c) {
+                c.flag ? c.chart.updateMarkerDragAt(c.desk.point())
+                       : c.chart.endMarkerDragAt(c.desk.point());
+            },
+            [](const Call &c) { c.chart.handleDoubleClick(c.desk.point(), Qt::NoModifier); },
+            [](const Call &c) {
+                const QCPRange x(c.input.real(), c.input.real());
+                c.chart.setViewFromRequestedRanges(x, QCPRange(c.input.real(), c.input.real()));
+            },
+            [](const Call &c) { c.chart.resetView(); },
+            [](const Call &c) {
+                QKeyEvent key(QEvent::KeyPress, c.flag ? Qt::Key_Delete : Qt::Key_A,
+                              Qt::NoModifier);
+                c.desk.sendToPlot(key);
+            },
+            [](const Call &c) {
+                c.desk.sendMouse(c.flag ? QEvent::MouseMove : QEvent::MouseButtonRelease,
+                                 c.desk.point());
+            },
+            [](const Call &c) { c.chart.setMarkerHitTolerancePx(c.input.real()); },
+            [](const Call &c) {
+                (void)c.chart.hasSourceDataAtIndex(c.trace, c.input.real());
+                (void)c.chart.hasSourceDataAtParameter(c.trace, c.input.real());
+                c.chart.setMarkerLabelText(c.trace, c.local, c.input.text(8));
+            },
+            [](const Call &c) { c.desk.reshape(); },
+        };
         if (!m_chart)
             return;
-        SmithChartPlot &chart = *m_chart;
         const int trace = m_input.integer(0, 4);
         const int local = m_input.integer(1, 3);
-        const bool flag = m_input.flag();
-        switch (m_input.integer(0, 29)) {
-        case 0:
-        case 1:
-            chart.addCurve(trace, QPen(Qt::GlobalColor(m_input.integer(2, 18))));
-            break;
-        case 2:
-            chart.removeCurve(trace);
-            break;
-        case 3:
-            if (m_input.integer(0, 9) == 0)
-                chart.clearAllCurves();
-            break;
-        case 4:
-        case 5:
-        case 6:
-            setData(trace);
-            break;
-        case 7:
-            chart.setCurveVisible(trace, flag);
-            break;
-        case 8:
-            if (chart.getCurve(trace) || flag)
-                chart.setActiveTrace(chart.getCurve(trace) ? trace : 0);
-            break;
-        case 9:
-            chart.clearActiveTrace();
-            break;
-        case 10:
-            chart.setGridMode(static_cast<SmithChartPlot::GridMode>(m_input.integer(-1, 3)));
-            break;
-        case 11:
-            chart.zoomAt({m_input.real(), m_input.real()}, m_input.real());
-            break;
-        case 12:
-            if (m_plot)
-                chart.setAxes(flag ? m_plot->xAxis : m_plot->xAxis2, m_plot->yAxis);
-            break;
-        case 13:
-        case 14:
-            chart.addMarkerVisual(trace, local, m_input.integer(-2, 800) / 2.0,
-                                  static_cast<Plot::MarkerType>(flag));
-            break;
-        case 15:
-            chart.removeMarkerVisual(trace, local);
-            break;
-        case 16:
-            chart.setMarkerIndex(trace, local,
-                                 flag ? m_input.real() : m_input.integer(-2, 800) / 2.0);
-            break;
-        case 17:
-            chart.setMarkerVisible(trace, local, flag);
-            break;
-        case 18:
-            chart.selectMarker(trace, local);
-            break;
-        case 19:
-            flag ? chart.clearMarkerSelection() : (void)chart.setCurvePen(trace, QPen(Qt::red));
-            break;
-        case 20:
-            if (const Plot::Marker *const marker = chart.getMarker(trace, local)) {
-                if (marker->getTracer())
-                    press(marker->getTracer()->position->pixelPosition(), flag);
-            }
-            break;
-        case 21:
-            flag ? chart.updateMarkerDragAt(point()) : chart.endMarkerDragAt(point());
-            break;
-        case 22:
-            chart.handleDoubleClick(point(), Qt::NoModifier);
-            break;
-        case 23:
-            chart.setViewFromRequestedRanges(QCPRange(m_input.real(), m_input.real()),
-                                             QCPRange(m_input.real(), m_input.real()));
-            break;
-        case 24:
-            chart.resetView();
-            break;
-        case 25: {
-            QKeyEvent key(QEvent::KeyPress, flag ? Qt::Key_Delete : Qt::Key_A, Qt::NoModifier);
-            sendToPlot(key);
-            break;
-        }
-        case 26:
-            sendMouse(flag ? QEvent::MouseMove : QEvent::MouseButtonRelease, point());
-            break;
-        case 27:
-            chart.setMarkerHitTolerancePx(m_input.real());
-            break;
-        case 28:
-            (void)chart.hasSourceDataAtIndex(trace, m_input.real());
-            (void)chart.hasSourceDataAtParameter(trace, m_input.real());
-            chart.setMarkerLabelText(trace, local, m_input.text(8));
-            break;
-        case 29:
-            reshape();
-            break;
-        }
+        const Call call{*this, *m_chart, m_input, trace, local, m_input.flag()};
+        acts[m_input.integer(0, int(std::size(acts)) - 1)](call);
     }
 
     QPoint point() { return {m_input.integer(-20, 180), m_input.integer(-20, 180)}; }
 
-    void press(const QPointF &pixel, bool byMouse)
+    void press(const Plot::Marker *marker, bool byMouse)
     {
+        if (!marker || !marker->getTracer())
+            return;
+        const QPointF pixel = marker->getTracer()->position->pixelPosition();
         if (!(std::abs(pixel.x()) < 1e4 && std::abs(pixel.y()) < 1e4))
             return;
         if (byMouse)

@@ -6,10 +6,8 @@
 #include <panel/touchstone/touchstone.h>
 #include <platform/stylehelper.h>
 
-#include <atomic>
 #include <functional>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
 
 #include <vnatest.h>
@@ -95,36 +93,6 @@ private Q_SLOTS:
             QCOMPARE(readSheet(sheet), reason.isEmpty() ? QLatin1String(s_sheet) : ""_s);
         }
         Utils::StyleHelper::setThemes({});
-    }
-
-    /// Another process exchanges the file, at once or byte by byte: what was read is one of the
-    /// two, or a part of one that the reader refuses or that is sound by itself.
-    void replacedWhileRead()
-    {
-        const QTemporaryDir folder;
-        const QString network = writeFile(folder.filePath("a.s1p"_s), s_network);
-        const QString settings = writeFile(folder.filePath("a.ini"_s), s_settings);
-        const QByteArray longNetwork = QByteArray(s_network) + QByteArray("3 0 0\n").repeated(5000);
-        std::atomic<bool> stop{false};
-        std::thread other([&] {
-            const QString fresh = folder.filePath("new"_s);
-            for (int i = 0; !stop; ++i) {
-                writeFile(fresh, i % 2 ? longNetwork : QByteArray(s_network));
-                ::rename(qPrintable(fresh), qPrintable(network));
-                writeFile(settings, i % 3 ? QByteArray(s_settings) : QByteArray());
-                QFile::remove(i % 100 ? fresh : settings);
-            }
-        });
-        bool isSound = true;
-        for (int i = 0; i < 500 && isSound; ++i) {
-            const Panel::TouchstoneResult result = Panel::readTouchstone(network);
-            const int points = result.network.points();
-            isSound =
-                result.ok() && (points == 2 || points == 5002) && readPalette(settings).size() <= 2;
-        }
-        stop = true;
-        other.join();
-        QVERIFY(isSound);
     }
 };
 

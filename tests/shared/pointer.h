@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "events.h"
+
 #include <QtTest>
 #include <QtWidgets>
 
@@ -93,28 +95,63 @@ inline void mouseDrag(QWindow *window, const QPoint &from, const QPoint &to, int
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, to);
 }
 
-/// A touch screen under the fingers of one window; positions are in the window.
+/*! A touch screen under up to two fingers of one window; positions are in the window. The fingers
+    stay where they are until something moves them, also where the window has gone meanwhile. */
 class TouchScreen
 {
+    using Device = decltype(QTest::createTouchDevice());
+    /// One for all, since Qt keeps it for ever; made when it is first touched.
+    static Device device()
+    {
+        static const Device all = QTest::createTouchDevice();
+        return all;
+    }
+    /// What is told of the fingers at once; sent at the end of the statement.
+    auto report() { return QTest::touchEvent(m_window, device()); }
+
 public:
     explicit TouchScreen(const QWidget *widget)
         : m_window(widget->window()->windowHandle())
     {
     }
+    /// Without fingers; press() with a window begins.
+    TouchScreen() = default;
+
+    int fingers() const { return m_fingers; }
 
     void press(const QPoint &pos)
     {
-        m_first = pos;
-        QTest::touchEvent(m_window, m_device).press(0, pos, m_window);
+        m_fingers = 1;
+        m_pos[0] = pos;
+        report().press(0, pos, m_window);
+    }
+    void press(QWindow *window, const QPoint &pos)
+    {
+        m_window = window;
+        press(pos);
     }
     void move(const QPoint &pos)
     {
-        m_first = pos;
-        QTest::touchEvent(m_window, m_device).move(0, pos, m_window);
+        m_pos[0] = pos;
+        auto points = report();
+        points.move(0, pos, m_window);
+        if (m_fingers == 2)
+            points.move(1, m_pos[1], m_window);
     }
+    /// All fingers leave, the first one there.
     void release(const QPoint &pos)
     {
-        QTest::touchEvent(m_window, m_device).release(0, pos, m_window);
+        m_pos[0] = pos;
+        release();
+    }
+    /// All fingers leave in one report, where they are.
+    void release()
+    {
+        auto points = report();
+        points.release(0, m_pos[0], m_window);
+        if (m_fingers == 2)
+            points.release(1, m_pos[1], m_window);
+        m_fingers = 0;
     }
     void tap(const QPoint &pos)
     {
@@ -125,46 +162,55 @@ public:
     /// A second finger comes, while the first rests.
     void pressSecond(const QPoint &pos)
     {
-        QTest::touchEvent(m_window, m_device).move(0, m_first, m_window).press(1, pos, m_window);
+        m_fingers = 2;
+        m_pos[1] = pos;
+        report().move(0, m_pos[0], m_window).press(1, pos, m_window);
     }
     void moveBoth(const QPoint &first, const QPoint &second)
     {
-        m_first = first;
-        QTest::touchEvent(m_window, m_device).move(0, first, m_window).move(1, second, m_window);
+        m_pos[0] = first;
+        m_pos[1] = second;
+        report().move(0, first, m_window).move(1, second, m_window);
     }
     /// The second finger leaves again.
     void releaseSecond(const QPoint &pos)
     {
-        QTest::touchEvent(m_window, m_device).move(0, m_first, m_window).release(1, pos, m_window);
+        m_fingers = 1;
+        report().move(0, m_pos[0], m_window).release(1, pos, m_window);
     }
     /// The first finger leaves, the second stays and then leaves at another place.
     void releaseBoth(const QPoint &first, const QPoint &second)
     {
-        QTest::touchEvent(m_window, m_device).move(1, second, m_window).release(0, first, m_window);
-        QTest::touchEvent(m_window, m_device).move(1, second, m_window);
-        QTest::touchEvent(m_window, m_device).release(1, second, m_window);
+        report().move(1, second, m_window).release(0, first, m_window);
+        report().move(1, second, m_window);
+        report().release(1, second, m_window);
+        m_fingers = 0;
     }
-    /// Both fingers leave in the same report of the screen, where they were.
-    void releaseTogether(const QPoint &second)
+    /// The window loses the fingers, which are still there for the application.
+    void cancel()
     {
-        QTest::touchEvent(m_window, m_device)
-            .release(0, m_first, m_window)
-            .release(1, second, m_window);
+        QTouchEvent event(QEvent::TouchCancel, device());
+        QCoreApplication::sendEvent(m_window, &event);
+    }
+    /// Goes on in another window where the fingers' own has gone; false if there is none either.
+    bool stayIn(QWindow *other)
+    {
+        if (!m_window)
+            m_window = other;
+        return m_window;
     }
 
 private:
-    QWindow *m_window;
-    QPoint m_first; ///< where the first finger is
-    decltype(QTest::createTouchDevice()) m_device = QTest::createTouchDevice();
+    QPointer<QWindow> m_window;
+    int m_fingers = 0;
+    QPoint m_pos[2];
 };
 
 /// A touch event without points, as a driver sends it that lost the finger.
 inline bool sendTouchWithoutPoints(QWidget *widget, QEvent::Type type)
 {
     QTouchEvent event(type);
-    event.ignore();
-    QCoreApplication::sendEvent(widget, &event);
-    return event.isAccepted();
+    return isTaken(widget, event);
 }
 
 } // namespace VnaTest

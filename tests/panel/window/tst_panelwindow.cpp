@@ -189,7 +189,7 @@ private Q_SLOTS:
         fingers.pressSecond(at(40));
         for (int distance = 40; distance <= 120; distance += 10)
             fingers.moveBoth(at(-distance), at(distance));
-        fingers.releaseTogether(at(120));
+        fingers.release();
         const double zoom = desk.zoom(desk.view());
         QVERIFY2(zoom > 2.0 && zoom < 4.0, qPrintable(QString::number(zoom)));
         QVERIFY(pixels(desk, desk.chartPoint(centre), before) < 4.0);
