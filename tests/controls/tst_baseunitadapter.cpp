@@ -3,6 +3,7 @@
 #include <controls/baseunitadapter.h>
 
 #include <cmath>
+#include <limits>
 
 #include <vnatest.h>
 
@@ -70,15 +71,11 @@ private Q_SLOTS:
         row("micro", "4.7\u00b5s", "\u00b5s", 3);
         row("letters around a prefix", "1m\u00b5s", "m\u00b5s", 1);
         row("must end in a letter", "50k\u03a9", "", 2);
-        row("every letter", "1azAZ", "azAZ", 1);
         row("beside the letters", "1@[`{s", "s", 1);
         row("exponent", "1e5", "", 1);
         row("only a unit", "GHz", "GHz", 3);
-        row("only signs", "+-", "", 2);
         row("empty", "", "", 0);
         row("point first", ".5V", "V", 2);
-        row("point last", "5.V", "V", 1);
-        row("right to left", "\u05d0\u05d1 5ms", "ms", 1);
         row("combining", "5e\u0301\u0301ms", "e\u0301\u0301ms", 1);
         row("surrogates", "5\U0001D6CDs", "\U0001D6CDs", 1);
     }
@@ -89,13 +86,10 @@ private Q_SLOTS:
         BaseUnitAdapter adapter;
         adapter.setInputText(text);
         QTEST(adapter.getCurrentUnit(), "unit");
-        int start = -1;
-        int length = -1;
-        int cursor = -1;
+        int start = -1, length = -1, cursor = -1;
         adapter.resetSelectionToNumericPart(start, length, cursor);
         QTEST(start, "numberLength");
-        QCOMPARE(length, 0);
-        QCOMPARE(cursor, start);
+        QVERIFY(length == 0 && cursor == start);
     }
 
     void convertsTextInEveryLocale()
@@ -232,15 +226,6 @@ private Q_SLOTS:
         QTEST(adapter.getLastAcceptedInputText(), "accepted");
     }
 
-    void withoutAUnitTheCursorIsFree()
-    {
-        BaseUnitAdapter adapter;
-        adapter.setInputText("5"_s);
-        QSignalSpy crossed(&adapter, &BaseUnitAdapter::cursorPosCrossUnit);
-        publish(&adapter, "12MHz"_s, {3, 0, 0});
-        QVERIFY(crossed.isEmpty());
-    }
-
     void closesItsDialog()
     {
         const struct {
@@ -277,80 +262,57 @@ private Q_SLOTS:
     {
         BaseUnitAdapter adapter;
         QSignalSpy steps(&adapter, &BaseUnitAdapter::stepBy);
-        bool handles = true;
-        adapter.setKeyCallback(Qt::Key_Up, [](QKeyEvent *) { return false; });
-        adapter.setKeyCallback(Qt::Key_Up, [&](QKeyEvent *) { return handles; });
-        press(&adapter, Qt::Key_Up);
-        QCOMPARE(steps.count(), 0);
-        handles = false;
-        press(&adapter, Qt::Key_Up);
-        QCOMPARE(steps.count(), 1);
-        handles = true;
-        adapter.setKeyCallback(Qt::Key_Up, {});
-        press(&adapter, Qt::Key_Up);
-        QCOMPARE(steps.count(), 2);
-
+        for (const bool handles : {true, false}) {
+            adapter.setKeyCallback(Qt::Key_Up, [=](QKeyEvent *) { return !handles; });
+            adapter.setKeyCallback(Qt::Key_Up, [=](QKeyEvent *) { return handles; });
+            press(&adapter, Qt::Key_Up);
+            QCOMPARE(steps.count(), handles ? 0 : 1);
+        }
         // A callback may take itself away.
-        adapter.setKeyCallback(Qt::Key_Down, [&](QKeyEvent *) {
-            adapter.setKeyCallback(Qt::Key_Down, {});
-            return handles;
+        adapter.setKeyCallback(Qt::Key_Up, [&](QKeyEvent *) {
+            adapter.setKeyCallback(Qt::Key_Up, {});
+            return true;
         });
-        press(&adapter, Qt::Key_Down);
-        QCOMPARE(steps.count(), 2);
+        for (const int count : {1, 2}) {
+            press(&adapter, Qt::Key_Up);
+            QCOMPARE(steps.count(), count);
+        }
+    }
+
+    /// Whatever stands in the properties that an editor publishes.
+    void propertiesOfAnyType()
+    {
+        NumberAdapter adapter("MHz"_s);
+        for (const QVariant &value :
+             {QVariant(), QVariant(std::numeric_limits<int>::min()),
+              QVariant(std::numeric_limits<int>::max()), QVariant(1e300), QVariant("x"_s),
+              QVariant(QVariantList{1, "a"_s}), QVariant(QByteArray("\0\xff", 2))}) {
+            for (const char *const name :
+                 {"inputText", "cursorPos", "selectionStart", "selectionLen"}) {
+                publish(&adapter, "5MHz"_s, {1, 0, 1});
+                adapter.setProperty(name, value);
+                for (const int key :
+                     {Qt::Key_plusminus, Qt::Key_Period, Qt::Key_Escape, Qt::Key_Return})
+                    press(&adapter, key);
+                QVERIFY(std::isfinite(adapter.getRealValue()));
+            }
+        }
     }
 
     void longTextIsReadAtOnce()
     {
         // Quadratic reading would take minutes, and meet the time limit of the test.
         const int megabyte = 1 << 20;
-        const QString letters(megabyte, QLatin1Char('a'));
-        for (const QString &text :
-             {letters + "1"_s, QString(megabyte, QLatin1Char('9')),
-              QString(megabyte, QLatin1Char('-')), QString(megabyte, QChar(0x301)),
-              QString(megabyte, QLatin1Char(' '))}) {
+        for (const int letter : {int('a'), int('9'), int('-'), 0x301, int(' ')}) {
+            const QString text(megabyte, QChar(letter));
             BaseUnitAdapter adapter;
             adapter.setInputText(text);
             for (const int key :
                  {Qt::Key_plusminus, Qt::Key_Period, Qt::Key_Escape, Qt::Key_Return}) {
-                publish(&adapter, text, {int(text.length()), 0, 0});
+                publish(&adapter, text, {megabyte, 0, 0});
                 press(&adapter, key);
             }
             QCOMPARE(adapter.getLastAcceptedInputText(), text.trimmed());
-            QCOMPARE(adapter.getRealValue(), 0.0);
-        }
-    }
-
-    void survivesItsEndInASlot()
-    {
-        const int cursor = 0; // no key: the cursor goes into the unit
-        for (const int key : {int(Qt::Key_Return), int(Qt::Key_Escape), int(Qt::Key_Period),
-                              int(Qt::Key_plusminus), int(Qt::Key_Up), int(Qt::Key_F1), cursor}) {
-            for (const bool withDialog : {false, true}) {
-                const Row row("key %1, with dialog %2"_s.arg(key).arg(withDialog));
-                QPointer<QDialog> dialog = new QDialog;
-                dialog->setModal(true);
-                QPointer<BaseUnitAdapter> adapter = new BaseUnitAdapter(dialog);
-                const auto end = [&] {
-                    if (withDialog)
-                        delete dialog;
-                    else
-                        delete adapter;
-                };
-                connect(adapter, &BaseUnitAdapter::editingFinished, this, end);
-                connect(adapter, &BaseUnitAdapter::specialKeyHandled, this, end);
-                connect(adapter, &BaseUnitAdapter::stepBy, this, end);
-                connect(adapter, &BaseUnitAdapter::cursorPosCrossUnit, this, end);
-                adapter->setKeyCallback(Qt::Key_F1, [&](QKeyEvent *) {
-                    end();
-                    return false;
-                });
-                adapter->setInputText("5MHz"_s);
-                publish(adapter, "5MHz"_s, {key == cursor ? 3 : 0, 0, 0});
-                if (key != cursor)
-                    press(adapter, key);
-                QVERIFY(!adapter);
-                delete dialog;
-            }
         }
     }
 };

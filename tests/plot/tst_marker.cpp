@@ -33,14 +33,9 @@ private Q_SLOTS:
     void look()
     {
         const Marker marker(m_plot.get(), 307, Plot::PointingDown);
-        QCOMPARE(marker.getId(), 307);
         const auto *tracer = qobject_cast<Plot::QCPItemTracerMarker *>(marker.getTracer());
         QVERIFY(tracer && tracer->selectable() && !tracer->clipToAxisRect());
-        QCOMPARE(tracer->size(), 15.0);
-        QCOMPARE(tracer->pen(), QPen(QBrush(Qt::darkGreen), 1.5));
-        QCOMPARE(marker.getLabel()->color(), QColor(Qt::darkGreen));
-        QVERIFY(marker.getLabel()->text().isEmpty());
-        QVERIFY(marker.isVisible());
+        QVERIFY(marker.isVisible() && marker.getLabel()->text().isEmpty());
         // The layer of the markers stays on top.
         m_plot->addLayer("host"_s);
         const Marker second(m_plot.get(), 2, Plot::PointingDown);
@@ -118,19 +113,18 @@ private Q_SLOTS:
         Marker orphan(m_plot.get(), 1, Plot::PointingDown);
         Marker bare(m_plot.get(), 2, Plot::PointingDown);
         m_plot->removeItem(bare.getLabel());
-        QVERIFY(!bare.isVisible());
-        bare.setColors(QPen(Qt::red), Qt::NoBrush);
-        bare.setType(Plot::PointingUp);
         m_plot.reset();
         QVERIFY(!orphan.getLabel() && !orphan.getTracer());
-        orphan.setVisible(true);
-        orphan.setShape(Plot::Narrow);
-        QVERIFY(!orphan.setPositionCoordinates(static_cast<QCPCurve *>(nullptr), 0, 0));
-        const Marker empty;
-        QCOMPARE(empty.getId(), -1);
-        QVERIFY(!empty.isVisible());
         Marker withoutPlot(nullptr, 5, Plot::PointingUp);
-        withoutPlot.setVisible(true);
+        Marker empty;
+        for (Marker *marker : {&orphan, &bare, &withoutPlot, &empty}) {
+            marker->setColors(QPen(Qt::red), Qt::NoBrush);
+            marker->setType(Plot::PointingUp);
+            marker->setVisible(true);
+            marker->setShape(Plot::Narrow);
+            QVERIFY(!marker->isVisible());
+            QVERIFY(!marker->setPositionCoordinates(static_cast<QCPCurve *>(nullptr), 0, 0));
+        }
         QCOMPARE(withoutPlot.getId(), 5);
     }
 

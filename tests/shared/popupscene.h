@@ -46,25 +46,6 @@ struct PopupScene {
     QStringList told;
 };
 
-/// What a button hands on to its list, of which the second item gets disabled.
-template<typename Button>
-void setListUp(const PopupScene<Button> &scene)
-{
-    Button *const button = scene.button;
-    button->setViewMode(QListView::IconMode);
-    button->setIconSize(80, 70);
-    button->setItemCountPerRow(2);
-    button->setTitleText(QStringLiteral("Format"));
-    QVERIFY(button->titleVisible());
-    button->setTitleVisible(false);
-    button->setItemEnabled(1, false);
-    QCOMPARE(scene.popup()->viewMode(), QListView::IconMode);
-    QCOMPARE(button->iconSize(), QSize(80, 70));
-    QCOMPARE(button->itemCountPerRow(), 2);
-    QCOMPARE(button->titleText(), QStringLiteral("Format"));
-    QVERIFY(!button->titleVisible() && !scene.popup()->titleVisible() && !scene.isEnabled(1));
-}
-
 /// The tap that closes the list does not open it again, by finger or mouse, short or long.
 template<typename Scene>
 void tapThatCloses()
@@ -93,31 +74,6 @@ void tapThatCloses()
         tap(holdMs);
         QVERIFY(!f.isOpen());
         QVERIFY(f.told.isEmpty());
-    }
-}
-
-/// The list opens under its button or above it, and on the screen: the button is a window of its
-/// own in each corner.
-template<typename Button>
-void openInCorners(Button *button)
-{
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    const auto *const popup = button->template findChild<PopupWidget *>();
-    button->setWindowFlag(Qt::FramelessWindowHint);
-    for (const QPoint corner : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
-        const Row row(QStringLiteral("corner %1, %2").arg(corner.x()).arg(corner.y()));
-        button->setGeometry(screen.left() + corner.x() * (screen.width() - 100),
-                            screen.top() + corner.y() * (screen.height() - 50), 100, 50);
-        showExposed(button);
-        for (int round = 0; round < 2; ++round) {
-            button->click();
-            const QRect shown = popup->geometry();
-            QVERIFY(screen.adjusted(5, 5, -5, -5).contains(shown));
-            QVERIFY(corner.y() ? shown.bottom() < button->y() : shown.top() >= button->y() + 49);
-            typeKey(popup, Qt::Key_Escape);
-            QVERIFY(!popup->isVisible());
-            waitForGuard(button);
-        }
     }
 }
 

@@ -17,22 +17,6 @@ class tst_GridGeometry : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void presets()
-    {
-        struct Expected {
-            int preset, resistances, reactances;
-        };
-        for (const auto &[preset, resistances, reactances] :
-             {Expected{Basic, 4, 6}, {Standard, 6, 10}, {Detailed, 8, 14}, {-1, 0, 0}, {3, 0, 0}}) {
-            const GridValues values = gridValues(static_cast<Preset>(preset));
-            QCOMPARE(int(values.resistances.size()), resistances);
-            QCOMPARE(int(values.reactances.size()), reactances);
-            QVERIFY(std::is_sorted(values.resistances.cbegin(), values.resistances.cend()));
-            for (const double x : values.reactances)
-                QVERIFY2(values.reactances.contains(-x), "each magnitude comes with both signs");
-        }
-    }
-
     // Every drawn point must have the resistance or reactance that its circle stands for.
     void circlesCarryTheirValue()
     {

@@ -6,7 +6,6 @@
 #include <vnatest.h>
 
 #include <algorithm>
-#include <functional>
 
 using namespace VnaTest;
 using namespace SmithRender;
@@ -43,14 +42,11 @@ IndexedTrace treeOf(const Trace &trace)
     return tree;
 }
 
-/// The tree keeps and finds the same points as the plain routines.
-void compareAt(IndexedTrace &tree, const Trace &trace, const Viewport &viewport,
-               const QPointF &pointer = {30.0, 40.0})
+/// The tree keeps the same points as the plain routine.
+void compareAt(IndexedTrace &tree, const Trace &trace, const Viewport &viewport)
 {
     QCOMPARE(tree.decimate(viewport).keptIndices,
              decimate(trace.real, trace.imag, viewport).keptIndices);
-    QCOMPARE(tree.nearestIndex(viewport, pointer),
-             nearestIndex(trace.real, trace.imag, viewport, pointer));
 }
 
 } // namespace
@@ -126,77 +122,6 @@ private Q_SLOTS:
         // Traces without equal distances by construction leave nothing to choose.
         if (kind == Noisy)
             QCOMPARE(disagreement.ties, 0);
-    }
-
-    void gapsMayLieAnywhere()
-    {
-        const Viewport viewport = squareViewport(0.0, 0.0, 1.05, 100, 100);
-        for (const int count : {300, 512, 513, 514, 1024, 1025, 1026}) {
-            for (const int hole : {0, 1, 63, 64, 65, 511, 512, 513, count - 2, count - 1}) {
-                if (hole >= count)
-                    continue;
-                Trace trace = spiral(count, 0.01, 0.005);
-                trace.imag[hole] = notANumber;
-                IndexedTrace tree = treeOf(trace);
-                for (int x = 0; x < 100; x += 7)
-                    compareAt(tree, trace, viewport, {x + 0.5, 40.0});
-            }
-        }
-    }
-
-    /// The same view asked again, before and after others, has the same answer.
-    void answersDoNotDependOnWhatWasAskedBefore()
-    {
-        Random random(3);
-        const Trace trace = spiral(50000, 0.001, 1e-3);
-        IndexedTrace wandering = treeOf(trace);
-        for (int round = 0; round < 30; ++round) {
-            const Viewport viewport = randomViewport(random);
-            IndexedTrace fresh = treeOf(trace);
-            if (round % 2)
-                QCOMPARE(fresh.nearestIndex(viewport, {10.0, 10.0}),
-                         wandering.nearestIndex(viewport, {10.0, 10.0}));
-            QCOMPARE(wandering.decimate(viewport).keptIndices,
-                     fresh.decimate(viewport).keptIndices);
-        }
-    }
-
-    void leavesOddViewsToThePlainRoutine()
-    {
-        const std::function<void(Viewport &)> changes[] = {
-            [](Viewport &) {},
-            [](Viewport &v) { v.xMax += 0.5; }, // not square
-            [](Viewport &v) { v.xMax += 1e-6; },
-            [](Viewport &v) { v.tolerancePx = 0.0; },
-            [](Viewport &v) { v.tolerancePx = 1e-12; },
-            [](Viewport &v) { v.tolerancePx = 1e300; },
-            [](Viewport &v) { v.xMin = 0.0, v.xMax = 1e-150, v.yMin = 0.0, v.yMax = 0.8e-150; },
-            [](Viewport &v) { v.width = 0; },
-        };
-        const Trace trace = spiral(2000, 0.01, 0.01);
-        for (const auto &change : changes) {
-            Viewport viewport = squareViewport(0.1, 0.0, 1.05, 100, 80);
-            change(viewport);
-            IndexedTrace tree = treeOf(trace);
-            const DecimationResult fast = tree.decimate(viewport);
-            const DecimationResult plain = decimate(trace.real, trace.imag, viewport);
-            QCOMPARE(fast.passedThrough, plain.passedThrough);
-            QCOMPARE(fast.decimated, plain.decimated);
-            compareAt(tree, trace, viewport);
-            compareAt(tree, trace, viewport, {notANumber, 0.0});
-        }
-    }
-
-    /// A point so far out that pixel coordinates lose their fractions.
-    void wildPoints()
-    {
-        for (double far = 1e3; far < 1e17; far *= 10.0) {
-            Trace trace = spiral(2000, 0.01, 0.01);
-            trace.real[700] = far;
-            trace.imag[1300] = -far / 3.0;
-            IndexedTrace tree = treeOf(trace);
-            compareAt(tree, trace, squareViewport(0.1, 0.0, 1.05, 100, 100));
-        }
     }
 
     /// A distance of exactly the tolerance does not split, whatever the rounding in other units.

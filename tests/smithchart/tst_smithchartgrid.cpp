@@ -1,57 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the chart's grid and view offer beyond the presets.
-#include <smithchart/smithchartplot.h>
+// The grid of a chart: presets, the one that follows the view, and the host's look.
+#include "chartscene.h"
 
-#include <vnatest.h>
-
-#include <memory>
+#include <smithchart/gridgeometry.h>
 
 using namespace VnaTest;
 
 namespace
 {
 
-bool gridIsVisible(QCustomPlot &plot)
+template<typename T>
+int countOnLayer(const QCustomPlot &plot, const QString &layer)
 {
-    bool any = false;
-    bool all = true;
-    for (int i = 0; i < plot.itemCount(); ++i) {
-        any |= plot.item(i)->visible();
-        all &= plot.item(i)->visible();
-    }
-    Q_ASSERT(any == all);
-    return any;
-}
-
-/// Lays the plot out at a size, as a resize of a shown plot does.
-void layOut(QCustomPlot &plot, QSize size)
-{
-    plot.setViewport(QRect({}, size));
-    plot.replot();
-}
-
-/// A plot whose axis rectangle has the given size, without being shown.
-std::unique_ptr<QCustomPlot> makePlot()
-{
-    auto plot = std::make_unique<QCustomPlot>();
-    plot->plotLayout()->setMargins({});
-    plot->axisRect()->setAutoMargins(QCP::msNone);
-    plot->axisRect()->setMargins({});
-    layOut(*plot, {400, 200});
-    return plot;
-}
-
-/// The colours along a line of an image, as a number for each pixel: how far it is from the
-/// background.
-int inkOf(const QImage &image)
-{
-    int ink = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            ink += 255 - qGray(image.pixel(x, y));
-    }
-    return ink;
+    int count = 0;
+    for (const QCPLayerable *each : plot.layer(layer)->children())
+        count += qobject_cast<const T *>(each) ? 1 : 0;
+    return count;
 }
 
 } // namespace
@@ -61,72 +26,85 @@ class tst_SmithChartGrid : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
+    void presets()
     {
-        TestCase::init();
-        m_plot = makePlot();
-        m_chart = new SmithChartPlot(m_plot.get(), SmithChart::Basic);
-    }
-
-    void cleanup()
-    {
-        delete m_chart;
-        m_plot.reset();
-        TestCase::cleanup();
+        using Chart = SmithChartPlot;
+        const std::tuple<int, int, int> rows[] = {{0, 3, 10}, {1, 5, 16}, {2, 7, 22}, {7, 0, 0}};
+        for (const auto &[number, circles, labels] : rows) {
+            const auto preset = static_cast<SmithChart::Preset>(number);
+            for (const auto mode :
+                 {Chart::Impedance, Chart::Admittance, Chart::ImpedanceAndAdmittance}) {
+                const Row row("preset %1, mode %2"_s.arg(number).arg(mode));
+                QCustomPlot plot;
+                SmithChartPlot chart(&plot, preset);
+                chart.setGridMode(mode);
+                const int charts = mode == Chart::ImpedanceAndAdmittance ? 2 : 1;
+                const QString grid = "smithGrid"_s;
+                QCOMPARE(countOnLayer<QCPItemEllipse>(plot, grid), circles * charts);
+                QCOMPARE(countOnLayer<QCPItemEllipse>(plot, "smithBoundary"_s), 1);
+                QCOMPARE(countOnLayer<QCPItemText>(plot, grid), labels * charts);
+                const auto values = SmithChart::gridValues(preset);
+                const auto runs =
+                    SmithChart::gridGeometry(values.resistances, values.reactances, 720)
+                        .impedance.circles.x.size();
+                QCOMPARE(countOnLayer<QCPCurve>(plot, grid),
+                         int(runs - values.resistances.size()) * charts + 1);
+                QCOMPARE(plot.legend->itemCount(), 0);
+            }
+        }
     }
 
     /// The grid that follows the view takes two items, which stay whatever the view; labels come in
     /// the host's unit, and everything is as before once it is off again.
     void gridThatFollowsTheView()
     {
-        layOut(*m_plot, {600, 500});
-        m_chart->addCurve(1, QPen(Qt::red));
-        const auto items = m_plot->itemCount();
-        const auto plottables = m_plot->plottableCount();
-        const auto picture = [this] { return m_plot->toPixmap(600, 500).toImage(); };
+        const ChartScene f({600, 500});
+        f.chart->addCurve(1, QPen(Qt::red));
+        const auto items = f.plot->itemCount();
+        const auto plottables = f.plot->plottableCount();
+        const auto picture = [&f] { return f.picture(600, 500); };
         const QImage presetLook = picture();
 
-        m_chart->setGridFollowsView(true);
-        QVERIFY(m_chart->gridFollowsView());
-        QCOMPARE(m_plot->itemCount(), 2);
-        QCOMPARE(m_plot->plottableCount(), 1);
-        QCOMPARE(m_plot->layer("smithBoundary"_s)->children().size(), 1);
-        const QPointer<QCPAbstractItem> grid = m_plot->item(0);
+        f.chart->setGridFollowsView(true);
+        QCOMPARE(f.plot->itemCount(), 2);
+        QCOMPARE(f.plot->plottableCount(), 1);
+        QCOMPARE(f.plot->layer("smithBoundary"_s)->children().size(), 1);
+        const QPointer<QCPAbstractItem> grid = f.plot->item(0);
         const QImage whole = picture();
         QVERIFY(whole != presetLook);
-        m_chart->zoomAt({0.4, 0.3}, 8.0);
+        f.chart->zoomAt({0.4, 0.3}, 8.0);
         QVERIFY(inkOf(picture()) > 100000); // where the preset leaves next to nothing
         QVERIFY(grid);
         for (int y = 0; y < 500; y += 7)
-            QVERIFY(!m_plot->itemAt(QPointF(y, y), false));
+            QVERIFY(!f.plot->itemAt(QPointF(y, y), false));
         const QImage normalised = picture();
-        QVERIFY(m_chart->setGridReference(50.0));
+        QVERIFY(f.chart->setGridReference(50.0));
         QVERIFY(picture() != normalised);
         for (const double bad : {0.0, -50.0, double(qQNaN()), double(qInf())})
-            QVERIFY(!m_chart->setGridReference(bad));
-        QCOMPARE(m_chart->gridReference().value(), 50.0);
-        QVERIFY(m_chart->setGridReference(std::nullopt));
+            QVERIFY(!f.chart->setGridReference(bad));
+        QCOMPARE(f.chart->gridReference().value(), 50.0);
+        QVERIFY(f.chart->setGridReference(std::nullopt));
         QCOMPARE(picture(), normalised);
 
-        m_chart->setCurveVisible(1, false);
-        QVERIFY(!gridIsVisible(*m_plot));
-        m_chart->setCurveVisible(1, true);
-        m_chart->setGridMode(SmithChartPlot::Admittance);
-        m_chart->resetView();
+        f.chart->setCurveVisible(1, false);
+        QCOMPARE(f.visibleItems(), 0);
+        f.chart->setCurveVisible(1, true);
+        f.chart->setGridMode(SmithChartPlot::Admittance);
+        f.chart->resetView();
         // Turned by half a turn, but for the labels.
-        const QImage turned = picture();
-        QVERIFY(std::abs(inkOf(turned) - inkOf(whole)) < inkOf(whole) / 50);
-        m_chart->setGridMode(SmithChartPlot::Impedance);
-        m_chart->setGridFollowsView(false);
-        QCOMPARE(m_plot->itemCount(), items);
-        QCOMPARE(m_plot->plottableCount(), plottables);
+        QVERIFY(std::abs(inkOf(picture()) - inkOf(whole)) < inkOf(whole) / 50);
+        f.chart->setGridMode(SmithChartPlot::Impedance);
+        f.chart->setGridFollowsView(false);
+        QCOMPARE(f.plot->itemCount(), items);
+        QCOMPARE(f.plot->plottableCount(), plottables);
         QCOMPARE(picture(), presetLook);
     }
 
     void gridLookOfTheHost()
     {
-        m_chart->addCurve(1, QPen(Qt::red));
-        m_chart->setGridMode(SmithChartPlot::ImpedanceAndAdmittance);
+        const ChartScene f;
+        f.chart->addCurve(1, QPen(Qt::red));
+        f.chart->setGridMode(SmithChartPlot::ImpedanceAndAdmittance);
         SmithChart::GridLook look;
         look.linePen = QPen(Qt::blue);
         look.admittancePen = QPen(Qt::green);
@@ -135,26 +113,25 @@ private Q_SLOTS:
         look.labelFont = QFont("DejaVu Sans"_s, 11);
         look.background = QBrush(Qt::black);
         look.labelsApart = true;
-        m_chart->setGridLook(look);
-        QVector<QRectF> labels;
+        f.chart->setGridLook(look);
         QSet<QRgb> pens;
-        for (int i = 0; i < m_plot->itemCount(); ++i) {
-            if (const auto *text = qobject_cast<QCPItemText *>(m_plot->item(i))) {
+        for (int i = 0; i < f.plot->itemCount(); ++i) {
+            if (const auto *text = qobject_cast<QCPItemText *>(f.plot->item(i))) {
                 QCOMPARE(text->color(), QColor(Qt::cyan));
                 QCOMPARE(text->font().pointSize(), 11);
-            } else if (const auto *circle = qobject_cast<QCPItemEllipse *>(m_plot->item(i))) {
+            } else if (const auto *circle = qobject_cast<QCPItemEllipse *>(f.plot->item(i))) {
                 pens.insert(circle->pen().color().rgb());
             }
         }
         QCOMPARE(pens.size(), 3);
-        QCOMPARE(m_plot->toPixmap().toImage().pixelColor(1, 1), QColor(Qt::black));
+        QCOMPARE(f.plot->toPixmap().toImage().pixelColor(1, 1), QColor(Qt::black));
         // Of both charts, no label lies over another.
-        layOut(*m_plot, {900, 900});
         look.labelFont = {};
-        m_chart->setGridLook(look);
-        m_plot->replot();
-        for (int i = 0; i < m_plot->itemCount(); ++i) {
-            const auto *text = qobject_cast<QCPItemText *>(m_plot->item(i));
+        f.chart->setGridLook(look);
+        f.layOut({900, 900});
+        QVector<QRectF> labels;
+        for (int i = 0; i < f.plot->itemCount(); ++i) {
+            const auto *text = qobject_cast<QCPItemText *>(f.plot->item(i));
             if (!text)
                 continue;
             const QRectF rect(text->topLeft->pixelPosition(), text->bottomRight->pixelPosition());
@@ -169,60 +146,23 @@ private Q_SLOTS:
     /// behind for ever.
     void twoChartsOnOnePlot()
     {
-        auto *const other = new SmithChartPlot(m_plot.get(), SmithChart::Basic);
-        const auto both = m_plot->itemCount();
+        const ChartScene f;
+        auto other = std::make_unique<SmithChartPlot>(f.plot.get(), SmithChart::Basic);
+        const auto both = f.plot->itemCount();
         other->setGridMode(SmithChartPlot::Admittance);
-        QCOMPARE(m_plot->itemCount(), both);
-        m_chart->addCurve(1, QPen(Qt::red));
+        QCOMPARE(f.plot->itemCount(), both);
+        f.addTraceAndMarker();
         other->addCurve(1, QPen(Qt::blue));
         other->clearAllCurves();
-        int visible = 0;
-        for (int i = 0; i < m_plot->itemCount(); ++i)
-            visible += m_plot->item(i)->visible() ? 1 : 0;
-        QCOMPARE(visible, both / 2);
-        delete other;
-        const std::unique_ptr<SmithChartPlot> next =
-            std::make_unique<SmithChartPlot>(m_plot.get(), SmithChart::Basic);
-        QCOMPARE(m_plot->itemCount(), both);
+        QCOMPARE(f.visibleItems(), both / 2 + 2);
+        other = nullptr;
+        other = std::make_unique<SmithChartPlot>(f.plot.get(), SmithChart::Basic);
+        QCOMPARE(f.plot->itemCount(), both + 2);
+        other = nullptr;
+        delete f.chart.data();
+        QCOMPARE(f.visibleItems(), 0);
+        f.plot->replot();
     }
-
-    /// A view that changes asks for a replot, and one that does not asks for none.
-    void viewChangesAskForAReplot()
-    {
-        int requests = 0;
-        m_chart->setQueuedReplotHandler([&requests] { ++requests; });
-        m_chart->resetView();
-        m_chart->zoomAt({0.0, 0.0}, 0.5);
-        m_chart->zoomAt({0.0, 0.0}, qQNaN());
-        QCOMPARE(requests, 0);
-        m_chart->zoomAt({0.0, 0.0}, 2.0);
-        QCOMPARE(requests, 1);
-        m_chart->setViewFromRequestedRanges({0.0, 0.2}, {0.0, 0.2});
-        QCOMPARE(requests, 2);
-        m_chart->resetView();
-        QCOMPARE(requests, 3);
-        m_chart->setQueuedReplotHandler({});
-    }
-
-    void magnificationBeyondTheDefault()
-    {
-        QCOMPARE(m_chart->maximumZoom(), 20.0);
-        m_chart->zoomAt({0.5, 0.5}, 500.0);
-        QCOMPARE(m_chart->viewState().zoom, 20.0);
-        for (const double bad : {0.5, 1e7, double(qQNaN()), double(qInf())})
-            QVERIFY(!m_chart->setMaximumZoom(bad));
-        QVERIFY(m_chart->setMaximumZoom(200.0));
-        m_chart->zoomAt({0.5, 0.5}, 500.0);
-        QCOMPARE(m_chart->viewState().zoom, 200.0);
-        m_chart->setViewFromRequestedRanges({0.5, 0.50001}, {0.5, 0.50001});
-        QCOMPARE(m_chart->viewState().zoom, 200.0);
-        QVERIFY(m_chart->setMaximumZoom(20.0));
-        QCOMPARE(m_chart->viewState().zoom, 20.0);
-    }
-
-private:
-    std::unique_ptr<QCustomPlot> m_plot;
-    SmithChartPlot *m_chart = nullptr;
 };
 
 QTEST_MAIN(tst_SmithChartGrid)

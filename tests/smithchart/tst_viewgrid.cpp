@@ -318,17 +318,6 @@ private Q_SLOTS:
         for (auto i = labels.size(); i < both.size(); ++i)
             aboveAxis += both.at(i).part == GridPart::Real ? 1 : 0;
         QVERIFY2(aboveAxis >= 6, qPrintable(QString::number(aboveAxis)));
-        rules.asSecondChart = false;
-
-        // The admittance chart is the same, turned by half a turn.
-        const GridMapping turned(view, GridChart::Admittance);
-        QVector<ViewGridLabel> admittances;
-        appendViewGridLabels(viewGridLines(turned.chartView(), {1.0, 27.0}), turned, rules,
-                             admittances);
-        for (const ViewGridLabel &label : qAsConst(admittances)) {
-            if (label.text == "5"_s)
-                QCOMPARE(label.rect.center().x(), 900.0 - find("5"_s).center().x());
-        }
     }
 };
 

@@ -56,18 +56,16 @@ private Q_SLOTS:
         profile.setLayoutType(LayoutType::Quad);
         DisplayPanel panel(&profile);
         const auto imageOf = [](const QIcon &icon) { return icon.pixmap(24, 24).toImage(); };
-        const QComboBox *box = boxOf(panel);
         for (bool dark : {false, true}) {
             Utils::GUIContext::instance()->setIsDarkTheme(dark);
             for (int index = 0; index < 4; ++index) {
                 const QString path = ":/Graph/Image/layout%1%2"_s.arg(index + 1);
-                const QImage shown = imageOf(box->itemIcon(index));
+                const QImage shown = imageOf(boxOf(panel)->itemIcon(index));
                 QVERIFY(!shown.isNull());
                 QCOMPARE(shown, imageOf(QIcon(path.arg(dark ? QString() : "_light"_s))));
             }
-            QCOMPARE(box->currentIndex(), 3);
+            QCOMPARE(boxOf(panel)->currentIndex(), 3);
         }
-        QVERIFY(imageOf(box->itemIcon(0)) != imageOf(box->itemIcon(1)));
     }
 
     void worksWithoutAProfile()

@@ -51,8 +51,6 @@ private Q_SLOTS:
             item.setNumLabelWidth(first, second, third);
             QCOMPARE(item.preferredSingleLineWidth(), 70 + first + qMax(second, 0) + third);
         }
-        QCOMPARE(item.minimumWidth(), 0);
-        QCOMPARE(item.maximumWidth(), QWIDGETSIZE_MAX);
 
         item.setKeyColumnWidth(130);
         item.fill(QString(), "5pF"_s);
@@ -157,26 +155,18 @@ private Q_SLOTS:
     {
         Readout item;
         const QLabel *dot = item.label("selectedStatusLabel");
-        const auto pixmap = [dot] { return dot->pixmap(Qt::ReturnByValue); };
-        item.setSelectedStatus(true);
-        QCOMPARE(dot->property("PixmapPath").toString(), ":/image/resource/marker_selected.svg"_s);
-        QVERIFY(!pixmap().isNull());
-        const qint64 loaded = pixmap().cacheKey();
-        item.setSelectedStatus(true);
-        QCOMPARE(pixmap().cacheKey(), loaded);
-        item.setSelectedStatus(false);
-        QCOMPARE(dot->property("PixmapPath").toString(), QString());
-        QVERIFY(pixmap().isNull());
-
+        for (const bool selected : {true, false}) {
+            item.setSelectedStatus(selected);
+            QCOMPARE(dot->pixmap(Qt::ReturnByValue).isNull(), !selected);
+        }
         item.setColor(QColor(255, 85, 255, 40));
-        QCOMPARE(item.styleSheet(), "color:#ff55ff;"_s);
         item.show();
         const QLabel *value = item.label("valueLabel1");
         QCOMPARE(value->palette().color(QPalette::WindowText), QColor(255, 85, 255));
-        item.setBold(true);
-        QVERIFY(value->font().bold());
-        item.setBold(false);
-        QCOMPARE(item.font().weight(), int(QFont::Normal));
+        for (const bool bold : {true, false}) {
+            item.setBold(bold);
+            QCOMPARE(value->font().bold(), bold);
+        }
     }
 
     void pressesAndKeysClick()
@@ -218,21 +208,18 @@ private Q_SLOTS:
         QCOMPARE(routed, drag);
         QCOMPARE(item.clicks.count(), 0);
 
-        // The right button is never asked about, and a refused press is a click.
-        mouseClick(&item, Name, Qt::RightButton);
-        QCOMPARE(routed.count(), 3);
-        QCOMPARE(item.clicks.count(), 1);
+        // A refused press is a click.
         take = false;
         mouseDrag(item.windowHandle(), Name, Key, 1);
         QCOMPARE(routed.count(), 4);
-        QCOMPARE(item.clicks.count(), 2);
+        QCOMPARE(item.clicks.count(), 1);
 
-        // Another button in the middle is a click, and the router still hears how it ends.
+        // So is the right button, which is never asked about; the router still hears how it ends.
         take = true;
         routed.clear();
         mousePress(&item, Name);
         mousePress(&item, Name, Qt::RightButton);
-        QCOMPARE(item.clicks.count(), 3);
+        QCOMPARE(item.clicks.count(), 2);
         mouseMove(&item, Key);
         mouseRelease(&item, Key);
         QCOMPARE(routed, drag);
@@ -245,9 +232,6 @@ private Q_SLOTS:
         mouseMove(&item, Key);
         mouseRelease(&item, Key);
         QCOMPARE(routed.count(), 4);
-        item.setMouseEventRouter({});
-        mousePress(&item, Name);
-        QCOMPARE(item.clicks.count(), 4);
     }
 
     void itemMayGoInItsOwnEvents()
