@@ -57,16 +57,16 @@ public:
     /// Takes overrideKeyboardFocusProxy() back.
     void restoreKeyboardFocusProxy();
 
-Q_SIGNALS:
-    /// The edit has ended because the focus went elsewhere.
-    void focusedOut();
-
 public Q_SLOTS:
     /// Begins an edit: the keypad gets the units and the adapter, the editor its text.
     virtual void onFocus();
     /// Shows a text with a selection and the cursor in the editor.
     virtual void setEditorText(QString text, int selectionStart, int selectionLength,
                                int cursorPosition) = 0;
+
+Q_SIGNALS:
+    /// The edit has ended because the focus went elsewhere.
+    void focusedOut();
 
 protected:
     /// Makes a line edit the editor. Derived classes call it once, in their constructor.

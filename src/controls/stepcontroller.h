@@ -41,15 +41,15 @@ public:
     /// Any number is taken: a negative step turns the direction around.
     void setSingleStep(double step) { m_singleStep = step; }
 
-Q_SIGNALS:
-    /// The new value, before the adapter has limited it. The adapter then has it and has told
-    /// editingFinished().
-    void stepped(double newValue);
-
 public Q_SLOTS:
     /// Computes the value \a step positions from \a value and emits stepped(); works without an
     /// adapter.
     virtual void stepBy(double value, int step);
+
+Q_SIGNALS:
+    /// The new value, before the adapter has limited it. The adapter then has it and has told
+    /// editingFinished().
+    void stepped(double newValue);
 
 private:
     void writeBack(double newValue);

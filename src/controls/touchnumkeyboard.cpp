@@ -14,19 +14,8 @@
 #include <QMainWindow>
 #include <QScreen>
 
-#include <algorithm>
-#include <array>
-
 namespace Controls
 {
-
-namespace
-{
-
-/// Where the unit keys stand in their grid.
-constexpr std::array<int, 4> s_unitRows{0, 1, 2, 4};
-
-} // namespace
 
 TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
     : QDialog(parent, keypadDialogFlags)
@@ -59,8 +48,9 @@ TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
          {d->ui.btnBack, d->ui.btnDown, d->ui.btnUp, d->ui.btnLeft, d->ui.btnRight})
         key->setAutoRepeat(true);
 
-    d->unitButtons = {d->ui.btnUnit1, d->ui.btnUnit2, d->ui.btnUnit3, d->ui.btnUnit4};
-    for (QPushButton *button : d->unitButtons)
+    d->units.setUp({d->ui.btnUnit1, d->ui.btnUnit2, d->ui.btnUnit3, d->ui.btnUnit4},
+                   d->ui.gridLayout_2);
+    for (QPushButton *button : d->units.buttons())
         connect(button, &QPushButton::clicked, this, &TouchNumKeyboard::shortCutsKeyClicked);
     setShortcutKeys({});
 
@@ -102,7 +92,7 @@ QObject *TouchNumKeyboard::receiver() const
 
 QList<KeySpec> TouchNumKeyboard::shortcutKeys() const
 {
-    return d_ptr->shortcutKeys;
+    return d_ptr->units.units();
 }
 
 QWidget *TouchNumKeyboard::titleWidget() const
@@ -147,29 +137,7 @@ void TouchNumKeyboard::setReceiver(QObject *receiver)
 
 bool TouchNumKeyboard::setShortcutKeys(const QList<KeySpec> &keys)
 {
-    Q_D(TouchNumKeyboard);
-    d->shortcutKeys = keys;
-    d->shortcutMap.clear();
-    d->startIndex = 0;
-    // Keys share the column alike. While it pages, none moves under the finger because another one
-    // is not there.
-    for (int i = 0; i < d->unitButtons.size(); ++i) {
-        QPushButton *button = d->unitButtons.at(i);
-        QSizePolicy policy = button->sizePolicy();
-        policy.setRetainSizeWhenHidden(d->isPaging());
-        button->setSizePolicy(policy);
-        d->ui.gridLayout_2->setRowStretch(s_unitRows.at(std::size_t(i)), i < keys.size() ? 1 : 0);
-    }
-    if (d->isPaging()) {
-        updateButtons();
-        return true;
-    }
-    for (int i = 0; i < d->unitButtons.size(); ++i) {
-        if (i < keys.size())
-            d->assignUnit(d->unitButtons.at(i), keys.at(i));
-        else
-            d->unitButtons.at(i)->hide();
-    }
+    d_ptr->units.setUnits(keys);
     return true;
 }
 
@@ -222,32 +190,7 @@ void TouchNumKeyboard::open()
         QDialog::open();
         return;
     }
-
-    OverlayContainer *overlay = d->overlay();
-    if (!overlay || overlay->parentWidget() != host) {
-        d->leaveOverlay();
-        if (overlay)
-            overlay->deleteLater();
-        overlay = new OverlayContainer(host);
-        d->overlayWidget = overlay;
-        connect(overlay, &QObject::destroyed, this, [d] {
-            if (!d->goesWithHost)
-                d->leaveOverlay();
-        });
-    }
-    if (parentWidget() != overlay) {
-        d->home = parentWidget();
-        d->goesWithHost = d->home && d->home->window() == host;
-        if (d->home)
-            d->homeGone = connect(d->home, &QObject::destroyed, this, &QObject::deleteLater);
-        setParent(overlay, Qt::Widget);
-    }
-    disconnect(overlay, &OverlayContainer::outsideClicked, this, nullptr);
-    connect(overlay, &OverlayContainer::outsideClicked, this, [d] { d->pressOutside(); });
-    overlay->showWithDialog(this, OverlayContainer::None, d->dims,
-                            d->popupAnchor ? OverlayContainer::LeftOfAnchor
-                                           : OverlayContainer::Centered,
-                            d->popupAnchor);
+    d->showOver(host);
 }
 
 bool TouchNumKeyboard::isDimEnabled() const
@@ -344,7 +287,7 @@ bool TouchNumKeyboard::event(QEvent *event)
         break;
     case QEvent::LanguageChange:
         d->labelKeys();
-        if (d->isPaging())
+        if (d->units.isPaging())
             updateButtons();
         break;
     case QEvent::Polish:
@@ -360,26 +303,9 @@ bool TouchNumKeyboard::event(QEvent *event)
 
 bool TouchNumKeyboard::eventFilter(QObject *object, QEvent *event)
 {
-    Q_D(TouchNumKeyboard);
-    if (object != d->ui.edit)
-        return QDialog::eventFilter(object, event);
-
-    const QPointer<QLineEdit> edit(d->ui.edit);
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-        d->handleIndicatorMouse(static_cast<QMouseEvent *>(event));
-        // What mirrors another editor has no selection of its own to drag.
-        return !edit || edit->isReadOnly();
-    case QEvent::Wheel:
-        event->ignore();
-        Q_EMIT indicatorWheel(static_cast<QWheelEvent *>(event));
-        return !edit || event->isAccepted();
-    default:
-        return false;
-    }
+    if (object == d_ptr->ui.edit)
+        return d_ptr->filterIndicator(event);
+    return QDialog::eventFilter(object, event);
 }
 
 void TouchNumKeyboard::showEvent(QShowEvent *event)
@@ -440,44 +366,13 @@ void TouchNumKeyboard::clickedKey()
 /// Pages the unit column, or sends the unit of the pressed button to the focused widget.
 void TouchNumKeyboard::shortCutsKeyClicked()
 {
-    Q_D(TouchNumKeyboard);
-    auto *button = qobject_cast<QPushButton *>(sender());
-    if (!button)
-        return;
-    const QString caption = button->text();
-    int start = d->startIndex;
-    if (d->isPaging() && caption == tr("PgUp")) {
-        start -= start == 3 || start == 4 ? 3 : 2;
-    } else if (d->isPaging() && caption == tr("PgDn")) {
-        start += d->page() == 0 ? 3 : 2;
-    } else if (d->isPaging() && caption == tr("More")) {
-        start = d->page() == 0 ? 3 : 0;
-    } else {
-        typeKey(QApplication::focusWidget(), d->shortcutMap.value(button));
-        return;
-    }
-    // A unit may be called like a page key, and then ask for a page that there is not.
-    d->startIndex = std::clamp(start, 0, 2 * d->lastPage() + 1);
-    updateButtons();
+    if (auto *button = qobject_cast<QPushButton *>(sender()))
+        typeKey(QApplication::focusWidget(), d_ptr->units.press(button));
 }
 
-/// Lays out the current page of more unit keys than there are buttons: three units on the first
-/// page, two on each that follows, up to three on the last.
 void TouchNumKeyboard::updateButtons()
 {
-    Q_D(TouchNumKeyboard);
-    for (QPushButton *button : d->unitButtons)
-        button->hide();
-    d->shortcutMap.clear();
-
-    const bool isMiddle = d->page() != 0 && d->page() != d->lastPage();
-    d->assignPaging(d->unitButtons.last(), isMiddle ? tr("PgDn") : tr("More"));
-    if (isMiddle)
-        d->assignPaging(d->unitButtons.first(), tr("PgUp"));
-    const int first = isMiddle ? 1 : 0;
-    const int shown = isMiddle ? 2 : std::min(3, int(d->shortcutKeys.size()) - d->startIndex);
-    for (int i = 0; i < shown; ++i)
-        d->assignUnit(d->unitButtons.at(first + i), d->shortcutKeys.at(d->startIndex + i));
+    d_ptr->units.showPage();
 }
 
 /// Takes the keypad off the host when the entry has ended.

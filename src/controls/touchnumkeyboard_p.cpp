@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QMainWindow>
-#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -21,15 +20,6 @@ namespace
 {
 
 constexpr int s_enterIcon = 2; // its id at the theme manager
-
-void setKeyRole(QPushButton *button, const QString &role)
-{
-    if (button->property("keyRole") == role)
-        return;
-    button->setProperty("keyRole", role);
-    button->style()->unpolish(button);
-    button->style()->polish(button);
-}
 
 /// A font of the same kind, so many times its size.
 QFont scaledFont(QFont font, double factor)
@@ -63,21 +53,6 @@ void TouchNumKeyboardPrivate::addKey(QPushButton *button, int key, const QString
     basicButtons.insert(button, {key, QString(), text});
     button->setProperty("keyRole", QString::fromLatin1(role));
     QObject::connect(button, &QPushButton::clicked, q, &TouchNumKeyboard::clickedKey);
-}
-
-void TouchNumKeyboardPrivate::assignUnit(QPushButton *button, const KeySpec &spec)
-{
-    shortcutMap.insert(button, spec);
-    button->setText(spec.label);
-    setKeyRole(button, QStringLiteral("unit"));
-    button->show();
-}
-
-void TouchNumKeyboardPrivate::assignPaging(QPushButton *button, const QString &caption)
-{
-    button->setText(caption);
-    setKeyRole(button, QStringLiteral("page"));
-    button->show();
 }
 
 /// Captions, and names for who cannot see them.
@@ -125,7 +100,7 @@ void TouchNumKeyboardPrivate::updateMetrics()
     for (QPushButton *key : keys()) {
         key->setFont(keyFont);
         const QFontMetrics metrics(key->font());
-        const bool isSide = unitButtons.contains(key) || key == ui.btnOk;
+        const bool isSide = units.buttons().contains(key) || key == ui.btnOk;
         key->setMinimumSize(
             std::max(wide(18.0),
                      metrics.horizontalAdvance(TouchNumKeyboard::tr("PgDn")) + metrics.height()),
@@ -152,6 +127,35 @@ QMainWindow *TouchNumKeyboardPrivate::hostWindow() const
             return mainWindow;
     }
     return nullptr;
+}
+
+/// Embeds the keypad in a main window, above an overlay that covers it.
+void TouchNumKeyboardPrivate::showOver(QMainWindow *host)
+{
+    OverlayContainer *current = overlay();
+    if (!current || current->parentWidget() != host) {
+        leaveOverlay();
+        if (current)
+            current->deleteLater();
+        current = new OverlayContainer(host);
+        overlayWidget = current;
+        QObject::connect(current, &QObject::destroyed, q, [this] {
+            if (!goesWithHost)
+                leaveOverlay();
+        });
+    }
+    if (q->parentWidget() != current) {
+        home = q->parentWidget();
+        goesWithHost = home && home->window() == host;
+        if (home)
+            homeGone = QObject::connect(home, &QObject::destroyed, q, &QObject::deleteLater);
+        q->setParent(current, Qt::Widget);
+    }
+    QObject::disconnect(current, &OverlayContainer::outsideClicked, q, nullptr);
+    QObject::connect(current, &OverlayContainer::outsideClicked, q, [this] { pressOutside(); });
+    current->showWithDialog(
+        q, OverlayContainer::None, dims,
+        popupAnchor ? OverlayContainer::LeftOfAnchor : OverlayContainer::Centered, popupAnchor);
 }
 
 /// Gives the keypad back to its own parent, so that it does not go with a host it was only shown
@@ -209,6 +213,27 @@ void TouchNumKeyboardPrivate::handleIndicatorMouse(const QMouseEvent *event)
         Q_EMIT q->indicatorDoubleClick(position);
     } else if (left && event->type() == QEvent::MouseButtonRelease) {
         Q_EMIT q->indicatorRelease(position);
+    }
+}
+
+/// Whether an event of the text area goes no further.
+bool TouchNumKeyboardPrivate::filterIndicator(QEvent *event)
+{
+    const QPointer<QLineEdit> edit(ui.edit);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+        handleIndicatorMouse(static_cast<QMouseEvent *>(event));
+        // What mirrors another editor has no selection of its own to drag.
+        return !edit || edit->isReadOnly();
+    case QEvent::Wheel:
+        event->ignore();
+        Q_EMIT q->indicatorWheel(static_cast<QWheelEvent *>(event));
+        return !edit || event->isAccepted();
+    default:
+        return false;
     }
 }
 

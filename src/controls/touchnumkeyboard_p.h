@@ -3,27 +3,24 @@
 #pragma once
 
 #include "ui_touchnumkeyboard.h"
+#include "unitcolumn_p.h"
 
 #include <controls/overlaycontainer.h>
 #include <controls/touchnumkeyboard.h>
 
 #include <QEventLoop>
-#include <QList>
 #include <QMap>
 #include <QPointer>
 #include <QPushButton>
 
-#include <algorithm>
-
 QT_BEGIN_NAMESPACE
 class QMainWindow;
+class QEvent;
 class QMouseEvent;
 QT_END_NAMESPACE
 
 namespace Controls
 {
-
-using KeySpec = TouchNumKeyboard::KeySpec;
 
 /// Window flags of a keypad that is not embedded.
 constexpr Qt::WindowFlags keypadDialogFlags = Qt::Dialog | Qt::FramelessWindowHint;
@@ -40,11 +37,7 @@ public:
     {
     }
 
-    bool isPaging() const { return shortcutKeys.size() > unitButtons.size(); }
-    int page() const { return (startIndex - 1) / 2; }
-    int lastPage() const { return std::max(1, (int(shortcutKeys.size()) - 5) / 2 + 1); }
-
-    QList<QPushButton *> keys() const { return basicButtons.keys() + unitButtons; }
+    QList<QPushButton *> keys() const { return basicButtons.keys() + units.buttons(); }
     QList<QPushButton *> digits() const
     {
         return {ui.btn0, ui.btn1, ui.btn2, ui.btn3, ui.btn4,
@@ -52,8 +45,6 @@ public:
     }
 
     void addKey(QPushButton *button, int key, const QString &text, const char *role);
-    void assignUnit(QPushButton *button, const KeySpec &spec);
-    void assignPaging(QPushButton *button, const QString &caption);
     void labelKeys();
     void updateEnterKey();
     void updateMetrics();
@@ -61,19 +52,18 @@ public:
     QMainWindow *hostWindow() const;
     /// Null from the moment the overlay's destructor has run, when its guarded pointer is not yet.
     OverlayContainer *overlay() const { return qobject_cast<OverlayContainer *>(overlayWidget); }
+    void showOver(QMainWindow *host);
     void leaveOverlay();
     void pressOutside();
     void letGo();
     void giveFocusBack();
     void handleIndicatorMouse(const QMouseEvent *event);
+    bool filterIndicator(QEvent *event);
 
     TouchNumKeyboard *const q;
     Ui::TouchNumKeyboard ui;
     QMap<QPushButton *, KeySpec> basicButtons;
-    QList<KeySpec> shortcutKeys;
-    QList<QPushButton *> unitButtons;
-    QMap<QPushButton *, KeySpec> shortcutMap;
-    int startIndex = 0;
+    UnitColumn units;
     QPointer<QObject> receiver;
     QPointer<QWidget> popupAnchor;
     QPointer<QWidget> titleWidget;
