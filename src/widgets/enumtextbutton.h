@@ -79,12 +79,6 @@ public:
     bool listScrollsInside() const;
     void setListScrollsInside(bool scrolls);
 
-Q_SIGNALS:
-    /// The user picked a choice; follows currentItemToggled().
-    void currentItemEdited(int value);
-    /// The current choice was set, by the user or by the host.
-    void currentItemToggled(int value);
-
 public Q_SLOTS:
     /// Opens the list, unless it was this tap that closed it or there is nothing to choose.
     void onClicked(bool checked);
@@ -94,6 +88,12 @@ public Q_SLOTS:
     void onCurrentItemToggled(int value);
     /// Moves the list to its place: at the button for rows, centred on the window for tiles.
     void updatePopupPosition();
+
+Q_SIGNALS:
+    /// The user picked a choice; follows currentItemToggled().
+    void currentItemEdited(int value);
+    /// The current choice was set, by the user or by the host.
+    void currentItemToggled(int value);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -14,12 +14,24 @@
 #include <QGraphicsOpacityEffect>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QPropertyAnimation>
 #include <QSequentialAnimationGroup>
 #include <QStyleOption>
 #include <QTimer>
 
 using Controls::ThemeManager;
+
+struct LockWidgetPrivate {
+    Ui::LockWidget ui;
+    bool locked = false;
+    QPointer<QWidget> target;
+    Utils::WidgetMouseMoveTool *mouseMoveTool = nullptr;
+    QGraphicsOpacityEffect *opacityEffect = nullptr;
+    QSequentialAnimationGroup *blinkGroup = nullptr;
+    QPixmap unlockedPixmap;
+    QPixmap lockedPixmap;
+};
 
 /// To a screen reader the padlock is a check box, checked while locked.
 class LockWidget::Accessible : public QAccessibleWidget
@@ -41,7 +53,7 @@ public:
     {
         QAccessible::State state = QAccessibleWidget::state();
         state.checkable = true;
-        state.checked = lock()->locked;
+        state.checked = lock()->d->locked;
         return state;
     }
 
@@ -53,7 +65,7 @@ public:
     void doAction(const QString &actionName) override
     {
         if (actionName == toggleAction())
-            lock()->setLocked(!lock()->locked);
+            lock()->setLocked(!lock()->d->locked);
         else
             QAccessibleWidget::doAction(actionName);
     }
@@ -62,27 +74,27 @@ private:
     LockWidget *lock() const { return static_cast<LockWidget *>(widget()); }
 };
 
-LockWidget::LockWidget(QWidget *parent, QWidget *target_)
+LockWidget::LockWidget(QWidget *parent, QWidget *target)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::LockWidget>())
-    , target(target_)
+    , d(std::make_unique<LockWidgetPrivate>())
 {
+    d->target = target;
     QAccessible::installFactory(&Accessible::create);
-    ui->setupUi(this);
+    d->ui.setupUi(this);
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("LockWidget { background-color: transparent; }"));
-    ui->label->setStyleSheet(QStringLiteral("QLabel { background-color: transparent; }"));
+    d->ui.label->setStyleSheet(QStringLiteral("QLabel { background-color: transparent; }"));
     setAttribute(Qt::WA_TranslucentBackground);
     setAccessibleName(tr("Screen lock"));
     // Tab reaches it; a tap leaves the focus with the editor that has it.
     setFocusPolicy(Qt::TabFocus);
 
-    mouseMoveTool = new Utils::WidgetMouseMoveTool(this);
-    connect(mouseMoveTool, &Utils::WidgetMouseMoveTool::clicked, this,
-            [this] { setLocked(!locked); });
+    d->mouseMoveTool = new Utils::WidgetMouseMoveTool(this);
+    connect(d->mouseMoveTool, &Utils::WidgetMouseMoveTool::clicked, this,
+            [this] { setLocked(!d->locked); });
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    if (target)
-        target->installEventFilter(this);
+    if (d->target)
+        d->target->installEventFilter(this);
     qApp->installEventFilter(this);
 
     connect(ThemeManager::instance(), &ThemeManager::themeChanged, this, &LockWidget::loadPixmaps);
@@ -111,12 +123,12 @@ bool LockWidget::getScreenLockEnable() const
 
 bool LockWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == target && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
+    if (watched == d->target && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
         scheduleDefaultPosition();
-    if (!locked || !isVisible() || mustPass(watched, event))
+    if (!d->locked || !isVisible() || mustPass(watched, event))
         return false;
-    blinkGroup->stop();
-    blinkGroup->start();
+    d->blinkGroup->stop();
+    d->blinkGroup->start();
     // Swallowed either way.
     event->setAccepted(!Utils::isSecondFinger(event));
     Q_EMIT pressBlocked();
@@ -131,7 +143,7 @@ void LockWidget::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Enter:
     case Qt::Key_Select:
         if (!event->isAutoRepeat())
-            setLocked(!locked);
+            setLocked(!d->locked);
         break;
     default:
         QWidget::keyPressEvent(event);
@@ -151,9 +163,9 @@ void LockWidget::paintEvent(QPaintEvent *event)
 
 void LockWidget::onClick()
 {
-    ui->label->setPixmap(locked ? lockedPixmap : unlockedPixmap);
-    mouseMoveTool->setMovable(!locked);
-    if (!locked)
+    d->ui.label->setPixmap(d->locked ? d->lockedPixmap : d->unlockedPixmap);
+    d->mouseMoveTool->setMovable(!d->locked);
+    if (!d->locked)
         stopBlinking();
 }
 
@@ -162,30 +174,29 @@ void LockWidget::addAnimation()
     constexpr int dip = 100; // ms, either way
     constexpr int dips = 4;
 
-    opacityEffect = new QGraphicsOpacityEffect(ui->label);
-    opacityEffect->setOpacity(1.0);
-    ui->label->setGraphicsEffect(opacityEffect);
+    d->opacityEffect = new QGraphicsOpacityEffect(d->ui.label);
+    d->opacityEffect->setOpacity(1.0);
+    d->ui.label->setGraphicsEffect(d->opacityEffect);
 
-    blinkGroup = new QSequentialAnimationGroup(this);
+    d->blinkGroup = new QSequentialAnimationGroup(this);
     const auto addFade = [this](double from, double to) {
-        auto *fade = new QPropertyAnimation(opacityEffect, "opacity", blinkGroup);
+        auto *fade = new QPropertyAnimation(d->opacityEffect, "opacity", d->blinkGroup);
         fade->setDuration(dip);
         fade->setStartValue(from);
         fade->setEndValue(to);
-        blinkGroup->addAnimation(fade);
-        return fade;
+        d->blinkGroup->addAnimation(fade);
     };
-    fadeOut = addFade(1.0, 0.5);
-    fadeIn = addFade(0.5, 1.0);
-    blinkGroup->setLoopCount(dips);
+    addFade(1.0, 0.5);
+    addFade(0.5, 1.0);
+    d->blinkGroup->setLoopCount(dips);
 }
 
 void LockWidget::scheduleDefaultPosition()
 {
     QTimer::singleShot(0, this, [this] {
-        if (!target)
+        if (!d->target)
             return;
-        const QRect area = target->geometry();
+        const QRect area = d->target->geometry();
         move(area.right() - width(), area.center().y() - height() / 2);
         raise();
     });
@@ -193,30 +204,35 @@ void LockWidget::scheduleDefaultPosition()
 
 void LockWidget::loadPixmaps()
 {
-    unlockedPixmap = QPixmap(ThemeManager::instance()->getIconPath(4));
-    lockedPixmap = QPixmap(ThemeManager::instance()->getIconPath(3));
-    ui->label->setPixmap(locked ? lockedPixmap : unlockedPixmap);
+    d->unlockedPixmap = QPixmap(ThemeManager::instance()->getIconPath(4));
+    d->lockedPixmap = QPixmap(ThemeManager::instance()->getIconPath(3));
+    d->ui.label->setPixmap(d->locked ? d->lockedPixmap : d->unlockedPixmap);
+}
+
+bool LockWidget::isLocked() const
+{
+    return d->locked;
 }
 
 void LockWidget::setLocked(bool lock)
 {
-    if (locked == lock)
+    if (d->locked == lock)
         return;
-    locked = lock;
+    d->locked = lock;
     onClick();
 
     QAccessible::State changed;
     changed.checked = true;
     QAccessibleStateChangeEvent event(this, changed);
     QAccessible::updateAccessibility(&event);
-    Q_EMIT lockedChanged(locked);
+    Q_EMIT lockedChanged(d->locked);
 }
 
 void LockWidget::stopBlinking()
 {
-    blinkGroup->stop();
+    d->blinkGroup->stop();
     // Stopped in the middle of a dip it would stay faded.
-    opacityEffect->setOpacity(1.0);
+    d->opacityEffect->setOpacity(1.0);
 }
 
 /// While locked: whether the event is none that is blocked, or one for the padlock itself.

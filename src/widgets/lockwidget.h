@@ -4,24 +4,11 @@
 
 #include <vnawidgets_export.h>
 
-#include <QPixmap>
-#include <QPointer>
 #include <QWidget>
 
 #include <memory>
 
-class QGraphicsOpacityEffect;
-class QPropertyAnimation;
-class QSequentialAnimationGroup;
-
-namespace Ui
-{
-class LockWidget;
-}
-namespace Utils
-{
-class WidgetMouseMoveTool;
-}
+struct LockWidgetPrivate;
 
 /*! A floating padlock against accidental touches, docked at the right edge of a target widget.
 
@@ -52,7 +39,7 @@ public:
     /// Whether the padlock is visible.
     bool getScreenLockEnable() const;
     /// Whether presses are swallowed. False at the start.
-    bool isLocked() const { return locked; }
+    bool isLocked() const;
 
 public Q_SLOTS:
     /// Locks as a tap on the padlock does, or unlocks; presses are swallowed only while it is shown.
@@ -81,14 +68,5 @@ private:
     void stopBlinking();
     bool mustPass(QObject *watched, QEvent *event) const;
 
-    std::unique_ptr<Ui::LockWidget> ui;
-    bool locked = false;
-    QPointer<QWidget> target;
-    Utils::WidgetMouseMoveTool *mouseMoveTool = nullptr;
-    QGraphicsOpacityEffect *opacityEffect = nullptr;
-    QPropertyAnimation *fadeOut = nullptr;
-    QPropertyAnimation *fadeIn = nullptr;
-    QSequentialAnimationGroup *blinkGroup = nullptr;
-    QPixmap unlockedPixmap;
-    QPixmap lockedPixmap;
+    const std::unique_ptr<LockWidgetPrivate> d;
 };

@@ -21,6 +21,22 @@ constexpr char s_pathProperty[] = "PixmapPath";
 
 } // namespace
 
+struct MarkerStatusItemPrivate {
+    Ui::MarkerStatusItem ui;
+    QString nameText;
+    QString keyText;
+    QString valueText1;
+    QString valueText2;
+    QString valueText3;
+    int keyColumnWidth = 130;
+    int numLabelWidth1 = 70;
+    int numLabelWidth2 = 70;
+    int numLabelWidth3 = 70;
+    bool rightAligned = false;
+    std::function<bool(QMouseEvent *)> mouseEventRouter;
+    bool routingMouse = false;
+};
+
 /// To a screen reader the read-out is a list item: named after the marker, with the readings as
 /// value.
 class MarkerStatusItem::Accessible : public QAccessibleWidget
@@ -41,7 +57,7 @@ public:
     QString text(QAccessible::Text kind) const override
     {
         if (kind == QAccessible::Name)
-            return item()->nameText;
+            return item()->d->nameText;
         if (kind == QAccessible::Value)
             return item()->readings().join(QLatin1Char(' '));
         return QAccessibleWidget::text(kind);
@@ -52,7 +68,7 @@ public:
         QAccessible::State state = QAccessibleWidget::state();
         state.selectable = true;
         state.selected =
-            !item()->ui->selectedStatusLabel->property(s_pathProperty).toString().isEmpty();
+            !item()->d->ui.selectedStatusLabel->property(s_pathProperty).toString().isEmpty();
         return state;
     }
 
@@ -75,18 +91,18 @@ private:
 
 MarkerStatusItem::MarkerStatusItem(QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::MarkerStatusItem>())
+    , d(std::make_unique<MarkerStatusItemPrivate>())
 {
     QAccessible::installFactory(&Accessible::create);
-    ui->setupUi(this);
+    d->ui.setupUi(this);
     // Spare width goes between the stimulus and the values.
-    ui->horizontalLayout->setStretch(2, 0);
-    ui->horizontalLayout->insertStretch(3, 1);
+    d->ui.horizontalLayout->setStretch(2, 0);
+    d->ui.horizontalLayout->insertStretch(3, 1);
     setMinimumWidth(0);
     setMaximumWidth(QWIDGETSIZE_MAX);
-    ui->valueLabel2->setContentsMargins(12, 0, 0, 0);
-    ui->valueLabel3->setContentsMargins(12, 0, 0, 0);
-    ui->keyLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    d->ui.valueLabel2->setContentsMargins(12, 0, 0, 0);
+    d->ui.valueLabel3->setContentsMargins(12, 0, 0, 0);
+    d->ui.keyLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 
     // Tab reaches it; a finger on it leaves the focus with the editor that has it.
     setFocusPolicy(Qt::TabFocus);
@@ -103,21 +119,22 @@ MarkerStatusItem::~MarkerStatusItem() = default;
 
 int MarkerStatusItem::preferredSingleLineWidth() const
 {
-    return keyColumnWidth + s_dotAndNameWidth + numLabelWidth1
-        + (valueText2.isEmpty() ? 0 : numLabelWidth2) + (valueText3.isEmpty() ? 0 : numLabelWidth3);
+    return d->keyColumnWidth + s_dotAndNameWidth + d->numLabelWidth1
+        + (d->valueText2.isEmpty() ? 0 : d->numLabelWidth2)
+        + (d->valueText3.isEmpty() ? 0 : d->numLabelWidth3);
 }
 
 void MarkerStatusItem::setText(const QString &name, const QString &key, const QString &value1,
                                const QString &value2, const QString &value3)
 {
-    if (nameText == name && keyText == key && valueText1 == value1 && valueText2 == value2
-        && valueText3 == value3)
+    if (d->nameText == name && d->keyText == key && d->valueText1 == value1
+        && d->valueText2 == value2 && d->valueText3 == value3)
         return;
-    nameText = name;
-    keyText = key;
-    valueText1 = value1;
-    valueText2 = value2;
-    valueText3 = value3;
+    d->nameText = name;
+    d->keyText = key;
+    d->valueText1 = value1;
+    d->valueText2 = value2;
+    d->valueText3 = value3;
     updateResponsiveLayout();
 }
 
@@ -125,10 +142,10 @@ void MarkerStatusItem::setSelectedStatus(bool selected)
 {
     const QString path =
         selected ? QStringLiteral(":/image/resource/marker_selected.svg") : QString();
-    if (ui->selectedStatusLabel->property(s_pathProperty).toString() == path)
+    if (d->ui.selectedStatusLabel->property(s_pathProperty).toString() == path)
         return;
-    ui->selectedStatusLabel->setPixmap(QPixmap(path));
-    ui->selectedStatusLabel->setProperty(s_pathProperty, path);
+    d->ui.selectedStatusLabel->setPixmap(QPixmap(path));
+    d->ui.selectedStatusLabel->setProperty(s_pathProperty, path);
 }
 
 void MarkerStatusItem::setColor(const QColor &color)
@@ -152,9 +169,9 @@ void MarkerStatusItem::setBold(bool bold)
 void MarkerStatusItem::setKeyColumnWidth(int width)
 {
     width = qMax(width, 20);
-    if (keyColumnWidth == width)
+    if (d->keyColumnWidth == width)
         return;
-    keyColumnWidth = width;
+    d->keyColumnWidth = width;
     updateResponsiveLayout();
 }
 
@@ -163,19 +180,19 @@ void MarkerStatusItem::setNumLabelWidth(int width1, int width2, int width3)
     width1 = qMax(width1, 0);
     width2 = qMax(width2, 0);
     width3 = qMax(width3, 0);
-    if (numLabelWidth1 == width1 && numLabelWidth2 == width2 && numLabelWidth3 == width3)
+    if (d->numLabelWidth1 == width1 && d->numLabelWidth2 == width2 && d->numLabelWidth3 == width3)
         return;
-    numLabelWidth1 = width1;
-    numLabelWidth2 = width2;
-    numLabelWidth3 = width3;
+    d->numLabelWidth1 = width1;
+    d->numLabelWidth2 = width2;
+    d->numLabelWidth3 = width3;
     updateResponsiveLayout();
 }
 
 void MarkerStatusItem::setRightAligned(bool right)
 {
-    if (rightAligned == right)
+    if (d->rightAligned == right)
         return;
-    rightAligned = right;
+    d->rightAligned = right;
     updateResponsiveLayout();
 }
 
@@ -189,7 +206,7 @@ void MarkerStatusItem::setLayoutWidth(int width)
 
 void MarkerStatusItem::setMouseEventRouter(std::function<bool(QMouseEvent *)> router)
 {
-    mouseEventRouter = std::move(router);
+    d->mouseEventRouter = std::move(router);
 }
 
 bool MarkerStatusItem::eventFilter(QObject *watched, QEvent *event)
@@ -199,12 +216,12 @@ bool MarkerStatusItem::eventFilter(QObject *watched, QEvent *event)
         return filterPress(static_cast<QMouseEvent *>(event));
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease: {
-        if (!routingMouse)
+        if (!d->routingMouse)
             break;
         if (event->type() == QEvent::MouseButtonRelease)
-            routingMouse = false;
+            d->routingMouse = false;
         event->accept();
-        const auto router = mouseEventRouter; // a copy, as for the press
+        const auto router = d->mouseEventRouter; // a copy, as for the press
         if (router)
             router(static_cast<QMouseEvent *>(event));
         return true;
@@ -212,7 +229,7 @@ bool MarkerStatusItem::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Hide:
         // The release of a hidden widget's press goes elsewhere.
         if (watched == this)
-            routingMouse = false;
+            d->routingMouse = false;
         break;
     default:
         break;
@@ -257,7 +274,7 @@ void MarkerStatusItem::resizeEvent(QResizeEvent *event)
 void MarkerStatusItem::updateResponsiveLayout()
 {
     const int single = preferredSingleLineWidth();
-    ui->nameLabel->setText(nameText);
+    d->ui.nameLabel->setText(d->nameText);
     if (width() <= 0 || width() >= single)
         showOnOneLine();
     else
@@ -266,13 +283,13 @@ void MarkerStatusItem::updateResponsiveLayout()
 
 void MarkerStatusItem::showOnOneLine()
 {
-    ui->keyLabel->setWordWrap(false);
-    ui->keyLabel->setText(keyText);
-    ui->keyLabel->setFixedWidth(keyColumnWidth);
-    ui->keyLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    ui->nameLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    ui->selectedStatusLabel->setAlignment(Qt::AlignCenter);
-    ui->horizontalLayout->setAlignment(ui->selectedStatusLabel, Qt::Alignment());
+    d->ui.keyLabel->setWordWrap(false);
+    d->ui.keyLabel->setText(d->keyText);
+    d->ui.keyLabel->setFixedWidth(d->keyColumnWidth);
+    d->ui.keyLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    d->ui.nameLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    d->ui.selectedStatusLabel->setAlignment(Qt::AlignCenter);
+    d->ui.horizontalLayout->setAlignment(d->ui.selectedStatusLabel, Qt::Alignment());
 
     const struct {
         Controls::RoundLabel *label;
@@ -280,9 +297,9 @@ void MarkerStatusItem::showOnOneLine()
         int width;
         bool shown;
     } values[] = {
-        {ui->valueLabel1, valueText1, numLabelWidth1, true},
-        {ui->valueLabel2, valueText2, numLabelWidth2, !valueText2.isEmpty()},
-        {ui->valueLabel3, valueText3, numLabelWidth3, !valueText3.isEmpty()},
+        {d->ui.valueLabel1, d->valueText1, d->numLabelWidth1, true},
+        {d->ui.valueLabel2, d->valueText2, d->numLabelWidth2, !d->valueText2.isEmpty()},
+        {d->ui.valueLabel3, d->valueText3, d->numLabelWidth3, !d->valueText3.isEmpty()},
     };
     for (const auto &value : values) {
         value.label->setText(value.text);
@@ -297,30 +314,32 @@ void MarkerStatusItem::showOnOneLine()
 void MarkerStatusItem::showFolded()
 {
     const int available = qMax(width() - s_dotAndNameWidth, 20);
-    const Qt::Alignment alignment = Qt::AlignTop | (rightAligned ? Qt::AlignRight : Qt::AlignLeft);
-    ui->nameLabel->setAlignment(alignment);
-    ui->selectedStatusLabel->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
-    ui->horizontalLayout->setAlignment(ui->selectedStatusLabel, Qt::AlignTop | Qt::AlignHCenter);
+    const Qt::Alignment alignment =
+        Qt::AlignTop | (d->rightAligned ? Qt::AlignRight : Qt::AlignLeft);
+    d->ui.nameLabel->setAlignment(alignment);
+    d->ui.selectedStatusLabel->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
+    d->ui.horizontalLayout->setAlignment(d->ui.selectedStatusLabel,
+                                         Qt::AlignTop | Qt::AlignHCenter);
 
-    for (Controls::RoundLabel *label : {ui->valueLabel1, ui->valueLabel2, ui->valueLabel3})
+    for (Controls::RoundLabel *label : {d->ui.valueLabel1, d->ui.valueLabel2, d->ui.valueLabel3})
         label->hide();
-    const QStringList values = readings().mid(keyText.isEmpty() ? 0 : 1);
-    QString block = wrapTextToWidth(keyText, available);
+    const QStringList values = readings().mid(d->keyText.isEmpty() ? 0 : 1);
+    QString block = wrapTextToWidth(d->keyText, available);
     if (!values.isEmpty())
         block += QLatin1Char('\n') + wrapTextToWidth(values.join(QLatin1Char(' ')), available);
 
-    ui->keyLabel->setWordWrap(false);
-    ui->keyLabel->setText(block);
-    ui->keyLabel->setAlignment(alignment);
-    ui->keyLabel->setFixedWidth(available);
+    d->ui.keyLabel->setWordWrap(false);
+    d->ui.keyLabel->setText(block);
+    d->ui.keyLabel->setAlignment(alignment);
+    d->ui.keyLabel->setFixedWidth(available);
     const int lines = int(block.count(QLatin1Char('\n'))) + 1;
-    setFixedHeight(ui->keyLabel->fontMetrics().lineSpacing() * lines + 2);
+    setFixedHeight(d->ui.keyLabel->fontMetrics().lineSpacing() * lines + 2);
 }
 
 /// Stimulus and values, without the empty ones.
 QStringList MarkerStatusItem::readings() const
 {
-    QStringList texts{keyText, valueText1, valueText2, valueText3};
+    QStringList texts{d->keyText, d->valueText1, d->valueText2, d->valueText3};
     texts.removeAll(QString());
     return texts;
 }
@@ -329,7 +348,7 @@ QString MarkerStatusItem::wrapTextToWidth(const QString &text, int maxWidth) con
 {
     if (text.isEmpty() || maxWidth < 1)
         return text;
-    const QFontMetrics metrics = ui->keyLabel->fontMetrics();
+    const QFontMetrics metrics = d->ui.keyLabel->fontMetrics();
     QStringList lines;
     QString line;
     for (const QChar &character : text) {
@@ -349,11 +368,11 @@ bool MarkerStatusItem::filterPress(QMouseEvent *event)
     if (event->button() == Qt::LeftButton) {
         const QPointer<MarkerStatusItem> self(this);
         // A copy, since the router may replace itself or delete this item.
-        const auto router = mouseEventRouter;
+        const auto router = d->mouseEventRouter;
         taken = router && router(event);
         if (!self)
             return true;
-        routingMouse = taken;
+        d->routingMouse = taken;
     }
     event->accept();
     if (!taken)

@@ -9,10 +9,7 @@
 #include <functional>
 #include <memory>
 
-namespace Ui
-{
-class MarkerStatusItem;
-}
+struct MarkerStatusItemPrivate;
 
 /*! One line of a marker read-out: a dot when selected, the marker's name, its stimulus and up to
     three response values.
@@ -84,17 +81,5 @@ private:
     QString wrapTextToWidth(const QString &text, int maxWidth) const;
     bool filterPress(QMouseEvent *event);
 
-    std::unique_ptr<Ui::MarkerStatusItem> ui;
-    QString nameText;
-    QString keyText;
-    QString valueText1;
-    QString valueText2;
-    QString valueText3;
-    int keyColumnWidth = 130;
-    int numLabelWidth1 = 70;
-    int numLabelWidth2 = 70;
-    int numLabelWidth3 = 70;
-    bool rightAligned = false;
-    std::function<bool(QMouseEvent *)> mouseEventRouter;
-    bool routingMouse = false;
+    const std::unique_ptr<MarkerStatusItemPrivate> d;
 };

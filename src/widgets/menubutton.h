@@ -78,17 +78,17 @@ public:
 
     QSize sizeHint() const override;
 
-Q_SIGNALS:
-    /// The user picked a command; -1 for a text that belongs to none.
-    void menuItemClicked(int value);
-    /// The same pick by its text; follows at once.
-    void menuItemClicked(const QString &text);
-
 public Q_SLOTS:
     /// Reports what the user picked and puts the list away.
     void onPopupWidgetItemChanged(const QString &text);
     /// Moves the open list to its place below the button, or above it.
     void updatePopupPosition();
+
+Q_SIGNALS:
+    /// The user picked a command; -1 for a text that belongs to none.
+    void menuItemClicked(int value);
+    /// The same pick by its text; follows at once.
+    void menuItemClicked(const QString &text);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -7,10 +7,9 @@
 #include <QListView>
 #include <QWidget>
 
-class QLabel;
-class QListWidget;
-class QListWidgetItem;
-class QVBoxLayout;
+#include <memory>
+
+class PopupWidgetPrivate;
 
 /*! The list of choices that opens from a button: one column (list mode) or a grid of tiles (icon
     mode), with an optional title by which it can be dragged. A tap on an enabled item reports its
@@ -57,7 +56,7 @@ public:
 
     /// Horizontal alignment of the rows, which are always centred vertically. Default: left. Tiles
     /// have their text in the middle.
-    Qt::Alignment itemTextAlignment() const { return m_itemTextAlignment; }
+    Qt::Alignment itemTextAlignment() const;
     void setItemTextAlignment(Qt::Alignment alignment);
 
     QString titleText() const;
@@ -67,19 +66,19 @@ public:
     bool titleVisible() const;
     void setTitleVisible(bool visible);
 
-    QListView::ViewMode viewMode() const { return m_viewMode; }
+    QListView::ViewMode viewMode() const;
     void setViewMode(QListView::ViewMode mode);
 
     /// Width of the list in list mode, in pixels, from the next popup(). Default: 100.
-    int widgetFixedWidth() const { return m_widgetFixedWidth; }
+    int widgetFixedWidth() const;
     void setWidgetFixedWidth(int width);
 
     /// Size of a tile in icon mode, in pixels, from the next popup(). Default: 120 x 100.
-    QSize iconSize() const { return m_iconSize; }
+    QSize iconSize() const;
     void setIconSize(int width, int height);
 
     /// Number of columns in icon mode, from the next popup(). Default: 4; less than 1 counts as 1.
-    int itemCountPerRow() const { return m_itemCountPerRow; }
+    int itemCountPerRow() const;
     void setItemCountPerRow(int count);
 
     /// Fits the size to the items, without scroll bars; the caller moves and shows the pop-up.
@@ -87,7 +86,7 @@ public:
 
     /// Whether a list taller than its screen is made to fit, from the next popup(), and scrolls
     /// inside: for platforms where a window cannot move itself. Default: false.
-    bool scrollsInside() const { return m_scrollsInside; }
+    bool scrollsInside() const;
     void setScrollsInside(bool scrolls);
 
 Q_SIGNALS:
@@ -102,28 +101,5 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void onItemClicked(QListWidgetItem *item);
-    void selectChosenItem();
-    void closeWithoutParent();
-    bool filterTitle(QEvent *event);
-    bool filterList(QEvent *event);
-    bool slideTo(int top);
-    void slideToCurrentItem();
-
-    QLabel *m_titleLabel;
-    QVBoxLayout *m_layout;
-    QListWidget *m_listWidget;
-    QListView::ViewMode m_viewMode = QListView::ListMode;
-    QPoint m_dragOffset;
-    bool m_dragging = false;
-    int m_widgetFixedWidth = 100;
-    QSize m_iconSize = {120, 100};
-    int m_itemCountPerRow = 4;
-    QString m_currentText;
-    Qt::Alignment m_itemTextAlignment = Qt::AlignLeft | Qt::AlignVCenter;
-    QPoint m_pressPosition; ///< of the finger on the list, on the screen
-    int m_pressTop = 0; ///< of the pop-up when the finger came down
-    bool m_sliding = false;
-    bool m_picking = false;
-    bool m_scrollsInside = false;
+    const std::unique_ptr<PopupWidgetPrivate> d;
 };
