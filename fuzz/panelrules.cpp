@@ -84,7 +84,7 @@ private:
         if (!m_cartesian)
             return {valueAt(data.real, index), valueAt(data.imag, index)};
         const double hertz = valueAt(m_model.network(trace).frequencies, index);
-        const double value = cartesianValueAt(data, index, trace.format);
+        const double value = formatValueAt(m_model.traceData(trace), index, trace.format);
         const QCPRange range = m_cartesian->frequencyAxis().range();
         if (!range.contains(hertz) || !std::isfinite(value))
             return {qQNaN(), qQNaN()};

@@ -593,6 +593,10 @@
         <source>Keyboard help</source>
         <translation>Tastenhilfe</translation>
     </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -677,6 +681,17 @@
     <message>
         <source>Open a Touchstone file (.s1p, .s2p, .ts) to see it.</source>
         <translation>Eine Touchstone-Datei (.s1p, .s2p, .ts) öffnen, um sie zu sehen.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ParameterMatrix</name>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>From port %1 to port %2</source>
+        <translation>Von Tor %1 nach Tor %2</translation>
     </message>
 </context>
 <context>
@@ -1122,6 +1137,26 @@
     <message>
         <source>dB / phase</source>
         <translation>dB / Phase</translation>
+    </message>
+    <message>
+        <source>LinM</source>
+        <translation>LinM</translation>
+    </message>
+    <message>
+        <source>Real</source>
+        <translation>Real</translation>
+    </message>
+    <message>
+        <source>Imag</source>
+        <translation>Imag</translation>
+    </message>
+    <message>
+        <source>Unwrapped</source>
+        <translation>Phase fortl.</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Laufzeit</translation>
     </message>
 </context>
 </TS>

@@ -587,6 +587,10 @@
         <source>Keyboard help</source>
         <translation>键盘帮助</translation>
     </message>
+    <message>
+        <source>Parameter</source>
+        <translation>参数</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -670,6 +674,17 @@
     <message>
         <source>Open a Touchstone file (.s1p, .s2p, .ts) to see it.</source>
         <translation>打开 Touchstone 文件（.s1p、.s2p、.ts）即可查看。</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ParameterMatrix</name>
+    <message>
+        <source>Parameter</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>From port %1 to port %2</source>
+        <translation>从端口 %1 到端口 %2</translation>
     </message>
 </context>
 <context>
@@ -1115,6 +1130,26 @@
     <message>
         <source>dB / phase</source>
         <translation>dB / 相位</translation>
+    </message>
+    <message>
+        <source>LinM</source>
+        <translation>线性幅度</translation>
+    </message>
+    <message>
+        <source>Real</source>
+        <translation>实部</translation>
+    </message>
+    <message>
+        <source>Imag</source>
+        <translation>虚部</translation>
+    </message>
+    <message>
+        <source>Unwrapped</source>
+        <translation>展开相位</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>群时延</translation>
     </message>
 </context>
 </TS>

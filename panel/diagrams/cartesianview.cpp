@@ -155,18 +155,16 @@ void CartesianView::fillLine(const Trace &trace)
         return;
     Line &line = found->second;
     const QCPRange range = m_frequencies.range();
-    const auto load = [&](QCPGraph *graph, const QVector<double> &frequencies,
-                          const Parameter &parameter) {
-        CartesianLine points = cartesianLine(frequencies, parameter, trace.format,
-                                             m_laidOut.width(), range.lower, range.upper);
+    const auto load = [&](QCPGraph *graph, const TraceData &drawn) {
+        CartesianLine points =
+            cartesianLine(drawn, trace.format, m_laidOut.width(), range.lower, range.upper);
         graph->setData(points.frequencies, points.values, true);
         return points;
     };
-    line.drawn = valueRange(
-        load(line.graph, m_model->network(trace).frequencies, m_model->data(trace)).values);
-    const Memory *memory = m_model->memory(trace.id);
+    line.drawn = valueRange(load(line.graph, m_model->traceData(trace)).values);
+    const TraceData *memory = m_model->memory(trace.id);
     if (line.memory && memory)
-        load(line.memory, memory->frequencies, memory->parameter);
+        load(line.memory, *memory);
     placeMarkers(trace);
 }
 
@@ -333,7 +331,7 @@ void CartesianView::placeMarker(const Trace &trace, const Marker &placed)
     const double index = m_model->indexOf(placed);
     const double hertz = m_model->hertzOf(placed);
     const double value =
-        index < 0.0 ? qQNaN() : cartesianValueAt(m_model->data(trace), index, trace.format);
+        index < 0.0 ? qQNaN() : formatValueAt(m_model->traceData(trace), index, trace.format);
     const bool shown = trace.visible && std::isfinite(value) && !m_laidOut.isEmpty()
         && m_frequencies.range().contains(hertz);
     if (shown) {

@@ -18,30 +18,22 @@ using Complex = std::complex<double>;
 
 double frequency(const MarkedPoint &point)
 {
-    return valueAt(point.network->frequencies, point.index);
+    return valueAt(point.data.frequencies, point.index);
 }
 
 Complex reflection(const MarkedPoint &point)
 {
-    return {valueAt(point.parameter->real, point.index),
-            valueAt(point.parameter->imag, point.index)};
-}
-
-/// The immittance (1 + sΓ) / (1 - sΓ) in units of the reference; infinite where it has a pole.
-Complex immittance(const Complex &gamma, double sign)
-{
-    const Complex below = 1.0 - sign * gamma;
-    return std::abs(below) < 1e-9 ? Complex(qInf(), qInf()) : (1.0 + sign * gamma) / below;
+    return point.data.at(point.index);
 }
 
 Complex impedance(const MarkedPoint &point)
 {
-    return point.network->referenceOhms * immittance(reflection(point), 1.0);
+    return impedanceOf(reflection(point), point.data.reference);
 }
 
 Complex admittance(const MarkedPoint &point)
 {
-    return immittance(reflection(point), -1.0) / point.network->referenceOhms;
+    return admittanceOf(reflection(point), point.data.reference);
 }
 
 /// "∞ Ω" rather than a dash: it is a value.
@@ -88,12 +80,12 @@ double wrapped(double angle)
 
 double decibels(const Complex &gamma)
 {
-    return cartesianValue(gamma.real(), gamma.imag(), TraceFormat::LogMagnitude);
+    return formatValue(gamma, {}, TraceFormat::LogMagnitude);
 }
 
 double vswr(const Complex &gamma)
 {
-    return cartesianValue(gamma.real(), gamma.imag(), TraceFormat::Vswr);
+    return formatValue(gamma, {}, TraceFormat::Vswr);
 }
 
 QStringList readings(const Complex &gamma, ReadoutFormat format)
@@ -164,14 +156,14 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
 MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format)
 {
     return {frequencyText(frequency(point)),
-            {cartesianText(cartesianValueAt(*point.parameter, point.index, format), format)}};
+            {cartesianText(formatValueAt(point.data, point.index, format), format)}};
 }
 
 MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format,
                               const MarkedPoint &reference)
 {
-    double difference = cartesianValueAt(*point.parameter, point.index, format)
-        - cartesianValueAt(*reference.parameter, reference.index, format);
+    double difference = formatValueAt(point.data, point.index, format)
+        - formatValueAt(reference.data, reference.index, format);
     if (format == TraceFormat::Phase)
         difference = wrapped(difference);
     return {frequencyText(frequency(point) - frequency(reference)),
@@ -182,7 +174,7 @@ MarkerReading readMarker(const PanelModel &model, const Marker &marker, const Ma
 {
     const Trace &trace = *model.trace(marker.trace);
     const auto point = [&](const Marker &marked) {
-        return MarkedPoint{&model.network(trace), &model.data(trace), model.indexOf(marked)};
+        return MarkedPoint{model.traceData(trace), model.indexOf(marked)};
     };
     const ReadoutFormat format = model.viewSettings()->effectiveReadoutFormat();
     if (point(marker).index < 0.0 || (reference && point(*reference).index < 0.0)) {

@@ -18,17 +18,16 @@ struct MarkerReading {
     QStringList values;
 };
 
-/// A point of a parameter at a fractional index, which must lie within the data.
+/// A point of a trace at a fractional index, which must lie within the data.
 struct MarkedPoint {
-    const Network *network = nullptr;
-    const Parameter *parameter = nullptr;
+    TraceData data;
     double index = 0.0;
 };
 
 /*! Reads a point on the Smith chart.
 
-    Γ is the parameter, R the reference resistance: the impedance is R (1 + Γ) / (1 - Γ), the
-    admittance (1 - Γ) / (1 + Γ) / R, and the standing wave ratio (1 + |Γ|) / (1 - |Γ|).
+    Impedance and admittance are those of impedanceOf() and admittanceOf(), and the standing wave
+    ratio is (1 + |Γ|) / (1 - |Γ|).
     Automatic counts as Impedance. */
 MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format);
 /// The same as the difference from a reference point, part by part; elements are left out.

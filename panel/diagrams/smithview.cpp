@@ -85,8 +85,12 @@ void SmithView::showGrid()
 {
     const ViewSettings *settings = m_model->viewSettings();
     const Trace *active = activeTrace();
-    if (settings->gridLabels() == GridLabels::Ohms && active)
-        m_chart->setGridReference(m_model->network(*active).referenceOhms);
+    // Lines of a complex reference are not where those of its real part are.
+    const std::complex<double> reference =
+        active ? m_model->traceData(*active).reference : std::complex<double>();
+    if (settings->gridLabels() == GridLabels::Ohms && reference.real() > 0.0
+        && reference.imag() == 0.0)
+        m_chart->setGridReference(reference.real());
     else
         m_chart->setGridReference(std::nullopt);
     const double ratio = settings->vswrCircle();
@@ -208,7 +212,7 @@ void SmithView::showMemory(const Trace &trace)
 {
     const int id = memoryId(trace.id);
     m_chart->removeCurve(id);
-    if (const Memory *memory = m_model->memory(trace.id)) {
+    if (const TraceData *memory = m_model->memory(trace.id)) {
         m_chart->addCurve(id, currentLook().memoryPen(trace.id, trace.network));
         m_chart->setCurveData(id, memory->frequencies, memory->parameter.real,
                               memory->parameter.imag);
@@ -322,7 +326,7 @@ QStringList SmithView::titleParts() const
     const Trace *active = activeTrace();
     if (!active)
         return {};
-    return {tr("Z %1").arg(ohmsText(m_model->network(*active).referenceOhms))};
+    return {tr("Z %1").arg(ohmsText(m_model->traceData(*active).reference))};
 }
 
 SmithChart::HalfRanges SmithView::halfRanges() const

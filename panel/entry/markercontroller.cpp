@@ -112,7 +112,7 @@ void MarkerController::onSearchPicked(int command)
     if (!trace)
         return;
     const Marker *marker = m_model->selectedMarker();
-    const int found = searchMarker(m_model->data(*trace), trace->format, Search(command),
+    const int found = searchMarker(m_model->traceData(*trace), trace->format, Search(command),
                                    marker ? qMax(0.0, m_model->indexOf(*marker)) : 0.0);
     if (found < 0)
         Q_EMIT said(tr("Trace %1 has no such point.").arg(trace->id));

@@ -30,7 +30,8 @@ UnitAdapter *valueAdapter(TraceFormat format)
 {
     if (format == TraceFormat::LogMagnitude)
         return new DecibelAdapter;
-    return new NumberAdapter(2);
+    // As fine as the smallest division.
+    return new NumberAdapter(qMax(2, qRound(-std::log10(traits(format).smallestDivision))));
 }
 
 } // namespace
@@ -228,7 +229,9 @@ void NumericKeys::editReference()
     if (!trace || trace->onSmithChart())
         return;
     UnitAdapter *adapter = valueAdapter(trace->format);
-    adapter->setRange(-1000.0, 1000.0);
+    // Ten divisions of the largest scale, or what the default scale needs.
+    const double farthest = qMax(1000.0, 10.0 * traits(trace->format).largestDivision);
+    adapter->setRange(-farthest, farthest);
     adapter->setRealValue(trace->scale.top);
     const double division = trace->scale.perDivision;
     edit(m_keys.reference, adapter, {division, division / 10.0},

@@ -53,6 +53,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
 
     menu->addPage(Text::tr("Trace"), Glyph::Trace);
     keys.trace = menu->addKey(Text::tr("Trace"));
+    keys.parameter = menu->addKey(Text::tr("Parameter"));
     keys.format = menu->addKey(Text::tr("Format"));
     keys.memory = addMenu(menu, Text::tr("Memory"));
     keys.visible = addSwitch(menu, Text::tr("Visible"));

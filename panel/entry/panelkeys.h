@@ -23,6 +23,7 @@ struct PanelKeys {
     SoftKey *points;
     // Trace
     SoftKey *trace; ///< which is active
+    SoftKey *parameter; ///< that it shows, of its network
     SoftKey *format;
     MenuButton *memory;
     SwitchButton *visible;

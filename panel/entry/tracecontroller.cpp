@@ -3,7 +3,9 @@
 #include "tracecontroller.h"
 
 #include "numerickeys.h"
+#include "parametermatrix.h"
 #include "softkey.h"
+#include <panel/ground/numbertext.h>
 #include <panel/model/panelmodel.h>
 
 #include <platform/placement.h>
@@ -28,22 +30,6 @@ enum AutoScaleCommand {
     FitActive,
     FitAll,
 };
-
-/// A parameter's ports, in the order of a list.
-struct Ports {
-    int to;
-    int from;
-};
-
-QVector<Ports> parameters(int ports)
-{
-    QVector<Ports> result;
-    for (int to = 1; to <= ports; ++to) {
-        for (int from = 1; from <= ports; ++from)
-            result.append({to, from});
-    }
-    return result;
-}
 
 QStringList formatNames()
 {
@@ -77,6 +63,10 @@ TraceController::TraceController(PanelModel *model, const PanelKeys &keys, Trace
 void TraceController::connectKeys()
 {
     const PanelKeys &keys = m_keys;
+    connect(keys.parameter, &SoftKey::clicked, this, [this] {
+        if (const Trace *trace = m_model->activeTrace())
+            editParameter(trace->id);
+    });
     connect(keys.trace, &SoftKey::choicePicked, this, [this](int index) {
         m_model->setActiveTrace(m_model->traces().at(index).id);
         showTrace();
@@ -135,15 +125,17 @@ void TraceController::onEditRequested(int traceId, TraceBar::Field field)
             m_model->setTraceFormat(traceId, TraceFormat(index));
         });
     } else {
-        QStringList names;
-        const QVector<Ports> all = parameters(m_model->network(*trace).ports);
-        for (const Ports &ports : all)
-            names << parameterName(ports.to, ports.from);
-        choose(button, place, names, int(names.indexOf(PanelModel::parameterName(*trace))),
-               [this, traceId, all](int index) {
-                   m_model->setTraceParameter(traceId, all.at(index).to, all.at(index).from);
-               });
+        editParameter(traceId);
     }
+}
+
+void TraceController::editParameter(int traceId)
+{
+    const Trace &trace = *m_model->trace(traceId);
+    auto *matrix = new ParameterMatrix(m_model->network(trace).ports, trace.to, trace.from, m_host);
+    connect(matrix, &ParameterMatrix::picked, m_model,
+            [this, traceId](int to, int from) { m_model->setTraceParameter(traceId, to, from); });
+    matrix->open();
 }
 
 void TraceController::choose(QWidget *anchor, const QRect &place, const QStringList &choices,
@@ -179,6 +171,8 @@ void TraceController::showTrace()
     keys.format->setChoice(active ? int(active->format) : -1);
     keys.visible->setStatus(active && active->visible);
     keys.memory->setItemEnabled(Clear, active && m_model->memory(active->id));
+    keys.parameter->setValue(active ? PanelModel::parameterName(*active) : nothingText());
+    keys.parameter->setEnabled(active && m_model->network(*active).ports > 1);
     for (QWidget *key : {static_cast<QWidget *>(keys.trace), static_cast<QWidget *>(keys.format),
                          static_cast<QWidget *>(keys.memory), static_cast<QWidget *>(keys.visible)})
         key->setEnabled(active);

@@ -113,6 +113,8 @@ Panel--SoftKey QLabel#valueLabel:disabled { color: @dimText; }
 Panel--NumericDialog QLabel#range { color: @dimText; font-size: 12px; padding-right: 6px; }
 Panel--NumericDialog LabelButton QLabel#nameLabel { font-weight: normal; padding: 0px 10px; }
 Panel--NumericDialog QLabel#range[warning="true"] { color: @warning; }
+Panel--ParameterMatrix QScrollArea, Panel--ParameterMatrix QScrollArea > QWidget > QWidget { background: transparent; }
+Panel--ParameterMatrix QPushButton#parameter:checked { border: 2px solid @accent; }
 Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @button; }
 )");
     const std::pair<const char *, QColor> places[] = {

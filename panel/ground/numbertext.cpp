@@ -71,9 +71,13 @@ QString nothingText()
     return QStringLiteral("\u2013");
 }
 
-QString ohmsText(double ohms)
+QString ohmsText(const std::complex<double> &ohms)
 {
-    return QString::number(ohms, 'g', 5) + QStringLiteral(" \u03a9");
+    QString text = QString::number(ohms.real(), 'g', 5);
+    if (ohms.imag() != 0.0)
+        text += (ohms.imag() < 0.0 ? QStringLiteral(" \u2212 j") : QStringLiteral(" + j"))
+            + QString::number(std::abs(ohms.imag()), 'g', 5);
+    return text + QStringLiteral(" \u03a9");
 }
 
 } // namespace Panel

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <array>
+#include <complex>
 
 namespace Panel
 {
@@ -35,7 +36,7 @@ QString numberText(double value, int decimals);
 /// Stands for a value that does not exist or cannot be computed.
 QString nothingText();
 /// "376.73 Ω": a resistance in Ohm with up to five significant digits.
-QString ohmsText(double ohms);
+QString ohmsText(const std::complex<double> &ohms);
 /// The text with its hyphens as minus signs.
 QString withMinusSigns(QString text);
 

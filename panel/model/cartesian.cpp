@@ -4,9 +4,11 @@
 
 #include <panel/ground/numbertext.h>
 
+#include <smithchart/columnextremes.h>
+
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <limits>
 #include <numeric>
 
 namespace Panel
@@ -15,95 +17,169 @@ namespace Panel
 namespace
 {
 
-constexpr double s_degrees = 180.0 / 3.14159265358979323846;
+using Complex = std::complex<double>;
+
+constexpr double s_pi = 3.14159265358979323846;
+constexpr double s_degrees = 180.0 / s_pi;
 /// Columns with more points than this are thinned out.
 constexpr int s_pointsPerColumn = 4;
 
-double power(double real, double imag)
+// Values of a point
+
+double magnitude(const Complex &s, const Complex & /*reference*/)
 {
-    return real * real + imag * imag;
+    return std::abs(s);
 }
 
-/// Orders points by magnitude.
-struct Power {
-    double operator()(double real, double imag) const { return power(real, imag); }
-};
-
-/// Orders points by angle: from -2 to 2, as the angle from -180 to 180 degrees.
-struct DiamondAngle {
-    double operator()(double real, double imag) const
-    {
-        const double share = imag / (std::abs(real) + std::abs(imag));
-        return real >= 0.0 ? share : imag >= 0.0 ? 2.0 - share : -2.0 - share;
-    }
-};
-
-/// The lowest and the highest of some points; both the first one where all are NaN.
-struct Extremes {
-    int lowest;
-    int highest;
-};
-
-/// Finds the extremes of the points \a begin to \a end - 1; \a order says what is low.
-template<typename Order>
-Extremes extremes(const double *real, const double *imag, int begin, int end, Order order)
+/// 20 lg |S|.
+double decibels(const Complex &s, const Complex & /*reference*/)
 {
-    // Of each tile only the values, in lanes of their own that the processor takes side by side;
-    // which points they are of is looked up in two tiles at the end.
-    constexpr int lanes = 4;
-    constexpr int tile = 64;
-    double low = std::numeric_limits<double>::infinity();
-    double high = -low;
-    Extremes tiles{begin, begin};
-    for (int from = begin; from < end; from += tile) {
-        const int to = std::min(from + tile, end);
-        double lows[lanes];
-        double highs[lanes];
-        std::fill_n(lows, lanes, low);
-        std::fill_n(highs, lanes, high);
-        const auto takeIn = [&](int i, int lane) {
-            const double value = order(real[i], imag[i]);
-            lows[lane] = value < lows[lane] ? value : lows[lane];
-            highs[lane] = value > highs[lane] ? value : highs[lane];
-        };
-        int i = from;
-        for (; i + lanes <= to; i += lanes) {
-            for (int lane = 0; lane < lanes; ++lane)
-                takeIn(i + lane, lane);
+    const double power = std::norm(s);
+    return std::isnan(power) ? power : 10.0 * std::log10(std::max(power, 1e-30));
+}
+
+double phase(const Complex &s, const Complex & /*reference*/)
+{
+    return std::arg(s) * s_degrees;
+}
+
+/// (1 + |S|) / (1 - |S|).
+double vswr(const Complex &s, const Complex & /*reference*/)
+{
+    const double size = std::abs(s);
+    return size < 1.0 ? (1.0 + size) / (1.0 - size) : qQNaN();
+}
+
+double realPart(const Complex &s, const Complex & /*reference*/)
+{
+    return s.real();
+}
+
+double imaginaryPart(const Complex &s, const Complex & /*reference*/)
+{
+    return s.imag();
+}
+
+double finite(double value)
+{
+    return std::isfinite(value) ? value : qQNaN();
+}
+
+double resistance(const Complex &s, const Complex &reference)
+{
+    return finite(impedanceOf(s, reference).real());
+}
+
+double reactance(const Complex &s, const Complex &reference)
+{
+    return finite(impedanceOf(s, reference).imag());
+}
+
+/// |X| / R of the impedance.
+double quality(const Complex &s, const Complex &reference)
+{
+    const Complex z = impedanceOf(s, reference);
+    return finite(std::abs(z.imag()) / z.real());
+}
+
+// Values of a point among its neighbours
+
+/*! The group delay -dφ / dω in ns (Oppenheim and Schafer, "Discrete-Time Signal Processing"), as a
+    difference from the point before to the one after, which must turn by less than half a turn. */
+double groupDelay(const TraceData &data, int index)
+{
+    const int before = std::max(0, index - 1);
+    const int after = std::min(data.points() - 1, index + 1);
+    const double step = data.frequencies.at(after) - data.frequencies.at(before);
+    const double turned = std::arg(data.at(after) * std::conj(data.at(before)));
+    return step > 0.0 ? -turned / (2.0 * s_pi * step) * 1e9 : qQNaN();
+}
+
+/// How many whole turns a step adds to the phase: it passes the negative real axis, or it does not.
+int turnsOfStep(const Complex &from, const Complex &to)
+{
+    const double turned = to.imag() * from.real() - to.real() * from.imag();
+    // As atan2() has it, for which -0 lies below the axis.
+    const bool below = std::signbit(from.imag()), nowBelow = std::signbit(to.imag());
+    if (below == nowBelow)
+        return 0;
+    return nowBelow ? (turned > 0.0 ? 1 : 0) : (turned < 0.0 ? -1 : 0);
+}
+
+/// Whole turns from the first point to each one; a point without a value keeps those before it.
+QVector<int> turns(const TraceData &data, int count)
+{
+    QVector<int> result(count);
+    Complex last(qQNaN(), qQNaN());
+    int sum = 0;
+    for (int i = 0; i < count; ++i) {
+        const Complex here = data.at(i);
+        if (!std::isnan(here.real()) && !std::isnan(here.imag())) {
+            if (!std::isnan(last.real()))
+                sum += turnsOfStep(last, here);
+            last = here;
         }
-        for (; i < to; ++i)
-            takeIn(i, 0);
-        const double lowest = *std::min_element(lows, lows + lanes);
-        const double highest = *std::max_element(highs, highs + lanes);
-        if (lowest < low)
-            tiles.lowest = from;
-        if (highest > high)
-            tiles.highest = from;
-        low = lowest;
-        high = highest;
+        result[i] = sum;
     }
-    const auto find = [&](int from, double wanted) {
-        for (int i = from; i < end; ++i) {
-            if (order(real[i], imag[i]) == wanted)
-                return i;
-        }
-        return begin;
+    return result;
+}
+
+/// How the values of a format come about: one row for each, in the order of TraceFormat.
+struct Formula {
+    enum Order {
+        Magnitude, ///< grows with the magnitude
+        Phase,
+        OfItsOwn,
     };
-    return {find(tiles.lowest, low), find(tiles.highest, high)};
+    Order order;
+    double (*ofPoint)(const Complex &s, const Complex &reference);
+    double (*amongNeighbours)(const TraceData &data, int index);
+};
+
+constexpr std::array<Formula, traceFormatCount> s_formulas{{
+    {Formula::Magnitude, magnitude, nullptr},
+    {Formula::Magnitude, decibels, nullptr},
+    {Formula::Phase, phase, nullptr},
+    {Formula::Magnitude, vswr, nullptr},
+    {Formula::Magnitude, magnitude, nullptr},
+    {Formula::OfItsOwn, realPart, nullptr},
+    {Formula::OfItsOwn, imaginaryPart, nullptr},
+    {Formula::OfItsOwn, phase, nullptr}, // and whole turns
+    {Formula::OfItsOwn, nullptr, groupDelay},
+    {Formula::OfItsOwn, resistance, nullptr},
+    {Formula::OfItsOwn, reactance, nullptr},
+    {Formula::OfItsOwn, quality, nullptr},
+}};
+
+const Formula &formula(TraceFormat format)
+{
+    return s_formulas.at(std::size_t(format));
 }
 
-/// The first, lowest, highest and last index of each column.
-template<typename Order>
-QVector<int> outline(const Parameter &parameter, int first, int count, int columns, Order order)
+double valueOfPoint(const TraceData &data, int index, TraceFormat format)
+{
+    const Formula &row = formula(format);
+    return row.amongNeighbours ? row.amongNeighbours(data, index)
+                               : row.ofPoint(data.at(index), data.reference);
+}
+
+/// The first, lowest, highest and last index of each column of values.
+QVector<int> extremesOf(const QVector<double> &values, int first, int count, int columns)
 {
     QVector<int> kept;
     kept.reserve(s_pointsPerColumn * columns);
     for (int column = 0; column < columns; ++column) {
         const int begin = first + int(qint64(count) * column / columns);
         const int end = first + int(qint64(count) * (column + 1) / columns);
-        const auto [lowest, highest] =
-            extremes(parameter.real.constData(), parameter.imag.constData(), begin, end, order);
-        for (const int index : {begin, qMin(lowest, highest), qMax(lowest, highest), end - 1}) {
+        int lowest = begin, highest = begin;
+        for (int i = begin; i < end; ++i) {
+            if (values.at(i) < values.at(lowest) || std::isnan(values.at(lowest)))
+                lowest = i;
+            if (values.at(i) > values.at(highest) || std::isnan(values.at(highest)))
+                highest = i;
+        }
+        for (const int index :
+             {begin, std::min(lowest, highest), std::max(lowest, highest), end - 1}) {
             if (kept.isEmpty() || kept.last() < index)
                 kept.append(index);
         }
@@ -113,16 +189,41 @@ QVector<int> outline(const Parameter &parameter, int first, int count, int colum
 
 } // namespace
 
-double cartesianValue(double real, double imag, TraceFormat format)
+double formatValue(const Complex &s, const Complex &reference, TraceFormat format)
 {
-    if (format == TraceFormat::Phase)
-        return std::atan2(imag, real) * s_degrees;
-    const double square = power(real, imag);
-    if (format == TraceFormat::LogMagnitude)
-        return std::isnan(square) ? square : 10.0 * std::log10(std::max(square, 1e-30));
-    const double magnitude = std::sqrt(square);
-    return magnitude < 1.0 ? (1.0 + magnitude) / (1.0 - magnitude)
-                           : std::numeric_limits<double>::quiet_NaN();
+    const Formula &row = formula(format);
+    return row.ofPoint ? row.ofPoint(s, reference) : qQNaN();
+}
+
+QVector<double> formatValues(const TraceData &data, TraceFormat format)
+{
+    QVector<double> values(data.points());
+    for (int i = 0; i < values.size(); ++i)
+        values[i] = valueOfPoint(data, i, format);
+    if (format == TraceFormat::UnwrappedPhase) {
+        const QVector<int> whole = turns(data, data.points());
+        for (int i = 0; i < values.size(); ++i)
+            values[i] += 360.0 * whole.at(i);
+    }
+    return values;
+}
+
+double formatValueAt(const TraceData &data, double index, TraceFormat format)
+{
+    const Formula &row = formula(format);
+    const int before = std::clamp(int(std::floor(index)), 0, data.points() - 1);
+    if (row.amongNeighbours) {
+        const int after = std::min(before + 1, data.points() - 1);
+        const double share = std::clamp(index - before, 0.0, 1.0);
+        const double value = valueOfPoint(data, before, format);
+        return share == 0.0 ? value : value + share * (valueOfPoint(data, after, format) - value);
+    }
+    const Complex here = data.at(index);
+    const double value = row.ofPoint(here, data.reference);
+    if (format != TraceFormat::UnwrappedPhase)
+        return value;
+    return value
+        + 360.0 * (turns(data, before + 1).constLast() + turnsOfStep(data.at(before), here));
 }
 
 ValueRange valueRange(const QVector<double> &values)
@@ -135,56 +236,58 @@ ValueRange valueRange(const QVector<double> &values)
     return range;
 }
 
-ValueRange valueRange(const Parameter &parameter, TraceFormat format)
+ValueRange valueRange(const TraceData &data, TraceFormat format)
 {
     // The extremes of one column as wide as all points, so that no logarithm is taken of a million.
-    QVector<double> places(parameter.real.size());
-    std::iota(places.begin(), places.end(), 0.0);
-    return valueRange(cartesianLine(places, parameter, format, 1).values);
+    return valueRange(cartesianLine(data, format, 1).values);
 }
 
-double cartesianValueAt(const Parameter &parameter, double index, TraceFormat format)
+CartesianLine cartesianLine(const TraceData &data, TraceFormat format, int columns, double from,
+                            double to)
 {
-    return cartesianValue(valueAt(parameter.real, index), valueAt(parameter.imag, index), format);
-}
-
-CartesianLine cartesianLine(const QVector<double> &frequencies, const Parameter &parameter,
-                            TraceFormat format, int columns, double from, double to)
-{
-    const auto begin = frequencies.begin(), end = frequencies.end();
-    const int size = int(frequencies.size());
+    const auto begin = data.frequencies.begin(), end = data.frequencies.end();
     const int first = qMax(0, int(std::lower_bound(begin, end, from) - begin) - 1);
-    const int count = qMin(size, int(std::upper_bound(begin, end, to) - begin) + 1) - first;
+    const int count =
+        qMin(data.points(), int(std::upper_bound(begin, end, to) - begin) + 1) - first;
     columns = qMax(1, columns);
-    CartesianLine line;
-    const auto append = [&](int index) {
-        line.frequencies.append(frequencies.at(index));
-        line.values.append(
-            cartesianValue(parameter.real.at(index), parameter.imag.at(index), format));
-    };
-    if (count <= s_pointsPerColumn * columns) {
-        line.frequencies.reserve(count);
-        line.values.reserve(count);
-        for (int i = first; i < first + count; ++i)
-            append(i);
-        return line;
-    }
-    const QVector<int> kept = format == TraceFormat::Phase
-        ? outline(parameter, first, count, columns, DiamondAngle())
-        : outline(parameter, first, count, columns, Power());
-    for (const int index : kept)
-        append(index);
-    return line;
-}
+    const Formula &row = formula(format);
 
-double highestValue(const Parameter &parameter, TraceFormat format)
-{
-    // Of the squares, so that no logarithm is taken of a million points.
-    double highest = -1.0;
-    for (int i = 0; i < parameter.real.size(); ++i)
-        highest = std::fmax(highest, power(parameter.real.at(i), parameter.imag.at(i)));
-    return highest < 0.0 ? std::numeric_limits<double>::quiet_NaN()
-                         : cartesianValue(std::sqrt(highest), 0.0, format);
+    // Where each value is needed, all are computed; else those of the points that are kept.
+    const bool dense = count > s_pointsPerColumn * columns;
+    QVector<double> values;
+    if (format == TraceFormat::UnwrappedPhase || (dense && row.order == Formula::OfItsOwn))
+        values = formatValues(data, format);
+    QVector<int> kept;
+    if (!dense) {
+        kept.resize(qMax(0, count));
+        std::iota(kept.begin(), kept.end(), first);
+    } else if (row.order == Formula::OfItsOwn) {
+        kept = extremesOf(values, first, count, columns);
+    } else {
+        kept = SmithRender::columnExtremes(
+            data.parameter.real, data.parameter.imag, first, count, columns,
+            row.order == Formula::Phase ? SmithRender::ColumnValue::Phase
+                                        : SmithRender::ColumnValue::Magnitude);
+    }
+
+    CartesianLine line;
+    line.frequencies.reserve(kept.size());
+    line.values.reserve(kept.size());
+    int before = -1;
+    for (const int index : qAsConst(kept)) {
+        const double value =
+            values.isEmpty() ? valueOfPoint(data, index, format) : values.at(index);
+        if (row.order == Formula::Phase && before >= 0 && index == before + 1
+            && std::abs(value - line.values.constLast()) > 180.0) {
+            line.frequencies.append((data.frequencies.at(index) + data.frequencies.at(before))
+                                    / 2.0);
+            line.values.append(qQNaN());
+        }
+        line.frequencies.append(data.frequencies.at(index));
+        line.values.append(value);
+        before = index;
+    }
+    return line;
 }
 
 namespace
@@ -193,9 +296,7 @@ namespace
 /// The number and the unit of the format, which stands close to an angle.
 QString withUnit(const QString &number, TraceFormat format)
 {
-    const QString unit = formatUnit(format);
-    return unit.isEmpty() || format == TraceFormat::Phase ? number + unit
-                                                          : number + QLatin1Char(' ') + unit;
+    return number + unitSpace(format) + formatUnit(format);
 }
 
 } // namespace

@@ -5,7 +5,7 @@
     read. */
 #pragma once
 
-#include "network.h"
+#include "tracedata.h"
 #include "traceformat.h"
 
 #include <QtNumeric>
@@ -13,7 +13,7 @@
 namespace Panel
 {
 
-/// A line over the frequency in Hz.
+/// A line over the frequency in Hz. A point without a value ends the line before it.
 struct CartesianLine {
     QVector<double> frequencies;
     QVector<double> values;
@@ -26,24 +26,27 @@ struct ValueRange {
 };
 
 ValueRange valueRange(const QVector<double> &values);
-/// The same of all points of a parameter in a format of a Cartesian diagram.
-ValueRange valueRange(const Parameter &parameter, TraceFormat format);
+/// The same of all points of a trace in a format of a Cartesian diagram.
+ValueRange valueRange(const TraceData &data, TraceFormat format);
 
-/*! The value of a parameter in a format of a Cartesian diagram; a magnitude of zero counts as -300
-    dB. NaN where there is none: of a NaN, and of the VSWR of a full reflection or more. */
-double cartesianValue(double real, double imag, TraceFormat format);
+/// The value of a point with no regard to its neighbours, such as the phase within one turn; NaN
+/// where the format needs them.
+double formatValue(const std::complex<double> &s, const std::complex<double> &reference,
+                   TraceFormat format);
+/*! The values of all points of a trace in a format; of the Smith chart, the magnitude. NaN where
+    there is none: of a NaN, of the VSWR of a full reflection or more, and of the resistance of an
+    open circuit. A magnitude of zero counts as -300 dB. */
+QVector<double> formatValues(const TraceData &data, TraceFormat format);
 /// The value at a fractional index into the data, which must not be empty.
-double cartesianValueAt(const Parameter &parameter, double index, TraceFormat format);
+double formatValueAt(const TraceData &data, double index, TraceFormat format);
 
-/*! The line of a parameter for a diagram of so many pixel columns that shows a range of frequencies
-    in Hz: the points within, and the one before and after.
+/*! The line of a trace for a diagram of so many pixel columns that shows a range of frequencies in
+    Hz: the points within, and the one before and after.
     Where there are many more points than columns, each column keeps its first, lowest, highest and
-    last point: the picture is the same, and the logarithm is taken of those alone. */
-CartesianLine cartesianLine(const QVector<double> &frequencies, const Parameter &parameter,
-                            TraceFormat format, int columns, double from = -qInf(),
-                            double to = qInf());
-/// The highest value of a parameter in a format, or NaN when it has none.
-double highestValue(const Parameter &parameter, TraceFormat format);
+    last point: the picture is the same, and the logarithm is taken of those alone. A phase that
+    jumps by more than half a turn from one point to the next is not joined. */
+CartesianLine cartesianLine(const TraceData &data, TraceFormat format, int columns,
+                            double from = -qInf(), double to = qInf());
 
 /// "−1.32 dB", "−123.4°" or "1.25"; a dash for what is no number.
 QString cartesianText(double value, TraceFormat format);

@@ -12,20 +12,13 @@ namespace Panel
 namespace
 {
 
-double value(const Parameter &parameter, int index, TraceFormat format)
-{
-    const double real = parameter.real.at(index), imag = parameter.imag.at(index);
-    return format == TraceFormat::Smith ? std::hypot(real, imag)
-                                        : cartesianValue(real, imag, format);
-}
-
 /// The extreme of the whole; sign is 1 for the highest value and -1 for the lowest.
-int extreme(const Parameter &parameter, TraceFormat format, double sign)
+int extreme(const QVector<double> &values, double sign)
 {
     int found = -1;
     double best = 0.0;
-    for (int i = 0; i < parameter.real.size(); ++i) {
-        const double here = sign * value(parameter, i, format);
+    for (int i = 0; i < values.size(); ++i) {
+        const double here = sign * values.at(i);
         if (!std::isnan(here) && (found < 0 || here > best)) {
             best = here;
             found = i;
@@ -34,16 +27,15 @@ int extreme(const Parameter &parameter, TraceFormat format, double sign)
     return found;
 }
 
-/// The first peak from an index on, in steps of 1 or -1.
-int nextPeak(const Parameter &parameter, TraceFormat format, int from, int step)
+/// The first peak of a needed height from an index on, in steps of 1 or -1.
+int nextPeak(const QVector<double> &values, double needed, int from, int step)
 {
-    const double needed = traits(format).peakExcursion;
-    const int count = int(parameter.real.size());
+    const int count = int(values.size());
     // A rise of the excursion has to come before a peak and a fall after it.
     double low = qInf(), high = -qInf();
     int candidate = -1;
     for (int i = from; i >= 0 && i < count; i += step) {
-        const double here = value(parameter, i, format);
+        const double here = values.at(i);
         if (std::isnan(here))
             continue;
         if (candidate < 0) {
@@ -64,17 +56,19 @@ int nextPeak(const Parameter &parameter, TraceFormat format, int from, int step)
 
 } // namespace
 
-int searchMarker(const Parameter &parameter, TraceFormat format, Search search, double from)
+int searchMarker(const TraceData &data, TraceFormat format, Search search, double from)
 {
+    const QVector<double> values = formatValues(data, format);
+    const double excursion = traits(format).peakExcursion;
     switch (search) {
     case Search::Maximum:
-        return extreme(parameter, format, 1.0);
+        return extreme(values, 1.0);
     case Search::Minimum:
-        return extreme(parameter, format, -1.0);
+        return extreme(values, -1.0);
     case Search::PeakLeft:
-        return nextPeak(parameter, format, int(std::floor(from)), -1);
+        return nextPeak(values, excursion, int(std::floor(from)), -1);
     case Search::PeakRight:
-        return nextPeak(parameter, format, int(std::ceil(from)), 1);
+        return nextPeak(values, excursion, int(std::ceil(from)), 1);
     }
     return -1;
 }

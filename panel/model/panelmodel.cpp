@@ -195,14 +195,14 @@ void PanelModel::fitTrace(int id)
     const Trace *trace = this->trace(id);
     if (!trace || trace->onSmithChart())
         return;
-    const ValueRange range = valueRange(data(*trace), trace->format);
+    const ValueRange range = valueRange(traceData(*trace), trace->format);
     setTraceScale(id, fittingScale(trace->format, range.lowest, range.highest));
 }
 
 void PanelModel::storeMemory(int id)
 {
     const Trace *trace = this->trace(id);
-    if (trace && m_traces.storeMemory(id, {network(*trace).frequencies, data(*trace)}))
+    if (trace && m_traces.storeMemory(id, traceData(*trace)))
         Q_EMIT memoryChanged(id);
 }
 

@@ -46,6 +46,10 @@ public:
     {
         return network(trace).s(trace.to, trace.from);
     }
+    TraceData traceData(const Trace &trace) const
+    {
+        return Panel::traceData(network(trace), trace.to, trace.from);
+    }
     /// What the trace's source is to sweep: the sweep of a simulated device, or the part of a file
     /// on show.
     Stimulus stimulus(const Trace &trace) const;
@@ -105,7 +109,7 @@ public:
     /// "S11".
     static QString parameterName(const Trace &trace);
     /// What was stored of a trace, or null.
-    const Memory *memory(int traceId) const { return m_traces.memory(traceId); }
+    const TraceData *memory(int traceId) const { return m_traces.memory(traceId); }
 
     /// A selected marker of another trace is deselected, or, where markers are coupled, that of the
     /// same number is selected. An unknown id is ignored.

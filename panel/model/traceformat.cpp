@@ -21,10 +21,18 @@ struct Text {
 /// In the order of TraceFormat. The magnitude stands for the Smith chart where it has no value of
 /// its own.
 constexpr std::array<FormatTraits, traceFormatCount> s_formats{{
-    {"", 4, 10, {1.0, 1.0}, 0.05, 1.0, 0.02},
-    {"dB", 2, 10, {10.0, 0.0}, 0.01, 100.0, 3.0},
-    {"\u00b0", 1, 8, {45.0, 180.0}, 0.01, 90.0, 10.0},
-    {"", 2, 10, {1.0, 11.0}, 0.01, 100.0, 0.1},
+    {"", 4, 10, {1.0, 1.0}, 0.005, 1.0, false, 0.02},
+    {"dB", 2, 10, {10.0, 0.0}, 0.01, 100.0, false, 3.0},
+    {"\u00b0", 1, 8, {45.0, 180.0}, 0.01, 90.0, false, 10.0},
+    {"", 2, 10, {1.0, 11.0}, 0.01, 100.0, false, 0.1},
+    {"", 4, 10, {0.1, 1.0}, 1e-6, 100.0, true, 0.02},
+    {"", 4, 10, {0.2, 1.0}, 1e-6, 100.0, true, 0.02},
+    {"", 4, 10, {0.2, 1.0}, 1e-6, 100.0, true, 0.02},
+    {"\u00b0", 1, 8, {90.0, 0.0}, 0.01, 1e6, true, 10.0},
+    {"ns", 4, 10, {1.0, 10.0}, 1e-5, 1e6, true, 0.1},
+    {"\u03a9", 2, 10, {10.0, 100.0}, 1e-4, 200.0, true, 1.0},
+    {"\u03a9", 2, 10, {20.0, 100.0}, 1e-4, 200.0, true, 1.0},
+    {"", 2, 10, {1.0, 10.0}, 1e-4, 100.0, true, 0.1},
 }};
 
 /// The next division of 1, 2 or 5 times a power of ten that is not below a value above 0.
@@ -58,6 +66,10 @@ Scale fittingScale(TraceFormat format, double lowest, double highest)
     const FormatTraits &row = traits(format);
     if (!std::isfinite(lowest) || !std::isfinite(highest))
         return row.defaultScale;
+    // What is beyond the largest scale, such as the resistance of an open end, has no say.
+    const double limit = row.divisions / 2.0 * row.largestDivision;
+    lowest = std::clamp(lowest, -limit, limit);
+    highest = std::clamp(highest, -limit, limit);
     // A division of room above and below; the standing wave ratio stands on its 1.
     const bool standing = format == TraceFormat::Vswr;
     if (standing)
@@ -93,6 +105,22 @@ QString formatName(TraceFormat format)
         return Text::tr("Phase");
     case TraceFormat::Vswr:
         return Text::tr("VSWR");
+    case TraceFormat::LinearMagnitude:
+        return Text::tr("LinM");
+    case TraceFormat::RealPart:
+        return Text::tr("Real");
+    case TraceFormat::ImaginaryPart:
+        return Text::tr("Imag");
+    case TraceFormat::UnwrappedPhase:
+        return Text::tr("Unwrapped");
+    case TraceFormat::GroupDelay:
+        return Text::tr("Delay");
+    case TraceFormat::Resistance:
+        return QStringLiteral("R");
+    case TraceFormat::Reactance:
+        return QStringLiteral("X");
+    case TraceFormat::Quality:
+        return QStringLiteral("Q");
     }
     return {};
 }
@@ -121,11 +149,15 @@ QString formatUnit(TraceFormat format)
     return QString::fromUtf8(traits(format).unit);
 }
 
-QString divisionText(TraceFormat format, double perDivision)
+QString unitSpace(TraceFormat format)
 {
     const QString unit = formatUnit(format);
-    const bool close = unit.isEmpty() || format == TraceFormat::Phase;
-    return QString::number(perDivision, 'g', 4) + (close ? QString() : QStringLiteral(" ")) + unit
+    return unit.isEmpty() || unit == QChar(0x00b0) ? QString() : QStringLiteral(" ");
+}
+
+QString divisionText(TraceFormat format, double perDivision)
+{
+    return QString::number(perDivision, 'g', 4) + unitSpace(format) + formatUnit(format)
         + QLatin1Char('/');
 }
 

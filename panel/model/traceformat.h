@@ -15,8 +15,16 @@ enum class TraceFormat {
     LogMagnitude, ///< in dB over the frequency
     Phase, ///< in degrees over the frequency, from -180 to 180
     Vswr, ///< the voltage standing wave ratio over the frequency
+    LinearMagnitude,
+    RealPart,
+    ImaginaryPart,
+    UnwrappedPhase, ///< in degrees over the frequency, without jumps
+    GroupDelay, ///< in ns
+    Resistance, ///< in ohms
+    Reactance, ///< in ohms
+    Quality, ///< |X| / R
 };
-constexpr int traceFormatCount = 4;
+constexpr int traceFormatCount = 12;
 
 /// What a marker reads of a point on the Smith chart.
 enum class ReadoutFormat {
@@ -49,6 +57,7 @@ struct FormatTraits {
     Scale defaultScale;
     double smallestDivision; ///< that can be set
     double largestDivision;
+    bool beginsFitted; ///< to its data, because no scale suits all of them
     double peakExcursion; ///< that a peak rises above the points around it, more than noise does
 };
 
@@ -68,6 +77,8 @@ QString formatName(TraceFormat format);
 QString formatName(ReadoutFormat format);
 /// The unit of a Cartesian diagram's values.
 QString formatUnit(TraceFormat format);
+/// What stands between a number and that unit: nothing before a degree sign, or a space.
+QString unitSpace(TraceFormat format);
 /// "10 dB/": a division as the list of traces has it.
 QString divisionText(TraceFormat format, double perDivision);
 /// "1.00 U/": the division of a Smith chart at a magnification.

@@ -41,7 +41,7 @@ const Trace *Traces::active(const QVector<int> &among) const
     return among.isEmpty() ? nullptr : find(among.first());
 }
 
-const Memory *Traces::memory(int id) const
+const TraceData *Traces::memory(int id) const
 {
     const auto found = m_memories.constFind(id);
     return found == m_memories.constEnd() ? nullptr : &*found;
@@ -80,13 +80,16 @@ void Traces::rebuild(const Networks &networks)
 /// can be compared.
 Scale Traces::startScale(int network, TraceFormat format, const Networks &networks) const
 {
-    double highest = qQNaN();
+    ValueRange range;
     for (const Trace &trace : m_all) {
-        if (trace.network == network && trace.format == format)
-            highest = std::fmax(
-                highest, highestValue(networks.shown(network).s(trace.to, trace.from), format));
+        if (trace.network != network || trace.format != format)
+            continue;
+        const ValueRange own =
+            valueRange(traceData(networks.shown(network), trace.to, trace.from), format);
+        range = {std::fmin(range.lowest, own.lowest), std::fmax(range.highest, own.highest)};
     }
-    return defaultScale(format, highest);
+    return traits(format).beginsFitted ? fittingScale(format, range.lowest, range.highest)
+                                       : defaultScale(format, range.highest);
 }
 
 bool Traces::setActive(int id)
@@ -140,7 +143,7 @@ bool Traces::setScale(int id, const Scale &scale)
     return true;
 }
 
-bool Traces::storeMemory(int id, const Memory &memory)
+bool Traces::storeMemory(int id, const TraceData &memory)
 {
     if (!find(id))
         return false;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "networks.h"
+#include "tracedata.h"
 #include "traceformat.h"
 
 #include <QHash>
@@ -23,12 +24,6 @@ struct Trace {
     bool onSmithChart() const { return format == TraceFormat::Smith; }
 };
 
-/// A trace's data as they were stored to compare later ones with.
-struct Memory {
-    QVector<double> frequencies;
-    Parameter parameter;
-};
-
 /// The traces made of the networks, which of them is active, and what was stored of each.
 class Traces
 {
@@ -40,8 +35,8 @@ public:
     const Trace *active() const { return find(m_recent.value(0)); }
     /// The one of these traces that is active or was last, or null when there is none.
     const Trace *active(const QVector<int> &among) const;
-    /// What was stored of a trace, or null.
-    const Memory *memory(int id) const;
+    /// A trace's data as they were stored to compare later ones with, or null.
+    const TraceData *memory(int id) const;
 
     /// Makes new traces, of which the first is active: the reflections of up to four ports on the
     /// Smith chart, then what they get from port 1 in dB, of a two-port also the way back; of a
@@ -58,7 +53,7 @@ public:
     bool setParameter(int id, int to, int from, const Networks &networks);
     /// False for a scale that is not finite or not above zero a division.
     bool setScale(int id, const Scale &scale);
-    bool storeMemory(int id, const Memory &memory);
+    bool storeMemory(int id, const TraceData &memory);
     bool clearMemory(int id) { return m_memories.remove(id) > 0; }
     ///@}
 
@@ -68,7 +63,7 @@ private:
 
     QVector<Trace> m_all;
     QVector<int> m_recent; ///< ids, the active one in front and the one before behind it
-    QHash<int, Memory> m_memories; ///< by trace
+    QHash<int, TraceData> m_memories; ///< by trace
 };
 
 } // namespace Panel

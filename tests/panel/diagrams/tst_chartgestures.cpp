@@ -292,7 +292,7 @@ private Q_SLOTS:
                 texts << label->text();
             const Trace &trace = *desk.model.trace(3);
             const QString value = cartesianText(
-                cartesianValueAt(desk.model.data(trace), 700.0, trace.format), trace.format);
+                formatValueAt(desk.model.traceData(trace), 700.0, trace.format), trace.format);
             QVERIFY2(texts.contains(value), qPrintable(texts.join(" | "_s)));
         }
     }

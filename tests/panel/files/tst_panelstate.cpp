@@ -121,7 +121,7 @@ private Q_SLOTS:
                                             {"\"layout\": 3", "\"layout\": -1"},
                                             {"\"density\": 0", "\"density\": 0.5"},
                                             {"\"language\": \"de\"", "\"language\": \"tlh\""},
-                                            {"\"format\": 2", "\"format\": 9"},
+                                            {"\"format\": 2", "\"format\": 99"},
                                             {"\"scale\": 30", "\"scale\": null"},
                                             {"\"hertz\": ", "\"hertz\": \"no\", \"was\": "},
                                             {"\"number\": 2", "\"number\": 99"},

@@ -169,7 +169,7 @@ private Q_SLOTS:
         Network one = network(1);
         one.parameters = {{{gamma.x()}, {gamma.y()}}};
         const auto read = [&](double index) {
-            return readOnSmithChart({&one, &one.parameters.first(), index}, ReadoutFormat(format));
+            return readOnSmithChart({traceData(one, 1, 1), index}, ReadoutFormat(format));
         };
         QCOMPARE(read(0.0).frequency, "1.000 GHz"_s);
         QTEST(read(0.0).values.join(QLatin1Char('|')), "values");
@@ -183,9 +183,7 @@ private Q_SLOTS:
     {
         Network one = network(1, {1e9, 1.5e9});
         one.parameters = {{{0.0, 0.2}, {0.0, 0.4}}};
-        const auto at = [&one](double index) {
-            return MarkedPoint{&one, &one.parameters.constFirst(), index};
-        };
+        const auto at = [&one](double index) { return MarkedPoint{traceData(one, 1, 1), index}; };
         const MarkerReading reading = readOnSmithChart(at(0.0), ReadoutFormat::Impedance, at(1.0));
         QCOMPARE(reading.frequency, "\u2212500.000 MHz"_s);
         QCOMPARE(reading.values, (QStringList{"0.000 \u03a9"_s, "\u2212j50.00 \u03a9"_s}));
@@ -197,9 +195,10 @@ private Q_SLOTS:
 
     void searches()
     {
-        Parameter values;
-        values.real = {0.1, 0.5, 0.1, 0.11, 0.1, qQNaN(), 0.9, 0.9, 0.1};
-        values.imag.resize(values.real.size());
+        TraceData values;
+        values.parameter.real = {0.1, 0.5, 0.1, 0.11, 0.1, qQNaN(), 0.9, 0.9, 0.1};
+        values.parameter.imag.resize(9);
+        values.frequencies.resize(9);
         const auto find = [&](Search search, double from) {
             return searchMarker(values, TraceFormat::Smith, search, from);
         };

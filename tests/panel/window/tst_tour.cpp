@@ -53,7 +53,10 @@ private Q_SLOTS:
         QCOMPARE(desk.model.trace(1)->scale.perDivision, 5.0);
         QCOMPARE(desk.cartesian()->plot()->yAxis->range().size(), 50.0);
         desk.tapField(1, TraceBar::Parameter);
-        desk.pickFromList(2);
+        const auto keys = desk.window.findChildren<QPushButton *>("parameter"_s);
+        QCOMPARE(keys.size(), 4);
+        QVERIFY(keys.at(0)->isChecked() && keys.at(0)->hasFocus());
+        desk.click(keys.at(2));
         QCOMPARE(PanelModel::parameterName(*desk.model.trace(1)), "S21"_s);
         // Another trace first becomes active.
         desk.tapField(3, TraceBar::Parameter);
@@ -75,8 +78,8 @@ private Q_SLOTS:
         QCOMPARE(desk.model.activeTrace()->id, 3);
         desk.pick(desk.keys().search, 0);
         const auto found = [&desk](Search search) -> double {
-            return searchMarker(desk.model.data(*desk.model.trace(3)), TraceFormat::LogMagnitude,
-                                search, 0.0);
+            return searchMarker(desk.model.traceData(*desk.model.trace(3)),
+                                TraceFormat::LogMagnitude, search, 0.0);
         };
         const double peak = desk.index(3, 1);
         QCOMPARE(peak, found(Search::Maximum));
