@@ -16,6 +16,8 @@ namespace
 
 constexpr int sizePx = 800;
 
+} // namespace
+
 void layOut(QCustomPlot &plot)
 {
     plot.axisRect()->setAutoMargins(QCP::msNone);
@@ -31,7 +33,18 @@ QVector<double> indices(int count)
     return values;
 }
 
-} // namespace
+Trace turned(const Trace &trace, int quarters)
+{
+    Trace result = trace;
+    for (; quarters > 0; --quarters) {
+        for (int i = 0; i < result.real.size(); ++i) {
+            const double x = result.real.at(i);
+            result.real[i] = -result.imag.at(i);
+            result.imag[i] = x;
+        }
+    }
+    return result;
+}
 
 void zoomAndReplot(benchmark::State &state, const Trace &trace, GridKind grid)
 {
@@ -42,15 +55,9 @@ void zoomAndReplot(benchmark::State &state, const Trace &trace, GridKind grid)
     layOut(plot);
     for (int id = 1; id <= 4; ++id) {
         // Four traces, not one shared: each turned by a quarter.
-        Trace turned = trace;
-        for (int i = 0; i < trace.real.size(); ++i) {
-            const double x = trace.real.at(i);
-            const double y = trace.imag.at(i);
-            turned.real[i] = id == 1 ? x : id == 2 ? -y : id == 3 ? -x : y;
-            turned.imag[i] = id == 1 ? y : id == 2 ? x : id == 3 ? -y : -x;
-        }
+        const Trace own = turned(trace, id - 1);
         chart.addCurve(id, QPen(Qt::GlobalColor(Qt::red + id)));
-        chart.setCurveData(id, frequencies, turned.real, turned.imag);
+        chart.setCurveData(id, frequencies, own.real, own.imag);
     }
     plot.replot();
 

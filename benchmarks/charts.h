@@ -4,6 +4,8 @@
 
 #include "traces.h"
 
+#include <plot/qcp.h>
+
 #include <benchmark/benchmark.h>
 
 /// Whole charts, replot included, on an axis rectangle of 800 x 800 pixels without a screen.
@@ -15,6 +17,15 @@ enum class GridKind {
     Standard, ///< of the preset
     FollowsView,
 };
+
+/// Makes a plot one axis rectangle of 800 x 800 pixels.
+void layOut(QCustomPlot &plot);
+
+/// 0, 1, 2 and so on.
+QVector<double> indices(int count);
+
+/// A trace turned by so many quarters.
+Trace turned(const Trace &trace, int quarters);
 
 /// Magnifies four traces like \a trace by a step and back, and draws after each.
 void zoomAndReplot(benchmark::State &state, const Trace &trace, GridKind grid = GridKind::Standard);

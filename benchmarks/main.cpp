@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "charts.h"
+#include "densetraces.h"
 #include "files.h"
 #include "panel.h"
 #include "peers.h"
@@ -16,7 +17,9 @@
 #include <malloc.h>
 
 #include <cstdio>
+#include <functional>
 #include <memory>
+#include <optional>
 
 using namespace Bench;
 using SmithRender::IndexedTrace;
@@ -26,6 +29,17 @@ namespace
 {
 
 using TracePointer = std::shared_ptr<const Trace>;
+
+/// A trace that is computed when first asked for.
+std::function<const Trace &()> later(const std::function<Trace()> &make)
+{
+    const auto made = std::make_shared<std::optional<Trace>>();
+    return [made, make]() -> const Trace & {
+        if (!made->has_value())
+            *made = make();
+        return **made;
+    };
+}
 
 template<typename Work>
 void add(const std::string &name, const Work &work)
@@ -250,6 +264,86 @@ void addAll(RatioTable &table)
                   {"QCPCurve::setData and replot"}});
 }
 
+/// A trace on the chart against a plain curve: new data, steps of the view, and four of them.
+void addDense(RatioTable &table, const std::string &data, int points, double target,
+              const std::function<Trace()> &make)
+{
+    const auto trace = later(make);
+    const std::string name = data + " of " + std::to_string(points);
+    add("new data, " + name,
+        [trace](benchmark::State &state) { newDataToPicture(state, trace(), Drawn::ByChart); });
+    add("plain curve, " + name, [trace](benchmark::State &state) {
+        newDataToPicture(state, trace(), Drawn::AsPlainCurve);
+    });
+    add("view step, " + name, [trace](benchmark::State &state) { stepToPicture(state, trace()); });
+    table.addRow({data + ", to a plain curve",
+                  points,
+                  Row::ShareOfRest,
+                  target,
+                  "new data, " + name,
+                  {"plain curve, " + name},
+                  "grid",
+                  "grid"});
+    const bool isHalf = data == "noise 2 %" && points == 1000000;
+    table.addRow({data + ", zoom or pan, to new data",
+                  points,
+                  Row::ShareOfRest,
+                  isHalf ? 0.5 : 1.0,
+                  "view step, " + name,
+                  {"new data, " + name},
+                  "view step, grid",
+                  "grid"});
+}
+
+void addDenseTraces(RatioTable &table, unsigned seed)
+{
+    constexpr int million = 1000000;
+    constexpr int frameMs = 16;
+
+    add("grid", [](benchmark::State &state) { newDataToPicture(state, {}, Drawn::ByChart); });
+    add("view step, grid", [](benchmark::State &state) { stepToPicture(state, {}); });
+    for (const auto &[points, target] : {std::pair(1601, 1.0), std::pair(million, 0.05)})
+        addDense(table, "clean", points, target, [points = points] { return spiral(points, 3.0); });
+
+    const struct {
+        double percent;
+        int points;
+        double target;
+    } noisy[] = {{0.1, 20001, 1.0},   {0.1, 200001, 0.8},  {0.1, million, 0.8},  {0.5, 1601, 1.3},
+                 {0.5, 20001, 1.0},   {0.5, 200001, 0.75}, {0.5, million, 0.75}, {2.0, 1601, 1.3},
+                 {2.0, 20001, 0.8},   {2.0, 200001, 0.6},  {2.0, million, 0.6},  {10.0, 20001, 0.6},
+                 {10.0, million, 0.4}};
+    const auto noise = [seed](double percent, int points) {
+        return [=] { return noisySweep(points, percent / 100.0, seed); };
+    };
+    const auto nameOf = [](double percent) {
+        char name[32];
+        std::snprintf(name, sizeof name, "noise %g %%", percent);
+        return std::string(name);
+    };
+    for (const auto &[percent, points, target] : noisy)
+        addDense(table, nameOf(percent), points, target, noise(percent, points));
+    addDense(table, "long line", million, 0.2, [] { return spiral(million, 1700.0); });
+    addDense(table, "undersampled spiral", 100000, 0.6, [] { return spiral(100000, 61803.4); });
+    addDense(table, "random walk", million, 0.35, [seed] { return randomWalk(million, seed); });
+
+    for (const double percent : {0.0, 0.1, 0.5, 2.0, 10.0}) {
+        constexpr int points = 100000;
+        const std::string data = percent == 0.0 ? "clean" : nameOf(percent);
+        const auto trace = later(noise(percent, points));
+        add("replot of four, " + data,
+            [trace](benchmark::State &state) { replotFour(state, trace(), Drawn::ByChart); });
+        add("replot of four plain, " + data,
+            [trace](benchmark::State &state) { replotFour(state, trace(), Drawn::AsPlainCurve); });
+        table.addRow({data + ", replot of 4 traces",
+                      points,
+                      Row::Frame,
+                      frameMs,
+                      "replot of four, " + data,
+                      {"replot of four plain, " + data}});
+    }
+}
+
 void addPanel(RatioTable &table)
 {
     constexpr int sweep = 1601;
@@ -332,11 +426,15 @@ int main(int argc, char **argv)
     const QCommandLineOption json(QStringLiteral("json"),
                                   QStringLiteral("Writes the table as JSON too."),
                                   QStringLiteral("file"));
-    parser.addOption(json);
+    const QCommandLineOption seed(QStringLiteral("seed"),
+                                  QStringLiteral("Of the noise of dense traces (default: 1)."),
+                                  QStringLiteral("number"), QStringLiteral("1"));
+    parser.addOptions({json, seed});
     parser.process(app);
 
     RatioTable table;
     addAll(table);
+    addDenseTraces(table, parser.value(seed).toUInt());
     addPanel(table);
     addFiles(table);
     benchmark::RunSpecifiedBenchmarks(&table);

@@ -49,7 +49,11 @@ std::string target(const RatioTable::Row &row)
         std::snprintf(text, sizeof text, ">= %g x", row.target);
         break;
     case RatioTable::Row::ShareOfTime:
+    case RatioTable::Row::ShareOfRest:
         std::snprintf(text, sizeof text, "<= %g x", row.target);
+        break;
+    case RatioTable::Row::Frame:
+        std::snprintf(text, sizeof text, "< %g ms", row.target);
         break;
     case RatioTable::Row::BytesAPoint:
         std::snprintf(text, sizeof text, "<= %g B/point", row.target);
@@ -115,6 +119,20 @@ std::vector<RatioTable::Outcome> RatioTable::outcomes() const
             outcomes.push_back({&row, share, share <= row.target});
             break;
         }
+        case Row::ShareOfRest: {
+            const Measured *const base = find(row.base);
+            const Measured *const otherBase = find(row.otherBase);
+            if (!base || !otherBase)
+                break;
+            const double share =
+                (ours->milliseconds - base->milliseconds) / (fastest - otherBase->milliseconds);
+            outcomes.push_back({&row, share, share <= row.target});
+            break;
+        }
+        case Row::Frame:
+            outcomes.push_back({&row, ours->milliseconds,
+                                ours->milliseconds < row.target || fastest >= row.target});
+            break;
         case Row::BytesAPoint:
         case Row::Mebibytes: {
             const bool ofPoint = row.kind == Row::BytesAPoint;
@@ -136,14 +154,15 @@ void RatioTable::print() const
         const Row &row = *outcome.row;
         char text[64];
         std::snprintf(text, sizeof text, "%.4g |", find(row.ours)->milliseconds);
-        const bool timed = row.kind == Row::TimesFaster || row.kind == Row::ShareOfTime;
+        const bool timed = row.kind != Row::BytesAPoint && row.kind != Row::Mebibytes;
         std::string times = timed ? std::string(text) : std::string();
         for (const std::string &other : row.others) {
             std::snprintf(text, sizeof text, " %.4g", find(other)->milliseconds);
             times += text;
         }
         std::snprintf(text, sizeof text, "%.4g %s", outcome.value,
-                      timed                              ? "x"
+                      row.kind == Row::Frame             ? "ms"
+                          : timed                        ? "x"
                           : row.kind == Row::BytesAPoint ? "B/point"
                                                          : "MiB");
         const std::string points = row.points ? std::to_string(row.points) : std::string();

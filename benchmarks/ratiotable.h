@@ -24,6 +24,8 @@ public:
         enum Kind {
             TimesFaster, ///< the fastest of the others over ours must be at least \c target
             ShareOfTime, ///< ours over the fastest of the others must be at most \c target
+            ShareOfRest, ///< the same, less what \c base and \c otherBase take
+            Frame, ///< ours must be below \c target milliseconds wherever the fastest other is
             BytesAPoint, ///< the counter "bytes_a_point" of ours must be at most \c target
             Mebibytes, ///< the same with the counter "mebibytes"
         };
@@ -33,6 +35,8 @@ public:
         double target;
         std::string ours; ///< names of benchmarks
         std::vector<std::string> others;
+        std::string base = {}; ///< part of ours
+        std::string otherBase = {}; ///< part of the others
     };
 
     void addRow(const Row &row) { m_rows.push_back(row); }

@@ -18,9 +18,9 @@ constexpr double pixel = 2.0 * halfRange / sizePx;
 
 } // namespace
 
-Trace spiral(int count, double turns, double noisePx)
+Trace spiral(int count, double turns, double noisePx, unsigned seed)
 {
-    std::mt19937 random(1);
+    std::mt19937 random(seed);
     std::normal_distribution<double> noise(0.0, 1.0);
     Trace trace;
     for (int i = 0; i < count; ++i) {
@@ -28,6 +28,30 @@ Trace spiral(int count, double turns, double noisePx)
         const double angle = 2.0 * pi * turns * i / count;
         trace.real.append(radius * std::cos(angle) + noisePx * pixel * noise(random));
         trace.imag.append(radius * std::sin(angle) + noisePx * pixel * noise(random));
+    }
+    return trace;
+}
+
+Trace noisySweep(int count, double noise, unsigned seed)
+{
+    return spiral(count, 3.0, noise / pixel, seed);
+}
+
+Trace randomWalk(int count, unsigned seed)
+{
+    std::mt19937 random(seed);
+    std::normal_distribution<double> step(0.0, 0.002);
+    Trace trace;
+    double x = 0.0;
+    double y = 0.0;
+    for (int i = 0; i < count; ++i) {
+        const double dx = step(random);
+        const double dy = step(random);
+        const bool leaves = std::hypot(x + dx, y + dy) > 1.0;
+        x += leaves ? -dx : dx;
+        y += leaves ? -dy : dy;
+        trace.real.append(x);
+        trace.imag.append(y);
     }
     return trace;
 }

@@ -17,7 +17,13 @@ struct Trace {
 
 /// A spiral from the rim inwards, with normally distributed noise of \a noisePx pixels in both
 /// directions, as seen in fullView().
-Trace spiral(int count, double turns, double noisePx = 0.0);
+Trace spiral(int count, double turns, double noisePx = 0.0, unsigned seed = 1);
+
+/// The same of three turns with noise whose standard deviation is a share of the chart's radius.
+Trace noisySweep(int count, double noise, unsigned seed);
+
+/// Steps of some 0.2 % of the chart's radius in all directions, which turn back at its rim.
+Trace randomWalk(int count, unsigned seed);
 
 /// The figure of two sines of \a xPeriods and \a yPeriods periods.
 Trace lissajous(int count, double xPeriods, double yPeriods);
