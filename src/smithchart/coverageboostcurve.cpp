@@ -3,9 +3,15 @@
 #include "coverageboostcurve_p.h"
 
 #include <controls/thememanager.h>
+#include <smithrender/strokemask_p.h>
+
+#include <QPaintEngine>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <limits>
+#include <vector>
 
 namespace
 {
@@ -32,6 +38,35 @@ QVector<QPointF> withoutDetours(const QVector<QPointF> &line, const QRectF &area
     return result;
 }
 
+/// Where coordinates of an axis lie on the paint device.
+struct DeviceScale {
+    double origin;
+    double perUnit;
+
+    double at(double coordinate) const { return origin + perUnit * coordinate; }
+};
+
+/// Paints a colour where a mask is not clear, and empties the mask.
+void paint(SmithRender::StrokeMask &mask, const QPoint &corner, const QColor &color,
+           QPainter *painter)
+{
+    std::array<QRgb, 256> pixels;
+    for (size_t clear = 0; clear < pixels.size(); ++clear)
+        pixels[clear] = qPremultiply(
+            qRgba(color.red(), color.green(), color.blue(), 255 - static_cast<int>(clear)));
+    QImage image;
+    mask.take([&](int x, int y, int width, int height, const std::uint8_t *clear, int stride) {
+        if (image.width() < width || image.height() < height)
+            image = QImage(width, height, QImage::Format_ARGB32_Premultiplied);
+        for (int row = 0; row < height; ++row) {
+            auto *const line = reinterpret_cast<QRgb *>(image.scanLine(row));
+            for (int i = 0; i < width; ++i)
+                line[i] = pixels[clear[std::ptrdiff_t(row) * stride + i]];
+        }
+        painter->drawImage(corner + QPoint(x, y), image, QRect(0, 0, width, height));
+    });
+}
+
 } // namespace
 
 CoverageBoostCurve::CoverageBoostCurve(QCPAxis *keyAxis, QCPAxis *valueAxis)
@@ -39,12 +74,111 @@ CoverageBoostCurve::CoverageBoostCurve(QCPAxis *keyAxis, QCPAxis *valueAxis)
 {
 }
 
+void CoverageBoostCurve::draw(QCPPainter *painter)
+{
+    if (!isThinLine(painter) || !drawByMask(painter))
+        QCPCurve::draw(painter);
+}
+
+/// In logical pixels; 0: both strokes at the same place.
+double CoverageBoostCurve::secondStrokeOffset(const QCPPainter *painter) const
+{
+    if (Controls::ThemeManager::instance()->currentTheme() != Controls::ThemeManager::Light
+        || !painter->device())
+        return 0.0;
+    return 0.25 / std::max(painter->device()->devicePixelRatioF(), 1.0);
+}
+
+/// Whether the curve is nothing but a solid line, a pixel of a raster image wide.
+bool CoverageBoostCurve::isThinLine(const QCPPainter *painter) const
+{
+    const bool isRaster =
+        painter->paintEngine() && painter->paintEngine()->type() == QPaintEngine::Raster;
+    const bool isPlainPainter = painter->antialiasing() && painter->opacity() == 1.0
+        && painter->compositionMode() == QPainter::CompositionMode_SourceOver
+        && !painter->modes().testFlag(QCPPainter::pmVectorized)
+        && !painter->modes().testFlag(QCPPainter::pmNonCosmetic);
+    const bool isPlainPen = mPen.isSolid() && mPen.style() == Qt::SolidLine && mPen.isCosmetic()
+        && mPen.widthF() <= 1.0 && mPen.capStyle() != Qt::FlatCap;
+    return isRaster && isPlainPainter && isPlainPen && selection().isEmpty() && mLineStyle == lsLine
+        && mScatterStyle.isNone() && mBrush.style() == Qt::NoBrush;
+}
+
+bool CoverageBoostCurve::drawByMask(QCPPainter *painter) const
+{
+    const QCPAxis *const keys = keyAxis();
+    const QCPAxis *const values = valueAxis();
+    const QTransform toDevice = painter->deviceTransform();
+    if (!keys || !values || keys->orientation() != Qt::Horizontal
+        || values->orientation() != Qt::Vertical || keys->scaleType() != QCPAxis::stLinear
+        || values->scaleType() != QCPAxis::stLinear || toDevice.type() > QTransform::TxScale)
+        return false;
+    // QCPCurve cuts lines a pixel outside: here to the last bit, as the cut ends are capped.
+    const auto outside = [](const QCPAxis *axis, double end, double outwards) {
+        return axis->coordToPixel(axis->pixelToCoord(axis->coordToPixel(end) + outwards));
+    };
+    const QPointF topLeft = toDevice.map(QPointF(outside(keys, keys->range().lower, -1.0),
+                                                 outside(values, values->range().upper, -1.0)));
+    const QPointF bottomRight = toDevice.map(QPointF(outside(keys, keys->range().upper, 1.0),
+                                                     outside(values, values->range().lower, 1.0)));
+    const QRect area = QRectF(topLeft, bottomRight).toAlignedRect();
+    if (area.isEmpty() || area.width() > SmithRender::StrokeMask::largest
+        || area.height() > SmithRender::StrokeMask::largest)
+        return false; // or the axes are reversed
+    const auto inMask = [&area](const QPointF &first, const QPointF &last) {
+        return SmithRender::StrokeMask::Bounds{first.x() - area.left(), first.y() - area.top(),
+                                               last.x() - area.left(), last.y() - area.top()};
+    };
+
+    const auto scaleOf = [](const QCPAxis *axis, double pixelScale, double shift) {
+        const QCPRange range = axis->range();
+        const double lower = axis->coordToPixel(range.lower);
+        const double perUnit = (axis->coordToPixel(range.upper) - lower) / range.size();
+        return DeviceScale{(lower - perUnit * range.lower) * pixelScale + shift,
+                           perUnit * pixelScale};
+    };
+    const DeviceScale x = scaleOf(keys, toDevice.m11(), toDevice.dx() - area.left());
+    const DeviceScale y = scaleOf(values, toDevice.m22(), toDevice.dy() - area.top());
+    const double offset = secondStrokeOffset(painter) * toDevice.m11();
+
+    static thread_local SmithRender::StrokeMask mask; // as large as the chart, and empty again
+    const QRectF seen = toDevice.mapRect(QRectF(clipRect()));
+    mask.reset(area.width(), area.height(), inMask(topLeft, bottomRight),
+               inMask(seen.topLeft(), seen.bottomRight()));
+    mask.setPen(mPen.color().alphaF(), offset > 0.0 ? 1 : 2);
+    std::vector<double> lineX;
+    std::vector<double> lineY;
+    const auto finishLine = [&] {
+        mask.addLine(lineX.data(), lineY.data(), static_cast<int>(lineX.size()));
+        if (offset > 0.0)
+            mask.addLine(lineX.data(), lineY.data(), static_cast<int>(lineX.size()), offset);
+        lineX.clear();
+        lineY.clear();
+    };
+    const auto end = mDataContainer->constEnd();
+    for (auto point = mDataContainer->constBegin(); point != end; ++point) {
+        const double px = x.at(point->key);
+        const double py = y.at(point->value);
+        if (std::isfinite(px) && std::isfinite(py)) {
+            lineX.push_back(px);
+            lineY.push_back(py);
+        } else {
+            finishLine();
+        }
+    }
+    finishLine();
+
+    painter->save();
+    // Pixels of the mask are those of the device.
+    painter->setTransform(toDevice.inverted() * painter->transform());
+    paint(mask, area.topLeft(), mPen.color(), painter);
+    painter->restore();
+    return true;
+}
+
 void CoverageBoostCurve::drawCurveLine(QCPPainter *painter, const QVector<QPointF> &lines) const
 {
-    double offset = 0.0;
-    if (Controls::ThemeManager::instance()->currentTheme() == Controls::ThemeManager::Light
-        && painter->device())
-        offset = 0.25 / std::max(painter->device()->devicePixelRatioF(), 1.0);
+    const double offset = secondStrokeOffset(painter);
 
     const QCPAxisRect *const rect = keyAxis() ? keyAxis()->axisRect() : nullptr;
     const QVector<QPointF> visible = rect ? withoutDetours(lines, QRectF(rect->rect())) : lines;

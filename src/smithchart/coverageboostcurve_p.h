@@ -8,7 +8,11 @@
 
     A thin anti-aliased line spreads over two pixel rows and looks faint; the second stroke gives it
     full coverage. On a light background that is not enough, so there the second one is shifted by a
-    quarter of a device pixel. */
+    quarter of a device pixel.
+
+    On a raster image, both strokes of all segments are gathered in a mask, which then is painted
+    once: noisy traces draw over the same pixels many times. Elsewhere, and with pens that are not
+    plain thin lines, QCPCurve draws. */
 class CoverageBoostCurve : public QCPCurve
 {
     Q_OBJECT
@@ -17,5 +21,11 @@ public:
     CoverageBoostCurve(QCPAxis *keyAxis, QCPAxis *valueAxis);
 
 protected:
+    void draw(QCPPainter *painter) override;
     void drawCurveLine(QCPPainter *painter, const QVector<QPointF> &lines) const override;
+
+private:
+    double secondStrokeOffset(const QCPPainter *painter) const;
+    bool isThinLine(const QCPPainter *painter) const;
+    bool drawByMask(QCPPainter *painter) const;
 };

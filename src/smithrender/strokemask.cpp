@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "strokemask_p.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace SmithRender
+{
+
+namespace
+{
+
+/// Cut ends may miss the edge by so much.
+constexpr double rounding = 1e-6;
+
+/// Ends of segments lie on steps this fine, as painters place them: which of two flat or steep
+/// segments is drawn how shows.
+constexpr int stepsPerPixel = 64;
+constexpr int half = stepsPerPixel / 2;
+
+/// Positions across a line are kept in 65536ths of a pixel.
+constexpr int fractionBits = 16;
+constexpr double one = 1 << fractionBits;
+
+bool isWithin(const StrokeMask::Bounds &bounds, double x, double y)
+{
+    return x >= bounds.left && x <= bounds.right && y >= bounds.top && y <= bounds.bottom;
+}
+
+/// A tile is full, and no stroke changes it any more, where no more shows through than this.
+constexpr std::uint8_t fullEnough = 4;
+
+inline void multiply(std::uint8_t &clear, unsigned passing)
+{
+    clear = static_cast<std::uint8_t>((clear * passing + 128) >> 8);
+}
+
+} // namespace
+
+void StrokeMask::reset(int width, int height, const Bounds &bounds, const Bounds &seen)
+{
+    m_bounds = bounds;
+    m_seen = seen;
+    if (width == m_width && height == m_height)
+        return; // take() has left it empty
+    m_width = width;
+    m_height = height;
+    m_tilesAcross = (width + 2 * border + tile - 1) >> tileShift;
+    m_tilesDown = (height + 2 * border + tile - 1) >> tileShift;
+    m_stride = m_tilesAcross * tile;
+    m_clear.assign(static_cast<size_t>(m_stride) * static_cast<size_t>(m_tilesDown * tile), 255);
+    m_tiles.assign(static_cast<size_t>(m_tilesAcross) * static_cast<size_t>(m_tilesDown), Tile());
+}
+
+void StrokeMask::setPen(double opacity, int strokes)
+{
+    for (size_t i = 0; i < m_passing.size(); ++i) {
+        const double one = 1.0 - opacity * static_cast<double>(i) / 255.0;
+        m_passing[i] = static_cast<std::uint16_t>(std::lround(256.0 * std::pow(one, strokes)));
+    }
+}
+
+/// Notes that a stroke comes to a tile and its neighbours, which may be itself again; false if all
+/// of them are full.
+inline bool StrokeMask::touch(Tile *corner, std::ptrdiff_t along, std::ptrdiff_t across)
+{
+    Tile *const tiles[] = {corner, corner + along, corner + across, corner + along + across};
+    if (tiles[0]->isFull & tiles[1]->isFull & tiles[2]->isFull & tiles[3]->isFull)
+        return false;
+    for (Tile *const t : tiles)
+        t->isTouched = 1;
+    if (--corner->strokesToCheck == 0)
+        checkWhetherFull(*corner);
+    return true;
+}
+
+/// Strokes a segment between steps of the mask, border included.
+inline void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, int capAtTo)
+{
+    // u is the axis on which the segment is longer; from u1 to u2, which is larger. All of this is
+    // chosen without jumps, as noise goes all ways and would have most of them guessed wrong.
+    const bool isSteep = std::abs(toX - fromX) < std::abs(toY - fromY);
+    const int fromU = isSteep ? fromY : fromX;
+    const int fromV = isSteep ? fromX : fromY;
+    const int toU = isSteep ? toY : toX;
+    const int toV = isSteep ? toX : toY;
+    const bool isBackward = toU < fromU;
+    int u1 = isBackward ? toU : fromU;
+    int u2 = isBackward ? fromU : toU;
+    const int v1 = isBackward ? toV : fromV;
+    const int v2 = isBackward ? fromV : toV;
+    const int startCap = isBackward ? capAtTo : capAtFrom;
+    const int endCap = isBackward ? capAtFrom : capAtTo;
+    if (u1 == u2)
+        return;
+
+    const double slope = static_cast<double>(v2 - v1) / (u2 - u1);
+    const int vStep = static_cast<int>(slope * one);
+    // The pixels that share the line at the middle of a column: v's whole part and the next one. A
+    // cap moves the line along itself, as painters do, rather than making it longer at this end.
+    const int toMiddle = half - (u1 & (stepsPerPixel - 1)) - startCap;
+    int v = (v1 - half) * (static_cast<int>(one) / stepsPerPixel)
+        + static_cast<int>(slope * toMiddle * (one / stepsPerPixel));
+    u1 -= startCap;
+    u2 += endCap;
+    const int first = u1 / stepsPerPixel;
+    const int last = u2 / stepsPerPixel;
+    const std::ptrdiff_t along = isSteep ? m_stride : 1;
+    const std::ptrdiff_t across = isSteep ? 1 : m_stride;
+    const std::ptrdiff_t tileAlong = isSteep ? m_tilesAcross : 1;
+    const std::ptrdiff_t tileAcross = isSteep ? 1 : m_tilesAcross;
+
+    // Copies, because a byte that is written might be any member.
+    std::uint8_t *const clear = m_clear.data();
+    Tile *const tiles = m_tiles.data();
+    const std::uint16_t *const passing = m_passing.data();
+
+    const auto vAt = [&](int column) { return v + vStep * (column - first); };
+    // Whether anything between two columns is worth drawing; they are so near to each other that
+    // the line between them comes to two tiles each way at most.
+    const auto isOpen = [&](int from, int to) {
+        const int vFrom = vAt(from);
+        const int vTo = vAt(to);
+        const int low = std::min(vFrom, vTo) >> (fractionBits + tileShift);
+        const int high = ((std::max(vFrom, vTo) >> fractionBits) + 1) >> tileShift;
+        return touch(tiles + (from >> tileShift) * tileAlong + low * tileAcross,
+                     ((to >> tileShift) - (from >> tileShift)) * tileAlong,
+                     (high - low) * tileAcross);
+    };
+    const auto drawPart = [&](int column, unsigned length) {
+        const int at = vAt(column);
+        const unsigned share = (static_cast<unsigned>(at) >> (fractionBits - 8)) & 255;
+        std::uint8_t *const near = clear + column * along + (at >> fractionBits) * across;
+        multiply(near[0], passing[(255 - share) * length / stepsPerPixel]);
+        multiply(near[across], passing[share * length / stepsPerPixel]);
+    };
+    const auto drawWhole = [&](int from, int end) {
+        int at = vAt(from);
+        std::uint8_t *pixel = clear + from * along;
+        for (; from < end; ++from, pixel += along, at += vStep) {
+            const unsigned share = (static_cast<unsigned>(at) >> (fractionBits - 8)) & 255;
+            std::uint8_t *const near = pixel + (at >> fractionBits) * across;
+            multiply(near[0], passing[255 - share]);
+            multiply(near[across], passing[share]);
+        }
+    };
+    // How much of the line lies in the first column and in the last one, if that is another.
+    const auto inFirst = static_cast<unsigned>(std::min(u2, (first + 1) * stepsPerPixel) - u1);
+    const auto inLast = first == last ? 0U : static_cast<unsigned>(u2 & (stepsPerPixel - 1));
+    if (last - first < pieceLength) {
+        if (isOpen(first, last)) {
+            drawPart(first, inFirst);
+            drawWhole(first + 1, last);
+            drawPart(last, inLast);
+        }
+        return;
+    }
+    if (isOpen(first, first))
+        drawPart(first, inFirst);
+    for (int from = first + 1; from < last; from += pieceLength) {
+        const int end = std::min(last, from + pieceLength);
+        if (isOpen(from, end - 1))
+            drawWhole(from, end);
+    }
+    if (isOpen(last, last))
+        drawPart(last, inLast);
+}
+
+void StrokeMask::addLine(const double *x, const double *y, int count, double shift)
+{
+    const int last = count - 1;
+    bool isClosed = count > 0 && x[0] == x[last] && y[0] == y[last];
+    for (int i = 0; i < count && isClosed; ++i)
+        isClosed = isWithin(m_seen, x[i], y[i]);
+    const int cap = isClosed ? 0 : half;
+    const auto toSteps = [shift](double at) {
+        return static_cast<int>((at + shift) * stepsPerPixel) + border * stepsPerPixel;
+    };
+    int startCap = cap;
+    bool isStartSeen = count > 0 && isWithin(m_seen, x[0], y[0]);
+    int fromX = isStartSeen ? toSteps(x[0]) : 0;
+    int fromY = isStartSeen ? toSteps(y[0]) : 0;
+    for (int i = 1; i <= last; ++i) {
+        const bool isEndSeen = isWithin(m_seen, x[i], y[i]);
+        if (isStartSeen && isEndSeen) {
+            const int toX = toSteps(x[i]);
+            const int toY = toSteps(y[i]);
+            stroke(fromX, fromY, toX, toY, startCap, i == last ? cap : 0);
+            startCap = 0;
+            fromX = toX;
+            fromY = toY;
+            continue;
+        }
+        Segment segment{x[i - 1], y[i - 1], x[i], y[i], startCap, i == last ? cap : 0};
+        isStartSeen = isEndSeen;
+        if (isEndSeen) {
+            fromX = toSteps(x[i]);
+            fromY = toSteps(y[i]);
+        }
+        startCap = 0;
+        if (!cut(segment)) {
+            // The line is drawn in pieces.
+            startCap = isWithin(m_bounds, x[i], y[i]) ? half : 0;
+            continue;
+        }
+        if (i < last && !isEndSeen && isWithin(m_bounds, x[i], y[i])) {
+            Segment next{x[i], y[i], x[i + 1], y[i + 1], 0, 0};
+            if (!cut(next))
+                segment.endCap = half;
+        }
+        stroke(toSteps(segment.x1), toSteps(segment.y1), toSteps(segment.x2), toSteps(segment.y2),
+               segment.startCap, segment.endCap);
+    }
+}
+
+/// Cuts a segment at the bounds, and caps it there; false if nothing is seen of the rest.
+bool StrokeMask::cut(Segment &s) const
+{
+    const auto isBeyondOneSide = [&] {
+        return (s.x1 < m_seen.left && s.x2 < m_seen.left)
+            || (s.x1 > m_seen.right && s.x2 > m_seen.right)
+            || (s.y1 < m_seen.top && s.y2 < m_seen.top)
+            || (s.y1 > m_seen.bottom && s.y2 > m_seen.bottom);
+    };
+    if (isBeyondOneSide())
+        return false;
+    double first = 0.0;
+    double last = 1.0;
+    const auto limit = [&](double from, double to, double low, double high) {
+        if (from == to)
+            return;
+        const double atLow = (low - from) / (to - from);
+        const double atHigh = (high - from) / (to - from);
+        first = std::max(first, std::min(atLow, atHigh));
+        last = std::min(last, std::max(atLow, atHigh));
+    };
+    limit(s.x1, s.x2, m_bounds.left, m_bounds.right);
+    limit(s.y1, s.y2, m_bounds.top, m_bounds.bottom);
+    if (!(first < last))
+        return false;
+    const Segment whole = s;
+    const auto onto = [](double at, double low, double high) {
+        return at - low < rounding ? low : high - at < rounding ? high : at;
+    };
+    const auto place = [&](double share, double &x, double &y, int &cap) {
+        x = onto(whole.x1 + (whole.x2 - whole.x1) * share, m_bounds.left, m_bounds.right);
+        y = onto(whole.y1 + (whole.y2 - whole.y1) * share, m_bounds.top, m_bounds.bottom);
+        cap = isWithin(m_seen, x, y) ? cap : half;
+    };
+    if (first > 0.0)
+        place(first, s.x1, s.y1, s.startCap);
+    if (last < 1.0)
+        place(last, s.x2, s.y2, s.endCap);
+    return !isBeyondOneSide();
+}
+
+void StrokeMask::checkWhetherFull(Tile &t)
+{
+    t.strokesToCheck = checkInterval;
+    const int index = static_cast<int>(&t - m_tiles.data());
+    t.isFull = isFull(index / m_tilesAcross, index % m_tilesAcross);
+}
+
+bool StrokeMask::isFull(int row, int column) const
+{
+    std::uint8_t clearest = 0;
+    for (int y = 0; y < tile; ++y) {
+        const std::uint8_t *const line =
+            m_clear.data() + std::ptrdiff_t(row * tile + y) * m_stride + column * tile;
+        for (int x = 0; x < tile; ++x)
+            clearest = std::max(clearest, line[x]);
+    }
+    return clearest <= fullEnough;
+}
+
+} // namespace SmithRender

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace SmithRender
+{
+
+/*! How much of the background still shows through lines of one colour, pixel by pixel: the stroke
+    of every segment multiplies it by what that stroke lets through. The outcome is that of blending
+    all of them onto a picture one after the other, which then has to be done only once.
+
+    Lines are a pixel wide and antialiased: in each column (of flat lines; row, of steep ones) the
+    two pixels next to the line share it. Coordinates are pixels from the top-left corner. */
+class StrokeMask
+{
+public:
+    /// The largest width and height.
+    static constexpr int largest = 4096;
+
+    struct Bounds {
+        double left = 0.0;
+        double top = 0.0;
+        double right = 0.0;
+        double bottom = 0.0;
+    };
+
+    /// Makes the mask as large as that; it must be empty. Lines are cut at \a bounds, up to a few
+    /// pixels outside, and capped there. Segments beyond one side of \a seen are left out.
+    void reset(int width, int height, const Bounds &bounds, const Bounds &seen);
+    /// How opaque lines are, 0 to 1, and how many strokes each is drawn with.
+    void setPen(double opacity, int strokes);
+
+    /// Strokes a line through finite points, with a cap of half a pixel at both ends unless it is
+    /// closed. What lies outside costs little.
+    void addLine(const double *x, const double *y, int count, double shift = 0.0);
+
+    /*! Calls \a visit(x, y, width, height, first, stride) for rectangles that cover all that has
+        been drawn: \c first points to the top-left byte of one, and rows are \c stride bytes apart.
+        Empties the mask. */
+    template<typename Visit>
+    void take(const Visit &visit);
+
+private:
+    /// Side of the squares that are known to be touched or not.
+    static constexpr int tileShift = 4;
+    static constexpr int tile = 1 << tileShift;
+    static constexpr int pieceLength = tile - 1;
+    /// Lines may end so far outside, so that their inner loop need not look at the edges.
+    static constexpr int border = 1 << tileShift;
+
+    struct Segment {
+        double x1, y1, x2, y2;
+        int startCap, endCap;
+    };
+
+    static constexpr std::uint8_t checkInterval = 32;
+    struct Tile {
+        std::uint8_t isTouched = 0;
+        std::uint8_t isFull = 0; ///< no stroke changes it any more
+        std::uint8_t strokesToCheck = checkInterval; ///< until it may have become full
+    };
+
+    bool cut(Segment &segment) const;
+    void stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, int capAtTo);
+    bool touch(Tile *corner, std::ptrdiff_t along, std::ptrdiff_t across);
+    void checkWhetherFull(Tile &t);
+    bool isFull(int row, int column) const;
+
+    Bounds m_bounds;
+    Bounds m_seen;
+    int m_width = 0;
+    int m_height = 0;
+    int m_stride = 0; ///< bytes of a row, and a whole number of tiles
+    int m_tilesAcross = 0;
+    int m_tilesDown = 0;
+    std::vector<std::uint8_t> m_clear; ///< 255: all of the background shows
+    std::vector<Tile> m_tiles;
+    std::array<std::uint16_t, 256> m_passing{}; ///< of 256, by coverage
+};
+
+template<typename Visit>
+void StrokeMask::take(const Visit &visit)
+{
+    for (int row = 0; row < m_tilesDown; ++row) {
+        Tile *const tiles = m_tiles.data() + std::ptrdiff_t(row) * m_tilesAcross;
+        for (int column = 0; column < m_tilesAcross; ++column) {
+            if (!tiles[column].isTouched)
+                continue;
+            const int first = column;
+            for (; column < m_tilesAcross && tiles[column].isTouched; ++column)
+                tiles[column] = Tile();
+            const int width = (column - first) * tile;
+            std::uint8_t *const corner =
+                m_clear.data() + std::ptrdiff_t(row) * tile * m_stride + first * tile;
+            visit(first * tile - border, row * tile - border, width, tile, corner, m_stride);
+            for (int y = 0; y < tile; ++y)
+                std::fill_n(corner + std::ptrdiff_t(y) * m_stride, width, std::uint8_t(255));
+        }
+    }
+}
+
+} // namespace SmithRender
