@@ -7,6 +7,8 @@
 #include <plot/marker.h>
 #include <plot/qcp.h>
 #include <smithchart/smithchartplot.h>
+#include <smithchart/smithcircle.h>
+#include <smithchart/smithlimit.h>
 
 #include <cmath>
 #include <complex>
@@ -61,13 +63,39 @@ QPen tracePen(int index)
     return QPen(ThemeManager::instance()->getTracePalette().value(index));
 }
 
+/// A grid that follows the view, in the theme's colours, a circle to read against, and an area that
+/// the first trace must stay in.
+void addReferences(SmithChartPlot *chart)
+{
+    QCustomPlot *const plot = chart->xAxis()->parentPlot();
+    chart->setGridFollowsView(true);
+    chart->setGridReference(50.0);
+    followTheme(plot, [chart] {
+        SmithChart::GridLook look;
+        look.linePen = QPen(ThemeManager::instance()->borderColor());
+        look.boundaryPen = look.linePen;
+        look.labelColor = ThemeManager::instance()->textColor();
+        chart->setGridLook(look);
+    });
+    chart->zoomAt({0.0, 0.0}, 1.6);
+    auto *const circle = new SmithCircle(plot->xAxis, plot->yAxis);
+    circle->setVswr(2.0);
+    circle->setLabel(QStringLiteral("VSWR 2"));
+    auto *const limit = new SmithLimit(chart);
+    SmithChart::LimitArea area;
+    area.setCircle({0.0, 0.0}, 0.5, SmithChart::LimitArea::StayInside);
+    limit->setArea(area);
+    limit->setColors(QColor(Qt::darkGreen), QColor(Qt::red));
+    limit->test(1);
+}
+
 Section *smithCharts(Page *page)
 {
     auto *const section =
         new Section(QStringLiteral("smithchartplot"), QStringLiteral("SmithChartPlot"),
                     tr("A Smith chart on a QCustomPlot, with traces and markers to drag."));
     const auto add = [page, section](SmithChart::Preset preset, SmithChartPlot::GridMode mode,
-                                     const char *caption) {
+                                     const char *caption) -> SmithChartPlot * {
         auto *const plot = new QCustomPlot;
         plot->xAxis->setVisible(false);
         plot->yAxis->setVisible(false);
@@ -101,10 +129,13 @@ Section *smithCharts(Page *page)
                                                    .arg(index));
                          });
         section->add(plot, tr(caption), QSize(330, 330));
+        return chart;
     };
     add(SmithChart::Detailed, SmithChartPlot::Impedance, "detailed, impedance");
     add(SmithChart::Standard, SmithChartPlot::Admittance, "standard, admittance");
     add(SmithChart::Basic, SmithChartPlot::ImpedanceAndAdmittance, "basic, both");
+    addReferences(add(SmithChart::Standard, SmithChartPlot::Impedance,
+                      "in ohms, magnified, with a circle and a limit"));
     return section;
 }
 
