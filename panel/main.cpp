@@ -149,6 +149,8 @@ int main(int argc, char **argv)
     const QString saved = state.language().isEmpty() ? QStringLiteral("en") : state.language();
     setLanguage(commandLine.language.isEmpty() ? saved : commandLine.language);
 
+    // Before there are widgets, which would be made in one look and then changed to the other.
+    state.restoreLook();
     PanelModel model;
     PanelWindow window(&model);
     PanelController controller(&model, &window);

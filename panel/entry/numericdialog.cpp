@@ -4,6 +4,7 @@
 
 #include "typedentry.h"
 #include "units.h"
+#include <panel/ground/look.h>
 
 #include <controls/keypadeditor.h>
 #include <controls/step125controller.h>
@@ -12,7 +13,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QStyle>
 #include <QTimer>
 
 #include <cmath>
@@ -156,7 +156,7 @@ void NumericDialog::flash(const QString &sentence)
 {
     m_range->setText(sentence);
     m_range->setProperty("warning", true);
-    m_range->style()->polish(m_range);
+    repolish(m_range);
     m_flashEnd->start();
 }
 
@@ -165,7 +165,7 @@ void NumericDialog::showRange()
     m_flashEnd->stop();
     m_range->setText(m_adapter->rangeText());
     m_range->setProperty("warning", false);
-    m_range->style()->polish(m_range);
+    repolish(m_range);
 }
 
 } // namespace Panel

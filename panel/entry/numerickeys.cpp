@@ -6,10 +6,10 @@
 #include "softkey.h"
 #include "units.h"
 
+#include <panel/ground/look.h>
 #include <panel/ground/numbertext.h>
 #include <panel/model/cartesian.h>
 
-#include <QStyle>
 
 #include <cmath>
 
@@ -104,7 +104,7 @@ void NumericKeys::edit(QWidget *anchor, const QString &name, UnitAdapter *adapte
     });
     const auto mark = [anchor](bool editing) {
         anchor->setProperty("editing", editing);
-        anchor->style()->polish(anchor);
+        repolish(anchor);
     };
     connect(dialog, &QDialog::finished, anchor, [mark] { mark(false); });
     mark(true);

@@ -272,14 +272,20 @@ QStringList PanelState::files() const
     return files;
 }
 
+void PanelState::restoreLook() const
+{
+    using Controls::ThemeManager;
+    const auto look = ThemeManager::Theme(
+        m_saved["look"_key].toInt(ThemeManager::instance()->currentTheme()));
+    if (look != ThemeManager::instance()->currentTheme())
+        ThemeManager::instance()->setTheme(look);
+}
+
 void PanelState::restore(PanelModel *model, bool withSource) const
 {
     if (m_saved.isEmpty())
         return;
-    using Controls::ThemeManager;
-    const auto look = ThemeManager::Theme(m_saved["look"_key].toInt());
-    if (look != ThemeManager::instance()->currentTheme())
-        ThemeManager::instance()->setTheme(look);
+    restoreLook();
     ViewSettings *view = model->viewSettings();
     view->layoutProfile()->setLayoutType(Graph::LayoutType(m_saved["layout"_key].toInt()));
     view->setGridMode(SmithChartPlot::GridMode(m_saved["grid"_key].toInt()));

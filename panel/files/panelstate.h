@@ -35,6 +35,8 @@ public:
     /// The files that were on show or waited behind a simulation; empty for samples.
     QStringList files() const;
 
+    /// Restores dark or light alone: before there are widgets, which would otherwise change.
+    void restoreLook() const;
     /// Restores all but language and files, which are needed earlier; the simulated source only if
     /// asked for. What belongs to networks follows where they are measured and not there yet.
     void restore(PanelModel *model, bool withSource = true) const;

@@ -8,6 +8,8 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QStyle>
+#include <QWidget>
 
 namespace Panel
 {
@@ -125,6 +127,14 @@ Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px sol
     for (const auto &[place, color] : places)
         sheet.replace(QLatin1String(place), color.name());
     return sheet;
+}
+
+void repolish(QWidget *widget)
+{
+    if (!widget->testAttribute(Qt::WA_WState_Polished))
+        return;
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
 }
 
 QColor textOn(const QColor &fill)

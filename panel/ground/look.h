@@ -7,6 +7,8 @@
 #include <QString>
 #include <QVector>
 
+class QWidget;
+
 namespace Panel
 {
 
@@ -44,6 +46,11 @@ Look currentLook();
 
 /// The style sheet of the panel's window.
 QString panelStyleSheet(const Look &look);
+
+/// Applies the style sheet to a widget anew, after a change of a property that its rules ask for. A
+/// widget that was never shown is left alone: polished by hand, it would keep the rules of the sheet
+/// in force, because a change of sheet passes over what is not polished yet.
+void repolish(QWidget *widget);
 
 /// Text that can be read on a fill: black or white.
 QColor textOn(const QColor &fill);

@@ -3,6 +3,7 @@
 #include "messagebar.h"
 
 #include <panel/ground/icons.h>
+#include <panel/ground/look.h>
 
 #include <controls/thememanager.h>
 
@@ -11,7 +12,6 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 #include <QVariant>
 
@@ -100,7 +100,7 @@ void MessageBar::showText(const QString &message, bool notice)
     else
         m_leave.stop();
     setProperty("notice", notice);
-    style()->polish(this);
+    repolish(this);
     setVisible(!message.isEmpty());
     place();
 }
