@@ -53,7 +53,7 @@ void Desk::makePanel(const Panel::PanelState *state)
     }
     m_window = std::make_unique<Panel::PanelWindow>(m_model.get());
     m_controller = std::make_unique<Panel::PanelController>(m_model.get(), m_window.get());
-    m_model->preferences()->setScreenshotFolder(m_files->pictures());
+    m_model->preferences()->setExportFolder(m_files->pictures());
     m_window->resize(1024, 600);
     if (state && !state->files().isEmpty())
         m_controller->fileController()->openFiles(state->files());

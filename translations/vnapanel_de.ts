@@ -90,6 +90,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::Exports</name>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written to %1 (%2).</source>
+        <translation>In %1 kann nichts geschrieben werden (%2).</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written.</source>
+        <translation>Das Bild kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::FileController</name>
     <message>
         <source>Reading %1</source>
@@ -446,6 +461,14 @@
         <source>Saved %1</source>
         <translation>Gespeichert: %1</translation>
     </message>
+    <message>
+        <source>Diagram as PDF</source>
+        <translation>Diagramm als PDF</translation>
+    </message>
+    <message>
+        <source>Diagram as SVG</source>
+        <translation>Diagramm als SVG</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelKeys</name>
@@ -597,6 +620,10 @@
         <source>Parameter</source>
         <translation>Parameter</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -706,17 +733,6 @@
     </message>
 </context>
 <context>
-    <name>Panel::Screenshot</name>
-    <message>
-        <source>The folder %1 for the screenshot cannot be made.</source>
-        <translation>Der Ordner %1 für das Bildschirmfoto lässt sich nicht anlegen.</translation>
-    </message>
-    <message>
-        <source>The screenshot cannot be written to %1 (%2).</source>
-        <translation>Das Bildschirmfoto lässt sich nicht nach %1 schreiben (%2).</translation>
-    </message>
-</context>
-<context>
     <name>Panel::SettingsDialog</name>
     <message>
         <source>Settings</source>
@@ -747,8 +763,8 @@
         <translation>Marker aller Kurven gekoppelt</translation>
     </message>
     <message>
-        <source>Screenshots go to</source>
-        <translation>Bildschirmfotos nach</translation>
+        <source>Saved files go to</source>
+        <translation>Gespeichert wird in</translation>
     </message>
 </context>
 <context>

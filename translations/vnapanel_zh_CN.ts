@@ -89,6 +89,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::Exports</name>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>无法创建文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>Nothing can be written to %1 (%2).</source>
+        <translation>无法写入 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written.</source>
+        <translation>无法写入图片。</translation>
+    </message>
+</context>
+<context>
     <name>Panel::FileController</name>
     <message>
         <source>Reading %1</source>
@@ -440,6 +455,14 @@
         <source>Saved %1</source>
         <translation>已保存 %1</translation>
     </message>
+    <message>
+        <source>Diagram as PDF</source>
+        <translation>图表存为 PDF</translation>
+    </message>
+    <message>
+        <source>Diagram as SVG</source>
+        <translation>图表存为 SVG</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelKeys</name>
@@ -591,6 +614,10 @@
         <source>Parameter</source>
         <translation>参数</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -699,17 +726,6 @@
     </message>
 </context>
 <context>
-    <name>Panel::Screenshot</name>
-    <message>
-        <source>The folder %1 for the screenshot cannot be made.</source>
-        <translation>无法创建截屏文件夹 %1。</translation>
-    </message>
-    <message>
-        <source>The screenshot cannot be written to %1 (%2).</source>
-        <translation>截屏无法写入 %1（%2）。</translation>
-    </message>
-</context>
-<context>
     <name>Panel::SettingsDialog</name>
     <message>
         <source>Settings</source>
@@ -740,8 +756,8 @@
         <translation>所有轨迹的标记耦合</translation>
     </message>
     <message>
-        <source>Screenshots go to</source>
-        <translation>截屏保存到</translation>
+        <source>Saved files go to</source>
+        <translation>保存到</translation>
     </message>
 </context>
 <context>

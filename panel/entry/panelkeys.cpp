@@ -93,6 +93,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
 
     menu->addPage(Text::tr("System"), Glyph::System);
     keys.file = menu->addKey(Text::tr("File"));
+    keys.save = addMenu(menu, Text::tr("Save"));
     keys.screenshot = menu->addKey(Text::tr("Screenshot"));
     keys.settings = menu->addKey(Text::tr("Settings"));
     keys.help = menu->addKey(Text::tr("Keyboard help"));

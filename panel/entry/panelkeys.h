@@ -56,6 +56,7 @@ struct PanelKeys {
     SwitchButton *timing;
     // System
     SoftKey *file;
+    MenuButton *save; ///< data and drawings
     SoftKey *screenshot;
     SoftKey *settings;
     SoftKey *help;

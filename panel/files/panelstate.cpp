@@ -296,7 +296,7 @@ void PanelState::restore(PanelModel *model, bool withSource) const
     view->setVswrLimit(m_saved["vswrLimit"_key].toDouble());
     view->setReadoutFormat(ReadoutFormat(m_saved["readout"_key].toInt()));
     view->setOnlyActiveTrace(m_saved["onlyActiveTrace"_key].toBool());
-    model->preferences()->setScreenshotFolder(m_saved["screenshots"_key].toString());
+    model->preferences()->setExportFolder(m_saved["screenshots"_key].toString());
     model->setTuning(m_saved["tuning"_key].toDouble(defaultTuning));
 
     const QJsonObject sweep = m_saved["sweep"_key].toObject();
@@ -343,7 +343,7 @@ bool PanelState::save(const PanelModel &model, const QString &path)
         {"onlyActiveTrace"_key, view->onlyActiveTrace()},
         {"markersDiscrete"_key, model.markersDiscrete()},
         {"markersCoupled"_key, model.markersCoupled()},
-        {"screenshots"_key, preferences->screenshotFolder()},
+        {"screenshots"_key, preferences->exportFolder()},
         {"source"_key, int(model.source())},
         {"sweep"_key,
          QJsonObject{

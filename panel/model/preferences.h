@@ -19,11 +19,11 @@ public:
     /// The code of the language that the user wants from the next start on; empty for the present
     /// one.
     QString language() const { return m_language; }
-    /// Where screenshots go; empty for the default folder.
-    QString screenshotFolder() const { return m_screenshotFolder; }
+    /// Where pictures and data go; empty for the default folder.
+    QString exportFolder() const { return m_exportFolder; }
 
     void setLanguage(const QString &code) { set(m_language, code); }
-    void setScreenshotFolder(const QString &folder) { set(m_screenshotFolder, folder); }
+    void setExportFolder(const QString &folder) { set(m_exportFolder, folder); }
 
 Q_SIGNALS:
     void changed();
@@ -38,7 +38,7 @@ private:
     }
 
     QString m_language;
-    QString m_screenshotFolder;
+    QString m_exportFolder;
 };
 
 } // namespace Panel

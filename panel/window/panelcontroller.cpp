@@ -2,15 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panelcontroller.h"
 
+#include "exports.h"
 #include "filedialog.h"
 #include "helpdialog.h"
 #include "messagebar.h"
 #include "panelwindow.h"
-#include "screenshot.h"
 #include "settingsdialog.h"
 #include "sweepbar.h"
 #include "timingline.h"
 
+#include <panel/diagrams/diagrams.h>
+#include <panel/diagrams/diagramview.h>
 #include <panel/entry/displaykeys.h>
 #include <panel/entry/markercontroller.h>
 #include <panel/entry/numerickeys.h>
@@ -24,6 +26,7 @@
 #include <panel/source/sweepcontroller.h>
 
 #include <controls/thememanager.h>
+#include <widgets/menubutton.h>
 #include <widgets/switchbutton.h>
 
 #include <QDir>
@@ -32,6 +35,19 @@
 
 namespace Panel
 {
+
+namespace
+{
+
+/// The commands of the save key.
+enum SaveCommand {
+    SaveTouchstone,
+    SaveCsv,
+    SavePdf,
+    SaveSvg,
+};
+
+} // namespace
 
 PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject *parent)
     : QObject(parent)
@@ -72,6 +88,15 @@ void PanelController::connectKeys()
     connect(keys.timing, &SwitchButton::statusChanged, this, &PanelController::setTimingShown);
     keys.help->setValue(QStringLiteral("F1"));
     keys.screenshot->setValue(QStringLiteral("PNG"));
+    keys.save->setMenuItems({{SaveTouchstone, QStringLiteral("Touchstone")},
+                             {SaveCsv, QStringLiteral("CSV")},
+                             {SavePdf, tr("Diagram as PDF")},
+                             {SaveSvg, tr("Diagram as SVG")}});
+    connect(keys.save, qOverload<int>(&MenuButton::menuItemClicked), this,
+            &PanelController::onSavePicked);
+    const auto showSave = [this] { m_window->keys().save->setEnabled(m_model->activeTrace()); };
+    connect(m_model, &PanelModel::tracesChanged, this, showSave);
+    showSave();
     keys.settings->setValue(QStringLiteral("\u2026"));
 
     connect(m_window->themeButton(), &QAbstractButton::clicked, Controls::ThemeManager::instance(),
@@ -161,13 +186,41 @@ void PanelController::showHelp()
 
 void PanelController::takeScreenshot()
 {
-    const Screenshot screenshot =
-        saveScreenshot(m_window, folderForScreenshots(*m_model->preferences()));
+    tell(exportScreenshot(m_window, folderForExports(*m_model->preferences())));
+}
+
+void PanelController::onSavePicked(int command)
+{
+    const Trace *trace = m_model->activeTrace();
+    const DiagramView *view = m_window->diagrams()->activeView();
+    if (!trace || !view)
+        return;
+    const QString folder = folderForExports(*m_model->preferences());
+    const Network &network = m_model->networks().at(trace->network);
+    switch (command) {
+    case SaveTouchstone:
+        tell(exportData(network, folder, DataFormat::Touchstone));
+        break;
+    case SaveCsv:
+        tell(exportData(network, folder, DataFormat::Csv));
+        break;
+    case SavePdf:
+        tell(exportDiagram(view->plot(), folder, DrawingFormat::Pdf));
+        break;
+    case SaveSvg:
+        tell(exportDiagram(view->plot(), folder, DrawingFormat::Svg));
+        break;
+    }
+}
+
+/// Says where something was saved, or why it was not.
+void PanelController::tell(const Exported &exported)
+{
     MessageBar *bar = m_window->messageBar();
-    if (screenshot.error.isEmpty())
-        bar->notify(tr("Saved %1").arg(QDir::toNativeSeparators(screenshot.path)));
+    if (exported.error.isEmpty())
+        bar->notify(tr("Saved %1").arg(QDir::toNativeSeparators(exported.path)));
     else
-        bar->setMessage(screenshot.error);
+        bar->setMessage(exported.error);
 }
 
 void PanelController::setTimingShown(bool shown)

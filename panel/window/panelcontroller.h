@@ -8,6 +8,7 @@
 namespace Panel
 {
 
+struct Exported;
 class FileController;
 class PanelModel;
 class PanelWindow;
@@ -30,6 +31,8 @@ public Q_SLOTS:
     /// Lists what the keyboard does.
     void showHelp();
     void takeScreenshot();
+    void onSavePicked(int command);
+    void tell(const Exported &exported);
     void setTimingShown(bool shown);
 
 Q_SIGNALS:

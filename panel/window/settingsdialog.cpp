@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settingsdialog.h"
 
-#include "screenshot.h"
+#include "exports.h"
 
 #include <panel/ground/languages.h>
 #include <panel/model/panelmodel.h>
@@ -116,16 +116,16 @@ void SettingsDialog::addFolder()
 {
     m_folder->setMinimumHeight(s_fieldHeight);
     m_folder->setAutoDefault(false);
-    m_folder->setAccessibleName(tr("Screenshots go to"));
+    m_folder->setAccessibleName(tr("Saved files go to"));
     connect(m_folder, &QPushButton::clicked, this, &SettingsDialog::pickFolder);
-    addRow(tr("Screenshots go to"), m_folder);
+    addRow(tr("Saved files go to"), m_folder);
     connect(m_model->preferences(), &Preferences::changed, this, &SettingsDialog::showFolder);
     showFolder();
 }
 
 void SettingsDialog::showFolder()
 {
-    const QString folder = QDir::toNativeSeparators(folderForScreenshots(*m_model->preferences()));
+    const QString folder = QDir::toNativeSeparators(folderForExports(*m_model->preferences()));
     m_folder->setToolTip(folder);
     m_folder->setText(m_folder->fontMetrics().elidedText(folder, Qt::ElideMiddle, 220));
 }
@@ -133,13 +133,13 @@ void SettingsDialog::showFolder()
 void SettingsDialog::pickFolder()
 {
     // Opened, not executed: the panel may go while it is on screen.
-    auto *dialog = new QFileDialog(this, tr("Screenshots go to"),
-                                   folderForScreenshots(*m_model->preferences()));
+    auto *dialog =
+        new QFileDialog(this, tr("Saved files go to"), folderForExports(*m_model->preferences()));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
     connect(dialog, &QFileDialog::fileSelected, m_model->preferences(),
-            &Preferences::setScreenshotFolder);
+            &Preferences::setExportFolder);
     dialog->open();
 }
 

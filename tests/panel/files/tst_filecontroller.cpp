@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
 
+#include <panel/entry/panelkeys.h>
 #include <panel/files/filecontroller.h>
 #include <panel/files/filenotes.h>
-#include <panel/window/screenshot.h>
+#include <panel/touchstone/touchstone.h>
+#include <panel/window/exports.h>
+
+#include <widgets/menubutton.h>
 
 using namespace VnaTest;
 using namespace Panel;
@@ -310,7 +314,7 @@ private Q_SLOTS:
         Desk desk;
         const QString folder = desk.folder.filePath("new/pictures"_s);
         for (int i = 1; i <= 3; ++i) {
-            const Screenshot shot = saveScreenshot(&desk.window, folder);
+            const Exported shot = exportScreenshot(&desk.window, folder);
             QCOMPARE(shot.error, QString());
             QCOMPARE(QDir(folder).entryList(QDir::Files).size(), i); // none in another's place
             QCOMPARE(QImage(shot.path).size(), desk.window.size());
@@ -318,13 +322,41 @@ private Q_SLOTS:
             QVERIFY(shot.path.contains(form));
         }
         const QString file = desk.write("file", "");
-        QCOMPARE(saveScreenshot(&desk.window, file).error,
-                 "The folder %1 for the screenshot cannot be made."_s.arg(file));
-        const auto [path, error] = saveScreenshot(&desk.window, "/proc"_s);
+        QCOMPARE(exportScreenshot(&desk.window, file).error,
+                 "The folder %1 cannot be made."_s.arg(file));
+        const auto [path, error] = exportScreenshot(&desk.window, "/proc"_s);
         QVERIFY(path.isEmpty());
-        QVERIFY2(error.startsWith("The screenshot cannot be written to /proc ("_s),
-                 qPrintable(error));
-        QVERIFY(QDir(folderForScreenshots(*desk.model.preferences())).isAbsolute());
+        QVERIFY2(error.startsWith("Nothing can be written to /proc ("_s), qPrintable(error));
+        QVERIFY(QDir(folderForExports(*desk.model.preferences())).isAbsolute());
+    }
+
+    /// Data are saved whole, whatever part is on show, and read back as they were.
+    void savesDataAndDrawings()
+    {
+        Desk desk;
+        desk.model.preferences()->setExportFolder(desk.folder.filePath("out"_s));
+        const QDir folder(desk.model.preferences()->exportFolder());
+        const Network whole = desk.model.networks().first();
+        desk.model.setStimulus(*desk.model.activeTrace(), {2.4e9, 2.5e9});
+        for (const int command : {0, 1, 2, 3})
+            Q_EMIT desk.window.keys().save->menuItemClicked(command);
+        QCOMPARE(folder.entryList(QDir::Files).size(), 4);
+        const TouchstoneResult read =
+            readTouchstone(folder.filePath(folder.entryList({"*.s2p"_s}).value(0)));
+        QVERIFY(read.ok());
+        QCOMPARE(read.network.frequencies, whole.frequencies);
+        QCOMPARE(read.network.s(2, 1).imag, whole.s(2, 1).imag);
+        QFile csv(folder.filePath(folder.entryList({"*.csv"_s}).value(0)));
+        QVERIFY(csv.open(QIODevice::ReadOnly));
+        QCOMPARE(csv.readAll().count('\n'), whole.points() + 2); // a comment and the names
+        const std::pair<QString, QByteArray> drawings[] = {{"*.pdf"_s, "%PDF"},
+                                                           {"*.svg"_s, "<?xml"}};
+        for (const auto &[name, start] : drawings) {
+            QFile drawing(folder.filePath(folder.entryList({name}).value(0)));
+            QVERIFY(drawing.open(QIODevice::ReadOnly));
+            QVERIFY(drawing.size() > 2000 && drawing.size() < 400000);
+            QCOMPARE(drawing.read(start.size()), start);
+        }
     }
 };
 

@@ -146,13 +146,13 @@ private Q_SLOTS:
     {
         Desk desk;
         const QTemporaryDir folder;
-        desk.model.preferences()->setScreenshotFolder(folder.path());
+        desk.model.preferences()->setExportFolder(folder.path());
         mouseClick(desk.window.screenshotButton());
         const QStringList names = QDir(folder.path()).entryList({"*.png"_s});
         QCOMPARE(names.size(), 1);
         QVERIFY(desk.message().contains(names.first()));
         QVERIFY(desk.bar()->isNotice()); // and leaves by itself
-        desk.model.preferences()->setScreenshotFolder("/proc"_s);
+        desk.model.preferences()->setExportFolder("/proc"_s);
         desk.click(desk.keys().screenshot);
         QVERIFY2(desk.message().contains("cannot"_s), qPrintable(desk.message()));
     }

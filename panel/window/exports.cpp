@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "exports.h"
+
+#include <panel/model/preferences.h>
+#include <panel/touchstone/saving.h>
+
+#include <plot/qcp.h>
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QPixmap>
+#include <QStandardPaths>
+#include <QSvgGenerator>
+#include <QWidget>
+
+#include <functional>
+
+namespace Panel
+{
+
+namespace
+{
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Panel::Exports)
+};
+
+/// Opens a file that was not there before: with a number behind the stem where one was.
+bool openNew(QFile &file, const QString &stem, const QString &suffix)
+{
+    constexpr int mostNames = 1000;
+    for (int number = 1; number <= mostNames; ++number) {
+        const QString behind = number == 1 ? QString() : QStringLiteral("-%1").arg(number);
+        file.setFileName(stem + behind + suffix);
+        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+            return true;
+        if (!file.exists())
+            return false;
+    }
+    return false;
+}
+
+/// Writes a new file in a folder, whose stem gets the time behind it. The writer gets the open file
+/// and returns a sentence where it fails.
+Exported exportFile(const QString &folder, const QString &stem, const QString &suffix,
+                    const std::function<QString(QFile &)> &write)
+{
+    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    const QString shown = QDir::toNativeSeparators(folder);
+    if (!QDir().mkpath(folder))
+        return {QString(), Text::tr("The folder %1 cannot be made.").arg(shown)};
+    QFile file;
+    QString error = Text::tr("Nothing can be written to %1 (%2).");
+    if (openNew(file, QDir(folder).filePath(stem + QLatin1Char('-') + time), suffix)) {
+        const QString sentence = write(file);
+        if (sentence.isEmpty() && file.flush() && file.error() == QFileDevice::NoError)
+            return {file.fileName(), QString()};
+        // Half a file is of no use, and its name no longer needed.
+        QFile::remove(file.fileName());
+        if (!sentence.isEmpty())
+            return {QString(), sentence};
+    }
+    return {QString(), error.arg(shown, file.errorString())};
+}
+
+QString cannotDraw()
+{
+    return Text::tr("The picture cannot be written.");
+}
+
+} // namespace
+
+QString folderForExports(const Preferences &preferences)
+{
+    if (!preferences.exportFolder().isEmpty())
+        return preferences.exportFolder();
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return pictures.isEmpty() ? QDir::homePath() : pictures;
+}
+
+Exported exportScreenshot(QWidget *window, const QString &folder)
+{
+    // Taken first, so that it is the moment that the name tells.
+    const QPixmap picture = window->grab();
+    return exportFile(folder, QStringLiteral("vnapanel"), QStringLiteral(".png"), [&](QFile &file) {
+        return picture.save(&file, "PNG") ? QString() : cannotDraw();
+    });
+}
+
+Exported exportDiagram(QCustomPlot *plot, const QString &folder, DrawingFormat format)
+{
+    const bool pdf = format == DrawingFormat::Pdf;
+    return exportFile(folder, QStringLiteral("vnapanel"),
+                      pdf ? QStringLiteral(".pdf") : QStringLiteral(".svg"), [&](QFile &file) {
+                          if (pdf)
+                              return plot->savePdf(file.fileName()) ? QString() : cannotDraw();
+                          QSvgGenerator svg;
+                          svg.setOutputDevice(&file);
+                          svg.setSize(plot->size());
+                          svg.setViewBox(plot->rect());
+                          QCPPainter painter;
+                          if (!painter.begin(&svg))
+                              return cannotDraw();
+                          painter.setMode(QCPPainter::pmVectorized);
+                          painter.setMode(QCPPainter::pmNoCaching);
+                          painter.fillRect(plot->rect(), plot->palette().window());
+                          plot->toPainter(&painter, plot->width(), plot->height());
+                          painter.end();
+                          return QString();
+                      });
+}
+
+Exported exportData(const Network &network, const QString &folder, DataFormat format)
+{
+    const QString suffix = format == DataFormat::Csv ? QStringLiteral(".csv")
+                                                     : QStringLiteral(".s%1p").arg(network.ports);
+    const QString stem = QFileInfo(network.name).completeBaseName();
+    return exportFile(folder, stem.isEmpty() ? QStringLiteral("vnapanel") : stem, suffix,
+                      [&](QFile &file) {
+                          // The file holds the name; the network takes its place whole.
+                          SaveOptions options;
+                          options.overwrite = true;
+                          return saveNetwork(file.fileName(), network, options);
+                      });
+}
+
+} // namespace Panel
