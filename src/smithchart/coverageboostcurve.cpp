@@ -11,7 +11,6 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <vector>
 
 namespace
 {
@@ -146,27 +145,21 @@ bool CoverageBoostCurve::drawByMask(QCPPainter *painter) const
     mask.reset(area.width(), area.height(), inMask(topLeft, bottomRight),
                inMask(seen.topLeft(), seen.bottomRight()));
     mask.setPen(mPen.color().alphaF(), offset > 0.0 ? 1 : 2);
-    std::vector<double> lineX;
-    std::vector<double> lineY;
-    const auto finishLine = [&] {
-        mask.addLine(lineX.data(), lineY.data(), static_cast<int>(lineX.size()));
-        if (offset > 0.0)
-            mask.addLine(lineX.data(), lineY.data(), static_cast<int>(lineX.size()), offset);
-        lineX.clear();
-        lineY.clear();
-    };
     const auto end = mDataContainer->constEnd();
-    for (auto point = mDataContainer->constBegin(); point != end; ++point) {
-        const double px = x.at(point->key);
-        const double py = y.at(point->value);
-        if (std::isfinite(px) && std::isfinite(py)) {
-            lineX.push_back(px);
-            lineY.push_back(py);
-        } else {
-            finishLine();
-        }
+    for (auto first = mDataContainer->constBegin(); first != end;) {
+        const auto isGap = [](const QCPCurveData &point) {
+            return !std::isfinite(point.key) || !std::isfinite(point.value);
+        };
+        const auto gap = std::find_if(first, end, isGap);
+        const auto pointAt = [&](int i) {
+            return SmithRender::StrokeMask::Point{x.at(first[i].key), y.at(first[i].value)};
+        };
+        const int count = static_cast<int>(gap - first);
+        mask.addLine(pointAt, count);
+        if (offset > 0.0)
+            mask.addLine(pointAt, count, offset);
+        first = gap == end ? gap : gap + 1;
     }
-    finishLine();
 
     painter->save();
     // Pixels of the mask are those of the device.

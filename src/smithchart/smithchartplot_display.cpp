@@ -69,10 +69,10 @@ bool SmithChartPlotPrivate::refreshDisplayCurve(OwnedCurve &record, bool force)
 
     const QVector<int> indices =
         SmithRender::mergeIndices(record.keptIndices, mandatorySourceIndices(record), n);
-    QVector<QCPCurveData> points;
-    points.reserve(indices.size());
+    QVector<QCPCurveData> points(indices.size());
+    QCPCurveData *point = points.data();
     for (const int i : indices)
-        points.append(QCPCurveData(record.frequencies.at(i), record.real.at(i), record.imag.at(i)));
+        *point++ = QCPCurveData(record.frequencies.at(i), record.real.at(i), record.imag.at(i));
     record.curve->data()->set(points, true);
     record.displayedPointCount = static_cast<int>(points.size());
     record.cachedMarkerRevision = record.markerRevision;

@@ -16,7 +16,7 @@ namespace
 
 /// Runs up to this length are split anew at every view: that is as fast as looking a split up, and
 /// a tree of short runs would be most of the memory.
-constexpr int shortRun = 32;
+constexpr int shortRun = VectorKernels::longestShort;
 
 /// The plain routine rounds pixel coordinates: up to this many times the tolerance, that moves no
 /// distance near the tolerance by more than a small share of rounding.
@@ -130,6 +130,7 @@ bool LineGeneralisationTree::isSplit(const Part &part, const Farthest &farthest,
 
 void LineGeneralisationTree::simplify(const Run &run, const View &view, QVector<int> &kept)
 {
+    const VectorKernels &kernels = vectorKernels();
     kept.append(run.first);
     if (run.first == run.last)
         return;
@@ -140,6 +141,18 @@ void LineGeneralisationTree::simplify(const Run &run, const View &view, QVector<
         if (part.last - part.first < 2) {
             kept.append(part.last);
             continue;
+        }
+        if (part.last - part.first <= shortRun) {
+            const std::uint32_t points = kernels.simplifyShort(
+                m_x, m_y, part.first, part.last, m_count, view.surely, view.surelyNot);
+            if (points != VectorKernels::undecided) {
+                for (int i = 1; i < part.last - part.first; ++i) {
+                    if (points >> i & 1)
+                        kept.append(part.first + i);
+                }
+                kept.append(part.last);
+                continue;
+            }
         }
         const Farthest farthest = splitOf(part);
         if (!isSplit(part, farthest, view)) {

@@ -15,19 +15,9 @@ namespace
 /// Cut ends may miss the edge by so much.
 constexpr double rounding = 1e-6;
 
-/// Ends of segments lie on steps this fine, as painters place them: which of two flat or steep
-/// segments is drawn how shows.
-constexpr int stepsPerPixel = 64;
-constexpr int half = stepsPerPixel / 2;
-
 /// Positions across a line are kept in 65536ths of a pixel.
 constexpr int fractionBits = 16;
 constexpr double one = 1 << fractionBits;
-
-bool isWithin(const StrokeMask::Bounds &bounds, double x, double y)
-{
-    return x >= bounds.left && x <= bounds.right && y >= bounds.top && y <= bounds.bottom;
-}
 
 /// A tile is full, and no stroke changes it any more, where no more shows through than this.
 constexpr std::uint8_t fullEnough = 4;
@@ -77,7 +67,7 @@ inline bool StrokeMask::touch(Tile *corner, std::ptrdiff_t along, std::ptrdiff_t
 }
 
 /// Strokes a segment between steps of the mask, border included.
-inline void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, int capAtTo)
+void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, int capAtTo)
 {
     // u is the axis on which the segment is longer; from u1 to u2, which is larger. All of this is
     // chosen without jumps, as noise goes all ways and would have most of them guessed wrong.
@@ -168,61 +158,14 @@ inline void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAt
         drawPart(last, inLast);
 }
 
-void StrokeMask::addLine(const double *x, const double *y, int count, double shift)
-{
-    const int last = count - 1;
-    bool isClosed = count > 0 && x[0] == x[last] && y[0] == y[last];
-    for (int i = 0; i < count && isClosed; ++i)
-        isClosed = isWithin(m_seen, x[i], y[i]);
-    const int cap = isClosed ? 0 : half;
-    const auto toSteps = [shift](double at) {
-        return static_cast<int>((at + shift) * stepsPerPixel) + border * stepsPerPixel;
-    };
-    int startCap = cap;
-    bool isStartSeen = count > 0 && isWithin(m_seen, x[0], y[0]);
-    int fromX = isStartSeen ? toSteps(x[0]) : 0;
-    int fromY = isStartSeen ? toSteps(y[0]) : 0;
-    for (int i = 1; i <= last; ++i) {
-        const bool isEndSeen = isWithin(m_seen, x[i], y[i]);
-        if (isStartSeen && isEndSeen) {
-            const int toX = toSteps(x[i]);
-            const int toY = toSteps(y[i]);
-            stroke(fromX, fromY, toX, toY, startCap, i == last ? cap : 0);
-            startCap = 0;
-            fromX = toX;
-            fromY = toY;
-            continue;
-        }
-        Segment segment{x[i - 1], y[i - 1], x[i], y[i], startCap, i == last ? cap : 0};
-        isStartSeen = isEndSeen;
-        if (isEndSeen) {
-            fromX = toSteps(x[i]);
-            fromY = toSteps(y[i]);
-        }
-        startCap = 0;
-        if (!cut(segment)) {
-            // The line is drawn in pieces.
-            startCap = isWithin(m_bounds, x[i], y[i]) ? half : 0;
-            continue;
-        }
-        if (i < last && !isEndSeen && isWithin(m_bounds, x[i], y[i])) {
-            Segment next{x[i], y[i], x[i + 1], y[i + 1], 0, 0};
-            if (!cut(next))
-                segment.endCap = half;
-        }
-        stroke(toSteps(segment.x1), toSteps(segment.y1), toSteps(segment.x2), toSteps(segment.y2),
-               segment.startCap, segment.endCap);
-    }
-}
-
 /// Cuts a segment at the bounds, and caps it there; false if nothing is seen of the rest.
 bool StrokeMask::cut(Segment &s) const
 {
     const auto isBeyondOneSide = [&] {
-        return (s.x1 < m_seen.left && s.x2 < m_seen.left)
-            || (s.x1 > m_seen.right && s.x2 > m_seen.right)
-            || (s.y1 < m_seen.top && s.y2 < m_seen.top)
-            || (s.y1 > m_seen.bottom && s.y2 > m_seen.bottom);
+        return (s.from.x < m_seen.left && s.to.x < m_seen.left)
+            || (s.from.x > m_seen.right && s.to.x > m_seen.right)
+            || (s.from.y < m_seen.top && s.to.y < m_seen.top)
+            || (s.from.y > m_seen.bottom && s.to.y > m_seen.bottom);
     };
     if (isBeyondOneSide())
         return false;
@@ -236,23 +179,25 @@ bool StrokeMask::cut(Segment &s) const
         first = std::max(first, std::min(atLow, atHigh));
         last = std::min(last, std::max(atLow, atHigh));
     };
-    limit(s.x1, s.x2, m_bounds.left, m_bounds.right);
-    limit(s.y1, s.y2, m_bounds.top, m_bounds.bottom);
+    limit(s.from.x, s.to.x, m_bounds.left, m_bounds.right);
+    limit(s.from.y, s.to.y, m_bounds.top, m_bounds.bottom);
     if (!(first < last))
         return false;
     const Segment whole = s;
     const auto onto = [](double at, double low, double high) {
         return at - low < rounding ? low : high - at < rounding ? high : at;
     };
-    const auto place = [&](double share, double &x, double &y, int &cap) {
-        x = onto(whole.x1 + (whole.x2 - whole.x1) * share, m_bounds.left, m_bounds.right);
-        y = onto(whole.y1 + (whole.y2 - whole.y1) * share, m_bounds.top, m_bounds.bottom);
-        cap = isWithin(m_seen, x, y) ? cap : half;
+    const auto place = [&](double share, Point &p, int &cap) {
+        p.x =
+            onto(whole.from.x + (whole.to.x - whole.from.x) * share, m_bounds.left, m_bounds.right);
+        p.y =
+            onto(whole.from.y + (whole.to.y - whole.from.y) * share, m_bounds.top, m_bounds.bottom);
+        cap = isWithin(m_seen, p) ? cap : half;
     };
     if (first > 0.0)
-        place(first, s.x1, s.y1, s.startCap);
+        place(first, s.from, s.startCap);
     if (last < 1.0)
-        place(last, s.x2, s.y2, s.endCap);
+        place(last, s.to, s.endCap);
     return !isBeyondOneSide();
 }
 

@@ -36,9 +36,16 @@ public:
     /// How opaque lines are, 0 to 1, and how many strokes each is drawn with.
     void setPen(double opacity, int strokes);
 
-    /// Strokes a line through finite points, with a cap of half a pixel at both ends unless it is
-    /// closed. What lies outside costs little.
-    void addLine(const double *x, const double *y, int count, double shift = 0.0);
+    struct Point {
+        double x;
+        double y;
+    };
+
+    /// Strokes a line through finite points, \a pointAt(0) to \a pointAt(count - 1), with a cap of
+    /// half a pixel at both ends unless it is closed; all of it moved by \a shift both ways. What
+    /// lies outside costs little.
+    template<typename PointAt>
+    void addLine(const PointAt &pointAt, int count, double shift = 0.0);
 
     /*! Calls \a visit(x, y, width, height, first, stride) for rectangles that cover all that has
         been drawn: \c first points to the top-left byte of one, and rows are \c stride bytes apart.
@@ -54,9 +61,16 @@ private:
     /// Lines may end so far outside, so that their inner loop need not look at the edges.
     static constexpr int border = 1 << tileShift;
 
+    /// Ends of segments lie on steps this fine, as painters place them: whether a segment is steep
+    /// shows.
+    static constexpr int stepsPerPixel = 64;
+    static constexpr int half = stepsPerPixel / 2;
+
     struct Segment {
-        double x1, y1, x2, y2;
-        int startCap, endCap;
+        Point from;
+        Point to;
+        int startCap;
+        int endCap;
     };
 
     static constexpr std::uint8_t checkInterval = 32;
@@ -66,6 +80,15 @@ private:
         std::uint8_t strokesToCheck = checkInterval; ///< until it may have become full
     };
 
+    static bool isWithin(const Bounds &bounds, const Point &p)
+    {
+        return p.x >= bounds.left && p.x <= bounds.right && p.y >= bounds.top
+            && p.y <= bounds.bottom;
+    }
+    static int toSteps(double at)
+    {
+        return static_cast<int>(at * stepsPerPixel) + border * stepsPerPixel;
+    }
     bool cut(Segment &segment) const;
     void stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, int capAtTo);
     bool touch(Tile *corner, std::ptrdiff_t along, std::ptrdiff_t across);
@@ -83,6 +106,56 @@ private:
     std::vector<Tile> m_tiles;
     std::array<std::uint16_t, 256> m_passing{}; ///< of 256, by coverage
 };
+
+template<typename PointAt>
+void StrokeMask::addLine(const PointAt &pointAt, int count, double shift)
+{
+    if (count < 2)
+        return;
+    const int last = count - 1;
+    Point from = pointAt(0);
+    const Point finish = pointAt(last);
+    bool isClosed = from.x == finish.x && from.y == finish.y;
+    for (int i = 0; i < count && isClosed; ++i)
+        isClosed = isWithin(m_seen, pointAt(i));
+    const int cap = isClosed ? 0 : half;
+
+    int startCap = cap;
+    bool isFromSeen = isWithin(m_seen, from);
+    int fromX = isFromSeen ? toSteps(from.x + shift) : 0;
+    int fromY = isFromSeen ? toSteps(from.y + shift) : 0;
+    for (int i = 1; i <= last; ++i) {
+        const Point to = pointAt(i);
+        const bool isToSeen = isWithin(m_seen, to);
+        const int toX = isToSeen ? toSteps(to.x + shift) : 0;
+        const int toY = isToSeen ? toSteps(to.y + shift) : 0;
+        const int endCap = i == last ? cap : 0;
+        if (isFromSeen && isToSeen) {
+            stroke(fromX, fromY, toX, toY, startCap, endCap);
+            startCap = 0;
+        } else {
+            Segment segment{from, to, startCap, endCap};
+            const bool isSomethingSeen = cut(segment);
+            // Where a part is left out, those next to it end as lines do.
+            const bool mayCap = !isToSeen && isWithin(m_bounds, to);
+            startCap = mayCap && !isSomethingSeen ? half : 0;
+            if (mayCap && i < last) {
+                Segment next{to, pointAt(i + 1), 0, 0};
+                if (!cut(next))
+                    segment.endCap = half;
+            }
+            if (isSomethingSeen) {
+                stroke(toSteps(segment.from.x + shift), toSteps(segment.from.y + shift),
+                       toSteps(segment.to.x + shift), toSteps(segment.to.y + shift),
+                       segment.startCap, segment.endCap);
+            }
+        }
+        from = to;
+        fromX = toX;
+        fromY = toY;
+        isFromSeen = isToSeen;
+    }
+}
 
 template<typename Visit>
 void StrokeMask::take(const Visit &visit)

@@ -148,6 +148,142 @@ VNA_INLINE void squaredDistancesBody(const double *x, const double *y, int count
     }
 }
 
+/// As farthestBody() of at least one point, for few of them: of noise no guess is right, so that
+/// jumps cost more than a vector that is only half used.
+template<int Width>
+VNA_INLINE Farthest farthestOfFewBody(const double *x, const double *y, int first, int end,
+                                      int readable, const Segment &segment)
+{
+    using Doubles = typename Vector<Width>::Doubles;
+    using Integers = typename Vector<Width>::Integers;
+
+    Integers index = Integers() + first;
+    if constexpr (Width > 1) {
+        for (int i = 0; i < Width; ++i)
+            index[i] += i;
+    }
+    Doubles farthest = Doubles() - 1.0;
+    Integers where = Integers() + first;
+    for (int i = first; i < end; i += Width) {
+        Doubles px;
+        Doubles py;
+        Doubles distance;
+        if (i + Width <= readable) {
+            load<Width>(x + i, px);
+            load<Width>(y + i, py);
+        } else {
+            px = Doubles() + segment.ax;
+            py = Doubles() + segment.ay;
+            std::memcpy(&px, x + i, static_cast<size_t>(end - i) * sizeof(double));
+            std::memcpy(&py, y + i, static_cast<size_t>(end - i) * sizeof(double));
+        }
+        squaredDistances(px, py, segment, distance);
+        distance = index < (Integers() + end) ? distance : (Doubles() - 1.0);
+        where = distance > farthest ? index : where;
+        farthest = distance > farthest ? distance : farthest;
+        index += Width;
+    }
+    Farthest best{lane(farthest, 0), static_cast<int>(integerLane(where, 0))};
+    for (int k = 1; k < Width; ++k) {
+        const double distance = lane(farthest, k);
+        const int at = static_cast<int>(integerLane(where, k));
+        const bool wins = (distance > best.squaredDistance)
+            | ((distance == best.squaredDistance) & (at < best.index));
+        best.squaredDistance = wins ? distance : best.squaredDistance;
+        best.index = wins ? at : best.index;
+    }
+    return best;
+}
+
+/// The squared distances of the points \a first to \a end - 1 to the segments between their
+/// neighbours.
+template<int Width>
+VNA_INLINE void toNeighboursBody(const double *x, const double *y, int first, int end,
+                                 double *result)
+{
+    using Doubles = typename Vector<Width>::Doubles;
+    const Doubles zero = Doubles() + 0.0;
+    const Doubles one = Doubles() + 1.0;
+    for (int i = first; i < end; i += Width, result += Width) {
+        Doubles ax, ay, px, py, dx, dy;
+        load<Width>(x + i - 1, ax);
+        load<Width>(y + i - 1, ay);
+        load<Width>(x + i, px);
+        load<Width>(y + i, py);
+        load<Width>(x + i + 1, dx);
+        load<Width>(y + i + 1, dy);
+        // As Segment and squaredDistances() do it.
+        dx -= ax;
+        dy -= ay;
+        px -= ax;
+        py -= ay;
+        const Doubles squaredLength = dx * dx + dy * dy;
+        const Doubles inverse =
+            squaredLength >= zero + Segment::shortest ? one / squaredLength : zero;
+        Doubles u = (px * dx + py * dy) * inverse;
+        u = u < zero ? zero : u;
+        u = u > one ? one : u;
+        const Doubles qx = px - u * dx;
+        const Doubles qy = py - u * dy;
+        const Doubles distance = qx * qx + qy * qy;
+        std::memcpy(result, &distance, sizeof distance);
+    }
+}
+
+template<int Width>
+VNA_INLINE std::uint32_t simplifyShortBody(const double *x, const double *y, int first, int last,
+                                           int readable, double surely, double surelyNot)
+{
+    struct Part {
+        int first;
+        int last;
+    };
+    const auto bit = [first](int i) { return std::uint32_t(1) << (i - first); };
+    // First in, first out: the processor works on several parts at once, where the last one in
+    // would have to wait for itself.
+    Part parts[2 * VectorKernels::longestShort];
+    parts[0] = {first, last};
+    int end = last - first > 2;
+    std::uint32_t kept = 0;
+    std::uint32_t single = last - first == 2 ? bit(first + 1) : 0; // between the ends of a part
+    for (int next = 0; next < end; ++next) {
+        const Part part = parts[next];
+        const Segment segment(x[part.first], y[part.first], x[part.last], y[part.last]);
+        const Farthest farthest =
+            farthestOfFewBody<Width>(x, y, part.first + 1, part.last, readable, segment);
+        if (farthest.squaredDistance > surely) {
+            const int split = farthest.index;
+            kept |= bit(split);
+            // Written without jumps, and overwritten if there is little between the ends.
+            parts[end] = {part.first, split};
+            end += split - part.first > 2;
+            parts[end] = {split, part.last};
+            end += part.last - split > 2;
+            single |= std::uint32_t(split - part.first == 2) << (split - 1 - first);
+            single |= std::uint32_t(part.last - split == 2) << (split + 1 - first);
+        } else if (!(farthest.squaredDistance < surelyNot)) {
+            return VectorKernels::undecided;
+        }
+    }
+    if (single == 0)
+        return kept;
+
+    // A third of all parts of noise have a single point: all distances at once are sooner found.
+    double distances[VectorKernels::longestShort + VectorKernels::widest];
+    const int whole = std::min(last, readable - Width);
+    toNeighboursBody<Width>(x, y, first + 1, whole, distances);
+    const int done = whole > first ? (whole - first - 1 + Width - 1) / Width * Width : 0;
+    toNeighboursBody<1>(x, y, first + 1 + done, last, distances + done);
+    bool isUndecided = false;
+    for (int i = 0; i < last - first - 1; ++i) {
+        const bool isSingle = single >> (i + 1) & 1;
+        const bool isSplit = distances[i] > surely;
+        kept |= std::uint32_t(isSingle & isSplit) << (i + 1);
+        isUndecided |= isSingle & !isSplit & !(distances[i] < surelyNot);
+    }
+    return isUndecided ? VectorKernels::undecided : kept;
+}
+
 // The cosines and sines of a k-DOP's directions, and what makes a corner of two neighbouring
 // supports: corner = support[j] * near[j] + support[j + 1] * far[j].
 constexpr double cos1 = 0.92387953251128675613; // cos(pi/8)
@@ -330,9 +466,15 @@ VNA_INLINE void encloseBody(const double *x, const double *y, int first, int end
     {                                                                                              \
         encloseBody<Width>(x, y, first, end, kdop);                                                \
     }                                                                                              \
-    constexpr VectorKernels kernels##Name{farthest##Name, squaredDistances##Name,                  \
+    Attribute std::uint32_t simplifyShort##Name(const double *x, const double *y, int first,       \
+                                                int last, int readable, double surely,             \
+                                                double surelyNot)                                  \
+    {                                                                                              \
+        return simplifyShortBody<Width>(x, y, first, last, readable, surely, surelyNot);           \
+    }                                                                                              \
+    constexpr VectorKernels kernels##Name{farthest##Name,   squaredDistances##Name,                \
                                           farthestOf##Name, squaredDeviation##Name,                \
-                                          enclose##Name};
+                                          enclose##Name,    simplifyShort##Name};
 
 VNA_KERNELS(Plain, 1, )
 #ifdef VNA_VECTOR_TYPES

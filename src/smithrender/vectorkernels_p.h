@@ -9,6 +9,7 @@
 #include <base/testexport_p.h>
 
 #include <array>
+#include <cstdint>
 #include <limits>
 
 namespace SmithRender
@@ -24,9 +25,11 @@ struct Segment {
     {
         // One too short for a reciprocal counts as the point a.
         const double squaredLength = dx * dx + dy * dy;
-        if (squaredLength >= 4.0 * std::numeric_limits<double>::min())
+        if (squaredLength >= shortest)
             inverse = 1.0 / squaredLength;
     }
+
+    static constexpr double shortest = 4.0 * std::numeric_limits<double>::min(); ///< squared
 
     double ax;
     double ay;
@@ -82,6 +85,15 @@ struct VectorKernels {
     /// The k-DOP around the points \a first to \a end - 1, which must be finite.
     void (*enclose)(const double *x, const double *y, int first, int end, Kdop &kdop);
 
+    /*! The points of a short run, from \a first to \a last, that stand for all of it in the sense of
+        DouglasPeucker: bit i of the result for the point first + i, its ends left out. A squared
+        deviation above \a surely splits a part, one below \a surelyNot does not; \c undecided if
+        any lies between. Memory may be read up to the point \a readable - 1. */
+    std::uint32_t (*simplifyShort)(const double *x, const double *y, int first, int last,
+                                   int readable, double surely, double surelyNot);
+
+    static constexpr int longestShort = 32; ///< last - first of a short run
+    static constexpr std::uint32_t undecided = 1; ///< which is no result of simplifyShort()
     static constexpr int widest = 4; ///< points in the widest vector of any set
 };
 
