@@ -140,7 +140,8 @@ bool CoverageBoostCurve::drawByMask(QCPPainter *painter) const
     const DeviceScale y = scaleOf(values, toDevice.m22(), toDevice.dy() - area.top());
     const double offset = secondStrokeOffset(painter) * toDevice.m11();
 
-    static thread_local SmithRender::StrokeMask mask; // as large as the chart, and empty again
+    static thread_local SmithRender::StrokeMask reused; // as large as the chart, and empty again
+    SmithRender::StrokeMask &mask = reused;
     const QRectF seen = toDevice.mapRect(QRectF(clipRect()));
     mask.reset(area.width(), area.height(), inMask(topLeft, bottomRight),
                inMask(seen.topLeft(), seen.bottomRight()));

@@ -71,8 +71,12 @@ bool SmithChartPlotPrivate::refreshDisplayCurve(OwnedCurve &record, bool force)
         SmithRender::mergeIndices(record.keptIndices, mandatorySourceIndices(record), n);
     QVector<QCPCurveData> points(indices.size());
     QCPCurveData *point = points.data();
-    for (const int i : indices)
-        *point++ = QCPCurveData(record.frequencies.at(i), record.real.at(i), record.imag.at(i));
+    for (const int i : indices) {
+        point->t = record.frequencies.at(i);
+        point->key = record.real.at(i);
+        point->value = record.imag.at(i);
+        ++point;
+    }
     record.curve->data()->set(points, true);
     record.displayedPointCount = static_cast<int>(points.size());
     record.cachedMarkerRevision = record.markerRevision;

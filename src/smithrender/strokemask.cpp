@@ -19,7 +19,7 @@ constexpr double rounding = 1e-6;
 constexpr int fractionBits = 16;
 constexpr double one = 1 << fractionBits;
 
-/// A tile is full, and no stroke changes it any more, where no more shows through than this.
+/// A cell is full where no more shows through than this.
 constexpr std::uint8_t fullEnough = 4;
 
 inline void multiply(std::uint8_t &clear, unsigned passing)
@@ -41,6 +41,9 @@ void StrokeMask::reset(int width, int height, const Bounds &bounds, const Bounds
     m_tilesDown = (height + 2 * border + tile - 1) >> tileShift;
     m_stride = m_tilesAcross * tile;
     m_clear.assign(static_cast<size_t>(m_stride) * static_cast<size_t>(m_tilesDown * tile), 255);
+    m_cellStride = ((m_stride >> cellShift) >> 3) + 8;
+    m_fullCells.assign(
+        static_cast<size_t>(m_cellStride) * static_cast<size_t>(m_tilesDown * tile / cell), 0);
     m_tiles.assign(static_cast<size_t>(m_tilesAcross) * static_cast<size_t>(m_tilesDown), Tile());
 }
 
@@ -52,18 +55,13 @@ void StrokeMask::setPen(double opacity, int strokes)
     }
 }
 
-/// Notes that a stroke comes to a tile and its neighbours, which may be itself again; false if all
-/// of them are full.
-inline bool StrokeMask::touch(Tile *corner, std::ptrdiff_t along, std::ptrdiff_t across)
+/// Notes that a stroke comes to a tile and its neighbours, which may be itself again.
+inline void StrokeMask::touch(Tile *corner, std::ptrdiff_t along, std::ptrdiff_t across)
 {
-    Tile *const tiles[] = {corner, corner + along, corner + across, corner + along + across};
-    if (tiles[0]->isFull & tiles[1]->isFull & tiles[2]->isFull & tiles[3]->isFull)
-        return false;
-    for (Tile *const t : tiles)
+    for (Tile *const t : {corner, corner + along, corner + across, corner + along + across})
         t->isTouched = 1;
     if (--corner->strokesToCheck == 0)
-        checkWhetherFull(*corner);
-    return true;
+        findFullCells(static_cast<int>(corner - m_tiles.data()));
 }
 
 /// Strokes a segment between steps of the mask, border included.
@@ -108,16 +106,14 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
     const std::uint16_t *const passing = m_passing.data();
 
     const auto vAt = [&](int column) { return v + vStep * (column - first); };
-    // Whether anything between two columns is worth drawing; they are so near to each other that
-    // the line between them comes to two tiles each way at most.
-    const auto isOpen = [&](int from, int to) {
+    // For two columns so near to each other that the line comes to two tiles each way at most.
+    const auto touchBetween = [&](int from, int to) {
         const int vFrom = vAt(from);
         const int vTo = vAt(to);
         const int low = std::min(vFrom, vTo) >> (fractionBits + tileShift);
         const int high = ((std::max(vFrom, vTo) >> fractionBits) + 1) >> tileShift;
-        return touch(tiles + (from >> tileShift) * tileAlong + low * tileAcross,
-                     ((to >> tileShift) - (from >> tileShift)) * tileAlong,
-                     (high - low) * tileAcross);
+        touch(tiles + (from >> tileShift) * tileAlong + low * tileAcross,
+              ((to >> tileShift) - (from >> tileShift)) * tileAlong, (high - low) * tileAcross);
     };
     const auto drawPart = [&](int column, unsigned length) {
         const int at = vAt(column);
@@ -140,22 +136,27 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
     const auto inFirst = static_cast<unsigned>(std::min(u2, (first + 1) * stepsPerPixel) - u1);
     const auto inLast = first == last ? 0U : static_cast<unsigned>(u2 & (stepsPerPixel - 1));
     if (last - first < pieceLength) {
-        if (isOpen(first, last)) {
-            drawPart(first, inFirst);
-            drawWhole(first + 1, last);
-            drawPart(last, inLast);
-        }
+        touchBetween(first, last);
+        drawPart(first, inFirst);
+        drawWhole(first + 1, last);
+        drawPart(last, inLast);
         return;
     }
-    if (isOpen(first, first))
-        drawPart(first, inFirst);
+    touchBetween(first, first);
+    drawPart(first, inFirst);
     for (int from = first + 1; from < last; from += pieceLength) {
         const int end = std::min(last, from + pieceLength);
-        if (isOpen(from, end - 1))
-            drawWhole(from, end);
+        if (m_hasFullCells) {
+            const int low = std::min(vAt(from), vAt(end - 1)) >> fractionBits;
+            const int high = (std::max(vAt(from), vAt(end - 1)) >> fractionBits) + 1;
+            if (isSteep ? isFull(low, from, high, end - 1) : isFull(from, low, end - 1, high))
+                continue;
+        }
+        touchBetween(from, end - 1);
+        drawWhole(from, end);
     }
-    if (isOpen(last, last))
-        drawPart(last, inLast);
+    touchBetween(last, last);
+    drawPart(last, inLast);
 }
 
 /// Cuts a segment at the bounds, and caps it there; false if nothing is seen of the rest.
@@ -201,23 +202,26 @@ bool StrokeMask::cut(Segment &s) const
     return !isBeyondOneSide();
 }
 
-void StrokeMask::checkWhetherFull(Tile &t)
+void StrokeMask::findFullCells(int tileIndex)
 {
-    t.strokesToCheck = checkInterval;
-    const int index = static_cast<int>(&t - m_tiles.data());
-    t.isFull = isFull(index / m_tilesAcross, index % m_tilesAcross);
-}
-
-bool StrokeMask::isFull(int row, int column) const
-{
-    std::uint8_t clearest = 0;
-    for (int y = 0; y < tile; ++y) {
-        const std::uint8_t *const line =
-            m_clear.data() + std::ptrdiff_t(row * tile + y) * m_stride + column * tile;
-        for (int x = 0; x < tile; ++x)
-            clearest = std::max(clearest, line[x]);
+    m_tiles[static_cast<size_t>(tileIndex)].strokesToCheck = checkInterval;
+    constexpr int cells = tile / cell;
+    const int top = tileIndex / m_tilesAcross * cells;
+    const int left = tileIndex % m_tilesAcross * cells;
+    for (int row = top; row < top + cells; ++row) {
+        for (int column = left; column < left + cells; ++column) {
+            const std::uint8_t *line =
+                m_clear.data() + std::ptrdiff_t(row) * cell * m_stride + column * cell;
+            std::uint8_t clearest = 0;
+            for (int y = 0; y < cell; ++y, line += m_stride)
+                clearest = std::max(clearest, *std::max_element(line, line + cell));
+            if (clearest <= fullEnough) {
+                m_fullCells[static_cast<size_t>(row * m_cellStride + column / 8)] |=
+                    static_cast<std::uint8_t>(1 << column % 8);
+                m_hasFullCells = true;
+            }
+        }
     }
-    return clearest <= fullEnough;
 }
 
 } // namespace SmithRender

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <vector>
 
 namespace SmithRender
@@ -58,6 +59,9 @@ private:
     static constexpr int tileShift = 4;
     static constexpr int tile = 1 << tileShift;
     static constexpr int pieceLength = tile - 1;
+    /// Side of the squares that are known to be full or not: no stroke changes full ones any more.
+    static constexpr int cellShift = 3;
+    static constexpr int cell = 1 << cellShift;
     /// Lines may end so far outside, so that their inner loop need not look at the edges.
     static constexpr int border = 1 << tileShift;
 
@@ -76,8 +80,7 @@ private:
     static constexpr std::uint8_t checkInterval = 32;
     struct Tile {
         std::uint8_t isTouched = 0;
-        std::uint8_t isFull = 0; ///< no stroke changes it any more
-        std::uint8_t strokesToCheck = checkInterval; ///< until it may have become full
+        std::uint8_t strokesToCheck = checkInterval; ///< until its cells may have become full
     };
 
     static bool isWithin(const Bounds &bounds, const Point &p)
@@ -91,9 +94,26 @@ private:
     }
     bool cut(Segment &segment) const;
     void stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, int capAtTo);
-    bool touch(Tile *corner, std::ptrdiff_t along, std::ptrdiff_t across);
-    void checkWhetherFull(Tile &t);
-    bool isFull(int row, int column) const;
+    void touch(Tile *corner, std::ptrdiff_t along, std::ptrdiff_t across);
+    void findFullCells(int tileIndex);
+    /// Whether nothing changes within these pixels, which may be some hundreds across.
+    bool isFull(int left, int top, int right, int bottom) const
+    {
+        const int first = left >> cellShift;
+        const int count = (right >> cellShift) - first + 1;
+        if (count > 56)
+            return false;
+        const std::uint64_t wanted = ((std::uint64_t(1) << count) - 1) << (first & 7);
+        const std::uint8_t *bits =
+            m_fullCells.data() + std::ptrdiff_t(top >> cellShift) * m_cellStride + (first >> 3);
+        std::uint64_t found = wanted;
+        for (int row = top >> cellShift; row <= bottom >> cellShift; ++row, bits += m_cellStride) {
+            std::uint64_t full;
+            std::memcpy(&full, bits, sizeof full);
+            found &= full;
+        }
+        return found == wanted;
+    }
 
     Bounds m_bounds;
     Bounds m_seen;
@@ -104,6 +124,9 @@ private:
     int m_tilesDown = 0;
     std::vector<std::uint8_t> m_clear; ///< 255: all of the background shows
     std::vector<Tile> m_tiles;
+    std::vector<std::uint8_t> m_fullCells; ///< a bit each
+    int m_cellStride = 0; ///< bytes of a row of them; it ends in padding
+    bool m_hasFullCells = false;
     std::array<std::uint16_t, 256> m_passing{}; ///< of 256, by coverage
 };
 
@@ -131,7 +154,14 @@ void StrokeMask::addLine(const PointAt &pointAt, int count, double shift)
         const int toY = isToSeen ? toSteps(to.y + shift) : 0;
         const int endCap = i == last ? cap : 0;
         if (isFromSeen && isToSeen) {
-            stroke(fromX, fromY, toX, toY, startCap, endCap);
+            // With the caps, and the second of the two pixels that share the line.
+            constexpr int around = stepsPerPixel + half;
+            if (!m_hasFullCells
+                || !isFull((std::min(fromX, toX) - around) / stepsPerPixel,
+                           (std::min(fromY, toY) - around) / stepsPerPixel,
+                           (std::max(fromX, toX) + around) / stepsPerPixel,
+                           (std::max(fromY, toY) + around) / stepsPerPixel))
+                stroke(fromX, fromY, toX, toY, startCap, endCap);
             startCap = 0;
         } else {
             Segment segment{from, to, startCap, endCap};
@@ -160,6 +190,9 @@ void StrokeMask::addLine(const PointAt &pointAt, int count, double shift)
 template<typename Visit>
 void StrokeMask::take(const Visit &visit)
 {
+    if (m_hasFullCells)
+        std::fill(m_fullCells.begin(), m_fullCells.end(), std::uint8_t(0));
+    m_hasFullCells = false;
     for (int row = 0; row < m_tilesDown; ++row) {
         Tile *const tiles = m_tiles.data() + std::ptrdiff_t(row) * m_tilesAcross;
         for (int column = 0; column < m_tilesAcross; ++column) {
