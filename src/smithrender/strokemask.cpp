@@ -22,6 +22,12 @@ constexpr double one = 1 << fractionBits;
 /// A cell is full where no more shows through than this.
 constexpr std::uint8_t fullEnough = 4;
 
+/// The first value where the mask's bits are set, the second where they are not.
+inline int chosen(int mask, int first, int second)
+{
+    return second ^ ((first ^ second) & mask);
+}
+
 inline void multiply(std::uint8_t &clear, unsigned passing)
 {
     clear = static_cast<std::uint8_t>((clear * passing + 128) >> 8);
@@ -69,18 +75,18 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
 {
     // u is the axis on which the segment is longer; from u1 to u2, which is larger. All of this is
     // chosen without jumps, as noise goes all ways and would have most of them guessed wrong.
-    const bool isSteep = std::abs(toX - fromX) < std::abs(toY - fromY);
-    const int fromU = isSteep ? fromY : fromX;
-    const int fromV = isSteep ? fromX : fromY;
-    const int toU = isSteep ? toY : toX;
-    const int toV = isSteep ? toX : toY;
-    const bool isBackward = toU < fromU;
-    int u1 = isBackward ? toU : fromU;
-    int u2 = isBackward ? fromU : toU;
-    const int v1 = isBackward ? toV : fromV;
-    const int v2 = isBackward ? fromV : toV;
-    const int startCap = isBackward ? capAtTo : capAtFrom;
-    const int endCap = isBackward ? capAtFrom : capAtTo;
+    const int steep = -int(std::abs(toX - fromX) < std::abs(toY - fromY)); // a mask
+    const int fromU = chosen(steep, fromY, fromX);
+    const int fromV = chosen(steep, fromX, fromY);
+    const int toU = chosen(steep, toY, toX);
+    const int toV = chosen(steep, toX, toY);
+    const int backward = (toU - fromU) >> 31;
+    int u1 = chosen(backward, toU, fromU);
+    int u2 = chosen(backward, fromU, toU);
+    const int v1 = chosen(backward, toV, fromV);
+    const int v2 = chosen(backward, fromV, toV);
+    const int startCap = chosen(backward, capAtTo, capAtFrom);
+    const int endCap = chosen(backward, capAtFrom, capAtTo);
     if (u1 == u2)
         return;
 
@@ -95,10 +101,10 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
     u2 += endCap;
     const int first = u1 / stepsPerPixel;
     const int last = u2 / stepsPerPixel;
-    const std::ptrdiff_t along = isSteep ? m_stride : 1;
-    const std::ptrdiff_t across = isSteep ? 1 : m_stride;
-    const std::ptrdiff_t tileAlong = isSteep ? m_tilesAcross : 1;
-    const std::ptrdiff_t tileAcross = isSteep ? 1 : m_tilesAcross;
+    const std::ptrdiff_t along = chosen(steep, m_stride, 1);
+    const std::ptrdiff_t across = chosen(steep, 1, m_stride);
+    const std::ptrdiff_t tileAlong = chosen(steep, m_tilesAcross, 1);
+    const std::ptrdiff_t tileAcross = chosen(steep, 1, m_tilesAcross);
 
     // Copies, because a byte that is written might be any member.
     std::uint8_t *const clear = m_clear.data();
@@ -110,8 +116,9 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
     const auto touchBetween = [&](int from, int to) {
         const int vFrom = vAt(from);
         const int vTo = vAt(to);
-        const int low = std::min(vFrom, vTo) >> (fractionBits + tileShift);
-        const int high = ((std::max(vFrom, vTo) >> fractionBits) + 1) >> tileShift;
+        const int falls = (vTo - vFrom) >> 31;
+        const int low = chosen(falls, vTo, vFrom) >> (fractionBits + tileShift);
+        const int high = ((chosen(falls, vFrom, vTo) >> fractionBits) + 1) >> tileShift;
         touch(tiles + (from >> tileShift) * tileAlong + low * tileAcross,
               ((to >> tileShift) - (from >> tileShift)) * tileAlong, (high - low) * tileAcross);
     };
@@ -133,8 +140,9 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
         }
     };
     // How much of the line lies in the first column and in the last one, if that is another.
-    const auto inFirst = static_cast<unsigned>(std::min(u2, (first + 1) * stepsPerPixel) - u1);
-    const auto inLast = first == last ? 0U : static_cast<unsigned>(u2 & (stepsPerPixel - 1));
+    const int isOne = (last - first - 1) >> 31;
+    const auto inFirst = static_cast<unsigned>(chosen(isOne, u2, (first + 1) * stepsPerPixel) - u1);
+    const auto inLast = static_cast<unsigned>(u2 & (stepsPerPixel - 1) & ~isOne);
     if (last - first < pieceLength) {
         touchBetween(first, last);
         drawPart(first, inFirst);
@@ -149,7 +157,7 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
         if (m_hasFullCells) {
             const int low = std::min(vAt(from), vAt(end - 1)) >> fractionBits;
             const int high = (std::max(vAt(from), vAt(end - 1)) >> fractionBits) + 1;
-            if (isSteep ? isFull(low, from, high, end - 1) : isFull(from, low, end - 1, high))
+            if (steep ? isFull(low, from, high, end - 1) : isFull(from, low, end - 1, high))
                 continue;
         }
         touchBetween(from, end - 1);
