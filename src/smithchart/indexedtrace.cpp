@@ -31,6 +31,7 @@ public:
     const double *x = nullptr;
     const double *y = nullptr;
     int count = 0;
+    int lastKept = 0; ///< about as many as the next view keeps
     bool isBuilt = false;
     BoundingVolumeHierarchy volumes;
     LineGeneralisationTree tree;
@@ -67,7 +68,9 @@ DecimationResult IndexedTrace::decimate(const Viewport &viewport) const
         return SmithRender::decimate(d->real, d->imag, viewport);
 
     DecimationResult result;
+    result.keptIndices.reserve(d->lastKept);
     d->tree.simplify(projection, viewport.tolerancePx, result.keptIndices);
+    d->lastKept = static_cast<int>(result.keptIndices.size());
     result.decimated = result.keptIndices.size() < d->count;
     return result;
 }

@@ -69,6 +69,8 @@ bool SmithChartPlotPrivate::refreshDisplayCurve(OwnedCurve &record, bool force)
 
     const QVector<int> indices =
         SmithRender::mergeIndices(record.keptIndices, mandatorySourceIndices(record), n);
+    // The old points go first: the new ones then get their memory, which the system need not clear.
+    record.curve->data()->set(QVector<QCPCurveData>(), true);
     QVector<QCPCurveData> points(indices.size());
     QCPCurveData *point = points.data();
     for (const int i : indices) {

@@ -143,13 +143,19 @@ void LineGeneralisationTree::simplify(const Run &run, const View &view, QVector<
             continue;
         }
         if (part.last - part.first <= shortRun) {
-            const std::uint32_t points = kernels.simplifyShort(
+            const std::uint64_t points = kernels.simplifyShort(
                 m_x, m_y, part.first, part.last, m_count, view.surely, view.surelyNot);
             if (points != VectorKernels::undecided) {
+                // No jumps here either.
+                int indices[VectorKernels::longestShort];
+                int count = 0;
                 for (int i = 1; i < part.last - part.first; ++i) {
-                    if (points >> i & 1)
-                        kept.append(part.first + i);
+                    indices[count] = part.first + i;
+                    count += static_cast<int>(points >> i & 1);
                 }
+                const auto before = kept.size();
+                kept.resize(before + count);
+                std::copy_n(indices, count, kept.data() + before);
                 kept.append(part.last);
                 continue;
             }

@@ -148,6 +148,33 @@ VNA_INLINE void squaredDistancesBody(const double *x, const double *y, int count
     }
 }
 
+/// The lane of the largest distance; of several, the one with the lowest index.
+template<int Width>
+VNA_INLINE Farthest farthestLane(const typename Vector<Width>::Doubles &distances,
+                                 const typename Vector<Width>::Integers &indices)
+{
+    if constexpr (Width == 1) {
+        return {distances, static_cast<int>(indices)};
+    } else {
+        constexpr int half = Width / 2;
+        using Doubles = typename Vector<half>::Doubles;
+        using Integers = typename Vector<half>::Integers;
+        Doubles low, high;
+        Integers lowIndex, highIndex;
+        const auto halve = [](const auto &whole, auto &first, auto &second) {
+            std::memcpy(&first, &whole, sizeof first);
+            std::memcpy(&second, reinterpret_cast<const char *>(&whole) + sizeof first,
+                        sizeof second);
+        };
+        halve(distances, low, high);
+        halve(indices, lowIndex, highIndex);
+        const auto wins = (high > low) | ((high == low) & (highIndex < lowIndex));
+        low = wins ? high : low;
+        lowIndex = wins ? highIndex : lowIndex;
+        return farthestLane<half>(low, lowIndex);
+    }
+}
+
 /// As farthestBody() of at least one point, for few of them: of noise no guess is right, so that
 /// jumps cost more than a vector that is only half used.
 template<int Width>
@@ -183,16 +210,7 @@ VNA_INLINE Farthest farthestOfFewBody(const double *x, const double *y, int firs
         farthest = distance > farthest ? distance : farthest;
         index += Width;
     }
-    Farthest best{lane(farthest, 0), static_cast<int>(integerLane(where, 0))};
-    for (int k = 1; k < Width; ++k) {
-        const double distance = lane(farthest, k);
-        const int at = static_cast<int>(integerLane(where, k));
-        const bool wins = (distance > best.squaredDistance)
-            | ((distance == best.squaredDistance) & (at < best.index));
-        best.squaredDistance = wins ? distance : best.squaredDistance;
-        best.index = wins ? at : best.index;
-    }
-    return best;
+    return farthestLane<Width>(farthest, where);
 }
 
 /// The squared distances of the points \a first to \a end - 1 to the segments between their
@@ -231,21 +249,21 @@ VNA_INLINE void toNeighboursBody(const double *x, const double *y, int first, in
 }
 
 template<int Width>
-VNA_INLINE std::uint32_t simplifyShortBody(const double *x, const double *y, int first, int last,
+VNA_INLINE std::uint64_t simplifyShortBody(const double *x, const double *y, int first, int last,
                                            int readable, double surely, double surelyNot)
 {
     struct Part {
         int first;
         int last;
     };
-    const auto bit = [first](int i) { return std::uint32_t(1) << (i - first); };
+    const auto bit = [first](int i) { return std::uint64_t(1) << (i - first); };
     // First in, first out: the processor works on several parts at once, where the last one in
     // would have to wait for itself.
     Part parts[2 * VectorKernels::longestShort];
     parts[0] = {first, last};
     int end = last - first > 2;
-    std::uint32_t kept = 0;
-    std::uint32_t single = last - first == 2 ? bit(first + 1) : 0; // between the ends of a part
+    std::uint64_t kept = 0;
+    std::uint64_t single = last - first == 2 ? bit(first + 1) : 0; // between the ends of a part
     for (int next = 0; next < end; ++next) {
         const Part part = parts[next];
         const Segment segment(x[part.first], y[part.first], x[part.last], y[part.last]);
@@ -259,8 +277,8 @@ VNA_INLINE std::uint32_t simplifyShortBody(const double *x, const double *y, int
             end += split - part.first > 2;
             parts[end] = {split, part.last};
             end += part.last - split > 2;
-            single |= std::uint32_t(split - part.first == 2) << (split - 1 - first);
-            single |= std::uint32_t(part.last - split == 2) << (split + 1 - first);
+            single |= std::uint64_t(split - part.first == 2) << (split - 1 - first);
+            single |= std::uint64_t(part.last - split == 2) << (split + 1 - first);
         } else if (!(farthest.squaredDistance < surelyNot)) {
             return VectorKernels::undecided;
         }
@@ -278,7 +296,7 @@ VNA_INLINE std::uint32_t simplifyShortBody(const double *x, const double *y, int
     for (int i = 0; i < last - first - 1; ++i) {
         const bool isSingle = single >> (i + 1) & 1;
         const bool isSplit = distances[i] > surely;
-        kept |= std::uint32_t(isSingle & isSplit) << (i + 1);
+        kept |= std::uint64_t(isSingle & isSplit) << (i + 1);
         isUndecided |= isSingle & !isSplit & !(distances[i] < surelyNot);
     }
     return isUndecided ? VectorKernels::undecided : kept;
@@ -466,7 +484,7 @@ VNA_INLINE void encloseBody(const double *x, const double *y, int first, int end
     {                                                                                              \
         encloseBody<Width>(x, y, first, end, kdop);                                                \
     }                                                                                              \
-    Attribute std::uint32_t simplifyShort##Name(const double *x, const double *y, int first,       \
+    Attribute std::uint64_t simplifyShort##Name(const double *x, const double *y, int first,       \
                                                 int last, int readable, double surely,             \
                                                 double surelyNot)                                  \
     {                                                                                              \

@@ -89,11 +89,11 @@ struct VectorKernels {
         DouglasPeucker: bit i of the result for the point first + i, its ends left out. A squared
         deviation above \a surely splits a part, one below \a surelyNot does not; \c undecided if
         any lies between. Memory may be read up to the point \a readable - 1. */
-    std::uint32_t (*simplifyShort)(const double *x, const double *y, int first, int last,
+    std::uint64_t (*simplifyShort)(const double *x, const double *y, int first, int last,
                                    int readable, double surely, double surelyNot);
 
-    static constexpr int longestShort = 32; ///< last - first of a short run
-    static constexpr std::uint32_t undecided = 1; ///< which is no result of simplifyShort()
+    static constexpr int longestShort = 64; ///< last - first of a short run
+    static constexpr std::uint64_t undecided = 1; ///< which is no result of simplifyShort()
     static constexpr int widest = 4; ///< points in the widest vector of any set
 };
 

@@ -50,9 +50,19 @@ private Q_SLOTS:
                         <= 1e-13 * (std::fabs(x[0]) + std::fabs(y[0]) + std::sqrt(bound)));
             }
 
+            const int last = std::min(end, first + VectorKernels::longestShort) - 1;
+            const double tolerance = 0.1 * deviation;
+            const auto simplified = [&](const VectorKernels &kernels) {
+                return finite && last > first ? kernels.simplifyShort(
+                           x.data(), y.data(), first, last, count, tolerance, tolerance)
+                                              : 0;
+            };
+            const std::uint64_t keptPoints = simplified(plain);
+
             for (const VectorKernels *kernels : allVectorKernels()) {
                 if (!kernels)
                     continue;
+                QCOMPARE(simplified(*kernels), keptPoints);
                 Farthest farthest;
                 kernels->farthest(x.data(), y.data(), first, end, count, segment, farthest);
                 QCOMPARE(farthest.index, wanted.index);
