@@ -42,31 +42,6 @@ private Q_SLOTS:
         }
     }
 
-    void opensBelowOrAboveInsideTheScreen()
-    {
-        for (const bool atBottom : {false, true}) {
-            ComboBox box;
-            box.addItems({"Z"_s, "Y"_s, "Z and Y"_s});
-            const QRect screen = box.screen()->availableGeometry();
-            box.setWindowFlags(Qt::FramelessWindowHint);
-            box.setGeometry(screen.left() + 50, atBottom ? screen.bottom() - 40 : 60, 120, 30);
-            box.show();
-            box.showPopup();
-            const QRect list = box.view()->window()->geometry();
-            if (atBottom)
-                QCOMPARE(list.y() + list.height(), box.geometry().top() - 1);
-            else
-                QCOMPARE(list.top(), box.geometry().bottom() + 1);
-            QVERIFY(screen.adjusted(5, 5, -5, -5).contains(list));
-            box.hidePopup();
-
-            // A list past the right edge is pushed back by its margin.
-            box.move(screen.right() - 20, box.y());
-            QCOMPARE(box.popupWidgetTopLeftConer({200, 50}).x() + 200,
-                     screen.x() + screen.width() - 5);
-        }
-    }
-
     void showsTheCurrentEntry()
     {
         ComboBox box;

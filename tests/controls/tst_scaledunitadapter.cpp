@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include <events.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -85,6 +86,35 @@ private Q_SLOTS:
         bare.setRealValue(3.5);
         QCOMPARE(bare.getInputText(), "3.5"_s);
         QCOMPARE(bare.convertToBase("-4"_s), -4.0);
+    }
+
+    /// Typed in any order, into the text and as keys: always a number within the range.
+    void anyTextIsANumberOrRefused()
+    {
+        const QStringList words{"0"_s,      "-"_s,      "."_s,      "e"_s,   "+"_s,
+                                "GHz"_s,    "mhz"_s,    "1e9"_s,    " "_s,   "nan"_s,
+                                "inf"_s,    "1e400"_s,  ","_s,      "0x1"_s, "9"_s,
+                                "\u0663"_s, "\u2212"_s, "\u00b1"_s, "\n"_s,  "dBm"_s};
+        const int keys[] = {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Period, Qt::Key_plusminus,
+                            Qt::Key_Up,     Qt::Key_Delete, Qt::Key_A};
+        QRandomGenerator random(7);
+        ScaledUnitAdapter adapter(frequencyUnits());
+        QDoubleValidator range(-1e6, 1e9, 3);
+        adapter.setValidator(&range);
+        for (int round = 0; round < 20000; ++round) {
+            QString text;
+            for (int count = random.bounded(6); count > 0; --count)
+                text += words.at(random.bounded(int(words.size())));
+            adapter.setProperty("inputText", text);
+            adapter.setProperty("cursorPos", random.bounded(-3, 30));
+            adapter.setProperty("selectionStart", random.bounded(-3, 30));
+            adapter.setProperty("selectionLen", random.bounded(-3, 30));
+            sendKey(&adapter, keys[random.bounded(int(std::size(keys)))],
+                    words.at(random.bounded(int(words.size()))));
+            QVERIFY2(adapter.getRealValue() >= -1e6 && adapter.getRealValue() <= 1e9,
+                     qPrintable(text));
+            QVERIFY(adapter.getInputText().endsWith(adapter.getCurrentUnit()));
+        }
     }
 
     void formatsWhatItReads()

@@ -207,10 +207,8 @@ private Q_SLOTS:
             file(name, QByteArray("Light\\tracePalette=") + text, dark, red);
         };
         row("binary", QByteArrayLiteral("\x7f\x45LF\0\x01\xff\xfe[\n=\"\0\r"), dark, light);
-        row("other group", QByteArray("[Colors]\nDark\\gridColor=red\n"), dark, light);
         list("list quoted", "\"#ff0000,#00ff00\"");
         list("list bare", "#ff0000,#00ff00");
-        list("list with gaps and words", "red, reddish, , lime");
         file("list with blanks", "Light/tracePalette = #ff0000 , #00ff00 \n", dark, red);
         file("list quoted one by one", "Light/tracePalette=\"#ff0000\", \"#00ff00\"\r\n", dark,
              red);

@@ -47,21 +47,6 @@ private Q_SLOTS:
         label.setText("1.234567\n2.345678"_s);
         QCOMPARE(label.shownText(), label.text());
     }
-
-    void paintsWhatItShowsAligned()
-    {
-        RoundLabel label;
-        label.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        label.setContentsMargins(12, 0, 0, 0);
-        const QString shown = "-100.3dBm"_s;
-        label.resize(label.fontMetrics().horizontalAdvance(shown) + 12, 30);
-        label.setText("-100.33333dBm"_s);
-        QCOMPARE(label.shownText(), shown);
-        const QImage rounded = label.grab().toImage();
-        // The same picture as a plain label draws for the text that fits.
-        label.setText(shown);
-        QCOMPARE(label.grab().toImage(), rounded);
-    }
 };
 
 QTEST_MAIN(tst_RoundLabel)

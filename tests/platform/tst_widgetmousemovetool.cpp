@@ -103,15 +103,11 @@ private Q_SLOTS:
             Scene f;
             TouchScreen screen(&f.host);
             screen.press(Center);
-            if (type == QEvent::Hide) {
-                f.handle->hide();
-                f.handle->show();
-            } else if (type == QEvent::WindowBlocked) {
-                QEvent blocked(type);
-                QCoreApplication::sendEvent(f.handle, &blocked);
-            } else {
+            QEvent event(type);
+            if (type == QEvent::Hide || type == QEvent::WindowBlocked)
+                QCoreApplication::sendEvent(f.handle, &event);
+            else
                 QVERIFY(sendTouchWithoutPoints(f.handle, type));
-            }
             screen.release(Center);
             QCOMPARE(f.clicked.count(), 0);
             mouseMove(f.handle, {60, 60});

@@ -99,27 +99,23 @@ private Q_SLOTS:
             QCOMPARE(int(labelAlignment(side, -side)), 132); // centre
     }
 
-    /// The same grid, handed out as lists of numbers in place of whatever they held.
     void listsOfTheGrid()
     {
         const Grid grid = gridGeometry({0.0, 1.0}, {-1.0, 1.0}, 24);
-        QVector<QVector<double>> zx(9);
-        QVector<QVector<double>> zy(9);
-        QVector<QVector<double>> yx(9);
-        QVector<QVector<double>> yy(9);
+        QVector<QVector<double>> runs[4];
         QVector<double> lists[8];
-        QVector<QString> zText(9);
-        QVector<QString> yText(9);
+        QVector<QString> texts[2];
+        runs[0].resize(9); // of whatever was there nothing stays
         SmithChartPlot::generateSmithChartGridExtended(
-            zx, zy, yx, yy, lists[0], lists[1], lists[2], lists[3], lists[4], lists[5], zText,
-            lists[6], lists[7], yText, {0.0, 1.0}, {-1.0, 1.0}, 24);
-        QVERIFY(zx == grid.impedance.circles.x && zy == grid.impedance.circles.y);
-        QVERIFY(yx == grid.admittance.circles.x && yy == grid.admittance.circles.y);
+            runs[0], runs[1], runs[2], runs[3], lists[0], lists[1], lists[2], lists[3], lists[4],
+            lists[5], texts[0], lists[6], lists[7], texts[1], {0.0, 1.0}, {-1.0, 1.0}, 24);
+        const auto &[z, y] = std::tie(grid.impedance, grid.admittance);
+        QVERIFY(runs[0] == z.circles.x && runs[1] == z.circles.y);
+        QVERIFY(runs[2] == y.circles.x && runs[3] == y.circles.y);
         QVERIFY(lists[0] == grid.boundaryX && lists[1] == grid.boundaryY);
         QVERIFY(lists[2] == grid.realAxisX && lists[3] == grid.realAxisY);
-        QVERIFY(lists[4] == grid.impedance.labels.x && lists[5] == grid.impedance.labels.y);
-        QVERIFY(lists[6] == grid.admittance.labels.x && lists[7] == grid.admittance.labels.y);
-        QVERIFY(zText == grid.impedance.labels.text && yText == grid.admittance.labels.text);
+        QVERIFY(lists[4] == z.labels.x && lists[5] == z.labels.y && texts[0] == z.labels.text);
+        QVERIFY(lists[6] == y.labels.x && lists[7] == y.labels.y && texts[1] == y.labels.text);
     }
 };
 

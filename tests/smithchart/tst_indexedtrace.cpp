@@ -124,24 +124,6 @@ private Q_SLOTS:
             QCOMPARE(disagreement.ties, 0);
     }
 
-    /// A distance of exactly the tolerance does not split, whatever the rounding in other units.
-    void aPointAtExactlyTheToleranceIsDropped()
-    {
-        Trace trace;
-        for (int i = 0; i < 1000; ++i) {
-            trace.real << -0.9 + i * 0.0018;
-            trace.imag << (i == 500 ? 0.01 : 0.0);
-        }
-        Viewport viewport = squareViewport(0.0, 0.0, 1.0, 100, 100);
-        IndexedTrace tree = treeOf(trace);
-        for (int step = -3; step <= 3; ++step) {
-            viewport.tolerancePx = 0.5;
-            for (int ulp = 0; ulp < std::abs(step); ++ulp)
-                viewport.tolerancePx = std::nextafter(viewport.tolerancePx, step > 0 ? 1.0 : 0.0);
-            compareAt(tree, trace, viewport);
-        }
-    }
-
     void holdsLittleMemory()
     {
         const Viewport viewport = squareViewport(0.0, 0.0, 1.05, 800, 800);

@@ -141,19 +141,21 @@ private Q_SLOTS:
     {
         LimitArea area;
         QVERIFY(area.setCircle({0.1, 0.2}, 0.3, LimitArea::KeepOut));
+        const auto inside = LimitArea::StayInside;
         const double nan = qQNaN();
         for (const double bad : {0.0, -1.0, nan, double(qInf())})
-            QVERIFY(!area.setCircle({0.0, 0.0}, bad, LimitArea::StayInside));
-        QVERIFY(!area.setCircle({nan, 0.0}, 1.0, LimitArea::StayInside));
-        QVERIFY(!area.setPolygon({}, LimitArea::StayInside));
-        QVERIFY(
-            !area.setPolygon(QPolygonF(QVector<QPointF>{{0, 0}, {1, 1}}), LimitArea::StayInside));
-        QVERIFY(!area.setPolygon(QPolygonF({{0, 0}, {1, 0}, {2, 0}}), LimitArea::StayInside));
-        QVERIFY(!area.setPolygon(QPolygonF({{0, 0}, {1, nan}, {2, 0}}), LimitArea::StayInside));
-        QVERIFY(!area.setSector(0.5, 0.5, 0, 90, LimitArea::StayInside));
-        QVERIFY(!area.setSector(-0.1, 0.5, 0, 90, LimitArea::StayInside));
-        QVERIFY(!area.setSector(0.1, 0.5, 90, 90, LimitArea::StayInside));
-        QVERIFY(!area.setSector(0.1, nan, 0, 90, LimitArea::StayInside));
+            QVERIFY(!area.setCircle({0.0, 0.0}, bad, inside));
+        QVERIFY(!area.setCircle({nan, 0.0}, 1.0, inside));
+        for (const QVector<QPointF> &corners : {QVector<QPointF>{},
+                                                {{0, 0}, {1, 1}},
+                                                {{0, 0}, {1, 0}, {2, 0}},
+                                                {{0, 0}, {1, nan}, {2, 0}}})
+            QVERIFY(!area.setPolygon(QPolygonF(corners), inside));
+        for (const auto &[low, high, from, to] : {std::tuple(0.5, 0.5, 0, 90),
+                                                  {-0.1, 0.5, 0, 90},
+                                                  {0.1, 0.5, 90, 90},
+                                                  {0.1, nan, 0, 90}})
+            QVERIFY(!area.setSector(low, high, from, to, inside));
         QCOMPARE(area.rule(), LimitArea::KeepOut);
         QVERIFY(area.contains({0.1, 0.49}) && !area.contains({0.1, 0.51}));
     }

@@ -67,14 +67,6 @@ private Q_SLOTS:
             QCOMPARE(boxOf(panel)->currentIndex(), 3);
         }
     }
-
-    void worksWithoutAProfile()
-    {
-        DisplayPanel panel(nullptr);
-        QCOMPARE(boxOf(panel)->count(), 4);
-        boxOf(panel)->setCurrentIndex(1);
-        QCOMPARE(boxOf(panel)->currentIndex(), -1);
-    }
 };
 
 QTEST_MAIN(tst_DisplayPanel)

@@ -4,6 +4,8 @@
 
 #include <popupscene.h>
 
+#include <functional>
+
 using namespace VnaTest;
 
 namespace
@@ -120,25 +122,20 @@ private Q_SLOTS:
     void listLeavesWithItsButton()
     {
         Scene f;
-        const auto open = [&f] {
+        const std::function<void()> leaves[] = {[&f] { f.button->setEnabled(false); },
+                                                [&f] {
+                                                    f.button->setEnums({{1, "SWR"_s}});
+                                                },
+                                                [&f] { f.window.hide(); }};
+        for (const auto &leave : leaves) {
             f.waitForGuard();
             mouseClick(f.button);
-            return f.isOpen();
-        };
-        QVERIFY(open());
-        f.button->setEnabled(false);
-        QTRY_VERIFY(!f.isOpen());
-        f.button->setEnabled(true);
-        QVERIFY(open());
-        f.button->setEnums({{1, "SWR"_s}});
-        QVERIFY(!f.isOpen());
-        QVERIFY(open());
-        f.window.hide();
-        QTRY_VERIFY(!f.isOpen());
-        f.window.show();
-        QVERIFY(open());
-        delete f.button;
-        QVERIFY(!QApplication::activePopupWidget());
+            QVERIFY(f.isOpen());
+            leave();
+            QTRY_VERIFY(!f.isOpen());
+            f.button->setEnabled(true);
+            f.window.show();
+        }
     }
 };
 

@@ -189,18 +189,6 @@ private Q_SLOTS:
         accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(clicked.count(), 1);
     }
-
-    void slotsMayDeleteTheButton()
-    {
-        for (const auto signal : {&InfoButton::pressed, &InfoButton::released}) {
-            QWidget window;
-            const QPointer<InfoButton> button(new InfoButton(&window));
-            showExposed(&window);
-            connect(button, signal, [button] { delete button.data(); });
-            mouseClick(&window, {5, 5});
-            QVERIFY(!button);
-        }
-    }
 };
 
 QTEST_MAIN(tst_InfoButton)

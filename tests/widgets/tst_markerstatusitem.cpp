@@ -142,11 +142,8 @@ private Q_SLOTS:
         QCOMPARE(item.text("keyLabel"), "untouched"_s);
         item.fill("2"_s);
         QCOMPARE(item.text("keyLabel"), "2.412GHz"_s);
-
         auto *const accessible = QAccessible::queryAccessibleInterface(&item);
-        QCOMPARE(accessible->text(QAccessible::Name), "M1:"_s);
         QCOMPARE(accessible->text(QAccessible::Value), "2.412GHz -1.32dB 2"_s);
-        QVERIFY(!accessible->state().selected);
         item.setSelectedStatus(true);
         QVERIFY(accessible->state().selected);
     }

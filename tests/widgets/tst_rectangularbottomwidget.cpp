@@ -30,21 +30,6 @@ private Q_SLOTS:
         QCOMPARE(shown(bar), told);
     }
 
-    void endsStayWithoutTheSpeed()
-    {
-        RectangularBottomWidget bar;
-        bar.show();
-        const auto *speed = bar.findChild<QLabel *>("sweepSpeedLabel"_s);
-        QVERIFY(qAbs(speed->geometry().center().x() - bar.rect().center().x()) < 20);
-        bar.setSweepSpeedVisible(false);
-        QCoreApplication::processEvents();
-        QVERIFY(!speed->isVisible());
-        QCOMPARE(bar.findChild<QLabel *>("label"_s)->x(), 0);
-        QCOMPARE(bar.findChild<QLabel *>("stopLabel"_s)->geometry().right(), bar.width() - 1);
-        bar.setSweepSpeedVisible(true);
-        QVERIFY(speed->isVisible());
-    }
-
 private:
     /// The visible texts from left to right.
     static QString shown(const QWidget &bar)
