@@ -219,7 +219,6 @@ private Q_SLOTS:
         QCOMPARE(adapter->getRealValue(), 3e9);
         QCOMPARE(left.count(), 1);
         QVERIFY(m_other->hasFocus());
-        QVERIFY(!m_keypad->focusProxy());
 
         // Return and then typing on is another edit, though the focus stayed.
         m_keypad->reject();

@@ -156,8 +156,6 @@ void makeEntry(Scene &s)
         if (auto *const itsField = s.part<EditableWidget>(4)) {
             itsField->onFocus();
             itsField->setEditorText("4GHz"_s, 0, 1, 1);
-            itsField->overrideKeyboardFocusProxy(itsField);
-            itsField->restoreKeyboardFocusProxy();
         }
         QCoreApplication::processEvents();
     };
