@@ -64,11 +64,12 @@ void newDataToPicture(benchmark::State &state, const Trace &trace, Drawn drawn)
     state.counters["displayed"] = drawing.chart.getCurve(1)->dataCount();
 }
 
-void stepToPicture(benchmark::State &state, const Trace &trace)
+void stepToPicture(benchmark::State &state, const Trace &trace, double magnification)
 {
     Drawing drawing(trace, 1, Drawn::ByChart);
     drawing.setData(1, trace);
     drawing.plot.replot(QCustomPlot::rpImmediateRefresh);
+    drawing.chart.zoomAt(QPointF(0.3, 0.2), magnification);
     int step = 0;
     for (auto _ : state) {
         const bool forth = step % 4 < 2;

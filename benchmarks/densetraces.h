@@ -19,8 +19,9 @@ enum class Drawn {
 /// Takes new data and draws it.
 void newDataToPicture(benchmark::State &state, const Trace &trace, Drawn drawn);
 
-/// Magnifies by a step, moves by a tenth of the view, and goes back the same way; draws each time.
-void stepToPicture(benchmark::State &state, const Trace &trace);
+/// In a view that is magnified: magnifies by a step, moves by a tenth of the view, and goes back the
+/// same way; draws each time.
+void stepToPicture(benchmark::State &state, const Trace &trace, double magnification);
 
 /// Draws four traces, each turned by another quarter, once more.
 void replotFour(benchmark::State &state, const Trace &trace, Drawn drawn);

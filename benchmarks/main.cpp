@@ -275,7 +275,6 @@ void addDense(RatioTable &table, const std::string &data, int points, double tar
     add("plain curve, " + name, [trace](benchmark::State &state) {
         newDataToPicture(state, trace(), Drawn::AsPlainCurve);
     });
-    add("view step, " + name, [trace](benchmark::State &state) { stepToPicture(state, trace()); });
     table.addRow({data + ", to a plain curve",
                   points,
                   Row::ShareOfRest,
@@ -284,15 +283,23 @@ void addDense(RatioTable &table, const std::string &data, int points, double tar
                   {"plain curve, " + name},
                   "grid",
                   "grid"});
-    const bool isHalf = data == "noise 2 %" && points == 1000000;
-    table.addRow({data + ", zoom or pan, to new data",
-                  points,
-                  Row::ShareOfRest,
-                  isHalf ? 0.5 : 1.0,
-                  "view step, " + name,
-                  {"new data, " + name},
-                  "view step, grid",
-                  "grid"});
+    const auto addSteps = [&](const std::string &view, double magnification, double most) {
+        const std::string steps = "view step" + view + ", ";
+        add(steps + name, [trace, magnification](benchmark::State &state) {
+            stepToPicture(state, trace(), magnification);
+        });
+        table.addRow({data + ", zoom or pan" + view,
+                      points,
+                      Row::ShareOfRest,
+                      most,
+                      steps + name,
+                      {"new data, " + name},
+                      steps + "grid",
+                      "grid"});
+    };
+    addSteps("", 1.0, 1.0);
+    if (data == "noise 2 %" && points == 1000000)
+        addSteps(" at 4 x", 4.0, 0.5);
 }
 
 void addDenseTraces(RatioTable &table, unsigned seed)
@@ -301,7 +308,8 @@ void addDenseTraces(RatioTable &table, unsigned seed)
     constexpr int frameMs = 16;
 
     add("grid", [](benchmark::State &state) { newDataToPicture(state, {}, Drawn::ByChart); });
-    add("view step, grid", [](benchmark::State &state) { stepToPicture(state, {}); });
+    add("view step, grid", [](benchmark::State &state) { stepToPicture(state, {}, 1.0); });
+    add("view step at 4 x, grid", [](benchmark::State &state) { stepToPicture(state, {}, 4.0); });
     for (const auto &[points, target] : {std::pair(1601, 1.0), std::pair(million, 0.05)})
         addDense(table, "clean", points, target, [points = points] { return spiral(points, 3.0); });
 

@@ -140,8 +140,7 @@ bool CoverageBoostCurve::drawByMask(QCPPainter *painter) const
     const DeviceScale y = scaleOf(values, toDevice.m22(), toDevice.dy() - area.top());
     const double offset = secondStrokeOffset(painter) * toDevice.m11();
 
-    static thread_local SmithRender::StrokeMask reused; // as large as the chart, and empty again
-    SmithRender::StrokeMask &mask = reused;
+    SmithRender::StrokeMask &mask = SmithRender::StrokeMask::ofThisThread();
     const QRectF seen = toDevice.mapRect(QRectF(clipRect()));
     mask.reset(area.width(), area.height(), inMask(topLeft, bottomRight),
                inMask(seen.topLeft(), seen.bottomRight()));

@@ -35,6 +35,12 @@ inline void multiply(std::uint8_t &clear, unsigned passing)
 
 } // namespace
 
+StrokeMask &StrokeMask::ofThisThread()
+{
+    static thread_local StrokeMask mask;
+    return mask;
+}
+
 void StrokeMask::reset(int width, int height, const Bounds &bounds, const Bounds &seen)
 {
     m_bounds = bounds;
@@ -59,6 +65,8 @@ void StrokeMask::setPen(double opacity, int strokes)
         const double one = 1.0 - opacity * static_cast<double>(i) / 255.0;
         m_passing[i] = static_cast<std::uint16_t>(std::lround(256.0 * std::pow(one, strokes)));
     }
+    for (size_t i = 0; i < m_passing.size(); ++i)
+        m_passingBoth[i] = m_passing[255 - i] | std::uint32_t(m_passing[i]) << 16;
 }
 
 /// Notes that a stroke comes to a tile and its neighbours, which may be itself again.
@@ -110,6 +118,7 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
     std::uint8_t *const clear = m_clear.data();
     Tile *const tiles = m_tiles.data();
     const std::uint16_t *const passing = m_passing.data();
+    const std::uint32_t *const passingBoth = m_passingBoth.data();
 
     const auto vAt = [&](int column) { return v + vStep * (column - first); };
     // For two columns so near to each other that the line comes to two tiles each way at most.
@@ -135,8 +144,9 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
         for (; from < end; ++from, pixel += along, at += vStep) {
             const unsigned share = (static_cast<unsigned>(at) >> (fractionBits - 8)) & 255;
             std::uint8_t *const near = pixel + (at >> fractionBits) * across;
-            multiply(near[0], passing[255 - share]);
-            multiply(near[across], passing[share]);
+            const std::uint32_t both = passingBoth[share];
+            multiply(near[0], both & 0xffff);
+            multiply(near[across], both >> 16);
         }
     };
     // How much of the line lies in the first column and in the last one, if that is another.

@@ -31,6 +31,9 @@ public:
         double bottom = 0.0;
     };
 
+    /// One that is kept from picture to picture. (Elsewhere, loops would look for it at every turn.)
+    static StrokeMask &ofThisThread();
+
     /// Makes the mask as large as that; it must be empty. Lines are cut at \a bounds, up to a few
     /// pixels outside, and capped there. Segments beyond one side of \a seen are left out.
     void reset(int width, int height, const Bounds &bounds, const Bounds &seen);
@@ -128,6 +131,8 @@ private:
     int m_cellStride = 0; ///< bytes of a row of them; it ends in padding
     bool m_hasFullCells = false;
     std::array<std::uint16_t, 256> m_passing{}; ///< of 256, by coverage
+    /// For both pixels of a column, by the coverage of the second one.
+    std::array<std::uint32_t, 256> m_passingBoth{};
 };
 
 template<typename PointAt>
