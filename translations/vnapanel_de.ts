@@ -389,6 +389,10 @@
         <source>None</source>
         <translation>Keiner</translation>
     </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageBar</name>
@@ -624,6 +628,10 @@
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
+    <message>
+        <source>Bandwidth</source>
+        <translation>Bandbreite</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -730,6 +738,14 @@
     <message>
         <source>Tap a trace twice to set a marker.</source>
         <translation>Zweimal antippen setzt Marker.</translation>
+    </message>
+    <message>
+        <source>Bandwidth %1 dB</source>
+        <translation>Bandbreite %1 dB</translation>
+    </message>
+    <message>
+        <source>centre %1</source>
+        <translation>Mitte %1</translation>
     </message>
 </context>
 <context>

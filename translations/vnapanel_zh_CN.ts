@@ -383,6 +383,10 @@
         <source>None</source>
         <translation>无</translation>
     </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageBar</name>
@@ -618,6 +622,10 @@
         <source>Save</source>
         <translation>保存</translation>
     </message>
+    <message>
+        <source>Bandwidth</source>
+        <translation>带宽</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -723,6 +731,14 @@
     <message>
         <source>Tap a trace twice to set a marker.</source>
         <translation>双击轨迹以设置标记。</translation>
+    </message>
+    <message>
+        <source>Bandwidth %1 dB</source>
+        <translation>带宽 %1 dB</translation>
+    </message>
+    <message>
+        <source>centre %1</source>
+        <translation>中心 %1</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,9 @@
 #include "markerreading.h"
 
 #include <panel/ground/look.h>
+#include <panel/ground/numbertext.h>
+#include <panel/model/bandwidth.h>
+#include <panel/model/cartesian.h>
 
 #include <controls/thememanager.h>
 #include <widgets/markerstatusitem.h>
@@ -42,6 +45,7 @@ ReadOuts::ReadOuts(const PanelModel *model, QWidget *parent)
     : QScrollArea(parent)
     , m_model(model)
     , m_hint(new QLabel(tr("Tap a trace twice to set a marker."), this))
+    , m_bandwidth(new QLabel)
 {
     setAccessibleName(tr("Markers"));
     setFrameShape(QFrame::NoFrame);
@@ -54,6 +58,11 @@ ReadOuts::ReadOuts(const PanelModel *model, QWidget *parent)
     m_hint->setObjectName(QStringLiteral("dim"));
     m_hint->setIndent(6 + s_margin);
     m_hint->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_bandwidth->setParent(widget());
+    m_bandwidth->setObjectName(QStringLiteral("dim"));
+    m_bandwidth->setIndent(6 + s_margin);
+    m_bandwidth->setWordWrap(true);
+    m_bandwidth->setAttribute(Qt::WA_TransparentForMouseEvents);
     forgetWidths();
 
     connect(m_model, &PanelModel::stimulusChanged, this, &ReadOuts::refresh);
@@ -121,11 +130,31 @@ void ReadOuts::refresh()
         m_texts.append(textsOf(marker));
         widenColumns(m_texts.last());
     }
+    m_bandwidth->setText(bandwidthText());
     arrange();
     for (const Line &line : qAsConst(m_lines)) {
         if (line.marker >= 0 && m_model->isSelected(m_markers.at(line.marker)))
             ensureWidgetVisible(line.item, 0, 0);
     }
+}
+
+/// What is read of the band around the selected marker; empty while it is not asked for.
+QString ReadOuts::bandwidthText() const
+{
+    const double step = m_model->viewSettings()->bandwidthDecibels();
+    const Marker *selected = m_model->selectedMarker();
+    if (step == 0.0 || !selected || !m_traces.contains(selected->trace))
+        return {};
+    const std::optional<Bandwidth> band = bandwidthAt(
+        m_model->traceData(*m_model->trace(selected->trace)), m_model->indexOf(*selected), step);
+    const QString name = tr("Bandwidth %1 dB").arg(step);
+    if (!band)
+        return name + QLatin1Char(' ') + nothingText();
+    const QString separator = QStringLiteral(" \u00b7 ");
+    return name + QLatin1Char(' ') + frequencyText(band->width()) + separator
+        + tr("centre %1").arg(frequencyText(band->centre())) + separator
+        + QStringLiteral("Q %1").arg(band->quality(), 0, 'g', 4) + separator
+        + cartesianText(band->decibels, TraceFormat::LogMagnitude);
 }
 
 /// What is read of a marker: its frequency and its values.
@@ -202,6 +231,13 @@ void ReadOuts::arrange()
         if (i >= used)
             m_lines[i].marker = -1;
     }
+    const bool banded = !m_bandwidth->text().isEmpty();
+    if (banded) {
+        y += lineHeight();
+        m_bandwidth->setGeometry(0, y, width, m_bandwidth->heightForWidth(width));
+        y += m_bandwidth->height() - lineHeight();
+    }
+    m_bandwidth->setVisible(banded);
     widget()->resize(width, y + lineHeight());
     m_hint->setVisible(m_markers.isEmpty());
     m_hint->setGeometry(0, 0, width, qMax(lineHeight(), m_hint->heightForWidth(width)));

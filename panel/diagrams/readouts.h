@@ -13,7 +13,8 @@ namespace Panel
 {
 
 /*! The read-outs of the markers of a diagram: trace by trace in their colours, the selected one with
-    a dot, the others as their difference from their trace's reference marker where it has one.
+    a dot, the others as their difference from their trace's reference marker where it has one; then
+    the bandwidth around the selected one.
 
     Rows keep their order. The size follows from the room alone, never from how many markers there
     are, so that the diagram below does not move; what does not fit scrolls under a finger. A tap on
@@ -54,6 +55,7 @@ private:
 
     void refresh();
     void refreshTrace(int traceId);
+    QString bandwidthText() const;
     QStringList textsOf(const Marker &marker) const;
     QString nameOf(const Marker &marker) const;
     void widenColumns(const QStringList &texts);
@@ -66,6 +68,7 @@ private:
 
     const PanelModel *m_model;
     QLabel *m_hint; ///< in place of the rows while there are none
+    QLabel *m_bandwidth; ///< below the rows, where it is asked for
     QVector<int> m_traces;
     QVector<Marker> m_markers;
     QVector<QStringList> m_texts; ///< of the markers

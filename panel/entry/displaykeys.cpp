@@ -3,13 +3,9 @@
 #include "displaykeys.h"
 
 #include "softkey.h"
+#include "valuechoices.h"
 
 #include <panel/model/panelmodel.h>
-
-#include <QLocale>
-
-#include <algorithm>
-#include <array>
 
 namespace Panel
 {
@@ -18,13 +14,10 @@ namespace
 {
 
 /// Standing wave ratios to choose from.
-constexpr std::array<double, 7> s_ratios{1.1, 1.2, 1.5, 2.0, 3.0, 5.0, 10.0};
-
-/// The place of a ratio in the list, behind Off; Off for one that is not in it.
-int choiceOf(double ratio)
+const ValueChoices &ratios()
 {
-    const auto found = std::find(s_ratios.begin(), s_ratios.end(), ratio);
-    return found == s_ratios.end() ? 0 : int(found - s_ratios.begin()) + 1;
+    static const ValueChoices choices{{1.1, 1.2, 1.5, 2.0, 3.0, 5.0, 10.0}};
+    return choices;
 }
 
 } // namespace
@@ -44,17 +37,13 @@ DisplayKeys::DisplayKeys(PanelModel *model, const PanelKeys &keys, QObject *pare
     keys.gridLabels->setChoices({tr("Ohms"), tr("Normalised")});
     connect(keys.gridLabels, &SoftKey::choicePicked, settings,
             [settings](int index) { settings->setGridLabels(GridLabels(index)); });
-    QStringList ratios{tr("Off")};
-    for (const double ratio : s_ratios)
-        ratios << QLocale::c().toString(ratio);
-    keys.vswrCircle->setChoices(ratios);
-    connect(keys.vswrCircle, &SoftKey::choicePicked, settings, [settings](int index) {
-        settings->setVswrCircle(index > 0 ? s_ratios.at(size_t(index - 1)) : 0.0);
-    });
-    keys.vswrLimit->setChoices(ratios);
-    connect(keys.vswrLimit, &SoftKey::choicePicked, settings, [settings](int index) {
-        settings->setVswrLimit(index > 0 ? s_ratios.at(size_t(index - 1)) : 0.0);
-    });
+    const QStringList names = ratios().names(tr("Off"), QStringLiteral("%1"));
+    keys.vswrCircle->setChoices(names);
+    connect(keys.vswrCircle, &SoftKey::choicePicked, settings,
+            [settings](int index) { settings->setVswrCircle(ratios().valueOf(index)); });
+    keys.vswrLimit->setChoices(names);
+    connect(keys.vswrLimit, &SoftKey::choicePicked, settings,
+            [settings](int index) { settings->setVswrLimit(ratios().valueOf(index)); });
     keys.pointer->setChoices({tr("All traces"), tr("Active only")});
     connect(keys.pointer, &SoftKey::choicePicked, settings,
             [settings](int index) { settings->setOnlyActiveTrace(index == 1); });
@@ -75,8 +64,8 @@ void DisplayKeys::showSettings()
     m_keys.grid->setChoice(settings->gridMode());
     m_keys.density->setChoice(int(settings->density()));
     m_keys.gridLabels->setChoice(int(settings->gridLabels()));
-    m_keys.vswrCircle->setChoice(choiceOf(settings->vswrCircle()));
-    m_keys.vswrLimit->setChoice(choiceOf(settings->vswrLimit()));
+    m_keys.vswrCircle->setChoice(ratios().choiceOf(settings->vswrCircle()));
+    m_keys.vswrLimit->setChoice(ratios().choiceOf(settings->vswrLimit()));
     m_keys.pointer->setChoice(settings->onlyActiveTrace());
     const Trace *active = m_model->activeTrace();
     for (SoftKey *key :

@@ -3,6 +3,7 @@
 #include "markercontroller.h"
 
 #include "softkey.h"
+#include "valuechoices.h"
 #include <panel/ground/numbertext.h>
 #include <panel/model/markersearch.h>
 #include <panel/model/panelmodel.h>
@@ -34,6 +35,13 @@ enum MarkerTo {
 /// Where a further marker of a trace goes, as a share of its data: each halves the largest gap that
 /// the ones before have left.
 constexpr double s_places[Markers::perTrace] = {0.5, 0.25, 0.75, 0.125, 0.625, 0.375};
+
+/// Where the edges of a band are, in dB from the marker.
+const ValueChoices &bandwidths()
+{
+    static const ValueChoices choices{{1.0, 3.0, 6.0, 10.0, 20.0}};
+    return choices;
+}
 
 } // namespace
 
@@ -67,6 +75,11 @@ MarkerController::MarkerController(PanelModel *model, const PanelKeys &keys, QOb
     keys.readout->setChoices(formats);
     connect(keys.readout, &SoftKey::choicePicked, this,
             [this](int index) { m_model->viewSettings()->setReadoutFormat(ReadoutFormat(index)); });
+
+    keys.bandwidth->setChoices(bandwidths().names(tr("Off"), QStringLiteral("%1 dB")));
+    connect(keys.bandwidth, &SoftKey::choicePicked, this, [this](int index) {
+        m_model->viewSettings()->setBandwidthDecibels(bandwidths().valueOf(index));
+    });
 
     for (const auto signal : {&PanelModel::activeTraceChanged, &PanelModel::selectedMarkerChanged,
                               &PanelModel::tracesChanged})
@@ -164,6 +177,7 @@ void MarkerController::showMarkers()
     keys.referenceMarker->setChoices(references);
     keys.referenceMarker->setChoice(referenceIndex);
     keys.readout->setChoice(int(m_model->viewSettings()->readoutFormat()));
+    keys.bandwidth->setChoice(bandwidths().choiceOf(m_model->viewSettings()->bandwidthDecibels()));
     keys.marker->setEnabled(trace);
     keys.search->setEnabled(trace);
     keys.markerTo->setEnabled(selected);

@@ -10,7 +10,6 @@
 #include <panel/ground/numbertext.h>
 #include <panel/model/cartesian.h>
 
-
 #include <cmath>
 
 namespace Panel

@@ -70,6 +70,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.markerTo = addMenu(menu, Text::tr("Marker to"));
     keys.referenceMarker = menu->addKey(Text::tr("Reference"));
     keys.readout = menu->addKey(Text::tr("Read-out"));
+    keys.bandwidth = menu->addKey(Text::tr("Bandwidth"));
 
     menu->addPage(Text::tr("Limits"), Glyph::Limits);
     keys.vswrCircle = menu->addKey(Text::tr("VSWR circle"));

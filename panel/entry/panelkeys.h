@@ -38,6 +38,7 @@ struct PanelKeys {
     MenuButton *markerTo;
     SoftKey *referenceMarker;
     SoftKey *readout;
+    SoftKey *bandwidth; ///< how far down, or up, the edges of a band are
     // Limits
     SoftKey *vswrCircle; ///< a circle on the Smith charts, to read against
     SoftKey *vswrLimit; ///< an area that traces on the Smith charts must stay in

@@ -275,8 +275,8 @@ QStringList PanelState::files() const
 void PanelState::restoreLook() const
 {
     using Controls::ThemeManager;
-    const auto look = ThemeManager::Theme(
-        m_saved["look"_key].toInt(ThemeManager::instance()->currentTheme()));
+    const auto look =
+        ThemeManager::Theme(m_saved["look"_key].toInt(ThemeManager::instance()->currentTheme()));
     if (look != ThemeManager::instance()->currentTheme())
         ThemeManager::instance()->setTheme(look);
 }
@@ -294,6 +294,7 @@ void PanelState::restore(PanelModel *model, bool withSource) const
         view->setGridLabels(GridLabels(m_saved["gridLabels"_key].toInt()));
     view->setVswrCircle(m_saved["vswrCircle"_key].toDouble());
     view->setVswrLimit(m_saved["vswrLimit"_key].toDouble());
+    view->setBandwidthDecibels(m_saved["bandwidth"_key].toDouble());
     view->setReadoutFormat(ReadoutFormat(m_saved["readout"_key].toInt()));
     view->setOnlyActiveTrace(m_saved["onlyActiveTrace"_key].toBool());
     model->preferences()->setExportFolder(m_saved["screenshots"_key].toString());
@@ -339,6 +340,7 @@ bool PanelState::save(const PanelModel &model, const QString &path)
         {"gridLabels"_key, int(view->gridLabels())},
         {"vswrCircle"_key, view->vswrCircle()},
         {"vswrLimit"_key, view->vswrLimit()},
+        {"bandwidth"_key, view->bandwidthDecibels()},
         {"readout"_key, int(view->readoutFormat())},
         {"onlyActiveTrace"_key, view->onlyActiveTrace()},
         {"markersDiscrete"_key, model.markersDiscrete()},

@@ -54,6 +54,14 @@ public:
     /// Whether taps and drags reach the active trace only, and not the one under the pointer.
     bool onlyActiveTrace() const { return m_onlyActiveTrace; }
 
+    /// The fall or rise at whose ends a bandwidth is read of the selected marker, in dB, or 0.
+    double bandwidthDecibels() const { return m_bandwidthDecibels; }
+
+    /// Anything but a finite number above 0 ends it.
+    void setBandwidthDecibels(double decibels)
+    {
+        set(m_bandwidthDecibels, std::isfinite(decibels) && decibels > 0.0 ? decibels : 0.0);
+    }
     void setGridMode(SmithChartPlot::GridMode mode) { set(m_gridMode, mode); }
     void setDensity(GridDensity density) { set(m_density, density); }
     void setGridLabels(GridLabels labels) { set(m_gridLabels, labels); }
@@ -88,6 +96,7 @@ private:
     GridLabels m_gridLabels = GridLabels::Ohms;
     double m_vswrCircle = 0.0;
     double m_vswrLimit = 0.0;
+    double m_bandwidthDecibels = 0.0;
     ReadoutFormat m_readoutFormat = ReadoutFormat::Automatic;
     bool m_onlyActiveTrace = false;
 };

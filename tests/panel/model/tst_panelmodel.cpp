@@ -4,6 +4,7 @@
 
 #include <panel/diagrams/markerreading.h>
 #include <panel/ground/numbertext.h>
+#include <panel/model/bandwidth.h>
 #include <panel/model/markersearch.h>
 #include <panel/model/panelmodel.h>
 
@@ -191,6 +192,32 @@ private Q_SLOTS:
         one.parameters = {{{-1.0, -1.0}, {std::tan(0.01), -std::tan(0.01)}}};
         QCOMPARE(readOnCartesian(at(1.0), TraceFormat::Phase, at(0.0)).values,
                  QStringList{"1.1\u00b0"_s});
+    }
+
+    /// A resonance of known Q, as a peak and as a notch, read between coarse points.
+    void readsBandwidths()
+    {
+        constexpr double centre = 2.45e9, quality = 25.0;
+        for (const bool notch : {false, true}) {
+            TraceData data;
+            for (double hertz = 2e9; hertz < 3e9; hertz += 1e6) {
+                // H = 1 / (1 + jQ (f / f0 - f0 / f)), or 1.01 - H.
+                const std::complex<double> peak =
+                    1.0 / std::complex<double>(1.0, quality * (hertz / centre - centre / hertz));
+                const std::complex<double> value = notch ? 1.01 - peak : peak;
+                data.frequencies << hertz;
+                data.parameter.real << value.real();
+                data.parameter.imag << value.imag();
+            }
+            const auto band = bandwidthAt(data, 450.0, notch ? 37.0 : 10.0 * std::log10(2.0));
+            QVERIFY(band && band->notch == notch);
+            QVERIFY(std::abs(band->decibels - (notch ? -40.0 : 0.0)) < 1e-6);
+            QVERIFY(std::abs(band->width() * quality / centre - 1.0) < (notch ? 0.02 : 1e-3));
+            QVERIFY(std::abs(band->centre() / centre - 1.0) < 1e-3);
+            // The flank falls on one side only; the data end.
+            QVERIFY(!bandwidthAt(data, 400.0, 0.5) && !bandwidthAt(data, 450.0, 50.0));
+        }
+        QVERIFY(!bandwidthAt({}, 0.0, 3.0));
     }
 
     void searches()
