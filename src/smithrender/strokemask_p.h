@@ -109,12 +109,16 @@ private:
         const std::uint64_t wanted = ((std::uint64_t(1) << count) - 1) << (first & 7);
         const std::uint8_t *bits =
             m_fullCells.data() + std::ptrdiff_t(top >> cellShift) * m_cellStride + (first >> 3);
-        std::uint64_t found = wanted;
-        for (int row = top >> cellShift; row <= bottom >> cellShift; ++row, bits += m_cellStride) {
+        // Three rows at once, some of them twice, as most segments are short.
+        const int more = (bottom >> cellShift) - (top >> cellShift);
+        const auto rowAt = [bits, this](int row) {
             std::uint64_t full;
-            std::memcpy(&full, bits, sizeof full);
-            found &= full;
-        }
+            std::memcpy(&full, bits + std::ptrdiff_t(row) * m_cellStride, sizeof full);
+            return full;
+        };
+        std::uint64_t found = wanted & rowAt(0) & rowAt(more) & rowAt((more + 1) / 2);
+        for (int row = 1; row < more && more > 2 && found == wanted; ++row)
+            found &= rowAt(row);
         return found == wanted;
     }
 
