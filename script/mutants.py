@@ -38,6 +38,8 @@ TESTS = [
     (r"smithchart/smithchartplot|smithchart/coverage", "tst_smithchart|fuzz_smithchart"),
     (r"smithchart/(gridgeometry|viewstate)", "tst_gridgeometry|tst_viewstate|tst_smithchartplot"),
     (r"smithchart/columnextremes", "tst_columnextremes"),
+    (r"smithchart/(viewgrid|gridarc)", "tst_viewgrid|tst_smithchartgrid"),
+    (r"smithchart/(limit|smithlimit|circle|smithcircle)", "tst_limitarea|tst_smithlimit|tst_circle"),
     (r"smithrender/|smithchart/", "tst_decimation|fuzz_traces|tst_vectorkernels|tst_indexedtrace"),
     (r"plot/", "tst_marker$|tst_qcp|tst_smithchart"),
     (r"utils/", "tst_formatting|tst_propertywatcher|adapter|stepcontroller"),
