@@ -154,6 +154,7 @@ private Q_SLOTS:
         limit->setVisible(false);
         delete f.chart; // and the limit with it
         SmithChartPlot chart(nullptr, SmithChart::Basic);
+        QVERIFY(!chart.addCurve(1, QPen()) && !chart.beginMarkerDragAt({}) && !chart.getPlot());
         SmithLimit none(&chart);
         QVERIFY(none.test(1).passed());
     }
