@@ -121,9 +121,9 @@ private:
     {
         double lowest = qInf(), highest = -qInf();
         for (const int id : m_view->traceIds()) {
-            const QVector<double> &hertz = m_model.network(*m_model.trace(id)).frequencies;
-            lowest = std::min(lowest, hertz.first());
-            highest = std::max(highest, hertz.last());
+            const Stimulus shown = m_model.shownRange(*m_model.trace(id));
+            lowest = std::min(lowest, shown.start);
+            highest = std::max(highest, shown.stop);
         }
         // A single frequency stands in the middle.
         const QCPRange whole =

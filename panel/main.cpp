@@ -188,6 +188,12 @@ int main(int argc, char **argv)
     StateKeeper keeper(&model, state.path());
     if (opened && !commandLine.files.isEmpty())
         keeper.noteChange(); // what was asked for is what the next start goes back to
+    QObject::connect(&keeper, &StateKeeper::failed, window.messageBar(), [&](const QString &path) {
+        window.messageBar()->setMessage(
+            QCoreApplication::translate("Panel::PanelWindow",
+                                        "What you set cannot be kept: %1 cannot be written.")
+                .arg(path));
+    });
     const QuitSignals quitSignals;
     const int status = QApplication::exec();
     if (keeper.save())

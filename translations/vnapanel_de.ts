@@ -23,6 +23,10 @@
         <source>%1 lies below: fit</source>
         <translation>%1 liegt darunter: einpassen</translation>
     </message>
+    <message>
+        <source>own scale: %1</source>
+        <translation>eigene Skala: %1</translation>
+    </message>
 </context>
 <context>
     <name>Panel::DiagramView</name>
@@ -370,10 +374,6 @@
         <translation>Kurve %1 hat schon alle %2 Marker: Für einen neuen zuerst einen entfernen.</translation>
     </message>
     <message>
-        <source>Trace %1 has no such point.</source>
-        <translation>Kurve %1 hat keinen solchen Punkt.</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Hinzufügen</translation>
     </message>
@@ -392,6 +392,10 @@
     <message>
         <source>Off</source>
         <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Trace %1 has no further peak of %2 that way.</source>
+        <translation>Kurve %1 hat dort keine weitere Spitze von %2.</translation>
     </message>
 </context>
 <context>
@@ -717,6 +721,10 @@
         <source>Open a Touchstone file (.s1p, .s2p, .ts) to see it.</source>
         <translation>Eine Touchstone-Datei (.s1p, .s2p, .ts) öffnen, um sie zu sehen.</translation>
     </message>
+    <message>
+        <source>What you set cannot be kept: %1 cannot be written.</source>
+        <translation>Einstellungen können nicht behalten werden: %1 kann nicht geschrieben werden.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::ParameterMatrix</name>
@@ -808,6 +816,10 @@
     <message>
         <source>FAIL</source>
         <translation>VERLETZT</translation>
+    </message>
+    <message>
+        <source>normalised, Tr%1 to %2</source>
+        <translation>normiert, Tr%1 auf %2</translation>
     </message>
 </context>
 <context>

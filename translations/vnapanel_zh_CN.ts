@@ -23,6 +23,10 @@
         <source>%1 lies below: fit</source>
         <translation>%1 在下方：适配</translation>
     </message>
+    <message>
+        <source>own scale: %1</source>
+        <translation>独立刻度：%1</translation>
+    </message>
 </context>
 <context>
     <name>Panel::DiagramView</name>
@@ -364,10 +368,6 @@
         <translation>轨迹 %1 已有全部 %2 个标记：请先删除一个。</translation>
     </message>
     <message>
-        <source>Trace %1 has no such point.</source>
-        <translation>轨迹 %1 上没有这样的点。</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>添加</translation>
     </message>
@@ -386,6 +386,10 @@
     <message>
         <source>Off</source>
         <translation>关</translation>
+    </message>
+    <message>
+        <source>Trace %1 has no further peak of %2 that way.</source>
+        <translation>轨迹 %1 在该方向没有更多 %2 的峰值。</translation>
     </message>
 </context>
 <context>
@@ -710,6 +714,10 @@
         <source>Open a Touchstone file (.s1p, .s2p, .ts) to see it.</source>
         <translation>打开 Touchstone 文件（.s1p、.s2p、.ts）即可查看。</translation>
     </message>
+    <message>
+        <source>What you set cannot be kept: %1 cannot be written.</source>
+        <translation>设置无法保存：无法写入 %1。</translation>
+    </message>
 </context>
 <context>
     <name>Panel::ParameterMatrix</name>
@@ -801,6 +809,10 @@
     <message>
         <source>FAIL</source>
         <translation>不通过</translation>
+    </message>
+    <message>
+        <source>normalised, Tr%1 to %2</source>
+        <translation>归一化，Tr%1 至 %2</translation>
     </message>
 </context>
 <context>

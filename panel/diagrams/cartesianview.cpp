@@ -190,11 +190,9 @@ bool CartesianView::fitFrequencies()
 {
     double lowest = qInf(), highest = -qInf();
     for (const Trace &trace : traces()) {
-        const QVector<double> &frequencies = m_model->network(trace).frequencies;
-        if (frequencies.isEmpty())
-            continue;
-        lowest = qMin(lowest, frequencies.first());
-        highest = qMax(highest, frequencies.last());
+        const Stimulus range = m_model->shownRange(trace);
+        lowest = qMin(lowest, range.start);
+        highest = qMax(highest, range.stop);
     }
     if (lowest > highest)
         lowest = highest = 0.0;
@@ -336,9 +334,9 @@ void CartesianView::placeMarker(const Trace &trace, const Marker &placed)
         && m_frequencies.range().contains(hertz);
     if (shown) {
         // Beyond the scale it stands at the diagram's edge, of which the upper one lies a pixel
-        // outside for the plot.
+        // outside for the plot; what stands on that pixel's border must not be rounded out of it.
         const QCPRange scale = m_lines.at(trace.id).values->range();
-        const double pixel = scale.size() / qMax(2, m_laidOut.height());
+        const double pixel = 1.001 * scale.size() / qMax(2, m_laidOut.height());
         marker.setPositionCoordinates(graph(trace.id), hertz,
                                       qBound(scale.lower, value, scale.upper - pixel));
     }
@@ -406,8 +404,18 @@ QStringList CartesianView::titleParts() const
     const Trace *active = activeTrace();
     if (!active)
         return {};
-    return {formatName(active->format), divisionText(active->format, active->scale.perDivision),
-            tr("ref %1").arg(cartesianReferenceText(active->scale.top, active->format))};
+    QStringList parts{formatName(active->format),
+                      divisionText(active->format, active->scale.perDivision),
+                      tr("ref %1").arg(cartesianReferenceText(active->scale.top, active->format))};
+    // The numbers beside the axis are the active trace's.
+    QStringList others;
+    for (const Trace &trace : traces()) {
+        if (trace.visible && (trace.format != active->format || trace.scale != active->scale))
+            others << QStringLiteral("Tr%1").arg(trace.id);
+    }
+    if (!others.isEmpty())
+        parts << tr("own scale: %1").arg(others.join(QLatin1String(", ")));
+    return parts;
 }
 
 int CartesianView::drawnPoints() const

@@ -70,12 +70,11 @@ bool ChartGestures::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Gesture:
         return onGesture(static_cast<QGestureEvent *>(event));
     case QEvent::KeyPress:
-        return handleKey(m_model, m_view, static_cast<QKeyEvent *>(event));
-    case QEvent::FocusIn:
-        // By a key: a press decides by what lies under it.
-        if (static_cast<QFocusEvent *>(event)->reason() != Qt::MouseFocusReason)
-            activate();
-        break;
+        // The focus alone activates nothing: Tab only passes by.
+        if (!handleKey(m_model, m_view, static_cast<QKeyEvent *>(event)))
+            return false;
+        activate();
+        return true;
     case QEvent::Hide:
     case QEvent::UngrabMouse:
     case QEvent::WindowBlocked:
@@ -226,7 +225,6 @@ bool ChartGestures::handleKey(PanelModel *model, DiagramView *view, const QKeyEv
         model->selectMarker(0, 0);
         return true;
     case Qt::Key_Delete:
-    case Qt::Key_Backspace:
         if (selected)
             model->removeMarker(selected->trace, selected->number);
         return true;

@@ -14,6 +14,7 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QScrollBar>
 #include <QScroller>
 
 namespace Panel
@@ -26,7 +27,7 @@ constexpr int s_margin = 4;
 /// Between the texts of two columns, in pixels.
 constexpr int s_gap = 14;
 /// A row for so much height of the diagram, in pixels, and the most rows.
-constexpr int s_heightForARow = 190;
+constexpr int s_heightForARow = 110;
 constexpr int s_mostRows = 4;
 /// What a row takes whose three values stand on one line, and what one takes whose values fold, in
 /// pixels.
@@ -46,6 +47,7 @@ ReadOuts::ReadOuts(const PanelModel *model, QWidget *parent)
     , m_model(model)
     , m_hint(new QLabel(tr("Tap a trace twice to set a marker."), this))
     , m_bandwidth(new QLabel)
+    , m_more(new QLabel(this))
 {
     setAccessibleName(tr("Markers"));
     setFrameShape(QFrame::NoFrame);
@@ -58,6 +60,9 @@ ReadOuts::ReadOuts(const PanelModel *model, QWidget *parent)
     m_hint->setObjectName(QStringLiteral("dim"));
     m_hint->setIndent(6 + s_margin);
     m_hint->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_more->setObjectName(QStringLiteral("more"));
+    m_more->setAttribute(Qt::WA_TransparentForMouseEvents);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &ReadOuts::showMore);
     m_bandwidth->setParent(widget());
     m_bandwidth->setObjectName(QStringLiteral("dim"));
     m_bandwidth->setIndent(6 + s_margin);
@@ -132,10 +137,34 @@ void ReadOuts::refresh()
     }
     m_bandwidth->setText(bandwidthText());
     arrange();
+    showSelected();
+}
+
+/// Scrolls to the selected marker.
+void ReadOuts::showSelected()
+{
     for (const Line &line : qAsConst(m_lines)) {
         if (line.marker >= 0 && m_model->isSelected(m_markers.at(line.marker)))
             ensureWidgetVisible(line.item, 0, 0);
     }
+    showMore();
+}
+
+/// Says how many markers cannot be seen.
+void ReadOuts::showMore()
+{
+    const QRect seen(QPoint(horizontalScrollBar()->value(), verticalScrollBar()->value()),
+                     viewport()->size());
+    QVector<int> hidden;
+    for (const Line &line : qAsConst(m_lines)) {
+        if (line.marker >= 0 && !seen.contains(line.item->geometry().center())
+            && !hidden.contains(line.marker))
+            hidden.append(line.marker);
+    }
+    m_more->setVisible(!hidden.isEmpty());
+    m_more->setText(QStringLiteral("+%1").arg(hidden.size()));
+    m_more->adjustSize();
+    m_more->move(width() - m_more->width() - s_margin, height() - m_more->height());
 }
 
 /// What is read of the band around the selected marker; empty while it is not asked for.
@@ -289,6 +318,7 @@ void ReadOuts::resizeEvent(QResizeEvent *event)
 {
     QScrollArea::resizeEvent(event);
     arrange();
+    showSelected();
 }
 
 void ReadOuts::changeEvent(QEvent *event)

@@ -62,6 +62,8 @@ private:
     void forgetWidths();
     int columnsFrom(int first, int count, int width) const;
     void arrange();
+    void showSelected();
+    void showMore();
     MarkerStatusItem *showLine(int index, int row, int first, int columns);
     MarkerStatusItem *makeItem(int index);
     int lineHeight() const;
@@ -69,6 +71,7 @@ private:
     const PanelModel *m_model;
     QLabel *m_hint; ///< in place of the rows while there are none
     QLabel *m_bandwidth; ///< below the rows, where it is asked for
+    QLabel *m_more; ///< over the last line, while there are more than fit
     QVector<int> m_traces;
     QVector<Marker> m_markers;
     QVector<QStringList> m_texts; ///< of the markers

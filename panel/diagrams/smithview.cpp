@@ -9,6 +9,9 @@
 
 #include <QLabel>
 
+#include <algorithm>
+#include <functional>
+
 namespace Panel
 {
 
@@ -80,14 +83,28 @@ void SmithView::followSettings()
     showLimit();
 }
 
+/// Whether all traces on show refer to the same impedance.
+bool SmithView::hasOneReference() const
+{
+    QVector<std::complex<double>> references;
+    for (const Trace &trace : traces()) {
+        if (trace.visible)
+            references << m_model->traceData(trace).reference;
+    }
+    return std::adjacent_find(references.begin(), references.end(), std::not_equal_to<>())
+        == references.end();
+}
+
 /// Labels of the grid and the circle to read against.
 void SmithView::showGrid()
 {
     const ViewSettings *settings = m_model->viewSettings();
     const Trace *active = activeTrace();
-    // Lines of a complex reference are not where those of its real part are.
-    const std::complex<double> reference =
-        active ? m_model->traceData(*active).reference : std::complex<double>();
+    // Lines of a complex reference are not where those of its real part are, and those of several
+    // references are nowhere.
+    const std::complex<double> reference = active && hasOneReference()
+        ? m_model->traceData(*active).reference
+        : std::complex<double>();
     if (settings->gridLabels() == GridLabels::Ohms && reference.real() > 0.0
         && reference.imag() == 0.0)
         m_chart->setGridReference(reference.real());
@@ -285,6 +302,7 @@ void SmithView::setTraceVisible(const Trace &trace)
     m_chart->setCurveVisible(trace.id, trace.visible);
     m_chart->setCurveVisible(memoryId(trace.id), trace.visible);
     placeMarkers(trace);
+    showGrid();
     testTraces();
 }
 
@@ -326,7 +344,10 @@ QStringList SmithView::titleParts() const
     const Trace *active = activeTrace();
     if (!active)
         return {};
-    return {tr("Z %1").arg(ohmsText(m_model->traceData(*active).reference))};
+    const QString reference = ohmsText(m_model->traceData(*active).reference);
+    return {hasOneReference()
+                ? tr("Z %1").arg(reference)
+                : tr("normalised, Tr%1 to %2").arg(QString::number(active->id), reference)};
 }
 
 SmithChart::HalfRanges SmithView::halfRanges() const

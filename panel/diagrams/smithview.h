@@ -62,6 +62,7 @@ private:
 
     void makeChart();
     void followSettings();
+    bool hasOneReference() const;
     void showGrid();
     void showLimit();
     void testTraces();

@@ -5,6 +5,7 @@
 #include "softkey.h"
 #include "valuechoices.h"
 #include <panel/ground/numbertext.h>
+#include <panel/model/cartesian.h>
 #include <panel/model/markersearch.h>
 #include <panel/model/panelmodel.h>
 
@@ -128,7 +129,9 @@ void MarkerController::onSearchPicked(int command)
     const int found = searchMarker(m_model->traceData(*trace), trace->format, Search(command),
                                    marker ? qMax(0.0, m_model->indexOf(*marker)) : 0.0);
     if (found < 0)
-        Q_EMIT said(tr("Trace %1 has no such point.").arg(trace->id));
+        Q_EMIT said(tr("Trace %1 has no further peak of %2 that way.")
+                        .arg(trace->id)
+                        .arg(cartesianText(traits(trace->format).peakExcursion, trace->format)));
     else if (marker)
         m_model->moveMarker(marker->trace, marker->number, found);
     else

@@ -119,8 +119,7 @@ bool SoftKeyMenu::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Delete
-            || key == Qt::Key_Backspace)
+        if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Delete)
             return QCoreApplication::sendEvent(window(), event);
     }
     return QWidget::eventFilter(watched, event);

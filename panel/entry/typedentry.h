@@ -24,7 +24,7 @@ class TypedEntry : public QObject
 
 public:
     /// How long the rest of a unit and a Return are waited for, in milliseconds.
-    static constexpr int patience = 400;
+    static constexpr int patience = 800;
 
     /// Watches the editor of the adapter, which is both its parent's.
     TypedEntry(QLineEdit *editor, UnitAdapter *adapter, QObject *parent);

@@ -104,6 +104,7 @@ Panel--SweepBar { border-top: 1px solid @border; }
 Panel--MessageBar { border: 1px solid @warning; border-radius: 4px; }
 Panel--MessageBar[notice="true"] { border-color: @accent; }
 Panel--ReadOuts, Panel--ReadOuts > QWidget > QWidget { background: transparent; border: none; }
+QLabel#more { padding: 0px 6px; background: @bar; border: 1px solid @border; border-radius: 4px; color: @text; }
 QPushButton#fitTrace { min-height: 36px; padding: 2px 12px; background: @bar; border: 1px solid @warning; border-radius: 4px; color: @text; }
 Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
 QToolButton#pageTab { border: none; border-left: 3px solid transparent; border-radius: 0px; padding: 2px 0px; background: transparent; color: @dimText; font-size: 11px; }

@@ -47,6 +47,15 @@ Stimulus Networks::limits(int index) const
                                  : Stimulus{frequencies.constFirst(), frequencies.constLast()};
 }
 
+Stimulus Networks::shownRange(int index) const
+{
+    const QVector<double> &frequencies = shown(index).frequencies;
+    const Stimulus &asked = stimulus(index);
+    return frequencies.isEmpty() ? asked
+                                 : Stimulus{std::min(asked.start, frequencies.constFirst()),
+                                            std::max(asked.stop, frequencies.constLast())};
+}
+
 void Networks::replace(const QVector<Network> &networks)
 {
     m_all = networks;

@@ -19,6 +19,8 @@ public:
     const Network &shown(int index) const { return m_shown.at(index); }
     /// The frequencies that the user asked to see; points at both ends need not lie on them.
     const Stimulus &stimulus(int index) const { return m_stimuli.at(index); }
+    /// What a frequency axis has to show: the stimulus, and all points on show.
+    Stimulus shownRange(int index) const;
     /// The frequencies that the whole network has.
     Stimulus limits(int index) const;
 

@@ -53,6 +53,8 @@ public:
     /// What the trace's source is to sweep: the sweep of a simulated device, or the part of a file
     /// on show.
     Stimulus stimulus(const Trace &trace) const;
+    /// The frequencies that a diagram of the trace shows while it is not magnified.
+    Stimulus shownRange(const Trace &trace) const { return m_networks.shownRange(trace.network); }
     /// What the stimulus can go to: the limits of the device, or all that the file has.
     Stimulus limits(const Trace &trace) const;
     /// The smallest span that the stimulus can have.

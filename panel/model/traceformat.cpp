@@ -163,7 +163,8 @@ QString divisionText(TraceFormat format, double perDivision)
 
 QString zoomText(double zoom)
 {
-    return QStringLiteral("%1 U/").arg(1.0 / zoom, 0, 'f', 2);
+    const int decimals = zoom < 10.0 ? 2 : zoom < 100.0 ? 3 : 4;
+    return QStringLiteral("%1 U/").arg(1.0 / zoom, 0, 'f', decimals);
 }
 
 } // namespace Panel

@@ -65,27 +65,25 @@ void Traces::rebuild(const Networks &networks)
             add(i, port, 1, TraceFormat::LogMagnitude);
         if (ports == 2)
             add(i, 1, 2, TraceFormat::LogMagnitude);
-        const Scale decibels = startScale(i, TraceFormat::LogMagnitude, networks);
-        for (Trace &trace : m_all) {
-            if (trace.network == i)
-                trace.scale = trace.onSmithChart() ? defaultScale(trace.format, 0.0) : decibels;
-        }
     }
+    const Scale decibels = startScale(TraceFormat::LogMagnitude, networks);
+    for (Trace &trace : m_all)
+        trace.scale = trace.onSmithChart() ? defaultScale(trace.format, 0.0) : decibels;
     m_recent.clear();
     if (!m_all.isEmpty())
         m_recent.append(m_all.first().id);
 }
 
-/// The scale that all traces of a network and format share until the user sets one, so that they
-/// can be compared.
-Scale Traces::startScale(int network, TraceFormat format, const Networks &networks) const
+/// The scale that all traces of a format share until the user sets one, so that they can be
+/// compared.
+Scale Traces::startScale(TraceFormat format, const Networks &networks) const
 {
     ValueRange range;
     for (const Trace &trace : m_all) {
-        if (trace.network != network || trace.format != format)
+        if (trace.format != format)
             continue;
         const ValueRange own =
-            valueRange(traceData(networks.shown(network), trace.to, trace.from), format);
+            valueRange(traceData(networks.shown(trace.network), trace.to, trace.from), format);
         range = {std::fmin(range.lowest, own.lowest), std::fmax(range.highest, own.highest)};
     }
     return traits(format).beginsFitted ? fittingScale(format, range.lowest, range.highest)
@@ -116,7 +114,7 @@ bool Traces::setFormat(int id, TraceFormat format, const Networks &networks)
     if (!trace || trace->format == format)
         return false;
     trace->format = format;
-    trace->scale = startScale(trace->network, format, networks);
+    trace->scale = startScale(format, networks);
     return true;
 }
 

@@ -59,7 +59,7 @@ public:
 
 private:
     Trace *edit(int id);
-    Scale startScale(int network, TraceFormat format, const Networks &networks) const;
+    Scale startScale(TraceFormat format, const Networks &networks) const;
 
     QVector<Trace> m_all;
     QVector<int> m_recent; ///< ids, the active one in front and the one before behind it

@@ -21,6 +21,7 @@
 #include <widgets/displaypanel.h>
 #include <widgets/lockwidget.h>
 
+#include <QApplication>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -236,6 +237,15 @@ void PanelWindow::showEvent(QShowEvent *event)
     DiagramView *view = m_diagrams->activeView();
     if (view && !focusWidget())
         view->plot()->setFocus();
+}
+
+bool PanelWindow::event(QEvent *event)
+{
+    // A tap beside a dialog gives the window the focus, but not the keys: the dialog has them.
+    QWidget *dialog = QApplication::activeModalWidget();
+    if (event->type() == QEvent::WindowActivate && dialog && dialog != this)
+        dialog->activateWindow();
+    return QMainWindow::event(event);
 }
 
 void PanelWindow::keyPressEvent(QKeyEvent *event)

@@ -61,6 +61,7 @@ Q_SIGNALS:
     void filesDropped(const QStringList &paths);
 
 protected:
+    bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

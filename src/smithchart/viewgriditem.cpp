@@ -176,12 +176,14 @@ void ViewGridItem::addChart(GridChart chart, const GridView &view, const QPen &p
     appendViewGridLabels(lines, mapping, rules, m_labels);
 }
 
-/// Lines stop before the labels, whatever the background is.
+/// Lines stop before the labels, whatever the background is: so far before that none reads as a
+/// minus sign, and between a label and the view's edge nothing is left of them.
 void ViewGridItem::cutOutLabels()
 {
+    constexpr double signPx = 8.0; // a minus sign and its space
     QVector<QRectF> holes;
     for (const ViewGridLabel &label : qAsConst(m_labels))
-        holes.append(label.rect);
+        holes.append(label.rect.adjusted(-signPx, 0.0, signPx, 0.0));
     for (Strokes &strokes : m_strokes)
         strokes.lines = linesOutside(strokes.lines, holes);
 }

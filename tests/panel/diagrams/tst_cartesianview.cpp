@@ -158,6 +158,44 @@ private Q_SLOTS:
         }
     }
 
+    /// At whatever height the diagram has: the edge of a pixel must not swallow a marker.
+    void markersNearTheTopAreDrawn()
+    {
+        Desk desk;
+        desk.model.setTraceScale(3, {10.0, 0.0});
+        desk.model.addMarker(3, 600.0);
+        for (int height = 480; height < 800; height += 7) {
+            desk.window.resize(1280, height);
+            Desk::settle();
+            const Plot::Marker *marker = desk.view()->drawnMarker(3, 1);
+            const QPointF tip = marker->getTracer()->position->pixelPosition();
+            QVERIFY2(QRectF(desk.view()->plot()->axisRect()->rect()).contains(tip),
+                     qPrintable(QString::number(height)));
+        }
+    }
+
+    /// Numbers beside the axis hold for all traces of a format, or the title says for which not.
+    void filesShareTheirScale()
+    {
+        Desk desk;
+        Network loud = slope(101);
+        loud.name = "loud.s2p"_s;
+        Network quiet = slope(101);
+        quiet.name = "quiet.s2p"_s;
+        for (Parameter &parameter : quiet.parameters) {
+            for (int i = 0; i < 101; ++i) {
+                parameter.real[i] *= 1e-3;
+                parameter.imag[i] *= 1e-3;
+            }
+        }
+        desk.model.openNetworks({loud, quiet});
+        QCOMPARE(desk.model.trace(3)->scale, desk.model.trace(7)->scale);
+        QVERIFY(!desk.view()->title().contains("own scale"_s));
+        desk.model.setTraceScale(7, {5.0, -40.0});
+        QVERIFY2(desk.view()->title().contains("own scale: Tr7"_s),
+                 qPrintable(desk.view()->title()));
+    }
+
     void showsTransmissionBesideReflection()
     {
         Desk desk;

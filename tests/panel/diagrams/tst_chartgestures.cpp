@@ -194,7 +194,7 @@ private Q_SLOTS:
         QVERIFY(!desk.keys().whole->isEnabled());
     }
 
-    void wheelAndFocusActivateTheirDiagram()
+    void wheelAndKeysActivateTheirDiagram()
     {
         ChartDesk desk;
         desk.setLayout(Graph::LayoutType::SideBySide);
@@ -215,9 +215,12 @@ private Q_SLOTS:
         const QColor before = edge();
         desk.plot()->setFocus(Qt::TabFocusReason);
         ChartDesk::settle();
-        QCOMPARE(desk.model.activeTrace()->id, 1);
         QVERIFY(edge() != before);
         QCOMPARE(edge(), currentLook().accent);
+        // Tab only passes by; a key that the diagram answers makes it the active one.
+        QCOMPARE(desk.model.activeTrace()->id, 3);
+        desk.press(Qt::Key_Plus);
+        QCOMPARE(desk.model.activeTrace()->id, 1);
     }
 
     /// A key is the active diagram's wherever the focus is, and an arrow a step that can be seen.
