@@ -125,9 +125,8 @@ private:
             lowest = std::min(lowest, shown.start);
             highest = std::max(highest, shown.stop);
         }
-        // A single frequency stands in the middle.
-        const QCPRange whole =
-            lowest < highest ? QCPRange(lowest, highest) : QCPRange(lowest - 1.0, lowest + 1.0);
+        const Stimulus shown = lowest < highest ? Stimulus{lowest, highest} : around(lowest);
+        const QCPRange whole(shown.start, shown.stop);
         const QCPRange range = m_cartesian->frequencyAxis().range();
         const Zoom zoom = m_model.zoom(m_view->id());
         const double size = whole.size() / zoom.factor;

@@ -196,12 +196,8 @@ bool CartesianView::fitFrequencies()
     }
     if (lowest > highest)
         lowest = highest = 0.0;
-    // A single frequency stands in the middle.
-    if (lowest == highest) {
-        lowest -= 1.0;
-        highest += 1.0;
-    }
-    m_whole = {lowest, highest};
+    const Stimulus whole = lowest < highest ? Stimulus{lowest, highest} : around(lowest);
+    m_whole = {whole.start, whole.stop};
     const QCPRange before = m_frequencies.range();
     m_frequencies.setRange(shownRange(m_model->zoom(id())));
     return m_frequencies.range() != before;

@@ -299,7 +299,11 @@ MarkerStatusItem *ReadOuts::makeItem(int index)
 {
     auto *item = new MarkerStatusItem(widget());
     connect(item, &MarkerStatusItem::clicked, this, [this, index] {
-        const Marker marker = m_markers.at(m_lines.at(index).marker);
+        // The scroller holds a press back, and the marker may be gone when it comes.
+        const int row = m_lines.at(index).marker;
+        if (row < 0)
+            return;
+        const Marker marker = m_markers.at(row);
         Q_EMIT selectionRequested(marker.trace, marker.number);
     });
     return item;

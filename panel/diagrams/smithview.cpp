@@ -157,7 +157,8 @@ void SmithView::testTraces()
         limit->setVisible(trace->visible || m_limits.begin()->first == id);
         const SmithChart::LimitResult result = limit->test(trace->visible ? id : 0);
         tested = tested || result.tested > 0;
-        if (!result.passed())
+        // A hidden chart may still have the points of before.
+        if (!result.passed() && result.firstFailing < m_model->network(*trace).points())
             failing << tr("Tr%1 from %2")
                            .arg(QString::number(id),
                                 frequencyText(

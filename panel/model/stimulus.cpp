@@ -7,6 +7,13 @@
 namespace Panel
 {
 
+Stimulus around(double hertz)
+{
+    constexpr double share = 1e-3, least = 100.0;
+    const double half = std::max(least, share * hertz);
+    return {hertz - half, hertz + half};
+}
+
 Stimulus withStart(Stimulus stimulus, double start, const Stimulus &limits, double smallestSpan)
 {
     stimulus.start = std::clamp(start, limits.start, limits.stop - smallestSpan);

@@ -22,6 +22,10 @@ struct Stimulus {
     friend bool operator!=(const Stimulus &a, const Stimulus &b) { return !(a == b); }
 };
 
+/// A range in which a single frequency stands in the middle: wide enough to be labelled in Hz at
+/// every magnification.
+Stimulus around(double hertz);
+
 /// \name One number changed, within the limits of what can be shown and with a smallest span
 ///@{
 /// A start too near to the stop, or beyond it, takes it along.
