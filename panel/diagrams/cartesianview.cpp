@@ -4,8 +4,6 @@
 
 #include <panel/ground/look.h>
 
-#include <plot/markerselection.h>
-
 #include <QPushButton>
 
 #include <cmath>
@@ -21,18 +19,12 @@ QString activeLayer()
     return QStringLiteral("activeTrace");
 }
 
-/// Draws it above all others of its layer.
-void bringToFront(QCPLayerable *item)
-{
-    if (item)
-        item->setLayer(item->layer());
-}
-
 } // namespace
 
 CartesianView::CartesianView(const PanelModel *model, const DiagramId &id, QWidget *parent)
     : DiagramView(model, id, parent)
     , m_frequencies(plot())
+    , m_markers(model, plot())
     , m_fitButton(new QPushButton(plot()))
 {
     setUpPlot();
@@ -70,7 +62,6 @@ void CartesianView::setUpPlot()
     plot()->yAxis->setNumberFormat(QStringLiteral("gb"));
     plot()->yAxis->setNumberPrecision(4);
     plot()->yAxis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
-    m_frequencies.setRange(m_whole);
 }
 
 QCPGraph *CartesianView::graph(int traceId) const
@@ -87,8 +78,7 @@ QCPGraph *CartesianView::memoryGraph(int traceId) const
 
 const Plot::Marker *CartesianView::drawnMarker(int traceId, int number) const
 {
-    const auto found = m_markers.find({traceId, number});
-    return found == m_markers.end() ? nullptr : &found->second;
+    return m_markers.drawn(traceId, number);
 }
 
 void CartesianView::clearLines()
@@ -197,24 +187,12 @@ bool CartesianView::fitFrequencies()
     if (lowest > highest)
         lowest = highest = 0.0;
     const Stimulus whole = lowest < highest ? Stimulus{lowest, highest} : around(lowest);
-    m_whole = {whole.start, whole.stop};
-    const QCPRange before = m_frequencies.range();
-    m_frequencies.setRange(shownRange(m_model->zoom(id())));
-    return m_frequencies.range() != before;
-}
-
-QCPRange CartesianView::shownRange(const Zoom &zoom) const
-{
-    const double half = m_whole.size() / 2.0;
-    const double centre = m_whole.center() + zoom.x * half;
-    // The ends themselves, where sums would round.
-    return zoom.isWhole() ? m_whole
-                          : QCPRange(centre - half / zoom.factor, centre + half / zoom.factor);
+    return m_frequencies.show({whole.start, whole.stop}, m_model->zoom(id()));
 }
 
 void CartesianView::showZoom()
 {
-    m_frequencies.setRange(shownRange(m_model->zoom(id())));
+    m_frequencies.show(m_frequencies.whole(), m_model->zoom(id()));
     fillLines();
     replotLater();
 }
@@ -311,62 +289,23 @@ void CartesianView::showActiveTrace()
     showSelectedMarker();
 }
 
-void CartesianView::placeMarker(const Trace &trace, const Marker &placed)
+void CartesianView::placeMarker(const Trace &trace, const Marker &marker)
 {
-    const MarkerKey key(trace.id, placed.number);
-    auto found = m_markers.find(key);
-    if (found == m_markers.end()) {
-        found =
-            m_markers.emplace(key, Plot::Marker(plot(), placed.number, Plot::PointingDown)).first;
-        found->second.getLabel()->setText(QString::number(placed.number));
+    // Before the first layout there is no place to put it.
+    if (m_markers.place(trace, marker, m_laidOut.isEmpty() ? nullptr : graph(trace.id)))
         showSelectedMarker();
-    }
-    Plot::Marker &marker = found->second;
-    const double index = m_model->indexOf(placed);
-    const double hertz = m_model->hertzOf(placed);
-    const double value =
-        index < 0.0 ? qQNaN() : formatValueAt(m_model->traceData(trace), index, trace.format);
-    const bool shown = trace.visible && std::isfinite(value) && !m_laidOut.isEmpty()
-        && m_frequencies.range().contains(hertz);
-    if (shown) {
-        // Beyond the scale it stands at the diagram's edge, of which the upper one lies a pixel
-        // outside for the plot; what stands on that pixel's border must not be rounded out of it.
-        const QCPRange scale = m_lines.at(trace.id).values->range();
-        const double pixel = 1.001 * scale.size() / qMax(2, m_laidOut.height());
-        marker.setPositionCoordinates(graph(trace.id), hertz,
-                                      qBound(scale.lower, value, scale.upper - pixel));
-    }
-    if (marker.isVisible() != shown)
-        marker.setVisible(shown);
     replotLater();
 }
 
 void CartesianView::removeMarker(int traceId, int number)
 {
-    m_markers.erase({traceId, number});
+    m_markers.remove(traceId, number);
     replotLater();
 }
 
 void CartesianView::showSelectedMarker()
 {
-    const Look look = currentLook();
-    const Trace *active = activeTrace();
-    const auto raiseMarker = [](Plot::Marker &marker) {
-        bringToFront(marker.getTracer());
-        bringToFront(marker.getLabel());
-    };
-    Plot::Marker *selected = nullptr;
-    for (auto &[key, marker] : m_markers) {
-        const Marker *const own = m_model->marker(key.first, key.second);
-        const bool filled = own && m_model->isSelected(*own);
-        Plot::drawMarker(marker, QPen(look.trace(key.first)), filled);
-        if (filled)
-            selected = &marker;
-        else if (active && active->id == key.first)
-            raiseMarker(marker);
-    }
-    if (selected)
-        raiseMarker(*selected);
+    m_markers.showSelected(activeTrace());
     replotLater();
 }
 
@@ -441,30 +380,19 @@ double CartesianView::nearestIndex(int traceId, const QPointF &position) const
 int CartesianView::pointsPerStep(int traceId) const
 {
     const int points = m_model->network(*m_model->trace(traceId)).points();
-    const double shown = points * m_frequencies.range().size() / m_whole.size();
+    const double shown = points * m_frequencies.range().size() / m_frequencies.whole().size();
     return qMax(1, qRound(shown / qMax(1, m_laidOut.width())));
-}
-
-Zoom CartesianView::zoomFor(double centre, double factor) const
-{
-    return bounded({factor, (centre - m_whole.center()) / (m_whole.size() / 2.0), 0.0}, false);
 }
 
 Zoom CartesianView::zoomedAt(const QPointF &position, double factor) const
 {
-    const double wanted = qBound(1.0, m_model->zoom(id()).factor * factor, Zoom::maximum);
-    if (!std::isfinite(factor))
-        return m_model->zoom(id());
-    const QCPRange range = m_frequencies.range();
-    const double anchor = plot()->xAxis->pixelToCoord(position.x());
-    const double ratio = m_whole.size() / wanted / range.size();
-    return zoomFor(anchor + (range.center() - anchor) * ratio, wanted);
+    return m_frequencies.zoomedAt(coordinates(position).x(), m_model->zoom(id()), factor);
 }
 
 Zoom CartesianView::movedTo(const QPointF &coordinates, const QPointF &position) const
 {
-    const double shift = coordinates.x() - this->coordinates(position).x();
-    return zoomFor(m_frequencies.range().center() + shift, m_model->zoom(id()).factor);
+    return m_frequencies.shifted(coordinates.x() - this->coordinates(position).x(),
+                                 m_model->zoom(id()));
 }
 
 Hit CartesianView::hitLine(const QPointF &position) const

@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cartesianmarkers.h"
 #include "diagramview.h"
 #include "frequencyaxis.h"
 
 #include <panel/model/cartesian.h>
 
-#include <plot/marker.h>
-
 #include <map>
-#include <utility>
 
 class QPushButton;
 
@@ -59,7 +57,6 @@ protected:
     Hit hitLine(const QPointF &position) const override;
 
 private:
-    using MarkerKey = std::pair<int, int>; ///< trace and number
     /// What is drawn of a trace; all owned by the plot.
     struct Line {
         QCPGraph *graph = nullptr;
@@ -78,17 +75,13 @@ private:
     void showScale(int traceId);
     void showWrittenScale();
     void showOffScale();
-    QCPRange shownRange(const Zoom &zoom) const;
-    Zoom zoomFor(double centre, double factor) const;
 
     FrequencyAxis m_frequencies;
     std::map<int, Line> m_lines; ///< by trace
-    std::map<MarkerKey, Plot::Marker> m_markers;
+    CartesianMarkers m_markers;
     QPushButton *m_fitButton;
     int m_offScale = 0; ///< the trace that the button is about
     QSize m_laidOut; ///< of the axis rectangle; empty before the first layout
-    /// All frequencies that there are, in Hz; the view shows a part.
-    QCPRange m_whole = {0.0, 1.0};
 };
 
 } // namespace Panel

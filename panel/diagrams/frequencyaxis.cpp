@@ -40,6 +40,38 @@ FrequencyAxis::FrequencyAxis(QCustomPlot *plot)
     m_axis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
     m_axis->setTickLabels(false);
     m_axis->grid()->setZeroLinePen(Qt::NoPen);
+    setRange(m_whole);
+}
+
+bool FrequencyAxis::show(const QCPRange &whole, const Zoom &zoom)
+{
+    m_whole = whole;
+    const QCPRange before = range();
+    const double half = whole.size() / 2.0;
+    const double centre = whole.center() + zoom.x * half;
+    // The ends themselves, where sums would round.
+    setRange(zoom.isWhole() ? whole
+                            : QCPRange(centre - half / zoom.factor, centre + half / zoom.factor));
+    return range() != before;
+}
+
+Zoom FrequencyAxis::zoomFor(double centre, double factor) const
+{
+    return bounded({factor, (centre - m_whole.center()) / (m_whole.size() / 2.0), 0.0}, false);
+}
+
+Zoom FrequencyAxis::zoomedAt(double hertz, const Zoom &before, double factor) const
+{
+    if (!std::isfinite(factor))
+        return before;
+    const double wanted = qBound(1.0, before.factor * factor, Zoom::maximum);
+    const double ratio = m_whole.size() / wanted / range().size();
+    return zoomFor(hertz + (range().center() - hertz) * ratio, wanted);
+}
+
+Zoom FrequencyAxis::shifted(double hertz, const Zoom &before) const
+{
+    return zoomFor(range().center() + hertz, before.factor);
 }
 
 void FrequencyAxis::setRange(const QCPRange &hertz)

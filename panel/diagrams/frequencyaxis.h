@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <panel/model/diagramplan.h>
+
 #include <plot/qcp.h>
 
 #include <QStringList>
@@ -21,8 +23,15 @@ public:
     /// Sets up the x axis of the plot, which owns the texts.
     explicit FrequencyAxis(QCustomPlot *plot);
 
+    /// Shows the part of these frequencies, in Hz, that a zoom leaves; true if it is another one.
+    bool show(const QCPRange &whole, const Zoom &zoom);
+    /// The part on show, and what it is a part of.
     QCPRange range() const { return m_axis->range(); }
-    void setRange(const QCPRange &hertz);
+    QCPRange whole() const { return m_whole; }
+    /// The zoom that magnifies what lies around a frequency, which stays where it is.
+    Zoom zoomedAt(double hertz, const Zoom &before, double factor) const;
+    /// The zoom that shifts the part on show.
+    Zoom shifted(double hertz, const Zoom &before) const;
     /// What stands below the diagram, from left to right.
     QStringList texts() const;
     void setLook(const QFont &font, const QColor &color);
@@ -33,7 +42,11 @@ public:
     static int heightFor(const QFontMetrics &metrics) { return metrics.height() + 6; }
 
 private:
+    void setRange(const QCPRange &hertz);
+    Zoom zoomFor(double centre, double factor) const;
+
     QCPAxis *m_axis;
+    QCPRange m_whole = {0.0, 1.0};
     QCPItemText *m_left;
     QCPItemText *m_centre;
     QCPItemText *m_right;

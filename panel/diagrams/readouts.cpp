@@ -238,9 +238,10 @@ void ReadOuts::arrange()
     int x = s_margin, y = 0, used = 0;
     for (int row = 0; row < m_markers.size(); ++row) {
         const QStringList &texts = m_texts.at(row);
-        const bool folds = columnsFrom(0, texts.size(), room) < texts.size();
-        for (int first = 0; first < texts.size();) {
-            const int columns = columnsFrom(first, int(texts.size()), room);
+        const int count = int(texts.size());
+        const bool folds = columnsFrom(0, count, room) < count;
+        for (int first = 0; first < count;) {
+            const int columns = columnsFrom(first, count, room);
             MarkerStatusItem *item = showLine(used++, row, first, columns);
             const int taken = item->preferredSingleLineWidth();
             if (x > s_margin && (folds || x + taken > room)) {
