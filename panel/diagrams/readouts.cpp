@@ -198,7 +198,7 @@ QStringList ReadOuts::textsOf(const Marker &marker) const
 /// The name of a marker, with a sign where it is a reference or read against one.
 QString ReadOuts::nameOf(const Marker &marker) const
 {
-    const QString name = QStringLiteral("M%1").arg(marker.number);
+    QString name = QStringLiteral("M%1").arg(marker.number);
     const Marker *reference = m_model->referenceMarker(marker.trace);
     if (!reference)
         return name;
