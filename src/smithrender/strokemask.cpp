@@ -88,7 +88,7 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
     const int fromV = chosen(steep, fromX, fromY);
     const int toU = chosen(steep, toY, toX);
     const int toV = chosen(steep, toX, toY);
-    const int backward = (toU - fromU) >> 31;
+    const int backward = -int(toU < fromU);
     int u1 = chosen(backward, toU, fromU);
     int u2 = chosen(backward, fromU, toU);
     const int v1 = chosen(backward, toV, fromV);
@@ -125,7 +125,7 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
     const auto touchBetween = [&](int from, int to) {
         const int vFrom = vAt(from);
         const int vTo = vAt(to);
-        const int falls = (vTo - vFrom) >> 31;
+        const int falls = -int(vTo < vFrom);
         const int low = chosen(falls, vTo, vFrom) >> (fractionBits + tileShift);
         const int high = ((chosen(falls, vFrom, vTo) >> fractionBits) + 1) >> tileShift;
         touch(tiles + (from >> tileShift) * tileAlong + low * tileAcross,
@@ -150,7 +150,7 @@ void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, i
         }
     };
     // How much of the line lies in the first column and in the last one, if that is another.
-    const int isOne = (last - first - 1) >> 31;
+    const int isOne = -int(last - first < 1);
     const auto inFirst = static_cast<unsigned>(chosen(isOne, u2, (first + 1) * stepsPerPixel) - u1);
     const auto inLast = static_cast<unsigned>(u2 & (stepsPerPixel - 1) & ~isOne);
     if (last - first < pieceLength) {

@@ -46,4 +46,7 @@ public:
     int pressTop = 0; ///< of the pop-up when the finger came down
     bool sliding = false;
     bool picking = false;
+
+private:
+    Q_DISABLE_COPY(PopupWidgetPrivate)
 };
