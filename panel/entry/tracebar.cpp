@@ -125,7 +125,9 @@ protected:
         QColor color = look.trace(m_traceId);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        QPen edge(isChecked() || hasFocus() ? color : look.border, hasFocus() ? 2.0 : 1.0);
+        // Around a button filled with its own colour another one tells of the focus.
+        const QColor focused = isChecked() ? look.text : color;
+        QPen edge(hasFocus() ? focused : isChecked() ? color : look.border, hasFocus() ? 2.5 : 1.0);
         if (!m_shown) {
             edge.setStyle(Qt::DashLine);
             color.setAlphaF(isChecked() ? 0.45F : 0.6F);
