@@ -137,7 +137,9 @@ private:
         const double rounding = 1e3 * size;
         expect(hertzOf(texts.at(0)), range.lower, "the left label", rounding);
         expect(hertzOf(texts.at(2)), range.upper, "the right label", rounding);
-        QString division = texts.at(1).section(QStringLiteral(" \u00b7 "), -1);
+        // Beside the middle frequency, or below it.
+        QString division =
+            texts.at(1).split(QLatin1Char('\n')).last().section(QStringLiteral(" \u00b7 "), -1);
         division.chop(1);
         expect(hertzOf(division), size / FrequencyAxis::divisions, "the division", rounding);
     }

@@ -397,6 +397,10 @@
         <source>Trace %1 has no further peak of %2 that way.</source>
         <translation>Kurve %1 hat dort keine weitere Spitze von %2.</translation>
     </message>
+    <message>
+        <source>M%1 stands at the end of the data.</source>
+        <translation>M%1 steht am Ende der Daten.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageBar</name>

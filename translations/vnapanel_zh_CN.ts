@@ -391,6 +391,10 @@
         <source>Trace %1 has no further peak of %2 that way.</source>
         <translation>轨迹 %1 在该方向没有更多 %2 的峰值。</translation>
     </message>
+    <message>
+        <source>M%1 stands at the end of the data.</source>
+        <translation>M%1 位于数据末端。</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageBar</name>

@@ -47,9 +47,6 @@ void CartesianView::setUpPlot()
 {
     plot()->setAccessibleName(tr("Cartesian diagram"));
     plot()->addLayer(activeLayer(), plot()->layer(QStringLiteral("main")));
-    // Above is room for a marker on the topmost line and its number.
-    plot()->axisRect()->setMinimumMargins(
-        QMargins(12, 18 + fontMetrics().height() + 6, 14, FrequencyAxis::heightFor(fontMetrics())));
     plot()->axisRect()->setupFullAxesBox();
     for (QCPAxis *axis : plot()->axisRect()->axes()) {
         axis->setTicks(axis == plot()->yAxis || axis == plot()->xAxis);
@@ -251,7 +248,14 @@ void CartesianView::showOffScale()
 
 void CartesianView::onLayout()
 {
-    const QCPAxisRect *rect = plot()->axisRect();
+    QCPAxisRect *rect = plot()->axisRect();
+    // Above is room for a marker on the topmost line and its number.
+    const QMargins margins(12, 18 + fontMetrics().height() + 6, 14,
+                           FrequencyAxis::heightFor(fontMetrics(), plot()->width()));
+    if (rect->minimumMargins() != margins) {
+        rect->setMinimumMargins(margins);
+        m_laidOut = {};
+    }
     const bool changed = rect->size() != m_laidOut;
     // Other numbers beside the axis may want another margin, which leaves another rectangle.
     constexpr int mostPasses = 3;

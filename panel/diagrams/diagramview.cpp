@@ -37,7 +37,7 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
     column->addLayout(m_body, 1);
     m_body->addWidget(m_readOuts, 1);
     m_body->addWidget(m_plot, 1);
-    m_plot->setFocusPolicy(Qt::StrongFocus);
+    m_plot->setFocusPolicy(Qt::WheelFocus);
     connect(m_readOuts, &ReadOuts::selectionRequested, this,
             &DiagramView::markerSelectionRequested);
     connect(m_plot, &QCustomPlot::afterLayout, this, [this] {

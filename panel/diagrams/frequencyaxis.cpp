@@ -87,8 +87,7 @@ void FrequencyAxis::setRange(const QCPRange &hertz)
     m_left->setText(text(hertz.lower));
     m_right->setText(text(hertz.upper));
     m_divisionText = shortFrequencyText(hertz.size() / divisions) + QLatin1Char('/');
-    m_centreText = text(hertz.center()) + QStringLiteral(" \u00b7 ") + m_divisionText;
-    m_centre->setText(m_centreText);
+    m_centreText = text(hertz.center());
     fit();
 }
 
@@ -111,8 +110,22 @@ void FrequencyAxis::fit()
     const int gap = metrics.averageCharWidth();
     const int outer =
         qMax(metrics.horizontalAdvance(m_left->text()), metrics.horizontalAdvance(m_right->text()));
-    const int wanted = 2 * (outer + gap) + metrics.horizontalAdvance(m_centreText);
-    m_centre->setText(wanted <= m_axis->axisRect()->width() ? m_centreText : m_divisionText);
+    const int room = m_axis->axisRect()->width() - 2 * (outer + gap);
+    const QString oneLine = m_centreText + QStringLiteral(" \u00b7 ") + m_divisionText;
+    if (metrics.horizontalAdvance(oneLine) <= room)
+        m_centre->setText(oneLine);
+    else if (metrics.horizontalAdvance(m_centreText) <= room)
+        m_centre->setText(m_centreText + QLatin1Char('\n') + m_divisionText);
+    else if (metrics.horizontalAdvance(oneLine) <= m_axis->axisRect()->width())
+        m_centre->setText(QLatin1Char('\n') + oneLine);
+    else
+        m_centre->setText(QLatin1Char('\n') + m_divisionText);
+}
+
+int FrequencyAxis::heightFor(const QFontMetrics &metrics, int width)
+{
+    constexpr int widthOfOneLine = 340;
+    return (width < widthOfOneLine ? 2 : 1) * metrics.height() + 6;
 }
 
 } // namespace Panel

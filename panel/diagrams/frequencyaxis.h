@@ -35,11 +35,11 @@ public:
     /// What stands below the diagram, from left to right.
     QStringList texts() const;
     void setLook(const QFont &font, const QColor &color);
-    /// Leaves the middle frequency out where there is no room for it. To be called when the plot has
-    /// been laid out.
+    /// Sets the width of a division, or the middle frequency as well, on a line below where there is
+    /// no room beside both ends. To be called when the plot has been laid out.
     void fit();
-    /// The height that the texts need below the axis rectangle, in pixels.
-    static int heightFor(const QFontMetrics &metrics) { return metrics.height() + 6; }
+    /// The height that the texts need below the axis rectangle of a plot of this width, in pixels.
+    static int heightFor(const QFontMetrics &metrics, int width);
 
 private:
     void setRange(const QCPRange &hertz);

@@ -63,7 +63,9 @@ void DisplayKeys::showSettings()
     const ViewSettings *settings = m_model->viewSettings();
     m_keys.grid->setChoice(settings->gridMode());
     m_keys.density->setChoice(int(settings->density()));
-    m_keys.gridLabels->setChoice(int(settings->gridLabels()));
+    // A preset has its own labels.
+    const bool automatic = settings->density() == GridDensity::Automatic;
+    m_keys.gridLabels->setChoice(int(automatic ? settings->gridLabels() : GridLabels::Normalised));
     m_keys.vswrCircle->setChoice(ratios().choiceOf(settings->vswrCircle()));
     m_keys.vswrLimit->setChoice(ratios().choiceOf(settings->vswrLimit()));
     m_keys.pointer->setChoice(settings->onlyActiveTrace());
@@ -71,7 +73,7 @@ void DisplayKeys::showSettings()
     for (SoftKey *key :
          {m_keys.grid, m_keys.density, m_keys.pointer, m_keys.vswrCircle, m_keys.vswrLimit})
         key->setEnabled(active);
-    m_keys.gridLabels->setEnabled(active && settings->density() == GridDensity::Automatic);
+    m_keys.gridLabels->setEnabled(active && automatic);
     m_keys.whole->setEnabled(active && !m_model->zoom(m_model->diagramOf(active->id)).isWhole());
 }
 

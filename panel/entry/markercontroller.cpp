@@ -44,6 +44,9 @@ const ValueChoices &bandwidths()
     return choices;
 }
 
+/// A span smaller than this share of all data would show a point or two.
+constexpr double s_smallestShare = 1e-4;
+
 } // namespace
 
 MarkerController::MarkerController(PanelModel *model, const PanelKeys &keys, QObject *parent)
@@ -150,7 +153,12 @@ void MarkerController::onMarkerToPicked(int command)
     const auto changed = command == ToCenter ? withCenter
         : command == ToStart                 ? withStart
                                              : withStop;
-    m_model->setStimulus(trace, changed(now, hertz, limits, m_model->smallestSpan()));
+    const Stimulus wanted = changed(now, hertz, limits, m_model->smallestSpan());
+    // At an end of the data nothing is left to show on its far side.
+    if (wanted.span() <= s_smallestShare * limits.span())
+        Q_EMIT said(tr("M%1 stands at the end of the data.").arg(marker->number));
+    else
+        m_model->setStimulus(trace, wanted);
 }
 
 void MarkerController::showMarkers()
