@@ -106,11 +106,13 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     }
     grabber.grab("panel");
 
-    static constexpr const char *pages[] = {"panel",        "keys-trace", "keys-marker",
-                                            "keys-display", "keys-sweep", "keys-system"};
+    // The first page is on the pictures of the panel.
+    static const QVector<const char *> pages{"keys-trace",  "keys-scale",   "keys-marker",
+                                             "keys-limits", "keys-display", "keys-sweep",
+                                             "keys-system"};
     for (int page = 1; page < window->softKeys()->pageCount(); ++page) {
         window->softKeys()->setPage(page);
-        grabber.grab(pages[page]);
+        grabber.grab(pages.at(page - 1));
     }
     window->softKeys()->setPage(0);
     window->keys().stop->click();

@@ -120,10 +120,16 @@ bool CoverageBoostCurve::drawByMask(QCPPainter *painter) const
                                                  outside(values, values->range().upper, -1.0)));
     const QPointF bottomRight = toDevice.map(QPointF(outside(keys, keys->range().upper, 1.0),
                                                      outside(values, values->range().lower, 1.0)));
-    const QRect area = QRectF(topLeft, bottomRight).toAlignedRect();
-    if (area.isEmpty() || area.width() > SmithRender::StrokeMask::largest
-        || area.height() > SmithRender::StrokeMask::largest)
+    // Of numbers that no device has, some are none, and some are too large for a QRect.
+    constexpr double farthest = 1e6;
+    const auto isLength = [](double length) {
+        return length > 0.0 && length < double(SmithRender::StrokeMask::largest - 1);
+    };
+    const QRectF exact(topLeft, bottomRight);
+    if (!isLength(exact.width()) || !isLength(exact.height())
+        || !(std::abs(exact.left()) < farthest) || !(std::abs(exact.top()) < farthest))
         return false; // or the axes are reversed
+    const QRect area = exact.toAlignedRect();
     const auto inMask = [&area](const QPointF &first, const QPointF &last) {
         return SmithRender::StrokeMask::Bounds{first.x() - area.left(), first.y() - area.top(),
                                                last.x() - area.left(), last.y() - area.top()};

@@ -62,8 +62,8 @@ void StrokeMask::reset(int width, int height, const Bounds &bounds, const Bounds
 void StrokeMask::setPen(double opacity, int strokes)
 {
     for (size_t i = 0; i < m_passing.size(); ++i) {
-        const double one = 1.0 - opacity * static_cast<double>(i) / 255.0;
-        m_passing[i] = static_cast<std::uint16_t>(std::lround(256.0 * std::pow(one, strokes)));
+        const double passes = 1.0 - opacity * static_cast<double>(i) / 255.0;
+        m_passing[i] = static_cast<std::uint16_t>(std::lround(256.0 * std::pow(passes, strokes)));
     }
     for (size_t i = 0; i < m_passing.size(); ++i)
         m_passingBoth[i] = m_passing[255 - i] | std::uint32_t(m_passing[i]) << 16;
@@ -228,8 +228,8 @@ void StrokeMask::findFullCells(int tileIndex)
     const int left = tileIndex % m_tilesAcross * cells;
     for (int row = top; row < top + cells; ++row) {
         for (int column = left; column < left + cells; ++column) {
-            const std::uint8_t *line =
-                m_clear.data() + std::ptrdiff_t(row) * cell * m_stride + column * cell;
+            const std::uint8_t *line = m_clear.data() + std::ptrdiff_t(row) * cell * m_stride
+                + std::ptrdiff_t(column) * cell;
             std::uint8_t clearest = 0;
             for (int y = 0; y < cell; ++y, line += m_stride)
                 clearest = std::max(clearest, *std::max_element(line, line + cell));

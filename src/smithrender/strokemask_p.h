@@ -211,8 +211,8 @@ void StrokeMask::take(const Visit &visit)
             for (; column < m_tilesAcross && tiles[column].isTouched; ++column)
                 tiles[column] = Tile();
             const int width = (column - first) * tile;
-            std::uint8_t *const corner =
-                m_clear.data() + std::ptrdiff_t(row) * tile * m_stride + first * tile;
+            std::uint8_t *const corner = m_clear.data() + std::ptrdiff_t(row) * tile * m_stride
+                + std::ptrdiff_t(first) * tile;
             visit(first * tile - border, row * tile - border, width, tile, corner, m_stride);
             for (int y = 0; y < tile; ++y)
                 std::fill_n(corner + std::ptrdiff_t(y) * m_stride, width, std::uint8_t(255));

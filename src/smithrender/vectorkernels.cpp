@@ -278,7 +278,8 @@ VNA_INLINE std::uint64_t simplifyShortBody(const double *x, const double *y, int
             parts[end] = {split, part.last};
             end += part.last - split > 2;
             single |= std::uint64_t(split - part.first == 2) << (split - 1 - first);
-            single |= std::uint64_t(part.last - split == 2) << (split + 1 - first);
+            // For the last point the shift would be a whole word: of a part of two there is none.
+            single |= std::uint64_t(part.last - split == 2) << ((split + 1 - first) & 63);
         } else if (!(farthest.squaredDistance < surelyNot)) {
             return VectorKernels::undecided;
         }
