@@ -340,6 +340,7 @@ void Desk::countChanges()
     using Panel::PanelModel;
     const PanelModel *model = m_model.get();
     const auto count = [this] { ++m_changes; };
+    QObject::connect(model, &PanelModel::networksChanged, model, [this] { ++m_loads; });
     for (const auto signal :
          {&PanelModel::markerAdded, &PanelModel::markerMoved, &PanelModel::markerRemoved})
         QObject::connect(model, signal, model, count);
@@ -358,7 +359,7 @@ void Desk::perform(const Event &event)
     const auto isLocked = [this] { return m_window->lock()->isLocked(); };
     const bool byHand = event.species <= Species::Key && !isPointerDown();
     const bool locked = byHand && isLocked();
-    const int changes = m_changes;
+    const int changes = m_changes, loads = m_loads;
     switch (event.species) {
     case Species::Tap:
     case Species::DoubleTap:
@@ -386,7 +387,8 @@ void Desk::perform(const Event &event)
         break;
     }
     settle();
-    if (locked && isLocked() && m_changes != changes)
+    // A file whose reading ends meanwhile takes zooms and scales of its own along.
+    if (locked && isLocked() && m_changes != changes && m_loads == loads)
         m_broken << QStringLiteral("a locked panel has changed");
     keepBounds();
 }

@@ -66,7 +66,8 @@ private:
     QPointer<QWindow> m_pressedWindow;
     QPoint m_at; ///< the mouse, in its window
     VnaTest::TouchScreen m_touchScreen;
-    int m_changes = 0; ///< of what only a hand changes
+    int m_changes = 0; ///< of what only a hand changes, or new networks
+    int m_loads = 0; ///< of new networks
     QStringList m_broken;
 };
 
