@@ -339,19 +339,26 @@ void Desk::countChanges()
 {
     using Panel::PanelModel;
     const PanelModel *model = m_model.get();
-    const auto count = [this] { ++m_changes; };
+    const auto count = [this](const char *what) {
+        return [this, what] {
+            ++m_changes;
+            m_lastChange = what;
+        };
+    };
     QObject::connect(model, &PanelModel::networksChanged, model, [this] { ++m_loads; });
     for (const auto signal :
          {&PanelModel::markerAdded, &PanelModel::markerMoved, &PanelModel::markerRemoved})
-        QObject::connect(model, signal, model, count);
-    QObject::connect(model, &PanelModel::zoomChanged, model, count);
-    QObject::connect(model, &PanelModel::traceScaleChanged, model, count);
-    QObject::connect(model, &PanelModel::traceVisibleChanged, model, count);
-    QObject::connect(model, &PanelModel::memoryChanged, model, count);
-    QObject::connect(model->viewSettings(), &Panel::ViewSettings::changed, model, count);
-    QObject::connect(model->preferences(), &Panel::Preferences::changed, model, count);
+        QObject::connect(model, signal, model, count("a marker"));
+    QObject::connect(model, &PanelModel::zoomChanged, model, count("a zoom"));
+    QObject::connect(model, &PanelModel::traceScaleChanged, model, count("a scale"));
+    QObject::connect(model, &PanelModel::traceVisibleChanged, model, count("a visible trace"));
+    QObject::connect(model, &PanelModel::memoryChanged, model, count("a memory"));
+    QObject::connect(model->viewSettings(), &Panel::ViewSettings::changed, model,
+                     count("the view"));
+    QObject::connect(model->preferences(), &Panel::Preferences::changed, model,
+                     count("the preferences"));
     QObject::connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged,
-                     model, count);
+                     model, count("the theme"));
 }
 
 void Desk::perform(const Event &event)
@@ -389,7 +396,8 @@ void Desk::perform(const Event &event)
     settle();
     // A file whose reading ends meanwhile takes zooms and scales of its own along.
     if (locked && isLocked() && m_changes != changes && m_loads == loads)
-        m_broken << QStringLiteral("a locked panel has changed");
+        m_broken
+            << QStringLiteral("a locked panel has changed: %1").arg(QLatin1String(m_lastChange));
     keepBounds();
 }
 

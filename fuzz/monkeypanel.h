@@ -67,6 +67,7 @@ private:
     QPoint m_at; ///< the mouse, in its window
     VnaTest::TouchScreen m_touchScreen;
     int m_changes = 0; ///< of what only a hand changes, or new networks
+    const char *m_lastChange = "";
     int m_loads = 0; ///< of new networks
     QStringList m_broken;
 };

@@ -241,6 +241,8 @@ void CartesianView::showOffScale()
         m_fitButton->adjustSize();
         break;
     }
+    if (m_offScale == 0)
+        m_fitButton->setDown(false); // a finger that is on it does not press the next one
     m_fitButton->setVisible(m_offScale != 0);
     const QRect place = plot()->axisRect()->rect();
     m_fitButton->move(place.right() - m_fitButton->width() - 8, place.top() + 8);
