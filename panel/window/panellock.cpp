@@ -4,6 +4,7 @@
 
 #include <widgets/lockwidget.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QShortcutEvent>
@@ -27,12 +28,22 @@ PanelLock::PanelLock(LockWidget *padlock, QWidget *window)
     connect(padlock, &LockWidget::lockedChanged, this, [this](bool locked) {
         if (locked) {
             qApp->installEventFilter(this);
+            releaseKeys();
         } else {
             qApp->removeEventFilter(this);
             m_padlock->setScreenLockEnable(false);
         }
         Q_EMIT lockedChanged(locked);
     });
+}
+
+/// Lets go of the keys that are held: the release that would press them may come while the panel is
+/// locked.
+void PanelLock::releaseKeys()
+{
+    const auto keys = m_window->findChildren<QAbstractButton *>();
+    for (QAbstractButton *key : keys)
+        key->setDown(false);
 }
 
 bool PanelLock::isLocked() const

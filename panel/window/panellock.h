@@ -32,6 +32,7 @@ Q_SIGNALS:
     void blocked();
 
 private:
+    void releaseKeys();
     bool isBlocked(QEvent *event) const;
 
     QPointer<LockWidget> m_padlock;

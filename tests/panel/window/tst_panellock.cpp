@@ -64,6 +64,20 @@ private Q_SLOTS:
         QCOMPARE(told, (QStringList{"removed 1 1"_s, "selected"_s}));
     }
 
+    /// A key that a finger holds while the panel locks is not pressed by its release.
+    void heldKeysAreLetGo()
+    {
+        PanelDesk desk;
+        auto *theme = Controls::ThemeManager::instance();
+        const auto before = theme->currentTheme();
+        QWidget *key = desk.window.themeButton();
+        VnaTest::mousePress(key, key->rect().center());
+        desk.window.lock()->setLocked(true);
+        VnaTest::mouseRelease(key, key->rect().center());
+        QCOMPARE(theme->currentTheme(), before);
+        desk.window.lock()->setLocked(false);
+    }
+
     void thePadlockUnlocks()
     {
         PanelDesk desk;
