@@ -365,7 +365,8 @@ void Desk::perform(const Event &event)
 {
     const auto isLocked = [this] { return m_window->lock()->isLocked(); };
     const bool byHand = event.species <= Species::Key && !isPointerDown();
-    const bool locked = byHand && isLocked();
+    // What the host locks while a dialog is open leaves that dialog to the hand.
+    const bool locked = byHand && isLocked() && !QApplication::activeModalWidget();
     const int changes = m_changes, loads = m_loads;
     switch (event.species) {
     case Species::Tap:
