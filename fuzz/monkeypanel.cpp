@@ -365,8 +365,9 @@ void Desk::perform(const Event &event)
 {
     const auto isLocked = [this] { return m_window->lock()->isLocked(); };
     const bool byHand = event.species <= Species::Key && !isPointerDown();
-    // What the host locks while a dialog is open leaves that dialog to the hand.
-    const bool locked = byHand && isLocked() && !QApplication::activeModalWidget();
+    // A dialog or a list that was open before the host locked is left to the hand.
+    const bool locked = byHand && isLocked() && !QApplication::activeModalWidget()
+        && !QApplication::activePopupWidget();
     const int changes = m_changes, loads = m_loads;
     switch (event.species) {
     case Species::Tap:
