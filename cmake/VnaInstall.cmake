@@ -1,5 +1,5 @@
 # SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-License-Identifier: LGPL-3.0-or-later
 
 # What `cmake --install` puts where. Every path that both Qt versions would write carries VNA_PACKAGE or
 # VNA_SUFFIX, so that the two stand side by side in one prefix. Three components: Runtime, Development, Panel.

@@ -1,5 +1,5 @@
 # SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-License-Identifier: LGPL-3.0-or-later
 
 # The Debian packages, one for each component; script/package builds them. Debian's names for libraries: the soname
 # with a hyphen where a digit would meet a digit.
@@ -20,7 +20,7 @@ set(CPACK_PACKAGE_CONTACT "The VnaWidgets authors" CACHE STRING "Who is named as
 set(CPACK_PACKAGE_FILE_NAME ${VNA_PACKAGE}-${PROJECT_VERSION})
 set(CPACK_COMPONENTS_ALL Runtime Development Panel)
 set(CPACK_STRIP_FILES ON)
-set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSES/LGPL-3.0-or-later.txt)
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

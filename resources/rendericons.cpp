@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
     Draws the pictures that follow from the hand-drawn ones under svg/: recoloured for the light
    theme, and as PNG at single and double size where a resource path asks for PNG.

@@ -1,5 +1,5 @@
 # SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-License-Identifier: LGPL-3.0-or-later
 
 # cmake -DLUPDATE=<program> -DSOURCES=<root of the repository> -DCATALOGUES=<folder> -P update.cmake
 # Brings the .ts files of a folder up to date with the texts of the sources; fails where lupdate complains of one.

@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: 0BSD
 #pragma once
 
 class QString;

@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: 0BSD
 /*! \file
     Every widget of the library in every state, and the program that draws the pictures of docs/. */
 #include "gallerywindow.h"

@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: 0BSD
 /*! \file
     From a tap to a value: one field, one adapter, one keypad.
 

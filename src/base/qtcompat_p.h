@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
     What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else. */
 #pragma once

@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
     The one door to QCustomPlot. Its header uses the bare words signals, slots, emit and foreach,
     which a host built with QT_NO_KEYWORDS does not have: they are lent to it here and taken back

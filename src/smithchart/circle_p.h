@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
     Circles that engineers draw into a Smith chart, in the plane of the reflection coefficient
     G = (z - 1) / (z + 1), with z = r + jx = 1 / (g + jb) normalised. */

@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
     Which points of a trace must be drawn, and which of them is nearest to the pointer: the plain
     routines, linear in the trace's length or worse. SmithChartPlot gives the same answers faster,

@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
     A grid for every magnification: lines of constant resistance and reactance at values of
     1, 2 and 5 times powers of ten, as close together as the pixels allow.

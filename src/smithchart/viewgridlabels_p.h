@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
     Where the labels of a grid go that follows the view: to rim and real axis while these are in
     view, else to the view's edges; the coarsest lines first, and none over another. */

@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
     The view of a Smith chart as plain numbers: a centre and a magnification, from which both axis
     ranges follow for any widget shape, so that units stay square and the chart stays round. */

@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
-// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
     The inner loops over a trace's points, in the widest vectors the processor has. Every width does
     the same operations on each point and never fuses multiply and add, so results are identical,
