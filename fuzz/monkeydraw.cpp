@@ -142,7 +142,7 @@ bool Desk::drawPointOfTrace(Random &random, QPoint &position) const
         return false;
     QPointF pixel;
     if (qobject_cast<Panel::SmithView *>(view)) {
-        const Panel::Parameter &data = m_model->data(*trace);
+        const Panel::Parameter data = m_model->traceData(*trace).parameter;
         pixel = {view->plot()->xAxis->coordToPixel(data.real.at(index)),
                  view->plot()->yAxis->coordToPixel(data.imag.at(index))};
     } else {

@@ -80,7 +80,7 @@ private:
         const double index = m_model.indexOf(marker);
         if (!trace.visible || index < 0.0)
             return {qQNaN(), qQNaN()};
-        const Parameter &data = m_model.data(trace);
+        const Parameter data = m_model.traceData(trace).parameter;
         if (!m_cartesian)
             return {valueAt(data.real, index), valueAt(data.imag, index)};
         const double hertz = valueAt(m_model.network(trace).frequencies, index);

@@ -41,6 +41,18 @@
             <numerusform>%n Dateien</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Port %1: %2</source>
+        <translation>Tor %1: %2</translation>
+    </message>
+    <message>
+        <source>to %1</source>
+        <translation>auf %1</translation>
+    </message>
+    <message>
+        <source>smoothed %1 %</source>
+        <translation>%1 % geglättet</translation>
+    </message>
 </context>
 <context>
     <name>Panel::DisplayKeys</name>
@@ -403,6 +415,29 @@
     </message>
 </context>
 <context>
+    <name>Panel::MathKeys</name>
+    <message>
+        <source>Data to memory</source>
+        <translation>Daten in Speicher</translation>
+    </message>
+    <message>
+        <source>Clear memory</source>
+        <translation>Speicher löschen</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>All ports</source>
+        <translation>Alle Tore</translation>
+    </message>
+    <message>
+        <source>Port %1</source>
+        <translation>Tor %1</translation>
+    </message>
+</context>
+<context>
     <name>Panel::MessageBar</name>
     <message>
         <source>Close message</source>
@@ -639,6 +674,30 @@
     <message>
         <source>Bandwidth</source>
         <translation>Bandbreite</translation>
+    </message>
+    <message>
+        <source>Math</source>
+        <translation>Rechnen</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>Glättung</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Tor</translation>
+    </message>
+    <message>
+        <source>Port delay</source>
+        <translation>Torlaufzeit</translation>
+    </message>
+    <message>
+        <source>Port impedance</source>
+        <translation>Torimpedanz</translation>
     </message>
 </context>
 <context>
@@ -1136,14 +1195,6 @@
 <context>
     <name>Panel::TraceController</name>
     <message>
-        <source>Data to memory</source>
-        <translation>Daten in Speicher</translation>
-    </message>
-    <message>
-        <source>Clear memory</source>
-        <translation>Speicher löschen</translation>
-    </message>
-    <message>
         <source>Tr%1 %2</source>
         <translation>Tr%1 %2</translation>
     </message>
@@ -1205,6 +1256,29 @@
     <message>
         <source>Delay</source>
         <translation>Laufzeit</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::TraceMath</name>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>Data / memory</source>
+        <translation>Daten / Speicher</translation>
+    </message>
+    <message>
+        <source>Data − memory</source>
+        <translation>Daten − Speicher</translation>
+    </message>
+    <message>
+        <source>Data + memory</source>
+        <translation>Daten + Speicher</translation>
     </message>
 </context>
 </TS>

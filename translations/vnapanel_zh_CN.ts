@@ -40,6 +40,18 @@
             <numerusform>%n 个文件</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Port %1: %2</source>
+        <translation>端口 %1：%2</translation>
+    </message>
+    <message>
+        <source>to %1</source>
+        <translation>归一至 %1</translation>
+    </message>
+    <message>
+        <source>smoothed %1 %</source>
+        <translation>平滑 %1 %</translation>
+    </message>
 </context>
 <context>
     <name>Panel::DisplayKeys</name>
@@ -397,6 +409,29 @@
     </message>
 </context>
 <context>
+    <name>Panel::MathKeys</name>
+    <message>
+        <source>Data to memory</source>
+        <translation>数据存入存储</translation>
+    </message>
+    <message>
+        <source>Clear memory</source>
+        <translation>清除存储</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>All ports</source>
+        <translation>所有端口</translation>
+    </message>
+    <message>
+        <source>Port %1</source>
+        <translation>端口 %1</translation>
+    </message>
+</context>
+<context>
     <name>Panel::MessageBar</name>
     <message>
         <source>Close message</source>
@@ -633,6 +668,30 @@
     <message>
         <source>Bandwidth</source>
         <translation>带宽</translation>
+    </message>
+    <message>
+        <source>Math</source>
+        <translation>运算</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>平滑</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>端口</translation>
+    </message>
+    <message>
+        <source>Port delay</source>
+        <translation>端口延时</translation>
+    </message>
+    <message>
+        <source>Port impedance</source>
+        <translation>端口阻抗</translation>
     </message>
 </context>
 <context>
@@ -1129,14 +1188,6 @@
 <context>
     <name>Panel::TraceController</name>
     <message>
-        <source>Data to memory</source>
-        <translation>数据存入存储</translation>
-    </message>
-    <message>
-        <source>Clear memory</source>
-        <translation>清除存储</translation>
-    </message>
-    <message>
         <source>Tr%1 %2</source>
         <translation>Tr%1 %2</translation>
     </message>
@@ -1198,6 +1249,29 @@
     <message>
         <source>Delay</source>
         <translation>群时延</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::TraceMath</name>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>存储</translation>
+    </message>
+    <message>
+        <source>Data / memory</source>
+        <translation>数据 / 存储</translation>
+    </message>
+    <message>
+        <source>Data − memory</source>
+        <translation>数据 − 存储</translation>
+    </message>
+    <message>
+        <source>Data + memory</source>
+        <translation>数据 + 存储</translation>
     </message>
 </context>
 </TS>

@@ -149,7 +149,7 @@ void CartesianView::fillLine(const Trace &trace)
         return points;
     };
     line.drawn = valueRange(load(line.graph, m_model->traceData(trace)).values);
-    const TraceData *memory = m_model->memory(trace.id);
+    const auto memory = m_model->drawnMemory(trace);
     if (line.memory && memory)
         load(line.memory, *memory);
     placeMarkers(trace);
@@ -158,7 +158,7 @@ void CartesianView::fillLine(const Trace &trace)
 void CartesianView::showMemory(const Trace &trace)
 {
     Line &line = m_lines.at(trace.id);
-    const bool stored = m_model->memory(trace.id);
+    const bool stored = m_model->drawnMemory(trace).has_value();
     if (!stored && line.memory) {
         plot()->removeGraph(line.memory);
         line.memory = nullptr;

@@ -5,6 +5,7 @@
 #include "readouts.h"
 
 #include <panel/ground/elidedlabel.h>
+#include <panel/ground/numbertext.h>
 
 #include <controls/thememanager.h>
 #include <plot/marker.h>
@@ -232,7 +233,9 @@ void DiagramView::updateTitle()
     QStringList names, networks;
     for (const Trace &trace : traces()) {
         if (trace.visible) {
-            names << PanelModel::parameterName(trace);
+            const QString math = mathText(trace.math);
+            names << PanelModel::parameterName(trace)
+                    + (math.isEmpty() ? QString() : QLatin1Char(' ') + math);
             networks << m_model->network(trace).name;
         }
     }
@@ -243,12 +246,33 @@ void DiagramView::updateTitle()
         parts << names.join(QStringLiteral(", "));
     else if (!m_traceIds.isEmpty())
         parts << tr("All traces are hidden");
-    parts << titleParts();
+    parts << titleParts() << processingTexts();
     if (networks.size() > 2)
         parts << tr("%n files", nullptr, int(networks.size()));
     else if (!networks.isEmpty())
         parts << networks.join(QStringLiteral(", "));
     m_title->setText(parts.join(QStringLiteral(" \u00b7 ")));
+}
+
+/// What is done to the data of the active trace, as long as it holds.
+QStringList DiagramView::processingTexts() const
+{
+    const Trace *active = activeTrace();
+    if (!active)
+        return {};
+    QStringList texts;
+    const Correction &correction = m_model->correction(*active);
+    for (int port = 1; port <= correction.delays.size(); ++port) {
+        if (correction.delay(port) != 0.0)
+            texts << tr("Port %1: %2")
+                         .arg(port)
+                         .arg(engineeringText(correction.delay(port), QStringLiteral("s")));
+    }
+    if (correction.referenceOhms > 0.0)
+        texts << tr("to %1").arg(ohmsText(correction.referenceOhms));
+    if (active->smoothing > 0.0)
+        texts << tr("smoothed %1 %").arg(active->smoothing);
+    return texts;
 }
 
 void DiagramView::replotLater()

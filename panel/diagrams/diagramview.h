@@ -137,6 +137,7 @@ private:
     void followMarkers();
     Hit hitMarker(const QPointF &position) const;
     void fanOutNumbers();
+    QStringList processingTexts() const;
 
     DiagramId m_id;
     ElidedLabel *m_title;

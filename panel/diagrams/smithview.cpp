@@ -213,10 +213,8 @@ void SmithView::loadTraces()
     m_chart->clearAllCurves();
     const Look look = currentLook();
     for (const Trace &trace : traces()) {
-        const Parameter &values = m_model->data(trace);
         m_chart->addCurve(trace.id, look.pen(trace.id, trace.network));
-        m_chart->setCurveData(trace.id, m_model->network(trace).frequencies, values.real,
-                              values.imag);
+        showData(trace.id, m_model->traceData(trace));
         m_chart->setCurveVisible(trace.id, trace.visible);
         showMemory(trace);
         placeMarkers(trace);
@@ -226,14 +224,18 @@ void SmithView::loadTraces()
     showLimit();
 }
 
+void SmithView::showData(int curve, const TraceData &shown)
+{
+    m_chart->setCurveData(curve, shown.frequencies, shown.parameter.real, shown.parameter.imag);
+}
+
 void SmithView::showMemory(const Trace &trace)
 {
     const int id = memoryId(trace.id);
     m_chart->removeCurve(id);
-    if (const TraceData *memory = m_model->memory(trace.id)) {
+    if (const auto memory = m_model->drawnMemory(trace)) {
         m_chart->addCurve(id, currentLook().memoryPen(trace.id, trace.network));
-        m_chart->setCurveData(id, memory->frequencies, memory->parameter.real,
-                              memory->parameter.imag);
+        showData(id, *memory);
         m_chart->setCurveVisible(id, trace.visible);
     }
     replotLater();
@@ -244,9 +246,7 @@ void SmithView::updateTraces(int network)
     for (const Trace &trace : traces()) {
         if (trace.network != network)
             continue;
-        const Parameter &values = m_model->data(trace);
-        m_chart->setCurveData(trace.id, m_model->network(trace).frequencies, values.real,
-                              values.imag);
+        showData(trace.id, m_model->traceData(trace));
         placeMarkers(trace);
     }
     testTraces();

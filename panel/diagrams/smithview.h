@@ -65,6 +65,7 @@ private:
     bool hasOneReference() const;
     void showGrid();
     void showLimit();
+    void showData(int curve, const TraceData &shown);
     void testTraces();
     void placeVerdict();
     SmithChart::HalfRanges halfRanges() const;

@@ -86,9 +86,8 @@ void NumericKeys::followModel()
     showTuning();
 }
 
-template<typename Apply>
 void NumericKeys::edit(QWidget *anchor, const QString &name, UnitAdapter *adapter,
-                       const QVector<double> &steps, Apply apply)
+                       const QVector<double> &steps, const std::function<void(double)> &apply)
 {
     auto *dialog = new NumericDialog(name, adapter, m_host);
     dialog->setSteps(steps);
@@ -110,9 +109,8 @@ void NumericKeys::edit(QWidget *anchor, const QString &name, UnitAdapter *adapte
     dialog->open();
 }
 
-template<typename Apply>
 void NumericKeys::edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps,
-                       Apply apply)
+                       const std::function<void(double)> &apply)
 {
     edit(key, key->name(), adapter, steps, apply);
 }

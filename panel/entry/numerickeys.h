@@ -6,6 +6,8 @@
 
 #include <panel/model/panelmodel.h>
 
+#include <functional>
+
 namespace Panel
 {
 
@@ -21,6 +23,13 @@ public:
     /// The host is the main window above which numbers are entered.
     NumericKeys(PanelModel *model, const PanelKeys &keys, QWidget *host, QObject *parent = nullptr);
 
+    /// Opens the dialog of a key or field for a value that the adapter holds, which goes with the
+    /// dialog; the value is applied as it changes. \a name is the dialog's title.
+    void edit(QWidget *anchor, const QString &name, UnitAdapter *adapter,
+              const QVector<double> &steps, const std::function<void(double)> &apply);
+    /// The same under the name of the key.
+    void edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps,
+              const std::function<void(double)> &apply);
     /// Lets the user edit the active trace's scale per division, beside a key or a field.
     void editScale(QWidget *anchor);
 
@@ -48,12 +57,6 @@ private:
     void editZoom();
     void editReference();
     void editTuning();
-    /// Opens the dialog of a key or field for a value that the adapter holds.
-    template<typename Apply>
-    void edit(QWidget *anchor, const QString &name, UnitAdapter *adapter,
-              const QVector<double> &steps, Apply apply);
-    template<typename Apply>
-    void edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps, Apply apply);
 
     void showStimulus();
     void showMarkerStimulus();

@@ -55,8 +55,15 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.trace = menu->addKey(Text::tr("Trace"));
     keys.parameter = menu->addKey(Text::tr("Parameter"));
     keys.format = menu->addKey(Text::tr("Format"));
-    keys.memory = addMenu(menu, Text::tr("Memory"));
     keys.visible = addSwitch(menu, Text::tr("Visible"));
+
+    menu->addPage(Text::tr("Math"), Glyph::Math);
+    keys.memory = addMenu(menu, Text::tr("Memory"));
+    keys.math = menu->addKey(Text::tr("Show"));
+    keys.smoothing = menu->addKey(Text::tr("Smoothing"));
+    keys.extensionPort = menu->addKey(Text::tr("Port"));
+    keys.extension = menu->addKey(Text::tr("Port delay"));
+    keys.impedance = menu->addKey(Text::tr("Port impedance"));
 
     menu->addPage(Text::tr("Scale"), Glyph::Scale);
     keys.scale = menu->addKey(Text::tr("Scale"));

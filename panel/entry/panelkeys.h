@@ -25,8 +25,14 @@ struct PanelKeys {
     SoftKey *trace; ///< which is active
     SoftKey *parameter; ///< that it shows, of its network
     SoftKey *format;
-    MenuButton *memory;
     SwitchButton *visible;
+    // Math
+    MenuButton *memory;
+    SoftKey *math; ///< what is made of data and memory
+    SoftKey *smoothing;
+    SoftKey *extensionPort; ///< which port the next key is about
+    SoftKey *extension; ///< the delay of a line that is taken off
+    SoftKey *impedance; ///< that the ports refer to
     // Scale
     SoftKey *scale;
     SoftKey *reference; ///< the value at the top of a Cartesian diagram

@@ -19,12 +19,6 @@ namespace Panel
 namespace
 {
 
-/// The commands of the memory key.
-enum MemoryCommand {
-    Store,
-    Clear,
-};
-
 /// The commands of the autoscale key.
 enum AutoScaleCommand {
     FitActive,
@@ -55,7 +49,6 @@ TraceController::TraceController(PanelModel *model, const PanelKeys &keys, Trace
     connectKeys();
     for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::activeTraceChanged})
         connect(model, signal, this, &TraceController::showTrace);
-    connect(model, &PanelModel::memoryChanged, this, &TraceController::showTrace);
     connect(model, &PanelModel::traceVisibleChanged, this, &TraceController::showTrace);
     showTrace();
 }
@@ -77,10 +70,6 @@ void TraceController::connectKeys()
             m_model->setTraceFormat(trace->id, TraceFormat(index));
         showTrace();
     });
-    keys.memory->addMenuItem(Store, tr("Data to memory"));
-    keys.memory->addMenuItem(Clear, tr("Clear memory"));
-    connect(keys.memory, qOverload<int>(&MenuButton::menuItemClicked), this,
-            &TraceController::onMemoryPicked);
     keys.autoScale->addMenuItem(FitActive, tr("This trace"));
     keys.autoScale->addMenuItem(FitAll, tr("All traces"));
     connect(keys.autoScale, qOverload<int>(&MenuButton::menuItemClicked), this,
@@ -89,17 +78,6 @@ void TraceController::connectKeys()
         if (const Trace *trace = m_model->activeTrace())
             m_model->setTraceVisible(trace->id, visible);
     });
-}
-
-void TraceController::onMemoryPicked(int command)
-{
-    const Trace *trace = m_model->activeTrace();
-    if (!trace)
-        return;
-    if (command == Store)
-        m_model->storeMemory(trace->id);
-    else if (command == Clear)
-        m_model->clearMemory(trace->id);
 }
 
 void TraceController::onAutoScalePicked(int command)
@@ -170,11 +148,10 @@ void TraceController::showTrace()
     keys.trace->setChoice(index);
     keys.format->setChoice(active ? int(active->format) : -1);
     keys.visible->setStatus(active && active->visible);
-    keys.memory->setItemEnabled(Clear, active && m_model->memory(active->id));
     keys.parameter->setValue(active ? PanelModel::parameterName(*active) : nothingText());
     keys.parameter->setEnabled(active && m_model->network(*active).ports > 1);
     for (QWidget *key : {static_cast<QWidget *>(keys.trace), static_cast<QWidget *>(keys.format),
-                         static_cast<QWidget *>(keys.memory), static_cast<QWidget *>(keys.visible)})
+                         static_cast<QWidget *>(keys.visible)})
         key->setEnabled(active);
 }
 

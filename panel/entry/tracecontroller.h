@@ -26,7 +26,6 @@ public:
 private:
     void connectKeys();
     void onEditRequested(int traceId, TraceBar::Field field);
-    void onMemoryPicked(int command);
     void editParameter(int traceId);
     void onAutoScalePicked(int command);
     /// Lets the user pick from a list below a place in a widget.

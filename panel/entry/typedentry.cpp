@@ -14,6 +14,34 @@
 namespace Panel
 {
 
+namespace
+{
+
+/// Takes the Return that somebody presses when the entry has just finished by itself: it would
+/// press the key that has the keyboard now, and open the entry anew.
+class LateReturn : public QObject
+{
+public:
+    LateReturn()
+        : QObject(QCoreApplication::instance())
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+        QTimer::singleShot(2 * TypedEntry::patience, this, &QObject::deleteLater);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress || watched->isWindowType())
+            return false;
+        deleteLater();
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        return key == Qt::Key_Return || key == Qt::Key_Enter;
+    }
+};
+
+} // namespace
+
 TypedEntry::TypedEntry(QLineEdit *editor, UnitAdapter *adapter, QObject *parent)
     : QObject(parent)
     , m_editor(editor)
@@ -22,7 +50,10 @@ TypedEntry::TypedEntry(QLineEdit *editor, UnitAdapter *adapter, QObject *parent)
 {
     m_finish->setSingleShot(true);
     m_finish->setInterval(patience);
-    connect(m_finish, &QTimer::timeout, this, &TypedEntry::finish);
+    connect(m_finish, &QTimer::timeout, this, [this] {
+        finish();
+        new LateReturn;
+    });
     m_editor->installEventFilter(this);
 }
 

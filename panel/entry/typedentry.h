@@ -17,7 +17,8 @@ class UnitAdapter;
     the number in that unit and finishes; a comma is a decimal point; Ctrl+A selects the number and
     leaves its unit; Return is refused while there is no value.
 
-    A letter finishes after a moment, so that "80 GHz" may be typed as it is written. */
+    A letter finishes after a moment, so that "80 GHz" may be typed as it is written; a Return that
+    comes soon after that is taken for the end of the entry. */
 class TypedEntry : public QObject
 {
     Q_OBJECT

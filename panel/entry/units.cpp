@@ -103,6 +103,19 @@ FrequencyAdapter::FrequencyAdapter(QObject *parent)
         setUnitDecimals(QLatin1String(unit.name), unit.decimals);
 }
 
+TimeAdapter::TimeAdapter(QObject *parent)
+    : UnitAdapter({{QStringLiteral("ns"), 1e-9}, {QStringLiteral("ps"), 1e-12}}, parent)
+{
+    setUnitDecimals(QStringLiteral("ns"), 5);
+    setUnitDecimals(QStringLiteral("ps"), 2);
+}
+
+ResistanceAdapter::ResistanceAdapter(QObject *parent)
+    : UnitAdapter({{QStringLiteral("Ohm"), 1.0}}, parent)
+{
+    setDecimals(2);
+}
+
 DecibelAdapter::DecibelAdapter(QObject *parent)
     : UnitAdapter({{QStringLiteral("dB"), 1.0}}, parent)
 {

@@ -53,6 +53,24 @@ public:
     explicit FrequencyAdapter(QObject *parent = nullptr);
 };
 
+/// ns and ps, down to 0.01 ps.
+class TimeAdapter : public UnitAdapter
+{
+    Q_OBJECT
+
+public:
+    explicit TimeAdapter(QObject *parent = nullptr);
+};
+
+/// Ohms, down to 10 milliohms.
+class ResistanceAdapter : public UnitAdapter
+{
+    Q_OBJECT
+
+public:
+    explicit ResistanceAdapter(QObject *parent = nullptr);
+};
+
 /// dB with two decimals.
 class DecibelAdapter : public UnitAdapter
 {

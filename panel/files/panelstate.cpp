@@ -117,7 +117,29 @@ QJsonObject written(const PanelModel &model, const Trace &trace)
             {"visible"_key, trace.visible},
             {"active"_key, active && active->id == trace.id},
             {"reference"_key, reference ? reference->number : 0},
+            {"smoothing"_key, trace.smoothing},
             {"markers"_key, markers}};
+}
+
+QJsonArray writtenDelays(const Correction &correction)
+{
+    QJsonArray delays;
+    for (const double delay : correction.delays)
+        delays.append(delay);
+    return delays;
+}
+
+/// What cannot be is left out.
+Correction restoredCorrection(const QJsonObject &network)
+{
+    Correction correction;
+    int port = 0;
+    for (const QJsonValue delay : network["delays"_key].toArray())
+        correction.setDelay(++port, delay.toDouble());
+    const double ohms = network["referenceOhms"_key].toDouble();
+    if (ohms >= Correction::smallestReference && ohms <= Correction::largestReference)
+        correction.referenceOhms = ohms;
+    return correction;
 }
 
 QJsonArray writtenNetworks(const PanelModel &model)
@@ -126,15 +148,19 @@ QJsonArray writtenNetworks(const PanelModel &model)
     for (int i = 0; i < model.networks().size(); ++i) {
         QJsonArray traces;
         Stimulus shown;
+        Correction correction;
         for (const Trace &trace : model.traces()) {
             if (trace.network != i)
                 continue;
             shown = model.stimulus(trace);
+            correction = model.correction(trace);
             traces.append(written(model, trace));
         }
         networks.append(QJsonObject{{"identity"_key, identity(model.networks().at(i))},
                                     {"start"_key, shown.start},
                                     {"stop"_key, shown.stop},
+                                    {"delays"_key, writtenDelays(correction)},
+                                    {"referenceOhms"_key, correction.referenceOhms},
                                     {"traces"_key, traces}});
     }
     return networks;
@@ -157,6 +183,7 @@ void restoreTrace(PanelModel *model, int id, const QJsonObject &saved)
     model->setTraceParameter(id, saved["to"_key].toInt(), saved["from"_key].toInt());
     model->setTraceFormat(id, TraceFormat(saved["format"_key].toInt()));
     model->setTraceScale(id, {saved["scale"_key].toDouble(), saved["top"_key].toDouble()});
+    model->setSmoothing(id, saved["smoothing"_key].toDouble());
     model->setTraceVisible(id, saved["visible"_key].toBool());
     for (const QJsonValue value : saved["markers"_key].toArray()) {
         const QJsonObject marker = value.toObject();
@@ -204,9 +231,11 @@ void restoreNetworks(PanelModel *model, const QJsonObject &state)
         for (const Trace &trace : all) {
             if (trace.network != i || next == traces.size())
                 continue;
-            if (next == 0)
+            if (next == 0) {
                 model->setStimulus(
                     trace, {network["start"_key].toDouble(), network["stop"_key].toDouble()});
+                model->setCorrection(trace, restoredCorrection(network));
+            }
             restored.append({trace.id, traces.at(next).toObject()});
             restoreTrace(model, trace.id, restored.last().second);
             ++next;

@@ -37,6 +37,9 @@ QPainterPath outline(Glyph glyph)
         path.cubicTo(7, -2, 9, 2, 12, 12);
         path.cubicTo(15, 22, 17, 26, 21, 10);
         break;
+    case Glyph::Math: // a sum sign
+        addLine(path, {{18, 7}, {18, 4}, {6, 4}, {13, 12}, {6, 20}, {18, 20}, {18, 17}});
+        break;
     case Glyph::Scale:
         addLine(path, {{12, 3}, {12, 21}});
         addLine(path, {{8, 7}, {12, 3}, {16, 7}});

@@ -12,6 +12,7 @@ namespace Panel
 enum class Glyph {
     Stimulus,
     Trace,
+    Math,
     Scale,
     Marker,
     Limits,

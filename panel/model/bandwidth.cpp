@@ -26,7 +26,7 @@ std::optional<Edge> findEdge(const TraceData &data, double index, double start, 
     double lastLevel = start;
     const double from = direction > 0 ? std::floor(index) + 1.0 : std::ceil(index) - 1.0;
     for (int i = int(from); i >= 0 && i < data.points(); i += direction) {
-        const double level = formatValue(data.at(i), data.reference, TraceFormat::LogMagnitude);
+        const double level = formatValueAt(data, double(i), TraceFormat::LogMagnitude);
         const double hertz = data.frequencies.at(i);
         const double change = level - start;
         if (std::isnan(level))

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cartesian.h"
 
+#include "tracemath.h"
+
 #include <panel/ground/numbertext.h>
 
 #include <smithchart/columnextremes.h>
@@ -151,6 +153,12 @@ constexpr std::array<Formula, traceFormatCount> s_formulas{{
     {Formula::OfItsOwn, quality, nullptr},
 }};
 
+/// Whether values are angles that go on beyond a turn, or begin anew there.
+bool isPhase(TraceFormat format)
+{
+    return format == TraceFormat::Phase || format == TraceFormat::UnwrappedPhase;
+}
+
 const Formula &formula(TraceFormat format)
 {
     return s_formulas.at(std::size_t(format));
@@ -161,6 +169,30 @@ double valueOfPoint(const TraceData &data, int index, TraceFormat format)
     const Formula &row = formula(format);
     return row.amongNeighbours ? row.amongNeighbours(data, index)
                                : row.ofPoint(data.at(index), data.reference);
+}
+
+/// The moving average of a format's values around a point, as smoothed() has it.
+double averageAround(const TraceData &data, int index, TraceFormat format)
+{
+    const int half = std::min({data.averagedPoints / 2, index, data.points() - 1 - index});
+    const int first = index - half;
+    const int turnsBefore =
+        format == TraceFormat::UnwrappedPhase ? turns(data, first + 1).constLast() : 0;
+    double sum = 0.0;
+    int count = 0, turned = turnsBefore;
+    for (int i = first; i <= index + half; ++i) {
+        if (i > first && isPhase(format))
+            turned += turnsOfStep(data.at(i - 1), data.at(i));
+        const double value = valueOfPoint(data, i, format) + 360.0 * turned;
+        if (std::isnan(value) && i == index)
+            return value;
+        if (std::isnan(value))
+            continue;
+        sum += value;
+        ++count;
+    }
+    const double average = sum / count;
+    return format == TraceFormat::Phase ? std::remainder(average, 360.0) : average;
 }
 
 /// The first, lowest, highest and last index of each column of values.
@@ -200,10 +232,18 @@ QVector<double> formatValues(const TraceData &data, TraceFormat format)
     QVector<double> values(data.points());
     for (int i = 0; i < values.size(); ++i)
         values[i] = valueOfPoint(data, i, format);
-    if (format == TraceFormat::UnwrappedPhase) {
+    const bool averaged = data.averagedPoints > 1;
+    if (format == TraceFormat::UnwrappedPhase || (averaged && format == TraceFormat::Phase)) {
         const QVector<int> whole = turns(data, data.points());
         for (int i = 0; i < values.size(); ++i)
             values[i] += 360.0 * whole.at(i);
+    }
+    if (!averaged)
+        return values;
+    values = smoothed(values, data.averagedPoints);
+    if (format == TraceFormat::Phase) {
+        for (double &value : values)
+            value = std::remainder(value, 360.0);
     }
     return values;
 }
@@ -212,11 +252,16 @@ double formatValueAt(const TraceData &data, double index, TraceFormat format)
 {
     const Formula &row = formula(format);
     const int before = std::clamp(int(std::floor(index)), 0, data.points() - 1);
-    if (row.amongNeighbours) {
+    if (row.amongNeighbours || data.averagedPoints > 1) {
+        const auto valueOf = [&](int point) {
+            return data.averagedPoints > 1 ? averageAround(data, point, format)
+                                           : valueOfPoint(data, point, format);
+        };
         const int after = std::min(before + 1, data.points() - 1);
         const double share = std::clamp(index - before, 0.0, 1.0);
-        const double value = valueOfPoint(data, before, format);
-        return share == 0.0 ? value : value + share * (valueOfPoint(data, after, format) - value);
+        const double value = valueOf(before);
+        const double step = share == 0.0 ? 0.0 : valueOf(after) - value;
+        return value + share * (format == TraceFormat::Phase ? std::remainder(step, 360.0) : step);
     }
     const Complex here = data.at(index);
     const double value = row.ofPoint(here, data.reference);
@@ -255,13 +300,15 @@ CartesianLine cartesianLine(const TraceData &data, TraceFormat format, int colum
     // Where each value is needed, all are computed; else those of the points that are kept.
     const bool dense = count > s_pointsPerColumn * columns;
     QVector<double> values;
-    if (format == TraceFormat::UnwrappedPhase || (dense && row.order == Formula::OfItsOwn))
+    const bool averaged = data.averagedPoints > 1;
+    const bool unordered = averaged || row.order == Formula::OfItsOwn;
+    if (averaged || format == TraceFormat::UnwrappedPhase || (dense && unordered))
         values = formatValues(data, format);
     QVector<int> kept;
     if (!dense) {
         kept.resize(qMax(0, count));
         std::iota(kept.begin(), kept.end(), first);
-    } else if (row.order == Formula::OfItsOwn) {
+    } else if (unordered) {
         kept = extremesOf(values, first, count, columns);
     } else {
         kept = SmithRender::columnExtremes(

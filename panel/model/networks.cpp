@@ -58,8 +58,10 @@ Stimulus Networks::shownRange(int index) const
 
 void Networks::replace(const QVector<Network> &networks)
 {
+    ++m_revision;
     m_all = networks;
     m_shown = networks;
+    m_corrections.fill(Correction(), count());
     m_stimuli.clear();
     for (int i = 0; i < count(); ++i)
         m_stimuli.append(limits(i));
@@ -94,11 +96,21 @@ bool Networks::update(int index, const Network &network)
     return true;
 }
 
-/// Cuts out of a network what its stimulus leaves.
+bool Networks::setCorrection(int index, const Correction &correction)
+{
+    if (correction == m_corrections.at(index))
+        return false;
+    m_corrections[index] = correction;
+    cutOut(index);
+    return true;
+}
+
+/// Cuts out of a network what its stimulus leaves, and corrects it.
 void Networks::cutOut(int index)
 {
+    ++m_revision;
     const auto [from, to] = shownPoints(m_all.at(index).frequencies, m_stimuli.at(index));
-    m_shown[index] = part(m_all.at(index), from, to);
+    m_shown[index] = corrected(part(m_all.at(index), from, to), m_corrections.at(index));
 }
 
 } // namespace Panel

@@ -2,20 +2,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "network.h"
+#include "correction.h"
 #include "stimulus.h"
 
 namespace Panel
 {
 
-/// The networks of the panel, and the part of each that is on show.
+/// The networks of the panel, what is done to each, and the part of it that is on show.
 class Networks
 {
 public:
     const QVector<Network> &all() const { return m_all; }
     int count() const { return int(m_all.size()); }
-    /// The part of a network that is on show: the points within its stimulus, and never less than
-    /// the two around it.
+    /// The part of a network that is on show, corrected: the points within its stimulus, and never
+    /// less than the two around it.
     const Network &shown(int index) const { return m_shown.at(index); }
     /// The frequencies that the user asked to see; points at both ends need not lie on them.
     const Stimulus &stimulus(int index) const { return m_stimuli.at(index); }
@@ -24,10 +24,16 @@ public:
     /// The frequencies that the whole network has.
     Stimulus limits(int index) const;
 
-    /// All of each network is on show.
+    /// Another number whenever something else is on show.
+    quint64 revision() const { return m_revision; }
+    const Correction &correction(int index) const { return m_corrections.at(index); }
+
+    /// All of each network is on show, and nothing is done to any.
     void replace(const QVector<Network> &networks);
     /// Shows another part, bounded by the limits; false if it is the present one or none.
     bool setStimulus(int index, const Stimulus &stimulus);
+    /// False if nothing changes.
+    bool setCorrection(int index, const Correction &correction);
     /// Takes a new measurement of a network; the part on show stays as far as there is any of it.
     /// False, without a change, for an index without a network, another number of ports, or no
     /// points.
@@ -39,6 +45,8 @@ private:
     QVector<Network> m_all;
     QVector<Network> m_shown;
     QVector<Stimulus> m_stimuli;
+    QVector<Correction> m_corrections;
+    quint64 m_revision = 0;
 };
 
 } // namespace Panel

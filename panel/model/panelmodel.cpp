@@ -90,6 +90,66 @@ void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
     setSweep({stimulus.start, stimulus.stop, m_sweep.points});
 }
 
+namespace
+{
+
+/// The points that are averaged of a trace: an odd number, so that the middle one stays.
+int averagedPoints(const Trace &trace, int points)
+{
+    return trace.smoothing > 0.0 ? 2 * int(std::lround(trace.smoothing / 200.0 * points)) + 1 : 0;
+}
+
+/// Smoothed as it is drawn: a line over the frequency has its values averaged, a Smith chart both
+/// parts of the reflection.
+TraceData smoothedAs(const Trace &trace, TraceData data)
+{
+    const int points = averagedPoints(trace, data.points());
+    if (!trace.onSmithChart())
+        data.averagedPoints = points;
+    else if (points > 1)
+        data.parameter = {smoothed(data.parameter.real, points),
+                          smoothed(data.parameter.imag, points)};
+    return data;
+}
+
+} // namespace
+
+TraceData PanelModel::traceData(const Trace &trace) const
+{
+    const TraceData measured = Panel::traceData(network(trace), trace.to, trace.from);
+    if (trace.math == TraceMath::DataAndMemory && trace.smoothing == 0.0)
+        return measured;
+    const std::pair<quint64, quint64> revisions{m_networks.revision(), m_traces.revision()};
+    if (m_processedOf != revisions)
+        m_processed.clear();
+    m_processedOf = revisions;
+    const auto found = m_processed.constFind(trace.id);
+    if (found != m_processed.constEnd())
+        return *found;
+    const TraceData *stored = memory(trace.id);
+    const TraceData result =
+        smoothedAs(trace, stored ? combined(measured, *stored, trace.math) : measured);
+    m_processed.insert(trace.id, result);
+    return result;
+}
+
+std::optional<TraceData> PanelModel::drawnMemory(const Trace &trace) const
+{
+    const TraceData *stored = memory(trace.id);
+    if (!stored || trace.math != TraceMath::DataAndMemory)
+        return {};
+    return smoothedAs(trace, *stored);
+}
+
+void PanelModel::setCorrection(const Trace &trace, const Correction &correction)
+{
+    const int network = trace.network;
+    if (!m_networks.setCorrection(network, correction))
+        return;
+    Q_EMIT correctionChanged(network);
+    Q_EMIT tracesChanged();
+}
+
 // Source
 
 void PanelModel::setSource(Source source)
@@ -202,14 +262,34 @@ void PanelModel::fitTrace(int id)
 void PanelModel::storeMemory(int id)
 {
     const Trace *trace = this->trace(id);
-    if (trace && m_traces.storeMemory(id, traceData(*trace)))
+    if (trace
+        && m_traces.storeMemory(id, Panel::traceData(network(*trace), trace->to, trace->from)))
         Q_EMIT memoryChanged(id);
 }
 
 void PanelModel::clearMemory(int id)
 {
-    if (m_traces.clearMemory(id))
-        Q_EMIT memoryChanged(id);
+    const bool calculated = trace(id) && trace(id)->math != TraceMath::DataAndMemory;
+    if (!m_traces.clearMemory(id))
+        return;
+    Q_EMIT memoryChanged(id);
+    if (calculated)
+        Q_EMIT tracesChanged();
+}
+
+void PanelModel::setTraceMath(int id, TraceMath math)
+{
+    if (!m_traces.setMath(id, math))
+        return;
+    if (math == TraceMath::Divided || math == TraceMath::Subtracted)
+        fitTrace(id); // the result is nowhere near the data
+    Q_EMIT tracesChanged();
+}
+
+void PanelModel::setSmoothing(int id, double percent)
+{
+    if (m_traces.setSmoothing(id, percent))
+        Q_EMIT tracesChanged();
 }
 
 // Diagrams

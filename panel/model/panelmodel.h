@@ -11,6 +11,8 @@
 #include "viewsettings.h"
 
 #include <map>
+#include <optional>
+#include <utility>
 
 namespace Panel
 {
@@ -42,13 +44,14 @@ public:
     const QVector<Network> &networks() const { return m_networks.all(); }
     /// The part of the trace's network that is on show.
     const Network &network(const Trace &trace) const { return m_networks.shown(trace.network); }
-    const Parameter &data(const Trace &trace) const
+    /// What the trace draws and its markers read: with its memory and smoothed, as it is set. There
+    /// are as many points as in its network.
+    TraceData traceData(const Trace &trace) const;
+    /// What is drawn beside it of a trace whose memory is on show, or null.
+    std::optional<TraceData> drawnMemory(const Trace &trace) const;
+    const Correction &correction(const Trace &trace) const
     {
-        return network(trace).s(trace.to, trace.from);
-    }
-    TraceData traceData(const Trace &trace) const
-    {
-        return Panel::traceData(network(trace), trace.to, trace.from);
+        return m_networks.correction(trace.network);
     }
     /// What the trace's source is to sweep: the sweep of a simulated device, or the part of a file
     /// on show.
@@ -68,6 +71,8 @@ public:
     /// Replaces the data of one network by a new measurement of it; traces and markers stay. False,
     /// without a change, for an index without a network, another number of ports, or no points.
     bool updateNetwork(int index, const Network &network);
+    /// What is done to the whole network of a trace from now on.
+    void setCorrection(const Trace &trace, const Correction &correction);
     /// Takes a file that was read again. Traces and markers stay unless it has other ports than
     /// before.
     void updateFile(int index, const Network &network);
@@ -125,9 +130,14 @@ public:
     void setTraceScale(int id, const Scale &scale);
     /// Gives a trace over the frequency a scale at which all of its data on show are seen.
     void fitTrace(int id);
-    /// Stores the trace's data on show.
+    /// Stores the trace's data on show, as they are without memory and smoothing.
     void storeMemory(int id);
     void clearMemory(int id);
+    /// Ignored while nothing is stored. The scale of a trace over the frequency is fitted to a
+    /// quotient or a difference, which is nowhere near the data.
+    void setTraceMath(int id, TraceMath math);
+    /// A share of the points in percent, bounded; 0 ends it.
+    void setSmoothing(int id, double percent);
     /*! @} */
 
     Preferences *preferences() { return &m_preferences; }
@@ -195,6 +205,8 @@ Q_SIGNALS:
     void networksChanged();
     /// A network has new data.
     void networkUpdated(int index);
+    /// A network is corrected in another way; tracesChanged() follows.
+    void correctionChanged(int network);
     /// Another part of a network is on show, or is to be swept.
     void stimulusChanged(int network);
     void sourceChanged();
@@ -237,6 +249,10 @@ private:
     Sweep m_sweep;
     double m_tuning = defaultTuning;
     bool m_sweeping = true;
+    /// What traces made of their data, by trace, and the revisions of networks and traces that it
+    /// was made of.
+    mutable QHash<int, TraceData> m_processed;
+    mutable std::pair<quint64, quint64> m_processedOf;
 };
 
 } // namespace Panel

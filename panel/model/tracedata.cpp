@@ -22,7 +22,7 @@ std::complex<double> endless()
 
 TraceData traceData(const Network &network, int to, int from)
 {
-    return {network.frequencies, network.s(to, from), network.reference(to)};
+    return {network.frequencies, network.s(to, from), network.reference(to), 0};
 }
 
 std::complex<double> impedanceOf(const std::complex<double> &reflection,

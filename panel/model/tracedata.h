@@ -14,6 +14,8 @@ struct TraceData {
     Parameter parameter; ///< as long as the frequencies
     /// Of the port that the wave leaves, in ohms; real part above 0.
     std::complex<double> reference = 50.0;
+    /// Over how many points the values of a format are averaged; 0 or 1: not at all.
+    int averagedPoints = 0;
 
     int points() const { return int(frequencies.size()); }
     std::complex<double> at(int index) const

@@ -51,8 +51,15 @@ void Traces::rebuild(const Networks &networks)
 {
     m_all.clear();
     m_memories.clear();
+    ++m_revision;
     const auto add = [this](int network, int to, int from, TraceFormat format) {
-        m_all.append({int(m_all.size()) + 1, network, to, from, format, {}, true});
+        Trace trace;
+        trace.id = int(m_all.size()) + 1;
+        trace.network = network;
+        trace.to = to;
+        trace.from = from;
+        trace.format = format;
+        m_all.append(trace);
     };
     for (int i = 0; i < networks.count(); ++i) {
         const int ports = networks.all().at(i).ports;
@@ -115,6 +122,7 @@ bool Traces::setFormat(int id, TraceFormat format, const Networks &networks)
         return false;
     trace->format = format;
     trace->scale = startScale(format, networks);
+    ++m_revision;
     return true;
 }
 
@@ -127,7 +135,8 @@ bool Traces::setParameter(int id, int to, int from, const Networks &networks)
         return false;
     trace->to = to;
     trace->from = from;
-    m_memories.remove(id);
+    clearMemory(id);
+    ++m_revision;
     return true;
 }
 
@@ -146,6 +155,37 @@ bool Traces::storeMemory(int id, const TraceData &memory)
     if (!find(id))
         return false;
     m_memories.insert(id, memory);
+    ++m_revision;
+    return true;
+}
+
+bool Traces::clearMemory(int id)
+{
+    if (m_memories.remove(id) == 0)
+        return false;
+    edit(id)->math = TraceMath::DataAndMemory;
+    ++m_revision;
+    return true;
+}
+
+bool Traces::setMath(int id, TraceMath math)
+{
+    Trace *trace = edit(id);
+    if (!trace || trace->math == math || !memory(id))
+        return false;
+    trace->math = math;
+    ++m_revision;
+    return true;
+}
+
+bool Traces::setSmoothing(int id, double percent)
+{
+    Trace *trace = edit(id);
+    const double bounded = std::clamp(percent, 0.0, Trace::mostSmoothing);
+    if (!trace || !std::isfinite(percent) || trace->smoothing == bounded)
+        return false;
+    trace->smoothing = bounded;
+    ++m_revision;
     return true;
 }
 

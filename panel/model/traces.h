@@ -5,6 +5,7 @@
 #include "networks.h"
 #include "tracedata.h"
 #include "traceformat.h"
+#include "tracemath.h"
 
 #include <QHash>
 
@@ -20,6 +21,11 @@ struct Trace {
     TraceFormat format = TraceFormat::Smith; ///< decides which diagram shows it
     Scale scale; ///< of a Cartesian diagram; a Smith chart has a zoom
     bool visible = true;
+    TraceMath math = TraceMath::DataAndMemory; ///< with what was stored, where anything is
+    double smoothing = 0.0; ///< share of the points that are averaged, in percent
+
+    /// Largest share of the points that can be averaged, in percent.
+    static constexpr double mostSmoothing = 20.0;
 
     bool onSmithChart() const { return format == TraceFormat::Smith; }
 };
@@ -37,6 +43,8 @@ public:
     const Trace *active(const QVector<int> &among) const;
     /// A trace's data as they were stored to compare later ones with, or null.
     const TraceData *memory(int id) const;
+    /// Another number whenever what a trace makes of its network's data is another.
+    quint64 revision() const { return m_revision; }
 
     /// Makes new traces, of which the first is active: the reflections of up to four ports on the
     /// Smith chart, then what they get from port 1 in dB, of a two-port also the way back; of a
@@ -54,7 +62,12 @@ public:
     /// False for a scale that is not finite or not above zero a division.
     bool setScale(int id, const Scale &scale);
     bool storeMemory(int id, const TraceData &memory);
-    bool clearMemory(int id) { return m_memories.remove(id) > 0; }
+    /// The trace shows its data again.
+    bool clearMemory(int id);
+    /// False while nothing is stored.
+    bool setMath(int id, TraceMath math);
+    /// Bounded; false for what is not finite.
+    bool setSmoothing(int id, double percent);
     ///@}
 
 private:
@@ -64,6 +77,7 @@ private:
     QVector<Trace> m_all;
     QVector<int> m_recent; ///< ids, the active one in front and the one before behind it
     QHash<int, TraceData> m_memories; ///< by trace
+    quint64 m_revision = 0;
 };
 
 } // namespace Panel

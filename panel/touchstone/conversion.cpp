@@ -14,70 +14,6 @@ namespace
 
 using Complex = std::complex<double>;
 
-bool isFinite(const Complex &value)
-{
-    return std::isfinite(value.real()) && std::isfinite(value.imag());
-}
-
-/// column `to` -= factor * column `from`
-void subtractColumn(ComplexMatrix &matrix, int to, int from, Complex factor)
-{
-    for (int row = 0; row < matrix.size(); ++row)
-        matrix(row, to) -= factor * matrix(row, from);
-}
-
-void swapColumns(ComplexMatrix &matrix, int a, int b)
-{
-    for (int row = 0; row < matrix.size(); ++row)
-        std::swap(matrix(row, a), matrix(row, b));
-}
-
-void scaleColumn(ComplexMatrix &matrix, int column, Complex factor)
-{
-    for (int row = 0; row < matrix.size(); ++row)
-        matrix(row, column) *= factor;
-}
-
-/// Makes dividend * divisor^-1 of the dividend, by operations on the columns of both that make a
-/// unit matrix of the divisor.
-bool divide(ComplexMatrix &dividend, ComplexMatrix divisor)
-{
-    const int size = divisor.size();
-    for (int k = 0; k < size; ++k) {
-        int pivot = k;
-        for (int column = k + 1; column < size; ++column) {
-            if (std::abs(divisor(k, column)) > std::abs(divisor(k, pivot)))
-                pivot = column;
-        }
-        swapColumns(divisor, k, pivot);
-        swapColumns(dividend, k, pivot);
-        const Complex factor = 1.0 / divisor(k, k);
-        if (!isFinite(factor))
-            return false;
-        scaleColumn(divisor, k, factor);
-        scaleColumn(dividend, k, factor);
-        for (int column = 0; column < size; ++column) {
-            const Complex rest = divisor(k, column);
-            if (column == k || rest == 0.0)
-                continue;
-            subtractColumn(divisor, column, k, rest);
-            subtractColumn(dividend, column, k, rest);
-        }
-    }
-    return true;
-}
-
-bool isFinite(const ComplexMatrix &matrix)
-{
-    for (int row = 0; row < matrix.size(); ++row) {
-        for (int column = 0; column < matrix.size(); ++column) {
-            if (!isFinite(matrix(row, column)))
-                return false;
-        }
-    }
-    return true;
-}
-
 /// What the voltages (A) or currents (B) of the ports are, from what the parameters are given of:
 /// V = A x and I = B x.
 struct PortMatrices {
@@ -112,7 +48,7 @@ bool toScattering(ParameterKind kind, ComplexMatrix &parameters,
                   const std::vector<double> &references)
 {
     if (kind == ParameterKind::Scattering)
-        return isFinite(parameters);
+        return parameters.isFinite();
     // b = S a, with 2 sqrt(R) a = (A + RB) x and 2 sqrt(R) b = (A - RB) x.
     auto [outgoing, incoming] = portMatrices(kind, parameters);
     for (int row = 0; row < parameters.size(); ++row) {
@@ -125,7 +61,7 @@ bool toScattering(ParameterKind kind, ComplexMatrix &parameters,
         }
     }
     parameters = outgoing;
-    return divide(parameters, incoming) && isFinite(parameters);
+    return parameters.divideBy(incoming) && parameters.isFinite();
 }
 
 ComplexMatrix toPorts(ParameterKind kind, const ComplexMatrix &parameters,

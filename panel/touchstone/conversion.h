@@ -3,11 +3,10 @@
 /*! \file
     Other network parameters turned into scattering parameters, with power waves
     a = (V + RI) / (2 sqrt R), b = (V - RI) / (2 sqrt R): K. Kurokawa, "Power Waves and the
-   Scattering Matrix", IEEE Trans. MTT 13 (1965), doi 10.1109/TMTT.1965.1125964. */
+    Scattering Matrix", IEEE Trans. MTT 13 (1965), doi 10.1109/TMTT.1965.1125964. */
 #pragma once
 
-#include <complex>
-#include <vector>
+#include <panel/model/complexmatrix.h>
 
 namespace Panel
 {
@@ -19,33 +18,6 @@ enum class ParameterKind {
     Admittance, ///< Y
     HybridG, ///< G of a two-port: (I1, V2) from (V1, I2)
     HybridH ///< H of a two-port: (V1, I2) from (I1, V2)
-};
-
-/// A square matrix of complex numbers.
-class ComplexMatrix
-{
-public:
-    explicit ComplexMatrix(int size)
-        : m_size(size)
-        , m_values(std::size_t(size) * std::size_t(size))
-    {
-    }
-
-    int size() const { return m_size; }
-    std::complex<double> &operator()(int row, int column) { return m_values[index(row, column)]; }
-    const std::complex<double> &operator()(int row, int column) const
-    {
-        return m_values[index(row, column)];
-    }
-
-private:
-    std::size_t index(int row, int column) const
-    {
-        return std::size_t(row) * std::size_t(m_size) + std::size_t(column);
-    }
-
-    int m_size;
-    std::vector<std::complex<double>> m_values;
 };
 
 /*! Turns parameters into scattering parameters at these references in ohms, one a port, each above

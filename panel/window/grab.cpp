@@ -107,9 +107,9 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
     grabber.grab("panel");
 
     // The first page is on the pictures of the panel.
-    static const QVector<const char *> pages{"keys-trace",  "keys-scale",   "keys-marker",
-                                             "keys-limits", "keys-display", "keys-sweep",
-                                             "keys-system"};
+    static const QVector<const char *> pages{"keys-trace",  "keys-math",   "keys-scale",
+                                             "keys-marker", "keys-limits", "keys-display",
+                                             "keys-sweep",  "keys-system"};
     for (int page = 1; page < window->softKeys()->pageCount(); ++page) {
         window->softKeys()->setPage(page);
         grabber.grab(pages.at(page - 1));

@@ -15,6 +15,7 @@
 #include <panel/diagrams/diagramview.h>
 #include <panel/entry/displaykeys.h>
 #include <panel/entry/markercontroller.h>
+#include <panel/entry/mathkeys.h>
 #include <panel/entry/numerickeys.h>
 #include <panel/entry/softkey.h>
 #include <panel/entry/softkeymenu.h>
@@ -47,6 +48,24 @@ enum SaveCommand {
     SaveSvg,
 };
 
+/// The network as it is on show, with a comment on what was done to it.
+Network documented(const Network &measured, const Correction &correction)
+{
+    Network network = corrected(measured, correction);
+    QStringList done;
+    for (int port = 1; port <= correction.delays.size(); ++port) {
+        if (correction.delay(port) != 0.0)
+            done << QStringLiteral("Port %1 extended by %2 ps")
+                        .arg(port)
+                        .arg(correction.delay(port) * 1e12, 0, 'f', 2);
+    }
+    if (correction.referenceOhms > 0.0)
+        done << QStringLiteral("Referred to %1 ohms").arg(correction.referenceOhms);
+    for (const QString &text : done)
+        network.comments.prepend({0, text});
+    return network;
+}
+
 } // namespace
 
 PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject *parent)
@@ -70,6 +89,7 @@ void PanelController::makeEntry()
     connect(numbers, &NumericKeys::said, bar, &MessageBar::notify);
     new DisplayKeys(m_model, keys, this);
     new TraceController(m_model, keys, m_window->traceBar(), numbers, m_window, this);
+    new MathKeys(m_model, keys, numbers, this);
     auto *markers = new MarkerController(m_model, keys, this);
     connect(markers, &MarkerController::said, bar, &MessageBar::notify);
     auto *sources = new SourceKeys(m_model, keys, this);
@@ -196,7 +216,8 @@ void PanelController::onSavePicked(int command)
     if (!trace || !view)
         return;
     const QString folder = folderForExports(*m_model->preferences());
-    const Network &network = m_model->networks().at(trace->network);
+    const Network network =
+        documented(m_model->networks().at(trace->network), m_model->correction(*trace));
     switch (command) {
     case SaveTouchstone:
         tell(exportData(network, folder, DataFormat::Touchstone));

@@ -165,7 +165,7 @@ struct ChartDesk : PanelDesk {
     /// A point of a trace in pixels of the plot.
     QPoint onTrace(int traceId, int index) const
     {
-        const Panel::Parameter &data = model.data(*model.trace(traceId));
+        const Panel::Parameter data = model.traceData(*model.trace(traceId)).parameter;
         return {qRound(plot()->xAxis->coordToPixel(data.real.at(index))),
                 qRound(plot()->yAxis->coordToPixel(data.imag.at(index)))};
     }

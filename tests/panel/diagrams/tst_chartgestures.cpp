@@ -139,7 +139,7 @@ private Q_SLOTS:
     {
         ChartDesk desk;
         desk.model.addMarker(1, 100.0);
-        const Parameter at = desk.model.data(*desk.model.trace(1));
+        const Parameter at = desk.model.traceData(*desk.model.trace(1)).parameter;
         for (const auto density :
              {GridDensity::Standard, GridDensity::Detailed, GridDensity::Basic}) {
             desk.model.viewSettings()->setDensity(density);

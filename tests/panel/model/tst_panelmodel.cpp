@@ -56,9 +56,9 @@ private Q_SLOTS:
         model.openNetworks({network(1), network(2)});
         QCOMPARE(names(model),
                  (QStringList{"1 S11"_s, "2 S11"_s, "3 S11"_s, "4 S22"_s, "5 S21"_s, "6 S12"_s}));
-        QCOMPARE(model.data(*model.trace(5)).real, QVector<double>{1.0});
+        QCOMPARE(model.traceData(*model.trace(5)).parameter.real, QVector<double>{1.0});
         QCOMPARE(model.activeTrace(false), model.trace(2));
-        QCOMPARE(model.data(*model.trace(4)).real, QVector<double>{3.0});
+        QCOMPARE(model.traceData(*model.trace(4)).parameter.real, QVector<double>{3.0});
         QCOMPARE(model.network(*model.trace(4)).ports, 2);
         QCOMPARE(model.activeTrace(), model.trace(1));
 
