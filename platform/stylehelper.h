@@ -11,9 +11,9 @@ namespace Utils
 
 /*! Puts style sheet files into force for the whole application.
 
-    There is one sheet at a time: what setThemes() applies takes the place of whatever the
-    application had, so nothing of an earlier theme stays behind. Not for styling a single widget:
-    use QWidget::setStyleSheet() for that.
+    What setThemes() applies takes the place of what it applied before, so nothing of an earlier
+    theme stays behind. A style sheet that the application has of its own stays, and prevails. Not
+    for styling a single widget: use QWidget::setStyleSheet() for that. GUI thread only.
 
     \code
     QStringList files = Utils::StyleHelper::defaultThemeFiles(dark);
@@ -29,9 +29,13 @@ public:
     static QStringList defaultThemeFiles(bool dark);
 
     /*! Joins the files in list order and applies them to the application. Relative names are taken
-        from the application's folder, text is UTF-8, a file that cannot be read or has more than 1
-        MiB is left out. Does nothing when the text is the one in force, since a new sheet costs
-        every widget a polish. */
+        from the application's folder; text is UTF-8, at most 1 MiB. "@textColor" and the like stand
+        for the colours that the theme manager knows by these names.
+
+        In place of the theme's files in "../configuration" that are missing come those in the
+        library. Another one that is missing, and any that is broken, is left out and told by a
+        warning, once. Does nothing when the text is the one in force: a new sheet costs every
+        widget a polish. */
     static void setThemes(const QStringList &files);
 };
 

@@ -64,18 +64,14 @@ void GalleryWindow::applyTheme()
 {
     const bool dark = ThemeManager::instance()->isDarkTheme();
     m_themeButton->setText(dark ? tr("Light theme") : tr("Dark theme"));
-    QString sheet = QStringLiteral("#gallery, #page { background: @back; }"
-                                   "#section { background: @card; border: 1px solid @edge;"
+    const QString sheet = QStringLiteral("#gallery, #page { background: @backgroundColor; }"
+                                   "#section { background: @dialogColor; border: 1px solid @gridColor;"
                                    "           border-radius: 6px; }"
-                                   "#stage { background: @back; border: 1px solid @edge; }"
-                                   "#diagram { background: transparent; border: 1px dashed @edge; }"
+                                   "#stage { background: @backgroundColor; border: 1px solid @gridColor; }"
+                                   "#diagram { background: transparent; border: 1px dashed @gridColor; }"
                                    "QLabel#sectionTitle { font-size: 17px; font-weight: bold; }"
-                                   "QLabel#dim { color: @dim; font-size: 13px; }");
-    sheet.replace(QLatin1String("@back"), QLatin1String(dark ? "#000000" : "#ece9e4"));
-    sheet.replace(QLatin1String("@card"), QLatin1String(dark ? "#14171a" : "#f7f5f2"));
-    sheet.replace(QLatin1String("@edge"), QLatin1String(dark ? "#292e33" : "#d2cbc5"));
-    sheet.replace(QLatin1String("@dim"), QLatin1String(dark ? "#9aa5af" : "#4d5861"));
-    setStyleSheet(sheet);
+                                   "QLabel#dim { color: @dimTextColor; font-size: 13px; }");
+    setStyleSheet(ThemeManager::instance()->fillColors(sheet));
 }
 
 } // namespace Gallery

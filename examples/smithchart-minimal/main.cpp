@@ -8,7 +8,8 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QCustomPlot plot;
     SmithChartPlot chart(&plot, SmithChart::Standard);
-    chart.addCurve(1, QPen(Qt::blue));
+    chart.setFollowsTheme(true);
+    chart.addCurve(1, QPen(Qt::cyan));
     chart.setCurveData(1, {1e9, 2e9, 3e9}, {0.0, 0.3, 0.1}, {0.5, 0.2, -0.4});
     plot.show();
     return app.exec();

@@ -81,10 +81,9 @@ Look currentLook()
     look.button = theme->getColor(QStringLiteral("buttonColor"));
     look.traces = extended(theme->getTracePalette(), dark);
     look.memories = theme->getMemoryTracePalette();
-    // The same as in the theme's style sheets.
-    look.bar = dark ? QColor(0x14, 0x17, 0x1a) : QColor(0xe1, 0xdc, 0xd6);
-    look.dimText = dark ? QColor(0x9a, 0xa5, 0xaf) : QColor(0x4d, 0x58, 0x61);
-    look.accent = dark ? QColor(0x40, 0xb5, 0xff) : QColor(0x00, 0x68, 0xb0);
+    look.bar = theme->getColor(QStringLiteral("barColor"));
+    look.dimText = theme->getColor(QStringLiteral("dimTextColor"));
+    look.accent = theme->getColor(QStringLiteral("focusColor"));
     look.pass = dark ? QColor(0x3d, 0xd6, 0x8c) : QColor(0x00, 0x7a, 0x45);
     look.fail = dark ? QColor(0xff, 0x5c, 0x5c) : QColor(0xc6, 0x1a, 0x1a);
     look.warning = dark ? QColor(0xff, 0xb3, 0x47) : QColor(0xa8, 0x4f, 0x00);

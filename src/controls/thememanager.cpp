@@ -2,16 +2,22 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include <controls/thememanager.h>
 
+#include "themecolors_p.h"
 #include "themesettings_p.h"
 
+#include <base/stylecolors_p.h>
 #include <platform/guicontext.h>
 #include <platform/stylehelper.h>
 #include <platform/translator.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
 #include <QPixmap>
+
+#include <iterator>
+#include <utility>
 
 namespace Controls
 {
@@ -19,44 +25,179 @@ namespace Controls
 namespace
 {
 
-struct NamedColor {
-    const char *key;
-    QColor dark;
-    QColor light;
-};
-
 QString resource(const char *name)
 {
     return QStringLiteral(":/image/resource/") + QLatin1String(name);
 }
 
-QVector<QColor> paletteOf(std::initializer_list<const char *> names)
+struct IconFiles {
+    const char *dark;
+    const char *light;
+};
+
+constexpr IconFiles s_icons[] = {
+    {"logo.png", "logo_light.png"},
+    {"logo.png", "logo_light.png"},
+    {"enter.svg", "enter.svg"},
+    {"lock.svg", "lock_light.svg"},
+    {"unlock.svg", "unlock_light.svg"},
+    // The resource file really carries the double r.
+    {"screenshot.png", "scrreenshot_light.png"},
+    {"hidepanel.png", "hidepanel_light.png"},
+    {"showpanel.png", "showpanel_light.png"},
+};
+
+/// A colour as style sheets write it.
+QString sheetText(const QColor &color)
 {
-    QVector<QColor> colors;
-    for (const char *name : names)
-        colors << QColor(QLatin1String(name));
-    return colors;
+    if (color.alpha() == 255)
+        return color.name();
+    return QStringLiteral("rgba(%1, %2, %3, %4)")
+        .arg(color.red())
+        .arg(color.green())
+        .arg(color.blue())
+        .arg(color.alpha());
+}
+
+void takeSettings(const ThemeSettings &settings, ThemeColors &colors)
+{
+    for (auto it = settings.colors.constBegin(); it != settings.colors.constEnd(); ++it)
+        colors.set(it.key(), *it);
+    if (!settings.tracePalette.isEmpty())
+        colors.tracePalette = settings.tracePalette;
+    if (!settings.memoryTracePalette.isEmpty())
+        colors.memoryTracePalette = settings.memoryTracePalette;
 }
 
 } // namespace
 
-ThemeManager *ThemeManager::m_instance = nullptr;
+class ThemeManagerPrivate
+{
+public:
+    explicit ThemeManagerPrivate(ThemeManager *manager)
+        : q(manager)
+    {
+    }
+
+    ThemeColors &colors(ThemeManager::Theme of) { return of == ThemeManager::Dark ? dark : light; }
+    const ThemeColors &current() const { return theme == ThemeManager::Dark ? dark : light; }
+
+    /// The current theme's colours as style sheets write them.
+    QVariantMap sheetColors() const
+    {
+        QVariantMap texts;
+        const QStringList names = current().names();
+        for (const QString &name : names) {
+            const QColor color = current().color(name);
+            texts.insert(name, color.isValid() ? sheetText(color) : QStringLiteral("transparent"));
+        }
+        return texts;
+    }
+
+    /// The files of the theme: those of sheetFolder, where it has one.
+    QStringList sheets() const
+    {
+        QStringList files = Utils::StyleHelper::defaultThemeFiles(theme == ThemeManager::Dark);
+        files << (theme == ThemeManager::Light ? QStringLiteral("../configuration/theme-light.css")
+                                               : QStringLiteral("../configuration/theme-dark.css"));
+        if (sheetFolder.isEmpty())
+            return files;
+        const QDir folder(
+            QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(sheetFolder));
+        for (QString &file : files) {
+            const QString name = QFileInfo(file).fileName();
+            if (folder.exists(name))
+                file = folder.filePath(name);
+        }
+        return files;
+    }
+
+    /// Brings what was set into force soon, and once for all that is set until then.
+    void applySoon()
+    {
+        if (std::exchange(isPending, true))
+            return;
+        const auto apply = [this] {
+            if (!isPending)
+                return;
+            isPending = false;
+            if (isInForce)
+                q->setTheme(theme);
+            else
+                Q_EMIT q->themeChanged(theme);
+        };
+        QMetaObject::invokeMethod(q, apply, Qt::QueuedConnection);
+    }
+
+    ThemeManager *const q;
+    ThemeManager::Theme theme = ThemeManager::Dark;
+    ThemeColors dark{true};
+    ThemeColors light{false};
+    QString sheetFolder;
+    bool isInForce = false; ///< setTheme() has been called
+    bool isPending = false;
+};
 
 ThemeManager *ThemeManager::instance()
 {
-    if (!m_instance)
-        m_instance = new ThemeManager;
-    return m_instance;
+    static ThemeManager *manager = nullptr;
+    if (!manager)
+        manager = new ThemeManager;
+    return manager;
 }
 
 ThemeManager::ThemeManager()
+    : d(std::make_unique<ThemeManagerPrivate>(this))
 {
-    initializeColors();
+    ThemeSettings dark;
+    ThemeSettings light;
+    readThemeSettings(themeSettingsPath(), dark, light);
+    takeSettings(dark, d->dark);
+    takeSettings(light, d->light);
+}
+
+ThemeManager::~ThemeManager() = default;
+
+ThemeManager::Theme ThemeManager::currentTheme() const
+{
+    return d->theme;
+}
+
+bool ThemeManager::isDarkTheme() const
+{
+    return d->theme == Dark;
+}
+
+bool ThemeManager::isLightTheme() const
+{
+    return d->theme == Light;
 }
 
 QColor ThemeManager::getColor(const QString &key) const
 {
-    return (m_theme == Dark ? m_darkColors : m_lightColors).value(key);
+    return d->current().color(key);
+}
+
+void ThemeManager::setColor(Theme theme, const QString &key, const QColor &color)
+{
+    if (color.isValid())
+        d->colors(theme).set(key, color);
+    else
+        d->colors(theme).reset(key);
+    d->applySoon();
+}
+
+bool ThemeManager::readColors(const QString &file)
+{
+    ThemeSettings dark;
+    ThemeSettings light;
+    readThemeSettings(file, dark, light, AllColors);
+    if (dark.isEmpty() && light.isEmpty())
+        return false;
+    takeSettings(dark, d->dark);
+    takeSettings(light, d->light);
+    d->applySoon();
+    return true;
 }
 
 QColor ThemeManager::backgroundColor() const
@@ -91,18 +232,47 @@ QColor ThemeManager::textColor() const
 
 QVector<QColor> ThemeManager::getTracePalette() const
 {
-    return m_theme == Dark ? m_darkTracePalette : m_lightTracePalette;
+    return d->current().tracePalette;
 }
 
 QVector<QColor> ThemeManager::getMemoryTracePalette() const
 {
-    return m_theme == Dark ? m_darkMemoryTracePalette : m_lightMemoryTracePalette;
+    return d->current().memoryTracePalette;
+}
+
+void ThemeManager::setTracePalette(Theme theme, const QVector<QColor> &colors)
+{
+    d->colors(theme).tracePalette =
+        colors.isEmpty() ? ThemeColors::builtInTraces(theme == Dark) : colors;
+    d->applySoon();
+}
+
+void ThemeManager::setMemoryTracePalette(Theme theme, const QVector<QColor> &colors)
+{
+    d->colors(theme).memoryTracePalette =
+        colors.isEmpty() ? ThemeColors::builtInMemoryTraces(theme == Dark) : colors;
+    d->applySoon();
+}
+
+QString ThemeManager::sheetFolder() const
+{
+    return d->sheetFolder;
+}
+
+void ThemeManager::setSheetFolder(const QString &folder)
+{
+    d->sheetFolder = folder;
+    d->applySoon();
+}
+
+QString ThemeManager::fillColors(const QString &sheet) const
+{
+    return Utils::withStyleColors(sheet, d->sheetColors());
 }
 
 QString ThemeManager::getIconPath(int id) const
 {
-    const auto paths = m_iconPaths.constFind(id);
-    if (paths == m_iconPaths.constEnd())
+    if (id < 0 || id >= int(std::size(s_icons)))
         return {};
 
     if (id == 0) {
@@ -112,9 +282,9 @@ QString ThemeManager::getIconPath(int id) const
             return customized;
         const auto *translator = Utils::Translator::instance();
         if (translator && translator->currentLanguage().contains(QChar(0x4E2D)))
-            return resource(m_theme == Light ? "logochinese_light.svg" : "logochinese_dark.png");
+            return resource(d->theme == Light ? "logochinese_light.svg" : "logochinese_dark.png");
     }
-    return m_theme == Light && !paths->second.isEmpty() ? paths->second : paths->first;
+    return resource(d->theme == Light ? s_icons[id].light : s_icons[id].dark);
 }
 
 QIcon ThemeManager::icon(int id) const
@@ -124,98 +294,26 @@ QIcon ThemeManager::icon(int id) const
 
 void ThemeManager::setTheme(Theme theme)
 {
-    m_theme = theme;
+    d->theme = theme;
+    d->isInForce = true;
+    d->isPending = false;
     Utils::GUIContext::instance()->setIsDarkTheme(theme == Dark);
-    QStringList files = Utils::StyleHelper::defaultThemeFiles(theme == Dark);
-    files << (theme == Light ? QStringLiteral("../configuration/theme-light.css")
-                             : QStringLiteral("../configuration/theme-dark.css"));
-    Utils::StyleHelper::setThemes(files);
+    if (auto *application = QCoreApplication::instance())
+        application->setProperty(Utils::styleColorsProperty, d->sheetColors());
+    Utils::StyleHelper::setThemes(d->sheets());
     Q_EMIT themeChanged(theme);
 }
 
 void ThemeManager::toggleTheme()
 {
-    setTheme(m_theme == Dark ? Light : Dark);
-}
-
-void ThemeManager::initializeColors()
-{
-    const QColor translucentDark(29, 109, 159, 100);
-    const QColor translucentLight(99, 172, 246, 100);
-    const NamedColor colors[] = {
-        {"borderColor", "#535B62", "#bab4af"},
-        {"backgroundColor", "#000000", "#ECE9E4"},
-        {"textColor", "#ffffff", "#2c3a45"},
-        {"highlightColor", translucentDark, translucentLight},
-        {"buttonColor", "#323232", "#D2CBC5"},
-        {"statusBarColor", "#000000", "#ECE9E4"},
-        {"listItemEnabledColor", "#0000CE", "#63ACF6"},
-        {"listItemSelectedColor", translucentDark, translucentLight},
-        {"listItemHoverColor", "#2D2D2D", "#E5DED9"},
-        {"listItemDefaultColor", "#191919", "#ECE9E4"},
-        // Opaque on purpose in the light theme: a pressed button must stand out from its bright
-        // neighbours.
-        {"labelButtonPressedColor", translucentDark, "#63ACF6"},
-        {"gridColor", "#292E33", "#C7C2BD"},
-    };
-    for (const NamedColor &color : colors) {
-        m_darkColors.insert(QLatin1String(color.key), color.dark);
-        m_lightColors.insert(QLatin1String(color.key), color.light);
-    }
-    m_darkTracePalette = paletteOf({"#FFFF00", "#FF55FF", "#00F5A0", "#40B5FF"});
-    m_lightTracePalette = paletteOf({"#007A52", "#A84F00", "#0068B0", "#9C27B0"});
-    m_darkMemoryTracePalette = paletteOf({"#ffb347", "#ff7675", "#ffd166", "#ff9f1c"});
-    m_lightMemoryTracePalette = paletteOf({"#d84315", "#ad1457", "#6d4c41", "#5d4037"});
-
-    readSettings();
-
-    const struct {
-        const char *dark;
-        const char *light;
-    } icons[] = {
-        {"logo.png", "logo_light.png"},
-        {"logo.png", "logo_light.png"},
-        {"enter.svg", "enter.svg"},
-        {"lock.svg", "lock_light.svg"},
-        {"unlock.svg", "unlock_light.svg"},
-        // The resource file really carries the double r.
-        {"screenshot.png", "scrreenshot_light.png"},
-        {"hidepanel.png", "hidepanel_light.png"},
-        {"showpanel.png", "showpanel_light.png"},
-    };
-    int id = 0;
-    for (const auto &icon : icons)
-        m_iconPaths.insert(id++, {resource(icon.dark), resource(icon.light)});
-}
-
-void ThemeManager::readSettings()
-{
-    ThemeSettings dark;
-    ThemeSettings light;
-    readThemeSettings(themeSettingsPath(), dark, light);
-
-    const auto takeColors = [](const QMap<QString, QColor> &read, QMap<QString, QColor> &colors) {
-        for (auto color = read.constBegin(); color != read.constEnd(); ++color)
-            colors.insert(color.key(), color.value());
-    };
-    takeColors(dark.colors, m_darkColors);
-    takeColors(light.colors, m_lightColors);
-
-    const auto takePalette = [](const QVector<QColor> &read, QVector<QColor> &palette) {
-        if (!read.isEmpty())
-            palette = read;
-    };
-    takePalette(dark.tracePalette, m_darkTracePalette);
-    takePalette(light.tracePalette, m_lightTracePalette);
-    takePalette(dark.memoryTracePalette, m_darkMemoryTracePalette);
-    takePalette(light.memoryTracePalette, m_lightMemoryTracePalette);
+    setTheme(d->theme == Dark ? Light : Dark);
 }
 
 QIcon ThemeManager::createIcon(const QString &path) const
 {
     if (path.isEmpty())
         return {};
-    if (m_theme == Light && path.contains(QLatin1String("enter"))) {
+    if (d->theme == Light && path.contains(QLatin1String("enter"))) {
         const QImage image(path);
         if (!image.isNull())
             return QIcon(QPixmap::fromImage(invertImageColors(image)));

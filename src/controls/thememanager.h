@@ -6,27 +6,30 @@
 
 #include <QColor>
 #include <QIcon>
-#include <QMap>
 #include <QObject>
-#include <QPair>
 #include <QVector>
 
+#include <memory>
+
 class QImage;
-class QSettings;
 
 namespace Controls
 {
+
+class ThemeManagerPrivate;
 
 /*! Knows whether the user interface is dark or light, and the colours, trace palettes and icons of
     each.
 
     Whatever paints asks here at the moment of painting and connects to themeChanged() to paint
-    again; nobody keeps colours of their own. The tables are filled once, from built-in values and
-    from the group "ThemeColors" of "../configuration/settings.ini" beside the application (or of
-    the file named by the application's dynamic property "vnaSettingsPath"), and never change
-    afterwards. Until the first setTheme() no style sheet is touched.
+    again. Style sheets name the same colours: "@textColor". The colours are built in; the group
+    "ThemeColors" of "../configuration/settings.ini" beside the application (or of the file named by
+    the application's dynamic property "vnaSettingsPath") is read once, at the first use, and
+    changes three of them and the palettes. setColor(), readColors() and the others change any, at
+    any time. Until the first setTheme() no style sheet is touched.
 
-    Not for the look of ordinary widgets: that is the style sheets' business.
+    What is set while the event loop runs comes into force together, as setTheme() does it, before
+    the loop waits again. GUI thread only.
 
     \code
     auto *theme = Controls::ThemeManager::instance();
@@ -36,40 +39,69 @@ namespace Controls
     painter.fillRect(rect(), theme->getColor(QStringLiteral("statusBarColor")));
     const QVector<QColor> traceColors = theme->getTracePalette();
     lockButton->setIcon(theme->icon(3));
+    theme->setColor(Controls::ThemeManager::Light, QStringLiteral("buttonColor"), Qt::white);
     \endcode */
 class VNAWIDGETS_EXPORT ThemeManager : public QObject
 {
     Q_OBJECT
 
 public:
+    /// The two looks.
     enum Theme {
-        Dark = 0,
-        Light = 1,
+        Dark = 0, ///< bright on black, the look at the start
+        Light = 1, ///< dark on a bright ground
     };
 
     /// The one instance, made at the first call and never destroyed.
     static ThemeManager *instance();
 
-    /// Dark at the start.
-    Theme currentTheme() const { return m_theme; }
-    bool isDarkTheme() const { return m_theme == Dark; }
-    bool isLightTheme() const { return m_theme == Light; }
+    /// The theme that was set last; Dark at the start.
+    Theme currentTheme() const;
+    /// Whether the current theme is Dark.
+    bool isDarkTheme() const;
+    /// Whether the current theme is Light.
+    bool isLightTheme() const;
 
-    /*! The colour of that name in the current theme; an invalid colour for an unknown name. Besides
-        the names below: "buttonColor", "statusBarColor", "listItemEnabledColor",
-        "listItemSelectedColor", "listItemHoverColor", "listItemDefaultColor". */
+    /// The colour of that name in the current theme; an invalid one for an unknown name. The
+    /// guide's page on theming lists the names.
     QColor getColor(const QString &key) const;
-    QColor backgroundColor() const;
-    QColor borderColor() const;
-    QColor gridColor() const;
-    QColor highlightColor() const;
-    QColor labelButtonPressedColor() const;
-    QColor textColor() const;
+    /*! \name Colours that a host paints with
+        Each is getColor() of the same name, in the current theme. */
+    ///@{
+    QColor backgroundColor() const; ///< of diagrams and windows
+    QColor borderColor() const; ///< of the edges of fields and frames
+    QColor gridColor() const; ///< of grids
+    QColor highlightColor() const; ///< of what is selected; translucent
+    QColor labelButtonPressedColor() const; ///< of a soft key that is pressed
+    QColor textColor() const; ///< of texts
+    ///@}
+
+    /*! Sets a colour of \a theme, of an existing or of a new name; an invalid colour brings the
+        built-in one back. Shades of it that were not set themselves follow. */
+    void setColor(Theme theme, const QString &key, const QColor &color);
+    /*! Takes all that the group "ThemeColors" of an INI file says: "Dark/buttonColor=#203040",
+        "Light/tracePalette" and so on, under any names of colours. Texts that are no colour are
+        passed over. False when the file cannot be read or names none. */
+    bool readColors(const QString &file);
 
     /// Colours of measured traces in the current theme, first trace first; at least one.
     QVector<QColor> getTracePalette() const;
     /// Colours of stored (memory) traces in the current theme; at least one.
     QVector<QColor> getMemoryTracePalette() const;
+    /// Sets the colours of measured traces; no colour at all brings the built-in ones back.
+    void setTracePalette(Theme theme, const QVector<QColor> &colors);
+    /// Sets the colours of stored traces; no colour at all brings the built-in ones back.
+    void setMemoryTracePalette(Theme theme, const QVector<QColor> &colors);
+
+    /*! A folder whose files of the names theme-base.css, theme-dark.css and theme-light.css take
+        the place of those in "../configuration"; relative to the application's folder. Empty, the
+        default, for none. */
+    QString sheetFolder() const;
+    /// Sets sheetFolder(); files that the folder lacks stay what they are.
+    void setSheetFolder(const QString &folder);
+    /// A style sheet with the current theme's colours in place of their names ("@textColor"), for
+    /// QWidget::setStyleSheet(). An unknown name becomes transparent.
+    QString fillColors(const QString &sheet) const;
 
     /*! File or resource of icon \a id in the current theme: 0 logo (a customer's own, or the
         Chinese one, where there is one), 1 built-in logo, 2 enter key, 3 lock, 4 unlock, 5
@@ -88,27 +120,17 @@ public Q_SLOTS:
     void toggleTheme();
 
 Q_SIGNALS:
-    /// Fires at every setTheme(), when flag and style sheets are already those of \a newTheme.
+    /// Fires at every setTheme(), when flag and style sheets are already those of \a newTheme, and
+    /// once when colours or sheets were set, whether or not setTheme() was ever called.
     void themeChanged(Controls::ThemeManager::Theme newTheme);
 
 private:
     ThemeManager();
+    ~ThemeManager() override;
 
-    void initializeColors();
-    void readSettings();
     QIcon createIcon(const QString &path) const;
-    void updateColors() { }
 
-    Theme m_theme = Dark;
-    QMap<QString, QColor> m_darkColors;
-    QMap<QString, QColor> m_lightColors;
-    QVector<QColor> m_darkTracePalette;
-    QVector<QColor> m_lightTracePalette;
-    QVector<QColor> m_darkMemoryTracePalette;
-    QVector<QColor> m_lightMemoryTracePalette;
-    QMap<int, QPair<QString, QString>> m_iconPaths;
-
-    static ThemeManager *m_instance;
+    const std::unique_ptr<ThemeManagerPrivate> d;
 };
 
 /*! The image with red, green and blue inverted and its transparency kept, for light-theme icons

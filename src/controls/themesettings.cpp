@@ -87,12 +87,21 @@ QVector<QColor> colorsFromList(const QString &text)
     return colors;
 }
 
-void readGroup(const Texts &texts, const QString &group, ThemeSettings &theme)
+void readGroup(const Texts &texts, const QString &group, ReadColors which, ThemeSettings &theme)
 {
-    for (const char *name : {"gridColor", "borderColor", "backgroundColor"}) {
-        const auto text = texts.constFind(group + QLatin1String(name));
-        if (text != texts.constEnd())
-            theme.colors.insert(QLatin1String(name), colorFromName(*text));
+    static const QStringList diagramColors{QStringLiteral("gridColor"),
+                                           QStringLiteral("borderColor"),
+                                           QStringLiteral("backgroundColor")};
+    for (auto text = texts.constBegin(); text != texts.constEnd(); ++text) {
+        if (!text.key().startsWith(group))
+            continue;
+        const QString name = text.key().mid(group.size());
+        const QColor color = colorFromName(*text);
+        const bool wanted = which == AllColors
+            ? name.endsWith(QLatin1String("Color")) && color.isValid()
+            : diagramColors.contains(name);
+        if (wanted)
+            theme.colors.insert(name, color);
     }
     theme.tracePalette = colorsFromList(texts.value(group + QLatin1String("tracePalette")));
     theme.memoryTracePalette =
@@ -112,15 +121,16 @@ QString themeSettingsPath()
     return QDir::cleanPath(base.absoluteFilePath(QStringLiteral("../configuration/settings.ini")));
 }
 
-void readThemeSettings(const QString &path, ThemeSettings &dark, ThemeSettings &light)
+void readThemeSettings(const QString &path, ThemeSettings &dark, ThemeSettings &light,
+                       ReadColors which)
 {
     QByteArray text;
     if (!Utils::readSmallFile(path, largestSettingsFile, text))
         return;
 
     const Texts texts = readIni(text);
-    readGroup(texts, QStringLiteral("ThemeColors/Dark/"), dark);
-    readGroup(texts, QStringLiteral("ThemeColors/Light/"), light);
+    readGroup(texts, QStringLiteral("ThemeColors/Dark/"), which, dark);
+    readGroup(texts, QStringLiteral("ThemeColors/Light/"), which, light);
 }
 
 } // namespace Controls

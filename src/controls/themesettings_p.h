@@ -15,6 +15,11 @@ struct ThemeSettings {
     QMap<QString, QColor> colors; ///< an invalid colour for a text that names none
     QVector<QColor> tracePalette; ///< empty where no colour of the list is one
     QVector<QColor> memoryTracePalette;
+
+    bool isEmpty() const
+    {
+        return colors.isEmpty() && tracePalette.isEmpty() && memoryTracePalette.isEmpty();
+    }
 };
 
 /// A settings file above this size (in bytes) counts as missing.
@@ -24,8 +29,15 @@ constexpr qint64 largestSettingsFile = 1 << 20;
 /// "../configuration" beside the application.
 QString themeSettingsPath();
 
+/// Which colours are read from a file.
+enum ReadColors {
+    DiagramColors, ///< of grid, borders and background
+    AllColors, ///< whatever name ends in "Color" and has a text that is one
+};
+
 /// Reads the group "ThemeColors" of an INI file. One that is missing, too large, no ordinary file
 /// or not readable says nothing; of a damaged one counts what can be read.
-void readThemeSettings(const QString &path, ThemeSettings &dark, ThemeSettings &light);
+void readThemeSettings(const QString &path, ThemeSettings &dark, ThemeSettings &light,
+                       ReadColors which = DiagramColors);
 
 } // namespace Controls

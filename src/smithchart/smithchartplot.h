@@ -237,6 +237,12 @@ public:
     /// Pens, font and colours of the grid.
     void setGridLook(const SmithChart::GridLook &look);
     SmithChart::GridLook gridLook() const;
+    /*! Takes the colours of ground, grid and labels from Controls::ThemeManager, now and at every
+        themeChanged(), and draws no lines along the axes. What gridLook() says besides colours
+        stays. Turned off, the chart stays as it is. Default: false. */
+    void setFollowsTheme(bool follows);
+    /// Whether the theme's colours are taken.
+    bool followsTheme() const;
     /// How far the view may be magnified: 1 to 1,000,000, else false. Default: 20.
     bool setMaximumZoom(double zoom);
     double maximumZoom() const;

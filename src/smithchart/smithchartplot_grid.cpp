@@ -6,6 +6,8 @@
 #include "smithchartlayers_p.h"
 #include "viewgriditem_p.h"
 
+#include <controls/thememanager.h>
+
 #include <cmath>
 #include <utility>
 
@@ -318,6 +320,42 @@ void SmithChartPlot::setGridLook(const SmithChart::GridLook &look)
     if (plot && look.background)
         plot->setBackground(*look.background);
     d->applyGridChange();
+}
+
+bool SmithChartPlot::followsTheme() const
+{
+    return bool(d->m_themeConnection);
+}
+
+void SmithChartPlot::setFollowsTheme(bool follows)
+{
+    if (follows == followsTheme())
+        return;
+    if (!follows) {
+        disconnect(std::exchange(d->m_themeConnection, {}));
+        return;
+    }
+    using Controls::ThemeManager;
+    d->m_themeConnection = connect(ThemeManager::instance(), &ThemeManager::themeChanged, this,
+                                   [this] { d->applyTheme(); });
+    d->applyTheme();
+}
+
+void SmithChartPlotPrivate::applyTheme()
+{
+    const auto *const theme = Controls::ThemeManager::instance();
+    SmithChart::GridLook look = m_gridLook;
+    look.linePen.setColor(theme->gridColor());
+    if (look.admittancePen)
+        look.admittancePen->setColor(theme->gridColor());
+    look.boundaryPen.setColor(theme->borderColor());
+    look.labelColor = theme->getColor(QStringLiteral("dimTextColor"));
+    look.background = theme->backgroundColor();
+    for (QCPAxis *axis : {m_xAxis.data(), m_yAxis.data()}) {
+        if (axis)
+            axis->setBasePen(Qt::NoPen);
+    }
+    q->setGridLook(look);
 }
 
 /// Builds the grid anew, shown while a trace is.

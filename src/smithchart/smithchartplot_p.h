@@ -66,6 +66,7 @@ public:
     void addPresetGrid();
     void addViewGrid();
     void applyGridChange();
+    void applyTheme();
     QString boundaryLayer() const;
     bool isOurs(const QObject *object) const;
 
@@ -136,6 +137,7 @@ public:
     bool m_showAdmittanceGrid = false;
     SmithChart::GridLook m_gridLook;
     bool m_gridFollowsView = false;
+    QMetaObject::Connection m_themeConnection; ///< while the theme is followed
     std::optional<double> m_gridReference; ///< ohms; none: normalised values
     double m_maximumZoom = SmithChart::maximumZoom;
     QVector<OwnedCurve> m_curves;

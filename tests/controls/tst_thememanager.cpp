@@ -65,6 +65,21 @@ int printAdjustable(int argc, char **argv)
     return 0;
 }
 
+/// Whether sheets are in force without a file, an icon without a resource, and a text in German.
+int printLook()
+{
+    ThemeManager::instance()->setTheme(ThemeManager::Light);
+    const QString sheet = qApp->styleSheet();
+    const bool whole = sheet.contains("LockWidget:focus"_s) && sheet.contains("QMainWindow"_s)
+        && !QFile::exists(QCoreApplication::applicationDirPath() + "/../configuration"_s);
+    Utils::Translator::instance()->setLanguage(QLocale(QLocale::German));
+    std::puts(qPrintable(
+        "%1 %2 %3"_s.arg(whole)
+            .arg(!ThemeManager::instance()->icon(3).pixmap(24).isNull())
+            .arg(QCoreApplication::translate("Controls::DraggableDialogTitleBar", "Minimize"))));
+    return 0;
+}
+
 const char s_dark[] = "#292e33|#535b62|#000000|#ffff00 #ff55ff #00f5a0 #40b5ff|"
                       "#ffb347 #ff7675 #ffd166 #ff9f1c";
 const char s_light[] = "#c7c2bd|#bab4af|#ece9e4|#007a52 #a84f00 #0068b0 #9c27b0|"
@@ -276,6 +291,90 @@ private Q_SLOTS:
         }
     }
 
+    // Once the event loop has run, everything set is in force, and told once.
+    void colorsSetAtRunTime()
+    {
+        auto *manager = ThemeManager::instance();
+        const auto named = [manager](const char *key) {
+            return manager->getColor(QLatin1String(key)).name();
+        };
+        manager->setTheme(ThemeManager::Dark);
+        const QString hover = named("buttonHoverColor");
+        int changes = 0;
+        const auto connection =
+            connect(manager, &ThemeManager::themeChanged, this, [&changes] { ++changes; });
+        manager->setColor(ThemeManager::Dark, "buttonColor"_s, QColor(0x52, 0x32, 0xfe));
+        manager->setColor(ThemeManager::Dark, "inkColor"_s, Qt::red);
+        manager->setColor(ThemeManager::Light, "textColor"_s, Qt::green);
+        manager->setTracePalette(ThemeManager::Dark, {Qt::red});
+        QCOMPARE(named("buttonColor"), "#5232fe"_s);
+        // 3a3d40 was set off from 323232 by 8, 11 and 14; the shade ends at white.
+        QCOMPARE(hover, "#3a3d40"_s);
+        QCOMPARE(named("buttonHoverColor"), "#5a3dff"_s);
+        QCOMPARE(named("textColor"), "#ffffff"_s);
+        QCOMPARE(manager->getTracePalette(), QVector<QColor>{Qt::red});
+        QCOMPARE(changes, 0);
+        QCoreApplication::processEvents();
+        disconnect(connection);
+        QCOMPARE(changes, 1);
+        QVERIFY(qApp->styleSheet().contains("background-color: #5232fe"_s));
+        QCOMPARE(manager->fillColors("a { color: @inkColor; b: @highlightColor }"_s),
+                 "a { color: #ff0000; b: rgba(29, 109, 159, 100) }"_s);
+
+        // A shade that was set itself stays.
+        manager->setColor(ThemeManager::Dark, "buttonHoverColor"_s, Qt::blue);
+        manager->setColor(ThemeManager::Dark, "buttonColor"_s, Qt::white);
+        QCOMPARE(named("buttonHoverColor"), "#0000ff"_s);
+        for (const char *name : {"buttonColor", "buttonHoverColor", "inkColor"})
+            manager->setColor(ThemeManager::Dark, QLatin1String(name), {});
+        manager->setColor(ThemeManager::Light, "textColor"_s, {});
+        manager->setTracePalette(ThemeManager::Dark, {});
+        QCOMPARE(named("buttonHoverColor"), hover);
+        QVERIFY(!manager->getColor("inkColor"_s).isValid());
+        QCOMPARE(manager->getTracePalette().size(), 4);
+        QCoreApplication::processEvents();
+    }
+
+    void colorsAndSheetsOfAHost()
+    {
+        auto *manager = ThemeManager::instance();
+        const QTemporaryDir folder;
+        const QString ini = writeFile(folder.filePath("house.ini"_s),
+                                      "[ThemeColors]\nDark/dialogColor=#102030\nDark/textColor=no\n"
+                                      "Dark/memoryTracePalette=\"#ff0000\"\n");
+        QVERIFY(!manager->readColors(folder.filePath("missing.ini"_s)));
+        QVERIFY(manager->readColors(ini));
+        QCOMPARE(manager->getColor("dialogColor"_s), QColor(0x10, 0x20, 0x30));
+        QCOMPARE(manager->textColor(), QColor(Qt::white));
+        QCOMPARE(manager->getMemoryTracePalette(), QVector<QColor>{Qt::red});
+
+        writeFile(folder.filePath("theme-dark.css"_s), "QLabel { color: @dialogColor; }");
+        manager->setSheetFolder(folder.path());
+        manager->setTheme(ThemeManager::Dark);
+        QVERIFY(qApp->styleSheet().contains("QLabel { color: #102030; }"_s));
+        QVERIFY(qApp->styleSheet().contains("LockWidget:focus { border-width"_s)); // the base
+        QVERIFY(!qApp->styleSheet().contains("QMainWindow"_s));
+
+        manager->setSheetFolder({});
+        manager->setColor(ThemeManager::Dark, "dialogColor"_s, {});
+        manager->setMemoryTracePalette(ThemeManager::Dark, {});
+        manager->setTheme(ThemeManager::Dark);
+        QVERIFY(qApp->styleSheet().contains("QMainWindow"_s));
+    }
+
+    // A program that was moved, and has compiled nothing of the library's in.
+    void nothingOfTheHostsIsNeeded()
+    {
+        const QTemporaryDir folder;
+        const QString program = folder.filePath("program"_s);
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
+        QProcess process;
+        process.start(program, {"--look"_s});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(QString::fromLocal8Bit(process.readAllStandardError()), QString());
+        QCOMPARE(process.readAllStandardOutput(), QByteArray("1 1 Minimieren\n"));
+    }
+
 private:
     static QStringList adjustableWith(const QString &settings)
     {
@@ -294,6 +393,8 @@ int main(int argc, char **argv)
     if (argc == 3 && qstrcmp(argv[1], "--print") == 0)
         return printAdjustable(argc, argv);
     QApplication app(argc, argv);
+    if (argc == 2 && qstrcmp(argv[1], "--look") == 0)
+        return printLook();
     tst_ThemeManager test;
     return QTest::qExec(&test, argc, argv);
 }

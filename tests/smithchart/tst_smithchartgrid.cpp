@@ -3,6 +3,8 @@
 // The grid of a chart: presets, the one that follows the view, and the host's look.
 #include "chartscene.h"
 
+#include <controls/thememanager.h>
+
 #include <smithchart/gridgeometry.h>
 
 using namespace VnaTest;
@@ -140,6 +142,30 @@ private Q_SLOTS:
             labels.append(rect);
         }
         QCOMPARE(labels.size(), 20);
+    }
+
+    /// Ground and rim of a picture in the colours of the theme, as soon as they change.
+    void themeIsFollowedWhenAsked()
+    {
+        using Controls::ThemeManager;
+        auto *theme = ThemeManager::instance();
+        const ChartScene f;
+        f.chart->addCurve(1, QPen());
+        const auto ground = [&f] { return f.picture(200, 200).pixelColor(3, 3); };
+        const QColor before = f.chart->gridLook().labelColor;
+        theme->setTheme(ThemeManager::Light);
+        QCOMPARE(ground(), QColor(Qt::white));
+        QCOMPARE(f.chart->gridLook().labelColor, before);
+        f.chart->setFollowsTheme(true);
+        QCOMPARE(ground(), QColor(0xec, 0xe9, 0xe4));
+        theme->setTheme(ThemeManager::Dark);
+        QCOMPARE(ground(), QColor(Qt::black));
+        QCOMPARE(f.chart->gridLook().boundaryPen.color(), theme->borderColor());
+        QCOMPARE(f.chart->gridLook().linePen.style(), Qt::DashLine);
+        f.chart->setFollowsTheme(false);
+        theme->setTheme(ThemeManager::Light);
+        QCOMPARE(ground(), QColor(Qt::black));
+        theme->setTheme(ThemeManager::Dark);
     }
 
     /// Two charts on one plot: neither takes the other's grid away, hides it, or leaves its own

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
     Linked to an example as it stands: saves its window to $GRAB once it is drawn, and ends it. The
-   exit code says whether a blue trace on a round chart is to be seen there. */
+   exit code says whether a cyan trace on a dark round chart is to be seen there. */
 #include <QApplication>
 #include <QFile>
 #include <QTimer>
@@ -28,17 +28,20 @@ int look()
     const QImage image = window->grab().toImage();
     if (!image.save(QFile::decodeName(qgetenv("GRAB"))))
         return fault("the picture cannot be saved");
-    int blue = 0;
+    int cyan = 0;
     int drawn = 0; // of the grid, anywhere in the picture
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             const QColor color = image.pixelColor(x, y);
-            blue += color.blue() > 200 && color.red() < 80 && color.green() < 80;
+            cyan += color.blue() > 200 && color.red() < 80 && color.green() > 200;
             drawn += image.pixel(x, y) != image.pixel(0, 0);
         }
     }
-    if (blue < 100)
-        return fault("there is no blue trace");
+    if (cyan < 100)
+        return fault("there is no cyan trace");
+    if (image.pixelColor(0, 0) != QColor(Qt::black)
+        || image.pixelColor(479, 479) != QColor(Qt::black))
+        return fault("the ground is not the theme's");
     if (drawn < 5000)
         return fault("there is no grid");
     if (!QFile::exists(QStringLiteral(":/image/resource/lock.svg")))
