@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "touchnumkeyboard_p.h"
 
+#include "keyglyph_p.h"
+
 #include <base/qtcompat_p.h>
 #include <controls/thememanager.h>
 
@@ -63,17 +65,21 @@ void TouchNumKeyboardPrivate::labelKeys()
         button->setText(caption);
         button->setAccessibleName(name);
     };
+    const auto draw = [](QPushButton *button, KeyGlyph glyph, const QString &name) {
+        button->setIcon(keyGlyphIcon(glyph, button));
+        button->setAccessibleName(name);
+    };
     for (QPushButton *digit : digits())
         label(digit, basicButtons.value(digit).text, basicButtons.value(digit).text);
     label(ui.btnP, QStringLiteral("."), TouchNumKeyboard::tr("Point"));
     label(ui.btnC, QStringLiteral("\u00b1"), TouchNumKeyboard::tr("Plus minus"));
     label(ui.btnEsc, TouchNumKeyboard::tr("Esc", "key that cancels"),
           TouchNumKeyboard::tr("Cancel"));
-    label(ui.btnBack, QStringLiteral("\u232b"), TouchNumKeyboard::tr("Backspace"));
-    label(ui.btnDown, QStringLiteral("\u25bc"), TouchNumKeyboard::tr("Step down"));
-    label(ui.btnUp, QStringLiteral("\u25b2"), TouchNumKeyboard::tr("Step up"));
-    label(ui.btnLeft, QStringLiteral("\u25c0"), TouchNumKeyboard::tr("Cursor left"));
-    label(ui.btnRight, QStringLiteral("\u25b6"), TouchNumKeyboard::tr("Cursor right"));
+    draw(ui.btnBack, KeyGlyph::Backspace, TouchNumKeyboard::tr("Backspace"));
+    draw(ui.btnDown, KeyGlyph::Down, TouchNumKeyboard::tr("Step down"));
+    draw(ui.btnUp, KeyGlyph::Up, TouchNumKeyboard::tr("Step up"));
+    draw(ui.btnLeft, KeyGlyph::Left, TouchNumKeyboard::tr("Cursor left"));
+    draw(ui.btnRight, KeyGlyph::Right, TouchNumKeyboard::tr("Cursor right"));
     label(ui.btnOk, TouchNumKeyboard::tr("OK", "key that enters"), TouchNumKeyboard::tr("Enter"));
     updateEnterKey();
 }
@@ -100,6 +106,8 @@ void TouchNumKeyboardPrivate::updateMetrics()
     for (QPushButton *key : keys()) {
         key->setFont(keyFont);
         const QFontMetrics metrics(key->font());
+        if (key != ui.btnOk)
+            key->setIconSize({metrics.ascent(), metrics.ascent()});
         const bool isSide = units.buttons().contains(key) || key == ui.btnOk;
         key->setMinimumSize(
             std::max(wide(18.0),
