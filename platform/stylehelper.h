@@ -17,7 +17,7 @@ namespace Utils
 
     \code
     QStringList files = Utils::StyleHelper::defaultThemeFiles(dark);
-    files << QStringLiteral("../configuration/house-colours.css");
+    files << QStringLiteral("../configuration/theme-dark.css");
     Utils::StyleHelper::setThemes(files);
     \endcode */
 class VNAPLATFORM_EXPORT StyleHelper

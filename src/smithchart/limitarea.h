@@ -47,7 +47,7 @@ struct StimulusRange {
     matched.setCircle({0.0, 0.0}, 0.1, SmithChart::LimitArea::StayInside);
     const SmithChart::LimitResult result = matched.test({0.0, 0.5}, {0.0, 0.0});
     if (!result.passed())
-        qWarning("It fails from point %d on.", result.firstFailing);
+        qInfo("It fails from point %d on.", result.firstFailing);
     \endcode */
 class VNAWIDGETS_EXPORT LimitArea
 {

@@ -42,6 +42,7 @@
 #include <QApplication>
 #include <QDoubleValidator>
 #include <QFile>
+#include <QGridLayout>
 #include <QMainWindow>
 #include <QPainter>
 #include <QProgressBar>
@@ -51,12 +52,15 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <functional>
+#include <memory>
 
 enum Format { LogM, Phase, Smith };
 enum Search { MaximumPeak, MinimumPeak, NextPeak };
 
 struct Settings {
-    Graph::LayoutManagerProifle *layoutProfile() { return nullptr; }
+    Graph::LayoutManagerProifle *layoutProfile() { return &profile; }
+    Graph::LayoutManagerProifle profile;
 };
 
 struct Sweep : QObject {
@@ -73,8 +77,9 @@ struct LevelAdapter : Controls::BaseUnitAdapter {
 using FrequencyAdapter = LevelAdapter;
 
 struct Analyser : QObject {
-    bool isSweeping() const { return false; }
-    void setSweeping(bool) { }
+    bool isSweeping() const { return sweeping; }
+    void setSweeping(bool on) { sweeping = on; }
+    bool sweeping = true;
 };
 
 struct ChartView : SmithChartPlot {
@@ -82,65 +87,118 @@ struct ChartView : SmithChartPlot {
     bool takePress(QMouseEvent *) { return true; }
 };
 
+/// The central widget of a main window, with what the pages take for granted. It notes what it was
+/// asked for.
 struct Panel : QWidget {
+    Panel()
+    {
+        mainWindow->resize(800, 600);
+        mainWindow->setCentralWidget(this);
+        auto *layout = new QGridLayout(this);
+        layout->addWidget(plot, 0, 0, 5, 1);
+        layout->setColumnStretch(0, 1);
+        const QWidgetList widgets{softKey, button, lockButton, box, editor};
+        for (int row = 0; row < 5; ++row)
+            layout->addWidget(widgets.at(row), row, 1);
+        softKey->setText(QStringLiteral("Start"));
+        softKey->setMinimumSize(100, 60);
+        for (int i = 0; i <= 100; ++i) {
+            frequencies << 1e9 + 1e7 * i;
+            real << 0.8 * std::cos(0.05 * i);
+            imaginary << 0.8 * std::sin(0.05 * i);
+        }
+        chart->addCurve(1, QPen(Qt::yellow));
+        chart->setCurveData(1, frequencies, real, imaginary);
+        chart->setActiveTrace(1);
+        graph->setData(frequencies, real);
+        graph->setVisible(false);
+        painter.begin(&canvas);
+        popup = new QWidget(this);
+        popup->hide();
+    }
+    // The main window goes with its central widget here, not the other way around.
+    ~Panel() override
+    {
+        painter.end();
+        setParent(nullptr);
+        delete mainWindow;
+    }
+    virtual void run() { }
+
     void apply() { }
     void arrange(Graph::LayoutType) { }
-    void editStart() { }
+    void editStart() { told << QStringLiteral("editStart"); }
     void preset() { }
     void replotAllSoon() { }
     void search(int) { }
     void selectMarker(int) { }
     void setBackdrop(bool) { }
-    void setFormat(int) { }
+    void setFormat(int format) { told << QStringLiteral("setFormat %1").arg(format); }
     void setFormatName(const QString &) { }
-    void setStartFrequency(double) { }
-    void showReading(int, int, double) { }
+    void setStartFrequency(double hertz) { told << QStringLiteral("start %1").arg(hertz); }
+    void showLocked(bool locked) { told << QStringLiteral("locked %1").arg(locked); }
+    void showReading(int, int, double) { told << QStringLiteral("reading"); }
     void keepOutOfUnit(int) { }
     void toggleLock() { }
 
-    QMainWindow *mainWindow = nullptr;
-    QWidget *centralWidget = nullptr;
-    QWidget *diagramArea = nullptr;
-    QWidget *searchForm = nullptr;
-    QWidget *sidebar = nullptr;
-    LabelButton *softKey = nullptr;
-    QPushButton *button = nullptr;
-    QPushButton *lockButton = nullptr;
-    QWidget *padlock = nullptr;
+    QStringList told;
+    QMainWindow *mainWindow = new QMainWindow;
+    QWidget *centralWidget = this;
+    QCustomPlot *plot = new QCustomPlot;
+    QWidget *diagramArea = plot;
+    QWidget *searchForm = new QWidget(this);
+    QWidget *sidebar = this;
+    LabelButton *softKey = new LabelButton;
+    QPushButton *button = new QPushButton;
+    QPushButton *lockButton = new QPushButton;
+    QWidget *padlock = new QWidget(this);
     QWidget *popup = nullptr;
-    QDialog *dialog = nullptr;
-    QLabel *languageLabel = nullptr;
-    QLineEdit *editor = nullptr;
-    Profile::TabletComboBox2 *box = nullptr;
-    Profile::TabletComboBox2 *comboBox = nullptr;
-    Profile::IEnumProfileAdapter *layouts = nullptr;
-    Graph::LayoutManagerProifle *profile = nullptr;
-    Controls::TouchNumKeyboard *keypad = nullptr;
-    QAction *homeAction = nullptr;
-    QAction *lockAction = nullptr;
+    QDialog *dialog = new QDialog(this);
+    QLabel *languageLabel = new QLabel(this);
+    QLineEdit *editor = new QLineEdit;
+    Profile::TabletComboBox2 *box = new Profile::TabletComboBox2;
+    Profile::TabletComboBox2 *comboBox = box;
+    Settings *settings = &theSettings;
+    Graph::LayoutManagerProifle *profile = &theSettings.profile;
+    Profile::IEnumProfileAdapter *layouts = nullptr; // a box without a profile is empty
+    Controls::TouchNumKeyboard *keypad = new Controls::TouchNumKeyboard(this);
+    QAction *homeAction = new QAction(this);
+    QAction *lockAction = new QAction(this);
+    QImage canvas{64, 64, QImage::Format_RGB32};
     QPainter painter;
-    QColor traceColor;
+    QColor traceColor = Qt::yellow;
 
-    QCustomPlot *plot = nullptr;
-    QCPGraph *graph = nullptr;
-    ChartView *chart = nullptr;
+    QCPGraph *graph = plot->addGraph();
+    ChartView *chart = new ChartView(plot, SmithChart::Standard, this);
     QVector<double> frequencies;
     QVector<double> real;
     QVector<double> imaginary;
 
-    Settings *settings = nullptr;
-    Sweep *sweep = nullptr;
-    Analyser *analyser = nullptr;
-    Controls::StepController *stepper = nullptr;
-    Controls::BaseUnitAdapter *start = nullptr;
-    Controls::BaseUnitAdapter *stop = nullptr;
-    Controls::BaseUnitAdapter *span = nullptr;
-    Controls::BaseUnitAdapter *adapter = nullptr;
-    Source *source = nullptr;
-    QVector<Controls::ScaledUnitAdapter::Unit> frequencyUnits;
+    Sweep *sweep = new Sweep;
+    Analyser *analyser = new Analyser;
+    Controls::BaseUnitAdapter *start = new Controls::BaseUnitAdapter(this);
+    Controls::BaseUnitAdapter *stop = new Controls::BaseUnitAdapter(this);
+    Controls::BaseUnitAdapter *span = new Controls::BaseUnitAdapter(this);
+    Controls::BaseUnitAdapter *adapter = new Controls::BaseUnitAdapter(this);
+    Controls::StepController *stepper = new Controls::StepController(adapter);
+    Source *source = new Source;
+    QVector<Controls::ScaledUnitAdapter::Unit> frequencyUnits{{QStringLiteral("MHz"), 1e6}};
     bool dark = true;
     bool remoteControlled = false;
     bool isReflection = true;
     bool sweeping = true;
     double rate = 0.0;
+
+private:
+    Settings theSettings;
 };
+
+/// A block of code on a page.
+struct Piece {
+    const char *place; ///< its file, and the line before it
+    const char *name;
+    std::function<std::unique_ptr<Panel>()> make;
+};
+
+/// All of them, in the order of the pages.
+const QVector<Piece> &pieces();
