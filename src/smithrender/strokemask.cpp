@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "strokemask_p.h"
 
+#include "vectorkernels_p.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -15,18 +17,8 @@ namespace
 /// Cut ends may miss the edge by so much.
 constexpr double rounding = 1e-6;
 
-/// Positions across a line are kept in 65536ths of a pixel.
-constexpr int fractionBits = 16;
-constexpr double one = 1 << fractionBits;
-
 /// A cell is full where no more shows through than this.
-constexpr std::uint8_t fullEnough = 4;
-
-/// The first value where the mask's bits are set, the second where they are not.
-inline int chosen(int mask, int first, int second)
-{
-    return second ^ ((first ^ second) & mask);
-}
+constexpr std::uint8_t fullEnough = 7;
 
 inline void multiply(std::uint8_t &clear, unsigned passing)
 {
@@ -69,112 +61,172 @@ void StrokeMask::setPen(double opacity, int strokes)
         m_passingBoth[i] = m_passing[255 - i] | std::uint32_t(m_passing[i]) << 16;
 }
 
-/// Notes that a stroke comes to a tile and its neighbours, which may be itself again.
-inline void StrokeMask::touch(Tile *corner, std::ptrdiff_t along, std::ptrdiff_t across)
+/// Whether nothing changes within these pixels, which may be some hundreds across.
+inline bool StrokeMask::isFull(int left, int top, int right, int bottom) const
 {
-    for (Tile *const t : {corner, corner + along, corner + across, corner + along + across})
-        t->isTouched = 1;
-    if (--corner->strokesToCheck == 0)
-        findFullCells(static_cast<int>(corner - m_tiles.data()));
+    if (!m_hasFullCells)
+        return false;
+    const int first = left >> cellShift;
+    const int count = (right >> cellShift) - first + 1;
+    if (count > 56)
+        return false;
+    const std::uint64_t wanted = ((std::uint64_t(1) << count) - 1) << (first & 7);
+    const std::uint8_t *bits =
+        m_fullCells.data() + std::ptrdiff_t(top >> cellShift) * m_cellStride + (first >> 3);
+    // Four rows at once, some of them twice, as most segments are short.
+    const int more = (bottom >> cellShift) - (top >> cellShift);
+    const auto rowAt = [bits, this](int row) {
+        std::uint64_t full;
+        std::memcpy(&full, bits + std::ptrdiff_t(row) * m_cellStride, sizeof full);
+        return full;
+    };
+    std::uint64_t found = wanted & rowAt(0) & rowAt(more) & rowAt(more / 2) & rowAt((more + 1) / 2);
+    for (int row = 1; row < more && more > 3 && found == wanted; ++row)
+        found &= rowAt(row);
+    return found == wanted;
 }
 
-/// Strokes a segment between steps of the mask, border included.
-void StrokeMask::stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, int capAtTo)
+/// Notes that a stroke comes to these pixels, which lie in two tiles each way at most.
+inline void StrokeMask::touch(int left, int top, int right, int bottom)
 {
-    // u is the axis on which the segment is longer; from u1 to u2, which is larger. All of this is
-    // chosen without jumps, as noise goes all ways and would have most of them guessed wrong.
-    const int steep = -int(std::abs(toX - fromX) < std::abs(toY - fromY)); // a mask
-    const int fromU = chosen(steep, fromY, fromX);
-    const int fromV = chosen(steep, fromX, fromY);
-    const int toU = chosen(steep, toY, toX);
-    const int toV = chosen(steep, toX, toY);
-    const int backward = -int(toU < fromU);
-    int u1 = chosen(backward, toU, fromU);
-    int u2 = chosen(backward, fromU, toU);
-    const int v1 = chosen(backward, toV, fromV);
-    const int v2 = chosen(backward, fromV, toV);
-    const int startCap = chosen(backward, capAtTo, capAtFrom);
-    const int endCap = chosen(backward, capAtFrom, capAtTo);
-    if (u1 == u2)
-        return;
+    Tile *const upper = m_tiles.data() + std::ptrdiff_t(top >> tileShift) * m_tilesAcross;
+    Tile *const lower = m_tiles.data() + std::ptrdiff_t(bottom >> tileShift) * m_tilesAcross;
+    Tile &corner = upper[left >> tileShift];
+    for (Tile *const t : {&corner, upper + (right >> tileShift), lower + (left >> tileShift),
+                          lower + (right >> tileShift)})
+        t->isTouched = 1;
+    if (--corner.strokesToCheck == 0)
+        findFullCells(static_cast<int>(&corner - m_tiles.data()));
+}
 
-    const double slope = static_cast<double>(v2 - v1) / (u2 - u1);
-    const int vStep = static_cast<int>(slope * one);
-    // The pixels that share the line at the middle of a column: v's whole part and the next one. A
-    // cap moves the line along itself, as painters do, rather than making it longer at this end.
-    const int toMiddle = half - (u1 & (stepsPerPixel - 1)) - startCap;
-    int v = (v1 - half) * (static_cast<int>(one) / stepsPerPixel)
-        + static_cast<int>(slope * toMiddle * (one / stepsPerPixel));
-    u1 -= startCap;
-    u2 += endCap;
-    const int first = u1 / stepsPerPixel;
-    const int last = u2 / stepsPerPixel;
-    const std::ptrdiff_t along = chosen(steep, m_stride, 1);
-    const std::ptrdiff_t across = chosen(steep, 1, m_stride);
-    const std::ptrdiff_t tileAlong = chosen(steep, m_tilesAcross, 1);
-    const std::ptrdiff_t tileAcross = chosen(steep, 1, m_tilesAcross);
+/// Goes along a segment of a batch, column by column.
+class StrokeMask::Walk
+{
+public:
+    // Copies of what the mask has, because a byte that is written might be any member.
+    Walk(const StrokeMask &mask, const StrokeBatch &batch, std::size_t i, std::uint8_t *clear)
+        : m_passing(mask.m_passing.data())
+        , m_passingBoth(mask.m_passingBoth.data())
+        , m_along(batch.isSteep[i] ? mask.m_stride : 1)
+        , m_across(batch.isSteep[i] ? 1 : mask.m_stride)
+        , m_perColumn(batch.perColumn[i])
+        , m_column(batch.first[i])
+        , m_at(batch.across[i])
+        , m_pixel(clear + m_column * m_along)
+    {
+    }
 
-    // Copies, because a byte that is written might be any member.
-    std::uint8_t *const clear = m_clear.data();
-    Tile *const tiles = m_tiles.data();
-    const std::uint16_t *const passing = m_passing.data();
-    const std::uint32_t *const passingBoth = m_passingBoth.data();
+    int column() const { return m_column; }
 
-    const auto vAt = [&](int column) { return v + vStep * (column - first); };
-    // For two columns so near to each other that the line comes to two tiles each way at most.
-    const auto touchBetween = [&](int from, int to) {
-        const int vFrom = vAt(from);
-        const int vTo = vAt(to);
-        const int falls = -int(vTo < vFrom);
-        const int low = chosen(falls, vTo, vFrom) >> (fractionBits + tileShift);
-        const int high = ((chosen(falls, vFrom, vTo) >> fractionBits) + 1) >> tileShift;
-        touch(tiles + (from >> tileShift) * tileAlong + low * tileAcross,
-              ((to >> tileShift) - (from >> tileShift)) * tileAlong, (high - low) * tileAcross);
-    };
-    const auto drawPart = [&](int column, unsigned length) {
-        const int at = vAt(column);
-        const unsigned share = (static_cast<unsigned>(at) >> (fractionBits - 8)) & 255;
-        std::uint8_t *const near = clear + column * along + (at >> fractionBits) * across;
-        multiply(near[0], passing[(255 - share) * length / stepsPerPixel]);
-        multiply(near[across], passing[share * length / stepsPerPixel]);
-    };
-    const auto drawWhole = [&](int from, int end) {
-        int at = vAt(from);
-        std::uint8_t *pixel = clear + from * along;
-        for (; from < end; ++from, pixel += along, at += vStep) {
-            const unsigned share = (static_cast<unsigned>(at) >> (fractionBits - 8)) & 255;
-            std::uint8_t *const near = pixel + (at >> fractionBits) * across;
-            const std::uint32_t both = passingBoth[share];
+    /// The first of the two pixels that share the line in another column.
+    int pixelIn(int column) const
+    {
+        return (m_at + m_perColumn * (column - m_column)) >> StrokeBatch::fractionBits;
+    }
+
+    void skipTo(int column)
+    {
+        m_pixel += m_along * (column - m_column);
+        m_at += m_perColumn * (column - m_column);
+        m_column = column;
+    }
+
+    /// Draws so many steps of a column.
+    void drawPart(int steps) const
+    {
+        const unsigned share = shareOfSecond();
+        const auto length = static_cast<unsigned>(steps);
+        std::uint8_t *const near = pixelOfLine();
+        multiply(near[0], m_passing[(255 - share) * length / stepsPerPixel]);
+        multiply(near[m_across], m_passing[share * length / stepsPerPixel]);
+    }
+
+    void drawTo(int end)
+    {
+        for (; m_column < end; ++m_column, m_pixel += m_along, m_at += m_perColumn) {
+            std::uint8_t *const near = pixelOfLine();
+            const std::uint32_t both = m_passingBoth[shareOfSecond()];
             multiply(near[0], both & 0xffff);
-            multiply(near[across], both >> 16);
+            multiply(near[m_across], both >> 16);
         }
+    }
+
+private:
+    unsigned shareOfSecond() const
+    {
+        return (static_cast<unsigned>(m_at) >> (StrokeBatch::fractionBits - 8)) & 255;
+    }
+    std::uint8_t *pixelOfLine() const
+    {
+        return m_pixel + (m_at >> StrokeBatch::fractionBits) * m_across;
+    }
+
+    const std::uint16_t *m_passing;
+    const std::uint32_t *m_passingBoth;
+    std::ptrdiff_t m_along;
+    std::ptrdiff_t m_across;
+    int m_perColumn;
+    int m_column;
+    int m_at;
+    std::uint8_t *m_pixel;
+};
+
+void StrokeMask::drawBatch()
+{
+    vectorKernels().prepareStrokes(m_batch);
+    const StrokeBatch &b = m_batch;
+    std::uint8_t *const clear = m_clear.data();
+    for (int k = 0; k < b.count; ++k) {
+        const auto i = static_cast<std::size_t>(k);
+        if (b.last[i] < b.first[i] || isFull(b.left[i], b.top[i], b.right[i], b.bottom[i]))
+            continue;
+        Walk walk(*this, b, i, clear);
+        if (b.last[i] - b.first[i] >= pieceLength) {
+            drawInPieces(i, walk);
+            continue;
+        }
+        touch(b.left[i], b.top[i], b.right[i], b.bottom[i]);
+        walk.drawPart(b.inFirst[i]);
+        walk.skipTo(b.first[i] + 1);
+        walk.drawTo(b.last[i]);
+        if (b.last[i] > b.first[i])
+            walk.drawPart(b.inLast[i]);
+    }
+    m_batch.count = 0;
+}
+
+/// Draws a segment that may come to many tiles.
+void StrokeMask::drawInPieces(std::size_t segment, Walk walk)
+{
+    const bool isSteep = m_batch.isSteep[segment];
+    const int first = m_batch.first[segment];
+    const int last = m_batch.last[segment];
+    // Whether anything changes up to that column.
+    const auto comesTo = [&](int to) {
+        const int from = walk.column();
+        const int low = std::min(walk.pixelIn(from), walk.pixelIn(to));
+        const int high = std::max(walk.pixelIn(from), walk.pixelIn(to)) + 1;
+        const int left = isSteep ? low : from;
+        const int top = isSteep ? from : low;
+        const int right = isSteep ? high : to;
+        const int bottom = isSteep ? to : high;
+        if (isFull(left, top, right, bottom))
+            return false;
+        touch(left, top, right, bottom);
+        return true;
     };
-    // How much of the line lies in the first column and in the last one, if that is another.
-    const int isOne = -int(last - first < 1);
-    const auto inFirst = static_cast<unsigned>(chosen(isOne, u2, (first + 1) * stepsPerPixel) - u1);
-    const auto inLast = static_cast<unsigned>(u2 & (stepsPerPixel - 1) & ~isOne);
-    if (last - first < pieceLength) {
-        touchBetween(first, last);
-        drawPart(first, inFirst);
-        drawWhole(first + 1, last);
-        drawPart(last, inLast);
-        return;
+    if (comesTo(first))
+        walk.drawPart(m_batch.inFirst[segment]);
+    walk.skipTo(first + 1);
+    while (walk.column() < last) {
+        const int end = std::min(last, walk.column() + pieceLength);
+        if (comesTo(end - 1))
+            walk.drawTo(end);
+        else
+            walk.skipTo(end);
     }
-    touchBetween(first, first);
-    drawPart(first, inFirst);
-    for (int from = first + 1; from < last; from += pieceLength) {
-        const int end = std::min(last, from + pieceLength);
-        if (m_hasFullCells) {
-            const int low = std::min(vAt(from), vAt(end - 1)) >> fractionBits;
-            const int high = (std::max(vAt(from), vAt(end - 1)) >> fractionBits) + 1;
-            if (steep ? isFull(low, from, high, end - 1) : isFull(from, low, end - 1, high))
-                continue;
-        }
-        touchBetween(from, end - 1);
-        drawWhole(from, end);
-    }
-    touchBetween(last, last);
-    drawPart(last, inLast);
+    if (comesTo(last))
+        walk.drawPart(m_batch.inLast[segment]);
 }
 
 /// Cuts a segment at the bounds, and caps it there; false if nothing is seen of the rest.
@@ -227,18 +279,22 @@ void StrokeMask::findFullCells(int tileIndex)
     const int top = tileIndex / m_tilesAcross * cells;
     const int left = tileIndex % m_tilesAcross * cells;
     for (int row = top; row < top + cells; ++row) {
-        for (int column = left; column < left + cells; ++column) {
-            const std::uint8_t *line = m_clear.data() + std::ptrdiff_t(row) * cell * m_stride
-                + std::ptrdiff_t(column) * cell;
-            std::uint8_t clearest = 0;
-            for (int y = 0; y < cell; ++y, line += m_stride)
-                clearest = std::max(clearest, *std::max_element(line, line + cell));
-            if (clearest <= fullEnough) {
-                m_fullCells[static_cast<size_t>(row * m_cellStride + column / 8)] |=
-                    static_cast<std::uint8_t>(1 << column % 8);
-                m_hasFullCells = true;
+        const std::uint8_t *line =
+            m_clear.data() + std::ptrdiff_t(row) * cell * m_stride + std::ptrdiff_t(left) * cell;
+        std::uint32_t notFull[cells] = {};
+        for (int y = 0; y < cell; ++y, line += m_stride) {
+            for (int column = 0; column < cells; ++column) {
+                std::uint32_t pixels;
+                std::memcpy(&pixels, line + column * cell, sizeof pixels);
+                notFull[column] |= pixels & (0x01010101u * (0xffu & ~fullEnough));
             }
         }
+        unsigned full = 0;
+        for (int column = 0; column < cells; ++column)
+            full |= unsigned(notFull[column] == 0) << column;
+        m_fullCells[static_cast<size_t>(row * m_cellStride + left / 8)] |=
+            static_cast<std::uint8_t>(full << left % 8);
+        m_hasFullCells |= full != 0;
     }
 }
 

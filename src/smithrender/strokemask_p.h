@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "strokebatch_p.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -63,15 +65,15 @@ private:
     static constexpr int tile = 1 << tileShift;
     static constexpr int pieceLength = tile - 1;
     /// Side of the squares that are known to be full or not: no stroke changes full ones any more.
-    static constexpr int cellShift = 3;
+    static constexpr int cellShift = 2;
     static constexpr int cell = 1 << cellShift;
     /// Lines may end so far outside, so that their inner loop need not look at the edges.
     static constexpr int border = 1 << tileShift;
 
-    /// Ends of segments lie on steps this fine, as painters place them: whether a segment is steep
-    /// shows.
-    static constexpr int stepsPerPixel = 64;
+    static constexpr int stepsPerPixel = StrokeBatch::stepsPerPixel;
     static constexpr int half = stepsPerPixel / 2;
+
+    class Walk;
 
     struct Segment {
         Point from;
@@ -95,33 +97,26 @@ private:
     {
         return static_cast<int>(at * stepsPerPixel) + border * stepsPerPixel;
     }
-    bool cut(Segment &segment) const;
-    void stroke(int fromX, int fromY, int toX, int toY, int capAtFrom, int capAtTo);
-    void touch(Tile *corner, std::ptrdiff_t along, std::ptrdiff_t across);
-    void findFullCells(int tileIndex);
-    /// Whether nothing changes within these pixels, which may be some hundreds across.
-    bool isFull(int left, int top, int right, int bottom) const
+    /// A bit for each side of what is seen that a point is beyond; 0: it is seen.
+    unsigned sidesOf(const Point &p) const
     {
-        const int first = left >> cellShift;
-        const int count = (right >> cellShift) - first + 1;
-        if (count > 56)
-            return false;
-        const std::uint64_t wanted = ((std::uint64_t(1) << count) - 1) << (first & 7);
-        const std::uint8_t *bits =
-            m_fullCells.data() + std::ptrdiff_t(top >> cellShift) * m_cellStride + (first >> 3);
-        // Three rows at once, some of them twice, as most segments are short.
-        const int more = (bottom >> cellShift) - (top >> cellShift);
-        const auto rowAt = [bits, this](int row) {
-            std::uint64_t full;
-            std::memcpy(&full, bits + std::ptrdiff_t(row) * m_cellStride, sizeof full);
-            return full;
-        };
-        std::uint64_t found = wanted & rowAt(0) & rowAt(more) & rowAt((more + 1) / 2);
-        for (int row = 1; row < more && more > 2 && found == wanted; ++row)
-            found &= rowAt(row);
-        return found == wanted;
+        return unsigned(p.x < m_seen.left) | unsigned(p.x > m_seen.right) << 1
+            | unsigned(p.y < m_seen.top) << 2 | unsigned(p.y > m_seen.bottom) << 3;
     }
+    bool cut(Segment &segment) const;
+    void add(int fromX, int fromY, int toX, int toY, int startCap, int endCap)
+    {
+        m_batch.add(fromX, fromY, toX, toY, startCap, endCap);
+        if (m_batch.count == StrokeBatch::capacity)
+            drawBatch();
+    }
+    void drawBatch();
+    void drawInPieces(std::size_t segment, Walk walk);
+    void touch(int left, int top, int right, int bottom);
+    void findFullCells(int tileIndex);
+    bool isFull(int left, int top, int right, int bottom) const;
 
+    StrokeBatch m_batch;
     Bounds m_bounds;
     Bounds m_seen;
     int m_width = 0;
@@ -153,29 +148,25 @@ void StrokeMask::addLine(const PointAt &pointAt, int count, double shift)
     const int cap = isClosed ? 0 : half;
 
     int startCap = cap;
-    bool isFromSeen = isWithin(m_seen, from);
-    int fromX = isFromSeen ? toSteps(from.x + shift) : 0;
-    int fromY = isFromSeen ? toSteps(from.y + shift) : 0;
+    unsigned fromSides = sidesOf(from);
+    int fromX = fromSides == 0 ? toSteps(from.x + shift) : 0;
+    int fromY = fromSides == 0 ? toSteps(from.y + shift) : 0;
     for (int i = 1; i <= last; ++i) {
         const Point to = pointAt(i);
-        const bool isToSeen = isWithin(m_seen, to);
+        const unsigned toSides = sidesOf(to);
+        const bool isToSeen = toSides == 0;
         const int toX = isToSeen ? toSteps(to.x + shift) : 0;
         const int toY = isToSeen ? toSteps(to.y + shift) : 0;
         const int endCap = i == last ? cap : 0;
-        if (isFromSeen && isToSeen) {
-            // With the caps, and the second of the two pixels that share the line.
-            constexpr int around = stepsPerPixel + half;
-            if (!m_hasFullCells
-                || !isFull((std::min(fromX, toX) - around) / stepsPerPixel,
-                           (std::min(fromY, toY) - around) / stepsPerPixel,
-                           (std::max(fromX, toX) + around) / stepsPerPixel,
-                           (std::max(fromY, toY) + around) / stepsPerPixel))
-                stroke(fromX, fromY, toX, toY, startCap, endCap);
+        if ((fromSides | toSides) == 0) {
+            add(fromX, fromY, toX, toY, startCap, endCap);
             startCap = 0;
+        } else if ((fromSides & toSides) != 0) {
+            // Where a part is left out, those next to it end as lines do.
+            startCap = isWithin(m_bounds, to) ? half : 0;
         } else {
             Segment segment{from, to, startCap, endCap};
             const bool isSomethingSeen = cut(segment);
-            // Where a part is left out, those next to it end as lines do.
             const bool mayCap = !isToSeen && isWithin(m_bounds, to);
             startCap = mayCap && !isSomethingSeen ? half : 0;
             if (mayCap && i < last) {
@@ -184,16 +175,17 @@ void StrokeMask::addLine(const PointAt &pointAt, int count, double shift)
                     segment.endCap = half;
             }
             if (isSomethingSeen) {
-                stroke(toSteps(segment.from.x + shift), toSteps(segment.from.y + shift),
-                       toSteps(segment.to.x + shift), toSteps(segment.to.y + shift),
-                       segment.startCap, segment.endCap);
+                add(toSteps(segment.from.x + shift), toSteps(segment.from.y + shift),
+                    toSteps(segment.to.x + shift), toSteps(segment.to.y + shift), segment.startCap,
+                    segment.endCap);
             }
         }
         from = to;
         fromX = toX;
         fromY = toY;
-        isFromSeen = isToSeen;
+        fromSides = toSides;
     }
+    drawBatch();
 }
 
 template<typename Visit>

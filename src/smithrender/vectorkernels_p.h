@@ -15,6 +15,8 @@
 namespace SmithRender
 {
 
+struct StrokeBatch;
+
 /// A segment from a to b, prepared for many distances to it.
 struct Segment {
     Segment(double fromX, double fromY, double toX, double toY)
@@ -91,6 +93,9 @@ struct VectorKernels {
         any lies between. Memory may be read up to the point \a readable - 1. */
     std::uint64_t (*simplifyShort)(const double *x, const double *y, int first, int last,
                                    int readable, double surely, double surelyNot);
+
+    /// Finds out how to draw each segment of \a batch.
+    void (*prepareStrokes)(StrokeBatch &batch);
 
     static constexpr int longestShort = 64; ///< last - first of a short run
     static constexpr std::uint64_t undecided = 1; ///< which is no result of simplifyShort()
