@@ -23,7 +23,7 @@ constexpr double margin = 1e-13;
 constexpr int fewChords = 16;
 /// Chords whose points deviate by less than this share of the leaf's extent say where its points
 /// lie.
-constexpr double smallDeviation = 0.125;
+constexpr double smallDeviation = 0.015;
 /// Squares of distances below this vanish, and a deviation may seem smaller than it is by as much.
 constexpr double smallestBounded = 1e-150;
 /// Squares of coordinates beyond this overflow, and bounds made of them would rule out anything.
