@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace SmithRender
 {
@@ -14,8 +15,7 @@ namespace SmithRender
 namespace
 {
 
-/// Runs up to this length are split anew at every view: that is as fast as looking a split up, and
-/// a tree of short runs would be most of the memory.
+/// Runs up to this length have no nodes, which would be most of the memory.
 constexpr int shortRun = VectorKernels::longestShort;
 
 /// The plain routine rounds pixel coordinates: up to this many times the tolerance, that moves no
@@ -25,15 +25,35 @@ constexpr double rounding = 1e-4;
 /// How far the scales of both axes may differ and still count as equal, relatively.
 constexpr double squareness = 1e-11;
 
+/// Limits are rounded to floating point of single precision, far less than that.
+constexpr double limitRounding = 1e-6;
+/// Limits are shares of the square of the trace's extent: far above and below all of them.
+constexpr double largestLimit = 1e30;
+
+float limitOf(double squaredDeviation)
+{
+    return static_cast<float>(std::min(squaredDeviation, largestLimit));
+}
+
+void append(const int *indices, int count, int last, QVector<int> &kept)
+{
+    const auto before = kept.size();
+    kept.resize(before + count + 1);
+    std::copy_n(indices, count, kept.data() + before);
+    kept.last() = last;
+}
+
 } // namespace
 
-LineGeneralisationTree::View::View(const Projection &shownAs, double tolerance)
+LineGeneralisationTree::View::View(const Projection &shownAs, double tolerance, double limitScale)
     : projection(shownAs)
     , squaredTolerance(tolerance * tolerance)
 {
     const double pixel = projection.pixel();
     surely = squaredTolerance * pixel * pixel * (1.0 + rounding);
     surelyNot = squaredTolerance * pixel * pixel * (1.0 - rounding);
+    surelyLimit = limitOf(surely * limitScale * (1.0 + limitRounding));
+    surelyNotLimit = limitOf(surelyNot * limitScale * (1.0 - limitRounding));
 }
 
 void LineGeneralisationTree::build(const double *x, const double *y, int count,
@@ -43,23 +63,35 @@ void LineGeneralisationTree::build(const double *x, const double *y, int count,
     m_y = y;
     m_count = count;
     m_volumes = &volumes;
+    const double extent = volumes.largestCoordinate();
+    m_limitScale = extent > 1e-150 && extent < 1e150 ? 1.0 / (extent * extent) : 1.0;
     findRuns();
+}
+
+/// Makes room for what will be known of a run.
+int LineGeneralisationTree::entryFor(int first, int last)
+{
+    if (last - first > shortRun) {
+        m_nodes.emplace_back();
+        return static_cast<int>(m_nodes.size()) - 1;
+    }
+    if (last - first < 2)
+        return -1;
+    m_shortRuns.push_back(NotSeen);
+    return static_cast<int>(m_shortRuns.size()) - 1;
 }
 
 void LineGeneralisationTree::findRuns()
 {
     m_runs.clear();
     m_nodes.clear();
+    m_shortRuns.clear();
+    m_limits.clear();
     int first = -1;
     const auto endRun = [&](int end) {
         if (first < 0)
             return;
-        Run run{first, end - 1, -1};
-        if (run.last - run.first > shortRun) {
-            run.node = static_cast<int>(m_nodes.size());
-            m_nodes.emplace_back();
-        }
-        m_runs.push_back(run);
+        m_runs.push_back({first, end - 1, entryFor(first, end - 1)});
         first = -1;
     };
     for (int leaf = 0; leaf < m_volumes->leafCount(); ++leaf) {
@@ -101,9 +133,9 @@ Farthest LineGeneralisationTree::search(int first, int last)
 
 Farthest LineGeneralisationTree::splitOf(const Part &part)
 {
-    if (part.node < 0)
+    if (part.last - part.first <= shortRun)
         return search(part.first, part.last);
-    Node &node = m_nodes[static_cast<size_t>(part.node)];
+    Node &node = m_nodes[static_cast<size_t>(part.entry)];
     if (node.split < 0) {
         const Farthest farthest = search(part.first, part.last);
         node.squaredDeviation = farthest.squaredDistance;
@@ -128,13 +160,76 @@ bool LineGeneralisationTree::isSplit(const Part &part, const Farthest &farthest,
     return squaredDistanceToSegment(x(i), y(i), x(a), y(a), x(b), y(b)) > view.squaredTolerance;
 }
 
-void LineGeneralisationTree::simplify(const Run &run, const View &view, QVector<int> &kept)
+/// Keeps the points of a short run, its first one left out; false if that has to be decided point
+/// by point.
+bool LineGeneralisationTree::simplifyShort(const Part &part, const View &view, QVector<int> &kept)
 {
     const VectorKernels &kernels = vectorKernels();
+    const auto entry = static_cast<size_t>(part.entry);
+    if (part.entry >= 0 && m_shortRuns[entry] == SeenOnce) {
+        double limits[VectorKernels::longestShort];
+        kernels.limitsOfShort(m_x, m_y, part.first, part.last, m_count, limits);
+        m_shortRuns[entry] = static_cast<int>(m_limits.size());
+        std::transform(limits, limits + (part.last - part.first - 1), std::back_inserter(m_limits),
+                       [this](double limit) { return limitOf(limit * m_limitScale); });
+    }
+    if (part.entry >= 0 && m_shortRuns[entry] != NotSeen && keepByLimits(part, view, kept))
+        return true;
+    if (part.entry >= 0 && m_shortRuns[entry] == NotSeen)
+        m_shortRuns[entry] = SeenOnce;
+
+    const std::uint64_t points = kernels.simplifyShort(m_x, m_y, part.first, part.last, m_count,
+                                                       view.surely, view.surelyNot);
+    if (points == VectorKernels::undecided)
+        return false;
+    // Without jumps, which noise would have guessed wrong.
+    int indices[VectorKernels::longestShort];
+    int count = 0;
+    for (int i = 1; i < part.last - part.first; ++i) {
+        indices[count] = part.first + i;
+        count += static_cast<int>(points >> i & 1);
+    }
+    append(indices, count, part.last, kept);
+    return true;
+}
+
+bool LineGeneralisationTree::keepByLimits(const Part &part, const View &view,
+                                          QVector<int> &kept) const
+{
+    const float *const limits = m_limits.data() + m_shortRuns[static_cast<size_t>(part.entry)];
+    int indices[VectorKernels::longestShort];
+    int count = 0;
+    bool isUndecided = false;
+    for (int i = 0; i < part.last - part.first - 1; ++i) {
+        const bool isKept = limits[i] > view.surelyLimit;
+        isUndecided |= isKept != (limits[i] >= view.surelyNotLimit);
+        indices[count] = part.first + 1 + i;
+        count += static_cast<int>(isKept);
+    }
+    if (!isUndecided)
+        append(indices, count, part.last, kept);
+    return !isUndecided;
+}
+
+/// What is known of the two parts of a long run.
+std::pair<int, int> LineGeneralisationTree::entriesOf(const Part &part, int split)
+{
+    const auto at = static_cast<size_t>(part.entry);
+    if (m_nodes[at].left < 0 && m_nodes[at].right < 0) {
+        const int left = entryFor(part.first, split);
+        const int right = entryFor(split, part.last);
+        m_nodes[at].left = left;
+        m_nodes[at].right = right;
+    }
+    return {m_nodes[at].left, m_nodes[at].right};
+}
+
+void LineGeneralisationTree::simplify(const Run &run, const View &view, QVector<int> &kept)
+{
     kept.append(run.first);
     if (run.first == run.last)
         return;
-    m_parts.assign(1, {run.first, run.last, run.node});
+    m_parts.assign(1, {run.first, run.last, run.entry});
     while (!m_parts.empty()) {
         const Part part = m_parts.back();
         m_parts.pop_back();
@@ -142,43 +237,16 @@ void LineGeneralisationTree::simplify(const Run &run, const View &view, QVector<
             kept.append(part.last);
             continue;
         }
-        if (part.last - part.first <= shortRun) {
-            const std::uint64_t points = kernels.simplifyShort(
-                m_x, m_y, part.first, part.last, m_count, view.surely, view.surelyNot);
-            if (points != VectorKernels::undecided) {
-                // No jumps here either.
-                int indices[VectorKernels::longestShort];
-                int count = 0;
-                for (int i = 1; i < part.last - part.first; ++i) {
-                    indices[count] = part.first + i;
-                    count += static_cast<int>(points >> i & 1);
-                }
-                const auto before = kept.size();
-                kept.resize(before + count);
-                std::copy_n(indices, count, kept.data() + before);
-                kept.append(part.last);
-                continue;
-            }
-        }
+        const bool isShort = part.last - part.first <= shortRun;
+        if (isShort && simplifyShort(part, view, kept))
+            continue;
         const Farthest farthest = splitOf(part);
         if (!isSplit(part, farthest, view)) {
             kept.append(part.last);
             continue;
         }
         const int split = farthest.index;
-        const bool isLeftLong = split - part.first > shortRun;
-        const bool isRightLong = part.last - split > shortRun;
-        int child = -1;
-        if (isLeftLong || isRightLong) {
-            child = m_nodes[static_cast<size_t>(part.node)].children;
-            if (child < 0) {
-                child = static_cast<int>(m_nodes.size());
-                m_nodes.resize(m_nodes.size() + (isLeftLong && isRightLong ? 2 : 1));
-                m_nodes[static_cast<size_t>(part.node)].children = child;
-            }
-        }
-        const int left = isLeftLong ? child++ : -1;
-        const int right = isRightLong ? child : -1;
+        const auto [left, right] = isShort ? std::pair(-1, -1) : entriesOf(part, split);
         // The left part is next, so that points are kept in ascending order.
         m_parts.push_back({split, part.last, right});
         m_parts.push_back({part.first, split, left});
@@ -188,7 +256,7 @@ void LineGeneralisationTree::simplify(const Run &run, const View &view, QVector<
 void LineGeneralisationTree::simplify(const Projection &projection, double tolerance,
                                       QVector<int> &kept)
 {
-    const View view(projection, tolerance);
+    const View view(projection, tolerance, m_limitScale);
     int next = 0;
     const auto keepGap = [&](int end) {
         for (; next < end; ++next)
@@ -205,6 +273,7 @@ void LineGeneralisationTree::simplify(const Projection &projection, double toler
 size_t LineGeneralisationTree::memoryUsed() const
 {
     return m_runs.capacity() * sizeof(Run) + m_nodes.capacity() * sizeof(Node)
+        + m_shortRuns.capacity() * sizeof(int) + m_limits.capacity() * sizeof(float)
         + m_parts.capacity() * sizeof(Part);
 }
 

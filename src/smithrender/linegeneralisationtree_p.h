@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace SmithRender
@@ -20,7 +21,9 @@ class BoundingVolumeHierarchy;
     of a line between gaps. Ramer-Douglas-Peucker always splits a line at the point of the largest
     deviation; the tolerance only says when to stop. Where pixels are square, a change of view
     scales all distances alike, so the splits are the same at every view: a node holds a split and
-    its deviation. Nodes are made when a view first asks for them.
+    its deviation. Nodes are made when a view first asks for them. Of a short run, each point's limit
+    is held instead: the tolerance up to which it is kept. As many traces are seen only once, that is
+    done when a second view asks.
 
     What is kept is what DouglasPeucker keeps. Only where two points deviate equally to within the
     rounding of pixel coordinates may the other one be kept. */
@@ -41,42 +44,56 @@ public:
     size_t memoryUsed() const;
 
 private:
-    /// Where a run splits, and the nodes of its two parts.
+    /// Where a run splits, and what is known of its two parts: the index of a node if a part is
+    /// long, of the limits if it is short; -1: nothing yet, or too short for either.
     struct Node {
         double squaredDeviation = -1.0;
         int split = -1; ///< -1: not searched yet
-        int children = -1; ///< the first of one for each part that is long; -1: none yet
+        int left = -1;
+        int right = -1;
+    };
+
+    /// Where the limits of a short run begin.
+    enum : int {
+        NotSeen = -2,
+        SeenOnce = -1,
     };
 
     /// Finite points between gaps or ends.
     struct Run {
         int first;
         int last;
-        int node;
+        int entry;
     };
 
     /// A part of a run, still to be looked at.
     struct Part {
         int first;
         int last;
-        int node; ///< -1: too short to have one
+        int entry; ///< of what is known of it; -1: nothing
     };
 
     /// What a view asks of the tree.
     struct View {
-        View(const Projection &shownAs, double tolerance);
+        View(const Projection &shownAs, double tolerance, double limitScale);
 
         Projection projection;
         double squaredTolerance; ///< in device pixels
         double surely; ///< squared deviations above it, in the plane, are above the tolerance
         double surelyNot;
+        float surelyLimit; ///< the same for limits
+        float surelyNotLimit;
     };
 
     bool isFinite(int i) const { return std::isfinite(m_x[i]) && std::isfinite(m_y[i]); }
     void findRuns();
+    int entryFor(int first, int last);
+    std::pair<int, int> entriesOf(const Part &part, int split);
     Farthest search(int first, int last);
     Farthest splitOf(const Part &part);
     bool isSplit(const Part &part, const Farthest &farthest, const View &view) const;
+    bool simplifyShort(const Part &part, const View &view, QVector<int> &kept);
+    bool keepByLimits(const Part &part, const View &view, QVector<int> &kept) const;
     void simplify(const Run &run, const View &view, QVector<int> &kept);
 
     const double *m_x = nullptr;
@@ -85,6 +102,9 @@ private:
     BoundingVolumeHierarchy *m_volumes = nullptr;
     std::vector<Run> m_runs;
     std::vector<Node> m_nodes;
+    std::vector<int> m_shortRuns; ///< where the limits of each begin
+    std::vector<float> m_limits; ///< squared, and times m_limitScale
+    double m_limitScale = 1.0;
     std::vector<Part> m_parts;
 };
 

@@ -6,6 +6,9 @@
 
 #include "segmentkernels_p.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace SmithRender
 {
 
@@ -83,6 +86,17 @@ VNA_INLINE void toNeighboursBody(const double *x, const double *y, int first, in
     }
 }
 
+/// The same of all points between \a first and \a last, of memory that is readable to \a readable.
+template<int Width>
+VNA_INLINE void toNeighbours(const double *x, const double *y, int first, int last, int readable,
+                             double *result)
+{
+    const int whole = std::min(last, readable - Width);
+    toNeighboursBody<Width>(x, y, first + 1, whole, result);
+    const int done = whole > first ? (whole - first - 1 + Width - 1) / Width * Width : 0;
+    toNeighboursBody<1>(x, y, first + 1 + done, last, result + done);
+}
+
 template<int Width>
 VNA_INLINE std::uint64_t simplifyShortBody(const double *x, const double *y, int first, int last,
                                            int readable, double surely, double surelyNot)
@@ -124,10 +138,7 @@ VNA_INLINE std::uint64_t simplifyShortBody(const double *x, const double *y, int
 
     // A third of all parts of noise have a single point: all distances at once are sooner found.
     double distances[VectorKernels::longestShort + VectorKernels::widest];
-    const int whole = std::min(last, readable - Width);
-    toNeighboursBody<Width>(x, y, first + 1, whole, distances);
-    const int done = whole > first ? (whole - first - 1 + Width - 1) / Width * Width : 0;
-    toNeighboursBody<1>(x, y, first + 1 + done, last, distances + done);
+    toNeighbours<Width>(x, y, first, last, readable, distances);
     bool isUndecided = false;
     for (int i = 0; i < last - first - 1; ++i) {
         const bool isSingle = single >> (i + 1) & 1;
@@ -136,6 +147,45 @@ VNA_INLINE std::uint64_t simplifyShortBody(const double *x, const double *y, int
         isUndecided |= isSingle & !isSplit & !(distances[i] < surelyNot);
     }
     return isUndecided ? VectorKernels::undecided : kept;
+}
+
+template<int Width>
+VNA_INLINE void limitsOfShortBody(const double *x, const double *y, int first, int last,
+                                  int readable, double *limits)
+{
+    struct Part {
+        int first;
+        int last;
+        double limit; ///< of all its points: the smallest deviation of what it is a part of
+    };
+    // As in simplifyShortBody(), but down to single points, which come last.
+    Part parts[2 * VectorKernels::longestShort];
+    parts[0] = {first, last, std::numeric_limits<double>::infinity()};
+    int end = last - first > 2;
+    Part singles[VectorKernels::longestShort];
+    singles[0] = parts[0];
+    int singleCount = last - first == 2;
+    for (int next = 0; next < end; ++next) {
+        const Part part = parts[next];
+        const Segment segment(x[part.first], y[part.first], x[part.last], y[part.last]);
+        const Farthest farthest =
+            farthestOfFewBody<Width>(x, y, part.first + 1, part.last, readable, segment);
+        const int split = farthest.index;
+        const double limit = std::min(part.limit, farthest.squaredDistance);
+        limits[split - first - 1] = limit;
+        for (const Part &half : {Part{part.first, split, limit}, Part{split, part.last, limit}}) {
+            parts[end] = half;
+            end += half.last - half.first > 2;
+            singles[singleCount] = half;
+            singleCount += half.last - half.first == 2;
+        }
+    }
+    double distances[VectorKernels::longestShort + VectorKernels::widest];
+    toNeighbours<Width>(x, y, first, last, readable, distances);
+    for (int i = 0; i < singleCount; ++i) {
+        const int at = singles[i].first - first;
+        limits[at] = std::min(singles[i].limit, distances[at]);
+    }
 }
 
 } // namespace SmithRender

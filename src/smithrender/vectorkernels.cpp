@@ -43,13 +43,18 @@ namespace
     {                                                                                              \
         return simplifyShortBody<Width>(x, y, first, last, readable, surely, surelyNot);           \
     }                                                                                              \
+    Attribute void limitsOfShort##Name(const double *x, const double *y, int first, int last,      \
+                                       int readable, double *limits)                               \
+    {                                                                                              \
+        limitsOfShortBody<Width>(x, y, first, last, readable, limits);                             \
+    }                                                                                              \
     Attribute void prepareStrokes##Name(StrokeBatch &batch)                                        \
     {                                                                                              \
         prepareStrokesBody(batch);                                                                 \
     }                                                                                              \
     constexpr VectorKernels kernels##Name{                                                         \
         farthest##Name, squaredDistances##Name, farthestOf##Name,    squaredDeviation##Name,       \
-        enclose##Name,  simplifyShort##Name,    prepareStrokes##Name};
+        enclose##Name,  simplifyShort##Name,    limitsOfShort##Name, prepareStrokes##Name};
 
 VNA_KERNELS(Plain, 1, )
 #ifdef VNA_VECTOR_TYPES

@@ -94,6 +94,11 @@ struct VectorKernels {
     std::uint64_t (*simplifyShort)(const double *x, const double *y, int first, int last,
                                    int readable, double surely, double surelyNot);
 
+    /*! Up to which squared tolerance each point between \a first and \a last, the ends of a short
+        run, is kept: below \a limits[i], the point first + 1 + i is. There must be one. */
+    void (*limitsOfShort)(const double *x, const double *y, int first, int last, int readable,
+                          double *limits);
+
     /// Finds out how to draw each segment of \a batch.
     void (*prepareStrokes)(StrokeBatch &batch);
 

@@ -58,11 +58,21 @@ private Q_SLOTS:
                                               : 0;
             };
             const std::uint64_t keptPoints = simplified(plain);
+            const auto limitsOf = [&](const VectorKernels &kernels) {
+                std::vector<double> limits(static_cast<size_t>(std::max(last - first - 1, 0)));
+                if (finite && !limits.empty())
+                    kernels.limitsOfShort(x.data(), y.data(), first, last, count, limits.data());
+                return limits;
+            };
+            const std::vector<double> limits = limitsOf(plain);
+            for (size_t i = 0; i < limits.size() && keptPoints != VectorKernels::undecided; ++i)
+                QCOMPARE(limits[i] > tolerance, bool(keptPoints >> (i + 1) & 1));
 
             for (const VectorKernels *kernels : allVectorKernels()) {
                 if (!kernels)
                     continue;
                 QCOMPARE(simplified(*kernels), keptPoints);
+                QVERIFY(limitsOf(*kernels) == limits);
                 Farthest farthest;
                 kernels->farthest(x.data(), y.data(), first, end, count, segment, farthest);
                 QCOMPARE(farthest.index, wanted.index);
