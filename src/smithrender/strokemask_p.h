@@ -61,7 +61,7 @@ public:
 
 private:
     /// Side of the squares that are known to be touched or not.
-    static constexpr int tileShift = 4;
+    static constexpr int tileShift = 5;
     static constexpr int tile = 1 << tileShift;
     static constexpr int pieceLength = tile - 1;
     /// Side of the squares that are known to be full or not: no stroke changes full ones any more.
