@@ -37,16 +37,28 @@ Trace noisySweep(int count, double noise, unsigned seed)
     return spiral(count, 3.0, noise / pixel, seed);
 }
 
-Trace randomWalk(int count, unsigned seed)
+Trace lossyLine(int count, double turns)
+{
+    Trace trace;
+    for (int i = 0; i < count; ++i) {
+        const double radius = 0.95 * std::exp(-3.0 * i / count);
+        const double angle = -2.0 * pi * turns * i / count;
+        trace.real.append(radius * std::cos(angle));
+        trace.imag.append(radius * std::sin(angle));
+    }
+    return trace;
+}
+
+Trace randomWalk(int count, double step, unsigned seed)
 {
     std::mt19937 random(seed);
-    std::normal_distribution<double> step(0.0, 0.002);
+    std::normal_distribution<double> steps(0.0, step);
     Trace trace;
     double x = 0.0;
     double y = 0.0;
     for (int i = 0; i < count; ++i) {
-        const double dx = step(random);
-        const double dy = step(random);
+        const double dx = steps(random);
+        const double dy = steps(random);
         const bool leaves = std::hypot(x + dx, y + dy) > 1.0;
         x += leaves ? -dx : dx;
         y += leaves ? -dy : dy;

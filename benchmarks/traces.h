@@ -22,8 +22,12 @@ Trace spiral(int count, double turns, double noisePx = 0.0, unsigned seed = 1);
 /// The same of three turns with noise whose standard deviation is a share of the chart's radius.
 Trace noisySweep(int count, double noise, unsigned seed);
 
-/// Steps of some 0.2 % of the chart's radius in all directions, which turn back at its rim.
-Trace randomWalk(int count, unsigned seed);
+/// A cable that is open at its end and loses most of the signal at the last of the frequencies.
+Trace lossyLine(int count, double turns);
+
+/// Steps in all directions, with a standard deviation of a share of the chart's radius both ways,
+/// which turn back at its rim.
+Trace randomWalk(int count, double step, unsigned seed);
 
 /// The figure of two sines of \a xPeriods and \a yPeriods periods.
 Trace lissajous(int count, double xPeriods, double yPeriods);
