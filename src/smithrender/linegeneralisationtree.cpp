@@ -87,6 +87,7 @@ void LineGeneralisationTree::findRuns()
     m_nodes.clear();
     m_shortRuns.clear();
     m_limits.clear();
+    m_isDense = false;
     int first = -1;
     const auto endRun = [&](int end) {
         if (first < 0)
@@ -164,22 +165,18 @@ bool LineGeneralisationTree::isSplit(const Part &part, const Farthest &farthest,
 /// by point.
 bool LineGeneralisationTree::simplifyShort(const Part &part, const View &view, QVector<int> &kept)
 {
-    const VectorKernels &kernels = vectorKernels();
     const auto entry = static_cast<size_t>(part.entry);
-    if (part.entry >= 0 && m_shortRuns[entry] == SeenOnce) {
-        double limits[VectorKernels::longestShort];
-        kernels.limitsOfShort(m_x, m_y, part.first, part.last, m_count, limits);
-        m_shortRuns[entry] = static_cast<int>(m_limits.size());
-        std::transform(limits, limits + (part.last - part.first - 1), std::back_inserter(m_limits),
-                       [this](double limit) { return limitOf(limit * m_limitScale); });
+    if (part.entry >= 0) {
+        int &where = m_shortRuns[entry];
+        if (where == SeenOnce || (where == NotSeen && m_isDense))
+            where = appendLimits(part);
+        else if (where == NotSeen)
+            where = SeenOnce;
+        if (where >= 0 && keepByLimits(part, view, kept))
+            return true;
     }
-    if (part.entry >= 0 && m_shortRuns[entry] != NotSeen && keepByLimits(part, view, kept))
-        return true;
-    if (part.entry >= 0 && m_shortRuns[entry] == NotSeen)
-        m_shortRuns[entry] = SeenOnce;
-
-    const std::uint64_t points = kernels.simplifyShort(m_x, m_y, part.first, part.last, m_count,
-                                                       view.surely, view.surelyNot);
+    const std::uint64_t points = vectorKernels().simplifyShort(
+        m_x, m_y, part.first, part.last, m_count, view.surely, view.surelyNot);
     if (points == VectorKernels::undecided)
         return false;
     // Without jumps, which noise would have guessed wrong.
@@ -190,11 +187,22 @@ bool LineGeneralisationTree::simplifyShort(const Part &part, const View &view, Q
         count += static_cast<int>(points >> i & 1);
     }
     append(indices, count, part.last, kept);
+    m_isDense = 4 * count > 3 * (part.last - part.first);
     return true;
 }
 
-bool LineGeneralisationTree::keepByLimits(const Part &part, const View &view,
-                                          QVector<int> &kept) const
+/// Finds the limits of a short run; returns where they begin.
+int LineGeneralisationTree::appendLimits(const Part &part)
+{
+    double limits[VectorKernels::longestShort];
+    vectorKernels().limitsOfShort(m_x, m_y, part.first, part.last, m_count, limits);
+    const auto begin = static_cast<int>(m_limits.size());
+    std::transform(limits, limits + (part.last - part.first - 1), std::back_inserter(m_limits),
+                   [this](double limit) { return limitOf(limit * m_limitScale); });
+    return begin;
+}
+
+bool LineGeneralisationTree::keepByLimits(const Part &part, const View &view, QVector<int> &kept)
 {
     const float *const limits = m_limits.data() + m_shortRuns[static_cast<size_t>(part.entry)];
     int indices[VectorKernels::longestShort];
@@ -206,9 +214,11 @@ bool LineGeneralisationTree::keepByLimits(const Part &part, const View &view,
         indices[count] = part.first + 1 + i;
         count += static_cast<int>(isKept);
     }
-    if (!isUndecided)
-        append(indices, count, part.last, kept);
-    return !isUndecided;
+    if (isUndecided)
+        return false;
+    append(indices, count, part.last, kept);
+    m_isDense = 4 * count > 3 * (part.last - part.first);
+    return true;
 }
 
 /// What is known of the two parts of a long run.

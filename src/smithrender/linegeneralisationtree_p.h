@@ -23,7 +23,7 @@ class BoundingVolumeHierarchy;
     scales all distances alike, so the splits are the same at every view: a node holds a split and
     its deviation. Nodes are made when a view first asks for them. Of a short run, each point's limit
     is held instead: the tolerance up to which it is kept. As many traces are seen only once, that is
-    done when a second view asks.
+    done when a second view asks, or where most points are kept anyway, as of noise.
 
     What is kept is what DouglasPeucker keeps. Only where two points deviate equally to within the
     rounding of pixel coordinates may the other one be kept. */
@@ -93,7 +93,8 @@ private:
     Farthest splitOf(const Part &part);
     bool isSplit(const Part &part, const Farthest &farthest, const View &view) const;
     bool simplifyShort(const Part &part, const View &view, QVector<int> &kept);
-    bool keepByLimits(const Part &part, const View &view, QVector<int> &kept) const;
+    int appendLimits(const Part &part);
+    bool keepByLimits(const Part &part, const View &view, QVector<int> &kept);
     void simplify(const Run &run, const View &view, QVector<int> &kept);
 
     const double *m_x = nullptr;
@@ -105,6 +106,7 @@ private:
     std::vector<int> m_shortRuns; ///< where the limits of each begin
     std::vector<float> m_limits; ///< squared, and times m_limitScale
     double m_limitScale = 1.0;
+    bool m_isDense = false; ///< of the short run looked at last, most points were kept
     std::vector<Part> m_parts;
 };
 
