@@ -12,18 +12,6 @@
         <translation>Ref %1</translation>
     </message>
     <message>
-        <source>Tr%1 %2</source>
-        <translation>Tr%1 %2</translation>
-    </message>
-    <message>
-        <source>%1 lies above: fit</source>
-        <translation>%1 liegt darüber: einpassen</translation>
-    </message>
-    <message>
-        <source>%1 lies below: fit</source>
-        <translation>%1 liegt darunter: einpassen</translation>
-    </message>
-    <message>
         <source>own scale: %1</source>
         <translation>eigene Skala: %1</translation>
     </message>
@@ -237,6 +225,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::FitOffer</name>
+    <message>
+        <source>Tr%1 %2</source>
+        <translation>Tr%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 lies above: fit</source>
+        <translation>%1 liegt darüber: einpassen</translation>
+    </message>
+    <message>
+        <source>%1 lies below: fit</source>
+        <translation>%1 liegt darunter: einpassen</translation>
+    </message>
+</context>
+<context>
     <name>Panel::HelpDialog</name>
     <message>
         <source>Keys</source>
@@ -349,6 +352,69 @@
     <message>
         <source>lock the panel, or unlock it</source>
         <translation>Bedienung sperren oder freigeben</translation>
+    </message>
+    <message>
+        <source>Ctrl + Z</source>
+        <translation>Strg + Z</translation>
+    </message>
+    <message>
+        <source>undo; with Shift, do it again</source>
+        <translation>zurücknehmen; mit Umschalt wieder</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LimitSheet</name>
+    <message>
+        <source>A limit line is what the trace must stay below, or above.</source>
+        <translation>Eine Grenzlinie ist, worunter oder worüber die Messkurve bleiben muss.</translation>
+    </message>
+    <message>
+        <source>Add a line</source>
+        <translation>Linie hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Limit lines of Tr%1 %2, %3</source>
+        <translation>Grenzlinien von Tr%1 %2, %3</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>unter</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>über</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Value at start</source>
+        <translation>Wert bei Start</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Value at stop</source>
+        <translation>Wert bei Stopp</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
@@ -699,6 +765,30 @@
         <source>Port impedance</source>
         <translation>Torimpedanz</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Limit lines</source>
+        <translation>Grenzlinien</translation>
+    </message>
+    <message>
+        <source>Set-ups</source>
+        <translation>Einstellungssätze</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wieder</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -855,6 +945,84 @@
     </message>
 </context>
 <context>
+    <name>Panel::SetupDialog</name>
+    <message>
+        <source>A set-up keeps files, traces, scales, limits and markers.</source>
+        <translation>Ein Satz behält Dateien, Messkurven, Skalen, Grenzen und Marker.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Recall</source>
+        <translation>Abrufen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Set-ups</source>
+        <translation>Einstellungssätze</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Grundzustand</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Setups</name>
+    <message>
+        <source>Set-up %1</source>
+        <translation>Satz %1</translation>
+    </message>
+    <message>
+        <source>A set-up needs a name.</source>
+        <translation>Ein Satz braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The set-up cannot be written to %1.</source>
+        <translation>Der Satz kann nicht nach %1 geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Saved the set-up %1</source>
+        <translation>Satz %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>The set-up %1 cannot be removed.</source>
+        <translation>Der Satz %1 kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>There is no set-up %1.</source>
+        <translation>Es gibt keinen Satz %1.</translation>
+    </message>
+    <message>
+        <source>The set-up %1 is of another version and not used.</source>
+        <translation>Der Satz %1 gehört zu einer anderen Version und wird nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>The set-up %1 is damaged and not used.</source>
+        <translation>Der Satz %1 ist beschädigt und wird nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>Recalled %1</source>
+        <translation>%1 abgerufen</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which cannot be read.</source>
+        <translation>%1 braucht %2; das lässt sich nicht lesen.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::SmithView</name>
     <message>
         <source>Smith chart</source>
@@ -867,18 +1035,6 @@
     <message>
         <source>VSWR %1</source>
         <translation>VSWR %1</translation>
-    </message>
-    <message>
-        <source>Tr%1 from %2</source>
-        <translation>Tr%1 ab %2</translation>
-    </message>
-    <message>
-        <source>PASS</source>
-        <translation>BESTANDEN</translation>
-    </message>
-    <message>
-        <source>FAIL</source>
-        <translation>VERLETZT</translation>
     </message>
     <message>
         <source>normalised, Tr%1 to %2</source>
@@ -1206,6 +1362,14 @@
         <source>All traces</source>
         <translation>Alle Kurven</translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Tr%1</source>
+        <translation>Tr%1</translation>
+    </message>
 </context>
 <context>
     <name>Panel::TraceFormat</name>
@@ -1279,6 +1443,21 @@
     <message>
         <source>Data + memory</source>
         <translation>Daten + Speicher</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Verdict</name>
+    <message>
+        <source>PASS</source>
+        <translation>BESTANDEN</translation>
+    </message>
+    <message>
+        <source>FAIL</source>
+        <translation>VERLETZT</translation>
+    </message>
+    <message>
+        <source>Tr%1 from %2</source>
+        <translation>Tr%1 ab %2</translation>
     </message>
 </context>
 </TS>

@@ -12,18 +12,6 @@
         <translation>参考 %1</translation>
     </message>
     <message>
-        <source>Tr%1 %2</source>
-        <translation>Tr%1 %2</translation>
-    </message>
-    <message>
-        <source>%1 lies above: fit</source>
-        <translation>%1 在上方：适配</translation>
-    </message>
-    <message>
-        <source>%1 lies below: fit</source>
-        <translation>%1 在下方：适配</translation>
-    </message>
-    <message>
         <source>own scale: %1</source>
         <translation>独立刻度：%1</translation>
     </message>
@@ -231,6 +219,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::FitOffer</name>
+    <message>
+        <source>Tr%1 %2</source>
+        <translation>Tr%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 lies above: fit</source>
+        <translation>%1 在上方：调整</translation>
+    </message>
+    <message>
+        <source>%1 lies below: fit</source>
+        <translation>%1 在下方：调整</translation>
+    </message>
+</context>
+<context>
     <name>Panel::HelpDialog</name>
     <message>
         <source>Keys</source>
@@ -343,6 +346,69 @@
     <message>
         <source>lock the panel, or unlock it</source>
         <translation>锁定或解锁面板</translation>
+    </message>
+    <message>
+        <source>Ctrl + Z</source>
+        <translation>Ctrl + Z</translation>
+    </message>
+    <message>
+        <source>undo; with Shift, do it again</source>
+        <translation>撤销；加 Shift 重做</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LimitSheet</name>
+    <message>
+        <source>A limit line is what the trace must stay below, or above.</source>
+        <translation>限制线规定迹线必须低于或高于的界限。</translation>
+    </message>
+    <message>
+        <source>Add a line</source>
+        <translation>添加一条</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>全部移除</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Limit lines of Tr%1 %2, %3</source>
+        <translation>Tr%1 %2 的限制线，%3</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>低于</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>高于</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>起始</translation>
+    </message>
+    <message>
+        <source>Value at start</source>
+        <translation>起始值</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>终止</translation>
+    </message>
+    <message>
+        <source>Value at stop</source>
+        <translation>终止值</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
     </message>
 </context>
 <context>
@@ -693,6 +759,30 @@
         <source>Port impedance</source>
         <translation>端口阻抗</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Limit lines</source>
+        <translation>限制线</translation>
+    </message>
+    <message>
+        <source>Set-ups</source>
+        <translation>设置集</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -848,6 +938,84 @@
     </message>
 </context>
 <context>
+    <name>Panel::SetupDialog</name>
+    <message>
+        <source>A set-up keeps files, traces, scales, limits and markers.</source>
+        <translation>设置集保存文件、迹线、刻度、限制和标记。</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Recall</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Set-ups</source>
+        <translation>设置集</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Setups</name>
+    <message>
+        <source>Set-up %1</source>
+        <translation>设置 %1</translation>
+    </message>
+    <message>
+        <source>A set-up needs a name.</source>
+        <translation>设置集需要名称。</translation>
+    </message>
+    <message>
+        <source>The set-up cannot be written to %1.</source>
+        <translation>无法将设置集写入 %1。</translation>
+    </message>
+    <message>
+        <source>Saved the set-up %1</source>
+        <translation>已保存设置集 %1</translation>
+    </message>
+    <message>
+        <source>The set-up %1 cannot be removed.</source>
+        <translation>无法移除设置集 %1。</translation>
+    </message>
+    <message>
+        <source>There is no set-up %1.</source>
+        <translation>没有设置集 %1。</translation>
+    </message>
+    <message>
+        <source>The set-up %1 is of another version and not used.</source>
+        <translation>设置集 %1 属于其他版本，未使用。</translation>
+    </message>
+    <message>
+        <source>The set-up %1 is damaged and not used.</source>
+        <translation>设置集 %1 已损坏，未使用。</translation>
+    </message>
+    <message>
+        <source>Recalled %1</source>
+        <translation>已调用 %1</translation>
+    </message>
+    <message>
+        <source>%1 needs %2, which cannot be read.</source>
+        <translation>%1 需要 %2，但无法读取。</translation>
+    </message>
+</context>
+<context>
     <name>Panel::SmithView</name>
     <message>
         <source>Smith chart</source>
@@ -860,18 +1028,6 @@
     <message>
         <source>VSWR %1</source>
         <translation>驻波比 %1</translation>
-    </message>
-    <message>
-        <source>Tr%1 from %2</source>
-        <translation>Tr%1 自 %2</translation>
-    </message>
-    <message>
-        <source>PASS</source>
-        <translation>通过</translation>
-    </message>
-    <message>
-        <source>FAIL</source>
-        <translation>不通过</translation>
     </message>
     <message>
         <source>normalised, Tr%1 to %2</source>
@@ -1199,6 +1355,14 @@
         <source>All traces</source>
         <translation>所有轨迹</translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Tr%1</source>
+        <translation>Tr%1</translation>
+    </message>
 </context>
 <context>
     <name>Panel::TraceFormat</name>
@@ -1272,6 +1436,21 @@
     <message>
         <source>Data + memory</source>
         <translation>数据 + 存储</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Verdict</name>
+    <message>
+        <source>PASS</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>FAIL</source>
+        <translation>不合格</translation>
+    </message>
+    <message>
+        <source>Tr%1 from %2</source>
+        <translation>Tr%1 自 %2</translation>
     </message>
 </context>
 </TS>

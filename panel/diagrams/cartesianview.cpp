@@ -4,8 +4,6 @@
 
 #include <panel/ground/look.h>
 
-#include <QPushButton>
-
 #include <cmath>
 
 namespace Panel
@@ -24,14 +22,19 @@ QString activeLayer()
 CartesianView::CartesianView(const PanelModel *model, const DiagramId &id, QWidget *parent)
     : DiagramView(model, id, parent)
     , m_frequencies(plot())
+    , m_values(plot())
     , m_markers(model, plot())
-    , m_fitButton(new QPushButton(plot()))
+    , m_limits(plot())
+    , m_fitButton(new FitOffer(plot()))
 {
     setUpPlot();
-    m_fitButton->setObjectName(QStringLiteral("fitTrace"));
-    m_fitButton->setAutoDefault(false);
-    m_fitButton->hide();
-    connect(m_fitButton, &QPushButton::clicked, this, [this] { Q_EMIT fitRequested(m_offScale); });
+    connect(m_fitButton, &QPushButton::clicked, this,
+            [this] { Q_EMIT fitRequested(m_fitButton->trace()); });
+    connect(m_model, &PanelModel::limitsChanged, this, [this](int traceId) {
+        if (m_lines.count(traceId) > 0)
+            fillLine(*m_model->trace(traceId));
+        replotLater();
+    });
     connect(m_model, &PanelModel::traceScaleChanged, this, [this](int traceId) {
         if (m_lines.count(traceId) == 0)
             return;
@@ -54,11 +57,6 @@ void CartesianView::setUpPlot()
         axis->setSubTicks(false);
         axis->setTickLabels(axis == plot()->yAxis);
     }
-    plot()->yAxis->setTickLabelPadding(8);
-    plot()->yAxis->grid()->setZeroLinePen(Qt::NoPen);
-    plot()->yAxis->setNumberFormat(QStringLiteral("gb"));
-    plot()->yAxis->setNumberPrecision(4);
-    plot()->yAxis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
 }
 
 QCPGraph *CartesianView::graph(int traceId) const
@@ -82,6 +80,7 @@ void CartesianView::clearLines()
 {
     m_markers.clear();
     plot()->clearGraphs();
+    m_limits.forget();
     for (const auto &[id, line] : m_lines)
         plot()->axisRect()->removeAxis(line.values);
     m_lines.clear();
@@ -148,7 +147,9 @@ void CartesianView::fillLine(const Trace &trace)
         graph->setData(points.frequencies, points.values, true);
         return points;
     };
-    line.drawn = valueRange(load(line.graph, m_model->traceData(trace)).values);
+    const TraceData shown = m_model->traceData(trace);
+    line.drawn = valueRange(load(line.graph, shown).values);
+    m_limits.show(trace, shown, line.values, m_laidOut.width());
     const auto memory = m_model->drawnMemory(trace);
     if (line.memory && memory)
         load(line.memory, *memory);
@@ -207,18 +208,10 @@ void CartesianView::showWrittenScale()
     const Trace *active = activeTrace();
     if (!active || m_laidOut.isEmpty())
         return;
-    auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(plot()->yAxis->ticker());
-    ticker->setTickOrigin(active->scale.top);
-    // Where divisions are too low for their numbers, each line stands for several.
-    const double height = m_laidOut.height() / double(traits(active->format).divisions);
-    const double needed = QFontMetricsF(plot()->yAxis->tickLabelFont()).height() / height;
-    const int step = needed <= 1.0 ? 1 : needed <= 2.0 ? 2 : 5;
-    ticker->setTickStep(step * active->scale.perDivision);
-    plot()->yAxis->setRange(bottom(active->format, active->scale), active->scale.top);
+    m_values.write(*active, m_laidOut.height());
 }
 
-/// Offers to fit the first visible trace, the active one before all others, that has no point
-/// between bottom and top.
+/// Offers to fit a visible trace that cannot be seen, the active one before all others.
 void CartesianView::showOffScale()
 {
     const Trace *active = activeTrace();
@@ -226,26 +219,12 @@ void CartesianView::showOffScale()
     std::stable_partition(order.begin(), order.end(), [active](const Trace &trace) {
         return active && trace.id == active->id;
     });
-    m_offScale = 0;
+    QVector<FitOffer::Candidate> candidates;
     for (const Trace &trace : qAsConst(order)) {
-        const ValueRange drawn = m_lines.at(trace.id).drawn;
-        const bool above = drawn.lowest > trace.scale.top;
-        const bool below = drawn.highest < bottom(trace.format, trace.scale);
-        if (!trace.visible || (!above && !below))
-            continue;
-        m_offScale = trace.id;
-        const QString name =
-            tr("Tr%1 %2").arg(QString::number(trace.id), PanelModel::parameterName(trace));
-        m_fitButton->setText(above ? tr("%1 lies above: fit").arg(name)
-                                   : tr("%1 lies below: fit").arg(name));
-        m_fitButton->adjustSize();
-        break;
+        if (trace.visible)
+            candidates.append({trace, m_lines.at(trace.id).drawn});
     }
-    if (m_offScale == 0)
-        m_fitButton->setDown(false); // a finger that is on it does not press the next one
-    m_fitButton->setVisible(m_offScale != 0);
-    const QRect place = plot()->axisRect()->rect();
-    m_fitButton->move(place.right() - m_fitButton->width() - 8, place.top() + 8);
+    m_fitButton->offer(candidates);
 }
 
 void CartesianView::onLayout()
@@ -270,6 +249,9 @@ void CartesianView::onLayout()
     }
     m_laidOut = rect->size();
     m_frequencies.fit();
+    const QPoint corner = rect->rect().topRight() + QPoint(-8, 8);
+    m_limits.verdict()->setCorner(corner);
+    m_fitButton->setCorner(corner);
     if (changed)
         fillLines();
 }
@@ -280,7 +262,7 @@ void CartesianView::setTraceVisible(const Trace &trace)
     line.graph->setVisible(trace.visible);
     if (line.memory)
         line.memory->setVisible(trace.visible);
-    placeMarkers(trace);
+    fillLine(trace);
     showOffScale();
     replotLater();
 }
@@ -337,6 +319,7 @@ void CartesianView::recolor()
         if (line.memory)
             line.memory->setPen(look.memoryPen(trace.id, trace.network));
     }
+    m_limits.recolor();
     showSelectedMarker();
 }
 

@@ -2,15 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cartesianlimits.h"
 #include "cartesianmarkers.h"
 #include "diagramview.h"
+#include "fitoffer.h"
 #include "frequencyaxis.h"
+#include "valueaxis.h"
 
 #include <panel/model/cartesian.h>
 
 #include <map>
-
-class QPushButton;
 
 namespace Panel
 {
@@ -31,6 +32,8 @@ public:
     /// The line of a trace's stored data, or null.
     QCPGraph *memoryGraph(int traceId) const;
     const FrequencyAxis &frequencyAxis() const { return m_frequencies; }
+    /// What the limits say of the traces on show; hidden without limits.
+    const QLabel *verdict() const { return m_limits.verdict(); }
     /// What offers to fit a trace that is wholly outside the diagram; hidden while there is none.
     QPushButton *fitButton() const { return m_fitButton; }
 
@@ -78,9 +81,10 @@ private:
 
     FrequencyAxis m_frequencies;
     std::map<int, Line> m_lines; ///< by trace
+    ValueAxis m_values;
     CartesianMarkers m_markers;
-    QPushButton *m_fitButton;
-    int m_offScale = 0; ///< the trace that the button is about
+    CartesianLimits m_limits;
+    FitOffer *m_fitButton;
     QSize m_laidOut; ///< of the axis rectangle; empty before the first layout
 };
 

@@ -7,8 +7,6 @@
 
 #include <plot/qcp.h>
 
-#include <QLabel>
-
 #include <algorithm>
 #include <functional>
 
@@ -22,8 +20,6 @@ namespace
 constexpr int s_stepsAround = 1000;
 /// A dragged marker leaves its branch of the trace for one so many pixels nearer to the finger.
 constexpr double s_jump = 30.0;
-/// Traces that the verdict names at most.
-constexpr int s_mostFailures = 3;
 
 /// The magnitude of reflection of a standing wave ratio S: (S - 1) / (S + 1).
 double reflectionOf(double ratio)
@@ -55,7 +51,7 @@ bool isSame(const SmithChart::ViewState &a, const SmithChart::ViewState &b)
 SmithView::SmithView(const PanelModel *model, const DiagramId &id, QWidget *parent)
     : DiagramView(model, id, parent)
     , m_density(model->viewSettings()->density())
-    , m_verdict(new QLabel(plot()))
+    , m_verdict(new Verdict(plot()))
 {
     // The chart needs the axes as scales only.
     plot()->xAxis->setVisible(false);
@@ -63,8 +59,6 @@ SmithView::SmithView(const PanelModel *model, const DiagramId &id, QWidget *pare
     plot()->axisRect()->setAutoMargins(QCP::msNone);
     plot()->axisRect()->setMargins(QMargins(8, 4, 8, 8));
     plot()->setAccessibleName(tr("Smith chart"));
-    m_verdict->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_verdict->setAlignment(Qt::AlignCenter);
     makeChart();
     recolor();
     connect(m_model->viewSettings(), &ViewSettings::changed, this, &SmithView::followSettings);
@@ -147,7 +141,7 @@ void SmithView::showLimit()
 
 void SmithView::testTraces()
 {
-    QStringList failing;
+    QVector<Verdict::Failure> failures;
     bool tested = false;
     for (const auto &[id, limit] : m_limits) {
         const Trace *trace = m_model->trace(id);
@@ -159,32 +153,10 @@ void SmithView::testTraces()
         tested = tested || result.tested > 0;
         // A hidden chart may still have the points of before.
         if (!result.passed() && result.firstFailing < m_model->network(*trace).points())
-            failing << tr("Tr%1 from %2")
-                           .arg(QString::number(id),
-                                frequencyText(
-                                    m_model->network(*trace).frequencies.at(result.firstFailing)));
+            failures.append({id, m_model->network(*trace).frequencies.at(result.firstFailing)});
     }
-    m_verdict->setVisible(tested);
-    const Look look = currentLook();
-    const QString sheet =
-        QStringLiteral("padding: 3px 10px; border: 1px solid %1; border-radius: 4px; "
-                       "background: %2; color: %1; font-weight: bold;")
-            .arg((failing.isEmpty() ? look.pass : look.fail).name(), look.bar.name());
-    if (sheet != m_verdict->styleSheet())
-        m_verdict->setStyleSheet(sheet);
-    QString text = QStringLiteral("<span style='font-size:24px'>%1</span>")
-                       .arg(failing.isEmpty() ? tr("PASS") : tr("FAIL"));
-    for (const QString &trace : failing.mid(0, s_mostFailures))
-        text += QLatin1String("<br>") + trace;
-    m_verdict->setText(text);
-    m_verdict->adjustSize();
-    placeVerdict();
+    m_verdict->show(tested, failures);
     replotLater();
-}
-
-void SmithView::placeVerdict()
-{
-    m_verdict->move(plot()->width() - m_verdict->width() - 8, 8);
 }
 
 void SmithView::makeChart()
@@ -383,7 +355,7 @@ void SmithView::onLayout()
 {
     m_laidOut = true;
     showZoom();
-    placeVerdict();
+    m_verdict->setCorner({plot()->width() - 8, 8});
 }
 
 Zoom SmithView::zoomedAt(const QPointF &position, double factor) const

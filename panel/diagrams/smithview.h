@@ -3,6 +3,7 @@
 #pragma once
 
 #include "diagramview.h"
+#include "verdict.h"
 
 #include <smithchart/smithchartplot.h>
 #include <smithchart/smithcircle.h>
@@ -11,8 +12,6 @@
 #include <QPointer>
 
 #include <map>
-
-class QLabel;
 
 namespace Panel
 {
@@ -30,7 +29,7 @@ public:
 
     SmithChartPlot *chart() const { return m_chart; }
     /// What the limit says of the traces on show; hidden without a limit.
-    QLabel *verdict() const { return m_verdict; }
+    Verdict *verdict() const { return m_verdict; }
     /// The id that the chart knows the stored data of a trace by.
     static constexpr int memoryId(int traceId) { return traceId + s_firstMemoryId; }
 
@@ -67,7 +66,6 @@ private:
     void showLimit();
     void showData(int curve, const TraceData &shown);
     void testTraces();
-    void placeVerdict();
     SmithChart::HalfRanges halfRanges() const;
     SmithChart::ViewState wantedView() const;
 
@@ -75,7 +73,7 @@ private:
     GridDensity m_density;
     QPointer<SmithCircle> m_circle;
     std::map<int, QPointer<SmithLimit>> m_limits; ///< by trace
-    QLabel *m_verdict;
+    Verdict *m_verdict;
     bool m_laidOut = false;
 };
 

@@ -25,6 +25,15 @@ QVector<double> decadeSteps(double span)
     return {tenth, tenth / 10.0, tenth / 100.0};
 }
 
+/// Beyond all instruments; a limit may be anywhere below.
+constexpr double s_highestFrequency = 1e12;
+
+/// Ten divisions of the largest scale, or what the default scale needs.
+double farthestValue(TraceFormat format)
+{
+    return qMax(1000.0, 10.0 * traits(format).largestDivision);
+}
+
 UnitAdapter *valueAdapter(TraceFormat format)
 {
     if (format == TraceFormat::LogMagnitude)
@@ -35,11 +44,10 @@ UnitAdapter *valueAdapter(TraceFormat format)
 
 } // namespace
 
-NumericKeys::NumericKeys(PanelModel *model, const PanelKeys &keys, QWidget *host, QObject *parent)
+NumericKeys::NumericKeys(PanelModel *model, const PanelKeys &keys, QObject *parent)
     : QObject(parent)
     , m_model(model)
     , m_keys(keys)
-    , m_host(host)
 {
     m_stimulusNumbers = {
         {keys.start, [](const Stimulus &s) { return s.start; }, withStart},
@@ -89,7 +97,7 @@ void NumericKeys::followModel()
 void NumericKeys::edit(QWidget *anchor, const QString &name, UnitAdapter *adapter,
                        const QVector<double> &steps, const std::function<void(double)> &apply)
 {
-    auto *dialog = new NumericDialog(name, adapter, m_host);
+    auto *dialog = new NumericDialog(name, adapter, anchor->window());
     dialog->setSteps(steps);
     dialog->setPopupAnchorWidget(anchor);
     Q_EMIT said({}); // of the last entry
@@ -113,6 +121,26 @@ void NumericKeys::edit(SoftKey *key, UnitAdapter *adapter, const QVector<double>
                        const std::function<void(double)> &apply)
 {
     edit(key, key->name(), adapter, steps, apply);
+}
+
+void NumericKeys::editFrequency(QWidget *anchor, const QString &name, double hertz,
+                                const std::function<void(double)> &apply)
+{
+    auto *adapter = new FrequencyAdapter;
+    adapter->setRange(0.0, s_highestFrequency);
+    adapter->setRealValue(hertz);
+    edit(anchor, name, adapter, decadeSteps(hertz), apply);
+}
+
+void NumericKeys::editValue(QWidget *anchor, const QString &name, TraceFormat format, double value,
+                            const std::function<void(double)> &apply)
+{
+    UnitAdapter *adapter = valueAdapter(format);
+    const double farthest = farthestValue(format);
+    adapter->setRange(-farthest, farthest);
+    adapter->setRealValue(value);
+    const double division = traits(format).defaultScale.perDivision;
+    edit(anchor, name, adapter, {division, division / 10.0}, apply);
 }
 
 void NumericKeys::editStimulus(const StimulusNumber &number)
@@ -226,8 +254,7 @@ void NumericKeys::editReference()
     if (!trace || trace->onSmithChart())
         return;
     UnitAdapter *adapter = valueAdapter(trace->format);
-    // Ten divisions of the largest scale, or what the default scale needs.
-    const double farthest = qMax(1000.0, 10.0 * traits(trace->format).largestDivision);
+    const double farthest = farthestValue(trace->format);
     adapter->setRange(-farthest, farthest);
     adapter->setRealValue(trace->scale.top);
     const double division = trace->scale.perDivision;

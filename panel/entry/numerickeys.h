@@ -20,16 +20,20 @@ class NumericKeys : public QObject
     Q_OBJECT
 
 public:
-    /// The host is the main window above which numbers are entered.
-    NumericKeys(PanelModel *model, const PanelKeys &keys, QWidget *host, QObject *parent = nullptr);
+    NumericKeys(PanelModel *model, const PanelKeys &keys, QObject *parent = nullptr);
 
     /// Opens the dialog of a key or field for a value that the adapter holds, which goes with the
-    /// dialog; the value is applied as it changes. \a name is the dialog's title.
+    /// dialog, above the anchor's window; the value is applied as it changes. \a name is the dialog's title.
     void edit(QWidget *anchor, const QString &name, UnitAdapter *adapter,
               const QVector<double> &steps, const std::function<void(double)> &apply);
     /// The same under the name of the key.
     void edit(SoftKey *key, UnitAdapter *adapter, const QVector<double> &steps,
               const std::function<void(double)> &apply);
+    /// The same for a frequency in Hz, from 0 up, and for a value of a format.
+    void editFrequency(QWidget *anchor, const QString &name, double hertz,
+                       const std::function<void(double)> &apply);
+    void editValue(QWidget *anchor, const QString &name, TraceFormat format, double value,
+                   const std::function<void(double)> &apply);
     /// Lets the user edit the active trace's scale per division, beside a key or a field.
     void editScale(QWidget *anchor);
 
@@ -65,7 +69,6 @@ private:
 
     PanelModel *m_model;
     PanelKeys m_keys;
-    QWidget *m_host;
     QVector<StimulusNumber> m_stimulusNumbers;
 };
 

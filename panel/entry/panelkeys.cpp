@@ -11,6 +11,10 @@
 #include <widgets/switchbutton.h>
 
 #include <QCoreApplication>
+#include <QHBoxLayout>
+
+#include <tuple>
+#include <utility>
 
 namespace Panel
 {
@@ -39,6 +43,24 @@ SwitchButton *addSwitch(SoftKeyMenu *menu, const QString &name)
     return button;
 }
 
+/// Two keys side by side.
+std::pair<SoftKey *, SoftKey *> addPair(SoftKeyMenu *menu, const QString &left,
+                                        const QString &right)
+{
+    auto *pair = new QWidget;
+    auto *row = new QHBoxLayout(pair);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(6);
+    const std::pair<SoftKey *, SoftKey *> keys{new SoftKey(left), new SoftKey(right)};
+    for (SoftKey *key : {keys.first, keys.second}) {
+        key->setNarrow(true);
+        key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        row->addWidget(key, 1);
+    }
+    menu->addKey(pair);
+    return keys;
+}
+
 } // namespace
 
 PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
@@ -56,6 +78,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.parameter = menu->addKey(Text::tr("Parameter"));
     keys.format = menu->addKey(Text::tr("Format"));
     keys.visible = addSwitch(menu, Text::tr("Visible"));
+    std::tie(keys.addTrace, keys.removeTrace) = addPair(menu, Text::tr("Add"), Text::tr("Remove"));
 
     menu->addPage(Text::tr("Math"), Glyph::Math);
     keys.memory = addMenu(menu, Text::tr("Memory"));
@@ -80,6 +103,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.bandwidth = menu->addKey(Text::tr("Bandwidth"));
 
     menu->addPage(Text::tr("Limits"), Glyph::Limits);
+    keys.limitLines = menu->addKey(Text::tr("Limit lines"));
     keys.vswrCircle = menu->addKey(Text::tr("VSWR circle"));
     keys.vswrLimit = menu->addKey(Text::tr("VSWR limit"));
 
@@ -103,6 +127,8 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.file = menu->addKey(Text::tr("File"));
     keys.save = addMenu(menu, Text::tr("Save"));
     keys.screenshot = menu->addKey(Text::tr("Screenshot"));
+    keys.setups = menu->addKey(Text::tr("Set-ups"));
+    std::tie(keys.undo, keys.redo) = addPair(menu, Text::tr("Undo"), Text::tr("Redo"));
     keys.settings = menu->addKey(Text::tr("Settings"));
     keys.help = menu->addKey(Text::tr("Keyboard help"));
     return keys;

@@ -26,6 +26,8 @@ struct PanelKeys {
     SoftKey *parameter; ///< that it shows, of its network
     SoftKey *format;
     SwitchButton *visible;
+    SoftKey *addTrace;
+    SoftKey *removeTrace;
     // Math
     MenuButton *memory;
     SoftKey *math; ///< what is made of data and memory
@@ -46,6 +48,7 @@ struct PanelKeys {
     SoftKey *readout;
     SoftKey *bandwidth; ///< how far down, or up, the edges of a band are
     // Limits
+    SoftKey *limitLines; ///< that the active trace must stay above or below
     SoftKey *vswrCircle; ///< a circle on the Smith charts, to read against
     SoftKey *vswrLimit; ///< an area that traces on the Smith charts must stay in
     // Display
@@ -65,6 +68,9 @@ struct PanelKeys {
     SoftKey *file;
     MenuButton *save; ///< data and drawings
     SoftKey *screenshot;
+    SoftKey *setups; ///< kept under names, and the default one
+    SoftKey *undo;
+    SoftKey *redo;
     SoftKey *settings;
     SoftKey *help;
 };

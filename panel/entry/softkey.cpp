@@ -72,10 +72,18 @@ void SoftKey::showValue()
     setAccessibleDescription(m_value);
 }
 
+void SoftKey::setNarrow(bool narrow)
+{
+    m_narrow = narrow;
+    updateGeometry();
+}
+
 QSize SoftKey::sizeHint() const
 {
     const QFontMetrics metrics(font());
-    return {metrics.averageCharWidth() * 17, metrics.height() * 4};
+    const int width =
+        m_narrow ? EnumTextButton::minimumSizeHint().width() : metrics.averageCharWidth() * 17;
+    return {width, metrics.height() * 4};
 }
 
 QSize SoftKey::minimumSizeHint() const

@@ -30,6 +30,9 @@ public:
     void setChoice(int index);
     int choice() const { return m_choice; }
 
+    /// For two keys side by side: as narrow as its name allows.
+    void setNarrow(bool narrow);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -46,6 +49,7 @@ private:
     QString m_value;
     QStringList m_choices;
     int m_choice = -1;
+    bool m_narrow = false;
 };
 
 } // namespace Panel

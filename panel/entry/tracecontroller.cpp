@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tracecontroller.h"
 
+#include "limitsheet.h"
 #include "numerickeys.h"
 #include "parametermatrix.h"
 #include "softkey.h"
@@ -12,6 +13,8 @@
 #include <widgets/menubutton.h>
 #include <widgets/popupwidget.h>
 #include <widgets/switchbutton.h>
+
+#include <algorithm>
 
 namespace Panel
 {
@@ -49,6 +52,7 @@ TraceController::TraceController(PanelModel *model, const PanelKeys &keys, Trace
     connectKeys();
     for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::activeTraceChanged})
         connect(model, signal, this, &TraceController::showTrace);
+    connect(model, &PanelModel::limitsChanged, this, &TraceController::showTrace);
     connect(model, &PanelModel::traceVisibleChanged, this, &TraceController::showTrace);
     showTrace();
 }
@@ -74,6 +78,18 @@ void TraceController::connectKeys()
     keys.autoScale->addMenuItem(FitAll, tr("All traces"));
     connect(keys.autoScale, qOverload<int>(&MenuButton::menuItemClicked), this,
             &TraceController::onAutoScalePicked);
+    connect(keys.limitLines, &SoftKey::clicked, this, [this] {
+        const Trace *trace = m_model->activeTrace();
+        if (m_limitSheet)
+            m_limitSheet->leave();
+        else if (trace && !trace->onSmithChart())
+            m_limitSheet = new LimitSheet(m_model, trace->id, m_numbers, m_host);
+    });
+    connect(keys.addTrace, &SoftKey::clicked, this, &TraceController::addTrace);
+    connect(keys.removeTrace, &SoftKey::clicked, this, [this] {
+        if (const Trace *trace = m_model->activeTrace())
+            m_model->removeTrace(trace->id);
+    });
     connect(keys.visible, &SwitchButton::statusChanged, this, [this](bool visible) {
         if (const Trace *trace = m_model->activeTrace())
             m_model->setTraceVisible(trace->id, visible);
@@ -105,6 +121,16 @@ void TraceController::onEditRequested(int traceId, TraceBar::Field field)
     } else {
         editParameter(traceId);
     }
+}
+
+/// Adds a trace like the active one, and lets the user say which parameter it shows.
+void TraceController::addTrace()
+{
+    const Trace *like = m_model->activeTrace();
+    const int id = like ? m_model->addTrace(like->id) : 0;
+    if (id == 0 || m_model->network(*m_model->trace(id)).ports == 1)
+        return;
+    editParameter(id);
 }
 
 void TraceController::editParameter(int traceId)
@@ -148,6 +174,17 @@ void TraceController::showTrace()
     keys.trace->setChoice(index);
     keys.format->setChoice(active ? int(active->format) : -1);
     keys.visible->setStatus(active && active->visible);
+    const auto isPresent = [active](const LimitLine &limit) {
+        return limit.format == active->format;
+    };
+    const auto count =
+        active ? std::count_if(active->limits.begin(), active->limits.end(), isPresent) : 0;
+    keys.limitLines->setEnabled(active && !active->onSmithChart());
+    keys.limitLines->setValue(count == 0 ? tr("None") : QString::number(count));
+    keys.addTrace->setEnabled(active && m_model->traces().size() < Trace::most);
+    keys.removeTrace->setEnabled(m_model->traces().size() > 1);
+    keys.addTrace->setValue(QStringLiteral("+"));
+    keys.removeTrace->setValue(active ? tr("Tr%1").arg(active->id) : nothingText());
     keys.parameter->setValue(active ? PanelModel::parameterName(*active) : nothingText());
     keys.parameter->setEnabled(active && m_model->network(*active).ports > 1);
     for (QWidget *key : {static_cast<QWidget *>(keys.trace), static_cast<QWidget *>(keys.format),

@@ -5,11 +5,14 @@
 #include "panelkeys.h"
 #include "tracebar.h"
 
+#include <QPointer>
+
 #include <functional>
 
 namespace Panel
 {
 
+class LimitSheet;
 class NumericKeys;
 class PanelModel;
 
@@ -26,6 +29,7 @@ public:
 private:
     void connectKeys();
     void onEditRequested(int traceId, TraceBar::Field field);
+    void addTrace();
     void editParameter(int traceId);
     void onAutoScalePicked(int command);
     /// Lets the user pick from a list below a place in a widget.
@@ -38,6 +42,7 @@ private:
     TraceBar *m_bar;
     NumericKeys *m_numbers;
     QWidget *m_host;
+    QPointer<LimitSheet> m_limitSheet; ///< while it is open
 };
 
 } // namespace Panel

@@ -93,6 +93,10 @@ bool TypedEntry::onKey(const QKeyEvent *event)
         return onLetter(text.front());
     if (text.front() == QLatin1Char(' '))
         return true;
+    // Over a number that is selected as it opens, without its sign, another one begins.
+    if (m_editor->selectionStart() == 1 && m_editor->selectedText().size() + 1 == number().size()
+        && (text.front().isDigit() || QStringLiteral("-.,").contains(text.front())))
+        selectNumber();
     // Whatever else is typed goes on with the number.
     m_unit.clear();
     m_finish->stop();

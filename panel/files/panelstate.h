@@ -21,6 +21,14 @@ class PanelModel;
 class PanelState
 {
 public:
+    /// Why a file is not used.
+    enum Fault {
+        NoFault, ///< it is, or there is none
+        Unreadable,
+        OtherVersion,
+        Damaged,
+    };
+
     /// Where the state is kept unless somebody says otherwise.
     static QString defaultPath();
 
@@ -28,8 +36,9 @@ public:
     explicit PanelState(const QString &path);
 
     QString path() const { return m_path; }
-    /// Why the file was not used; empty when it was, or when there is none.
-    QString note() const { return m_note; }
+    Fault fault() const { return m_fault; }
+    /// The same as a sentence on the state of the last time; empty when it is used.
+    QString note() const;
     /// The code of the saved language, or nothing.
     QString language() const;
     /// The files that were on show or waited behind a simulation; empty for samples.
@@ -46,7 +55,7 @@ public:
 
 private:
     QString m_path;
-    QString m_note;
+    Fault m_fault = NoFault;
     QJsonObject m_saved; ///< empty, or valid
 };
 

@@ -31,7 +31,7 @@ void StateKeeper::followModel()
           &PanelModel::selectedMarkerChanged, &PanelModel::markerModeChanged})
         connect(m_model, signal, this, changed);
     for (const auto signal : {&PanelModel::stimulusChanged, &PanelModel::traceScaleChanged,
-                              &PanelModel::referenceMarkerChanged})
+                              &PanelModel::limitsChanged, &PanelModel::referenceMarkerChanged})
         connect(m_model, signal, this, changed);
     for (const auto signal :
          {&PanelModel::markerAdded, &PanelModel::markerMoved, &PanelModel::markerRemoved})

@@ -93,7 +93,7 @@ Look currentLook()
 QString panelStyleSheet(const Look &look)
 {
     QString sheet = QStringLiteral(R"(
-Panel--PanelWindow, QWidget#topBar, QWidget#softKeys, Panel--SweepBar, Panel--MessageBar { background: @bar; }
+Panel--PanelWindow, QWidget#topBar, QWidget#softKeys, Panel--SweepBar, Panel--MessageBar, Panel--LimitSheet { background: @bar; }
 QLabel#dim { color: @dimText; }
 QWidget#topBar { border-bottom: 1px solid @border; }
 QWidget#softKeys { border-left: 1px solid @border; }
@@ -101,6 +101,8 @@ QStackedWidget#diagrams, QWidget#emptyPage { background: @background; }
 Panel--SmithView, Panel--CartesianView, Panel--TimingLine { background: @background; }
 Panel--SweepBar { border-top: 1px solid @border; }
 Panel--MessageBar { border: 1px solid @warning; border-radius: 4px; }
+Panel--LimitSheet { border: 1px solid @accent; border-radius: 4px; }
+Panel--LimitSheet QScrollArea, Panel--LimitSheet QScrollArea > QWidget > QWidget { background: transparent; }
 Panel--MessageBar[notice="true"] { border-color: @accent; }
 Panel--ReadOuts, Panel--ReadOuts > QWidget > QWidget { background: transparent; border: none; }
 QLabel#more { padding: 0px 6px; background: @bar; border: 1px solid @border; border-radius: 4px; color: @text; }
@@ -117,7 +119,7 @@ Panel--NumericDialog LabelButton QLabel#nameLabel { font-weight: normal; padding
 Panel--NumericDialog QLabel#range[warning="true"] { color: @warning; }
 Panel--ParameterMatrix QScrollArea, Panel--ParameterMatrix QScrollArea > QWidget > QWidget { background: transparent; }
 Panel--ParameterMatrix QPushButton#parameter:checked { border: 2px solid @accent; }
-Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @button; }
+Panel--SetupDialog QListWidget::item, Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @button; }
 )");
     const std::pair<const char *, QColor> places[] = {
         {"@background", look.background}, {"@bar", look.bar},       {"@dimText", look.dimText},

@@ -42,6 +42,25 @@ void Markers::reset(const QVector<int> &traces)
     m_selectedTrace = m_selectedNumber = 0;
 }
 
+Markers::Changes Markers::setTraces(const QVector<int> &traces)
+{
+    Changes changes;
+    for (const Marker &marker : QVector<Marker>(m_all)) {
+        if (!traces.contains(marker.trace))
+            changes.append({MarkerChange::Removed, marker.trace, marker.number});
+    }
+    m_all.erase(
+        std::remove_if(m_all.begin(), m_all.end(),
+                       [&traces](const Marker &marker) { return !traces.contains(marker.trace); }),
+        m_all.end());
+    for (const int trace : qAsConst(m_traces)) {
+        if (!traces.contains(trace))
+            m_references.remove(trace);
+    }
+    m_traces = traces;
+    return m_coupled ? changes + setCoupled(true, traces.value(0)) : changes;
+}
+
 Markers::Changes Markers::place(int trace, int number, const StimulusPlace &place)
 {
     Changes changes;

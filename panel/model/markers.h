@@ -58,6 +58,9 @@ public:
 
     /// Removes all markers; markers can be set on these traces from now on.
     void reset(const QVector<int> &traces);
+    /// Markers can be set on these traces; those of others go. Returns what has changed. Where they
+    /// are coupled, a trace that is new gets what the others have.
+    Changes setTraces(const QVector<int> &traces);
     /// Sets a marker, or moves the one of this number.
     Changes place(int trace, int number, const StimulusPlace &place);
     Changes remove(int trace, int number);

@@ -118,6 +118,13 @@ public:
     /// What was stored of a trace, or null.
     const TraceData *memory(int traceId) const { return m_traces.memory(traceId); }
 
+    /// Adds a trace that is like another one, and makes it active; its id, or 0 when there are as
+    /// many as there can be. \a wanted is the id it gets if no other trace has it.
+    int addTrace(int like, int wanted = 0);
+    /// With its markers and its memory; the last one of all stays.
+    void removeTrace(int id);
+    /// Lines that are not valid, or too many of them, are ignored as a whole.
+    void setLimits(int id, const QVector<LimitLine> &limits);
     /// A selected marker of another trace is deselected, or, where markers are coupled, that of the
     /// same number is selected. An unknown id is ignored.
     void setActiveTrace(int id);
@@ -218,6 +225,7 @@ Q_SIGNALS:
     void tracesChanged();
     void activeTraceChanged();
     void traceScaleChanged(int id);
+    void limitsChanged(int id);
     void traceVisibleChanged(int id, bool visible);
     void memoryChanged(int id);
     void zoomChanged(const Panel::DiagramId &diagram);

@@ -97,6 +97,48 @@ Scale Traces::startScale(TraceFormat format, const Networks &networks) const
                                        : defaultScale(format, range.highest);
 }
 
+int Traces::addLike(int id, int wanted)
+{
+    const Trace *like = find(id);
+    if (!like || m_all.size() >= Trace::most)
+        return 0;
+    Trace added = *like;
+    added.id = wanted > 0 && wanted <= Trace::most && !find(wanted) ? wanted : 1;
+    while (find(added.id))
+        ++added.id;
+    added.math = TraceMath::DataAndMemory;
+    const auto after = std::find_if(m_all.begin(), m_all.end(),
+                                    [&](const Trace &trace) { return trace.id > added.id; });
+    m_all.insert(after, added);
+    ++m_revision;
+    return added.id;
+}
+
+bool Traces::remove(int id)
+{
+    if (!find(id) || m_all.size() <= 1)
+        return false;
+    clearMemory(id);
+    m_all.remove(int(find(id) - m_all.constData())); // clearMemory() may have moved them
+
+    m_recent.removeOne(id);
+    if (m_recent.isEmpty())
+        m_recent.append(m_all.first().id);
+    ++m_revision;
+    return true;
+}
+
+bool Traces::setLimits(int id, const QVector<LimitLine> &limits)
+{
+    Trace *trace = edit(id);
+    const bool valid = std::all_of(limits.begin(), limits.end(),
+                                   [](const LimitLine &limit) { return limit.isValid(); });
+    if (!trace || trace->limits == limits || !valid || limits.size() > LimitLine::perTrace)
+        return false;
+    trace->limits = limits;
+    return true;
+}
+
 bool Traces::setActive(int id)
 {
     if (id == m_recent.value(0) || !find(id))

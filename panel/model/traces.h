@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "limitline.h"
 #include "networks.h"
 #include "tracedata.h"
 #include "traceformat.h"
@@ -22,8 +23,11 @@ struct Trace {
     Scale scale; ///< of a Cartesian diagram; a Smith chart has a zoom
     bool visible = true;
     TraceMath math = TraceMath::DataAndMemory; ///< with what was stored, where anything is
+    QVector<LimitLine> limits; ///< of all formats; those of the present one hold
     double smoothing = 0.0; ///< share of the points that are averaged, in percent
 
+    /// How many traces there can be, beyond those that networks begin with.
+    static constexpr int most = 32;
     /// Largest share of the points that can be averaged, in percent.
     static constexpr double mostSmoothing = 20.0;
 
@@ -50,8 +54,14 @@ public:
     /// Smith chart, then what they get from port 1 in dB, of a two-port also the way back; of a
     /// one-port its reflection in both ways.
     void rebuild(const Networks &networks);
+    /// Adds a trace that is like another one, under the lowest free id or, where that is free, the
+    /// wanted one; its id, or 0 when there are as many traces as there can be. Memories are not
+    /// shared.
+    int addLike(int id, int wanted = 0);
     /// \name Each returns whether anything changed
     ///@{
+    /// The last one of all stays.
+    bool remove(int id);
     bool setActive(int id);
     bool setVisible(int id, bool visible);
     /// The scale becomes the default one.
@@ -64,6 +74,8 @@ public:
     bool storeMemory(int id, const TraceData &memory);
     /// The trace shows its data again.
     bool clearMemory(int id);
+    /// False for a line that is not valid, and for too many of them.
+    bool setLimits(int id, const QVector<LimitLine> &limits);
     /// False while nothing is stored.
     bool setMath(int id, TraceMath math);
     /// Bounded; false for what is not finite.

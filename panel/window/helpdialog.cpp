@@ -17,7 +17,7 @@ HelpDialog::HelpDialog(QWidget *parent)
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(16, 16 + 35, 16, 16);
     grid->setHorizontalSpacing(24);
-    grid->setVerticalSpacing(7);
+    grid->setVerticalSpacing(5);
     const std::pair<QString, QString> rows[] = {
         {tr("Tab"), tr("go through all keys; Space or Return presses")},
         {tr("Ctrl + PgUp, PgDn"), tr("turn the page of soft keys")},
@@ -28,6 +28,7 @@ HelpDialog::HelpDialog(QWidget *parent)
         {tr("G, M, k"), tr("finish a typed number in GHz, MHz or kHz")},
         {tr("Del"), tr("remove the selected marker")},
         {tr("Esc"), tr("select none; leave an entry without changing it")},
+        {tr("Ctrl + Z"), tr("undo; with Shift, do it again")},
         {tr("Ctrl + O"), tr("open files")},
         {tr("Ctrl + P"), tr("take a screenshot")},
         {tr("Ctrl + L"), tr("lock the panel, or unlock it")},

@@ -8,6 +8,7 @@
 #include "messagebar.h"
 #include "panelwindow.h"
 #include "settingsdialog.h"
+#include "setupdialog.h"
 #include "sweepbar.h"
 #include "timingline.h"
 
@@ -22,6 +23,8 @@
 #include <panel/entry/sourcekeys.h>
 #include <panel/entry/tracecontroller.h>
 #include <panel/files/filecontroller.h>
+#include <panel/files/history.h>
+#include <panel/files/setups.h>
 #include <panel/ground/languages.h>
 #include <panel/model/panelmodel.h>
 #include <panel/source/sweepcontroller.h>
@@ -73,11 +76,14 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     , m_model(model)
     , m_window(window)
     , m_files(new FileController(model, this))
+    , m_history(new History(model, this))
+    , m_setups(new Setups(model, m_files, Setups::defaultFolder(), this))
 {
     makeEntry();
     connectKeys();
     connectFiles();
     connectSweep();
+    connectHistory();
     addShortcuts();
 }
 
@@ -85,7 +91,7 @@ void PanelController::makeEntry()
 {
     const PanelKeys &keys = m_window->keys();
     MessageBar *bar = m_window->messageBar();
-    auto *numbers = new NumericKeys(m_model, keys, m_window, this);
+    auto *numbers = new NumericKeys(m_model, keys, this);
     connect(numbers, &NumericKeys::said, bar, &MessageBar::notify);
     new DisplayKeys(m_model, keys, this);
     new TraceController(m_model, keys, m_window->traceBar(), numbers, m_window, this);
@@ -156,12 +162,34 @@ void PanelController::connectSweep()
     connect(sweeps, &SweepController::sweepCompleted, this, &PanelController::sweepCompleted);
 }
 
+void PanelController::connectHistory()
+{
+    const PanelKeys &keys = m_window->keys();
+    MessageBar *bar = m_window->messageBar();
+    connect(m_setups, &Setups::told, bar, &MessageBar::notify);
+    connect(m_setups, &Setups::failed, bar, &MessageBar::setMessage);
+    connect(keys.setups, &SoftKey::clicked, this, &PanelController::showSetups);
+    keys.setups->setValue(QStringLiteral("\u2026"));
+    connect(keys.undo, &SoftKey::clicked, m_history, &History::undo);
+    connect(keys.redo, &SoftKey::clicked, m_history, &History::redo);
+    keys.undo->setValue(QStringLiteral("\u21b6"));
+    keys.redo->setValue(QStringLiteral("\u21b7"));
+    const auto showHistory = [this] {
+        m_window->keys().undo->setEnabled(m_history->canUndo());
+        m_window->keys().redo->setEnabled(m_history->canRedo());
+    };
+    connect(m_history, &History::changed, this, showHistory);
+    showHistory();
+}
+
 void PanelController::addShortcuts()
 {
     const auto add = [this](const QKeySequence &keys, auto action) {
         connect(new QShortcut(keys, m_window), &QShortcut::activated, this, action);
     };
     const auto ctrl = [](Qt::Key key) { return QKeySequence(int(Qt::CTRL) | int(key)); };
+    add(QKeySequence::Undo, [this] { m_history->undo(); });
+    add(QKeySequence::Redo, [this] { m_history->redo(); });
     add(QKeySequence::Open, [this] { showFileDialog(); });
     add(QKeySequence::Quit, [this] { m_window->close(); });
     add(ctrl(Qt::Key_T), [] { Controls::ThemeManager::instance()->toggleTheme(); });
@@ -193,6 +221,13 @@ void PanelController::showFileDialog()
 void PanelController::showSettings()
 {
     auto *dialog = new SettingsDialog(m_model, m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void PanelController::showSetups()
+{
+    auto *dialog = new SetupDialog(m_setups, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }

@@ -10,8 +10,10 @@ namespace Panel
 
 struct Exported;
 class FileController;
+class History;
 class PanelModel;
 class PanelWindow;
+class Setups;
 
 /*! Brings the parts of the panel together: it makes the controllers of all rooms, tells in the window
     what they say, and answers for the window itself: theme, lock, screenshot, dialogs, shortcuts. */
@@ -28,6 +30,7 @@ public Q_SLOTS:
     /// Lets the user pick files, and opens them.
     void showFileDialog();
     void showSettings();
+    void showSetups();
     /// Lists what the keyboard does.
     void showHelp();
     void takeScreenshot();
@@ -44,11 +47,14 @@ private:
     void connectKeys();
     void connectFiles();
     void connectSweep();
+    void connectHistory();
     void addShortcuts();
 
     PanelModel *m_model;
     PanelWindow *m_window;
     FileController *m_files;
+    History *m_history;
+    Setups *m_setups;
     QString m_dialogFolder; ///< where the file dialog was left
 };
 

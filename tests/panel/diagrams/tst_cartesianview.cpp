@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
-
-#include <QRandomGenerator>
+#include "slope.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,26 +11,6 @@ using namespace Panel;
 
 namespace
 {
-
-/// A two-port of so many points between two frequencies whose parameters fall from 0 dB to -40 dB
-/// and turn as they go; one point is a spike of 20 dB.
-Network slope(int points, double start = 1e9, double stop = 2e9)
-{
-    Network network;
-    network.ports = 2;
-    network.parameters.resize(4);
-    const int spike = points * 3 / 10;
-    for (int i = 0; i < points; ++i) {
-        const double share = double(i) / (points - 1);
-        network.frequencies.append(start + (stop - start) * share);
-        const double magnitude = i == spike ? 10.0 : std::pow(10.0, -2.0 * share);
-        for (Parameter &parameter : network.parameters) {
-            parameter.real.append(magnitude * std::cos(20.0 * share));
-            parameter.imag.append(magnitude * std::sin(20.0 * share));
-        }
-    }
-    return network;
-}
 
 struct Desk : PanelDesk {
     using PanelDesk::PanelDesk;
@@ -81,82 +60,6 @@ private Q_SLOTS:
     }
 
     void initTestCase() { setUpApplication(); }
-
-    void readsDecibelsAndDegrees()
-    {
-        const auto value = [](double real, double imag, TraceFormat format) {
-            return formatValue({real, imag}, 50.0, format);
-        };
-        QCOMPARE(value(0.0, -0.1, TraceFormat::LogMagnitude), -20.0);
-        QCOMPARE(value(0.0, 0.0, TraceFormat::LogMagnitude), -300.0);
-        QCOMPARE(value(-1.0, 0.0, TraceFormat::Phase), 180.0);
-        QCOMPARE(value(1.0, -1.0, TraceFormat::Phase), -45.0);
-        // 50 + j100 ohms.
-        QCOMPARE(value(0.5, 0.5, TraceFormat::Resistance), 50.0);
-        QCOMPARE(value(0.5, 0.5, TraceFormat::Reactance), 100.0);
-        QCOMPARE(value(0.5, 0.5, TraceFormat::Quality), 2.0);
-        QVERIFY(std::isnan(value(1.0, 0.0, TraceFormat::Reactance)));
-        // What reflects nothing is the conjugate of its reference.
-        QCOMPARE(formatValue(0.0, {40.0, -10.0}, TraceFormat::Reactance), 10.0);
-        QCOMPARE(cartesianText(-1.324, TraceFormat::LogMagnitude), "\u22121.32 dB"_s);
-        QCOMPARE(cartesianText(90.0, TraceFormat::Phase), "90.0\u00b0"_s);
-    }
-
-    /// A line of 3 ns and 20 degrees: its phase and its delay are known everywhere.
-    void unwrapsAndDelays()
-    {
-        constexpr double delay = 3e-9, offset = 20.0;
-        TraceData line;
-        QRandomGenerator random(1);
-        double hertz = 1e9;
-        for (int i = 0; i < 2000; ++i) {
-            hertz += random.bounded(0.2 / delay); // two are less than half a turn
-            const double angle = offset / 180.0 * M_PI - 2.0 * M_PI * delay * (hertz - 1e9);
-            line.frequencies << hertz;
-            line.parameter.real << 0.7 * std::cos(angle);
-            line.parameter.imag << 0.7 * std::sin(angle);
-        }
-        const QVector<double> phases = formatValues(line, TraceFormat::UnwrappedPhase);
-        const QVector<double> delays = formatValues(line, TraceFormat::GroupDelay);
-        const double turns = std::round(
-            (phases.first() - offset + 360.0 * delay * (line.frequencies.first() - 1e9)) / 360.0);
-        for (int i = 0; i < phases.size(); ++i) {
-            const double wanted =
-                offset + 360.0 * turns - 360.0 * delay * (line.frequencies.at(i) - 1e9);
-            QVERIFY2(std::abs(phases.at(i) - wanted) < 1e-6, qPrintable(QString::number(i)));
-            QCOMPARE(formatValueAt(line, i, TraceFormat::UnwrappedPhase), phases.at(i));
-            if (i > 0 && i + 1 < phases.size())
-                QVERIFY(std::abs(delays.at(i) - 3.0) < 1e-6);
-        }
-        // The phase of one turn is not joined where it jumps.
-        const CartesianLine drawn = cartesianLine(line, TraceFormat::Phase, 4000);
-        for (int i = 1; i < drawn.values.size(); ++i)
-            QVERIFY(!(std::abs(drawn.values.at(i) - drawn.values.at(i - 1)) > 180.0));
-        QVERIFY(drawn.values.size() > line.points());
-    }
-
-    void thinsWithoutLosingPeaks()
-    {
-        QVERIFY(cartesianLine({}, TraceFormat::Phase, 100).values.isEmpty());
-        for (const int points : {400, 100003}) { // few are all drawn
-            const Network network = slope(points);
-            const TraceData data = traceData(network, 2, 1);
-            for (const auto format :
-                 {TraceFormat::LogMagnitude, TraceFormat::Phase, TraceFormat::RealPart,
-                  TraceFormat::UnwrappedPhase, TraceFormat::GroupDelay}) {
-                const CartesianLine line = cartesianLine(data, format, 100);
-                QCOMPARE(line.values.size(), line.frequencies.size());
-                QVERIFY(line.values.size() <= 400 + 10); // and where the phase jumps
-                // Both ends, and the extremes of the whole.
-                QCOMPARE(line.frequencies.first(), network.frequencies.first());
-                QCOMPARE(line.frequencies.last(), network.frequencies.last());
-                QVERIFY(std::is_sorted(line.frequencies.begin(), line.frequencies.end()));
-                const QVector<double> all = formatValues(data, format);
-                QCOMPARE(valueRange(line.values).lowest, valueRange(all).lowest);
-                QCOMPARE(valueRange(line.values).highest, valueRange(all).highest);
-            }
-        }
-    }
 
     /// At whatever height the diagram has: the edge of a pixel must not swallow a marker.
     void markersNearTheTopAreDrawn()

@@ -146,6 +146,16 @@ private Q_SLOTS:
                 desk.press(Qt::Key_Return);
             QVERIFY(!desk.dialog());
         }
+        // A new number takes the sign of the one before along.
+        desk.model.setActiveTrace(3);
+        for (const auto &[keys, value] :
+             {std::pair("-17\r", -17.0), std::pair("-3.5\r", -3.5), std::pair("20\r", 20.0)}) {
+            desk.click(desk.keys().reference);
+            for (const char *key = keys; *key; ++key)
+                QTest::keyClick(desk.window.windowHandle(), *key);
+            QTRY_VERIFY(!desk.dialog());
+            QCOMPARE(desk.model.trace(3)->scale.top, value);
+        }
         // What is selected as a whole is replaced as a whole.
         desk.click(desk.keys().stop);
         desk.press(Qt::Key_End);

@@ -4,8 +4,6 @@
 
 #include <panel/diagrams/markerreading.h>
 #include <panel/ground/numbertext.h>
-#include <panel/model/bandwidth.h>
-#include <panel/model/markersearch.h>
 #include <panel/model/panelmodel.h>
 
 #include <cmath>
@@ -137,107 +135,6 @@ private Q_SLOTS:
 
         model.openNetworks(QVector<Network>(model.networks()));
         QVERIFY(model.markers().isEmpty());
-    }
-
-    void readsPoints_data()
-    {
-        columns<QPointF, int, QString>("gamma", "format", "values");
-        const int z = int(ReadoutFormat::Impedance), y = int(ReadoutFormat::Admittance);
-        const int db = int(ReadoutFormat::Decibels), vswr = int(ReadoutFormat::Vswr);
-        row("match", QPointF(), z, "50.00 \u03a9|+j0.000 \u03a9|");
-        row("short", QPointF(-1, 0), z, "0.000 \u03a9|+j0.000 \u03a9|");
-        row("open", QPointF(1, 0), z, "\u221e \u03a9|\u2013|");
-        // 50 Ohm and j50 Ohm: the inductor has 50 / (2 pi 1 GHz), the capacitor 1 / (2 pi 1 GHz
-        // 50).
-        row("inductive", QPointF(0.2, 0.4), z, "50.00 \u03a9|+j50.00 \u03a9|7.958 nH");
-        row("capacitive", QPointF(0.2, -0.4), z, "50.00 \u03a9|\u2212j50.00 \u03a9|3.183 pF");
-        row("active", QPointF(-2, 0), z, "\u221216.67 \u03a9|+j0.000 \u03a9|");
-        // 1 / (50 + j50) is 10 mS - j10 mS.
-        row("admittance", QPointF(0.2, 0.4), y, "10.00 mS|\u2212j10.00 mS|15.92 nH");
-        row("short as admittance", QPointF(-1, 0), y, "\u221e S|\u2013|");
-        row("polar", QPointF(0, 0.5), int(ReadoutFormat::MagnitudePhase), "0.5000|90.0\u00b0");
-        row("decibels", QPointF(-0.1, 0), db, "\u221220.00 dB|180.0\u00b0");
-        row("standing wave", QPointF(0, -0.5), vswr, "3.00");
-        row("no standing wave", QPointF(1, 0), vswr, "\u2013");
-        row("nothing", QPointF(qQNaN(), 0), z, "\u2013|\u2013|");
-        row("no level", QPointF(qQNaN(), 0), db, "\u2013|\u2013");
-    }
-
-    void readsPoints()
-    {
-        QFETCH(QPointF, gamma);
-        QFETCH(int, format);
-        Network one = network(1);
-        one.parameters = {{{gamma.x()}, {gamma.y()}}};
-        const auto read = [&](double index) {
-            return readOnSmithChart({traceData(one, 1, 1), index}, ReadoutFormat(format));
-        };
-        QCOMPARE(read(0.0).frequency, "1.000 GHz"_s);
-        QTEST(read(0.0).values.join(QLatin1Char('|')), "values");
-        // Half-way between two points.
-        one.frequencies = {0.5e9, 1.5e9};
-        one.parameters = {{{gamma.x() - 0.1, gamma.x() + 0.1}, {gamma.y() + 0.3, gamma.y() - 0.3}}};
-        QTEST(read(0.5).values.join(QLatin1Char('|')), "values");
-    }
-
-    void readsDifferences()
-    {
-        Network one = network(1, {1e9, 1.5e9});
-        one.parameters = {{{0.0, 0.2}, {0.0, 0.4}}};
-        const auto at = [&one](double index) { return MarkedPoint{traceData(one, 1, 1), index}; };
-        const MarkerReading reading = readOnSmithChart(at(0.0), ReadoutFormat::Impedance, at(1.0));
-        QCOMPARE(reading.frequency, "\u2212500.000 MHz"_s);
-        QCOMPARE(reading.values, (QStringList{"0.000 \u03a9"_s, "\u2212j50.00 \u03a9"_s}));
-        // 179 degrees and -179 degrees are 2 degrees apart.
-        one.parameters = {{{-1.0, -1.0}, {std::tan(0.01), -std::tan(0.01)}}};
-        QCOMPARE(readOnCartesian(at(1.0), TraceFormat::Phase, at(0.0)).values,
-                 QStringList{"1.1\u00b0"_s});
-    }
-
-    /// A resonance of known Q, as a peak and as a notch, read between coarse points.
-    void readsBandwidths()
-    {
-        constexpr double centre = 2.45e9, quality = 25.0;
-        for (const bool notch : {false, true}) {
-            TraceData data;
-            for (double hertz = 2e9; hertz < 3e9; hertz += 1e6) {
-                // H = 1 / (1 + jQ (f / f0 - f0 / f)), or 1.01 - H.
-                const std::complex<double> peak =
-                    1.0 / std::complex<double>(1.0, quality * (hertz / centre - centre / hertz));
-                const std::complex<double> value = notch ? 1.01 - peak : peak;
-                data.frequencies << hertz;
-                data.parameter.real << value.real();
-                data.parameter.imag << value.imag();
-            }
-            const auto band = bandwidthAt(data, 450.0, notch ? 37.0 : 10.0 * std::log10(2.0));
-            QVERIFY(band && band->notch == notch);
-            QVERIFY(std::abs(band->decibels - (notch ? -40.0 : 0.0)) < 1e-6);
-            QVERIFY(std::abs(band->width() * quality / centre - 1.0) < (notch ? 0.02 : 1e-3));
-            QVERIFY(std::abs(band->centre() / centre - 1.0) < 1e-3);
-            // The flank falls on one side only; the data end.
-            QVERIFY(!bandwidthAt(data, 400.0, 0.5) && !bandwidthAt(data, 450.0, 50.0));
-        }
-        QVERIFY(!bandwidthAt({}, 0.0, 3.0));
-    }
-
-    void searches()
-    {
-        TraceData values;
-        values.parameter.real = {0.1, 0.5, 0.1, 0.11, 0.1, qQNaN(), 0.9, 0.9, 0.1};
-        values.parameter.imag.resize(9);
-        values.frequencies.resize(9);
-        const auto find = [&](Search search, double from) {
-            return searchMarker(values, TraceFormat::Smith, search, from);
-        };
-        QCOMPARE(find(Search::Maximum, 0), 6);
-        QCOMPARE(find(Search::Minimum, 0), 0);
-        QCOMPARE(find(Search::PeakRight, 0), 1);
-        QCOMPARE(find(Search::PeakRight, 1), 6); // not noise of 0.01
-        QCOMPARE(find(Search::PeakLeft, 8), 7);
-        QCOMPARE(find(Search::PeakLeft, 5), 1);
-        QCOMPARE(find(Search::PeakRight, 7), -1);
-        QCOMPARE(searchMarker({}, TraceFormat::Vswr, Search::Maximum, 0), -1);
-        QCOMPARE(searchMarker(values, TraceFormat::LogMagnitude, Search::PeakRight, 0), 1);
     }
 
     void formatsAndMemory()

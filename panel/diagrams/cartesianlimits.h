@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "verdict.h"
+
+#include <panel/model/traces.h>
+
+#include <plot/qcp.h>
+
+#include <map>
+
+namespace Panel
+{
+
+/// The limits of the traces of a Cartesian diagram: their lines, the points that fail, and the
+/// verdict over all traces.
+class CartesianLimits
+{
+public:
+    explicit CartesianLimits(QCustomPlot *plot);
+
+    Verdict *verdict() const { return m_verdict; }
+    /// Tests a trace, and draws its limits against its values in a diagram of so many columns.
+    /// Without limits, or hidden, it has neither lines nor a part in the verdict.
+    void show(const Trace &trace, const TraceData &data, QCPAxis *values, int columns);
+    /// To be called when the graphs of the plot are gone.
+    void forget();
+    void recolor();
+    void showVerdict();
+
+private:
+    /// What there is of a trace; graphs of the plot.
+    struct Drawn {
+        QCPGraph *lines = nullptr;
+        QCPGraph *failures = nullptr;
+        LimitVerdict verdict;
+        double firstFailure = 0.0; ///< in Hz
+    };
+
+    void remove(int traceId);
+    void setLook(const Drawn &drawn) const;
+
+    QCustomPlot *m_plot;
+    Verdict *m_verdict;
+    std::map<int, Drawn> m_drawn; ///< by trace
+};
+
+} // namespace Panel

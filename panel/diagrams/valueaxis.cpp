@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "valueaxis.h"
+
+#include <panel/ground/numbertext.h>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// Numbers with true minus signs.
+class Ticker : public QCPAxisTickerFixed
+{
+protected:
+    QString getTickLabel(double tick, const QLocale &locale, QChar format, int precision) override
+    {
+        return withMinusSigns(QCPAxisTickerFixed::getTickLabel(tick, locale, format, precision));
+    }
+};
+
+} // namespace
+
+ValueAxis::ValueAxis(QCustomPlot *plot)
+    : m_axis(plot->yAxis)
+    , m_ticker(new Ticker)
+{
+    m_axis->setTickLabelPadding(8);
+    m_axis->grid()->setZeroLinePen(Qt::NoPen);
+    m_axis->setNumberFormat(QStringLiteral("gb"));
+    m_axis->setNumberPrecision(4);
+    m_axis->setTicker(m_ticker);
+}
+
+void ValueAxis::write(const Trace &trace, int height)
+{
+    m_ticker->setTickOrigin(trace.scale.top);
+    const double division = height / double(traits(trace.format).divisions);
+    const double needed = QFontMetricsF(m_axis->tickLabelFont()).height() / division;
+    const int step = needed <= 1.0 ? 1 : needed <= 2.0 ? 2 : 5;
+    m_ticker->setTickStep(step * trace.scale.perDivision);
+    m_axis->setRange(bottom(trace.format, trace.scale), trace.scale.top);
+}
+
+} // namespace Panel

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <panel/model/traces.h>
+
+#include <plot/qcp.h>
+
+namespace Panel
+{
+
+/// The axis beside a Cartesian diagram: a line and a number at each division of a scale, or at every
+/// second or fifth where they have no room.
+class ValueAxis
+{
+public:
+    /// Sets up the y axis of the plot.
+    explicit ValueAxis(QCustomPlot *plot);
+
+    /// Writes the scale of a trace beside an axis rectangle of so many pixels.
+    void write(const Trace &trace, int height);
+
+private:
+    QCPAxis *m_axis;
+    QSharedPointer<QCPAxisTickerFixed> m_ticker;
+};
+
+} // namespace Panel

@@ -1,0 +1,277 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "limitsheet.h"
+
+#include "numerickeys.h"
+
+#include <panel/ground/numbertext.h>
+#include <panel/model/cartesian.h>
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScroller>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace Panel
+{
+
+namespace
+{
+
+constexpr int s_keyHeight = 44;
+constexpr int s_margin = 12;
+constexpr int s_width = 760;
+constexpr int s_keysWidth = 280; ///< of the soft keys, which stay in sight
+/// The height is a share of the host's, in pixels at least and at most.
+constexpr double s_share = 0.4;
+constexpr int s_lowest = 200;
+constexpr int s_highest = 360;
+
+/// The fields of a row.
+enum Column {
+    Side,
+    Start,
+    StartValue,
+    Stop,
+    StopValue,
+    Remove,
+};
+
+} // namespace
+
+LimitSheet::LimitSheet(PanelModel *model, int traceId, NumericKeys *numbers, QWidget *host)
+    : QFrame(host)
+    , m_model(model)
+    , m_trace(traceId)
+    , m_numbers(numbers)
+    , m_format(model->trace(traceId)->format)
+    , m_rows(new QWidget)
+    , m_grid(new QGridLayout(m_rows))
+    , m_hint(new QLabel(tr("A limit line is what the trace must stay below, or above.")))
+    , m_add(new QPushButton(tr("Add a line")))
+    , m_clear(new QPushButton(tr("Remove all")))
+{
+    setObjectName(QStringLiteral("sheet"));
+    setAccessibleName(title());
+    auto *name = new QLabel(title());
+    auto *close = new QToolButton;
+    close->setObjectName(QStringLiteral("closeSheet"));
+    close->setText(QStringLiteral("\u00d7"));
+    close->setAccessibleName(tr("Close"));
+    close->setFixedSize(s_keyHeight, s_keyHeight);
+    connect(close, &QToolButton::clicked, this, &LimitSheet::leave);
+    auto *head = new QHBoxLayout;
+    head->addWidget(name, 1);
+    for (QPushButton *key : {m_clear, m_add}) {
+        key->setAutoDefault(false);
+        key->setMinimumHeight(s_keyHeight);
+        head->addWidget(key);
+    }
+    head->addWidget(close);
+
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setSpacing(6);
+    for (const int column : {Start, StartValue, Stop, StopValue})
+        m_grid->setColumnStretch(column, 1);
+    auto *area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(m_rows);
+    area->viewport()->setAutoFillBackground(false);
+    m_rows->setAutoFillBackground(false);
+    QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
+    m_hint->setObjectName(QStringLiteral("dim"));
+    m_hint->setWordWrap(true);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(s_margin, s_margin, s_margin, s_margin);
+    column->addLayout(head);
+    column->addWidget(m_hint);
+    column->addWidget(area, 1);
+
+    connect(m_add, &QPushButton::clicked, this, &LimitSheet::addLine);
+    connect(m_clear, &QPushButton::clicked, this, [this] { setLines({}); });
+    for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::activeTraceChanged})
+        connect(m_model, signal, this, &LimitSheet::followTrace);
+    connect(m_model, &PanelModel::limitsChanged, this, &LimitSheet::followTrace);
+    rebuild();
+    host->installEventFilter(this);
+    place();
+    show();
+    raise();
+    m_add->setFocus();
+}
+
+QString LimitSheet::title() const
+{
+    return tr("Limit lines of Tr%1 %2, %3")
+        .arg(QString::number(m_trace), PanelModel::parameterName(*m_model->trace(m_trace)),
+             formatName(m_format));
+}
+
+/// As wide as its host allows beside the soft keys, over the lower part.
+void LimitSheet::place()
+{
+    const QSize host = parentWidget()->size();
+    const QSize size(qMin(s_width, host.width() - s_keysWidth),
+                     qBound(s_lowest, int(host.height() * s_share), s_highest));
+    setGeometry(QRect(QPoint(0, host.height() - size.height()), size));
+}
+
+bool LimitSheet::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::Resize)
+        place();
+    return QFrame::eventFilter(watched, event);
+}
+
+void LimitSheet::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        leave();
+    else
+        QFrame::keyPressEvent(event);
+}
+
+void LimitSheet::leave()
+{
+    hide();
+    deleteLater();
+}
+
+void LimitSheet::followTrace()
+{
+    const Trace *trace = m_model->trace(m_trace);
+    const Trace *active = m_model->activeTrace();
+    if (trace && trace->format == m_format && active->id == m_trace)
+        rebuild();
+    else
+        leave();
+}
+
+QVector<LimitLine> LimitSheet::lines() const
+{
+    QVector<LimitLine> result;
+    for (const LimitLine &limit : m_model->trace(m_trace)->limits) {
+        if (limit.format == m_format)
+            result.append(limit);
+    }
+    return result;
+}
+
+/// Those of other formats stay.
+void LimitSheet::setLines(const QVector<LimitLine> &lines)
+{
+    QVector<LimitLine> all;
+    for (const LimitLine &limit : m_model->trace(m_trace)->limits) {
+        if (limit.format != m_format)
+            all.append(limit);
+    }
+    m_model->setLimits(m_trace, all + lines);
+}
+
+/// A new line goes on where the last one ends, or over all that is on show.
+void LimitSheet::addLine()
+{
+    const Trace &trace = *m_model->trace(m_trace);
+    const QVector<LimitLine> before = lines();
+    const Stimulus shown = m_model->shownRange(trace);
+    LimitLine added{m_format, true, shown.start, shown.stop, 0.0, 0.0};
+    added.startValue = added.stopValue = trace.scale.top - 2.0 * trace.scale.perDivision;
+    if (!before.isEmpty()) {
+        added.upper = before.constLast().upper;
+        added.startValue = added.stopValue = before.constLast().stopValue;
+        if (before.constLast().stop < shown.stop)
+            added.start = qMax(before.constLast().stop, shown.start);
+    }
+    setLines(before + QVector<LimitLine>{added});
+}
+
+template<typename Change>
+void LimitSheet::change(int row, Change apply)
+{
+    QVector<LimitLine> changed = lines();
+    if (row >= changed.size())
+        return;
+    apply(changed[row]);
+    // Ends that pass each other change places.
+    LimitLine &line = changed[row];
+    if (line.start > line.stop) {
+        std::swap(line.start, line.stop);
+        std::swap(line.startValue, line.stopValue);
+    }
+    setLines(changed);
+}
+
+QPushButton *LimitSheet::addKey(const QString &text, const QString &name, int row, int column)
+{
+    auto *key = new QPushButton(text);
+    key->setAccessibleName(QStringLiteral("%1 %2").arg(name).arg(row + 1));
+    key->setAutoDefault(false);
+    key->setMinimumHeight(s_keyHeight);
+    m_grid->addWidget(key, row, column);
+    return key;
+}
+
+void LimitSheet::addRow(int row, const LimitLine &limit)
+{
+    const auto addNumber = [&](Column column, const QString &name, double LimitLine::*number) {
+        const bool isFrequency = column == Start || column == Stop;
+        QPushButton *key = addKey(isFrequency ? frequencyText(limit.*number)
+                                              : cartesianText(limit.*number, m_format),
+                                  name, row, column);
+        connect(key, &QPushButton::clicked, this, [=] {
+            const auto apply = [this, row, number](double value) {
+                change(row, [=](LimitLine &line) { line.*number = value; });
+            };
+            if (isFrequency)
+                m_numbers->editFrequency(m_rows, name, lines().at(row).*number, apply);
+            else
+                m_numbers->editValue(m_rows, name, m_format, lines().at(row).*number, apply);
+        });
+    };
+    QPushButton *side = addKey(limit.upper ? tr("below") : tr("above"), tr("Side"), row, Side);
+    connect(side, &QPushButton::clicked, this,
+            [=] { change(row, [](LimitLine &line) { line.upper = !line.upper; }); });
+    addNumber(Start, tr("Start"), &LimitLine::start);
+    addNumber(StartValue, tr("Value at start"), &LimitLine::startValue);
+    addNumber(Stop, tr("Stop"), &LimitLine::stop);
+    addNumber(StopValue, tr("Value at stop"), &LimitLine::stopValue);
+    QPushButton *remove = addKey(QStringLiteral("\u00d7"), tr("Remove"), row, Remove);
+    remove->setFixedWidth(s_keyHeight);
+    connect(remove, &QPushButton::clicked, this, [=] {
+        QVector<LimitLine> left = lines();
+        left.remove(row);
+        setLines(left);
+    });
+}
+
+/// Rows as there are lines; the focus stays in its field.
+void LimitSheet::rebuild()
+{
+    const int focused = m_grid->indexOf(focusWidget());
+    while (QLayoutItem *item = m_grid->takeAt(0)) {
+        if (item->widget()) {
+            item->widget()->hide();
+            item->widget()->deleteLater(); // one of them may be in the middle of its click
+        }
+        delete item;
+    }
+    const QVector<LimitLine> all = lines();
+    for (int row = 0; row < all.size(); ++row)
+        addRow(row, all.at(row));
+    m_grid->setRowStretch(LimitLine::perTrace, 1);
+    m_hint->setVisible(all.isEmpty());
+    m_clear->setEnabled(!all.isEmpty());
+    m_add->setEnabled(m_model->trace(m_trace)->limits.size() < LimitLine::perTrace);
+    QLayoutItem *item = focused < 0 ? nullptr : m_grid->itemAt(focused);
+    if (item && item->widget())
+        item->widget()->setFocus();
+}
+
+} // namespace Panel

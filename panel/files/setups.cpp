@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "setups.h"
+
+#include "filecontroller.h"
+#include "panelstate.h"
+#include "viewstate.h"
+
+#include <panel/ground/languages.h>
+#include <panel/model/panelmodel.h>
+
+#include <QCollator>
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace Panel
+{
+
+namespace
+{
+
+const QString s_suffix = QStringLiteral(".json");
+
+/// The name without what no file can be called on any system.
+QString fileName(const QString &name)
+{
+    QString result;
+    for (const QChar letter : name.simplified().left(Setups::longestName)) {
+        if (letter.isPrint() && !QStringLiteral("/\\:*?\"<>|").contains(letter))
+            result += letter;
+    }
+    while (result.startsWith(QLatin1Char('.')))
+        result.remove(0, 1);
+    return result.trimmed();
+}
+
+} // namespace
+
+QString Setups::defaultFolder()
+{
+    return QFileInfo(PanelState::defaultPath()).absolutePath() + QStringLiteral("/setups");
+}
+
+Setups::Setups(PanelModel *model, FileController *files, const QString &folder, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_files(files)
+    , m_folder(folder)
+{
+}
+
+QString Setups::path(const QString &name) const
+{
+    return QDir(m_folder).filePath(fileName(name) + s_suffix);
+}
+
+QStringList Setups::names() const
+{
+    QStringList names;
+    const QStringList files =
+        QDir(m_folder).entryList({QLatin1Char('*') + s_suffix}, QDir::Files | QDir::Readable);
+    for (const QString &file : files)
+        names << file.chopped(s_suffix.size());
+    // That of the system may be the plain one, which knows no numbers.
+    QCollator order{QLocale(currentLanguage())};
+    order.setNumericMode(true);
+    std::sort(names.begin(), names.end(), order);
+    return names;
+}
+
+QString Setups::freeName() const
+{
+    for (int number = 1;; ++number) {
+        const QString name = tr("Set-up %1").arg(number);
+        if (!exists(name))
+            return name;
+    }
+}
+
+bool Setups::exists(const QString &name) const
+{
+    return QFileInfo::exists(path(name));
+}
+
+QString Setups::save(const QString &name)
+{
+    if (fileName(name).isEmpty())
+        return tr("A set-up needs a name.");
+    if (!PanelState::save(*m_model, path(name)))
+        return tr("The set-up cannot be written to %1.").arg(QDir::toNativeSeparators(m_folder));
+    Q_EMIT told(tr("Saved the set-up %1").arg(fileName(name)));
+    return QString();
+}
+
+bool Setups::remove(const QString &name)
+{
+    if (QFile::remove(path(name)))
+        return true;
+    Q_EMIT failed(tr("The set-up %1 cannot be removed.").arg(name));
+    return false;
+}
+
+void Setups::recall(const QString &name)
+{
+    if (!exists(name)) {
+        Q_EMIT failed(tr("There is no set-up %1.").arg(name));
+        return;
+    }
+    const PanelState state(path(name));
+    if (state.fault() != PanelState::NoFault) {
+        Q_EMIT failed(state.fault() == PanelState::OtherVersion
+                          ? tr("The set-up %1 is of another version and not used.").arg(name)
+                          : tr("The set-up %1 is damaged and not used.").arg(name));
+        return;
+    }
+    const auto restore = [this, state, name] {
+        state.restore(m_model);
+        Q_EMIT told(tr("Recalled %1").arg(name));
+    };
+    QStringList shown;
+    for (const Network &network : m_model->files())
+        shown << network.path;
+    if (state.files().isEmpty() || state.files() == shown) {
+        restore();
+        return;
+    }
+    for (const QString &file : state.files()) {
+        if (!QFileInfo(file).isReadable()) {
+            Q_EMIT failed(
+                tr("%1 needs %2, which cannot be read.").arg(name, QDir::toNativeSeparators(file)));
+            return;
+        }
+    }
+    // The first networks that come are those of the set-up, or of whatever else is opened first.
+    auto *once = new QObject(this);
+    connect(m_model, &PanelModel::networksChanged, once, [this, once, restore, state] {
+        once->deleteLater();
+        QStringList opened;
+        for (const Network &network : m_model->files())
+            opened << network.path;
+        if (opened == state.files())
+            QMetaObject::invokeMethod(this, restore, Qt::QueuedConnection);
+    });
+    m_files->loadFiles(state.files());
+}
+
+void Setups::preset()
+{
+    // As a panel shows them that has just opened them, so that it can be undone like any change.
+    PanelModel fresh;
+    fresh.openNetworks(m_model->networks());
+    restoreViewState(m_model, viewState(fresh));
+}
+
+} // namespace Panel

@@ -1,0 +1,361 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "viewstate.h"
+
+#include <panel/model/panelmodel.h>
+
+#include <QJsonArray>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace Panel
+{
+
+namespace
+{
+
+/// A setting that is a number of a list.
+struct Choice {
+    const char *key;
+    int count;
+};
+
+constexpr Choice s_choices[] = {
+    {"layout", 4},
+    {"grid", 3},
+    {"density", gridDensityCount},
+    {"readout", readoutFormatCount},
+};
+
+bool isTrace(const QJsonObject &trace)
+{
+    for (const QJsonValue value : trace["markers"_key].toArray()) {
+        const QJsonObject marker = value.toObject();
+        if (!isChoice(marker["number"_key], Markers::perTrace + 1)
+            || !marker["hertz"_key].isDouble() || !isChoice(marker["repeat"_key], 1 << 30))
+            return false;
+    }
+    return isChoice(trace["to"_key], 1000) && isChoice(trace["from"_key], 1000)
+        && isChoice(trace["format"_key], traceFormatCount) && trace["scale"_key].isDouble()
+        && trace["top"_key].isDouble() && trace["visible"_key].isBool()
+        && isChoice(trace["reference"_key], Markers::perTrace + 1)
+        && isChoice(trace["id"_key].toInt(), Trace::most + 1);
+}
+
+/// What tells a network apart: its file, or what was simulated.
+QString identity(const Network &network)
+{
+    return network.path.isEmpty() ? network.name : network.path;
+}
+
+QJsonObject written(const PanelModel &model, const Trace &trace)
+{
+    QJsonArray markers;
+    for (const Marker &marker : model.markersOf(trace.id))
+        markers.append(QJsonObject{{"number"_key, marker.number},
+                                   {"hertz"_key, marker.place.hertz},
+                                   {"repeat"_key, marker.place.repeat},
+                                   {"selected"_key, model.isSelected(marker)}});
+    QJsonArray limits;
+    for (const LimitLine &limit : trace.limits)
+        limits.append(QJsonObject{{"format"_key, int(limit.format)},
+                                  {"upper"_key, limit.upper},
+                                  {"start"_key, limit.start},
+                                  {"stop"_key, limit.stop},
+                                  {"startValue"_key, limit.startValue},
+                                  {"stopValue"_key, limit.stopValue}});
+    const Marker *reference = model.referenceMarker(trace.id);
+    const Trace *active = model.activeTrace();
+    return {{"id"_key, trace.id},
+            {"to"_key, trace.to},
+            {"from"_key, trace.from},
+            {"format"_key, int(trace.format)},
+            {"scale"_key, trace.scale.perDivision},
+            {"top"_key, trace.scale.top},
+            {"visible"_key, trace.visible},
+            {"active"_key, active && active->id == trace.id},
+            {"reference"_key, reference ? reference->number : 0},
+            {"smoothing"_key, trace.smoothing},
+            {"limits"_key, limits},
+            {"markers"_key, markers}};
+}
+
+QJsonArray writtenDelays(const Correction &correction)
+{
+    QJsonArray delays;
+    for (const double delay : correction.delays)
+        delays.append(delay);
+    return delays;
+}
+
+/// What cannot be is left out.
+Correction restoredCorrection(const QJsonObject &network)
+{
+    Correction correction;
+    int port = 0;
+    for (const QJsonValue delay : network["delays"_key].toArray())
+        correction.setDelay(++port, delay.toDouble());
+    const double ohms = network["referenceOhms"_key].toDouble();
+    if (ohms >= Correction::smallestReference && ohms <= Correction::largestReference)
+        correction.referenceOhms = ohms;
+    return correction;
+}
+
+QJsonArray writtenNetworks(const PanelModel &model)
+{
+    QJsonArray networks;
+    for (int i = 0; i < model.networks().size(); ++i) {
+        QJsonArray traces;
+        Stimulus shown;
+        Correction correction;
+        for (const Trace &trace : model.traces()) {
+            if (trace.network != i)
+                continue;
+            shown = model.stimulus(trace);
+            correction = model.correction(trace);
+            traces.append(written(model, trace));
+        }
+        networks.append(QJsonObject{{"identity"_key, identity(model.networks().at(i))},
+                                    {"start"_key, shown.start},
+                                    {"stop"_key, shown.stop},
+                                    {"delays"_key, writtenDelays(correction)},
+                                    {"referenceOhms"_key, correction.referenceOhms},
+                                    {"traces"_key, traces}});
+    }
+    return networks;
+}
+
+QJsonArray writtenZooms(const PanelModel &model)
+{
+    QJsonArray zooms;
+    for (const auto &[id, zoom] : model.zooms())
+        zooms.append(QJsonObject{{"smith"_key, id.smith},
+                                 {"place"_key, id.place},
+                                 {"factor"_key, zoom.factor},
+                                 {"x"_key, zoom.x},
+                                 {"y"_key, zoom.y}});
+    return zooms;
+}
+
+/// What cannot be is left out.
+QVector<LimitLine> restoredLimits(const QJsonArray &saved)
+{
+    QVector<LimitLine> limits;
+    for (const QJsonValue value : saved) {
+        const QJsonObject limit = value.toObject();
+        if (isChoice(limit["format"_key], traceFormatCount))
+            limits.append({TraceFormat(limit["format"_key].toInt()), limit["upper"_key].toBool(),
+                           limit["start"_key].toDouble(), limit["stop"_key].toDouble(),
+                           limit["startValue"_key].toDouble(), limit["stopValue"_key].toDouble()});
+    }
+    return limits;
+}
+
+bool holdsMarker(const QJsonObject &trace, int number)
+{
+    const QJsonArray markers = trace["markers"_key].toArray();
+    return std::any_of(markers.begin(), markers.end(), [number](const QJsonValue &marker) {
+        return marker.toObject()["number"_key].toInt() == number;
+    });
+}
+
+void restoreTrace(PanelModel *model, int id, const QJsonObject &saved)
+{
+    model->setTraceParameter(id, saved["to"_key].toInt(), saved["from"_key].toInt());
+    model->setTraceFormat(id, TraceFormat(saved["format"_key].toInt()));
+    model->setTraceScale(id, {saved["scale"_key].toDouble(), saved["top"_key].toDouble()});
+    model->setSmoothing(id, saved["smoothing"_key].toDouble());
+    model->setTraceVisible(id, saved["visible"_key].toBool());
+    for (const QJsonValue value : saved["markers"_key].toArray()) {
+        const QJsonObject marker = value.toObject();
+        model->restoreMarker(id, marker["number"_key].toInt(),
+                             {marker["hertz"_key].toDouble(), marker["repeat"_key].toInt()});
+    }
+    const QVector<Marker> markers = model->markersOf(id);
+    for (const Marker &marker : markers) {
+        if (!holdsMarker(saved, marker.number))
+            model->removeMarker(id, marker.number);
+    }
+    model->setLimits(id, restoredLimits(saved["limits"_key].toArray()));
+    model->setReferenceMarker(id, saved["reference"_key].toInt());
+}
+
+/// Makes active and selected what was; true if a marker was.
+bool restoreChoices(PanelModel *model, int id, const QJsonObject &saved)
+{
+    if (saved["active"_key].toBool())
+        model->setActiveTrace(id);
+    for (const QJsonValue value : saved["markers"_key].toArray()) {
+        if (value.toObject()["selected"_key].toBool()) {
+            model->selectMarker(id, value.toObject()["number"_key].toInt());
+            return true;
+        }
+    }
+    return false;
+}
+
+/// A trace by its id and what was saved of it.
+using SavedTrace = std::pair<int, QJsonObject>;
+
+QVector<int> idsOfNetwork(const PanelModel &model, int network)
+{
+    QVector<int> ids;
+    for (const Trace &trace : model.traces()) {
+        if (trace.network == network)
+            ids.append(trace.id);
+    }
+    return ids;
+}
+
+/// Gives a network the traces that were saved of it, those with their ids where they have one.
+QVector<SavedTrace> restoreTraces(PanelModel *model, int network, const QJsonObject &saved)
+{
+    const QJsonArray traces = saved["traces"_key].toArray();
+    QVector<int> present = idsOfNetwork(*model, network);
+    if (present.isEmpty() || traces.isEmpty())
+        return {};
+    const Trace first = *model->trace(present.constFirst());
+    model->setStimulus(first, {saved["start"_key].toDouble(), saved["stop"_key].toDouble()});
+    model->setCorrection(first, restoredCorrection(saved));
+    QVector<SavedTrace> restored;
+    QVector<int> wanted;
+    for (int i = 0; i < traces.size(); ++i) {
+        const QJsonObject trace = traces.at(i).toObject();
+        int id = trace["id"_key].toInt(present.value(i));
+        if (!present.contains(id))
+            id = model->addTrace(present.constFirst(), id);
+        if (id == 0)
+            break;
+        wanted.append(id);
+        restored.append({id, trace});
+    }
+    for (const int id : qAsConst(present)) {
+        if (!wanted.contains(id))
+            model->removeTrace(id);
+    }
+    for (const SavedTrace &trace : qAsConst(restored))
+        restoreTrace(model, trace.first, trace.second);
+    return restored;
+}
+
+/// A diagram that was not saved shows all.
+void restoreZooms(PanelModel *model, const QJsonArray &saved)
+{
+    const std::map<DiagramId, Zoom> before = model->zooms();
+    for (const auto &[id, zoom] : before)
+        model->setZoom(id, Zoom());
+    for (const QJsonValue value : saved) {
+        const QJsonObject zoom = value.toObject();
+        model->setZoom(
+            {zoom["smith"_key].toBool(), zoom["place"_key].toInt()},
+            {zoom["factor"_key].toDouble(), zoom["x"_key].toDouble(), zoom["y"_key].toDouble()});
+    }
+}
+
+} // namespace
+
+void restoreViewSettings(ViewSettings *view, const QJsonObject &state)
+{
+    view->layoutProfile()->setLayoutType(Graph::LayoutType(state["layout"_key].toInt()));
+    view->setGridMode(SmithChartPlot::GridMode(state["grid"_key].toInt()));
+    view->setDensity(GridDensity(state["density"_key].toInt()));
+    if (isChoice(state["gridLabels"_key], gridLabelsCount))
+        view->setGridLabels(GridLabels(state["gridLabels"_key].toInt()));
+    view->setVswrCircle(state["vswrCircle"_key].toDouble());
+    view->setVswrLimit(state["vswrLimit"_key].toDouble());
+    view->setBandwidthDecibels(state["bandwidth"_key].toDouble());
+    view->setReadoutFormat(ReadoutFormat(state["readout"_key].toInt()));
+    view->setOnlyActiveTrace(state["onlyActiveTrace"_key].toBool());
+}
+
+bool isChoice(const QJsonValue &value, int count)
+{
+    const double number = value.toDouble(-1.0);
+    return value.isDouble() && number >= 0.0 && number < count && number == std::floor(number);
+}
+
+bool isViewState(const QJsonObject &state)
+{
+    for (const Choice &choice : s_choices) {
+        if (!isChoice(state[QLatin1String(choice.key)], choice.count))
+            return false;
+    }
+    for (const QLatin1String flag :
+         {"onlyActiveTrace"_key, "markersDiscrete"_key, "markersCoupled"_key}) {
+        if (!state[flag].isBool())
+            return false;
+    }
+    if (!state["networks"_key].isArray())
+        return false;
+    for (const QJsonValue network : state["networks"_key].toArray()) {
+        for (const QJsonValue trace : network.toObject()["traces"_key].toArray()) {
+            if (!isTrace(trace.toObject()))
+                return false;
+        }
+    }
+    return true;
+}
+
+QJsonObject viewState(const PanelModel &model)
+{
+    const ViewSettings *view = model.viewSettings();
+    return {
+        {"layout"_key, int(view->diagramLayout())},
+        {"grid"_key, int(view->gridMode())},
+        {"density"_key, int(view->density())},
+        {"gridLabels"_key, int(view->gridLabels())},
+        {"vswrCircle"_key, view->vswrCircle()},
+        {"vswrLimit"_key, view->vswrLimit()},
+        {"bandwidth"_key, view->bandwidthDecibels()},
+        {"readout"_key, int(view->readoutFormat())},
+        {"onlyActiveTrace"_key, view->onlyActiveTrace()},
+        {"markersDiscrete"_key, model.markersDiscrete()},
+        {"markersCoupled"_key, model.markersCoupled()},
+        {"networks"_key, writtenNetworks(model)},
+        {"zooms"_key, writtenZooms(model)},
+    };
+}
+
+void restoreNetworks(PanelModel *model, const QJsonObject &state)
+{
+    const QJsonArray saved = state["networks"_key].toArray();
+    QVector<bool> used(saved.size(), false);
+    bool same = saved.size() == model->networks().size();
+    QVector<SavedTrace> restored;
+    for (int i = 0; i < model->networks().size(); ++i) {
+        int found = 0;
+        const auto isOurs = [&](int index) {
+            return !used.at(index)
+                && saved.at(index).toObject()["identity"_key].toString()
+                == identity(model->networks().at(i));
+        };
+        while (found < saved.size() && !isOurs(found))
+            ++found;
+        same = same && found == i;
+        if (found == saved.size())
+            continue;
+        used[found] = true;
+        const QJsonObject network = saved.at(found).toObject();
+        restored += restoreTraces(model, i, network);
+    }
+    bool selected = false;
+    for (const auto &[id, trace] : qAsConst(restored))
+        selected = restoreChoices(model, id, trace) || selected;
+    if (!selected && !restored.isEmpty())
+        model->selectMarker(0, 0);
+    if (same)
+        restoreZooms(model, state["zooms"_key].toArray());
+    // After the markers, or the first would bring the others along.
+    model->setMarkersDiscrete(state["markersDiscrete"_key].toBool());
+    model->setMarkersCoupled(state["markersCoupled"_key].toBool());
+}
+
+void restoreViewState(PanelModel *model, const QJsonObject &state)
+{
+    restoreViewSettings(model->viewSettings(), state);
+    restoreNetworks(model, state);
+}
+
+} // namespace Panel

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The markers of the model.
+#include "panelmodel.h"
+
+#include <cmath>
+
+namespace Panel
+{
+
+QVector<Marker> PanelModel::activeMarkers() const
+{
+    const Trace *active = activeTrace();
+    return active ? markersOf(active->id) : QVector<Marker>();
+}
+
+bool PanelModel::isSelected(const Marker &marker) const
+{
+    const Marker *selected = selectedMarker();
+    return selected && selected->trace == marker.trace && selected->number == marker.number;
+}
+
+double PanelModel::indexOf(const Marker &marker) const
+{
+    const double index = indexOfPlace(network(*trace(marker.trace)).frequencies, marker.place);
+    return markersDiscrete() ? std::round(index) : index;
+}
+
+double PanelModel::hertzOf(const Marker &marker) const
+{
+    const double index = indexOf(marker);
+    return index < 0.0 || !markersDiscrete()
+        ? marker.place.hertz
+        : valueAt(network(*trace(marker.trace)).frequencies, index);
+}
+
+bool PanelModel::holdsIndex(int traceId, double index) const
+{
+    const Trace *owner = trace(traceId);
+    return owner && index >= 0.0 && index <= network(*owner).points() - 1;
+}
+
+int PanelModel::addMarker(int traceId, double index)
+{
+    if (!holdsIndex(traceId, index))
+        return 0;
+    const int number = m_markers.freeNumber(traceId);
+    if (number == 0) {
+        Q_EMIT markersExhausted(traceId);
+        return 0;
+    }
+    placeMarker(traceId, number, index);
+    selectMarker(traceId, number);
+    return number;
+}
+
+void PanelModel::restoreMarker(int traceId, int number, const StimulusPlace &place)
+{
+    if (trace(traceId) && number >= 1 && number <= Markers::perTrace && std::isfinite(place.hertz))
+        tell(m_markers.place(traceId, number, place));
+}
+
+void PanelModel::moveMarker(int traceId, int number, double index)
+{
+    if (holdsIndex(traceId, index) && marker(traceId, number))
+        placeMarker(traceId, number, index);
+}
+
+void PanelModel::placeMarker(int traceId, int number, double index)
+{
+    if (markersDiscrete())
+        index = std::round(index);
+    const QVector<double> &frequencies = network(*trace(traceId)).frequencies;
+    tell(m_markers.place(traceId, number, placeAt(frequencies, index)));
+}
+
+/// Emits what became of markers, but for those that a slot has removed meanwhile.
+void PanelModel::tell(const Markers::Changes &changes)
+{
+    for (const MarkerChange &change : changes) {
+        const bool exists = marker(change.trace, change.number);
+        if (change.kind == MarkerChange::Removed)
+            Q_EMIT markerRemoved(change.trace, change.number);
+        else if (exists && change.kind == MarkerChange::Added)
+            Q_EMIT markerAdded(change.trace, change.number);
+        else if (exists)
+            Q_EMIT markerMoved(change.trace, change.number);
+    }
+}
+
+void PanelModel::removeMarker(int traceId, int number)
+{
+    const bool selected = selectedMarker();
+    QVector<int> unreferenced;
+    const Markers::Changes changes = m_markers.remove(traceId, number);
+    for (const MarkerChange &change : changes) {
+        // Asked after the removal, a reference that is gone counts as none.
+        if (!m_markers.reference(change.trace))
+            unreferenced += m_markers.setReference(change.trace, 0);
+    }
+    if (selected && !selectedMarker())
+        m_markers.select(0, 0);
+    tell(changes);
+    for (const int trace : qAsConst(unreferenced))
+        Q_EMIT referenceMarkerChanged(trace);
+    if (selected && !selectedMarker())
+        Q_EMIT selectedMarkerChanged();
+}
+
+void PanelModel::selectMarker(int traceId, int number)
+{
+    if (!m_markers.select(traceId, number))
+        return;
+    const Marker *selected = selectedMarker();
+    if (selected && m_traces.setActive(selected->trace))
+        Q_EMIT activeTraceChanged();
+    Q_EMIT selectedMarkerChanged();
+}
+
+void PanelModel::setReferenceMarker(int traceId, int number)
+{
+    const QVector<int> changed = m_markers.setReference(traceId, number);
+    for (const int trace : changed)
+        Q_EMIT referenceMarkerChanged(trace);
+}
+
+void PanelModel::setMarkersDiscrete(bool discrete)
+{
+    if (m_markers.setDiscrete(discrete))
+        Q_EMIT markerModeChanged();
+}
+
+void PanelModel::setMarkersCoupled(bool coupled)
+{
+    const Trace *active = activeTrace();
+    if (coupled == markersCoupled())
+        return;
+    const Markers::Changes changes = m_markers.setCoupled(coupled, active ? active->id : 0);
+    const QVector<int> referenced =
+        coupled ? m_markers.shareReference(active ? active->id : 0) : QVector<int>();
+    Q_EMIT markerModeChanged();
+    tell(changes);
+    for (const int trace : referenced)
+        Q_EMIT referenceMarkerChanged(trace);
+}
+
+} // namespace Panel

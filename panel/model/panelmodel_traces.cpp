@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The traces of the model, and what they make of their data.
+#include "panelmodel.h"
+
+#include "cartesian.h"
+
+#include <cmath>
+
+namespace Panel
+{
+
+namespace
+{
+
+QVector<int> idsOf(const QVector<Trace> &traces)
+{
+    QVector<int> ids;
+    for (const Trace &trace : traces)
+        ids.append(trace.id);
+    return ids;
+}
+
+/// The points that are averaged of a trace: an odd number, so that the middle one stays.
+int averagedPoints(const Trace &trace, int points)
+{
+    return trace.smoothing > 0.0 ? 2 * int(std::lround(trace.smoothing / 200.0 * points)) + 1 : 0;
+}
+
+/// Smoothed as it is drawn: a line over the frequency has its values averaged, a Smith chart both
+/// parts of the reflection.
+TraceData smoothedAs(const Trace &trace, TraceData data)
+{
+    const int points = averagedPoints(trace, data.points());
+    if (!trace.onSmithChart())
+        data.averagedPoints = points;
+    else if (points > 1)
+        data.parameter = {smoothed(data.parameter.real, points),
+                          smoothed(data.parameter.imag, points)};
+    return data;
+}
+
+} // namespace
+
+TraceData PanelModel::traceData(const Trace &trace) const
+{
+    const TraceData measured = Panel::traceData(network(trace), trace.to, trace.from);
+    if (trace.math == TraceMath::DataAndMemory && trace.smoothing == 0.0)
+        return measured;
+    const std::pair<quint64, quint64> revisions{m_networks.revision(), m_traces.revision()};
+    if (m_processedOf != revisions)
+        m_processed.clear();
+    m_processedOf = revisions;
+    const auto found = m_processed.constFind(trace.id);
+    if (found != m_processed.constEnd())
+        return *found;
+    const TraceData *stored = memory(trace.id);
+    const TraceData result =
+        smoothedAs(trace, stored ? combined(measured, *stored, trace.math) : measured);
+    m_processed.insert(trace.id, result);
+    return result;
+}
+
+std::optional<TraceData> PanelModel::drawnMemory(const Trace &trace) const
+{
+    const TraceData *stored = memory(trace.id);
+    if (!stored || trace.math != TraceMath::DataAndMemory)
+        return {};
+    return smoothedAs(trace, *stored);
+}
+
+const Trace *PanelModel::activeTrace(bool onSmithChart) const
+{
+    QVector<int> among;
+    for (const Trace &trace : traces()) {
+        if (trace.onSmithChart() == onSmithChart)
+            among.append(trace.id);
+    }
+    return activeTrace(among);
+}
+
+QString PanelModel::parameterName(const Trace &trace)
+{
+    return Panel::parameterName(trace.to, trace.from);
+}
+
+int PanelModel::addTrace(int like, int wanted)
+{
+    const int id = m_traces.addLike(like, wanted);
+    if (id == 0)
+        return 0;
+    const Markers::Changes changes = m_markers.setTraces(idsOf(traces()));
+    Q_EMIT tracesChanged();
+    tell(changes);
+    setActiveTrace(id);
+    return id;
+}
+
+void PanelModel::removeTrace(int id)
+{
+    const Trace *active = activeTrace();
+    const bool wasActive = active && active->id == id;
+    const bool selected = selectedMarker();
+    if (!m_traces.remove(id))
+        return;
+    const Markers::Changes changes = m_markers.setTraces(idsOf(traces()));
+    Q_EMIT tracesChanged();
+    tell(changes);
+    if (wasActive)
+        Q_EMIT activeTraceChanged();
+    if (selected && !selectedMarker()) {
+        m_markers.select(0, 0);
+        Q_EMIT selectedMarkerChanged();
+    }
+}
+
+void PanelModel::setLimits(int id, const QVector<LimitLine> &limits)
+{
+    if (m_traces.setLimits(id, limits))
+        Q_EMIT limitsChanged(id);
+}
+
+void PanelModel::setActiveTrace(int id)
+{
+    if (!m_traces.setActive(id))
+        return;
+    const Marker *selected = selectedMarker();
+    const bool reselected = selected && selected->trace != id
+        && m_markers.select(id, markersCoupled() ? selected->number : 0);
+    Q_EMIT activeTraceChanged();
+    if (reselected)
+        Q_EMIT selectedMarkerChanged();
+}
+
+void PanelModel::setTraceVisible(int id, bool visible)
+{
+    if (m_traces.setVisible(id, visible))
+        Q_EMIT traceVisibleChanged(id, visible);
+}
+
+void PanelModel::setTraceFormat(int id, TraceFormat format)
+{
+    if (m_traces.setFormat(id, format, m_networks))
+        Q_EMIT tracesChanged();
+}
+
+void PanelModel::setTraceParameter(int id, int to, int from)
+{
+    const bool stored = memory(id);
+    if (!m_traces.setParameter(id, to, from, m_networks))
+        return;
+    if (stored)
+        Q_EMIT memoryChanged(id);
+    Q_EMIT tracesChanged();
+}
+
+void PanelModel::setTraceScale(int id, const Scale &scale)
+{
+    if (m_traces.setScale(id, scale))
+        Q_EMIT traceScaleChanged(id);
+}
+
+void PanelModel::fitTrace(int id)
+{
+    const Trace *trace = this->trace(id);
+    if (!trace || trace->onSmithChart())
+        return;
+    const ValueRange range = valueRange(traceData(*trace), trace->format);
+    setTraceScale(id, fittingScale(trace->format, range.lowest, range.highest));
+}
+
+void PanelModel::storeMemory(int id)
+{
+    const Trace *trace = this->trace(id);
+    if (trace
+        && m_traces.storeMemory(id, Panel::traceData(network(*trace), trace->to, trace->from)))
+        Q_EMIT memoryChanged(id);
+}
+
+void PanelModel::clearMemory(int id)
+{
+    const bool calculated = trace(id) && trace(id)->math != TraceMath::DataAndMemory;
+    if (!m_traces.clearMemory(id))
+        return;
+    Q_EMIT memoryChanged(id);
+    if (calculated)
+        Q_EMIT tracesChanged();
+}
+
+void PanelModel::setTraceMath(int id, TraceMath math)
+{
+    if (!m_traces.setMath(id, math))
+        return;
+    if (math == TraceMath::Divided || math == TraceMath::Subtracted)
+        fitTrace(id); // the result is nowhere near the data
+    Q_EMIT tracesChanged();
+}
+
+void PanelModel::setSmoothing(int id, double percent)
+{
+    if (m_traces.setSmoothing(id, percent))
+        Q_EMIT tracesChanged();
+}
+
+} // namespace Panel

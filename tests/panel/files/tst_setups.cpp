@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desk.h"
+
+#include <panel/files/history.h>
+#include <panel/files/setups.h>
+#include <panel/files/viewstate.h>
+#include <panel/model/limitline.h>
+
+#include <QTemporaryDir>
+
+using namespace Panel;
+using namespace VnaTest;
+
+namespace
+{
+
+/// A model with a two-port of 101 points, and what takes its changes back.
+struct Scene {
+    PanelModel model;
+
+    Scene()
+    {
+        Network network;
+        network.ports = 2;
+        network.name = "filter.s2p"_s;
+        for (int i = 0; i < 101; ++i)
+            network.frequencies << 2e9 + 1e6 * i;
+        network.parameters.fill({QVector<double>(101, 0.5), QVector<double>(101, 0.0)}, 4);
+        model.openNetworks({network});
+    }
+};
+
+LimitLine limit(double value, double start = 0.0, double stop = 1e12)
+{
+    return {TraceFormat::LogMagnitude, true, start, stop, value, value};
+}
+
+} // namespace
+
+class SetupsTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { setUpApplication(); }
+
+    void undoesStepByStep()
+    {
+        Scene scene;
+        PanelModel &model = scene.model;
+        History history(&model);
+        QVERIFY(!history.canUndo());
+        QVector<QJsonObject> states{viewState(model)};
+        const auto settle = [&] {
+            QVERIFY(history.canUndo());
+            QTest::qWait(History::pause + 50);
+            states << viewState(model);
+        };
+        model.addMarker(3, 20.0);
+        model.setMarkersCoupled(true);
+        settle();
+        const int added = model.addTrace(3);
+        model.setTraceFormat(added, TraceFormat::Phase);
+        model.setLimits(3, {limit(-3.0)});
+        model.viewSettings()->setVswrLimit(2.0);
+        settle();
+        model.removeTrace(2);
+        model.removeMarker(3, 1);
+        Correction correction;
+        correction.setDelay(2, 1e-10);
+        model.setCorrection(*model.trace(1), correction);
+        settle();
+        // A drag is one step, and undone while it still goes on.
+        for (int i = 0; i < 5; ++i)
+            model.setZoom({true, 0}, {2.0 + i, 0.1, 0.1});
+        for (int step = 3; step >= 0; --step) {
+            QVERIFY(history.canUndo());
+            history.undo();
+            QCOMPARE(viewState(model), states.at(step));
+        }
+        QVERIFY(!history.canUndo());
+        history.undo();
+        QCOMPARE(viewState(model), states.first());
+        for (int step = 1; step <= 3; ++step) {
+            history.redo();
+            QCOMPARE(viewState(model), states.at(step));
+        }
+        history.redo();
+        QCOMPARE(model.zoom({true, 0}).factor, 6.0);
+        // After another change there is nothing to do again.
+        history.undo();
+        model.selectMarker(0, 0);
+        model.setActiveTrace(1);
+        QTest::qWait(History::pause + 50);
+        QVERIFY(!history.canRedo());
+        // New networks begin a new history.
+        model.openNetworks(QVector<Network>(model.networks()));
+        QTest::qWait(History::pause + 50);
+        QVERIFY(!history.canUndo());
+    }
+
+    void keepsUnderNames()
+    {
+        const QTemporaryDir folder;
+        PanelDesk desk;
+        Setups setups(&desk.model, desk.controller.fileController(), folder.filePath("sets"_s));
+        const QString failure = setups.save(" .. "_s);
+        QVERIFY(!failure.isEmpty());
+        QVERIFY(setups.names().isEmpty());
+
+        QFile::copy(sampleFolder() + "/amplifier.s2p"_s, folder.filePath("a.s2p"_s));
+        desk.open({folder.filePath("a.s2p"_s)});
+        desk.model.setTraceFormat(3, TraceFormat::GroupDelay);
+        desk.model.addMarker(3, 7.0);
+        QCOMPARE(setups.save("10 gain/delay"_s), QString());
+        QCOMPARE(setups.save("9 other"_s), QString());
+        QCOMPARE(setups.names(), (QStringList{"9 other"_s, "10 gaindelay"_s}));
+        const QJsonObject kept = viewState(desk.model);
+
+        // Its files are opened again, and all is as it was.
+        desk.open({startSample()});
+        QSignalSpy told(&setups, &Setups::told), failed(&setups, &Setups::failed);
+        setups.recall("10 gaindelay"_s);
+        QTRY_COMPARE(told.size(), 1);
+        QCOMPARE(viewState(desk.model), kept);
+        // The default view of the same files can be gone back from by recalling.
+        setups.preset();
+        QVERIFY(desk.model.markers().isEmpty());
+        QVERIFY(desk.model.trace(3)->format == TraceFormat::LogMagnitude);
+        setups.recall("10 gaindelay"_s);
+        QCOMPARE(viewState(desk.model), kept);
+
+        // What cannot be used changes nothing.
+        const auto refuses = [&](const QString &name) {
+            const QJsonObject before = viewState(desk.model);
+            failed.clear();
+            setups.recall(name);
+            PanelDesk::settle();
+            return failed.size() == 1 && viewState(desk.model) == before;
+        };
+        desk.open({startSample()});
+        QFile::remove(folder.filePath("a.s2p"_s));
+        QVERIFY(refuses("10 gaindelay"_s));
+        QVERIFY(refuses("nobody"_s));
+        QFile file(folder.filePath("sets/9 other.json"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write("{\"version\": 1}");
+        file.close();
+        QVERIFY(refuses("9 other"_s));
+        QVERIFY(setups.remove("9 other"_s));
+        QVERIFY(!setups.remove("9 other"_s));
+    }
+
+    void addsAndRemovesTraces()
+    {
+        Scene scene;
+        PanelModel &model = scene.model;
+        model.addMarker(3, 20.0);
+        model.setReferenceMarker(3, 1);
+        const int added = model.addTrace(3);
+        QCOMPARE(added, 5);
+        QCOMPARE(model.activeTrace()->id, added);
+        QVERIFY(model.markersOf(added).isEmpty());
+        model.setMarkersCoupled(true);
+        QCOMPARE(model.markersOf(added).size(), 1);
+        model.removeTrace(3);
+        QVERIFY(!model.trace(3));
+        QVERIFY(!model.selectedMarker() || model.trace(model.selectedMarker()->trace));
+        QCOMPARE(model.addTrace(added), 3); // the lowest number that is free
+        QCOMPARE(model.markersOf(3).size(), 1);
+        for (const int id : {1, 2, 3, 4, 5})
+            model.removeTrace(id);
+        QCOMPARE(model.traces().size(), 1);
+        while (model.addTrace(model.activeTrace()->id) > 0) { }
+        QCOMPARE(model.traces().size(), Trace::most);
+    }
+
+    void testsAgainstLines()
+    {
+        Scene scene;
+        TraceData data = scene.model.traceData(*scene.model.trace(3)); // -6.02 dB
+        const auto test = [&](const QVector<LimitLine> &limits) {
+            return testLimits(data, TraceFormat::LogMagnitude, limits);
+        };
+        QVERIFY(test({limit(-6.0)}).passed());
+        QCOMPARE(test({limit(-6.0)}).tested, 101);
+        QCOMPARE(test({limit(-7.0, 2.01e9, 2.02e9)}).failing.size(), 11);
+        QCOMPARE(test({limit(-7.0, 2.01e9, 2.02e9), limit(-7.0, 2.015e9, 2.021e9)}).failing.size(),
+                 12);
+        LimitLine above = limit(-7.0);
+        above.upper = false;
+        QVERIFY(test({above}).passed());
+        // A slope from -10 to 0 dB is passed at 40 % of its way.
+        LimitLine slope = limit(-10.0, 2e9, 2.1e9);
+        slope.stopValue = 0.0;
+        QCOMPARE(test({slope}).failing.constLast(), 39);
+        // Lines of another format are not held, and points without a value not tested.
+        slope.format = TraceFormat::Vswr;
+        QCOMPARE(test({slope}).tested, 0);
+        data.parameter.real[0] = qQNaN();
+        QCOMPARE(test({limit(-7.0)}).tested, 100);
+        // What is no line is refused.
+        for (const LimitLine &bad : {limit(qQNaN()), limit(0.0, 2.0, 1.0), limit(0.0, -1.0),
+                                     LimitLine{TraceFormat::Smith, true, 0.0, 1.0, 0.0, 0.0}})
+            QVERIFY(!bad.isValid());
+        scene.model.setLimits(3, {limit(qInf())});
+        QVERIFY(scene.model.trace(3)->limits.isEmpty());
+    }
+};
+
+QTEST_MAIN(SetupsTest)
+#include "tst_setups.moc"
