@@ -5,6 +5,7 @@
 #include <controls/combobox.h>
 #include <controls/draggableframelessdialog.h>
 #include <controls/editablewidget.h>
+#include <controls/numericfield.h>
 #include <controls/overlaycontainer.h>
 #include <controls/touchnumkeyboard.h>
 #include <platform/roundlabel.h>
@@ -18,9 +19,6 @@
 #include <widgets/popupwidget.h>
 #include <widgets/rectangularbottomwidget.h>
 #include <widgets/switchbutton.h>
-
-#include <QStyleOptionButton>
-#include <QStylePainter>
 
 namespace Designer
 {
@@ -37,32 +35,6 @@ constexpr QSize s_line(150, 44);
 constexpr char s_name[] = "<property name=\"text\"><string>Name</string></property>";
 constexpr char s_nameAndValue[] = "<property name=\"text\"><string>Name</string></property>"
                                   "<property name=\"labelText\"><string>Value</string></property>";
-
-/// The name of these buttons stands on a label, which their setText() fills. A property sheet knows
-/// only the text of QAbstractButton, so here that is what the label shows, and it is not drawn a
-/// second time.
-template<typename Button>
-class Named : public Button
-{
-public:
-    using Button::Button;
-
-protected:
-    bool event(QEvent *event) override
-    {
-        if (Button::text() != QAbstractButton::text())
-            Button::setText(QAbstractButton::text());
-        return Button::event(event);
-    }
-
-    void paintEvent(QPaintEvent *) override
-    {
-        QStyleOptionButton option;
-        option.initFrom(this);
-        option.state |= this->isDown() ? QStyle::State_Sunken : QStyle::State_Raised;
-        QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
-    }
-};
 
 template<typename Widget>
 QWidget *create(QWidget *parent)
@@ -97,25 +69,29 @@ QVector<WidgetEntry> widgetTable()
          create<AbstractButton>, nullptr},
         {"InfoButton", "VnaWidgets/InfoButton", s_buttons, "infobutton",
          "A button with a name, and any widget that tells something about it", s_key, s_name,
-         create<Named<InfoButton>>, nullptr},
+         create<InfoButton>, nullptr},
         {"LabelButton", "VnaWidgets/LabelButton", s_buttons, "labelbutton",
-         "A soft key: a small name and a large value", s_key, s_nameAndValue,
-         create<Named<LabelButton>>, nullptr},
+         "A soft key: a small name and a large value", s_key, s_nameAndValue, create<LabelButton>,
+         nullptr},
         {"EnumTextButton", "VnaWidgets/EnumTextButton", s_buttons, "enumtextbutton",
          "A soft key that opens a list to choose its value from", s_key, s_nameAndValue,
-         create<Named<EnumTextButton>>, nullptr},
+         create<EnumTextButton>, nullptr},
         {"MenuButton", "VnaWidgets/MenuButton", s_buttons, "menubutton",
          "A push button that opens a list of commands", s_line, s_name, create<MenuButton>,
          nullptr},
         {"SwitchButton", "VnaWidgets/SwitchButton", s_buttons, "switchbutton",
-         "A soft key with On and Off", QSize(200, 84), s_name, create<Named<SwitchButton>>,
-         nullptr},
+         "A soft key with On and Off", QSize(200, 84), s_name, create<SwitchButton>, nullptr},
         {"Controls::ComboBox", "VnaWidgets/ComboBox", s_entry, "combobox",
          "A combo box whose list stays on the screen and whose entries can be greyed out", s_line,
          "", create<Controls::ComboBox>, nullptr},
         {"Profile::TabletComboBox2", "VnaWidgets/TabletComboBox2", s_entry, "tabletcombobox2",
          "A combo box bound to a value of the stored profile", s_line, "",
          create<Profile::TabletComboBox2>, nullptr},
+        {"Controls::NumericField", "VnaWidgets/NumericField", s_entry, "editablewidget",
+         "A number with a unit, and a keypad of its own", s_key,
+         "<property name=\"labelText\"><string>Name</string></property>"
+         "<property name=\"unit\"><string>Hz</string></property>",
+         create<Controls::NumericField>, nullptr},
         {"MarkerStatusItem", "VnaWidgets/MarkerStatusItem", s_readouts, "markerstatusitem",
          "A line of a marker read-out; it folds when it is narrow", QSize(520, 28), "",
          create<MarkerStatusItem>, fillMarker},

@@ -30,12 +30,14 @@ template<typename T>
 class EnumProfileAdapter : public IEnumProfileAdapter
 {
 public:
+    /// One choice.
     struct Entry {
-        T value;
-        QString text;
+        T value; ///<what it means to the profile
+        QString text; ///<what the user reads
     };
 
     template<typename P>
+    /// Binds \a entries to a value of \a profile by its getter, setter and change signal.
     EnumProfileAdapter(const QVector<Entry> &entries, P *profile, T (P::*value)() const,
                        void (P::*setValue)(T), void (P::*valueChanged)(T),
                        QObject *parent = nullptr)

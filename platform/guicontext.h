@@ -15,6 +15,8 @@ class VNAPLATFORM_EXPORT GUIContext : public QObject
 {
     Q_OBJECT
 
+    Q_PROPERTY(bool darkTheme READ getIsDarkTheme WRITE setIsDarkTheme NOTIFY darkThemeChanged)
+
 public:
     /// The one instance, made at the first call and alive until the process ends.
     static GUIContext *instance();
@@ -25,6 +27,7 @@ public:
     bool getIsDarkTheme() const { return m_dark; }
 
 Q_SIGNALS:
+    /// The flag has changed.
     void darkThemeChanged(bool dark);
 
 private:

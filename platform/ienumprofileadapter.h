@@ -20,6 +20,7 @@ class VNAPLATFORM_EXPORT IEnumProfileAdapter : public QObject
     Q_OBJECT
 
 public:
+    /// Belongs to \a parent.
     explicit IEnumProfileAdapter(QObject *parent = nullptr);
     ~IEnumProfileAdapter() override;
 

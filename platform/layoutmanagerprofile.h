@@ -37,15 +37,18 @@ class VNAPLATFORM_EXPORT LayoutManagerProifle : public QObject
         Graph::LayoutType layoutType READ layoutType WRITE setLayoutType NOTIFY layoutTypeChanged)
 
 public:
+    /// Belongs to \a parent; one diagram at first.
     explicit LayoutManagerProifle(QObject *parent = nullptr);
 
     /// LayoutType::Single at the start.
     LayoutType layoutType() const { return m_layoutType; }
 
 public Q_SLOTS:
+    /// Sets the layout, and tells so when it is another one.
     void setLayoutType(Graph::LayoutType type);
 
 Q_SIGNALS:
+    /// The layout has changed.
     void layoutTypeChanged(Graph::LayoutType type);
 
 private:

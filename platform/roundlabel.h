@@ -26,6 +26,7 @@ class VNAPLATFORM_EXPORT RoundLabel : public QLabel
     Q_OBJECT
 
 public:
+    /// An empty label.
     explicit RoundLabel(QWidget *parent = nullptr);
 
     /// What is painted: text(), rounded or elided to the width.

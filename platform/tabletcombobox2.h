@@ -32,6 +32,7 @@ class VNAPLATFORM_EXPORT TabletComboBox2 : public QComboBox
     Q_OBJECT
 
 public:
+    /// An empty box, bound to nothing.
     explicit TabletComboBox2(QWidget *parent = nullptr);
 
     /// Null before setProfile(), after reset() and when the adapter was deleted.

@@ -25,6 +25,8 @@ class VNAPLATFORM_EXPORT Translator : public QObject
 {
     Q_OBJECT
 
+    Q_PROPERTY(QString currentLanguage READ currentLanguage NOTIFY languageChanged)
+
 public:
     /// The one instance, made at the first call and alive until the process ends.
     static Translator *instance();

@@ -33,6 +33,7 @@ public:
 
     /// Whether dragging moves the widget; true at the start.
     bool isMovable() const { return m_movable; }
+    /// Sets whether the widget can be dragged.
     void setMovable(bool movable);
 
 Q_SIGNALS:

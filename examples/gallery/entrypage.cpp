@@ -5,6 +5,7 @@
 
 #include <controls/editablewidget.h>
 #include <controls/keypadeditor.h>
+#include <controls/numericfield.h>
 #include <controls/scaledunitadapter.h>
 #include <controls/touchnumkeyboard.h>
 #include <widgets/labelbutton.h>
@@ -90,6 +91,31 @@ Section *fields()
     return section;
 }
 
+/// Fields that need nothing else.
+Section *numericFields(Page *page)
+{
+    auto *const section =
+        new Section(QStringLiteral("numericfield"), QStringLiteral("Controls::NumericField"),
+                    tr("A number with a unit and a keypad of its own; tap it."));
+    const auto add = [section, page](const char *name, const char *unit, const char *prefixes,
+                                     double value) {
+        auto *const field = new Controls::NumericField;
+        field->setLabelText(tr(name));
+        field->setUnit(QLatin1String(unit));
+        field->setPrefixes(QLatin1String(prefixes));
+        field->setValue(value);
+        section->add(field, QString(), QSize(150, 64));
+        QObject::connect(
+            field, &Controls::NumericField::valueEntered, page, [page](double entered) {
+                Q_EMIT page->told(QStringLiteral("valueEntered(%1)").arg(entered, 0, 'g', 12));
+            });
+    };
+    add("Capacitance", "F", "unp", 4.7e-9);
+    add("Frequency", "Hz", "GMk", 2.45e9);
+    add("Loss", "dB", "", 0.35);
+    return section;
+}
+
 Section *opener(Page *page)
 {
     auto *const section = new Section(QStringLiteral("numericentry"), tr("Numeric entry"),
@@ -118,6 +144,7 @@ Page *createEntryPage()
     auto *const page = new Page(tr("Numeric entry"));
     page->add(keypads());
     page->add(fields());
+    page->add(numericFields(page));
     page->addBeside(opener(page));
     return page;
 }

@@ -64,13 +64,14 @@ void GalleryWindow::applyTheme()
 {
     const bool dark = ThemeManager::instance()->isDarkTheme();
     m_themeButton->setText(dark ? tr("Light theme") : tr("Dark theme"));
-    const QString sheet = QStringLiteral("#gallery, #page { background: @backgroundColor; }"
-                                   "#section { background: @dialogColor; border: 1px solid @gridColor;"
-                                   "           border-radius: 6px; }"
-                                   "#stage { background: @backgroundColor; border: 1px solid @gridColor; }"
-                                   "#diagram { background: transparent; border: 1px dashed @gridColor; }"
-                                   "QLabel#sectionTitle { font-size: 17px; font-weight: bold; }"
-                                   "QLabel#dim { color: @dimTextColor; font-size: 13px; }");
+    const QString sheet =
+        QStringLiteral("#gallery, #page { background: @backgroundColor; }"
+                       "#section { background: @dialogColor; border: 1px solid @gridColor;"
+                       "           border-radius: 6px; }"
+                       "#stage { background: @backgroundColor; border: 1px solid @gridColor; }"
+                       "#diagram { background: transparent; border: 1px dashed @gridColor; }"
+                       "QLabel#sectionTitle { font-size: 17px; font-weight: bold; }"
+                       "QLabel#dim { color: @dimTextColor; font-size: 13px; }");
     setStyleSheet(ThemeManager::instance()->fillColors(sheet));
 }
 

@@ -224,10 +224,14 @@ void BaseUnitAdapter::commit(QKeyEvent *event)
     const QPointer<QDialog> dialog(owningDialog(this));
     const QString typed = property("inputText").toString().trimmed();
     QString unit = event->text();
-    const double value = clamped(convertInputTextToValue(typed, unit));
+    const double entered = convertInputTextToValue(typed, unit);
+    const double value = clamped(entered);
+    const QPointer<BaseUnitAdapter> self(this);
 
     if (std::isnan(value)) {
         Q_EMIT specialKeyHandled(m_inputText, numericPartLength(), 0, 0);
+        if (self)
+            Q_EMIT entryRefused(typed);
     } else {
         m_lastAcceptedInputText = typed;
         if (value != m_realValue) {
@@ -235,6 +239,8 @@ void BaseUnitAdapter::commit(QKeyEvent *event)
             m_inputText = convertFromBaseValue(value, unit);
         }
         Q_EMIT editingFinished(m_realValue);
+        if (self && value != entered)
+            Q_EMIT entryClamped(entered, value);
     }
 
     if (!dialog)
@@ -277,7 +283,9 @@ void BaseUnitAdapter::toggleSign()
 
     QString changed = minus + text;
     int cursor = 1;
-    if (selectionStart == 0 && selectionLength == text.length() - unit.length()) {
+    const bool isSpaced =
+        text.length() > unit.length() && selectionLength == numberText(text, unit).length();
+    if (selectionStart == 0 && (isSpaced || selectionLength == text.length() - unit.length())) {
         changed = minus + unit;
     } else if (text.startsWith(QLatin1Char('+'))) {
         changed = minus + text.mid(1);

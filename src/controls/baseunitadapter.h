@@ -65,7 +65,9 @@ public:
         EscKeepsDialog = 0, ///< nothing more
         EscRejectsDialog = 1, ///< rejects the dialog that is the adapter's parent; the default
     };
+    Q_ENUM(EscKeyPolicy)
 
+    /// The value 0 without a text; a dialog as parent is closed by a commit.
     explicit BaseUnitAdapter(QObject *parent = nullptr);
     ~BaseUnitAdapter() override;
 
@@ -80,7 +82,9 @@ public:
     QString getLastAcceptedInputText() const { return m_lastAcceptedInputText; }
     /// The unit at the end of getInputText(), or an empty string.
     QString getCurrentUnit() const;
+    /// What limits the value; null at first. Not owned.
     QValidator *validator() const;
+    /// What Escape does; EscRejectsDialog at first.
     EscKeyPolicy escKeyPolicy() const { return m_escKeyPolicy; }
 
     /// Replaces the text alone: the value stays, nothing is emitted.
@@ -92,6 +96,7 @@ public:
     /// Values are clamped to the range of a QDoubleValidator; other validators have no effect. Not
     /// owned.
     void setValidator(QValidator *validator);
+    /// Sets escKeyPolicy().
     void setEscKeyPolicy(EscKeyPolicy policy) { m_escKeyPolicy = policy; }
     /// Calls \a callback for the key before anything else; it returns true to end the handling
     /// there. An empty function removes the callback of that key.
@@ -128,12 +133,22 @@ Q_SIGNALS:
     /// The cursor went into the unit: the editor is to put it back in front of it.
     void cursorPosCrossUnit(QString inputText, int selecitonStart, int length, int newCursorPos,
                             int oldCursorPos);
+    /// What was entered lay outside the validator's range: \a entered became \a value. Follows
+    /// editingFinished().
+    void entryClamped(double entered, double value);
+    /// What was entered, trimmed, is no value; the last valid one stands.
+    void entryRefused(const QString &text);
 
 protected:
+    /// See setDecimals().
     int m_decimals = 3;
+    /// See setPreserveTrailingZeros().
     bool m_preserveTrailingZeros = false;
+    /// See getInputText().
     QString m_inputText;
+    /// See getLastAcceptedInputText().
     QString m_lastAcceptedInputText;
+    /// See getRealValue().
     double m_realValue = 0.0;
     /// The unit of values set by setRealValue().
     QString m_unit;
@@ -141,6 +156,7 @@ protected:
     /// For derived adapters, not used here: base units per unit, and digits after the point per
     /// unit.
     QMap<QString, double> m_unitFactors;
+    /// For derived adapters, too: digits after the point by unit.
     QMap<QString, int> m_unitDecimals;
 
 private:

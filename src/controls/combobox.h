@@ -26,6 +26,7 @@ class VNAWIDGETS_EXPORT ComboBox : public QComboBox
     Q_OBJECT
 
 public:
+    /// An empty box.
     explicit ComboBox(QWidget *parent = nullptr);
 
     /// Greys out entry \a index, or makes it available again; ignored outside 0 to count() - 1.
@@ -39,6 +40,7 @@ public:
     /// opened).
     QSize popupWidgetAdjustSize();
 
+    /// Opens the list, inside the screen.
     void showPopup() override;
 
 private:

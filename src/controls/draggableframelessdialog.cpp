@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
@@ -17,53 +18,82 @@
 namespace Controls
 {
 
+class DraggableDialogTitleBarPrivate
+{
+public:
+    QPointer<QDialog> dialog;
+    QLabel *titleLabel = nullptr;
+    QHBoxLayout *layout = nullptr;
+    QPushButton *minimizeButton = nullptr;
+    QPushButton *maximizeButton = nullptr;
+    QPushButton *closeButton = nullptr;
+    int titleHeight = 35;
+};
+
+class DraggableFramelessDialogPrivate
+{
+public:
+    QPointer<DraggableDialogTitleBar> titleBar;
+    bool dragging = false;
+    QPoint pressGlobalPos;
+    QPoint dialogStartPos;
+};
+
 DraggableDialogTitleBar::DraggableDialogTitleBar(QDialog *dialog)
     : QFrame(dialog)
-    , m_dialog(dialog)
+    , d(std::make_unique<DraggableDialogTitleBarPrivate>())
 {
+    d->dialog = dialog;
     setObjectName(QStringLiteral("draggableDialogTitleBar"));
-    setFixedHeight(m_titleHeight);
+    setFixedHeight(d->titleHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
-    m_titleLabel = new QLabel(dialog ? dialog->windowTitle() : QString(), this);
-    m_titleLabel->setObjectName(QStringLiteral("draggableDialogTitleLabel"));
-    m_titleLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    d->titleLabel = new QLabel(dialog ? dialog->windowTitle() : QString(), this);
+    d->titleLabel->setObjectName(QStringLiteral("draggableDialogTitleLabel"));
+    d->titleLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 
-    m_layout = new QHBoxLayout(this);
-    m_layout->setContentsMargins(0, 0, 0, 0);
-    m_layout->setSpacing(0);
-    m_layout->addSpacing(8);
-    m_layout->addWidget(m_titleLabel);
-    m_layout->addStretch(1);
-    m_layout->addSpacing(8);
+    d->layout = new QHBoxLayout(this);
+    d->layout->setContentsMargins(0, 0, 0, 0);
+    d->layout->setSpacing(0);
+    d->layout->addSpacing(8);
+    d->layout->addWidget(d->titleLabel);
+    d->layout->addStretch(1);
+    d->layout->addSpacing(8);
+}
+
+DraggableDialogTitleBar::~DraggableDialogTitleBar() = default;
+
+int DraggableDialogTitleBar::titleHeight() const
+{
+    return d->titleHeight;
 }
 
 Qt::Alignment DraggableDialogTitleBar::windowTitleAlignment() const
 {
-    return m_titleLabel->alignment();
+    return d->titleLabel->alignment();
 }
 
 void DraggableDialogTitleBar::setHeaderButton(QFlags<Button> buttons)
 {
-    if (provideButton(m_minimizeButton, buttons.testFlag(MinimizeButton),
+    if (provideButton(d->minimizeButton, buttons.testFlag(MinimizeButton),
                       QStringLiteral("draggableDialogMinimizeButton"), tr("Minimize")))
-        connect(m_minimizeButton, &QPushButton::clicked, this,
+        connect(d->minimizeButton, &QPushButton::clicked, this,
                 &DraggableDialogTitleBar::onMinimizeClicked);
 
-    if (provideButton(m_maximizeButton, buttons.testFlag(MaximizeButton),
+    if (provideButton(d->maximizeButton, buttons.testFlag(MaximizeButton),
                       QStringLiteral("draggableDialogMaximizeButton"), tr("Maximize")))
-        connect(m_maximizeButton, &QPushButton::clicked, this,
+        connect(d->maximizeButton, &QPushButton::clicked, this,
                 &DraggableDialogTitleBar::onMaximizeClicked);
-    if (m_maximizeButton && m_dialog)
-        m_maximizeButton->setProperty("max", m_dialog->isMaximized());
+    if (d->maximizeButton && d->dialog)
+        d->maximizeButton->setProperty("max", d->dialog->isMaximized());
 
-    if (provideButton(m_closeButton, buttons.testFlag(CloseButton),
+    if (provideButton(d->closeButton, buttons.testFlag(CloseButton),
                       QStringLiteral("draggableDialogCloseButton"), tr("Close"))) {
         // Escape closes from the keyboard.
-        m_closeButton->setFocusPolicy(Qt::NoFocus);
-        m_closeButton->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        if (m_dialog)
-            connect(m_closeButton, &QPushButton::clicked, m_dialog.data(), &QDialog::reject);
+        d->closeButton->setFocusPolicy(Qt::NoFocus);
+        d->closeButton->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        if (d->dialog)
+            connect(d->closeButton, &QPushButton::clicked, d->dialog.data(), &QDialog::reject);
     }
     updateButtonSizes();
 }
@@ -71,46 +101,46 @@ void DraggableDialogTitleBar::setHeaderButton(QFlags<Button> buttons)
 void DraggableDialogTitleBar::setTitleHeight(int height)
 {
     height = qMax(height, 0);
-    if (m_titleHeight == height)
+    if (d->titleHeight == height)
         return;
-    m_titleHeight = height;
+    d->titleHeight = height;
     setFixedHeight(height);
     updateButtonSizes();
 }
 
 void DraggableDialogTitleBar::setWindowTitle(const QString &title)
 {
-    m_titleLabel->setText(title);
+    d->titleLabel->setText(title);
 }
 
 void DraggableDialogTitleBar::setWindowTitleAlignment(Qt::Alignment alignment)
 {
-    m_titleLabel->setAlignment(alignment);
+    d->titleLabel->setAlignment(alignment);
 }
 
 void DraggableDialogTitleBar::onMaximizeClicked(bool checked)
 {
     Q_UNUSED(checked)
-    if (!m_dialog)
+    if (!d->dialog)
         return;
     const QPointer<DraggableDialogTitleBar> self(this);
-    if (m_dialog->isMaximized())
-        m_dialog->showNormal();
+    if (d->dialog->isMaximized())
+        d->dialog->showNormal();
     else
-        m_dialog->showMaximized();
-    if (!self || !m_maximizeButton || !m_dialog)
+        d->dialog->showMaximized();
+    if (!self || !d->maximizeButton || !d->dialog)
         return;
-    m_maximizeButton->setProperty("max", m_dialog->isMaximized());
-    m_maximizeButton->style()->unpolish(m_maximizeButton);
-    m_maximizeButton->style()->polish(m_maximizeButton);
-    m_maximizeButton->update();
+    d->maximizeButton->setProperty("max", d->dialog->isMaximized());
+    d->maximizeButton->style()->unpolish(d->maximizeButton);
+    d->maximizeButton->style()->polish(d->maximizeButton);
+    d->maximizeButton->update();
 }
 
 void DraggableDialogTitleBar::onMinimizeClicked(bool checked)
 {
     Q_UNUSED(checked)
-    if (m_dialog)
-        m_dialog->setWindowState(Qt::WindowMinimized);
+    if (d->dialog)
+        d->dialog->setWindowState(Qt::WindowMinimized);
 }
 
 bool DraggableDialogTitleBar::provideButton(QPushButton *&button, bool wanted,
@@ -120,7 +150,7 @@ bool DraggableDialogTitleBar::provideButton(QPushButton *&button, bool wanted,
     if (wanted == (button != nullptr))
         return false;
     if (!wanted) {
-        m_layout->removeWidget(button);
+        d->layout->removeWidget(button);
         // It may be the one whose click asks for this: it goes when the click is over.
         button->hide();
         button->deleteLater();
@@ -132,16 +162,16 @@ bool DraggableDialogTitleBar::provideButton(QPushButton *&button, bool wanted,
     button->setAccessibleName(accessibleName);
     // Enter in the dialog must not minimise it.
     button->setAutoDefault(false);
-    m_layout->addWidget(button);
+    d->layout->addWidget(button);
     return true;
 }
 
 void DraggableDialogTitleBar::updateButtonSizes()
 {
-    const int icon = qMax(m_titleHeight - 14, 12);
-    for (QPushButton *button : {m_minimizeButton, m_maximizeButton, m_closeButton}) {
+    const int icon = qMax(d->titleHeight - 14, 12);
+    for (QPushButton *button : {d->minimizeButton, d->maximizeButton, d->closeButton}) {
         if (button) {
-            button->setFixedSize(m_titleHeight, m_titleHeight);
+            button->setFixedSize(d->titleHeight, d->titleHeight);
             button->setIconSize({icon, icon});
         }
     }
@@ -149,28 +179,38 @@ void DraggableDialogTitleBar::updateButtonSizes()
 
 DraggableFramelessDialog::DraggableFramelessDialog(QWidget *parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint | Qt::CustomizeWindowHint)
+    , d(std::make_unique<DraggableFramelessDialogPrivate>())
 {
     setAttribute(Qt::WA_AcceptTouchEvents);
     setAttribute(Qt::WA_StyledBackground);
-    m_titleBar = new DraggableDialogTitleBar(this);
-    m_titleBar->installEventFilter(this);
-    m_titleBar->setAttribute(Qt::WA_AcceptTouchEvents);
-    m_titleBar->raise();
+    d->titleBar = new DraggableDialogTitleBar(this);
+    d->titleBar->installEventFilter(this);
+    d->titleBar->setAttribute(Qt::WA_AcceptTouchEvents);
+    d->titleBar->raise();
     if (parent)
         parent->installEventFilter(this);
 }
 
+DraggableFramelessDialog::~DraggableFramelessDialog() = default;
+
 void DraggableFramelessDialog::setHeaderButton(QFlags<DraggableDialogTitleBar::Button> buttons)
 {
-    if (m_titleBar)
-        m_titleBar->setHeaderButton(buttons);
+    if (d->titleBar)
+        d->titleBar->setHeaderButton(buttons);
 }
 
 void DraggableFramelessDialog::setWindowTitle(const QString &title)
 {
     setAccessibleName(title);
-    if (m_titleBar)
-        m_titleBar->setWindowTitle(title);
+    if (d->titleBar)
+        d->titleBar->setWindowTitle(title);
+}
+
+void DraggableFramelessDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::WindowTitleChange)
+        setWindowTitle(QWidget::windowTitle());
 }
 
 void DraggableFramelessDialog::centerInParent()
@@ -187,19 +227,19 @@ void DraggableFramelessDialog::clampToParentVisibleRect()
 
 void DraggableFramelessDialog::doMoveByDelta(const QPoint &delta)
 {
-    move(m_dialogStartPos + delta);
+    move(d->dialogStartPos + delta);
     if (parentWidget())
         clampToParentVisibleRect();
     else
         move(Utils::boundedTopLeft(pos(), size(), screen()->availableGeometry(), 0));
 }
 
-bool DraggableFramelessDialog::startSystemMoveIfSupported()
+bool DraggableFramelessDialog::startSystemMoveIfSupported() const
 {
     return false;
 }
 
-bool DraggableFramelessDialog::shouldStartDrag(QWidget *bar, const QPoint &localPos)
+bool DraggableFramelessDialog::shouldStartDrag(QWidget *bar, const QPoint &localPos) const
 {
     if (!bar)
         return false;
@@ -212,7 +252,7 @@ bool DraggableFramelessDialog::shouldStartDrag(QWidget *bar, const QPoint &local
     return child->focusPolicy() == Qt::NoFocus;
 }
 
-bool DraggableFramelessDialog::resolveGlobalPosFromEvent(QEvent *event, QPoint &position)
+bool DraggableFramelessDialog::resolveGlobalPosFromEvent(QEvent *event, QPoint &position) const
 {
     switch (event->type()) {
     case QEvent::MouseButtonPress:
@@ -239,7 +279,7 @@ bool DraggableFramelessDialog::eventFilter(QObject *watched, QEvent *event)
 {
     // The cast fails for a bar that is being destroyed, which still sends events to its filters.
     const auto *bar = qobject_cast<DraggableDialogTitleBar *>(watched);
-    if (bar && bar == m_titleBar && filterTitleBar(event))
+    if (bar && bar == d->titleBar && filterTitleBar(event))
         return true;
     if (watched == parentWidget() && event->type() == QEvent::Resize)
         clampToParentVisibleRect();
@@ -249,9 +289,9 @@ bool DraggableFramelessDialog::eventFilter(QObject *watched, QEvent *event)
 void DraggableFramelessDialog::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
-    if (m_titleBar) {
-        m_titleBar->setGeometry(0, 0, width(), m_titleBar->titleHeight());
-        m_titleBar->raise();
+    if (d->titleBar) {
+        d->titleBar->setGeometry(0, 0, width(), d->titleBar->titleHeight());
+        d->titleBar->raise();
     }
 }
 
@@ -259,8 +299,14 @@ void DraggableFramelessDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
     // A drag that was under way when the dialog was hidden is over.
-    m_dragging = false;
+    d->dragging = false;
     adjustSize();
+    // As wide as its title, where there is room for that.
+    const int room =
+        (parentWidget() ? parentWidget()->rect() : screen()->availableGeometry()).width();
+    const int wanted = d->titleBar ? qMin(d->titleBar->sizeHint().width(), room) : 0;
+    if (width() < wanted)
+        resize(wanted, height());
     centerInParent();
     raise();
 }
@@ -277,22 +323,22 @@ bool DraggableFramelessDialog::filterTitleBar(QEvent *event)
     }
     case QEvent::TouchBegin:
         return resolved && !Utils::isSecondFinger(event)
-            && startDrag(event, m_titleBar->mapFromGlobal(global), global);
+            && startDrag(event, d->titleBar->mapFromGlobal(global), global);
     case QEvent::MouseMove:
     case QEvent::TouchUpdate:
-        if (!m_dragging)
+        if (!d->dragging)
             return false;
         if (resolved) {
-            doMoveByDelta(global - m_pressGlobalPos);
+            doMoveByDelta(global - d->pressGlobalPos);
             event->accept();
         }
         return true;
     case QEvent::MouseButtonRelease:
     case QEvent::TouchEnd:
     case QEvent::TouchCancel:
-        if (!m_dragging)
+        if (!d->dragging)
             return false;
-        m_dragging = false;
+        d->dragging = false;
         event->accept();
         return true;
     default:
@@ -303,11 +349,11 @@ bool DraggableFramelessDialog::filterTitleBar(QEvent *event)
 bool DraggableFramelessDialog::startDrag(QEvent *event, const QPoint &localPos,
                                          const QPoint &globalPos)
 {
-    if (!shouldStartDrag(m_titleBar, localPos))
+    if (!shouldStartDrag(d->titleBar, localPos))
         return false;
-    m_pressGlobalPos = globalPos;
-    m_dialogStartPos = pos();
-    m_dragging = true;
+    d->pressGlobalPos = globalPos;
+    d->dialogStartPos = pos();
+    d->dragging = true;
     event->accept();
     return true;
 }

@@ -6,14 +6,16 @@
 
 #include <QDialog>
 #include <QFrame>
-#include <QPointer>
 
-class QHBoxLayout;
-class QLabel;
+#include <memory>
+
 class QPushButton;
 
 namespace Controls
 {
+
+class DraggableDialogTitleBarPrivate;
+class DraggableFramelessDialogPrivate;
 
 /*! The title bar of a frameless dialog: its title and, on request, buttons to minimise, maximise
     and close. DraggableFramelessDialog makes its own; alone it serves dialogs that are moved some
@@ -36,17 +38,22 @@ class VNAWIDGETS_EXPORT DraggableDialogTitleBar : public QFrame
     Q_OBJECT
 
 public:
+    /// The buttons of the bar.
     enum Button {
-        MinimizeButton = 0x1,
-        MaximizeButton = 0x2,
-        CloseButton = 0x4,
+        MinimizeButton = 0x1, ///< minimises the dialog
+        MaximizeButton = 0x2, ///< fills the screen, and back
+        CloseButton = 0x4, ///< rejects the dialog
     };
+    Q_DECLARE_FLAGS(Buttons, Button)
+    Q_FLAG(Buttons)
 
     /// A child of \a dialog, which the buttons act on; without one (null) they do nothing.
     explicit DraggableDialogTitleBar(QDialog *dialog);
+    ~DraggableDialogTitleBar() override;
 
     /// Height in pixels; 35 at the start.
-    int titleHeight() const { return m_titleHeight; }
+    int titleHeight() const;
+    /// Alignment of the title.
     Qt::Alignment windowTitleAlignment() const;
 
     /// Shows exactly these buttons; none at the start.
@@ -68,13 +75,7 @@ private:
                        const QString &accessibleName);
     void updateButtonSizes();
 
-    QPointer<QDialog> m_dialog;
-    QLabel *m_titleLabel = nullptr;
-    QHBoxLayout *m_layout = nullptr;
-    QPushButton *m_minimizeButton = nullptr;
-    QPushButton *m_maximizeButton = nullptr;
-    QPushButton *m_closeButton = nullptr;
-    int m_titleHeight = 35;
+    const std::unique_ptr<DraggableDialogTitleBarPrivate> d;
 };
 
 /*! A dialog without a system frame for the touch screen, dragged by its own title bar.
@@ -98,26 +99,32 @@ class VNAWIDGETS_EXPORT DraggableFramelessDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// A dialog over \a parent, without buttons in its title bar.
     explicit DraggableFramelessDialog(QWidget *parent = nullptr);
+    ~DraggableFramelessDialog() override;
 
     /// The buttons of the title bar; none at the start.
     void setHeaderButton(QFlags<DraggableDialogTitleBar::Button> buttons);
-    /// The title in the bar; QWidget::windowTitle() stays what it was.
+    /// The title in the bar; QWidget::windowTitle() stays what it was. A title set through
+    /// QWidget or the property windowTitle is shown as well.
     void setWindowTitle(const QString &title);
+    /// Moves to the middle of the parent, if there is one.
     void centerInParent();
+    /// Moves inside the parent, if there is one.
     void clampToParentVisibleRect();
     /// Moves to \a delta pixels from where the drag began, as far as the parent (or the screen)
     /// allows.
     void doMoveByDelta(const QPoint &delta);
     /// Always false: the dialog moves itself, on every platform alike.
-    bool startSystemMoveIfSupported();
+    bool startSystemMoveIfSupported() const;
     /// Whether a press at \a localPos of \a bar drags: not on buttons, sliders, entries or what
     /// takes focus.
-    bool shouldStartDrag(QWidget *bar, const QPoint &localPos);
+    bool shouldStartDrag(QWidget *bar, const QPoint &localPos) const;
     /// Where the mouse or the first finger is on the screen; false for events that do not say.
-    bool resolveGlobalPosFromEvent(QEvent *event, QPoint &position);
+    bool resolveGlobalPosFromEvent(QEvent *event, QPoint &position) const;
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -126,10 +133,9 @@ private:
     bool filterTitleBar(QEvent *event);
     bool startDrag(QEvent *event, const QPoint &localPos, const QPoint &globalPos);
 
-    QPointer<DraggableDialogTitleBar> m_titleBar;
-    bool m_dragging = false;
-    QPoint m_pressGlobalPos;
-    QPoint m_dialogStartPos;
+    const std::unique_ptr<DraggableFramelessDialogPrivate> d;
 };
 
 } // namespace Controls
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(Controls::DraggableDialogTitleBar::Buttons)

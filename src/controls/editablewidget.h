@@ -35,17 +35,23 @@ class VNAWIDGETS_EXPORT EditableWidget : public IEditableTitleWidget
 {
     Q_OBJECT
 
+    Q_PROPERTY(QString labelText READ labelText WRITE setLabelText)
+
 public:
+    /// Neither the keypad nor the adapter is owned; each may be null.
     EditableWidget(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter, QWidget *parent = nullptr);
     ~EditableWidget() override;
 
     /// The name above the value; "Step" at first.
     QString labelText() const;
+    /// Sets labelText(), which is read to the blind as well.
     void setLabelText(const QString &text);
 
 public Q_SLOTS:
+    /// Shows a text, a selection and the cursor; positions beyond the text mean its end.
     void setEditorText(QString text, int selectionStart, int selectionLength,
                        int cursorPosition) override;
+    /// Begins an edit, and sends the keypad's focus here.
     void onFocus() override;
     /// Repaints the border in the colour of the theme.
     void onThemeChanged();

@@ -8,9 +8,11 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace Controls
 {
@@ -23,6 +25,22 @@ bool endsEdit(int key)
     return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape;
 }
 
+/// Length of the adapter's text without its unit, and without a space in front of that.
+int numberLength(const BaseUnitAdapter &adapter)
+{
+    const QString text = adapter.getInputText();
+    int length = int(text.length() - adapter.getCurrentUnit().length());
+    while (length > 0 && length < text.length() && text.at(length - 1).isSpace())
+        --length;
+    return length;
+}
+
+/// How a keypad ends that a key closes.
+int resultOf(int key)
+{
+    return key == Qt::Key_Escape ? QDialog::Rejected : QDialog::Accepted;
+}
+
 /// Keys whose meaning is the adapter's business, besides those that end the edit.
 bool isForwarded(int key)
 {
@@ -32,112 +50,208 @@ bool isForwarded(int key)
 
 } // namespace
 
+class IEditableTitleWidgetPrivate
+{
+public:
+    QPointer<QWidget> keyboard; ///< see IEditableTitleWidget::keyboard()
+    QPointer<BaseUnitAdapter> adapter;
+    bool committing = false;
+    bool edited = false; ///< typed into since the edit began
+    bool keepsEntryOpen = false;
+    bool isKeptOpen = false; ///< the entry waits for the focus to come back
+    bool closesKeyboard = false;
+    bool isFinishing = false; ///< the editor passes on the key that ends the edit
+    QPointer<QWidget> savedFocusProxy;
+    bool focusProxyOverridden = false;
+    QStringList dummyDisplayUnits;
+    QPointer<QWidget> editorWidget; ///< see IEditableTitleWidget::editor()
+    int gestureStart = 0;
+};
+
 IEditableTitleWidget::IEditableTitleWidget(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter,
                                            QWidget *parent)
     : QWidget(parent)
-    , m_keyboard(keyboard)
-    , m_adapter(adapter)
+    , d(std::make_unique<IEditableTitleWidgetPrivate>())
 {
-    if (!adapter)
-        return;
-    connect(adapter, &BaseUnitAdapter::cursorPosCrossUnit, this,
-            &IEditableTitleWidget::setEditorText);
-    connect(adapter, &BaseUnitAdapter::specialKeyHandled, this,
-            &IEditableTitleWidget::setEditorText);
-    // Whoever sends the adapter Return or Escape, also a press beside the keypad, ends this edit.
-    adapter->installEventFilter(this);
+    d->keyboard = keyboard;
+    d->adapter = adapter;
+    connectAdapter();
 }
 
 IEditableTitleWidget::~IEditableTitleWidget()
 {
     // The editor goes after this class has ended, and what it says in going concerns nobody.
-    if (m_editorWidget)
-        m_editorWidget->disconnect(this);
+    if (d->editorWidget)
+        d->editorWidget->disconnect(this);
     if (qApp)
         qApp->disconnect(this);
     restoreKeyboardFocusProxy();
 }
 
+BaseUnitAdapter *IEditableTitleWidget::adapter() const
+{
+    return d->adapter;
+}
+
+void IEditableTitleWidget::setAdapter(BaseUnitAdapter *adapter)
+{
+    if (d->adapter == adapter)
+        return;
+    if (d->adapter) {
+        d->adapter->disconnect(this);
+        d->adapter->removeEventFilter(this);
+    }
+    d->adapter = adapter;
+    connectAdapter();
+    if (editor() && editor()->hasFocus())
+        onFocus();
+}
+
+void IEditableTitleWidget::connectAdapter()
+{
+    if (!d->adapter)
+        return;
+    connect(d->adapter, &BaseUnitAdapter::cursorPosCrossUnit, this,
+            &IEditableTitleWidget::setEditorText);
+    connect(d->adapter, &BaseUnitAdapter::specialKeyHandled, this,
+            &IEditableTitleWidget::setEditorText);
+    // Whoever sends the adapter Return or Escape, also a press beside the keypad, ends this edit.
+    d->adapter->installEventFilter(this);
+    if (!editor())
+        return;
+    connect(d->adapter, &BaseUnitAdapter::editingFinished, this, &IEditableTitleWidget::showValue);
+    showValue();
+}
+
+bool IEditableTitleWidget::keepsEntryOpen() const
+{
+    return d->keepsEntryOpen;
+}
+
+void IEditableTitleWidget::setKeepsEntryOpen(bool keeps)
+{
+    d->keepsEntryOpen = keeps;
+}
+
+bool IEditableTitleWidget::closesKeyboard() const
+{
+    return d->closesKeyboard;
+}
+
+void IEditableTitleWidget::setClosesKeyboard(bool closes)
+{
+    d->closesKeyboard = closes;
+}
+
+bool IEditableTitleWidget::isCommitting() const
+{
+    return d->committing;
+}
+
 void IEditableTitleWidget::setDummyDisplayUnits(const QStringList &units)
 {
-    m_dummyDisplayUnits = units;
+    d->dummyDisplayUnits = units;
 }
 
 void IEditableTitleWidget::overrideKeyboardFocusProxy(QWidget *widget)
 {
     if (!widget || !keyboard())
         return;
-    if (!m_focusProxyOverridden) {
-        m_savedFocusProxy = keyboard()->focusProxy();
-        m_focusProxyOverridden = true;
+    if (!d->focusProxyOverridden) {
+        d->savedFocusProxy = keyboard()->focusProxy();
+        d->focusProxyOverridden = true;
     }
     keyboard()->setFocusProxy(widget);
 }
 
 void IEditableTitleWidget::restoreKeyboardFocusProxy()
 {
-    if (!keyboard() || !m_focusProxyOverridden)
+    if (!keyboard() || !d->focusProxyOverridden)
         return;
-    keyboard()->setFocusProxy(m_savedFocusProxy);
-    m_savedFocusProxy = nullptr;
-    m_focusProxyOverridden = false;
+    keyboard()->setFocusProxy(d->savedFocusProxy);
+    d->savedFocusProxy = nullptr;
+    d->focusProxyOverridden = false;
 }
 
 void IEditableTitleWidget::onFocus()
 {
-    m_committing = false;
+    d->committing = false;
+    d->edited = false;
     registerAtKeyboard();
-    // Later: the click that brought the focus still has its cursor to place.
+    // Later: the click that brought the focus still has its cursor to place. What was typed
+    // meanwhile stays.
     QTimer::singleShot(0, this, [this] {
-        if (!m_adapter)
+        if (!d->adapter || d->edited)
             return;
-        const QString text = m_adapter->getInputText();
-        const int numberEnd = int(text.length() - m_adapter->getCurrentUnit().length());
+        const QString text = d->adapter->getInputText();
+        const int numberEnd = numberLength(*d->adapter);
         const int start = text.startsWith(QLatin1Char('-')) ? 1 : 0;
-        Q_EMIT m_adapter->specialKeyHandled(text, start, std::max(0, numberEnd - start), numberEnd);
+        Q_EMIT d->adapter->specialKeyHandled(text, start, std::max(0, numberEnd - start),
+                                             numberEnd);
     });
+}
+
+void IEditableTitleWidget::selectNumber()
+{
+    if (!d->adapter || !editor())
+        return;
+    const QString text = d->adapter->getInputText();
+    const int numberEnd = numberLength(*d->adapter);
+    const int start = text.startsWith(QLatin1Char('-')) ? 1 : 0;
+    setEditorText(text, start, std::max(0, numberEnd - start), numberEnd);
 }
 
 void IEditableTitleWidget::attachEditor(QLineEdit *lineEdit)
 {
-    m_editorWidget = lineEdit;
+    d->editorWidget = lineEdit;
     lineEdit->installEventFilter(this);
     connect(lineEdit, &QLineEdit::textChanged, this, [this](const QString &text) {
         mirror();
-        if (m_adapter)
-            m_adapter->setProperty("inputText", text);
+        if (d->adapter)
+            d->adapter->setProperty("inputText", text);
     });
     connect(lineEdit, &QLineEdit::cursorPositionChanged, this, [this](int, int position) {
         mirror();
-        if (m_adapter)
-            m_adapter->setProperty("cursorPos", position);
+        if (d->adapter)
+            d->adapter->setProperty("cursorPos", position);
     });
     connect(lineEdit, &QLineEdit::selectionChanged, this, [this] {
         mirror();
         publishSelection();
     });
     // Typing after Return begins a new edit, though the focus never left.
-    connect(lineEdit, &QLineEdit::textEdited, this, [this] { m_committing = false; });
+    connect(lineEdit, &QLineEdit::textEdited, this, [this] {
+        d->committing = false;
+        d->edited = true;
+    });
     connect(qApp, &QApplication::focusChanged, this, &IEditableTitleWidget::handleFocusChange);
-    if (m_adapter) {
-        connect(m_adapter, &BaseUnitAdapter::editingFinished, this,
+    if (d->adapter) {
+        connect(d->adapter, &BaseUnitAdapter::editingFinished, this,
                 &IEditableTitleWidget::showValue);
         showValue();
     }
 
-    if (!keyboard())
+    setKeyboard(keyboard());
+}
+
+void IEditableTitleWidget::setKeyboard(TouchNumKeyboard *keypad)
+{
+    if (keyboard() && keyboard() != keypad)
+        keyboard()->disconnect(this);
+    d->keyboard = keypad;
+    if (!keypad)
         return;
-    connect(keyboard(), &TouchNumKeyboard::indicatorPress, this, [this](int position) {
+    connect(keypad, &TouchNumKeyboard::indicatorPress, this, [this](int position) {
         if (!isMirrored())
             return;
-        m_gestureStart = position;
+        d->gestureStart = position;
         editor()->setCursorPosition(position);
     });
-    connect(keyboard(), &TouchNumKeyboard::indicatorMove, this, [this](int position) {
+    connect(keypad, &TouchNumKeyboard::indicatorMove, this, [this](int position) {
         if (isMirrored())
-            editor()->setSelection(m_gestureStart, position - m_gestureStart);
+            editor()->setSelection(d->gestureStart, position - d->gestureStart);
     });
-    connect(keyboard(), &TouchNumKeyboard::indicatorDoubleClick, this, [this] {
+    connect(keypad, &TouchNumKeyboard::indicatorDoubleClick, this, [this] {
         if (isMirrored())
             editor()->selectAll();
     });
@@ -145,12 +259,12 @@ void IEditableTitleWidget::attachEditor(QLineEdit *lineEdit)
 
 QLineEdit *IEditableTitleWidget::editor() const
 {
-    return qobject_cast<QLineEdit *>(m_editorWidget);
+    return qobject_cast<QLineEdit *>(d->editorWidget);
 }
 
 TouchNumKeyboard *IEditableTitleWidget::keyboard() const
 {
-    return qobject_cast<TouchNumKeyboard *>(m_keyboard);
+    return qobject_cast<TouchNumKeyboard *>(d->keyboard);
 }
 
 void IEditableTitleWidget::registerAtKeyboard()
@@ -158,24 +272,33 @@ void IEditableTitleWidget::registerAtKeyboard()
     TouchNumKeyboard *const keypad = keyboard();
     if (!keypad)
         return;
-    QStringList units = m_adapter ? m_adapter->availableUnits() : QStringList();
+    QStringList units = d->adapter ? d->adapter->availableUnits() : QStringList();
     if (units.isEmpty())
-        units = m_dummyDisplayUnits;
+        units = d->dummyDisplayUnits;
     QList<TouchNumKeyboard::KeySpec> keys;
     for (const QString &unit : qAsConst(units))
         keys.append({Qt::Key_Return, unit, unit});
     keypad->setShortcutKeys(keys);
-    keypad->setReceiver(m_adapter);
+    keypad->setReceiver(d->adapter);
 }
 
 bool IEditableTitleWidget::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {
         auto *keyEvent = static_cast<QKeyEvent *>(event);
-        if (object == m_editorWidget && m_adapter)
+        if (object == d->editorWidget && d->adapter)
             return forwardKey(keyEvent);
-        if (object == m_adapter && endsEdit(keyEvent->key()))
-            m_committing = true;
+        if (object == d->adapter && endsEdit(keyEvent->key())) {
+            d->committing = true;
+            // A press beside the keypad; what the editor passes on, finishEdit() sees to.
+            if (d->closesKeyboard && !d->isFinishing && keyboard()) {
+                const int result = resultOf(keyEvent->key());
+                QTimer::singleShot(0, keyboard(), [keypad = keyboard(), result] {
+                    if (keypad->isVisible())
+                        keypad->done(result);
+                });
+            }
+        }
     }
     return QWidget::eventFilter(object, event);
 }
@@ -187,10 +310,10 @@ void IEditableTitleWidget::mousePressEvent(QMouseEvent *event)
 
 void IEditableTitleWidget::publishSelection()
 {
-    if (!m_adapter || !editor())
+    if (!d->adapter || !editor())
         return;
-    m_adapter->setProperty("selectionStart", std::max(0, editor()->selectionStart()));
-    m_adapter->setProperty("selectionLen", editor()->selectionLength());
+    d->adapter->setProperty("selectionStart", std::max(0, editor()->selectionStart()));
+    d->adapter->setProperty("selectionLen", editor()->selectionLength());
 }
 
 /// Shows what is typed in the keypad's indicator, since the keypad may cover the editor.
@@ -212,10 +335,10 @@ bool IEditableTitleWidget::isMirrored() const
 /// Shows the adapter's text as it stands after a commit or a step.
 void IEditableTitleWidget::showValue()
 {
-    if (!m_adapter || !editor())
+    if (!d->adapter || !editor())
         return;
-    const QString text = m_adapter->getInputText();
-    const int numberEnd = int(text.length() - m_adapter->getCurrentUnit().length());
+    const QString text = d->adapter->getInputText();
+    const int numberEnd = numberLength(*d->adapter);
     setEditorText(text, numberEnd, 0, numberEnd);
 }
 
@@ -228,7 +351,7 @@ bool IEditableTitleWidget::forwardKey(QKeyEvent *event)
     }
     if (!isForwarded(event->key()))
         return false;
-    QCoreApplication::sendEvent(m_adapter, event);
+    QCoreApplication::sendEvent(d->adapter, event);
     return true;
 }
 
@@ -236,9 +359,16 @@ bool IEditableTitleWidget::forwardKey(QKeyEvent *event)
 void IEditableTitleWidget::finishEdit(QKeyEvent *event)
 {
     // Set first: the adapter may close the keypad, and with that take the focus away.
-    m_committing = true;
+    d->committing = true;
+    d->isFinishing = true;
+    const int result = resultOf(event->key());
     const QPointer<IEditableTitleWidget> self(this);
-    QCoreApplication::sendEvent(m_adapter, event);
+    QCoreApplication::sendEvent(d->adapter, event);
+    if (!self)
+        return;
+    d->isFinishing = false;
+    if (d->closesKeyboard && keyboard() && keyboard()->isVisible())
+        keyboard()->done(result);
     if (!self)
         return;
     restoreKeyboardFocusProxy();
@@ -255,8 +385,11 @@ void IEditableTitleWidget::finishEdit(QKeyEvent *event)
 void IEditableTitleWidget::handleFocusChange(QWidget *old, QWidget *now)
 {
     const QPointer<IEditableTitleWidget> self(this);
-    if (now && now == m_editorWidget) {
-        onFocus();
+    if (now && now == d->editorWidget) {
+        if (std::exchange(d->isKeptOpen, false))
+            registerAtKeyboard();
+        else
+            onFocus();
         if (!self)
             return;
         mirror();
@@ -265,16 +398,22 @@ void IEditableTitleWidget::handleFocusChange(QWidget *old, QWidget *now)
     if (!old || old != editor())
         return;
 
-    const QWidget *keypad = m_keyboard;
+    const QWidget *keypad = d->keyboard;
     if (keypad && keypad->isAncestorOf(now)) {
         const bool isTextArea =
             now->parentWidget() == keypad && now->objectName() == QLatin1String("edit");
         if (!isTextArea)
             return;
     }
+    const bool isElsewhere =
+        now ? now->window() != old->window() : !old->window()->isActiveWindow();
+    if (d->keepsEntryOpen && isElsewhere && !d->committing && old->isVisible()) {
+        d->isKeptOpen = true;
+        return;
+    }
     // An editor that disappears with its keypad was closed without a commit.
     const bool closed = keypad && keypad->isHidden() && keypad->isAncestorOf(old);
-    if (!m_committing && !closed) {
+    if (!d->committing && !closed) {
         for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\n"));
             if (self && editor())
@@ -283,7 +422,7 @@ void IEditableTitleWidget::handleFocusChange(QWidget *old, QWidget *now)
     }
     if (!self)
         return;
-    m_committing = true;
+    d->committing = true;
     restoreKeyboardFocusProxy();
     Q_EMIT focusedOut();
 }

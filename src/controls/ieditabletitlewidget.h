@@ -4,9 +4,10 @@
 
 #include <vnawidgets_export.h>
 
-#include <QPointer>
 #include <QStringList>
 #include <QWidget>
+
+#include <memory>
 
 QT_BEGIN_NAMESPACE
 class QKeyEvent;
@@ -17,6 +18,7 @@ namespace Controls
 {
 
 class BaseUnitAdapter;
+class IEditableTitleWidgetPrivate;
 class TouchNumKeyboard;
 
 /*! Wires one editor to one adapter and one keypad: what is typed reaches the adapter, the keys
@@ -50,12 +52,28 @@ public:
                          QWidget *parent = nullptr);
     ~IEditableTitleWidget() override;
 
-    /// Units for the keypad's unit keys when the adapter has none.
+    /// The adapter whose value is edited, or null.
+    BaseUnitAdapter *adapter() const;
+    /// Edits the value of another adapter from now on; null edits none. Not owned.
+    virtual void setAdapter(BaseUnitAdapter *adapter);
+
+    /// Units for the keypad's unit keys when the adapter has none. None at first.
     void setDummyDisplayUnits(const QStringList &units);
     /// Sends the keypad's focus to \a widget, and remembers where it went before.
     void overrideKeyboardFocusProxy(QWidget *widget);
     /// Takes overrideKeyboardFocusProxy() back.
     void restoreKeyboardFocusProxy();
+
+    /// Whether what is half typed stays open while another window has the focus, in place of being
+    /// committed. Default: false; true for KeypadEditor and NumericField.
+    bool keepsEntryOpen() const;
+    /// Sets keepsEntryOpen().
+    void setKeepsEntryOpen(bool keeps);
+    /// Whether a commit or Escape closes the keypad, whatever the adapter's parent is. Default:
+    /// false; true for NumericField.
+    bool closesKeyboard() const;
+    /// Sets closesKeyboard().
+    void setClosesKeyboard(bool closes);
 
 public Q_SLOTS:
     /// Begins an edit: the keypad gets the units and the adapter, the editor its text.
@@ -74,33 +92,32 @@ protected:
     /// Editor and keypad are null from the moment their destructors have run, which is before a
     /// guarded pointer notices.
     QLineEdit *editor() const;
+    /// The keypad that the editor works with, or null.
     TouchNumKeyboard *keyboard() const;
     /// True once the edit has been committed or cancelled, until the next one begins.
-    bool isCommitting() const { return m_committing; }
+    bool isCommitting() const;
+    /// Makes a keypad the one that the editor works with.
+    void setKeyboard(TouchNumKeyboard *keyboard);
     /// Gives the keypad the unit keys and the receiver of this editor.
     void registerAtKeyboard();
+    /// Shows the adapter's text with its number selected, so that typing replaces it.
+    void selectNumber();
+    /// Shows the adapter's text as it stands after a commit or a step.
+    void showValue();
 
     bool eventFilter(QObject *object, QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
 
 private:
+    void connectAdapter();
     void publishSelection();
     void mirror();
     bool isMirrored() const;
-    void showValue();
     bool forwardKey(QKeyEvent *event);
     void finishEdit(QKeyEvent *event);
     void handleFocusChange(QWidget *old, QWidget *now);
 
-    QPointer<QWidget> m_keyboard; ///< see keyboard()
-    QPointer<BaseUnitAdapter> m_adapter;
-    bool m_committing = false;
-    QPointer<QWidget> m_savedFocusProxy;
-    bool m_focusProxyOverridden = false;
-    QStringList m_dummyDisplayUnits;
-
-    QPointer<QWidget> m_editorWidget; ///< see editor()
-    int m_gestureStart = 0;
+    const std::unique_ptr<IEditableTitleWidgetPrivate> d;
 };
 
 } // namespace Controls

@@ -18,6 +18,7 @@ KeypadEditor::KeypadEditor(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter)
     edit->setAccessibleName(tr("Value"));
     edit->show();
     attachEditor(edit);
+    setKeepsEntryOpen(true);
     connect(keyboard, &QDialog::finished, this, [this] { m_entryOpen = false; });
 }
 
@@ -30,13 +31,20 @@ void KeypadEditor::setEditorText(QString text, int selectionStart, int selection
         showText(editor(), text, selectionStart, selectionLength, cursorPosition);
 }
 
+/// The number is selected at once, for keys that arrive before the event loop is reached.
+void KeypadEditor::beginEntry()
+{
+    IEditableTitleWidget::onFocus();
+    selectNumber();
+}
+
 void KeypadEditor::onFocus()
 {
     // Back from another field of the keypad, what was typed here still stands.
     if (m_entryOpen && !isCommitting())
         registerAtKeyboard();
     else
-        IEditableTitleWidget::onFocus();
+        beginEntry();
     m_entryOpen = true;
     overrideKeyboardFocusProxy(editor());
 }

@@ -34,11 +34,15 @@ public:
     ~KeypadEditor() override;
 
 public Q_SLOTS:
+    /// Shows a text, a selection and the cursor in the keypad's text area.
     void setEditorText(QString text, int selectionStart, int selectionLength,
                        int cursorPosition) override;
+    /// Begins an edit, or goes on with one that waited for the focus.
     void onFocus() override;
 
 private:
+    void beginEntry();
+
     bool m_entryOpen = false;
 };
 

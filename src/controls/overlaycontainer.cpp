@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLayout>
+#include <QPointer>
 #include <QTouchEvent>
 
 #include <algorithm>
@@ -15,8 +16,20 @@
 namespace Controls
 {
 
+class OverlayContainerPrivate
+{
+public:
+    QPointer<QWidget> host;
+    QPointer<QDialog> dialog;
+    QPointer<QWidget> anchor;
+    OverlayContainer::OutsideClickAction outsideClickAction = OverlayContainer::None;
+    OverlayContainer::DialogPlacement placement = OverlayContainer::Centered;
+    bool dimEnabled = false;
+};
+
 OverlayContainer::OverlayContainer(QWidget *parent)
     : QFrame(parent)
+    , d(std::make_unique<OverlayContainerPrivate>())
 {
     setObjectName(QStringLiteral("overlayContainer"));
     setAttribute(Qt::WA_AcceptTouchEvents);
@@ -30,22 +43,22 @@ OverlayContainer::OverlayContainer(QWidget *parent)
 OverlayContainer::~OverlayContainer()
 {
     // The dialog may be a child, which is destroyed after this class has ended.
-    if (m_dialog)
-        m_dialog->disconnect(this);
+    if (d->dialog)
+        d->dialog->disconnect(this);
 }
 
 QDialog *OverlayContainer::activeDialog() const
 {
-    return m_dialog;
+    return d->dialog;
 }
 
 void OverlayContainer::attachToHost(QWidget *host)
 {
-    if (m_host == host)
+    if (d->host == host)
         return;
-    if (m_host)
-        m_host->removeEventFilter(this);
-    m_host = host;
+    if (d->host)
+        d->host->removeEventFilter(this);
+    d->host = host;
     if (!host)
         return;
     if (parentWidget() != host) {
@@ -63,22 +76,22 @@ void OverlayContainer::showWithDialog(QDialog *dialog, OutsideClickAction action
 {
     if (!dialog)
         return;
-    if (!m_host)
+    if (!d->host)
         attachToHost(dialog->parentWidget());
-    if (m_dialog && m_dialog != dialog)
-        m_dialog->hide();
-    if (m_dialog)
+    if (d->dialog && d->dialog != dialog)
+        d->dialog->hide();
+    if (d->dialog)
         releaseDialog();
 
-    m_anchor = anchor;
-    m_outsideClickAction = action;
-    m_placement = placement;
+    d->anchor = anchor;
+    d->outsideClickAction = action;
+    d->placement = placement;
     setDimEnabled(dim);
     updateGeometryToHost();
 
     if (!dialog->isWindow() && dialog->parentWidget() != this)
         dialog->setParent(this);
-    m_dialog = dialog;
+    d->dialog = dialog;
     connect(dialog, &QDialog::finished, this, &OverlayContainer::releaseDialog);
     dialog->installEventFilter(this);
     // A press on this layer gives the focus to whoever has it already, and so takes it from nobody.
@@ -99,7 +112,7 @@ void OverlayContainer::showWithDialog(QDialog *dialog, OutsideClickAction action
     // One repaint for both. Showing runs code of the dialog, which may end anything here.
     const QPointer<OverlayContainer> self(this);
     const QPointer<QDialog> shown(dialog);
-    const QPointer<QWidget> frozen(m_host && m_host->updatesEnabled() ? m_host.data() : nullptr);
+    const QPointer<QWidget> frozen(d->host && d->host->updatesEnabled() ? d->host.data() : nullptr);
     if (frozen)
         frozen->setUpdatesEnabled(false);
     show();
@@ -109,17 +122,32 @@ void OverlayContainer::showWithDialog(QDialog *dialog, OutsideClickAction action
         frozen->setUpdatesEnabled(true);
 }
 
+OverlayContainer::OutsideClickAction OverlayContainer::outsideClickAction() const
+{
+    return d->outsideClickAction;
+}
+
+void OverlayContainer::setOutsideClickAction(OutsideClickAction action)
+{
+    d->outsideClickAction = action;
+}
+
+bool OverlayContainer::isDimEnabled() const
+{
+    return d->dimEnabled;
+}
+
 void OverlayContainer::setDimEnabled(bool dim)
 {
-    if (m_dimEnabled == dim)
+    if (d->dimEnabled == dim)
         return;
-    m_dimEnabled = dim;
+    d->dimEnabled = dim;
     updateBackground();
 }
 
 bool OverlayContainer::event(QEvent *event)
 {
-    if (!m_dialog)
+    if (!d->dialog)
         return QFrame::event(event);
 
     bool outside = false;
@@ -168,11 +196,11 @@ bool OverlayContainer::event(QEvent *event)
 
 bool OverlayContainer::eventFilter(QObject *object, QEvent *event)
 {
-    if (object == m_host && event->type() == QEvent::Resize) {
+    if (object == d->host && event->type() == QEvent::Resize) {
         updateGeometryToHost();
-    } else if (object == m_dialog && event->type() == QEvent::Resize) {
-        Utils::clampWidgetToHost(m_dialog, dialogArea());
-    } else if (object == m_dialog && event->type() == QEvent::HideToParent) {
+    } else if (object == d->dialog && event->type() == QEvent::Resize) {
+        Utils::clampWidgetToHost(d->dialog, dialogArea());
+    } else if (object == d->dialog && event->type() == QEvent::HideToParent) {
         // Hidden without having finished, the dialog must not leave the host blocked. This event
         // comes last, when the dialog has seen to its focus.
         releaseDialog();
@@ -183,21 +211,21 @@ bool OverlayContainer::eventFilter(QObject *object, QEvent *event)
 void OverlayContainer::resizeEvent(QResizeEvent *event)
 {
     QFrame::resizeEvent(event);
-    if (m_dialog)
+    if (d->dialog)
         placeDialog();
 }
 
 bool OverlayContainer::focusNextPrevChild(bool next)
 {
-    if (!m_dialog || m_dialog->isWindow())
+    if (!d->dialog || d->dialog->isWindow())
         return QFrame::focusNextPrevChild(next);
 
     QWidget *const current = QApplication::focusWidget();
-    QWidget *const start = current && m_dialog->isAncestorOf(current) ? current : m_dialog.data();
+    QWidget *const start = current && d->dialog->isAncestorOf(current) ? current : d->dialog.data();
     QWidget *widget = start;
     do {
         widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();
-        if (m_dialog->isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus)
+        if (d->dialog->isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus)
             && !widget->focusProxy() && widget->isEnabled() && widget->isVisible()) {
             widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
             return true;
@@ -210,74 +238,74 @@ void OverlayContainer::handleOutsideClick()
 {
     const QPointer<OverlayContainer> self(this);
     Q_EMIT outsideClicked();
-    if (!self || !m_dialog)
+    if (!self || !d->dialog)
         return;
-    if (m_outsideClickAction == Accept)
-        m_dialog->accept();
-    else if (m_outsideClickAction == Reject)
-        m_dialog->reject();
+    if (d->outsideClickAction == Accept)
+        d->dialog->accept();
+    else if (d->outsideClickAction == Reject)
+        d->dialog->reject();
 }
 
 void OverlayContainer::updateBackground()
 {
-    setAttribute(Qt::WA_NoSystemBackground, !m_dimEnabled);
-    setAttribute(Qt::WA_StyledBackground, m_dimEnabled);
-    setStyleSheet(m_dimEnabled
+    setAttribute(Qt::WA_NoSystemBackground, !d->dimEnabled);
+    setAttribute(Qt::WA_StyledBackground, d->dimEnabled);
+    setStyleSheet(d->dimEnabled
                       ? QStringLiteral("#overlayContainer { background-color: rgba(0, 0, 0, 80); }")
                       : QString());
 }
 
 void OverlayContainer::updateGeometryToHost()
 {
-    if (m_host)
-        setGeometry(m_host->rect());
+    if (d->host)
+        setGeometry(d->host->rect());
 }
 
 /// What the dialog has to stay inside of.
 QWidget *OverlayContainer::dialogArea()
 {
-    return m_dialog->parentWidget() == this || !m_host ? this : m_host.data();
+    return d->dialog->parentWidget() == this || !d->host ? this : d->host.data();
 }
 
 /// Puts the dialog beside the anchor, or into the middle.
 void OverlayContainer::placeDialog()
 {
     QWidget *area = dialogArea();
-    if (m_placement != LeftOfAnchor || !m_anchor) {
-        Utils::centerWidgetInHost(m_dialog, area);
+    if (d->placement != LeftOfAnchor || !d->anchor) {
+        Utils::centerWidgetInHost(d->dialog, area);
         return;
     }
     const auto placedRect = [this](const QWidget *widget) {
         const QPoint global = widget->mapToGlobal(QPoint());
         const QPoint topLeft =
-            m_dialog->isWindow() ? global : m_dialog->parentWidget()->mapFromGlobal(global);
+            d->dialog->isWindow() ? global : d->dialog->parentWidget()->mapFromGlobal(global);
         return QRect(topLeft, widget->size());
     };
-    const QRect anchorRect = placedRect(m_anchor);
-    const QPoint wanted(anchorRect.x() - m_dialog->width(), anchorRect.y());
-    m_dialog->move(Utils::boundedTopLeft(wanted, m_dialog->size(), placedRect(area), 0));
+    const QRect anchorRect = placedRect(d->anchor);
+    const QPoint wanted(anchorRect.x() - d->dialog->width(), anchorRect.y());
+    d->dialog->move(Utils::boundedTopLeft(wanted, d->dialog->size(), placedRect(area), 0));
 }
 
 /// Whether a position in this layer, or on the screen for a dialog with a window, misses the
 /// dialog.
 bool OverlayContainer::isOutside(const QPointF &position, const QPointF &globalPosition) const
 {
-    if (m_dialog->isWindow()) {
-        return !QRect(m_dialog->mapToGlobal(QPoint()), m_dialog->size())
+    if (d->dialog->isWindow()) {
+        return !QRect(d->dialog->mapToGlobal(QPoint()), d->dialog->size())
                     .contains(globalPosition.toPoint());
     }
-    return !m_dialog->geometry().contains(position.toPoint());
+    return !d->dialog->geometry().contains(position.toPoint());
 }
 
 /// Forgets the dialog and hides.
 void OverlayContainer::releaseDialog()
 {
-    if (m_dialog) {
-        m_dialog->disconnect(this);
-        m_dialog->removeEventFilter(this);
+    if (d->dialog) {
+        d->dialog->disconnect(this);
+        d->dialog->removeEventFilter(this);
     }
-    m_dialog = nullptr;
-    m_anchor = nullptr;
+    d->dialog = nullptr;
+    d->anchor = nullptr;
     setFocusProxy(nullptr);
     hide();
 }

@@ -5,7 +5,8 @@
 #include <vnawidgets_export.h>
 
 #include <QFrame>
-#include <QPointer>
+
+#include <memory>
 
 QT_BEGIN_NAMESPACE
 class QDialog;
@@ -13,6 +14,8 @@ QT_END_NAMESPACE
 
 namespace Controls
 {
+
+class OverlayContainerPrivate;
 
 /*! Covers a widget completely and carries one dialog above it: input beside the dialog goes
     nowhere, and can accept or reject the dialog. The layer hides with the dialog, however that
@@ -36,18 +39,24 @@ class VNAWIDGETS_EXPORT OverlayContainer : public QFrame
 {
     Q_OBJECT
 
+    Q_PROPERTY(bool dimEnabled READ isDimEnabled WRITE setDimEnabled)
+    Q_PROPERTY(
+        OutsideClickAction outsideClickAction READ outsideClickAction WRITE setOutsideClickAction)
+
 public:
     /// What a press beside the dialog does after outsideClicked().
     enum OutsideClickAction : int {
-        None = 0,
-        Accept = 1,
-        Reject = 2,
+        None = 0, ///< nothing more
+        Accept = 1, ///< accepts the dialog
+        Reject = 2, ///< rejects it
     };
+    Q_ENUM(OutsideClickAction)
     /// Where the dialog appears. Without an anchor it is always centred.
     enum DialogPlacement : int {
-        Centered = 0,
+        Centered = 0, ///< in the middle of the host
         LeftOfAnchor = 1, ///< touching the anchor's left edge, level with its top, inside the host
     };
+    Q_ENUM(DialogPlacement)
 
     /// Covers \a parent, hidden at first.
     explicit OverlayContainer(QWidget *parent = nullptr);
@@ -63,7 +72,12 @@ public:
     /// layer. Ignores a null dialog; takes the dialog's parent for the host if there is none.
     void showWithDialog(QDialog *dialog, OutsideClickAction action, bool dim,
                         DialogPlacement placement, QWidget *anchor);
-    void setOutsideClickAction(OutsideClickAction action) { m_outsideClickAction = action; }
+    /// What a press beside the dialog does; None at first.
+    OutsideClickAction outsideClickAction() const;
+    /// Sets outsideClickAction(), until the next showWithDialog().
+    void setOutsideClickAction(OutsideClickAction action);
+    /// Whether the host is darkened.
+    bool isDimEnabled() const;
     /// Darkens the host, or leaves it clear, which is the default. Input is blocked either way.
     void setDimEnabled(bool dim);
 
@@ -87,12 +101,7 @@ private:
     bool isOutside(const QPointF &position, const QPointF &globalPosition) const;
     void releaseDialog();
 
-    QPointer<QWidget> m_host;
-    QPointer<QDialog> m_dialog;
-    QPointer<QWidget> m_anchor;
-    OutsideClickAction m_outsideClickAction = None;
-    DialogPlacement m_placement = Centered;
-    bool m_dimEnabled = false;
+    const std::unique_ptr<OverlayContainerPrivate> d;
 };
 
 } // namespace Controls

@@ -86,6 +86,8 @@ QString ScaledUnitAdapter::convertFromBaseValue(double value, QString unit)
                                            : Utils::toString(number, decimals);
     if (text.startsWith(QLatin1Char('-')) && text.toDouble() == 0.0)
         text.remove(0, 1); // what rounds to zero has no sign
+    if (m_unitSpacing && !unit.isEmpty())
+        text += QLatin1Char(' ');
     return text + unit;
 }
 
@@ -116,18 +118,20 @@ QString ScaledUnitAdapter::findUnit(const QString &name) const
     return {};
 }
 
-/// The first unit that the value holds at least once; the last one for what is smaller than all.
+/// The largest unit that the value holds at least once; the smallest for what is smaller than all.
 QString ScaledUnitAdapter::bestUnit(double value) const
 {
-    if (m_units.isEmpty())
-        return {};
-    if (std::abs(value) < Utils::zeroThreshold)
-        return m_units.constLast();
+    QString best;
     for (const QString &unit : m_units) {
-        if (std::abs(value) >= m_unitFactors.value(unit))
-            return unit;
+        const double factor = m_unitFactors.value(unit);
+        const double bestFactor = m_unitFactors.value(best, factor);
+        const bool fits = std::abs(value) >= factor;
+        const bool bestFits = !best.isEmpty() && std::abs(value) >= bestFactor;
+        if (best.isEmpty()
+            || (fits ? !bestFits || factor > bestFactor : !bestFits && factor < bestFactor))
+            best = unit;
     }
-    return m_units.constLast();
+    return best;
 }
 
 } // namespace Controls

@@ -34,18 +34,25 @@ class VNAWIDGETS_EXPORT ScaledUnitAdapter : public BaseUnitAdapter
 public:
     /// A unit's name, which ends in an ASCII letter, and the base units it holds.
     struct Unit {
-        QString name;
-        double factor = 1.0;
+        QString name; ///<ends in an ASCII letter
+        double factor = 1.0; ///<base units in one of it; above 0
     };
 
-    /// \a units from the largest to the smallest, which is also the order of their keys. Entries
+    /// \a units in the order of their keys. Entries
     /// without a name or with a factor that is not positive are left out.
     explicit ScaledUnitAdapter(const QVector<Unit> &units, QObject *parent = nullptr);
 
+    /// Names the kind of adapter: "Scaled".
     static QString adapterType();
 
     /// Digits after the point for values shown in \a unit, in place of setDecimals().
     void setUnitDecimals(const QString &unit, int decimals);
+
+    /// Whether a space stands between number and unit, as in "2.45 GHz". Default: false. The text
+    /// changes with the next value.
+    bool hasUnitSpacing() const { return m_unitSpacing; }
+    /// Sets hasUnitSpacing().
+    void setUnitSpacing(bool spacing) { m_unitSpacing = spacing; }
 
     QString convertFromBaseValue(double value, QString unit) override;
     double convertToBase(const QString &text) override;
@@ -56,6 +63,7 @@ private:
     QString bestUnit(double value) const;
 
     QStringList m_units;
+    bool m_unitSpacing = false;
 };
 
 } // namespace Controls

@@ -34,9 +34,17 @@ double nextBelow(double mantissa)
 
 Step125Controller::~Step125Controller() = default;
 
+bool Step125Controller::setZeroThreshold(double threshold)
+{
+    if (!std::isfinite(threshold) || threshold < 0.0)
+        return false;
+    m_zeroThreshold = threshold;
+    return true;
+}
+
 void Step125Controller::stepBy(double value, int step)
 {
-    const auto [mantissa, exponent] = Utils::getScientificNotation(value);
+    const auto [mantissa, exponent] = Utils::getScientificNotation(value, m_zeroThreshold);
     if (step == 0 || mantissa == 0.0 || !std::isfinite(value)) {
         Q_EMIT stepped(value);
         return;
@@ -57,7 +65,7 @@ void Step125Controller::stepBy(double value, int step)
         if (result == value)
             result = signedScale * next(entry);
     }
-    Q_EMIT stepped(std::abs(result) < Utils::zeroThreshold ? 0.0 : result);
+    Q_EMIT stepped(std::abs(result) < m_zeroThreshold ? 0.0 : result);
 }
 
 } // namespace Controls

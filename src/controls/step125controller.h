@@ -29,6 +29,15 @@ public:
     /// Only the sign of \a step counts; 0 emits the value as it is, and so do zero and what is not
     /// finite.
     void stepBy(double value, int step) override;
+
+    /// A magnitude below this, in base units, counts as zero and is not stepped; 1e-15 by default,
+    /// as everywhere in the library. For quantities of such a size, 0.1 fF say, set less, or 0.
+    double zeroThreshold() const { return m_zeroThreshold; }
+    /// Sets zeroThreshold(); false unless it is finite and at least 0.
+    bool setZeroThreshold(double threshold);
+
+private:
+    double m_zeroThreshold = 1e-15;
 };
 
 } // namespace Controls

@@ -28,6 +28,7 @@ class VNAWIDGETS_EXPORT StepController : public QObject
     Q_OBJECT
 
 public:
+    /// Serves no adapter at first.
     explicit StepController(QObject *parent = nullptr);
     ~StepController() override;
 

@@ -60,6 +60,7 @@ TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
     d->ui.edit->setFocusPolicy(Qt::NoFocus);
     d->ui.edit->hide();
     d->ui.edit->installEventFilter(this);
+    connect(d->ui.edit, &QLineEdit::textChanged, this, &TouchNumKeyboard::indicatorTextChanged);
 
     d->labelKeys();
     d->updateMetrics();
@@ -157,7 +158,24 @@ void TouchNumKeyboard::setTitleWidget(QWidget *widget, Qt::Alignment alignment)
 void TouchNumKeyboard::setWindowTitle(const QString &title)
 {
     QDialog::setWindowTitle(title);
-    d_ptr->ui.nameLabel->setText(title);
+}
+
+/// A title that was set through the base class is one, too.
+void TouchNumKeyboard::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::WindowTitleChange)
+        d_ptr->ui.nameLabel->setText(QDialog::windowTitle());
+}
+
+QWidget *TouchNumKeyboard::hostWindow() const
+{
+    return d_ptr->chosenHost;
+}
+
+void TouchNumKeyboard::setHostWindow(QWidget *widget)
+{
+    d_ptr->chosenHost = widget ? widget->window() : nullptr;
 }
 
 void TouchNumKeyboard::setWindowTitleAlignment(Qt::Alignment alignment)
@@ -183,7 +201,7 @@ void TouchNumKeyboard::open()
     Q_D(TouchNumKeyboard);
     setWindowModality(Qt::WindowModal);
     setAttribute(Qt::WA_ShowWithoutActivating, false);
-    QMainWindow *host = d->hostWindow();
+    QWidget *host = d->hostWindow();
     if (!host) {
         if (windowFlags() != keypadDialogFlags)
             setWindowFlags(keypadDialogFlags);

@@ -57,6 +57,11 @@ class VNAWIDGETS_EXPORT TouchNumKeyboard : public QDialog
 {
     Q_OBJECT
 
+    Q_PROPERTY(QString indicatorText READ indicatorText NOTIFY indicatorTextChanged)
+    Q_PROPERTY(bool dimEnabled READ isDimEnabled WRITE setDimEnabled)
+    Q_PROPERTY(
+        PressOutsidePolicy pressOutsidePolicy READ pressOutsidePolicy WRITE setPressOutsidePolicy)
+
 public:
     /// One key of the keypad.
     struct KeySpec {
@@ -72,22 +77,34 @@ public:
         PressOutsideCancels = 2, ///< as Escape would; the default: a stray touch changes no setting
     };
 
+    Q_ENUM(PressOutsidePolicy)
+
+    /// A keypad for the main window of \a parent.
     explicit TouchNumKeyboard(QWidget *parent = nullptr);
     ~TouchNumKeyboard() override;
 
+    /// What a press beside the keypad does; PressOutsideCancels at first.
     PressOutsidePolicy pressOutsidePolicy() const;
     /// Who commits or cancels on a press outside, normally the adapter; null at first. Not owned.
     QObject *receiver() const;
+    /// The unit keys, in order; none at first.
     QList<KeySpec> shortcutKeys() const;
+    /// The widget behind the title, or null.
     QWidget *titleWidget() const;
+    /// The title; empty at first.
     QString windowTitle() const;
+    /// Alignment of the title.
     Qt::Alignment windowTitleAlignment() const;
+    /// What the text area shows.
     QString indicatorText() const;
+    /// Alignment of the text area.
     Qt::Alignment indicatorTextAlignment() const;
 
     /// Shows the keypad left of this widget instead of centred; null centres. Not owned.
     void setPopupAnchorWidget(QWidget *anchor);
+    /// Sets pressOutsidePolicy().
     void setPressOutsidePolicy(PressOutsidePolicy policy);
+    /// Sets receiver().
     void setReceiver(QObject *receiver);
     /// The unit keys in order, shown from the first. Returns true: any list is taken, and a key
     /// without a key code is shown and sends nothing.
@@ -113,11 +130,18 @@ public:
     /// the active window alone, so that its keys reach the focused editor of any window.
     void showGlobal();
 
+    /// The window that open() and exec() cover; null, the default, for the main window of the parent
+    /// or else the first one there is. Where that is not visible, the anchor's window is.
+    QWidget *hostWindow() const;
+    /// Sets hostWindow() to the window of this widget, which need not be a main window. Not owned.
+    void setHostWindow(QWidget *widget);
     /// Dims what lies behind the keypad while it is embedded in a main window. Default: false.
     bool isDimEnabled() const;
+    /// Sets isDimEnabled(), at once.
     void setDimEnabled(bool dim);
     /// Puts a widget below the text area, in full width, and owns it; the one before is deleted.
     void setExtraWidget(QWidget *widget);
+    /// The widget below the text area, or null.
     QWidget *extraWidget() const;
     /// The text area, which is the editor of a KeypadEditor; an event filter installed here sees keys
     /// before the editor does. Never null.
@@ -127,11 +151,16 @@ Q_SIGNALS:
     /// Gestures on the indicator: the cursor position in its text that is nearest to the pointer.
     /// Moves are told between press and release.
     void indicatorDoubleClick(int position);
+    /// A press on it.
     void indicatorPress(int position);
+    /// A move over it while pressed.
     void indicatorMove(int position);
+    /// The release after a press.
     void indicatorRelease(int position);
     /// A wheel turn over the indicator; accept the event to use it up.
     void indicatorWheel(QWheelEvent *event);
+    /// The text of the text area has changed, by whomever.
+    void indicatorTextChanged(const QString &text);
 
 protected:
     bool event(QEvent *event) override;
@@ -140,6 +169,8 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+
+    void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
     void clickedKey();

@@ -122,8 +122,19 @@ void TouchNumKeyboardPrivate::updateMetrics()
     ui.edit->setMinimumHeight(std::max(high(11.0), ui.edit->fontMetrics().height() * 3 / 2));
 }
 
-/// The main window that the keypad covers: that of its parent, or else the first there is.
-QMainWindow *TouchNumKeyboardPrivate::hostWindow() const
+/// The window that the keypad covers: the host's choice, or else the main window; where that is
+/// not to be seen, the anchor's. Null for a dialog of its own.
+QWidget *TouchNumKeyboardPrivate::hostWindow() const
+{
+    if (chosenHost)
+        return chosenHost;
+    QWidget *const window = mainWindow();
+    const bool isSeen = window && window->isVisible();
+    return !isSeen && popupAnchor && popupAnchor->isVisible() ? popupAnchor->window() : window;
+}
+
+/// That of the parent, or else the first there is.
+QMainWindow *TouchNumKeyboardPrivate::mainWindow() const
 {
     if (const QWidget *parent = q->parentWidget()) {
         if (auto *window = qobject_cast<QMainWindow *>(parent->window()))
@@ -138,7 +149,7 @@ QMainWindow *TouchNumKeyboardPrivate::hostWindow() const
 }
 
 /// Embeds the keypad in a main window, above an overlay that covers it.
-void TouchNumKeyboardPrivate::showOver(QMainWindow *host)
+void TouchNumKeyboardPrivate::showOver(QWidget *host)
 {
     OverlayContainer *current = overlay();
     if (!current || current->parentWidget() != host) {

@@ -49,10 +49,11 @@ public:
     void updateEnterKey();
     void updateMetrics();
 
-    QMainWindow *hostWindow() const;
+    QWidget *hostWindow() const;
+    QMainWindow *mainWindow() const;
     /// Null from the moment the overlay's destructor has run, when its guarded pointer is not yet.
     OverlayContainer *overlay() const { return qobject_cast<OverlayContainer *>(overlayWidget); }
-    void showOver(QMainWindow *host);
+    void showOver(QWidget *host);
     void leaveOverlay();
     void pressOutside();
     void letGo();
@@ -65,6 +66,7 @@ public:
     QMap<QPushButton *, KeySpec> basicButtons;
     UnitColumn units;
     QPointer<QObject> receiver;
+    QPointer<QWidget> chosenHost;
     QPointer<QWidget> popupAnchor;
     QPointer<QWidget> titleWidget;
     QPointer<QWidget> extraWidget;

@@ -42,10 +42,14 @@ public:
     /// no items.
     Marker(QCustomPlot *plot, int id, MarkerType type);
     ~Marker();
+    /// Takes the other's items over, and leaves it without.
     Marker(Marker &&other) noexcept;
+    /// The same; items of its own leave the plot.
     Marker &operator=(Marker &&other) noexcept;
 
+    /// The number that the host gave.
     int getId() const { return m_id; }
+    /// Which way it points.
     MarkerType getType() const { return m_type; }
     /// The text item, or null.
     QCPItemText *getLabel() const { return m_label; }
@@ -54,8 +58,11 @@ public:
     /// Whether both items exist and are visible.
     bool isVisible() const;
 
+    /// Shows or hides triangle and label.
     void setVisible(bool visible);
+    /// Sets which way it points.
     void setType(MarkerType type);
+    /// Sets what it is drawn as.
     void setShape(TracerShape shape);
     /// Draws the triangle with \a pen and \a brush and the text in the pen's colour. Does not
     /// replot.
@@ -64,10 +71,12 @@ public:
     /// Places the marker on a data point; a fraction interpolates towards the next one, and an
     /// index outside the data counts as its end. False without data. Does not replot.
     bool setPosition(QCPCurve *curve, double index);
+    /// The same on a graph.
     bool setPosition(QCPGraph *graph, double index);
     /// Places the marker at plot coordinates on the plottable's axes; false, without moving it, for
     /// coordinates that are not finite. Does not replot.
     bool setPositionCoordinates(QCPCurve *curve, double x, double y);
+    /// The same on a graph.
     bool setPositionCoordinates(QCPGraph *graph, double x, double y);
 
 private:

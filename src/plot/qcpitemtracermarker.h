@@ -36,11 +36,14 @@ public:
     explicit QCPItemTracerMarker(QCustomPlot *parentPlot);
     ~QCPItemTracerMarker() override;
 
+    /// Sets what it is drawn as.
     void setShape(TracerShape shape) { m_shape = shape; }
+    /// What it is drawn as; a triangle at first.
     TracerShape shape() const { return m_shape; }
 
     /// True (the default): the triangle stands above its point; false: it hangs below.
     void setPointingDown(bool down) { m_pointingDown = down; }
+    /// Whether its tip points down.
     bool isPointingDown() const { return m_pointingDown; }
 
     /// 0 inside the triangle, up to 8 the distance in pixels from the apex, else -1.
@@ -51,6 +54,7 @@ public:
     bool anchorInsideAxisRect() const;
 
 protected:
+    /// Draws the shape around the position.
     void draw(QCPPainter *painter) override;
 
 private:

@@ -21,31 +21,32 @@ namespace SmithChart
 
 /// Runs of points: x[k] and y[k] have equal lengths and make one connected line.
 struct Runs {
-    QVector<QVector<double>> x;
-    QVector<QVector<double>> y;
+    QVector<QVector<double>> x; ///< real parts, a list a run
+    QVector<QVector<double>> y; ///< imaginary parts
 };
 
 /// Text labels; the three lists have equal lengths.
 struct GridLabels {
-    QVector<double> x;
-    QVector<double> y;
-    QVector<QString> text;
+    QVector<double> x; ///< where it stands: real part
+    QVector<double> y; ///< imaginary part
+    QVector<QString> text; ///< what it says
 };
 
 /// One of the two charts: the first runs are the resistance (conductance) circles, one a value, in
 /// order; the others are the reactance (susceptance) arcs.
 struct ChartGrid {
-    Runs circles;
-    GridLabels labels;
+    Runs circles; ///< circles, then arcs
+    GridLabels labels; ///< of the values
 };
 
+/// Both charts, the rim and the real axis.
 struct Grid {
-    ChartGrid impedance;
-    ChartGrid admittance;
+    ChartGrid impedance; ///< circles of resistance, arcs of reactance
+    ChartGrid admittance; ///< circles of conductance, arcs of susceptance
     QVector<double> boundaryX; ///< the unit circle, samples + 1 points
-    QVector<double> boundaryY;
+    QVector<double> boundaryY; ///< as many
     QVector<double> realAxisX; ///< the horizontal diameter, 2 points
-    QVector<double> realAxisY;
+    QVector<double> realAxisY; ///< 2 points
 };
 
 /*! Appends the parts of a circle that lie inside the unit disk, one run an arc. The circle is

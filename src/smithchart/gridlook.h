@@ -26,7 +26,7 @@ struct GridLook {
     /// Of the admittance lines where both charts are shown; as linePen without a value.
     std::optional<QPen> admittancePen;
     QPen boundaryPen{QBrush(defaultGridColor()), 1.0, Qt::SolidLine}; ///< of the rim
-    QColor labelColor = defaultGridColor();
+    QColor labelColor = defaultGridColor(); ///< of all labels
     std::optional<QFont> labelFont; ///< the plot's own family in 8 points without a value
     std::optional<QBrush> background; ///< of the plot
     /// Draws the admittance labels on the other side of axis and rim, so that those of both charts

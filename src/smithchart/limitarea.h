@@ -19,21 +19,22 @@ namespace SmithChart
 struct LimitResult {
     /// Points that fail one after the other, both ends included.
     struct Stretch {
-        int first;
-        int last;
+        int first; ///<index of its first point
+        int last; ///<index of its last point
     };
 
     int firstFailing = -1; ///< index, or -1
     QVector<Stretch> failing; ///< ascending; no two touch
     int tested = 0; ///< points that were judged: finite, and in the range
 
+    /// Whether no point failed.
     bool passed() const { return firstFailing < 0; }
 };
 
 /// A range of stimulus values, both ends included.
 struct StimulusRange {
-    double low;
-    double high;
+    double low; ///<the least stimulus that counts
+    double high; ///<the greatest one
 };
 
 /*! An area of a Smith chart that a trace must stay in, or keep out of. Coordinates are real and
@@ -52,6 +53,7 @@ struct StimulusRange {
 class VNAWIDGETS_EXPORT LimitArea
 {
 public:
+    /// Which points pass.
     enum Rule {
         StayInside,
         KeepOut,
@@ -69,10 +71,13 @@ public:
     /// Where it crosses itself, points with an odd winding are inside.
     bool setPolygon(const QPolygonF &polygon, Rule rule);
 
+    /// Whether it has no area yet, and so fails nothing.
     bool isEmpty() const { return !m_shape; }
+    /// Which points pass; StayInside at first.
     Rule rule() const { return m_rule; }
     /// Its outline; empty if nothing was set.
     QPainterPath outline() const;
+    /// Whether a point of the plane lies in the area or on its border.
     bool contains(const QPointF &point) const;
     /// Whether a point obeys the rule.
     bool permits(const QPointF &point) const;

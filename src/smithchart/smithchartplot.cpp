@@ -13,8 +13,9 @@ SmithChartPlot::SmithChartPlot(QCustomPlot *plot, QCPAxis *xAxis, QCPAxis *yAxis
     : QObject(parent)
     , d(std::make_unique<SmithChartPlotPrivate>(this, plot, preset))
 {
-    // For hosts that queue or spy on the double click signals.
+    // For hosts that queue or spy on signals.
     qRegisterMetaType<Qt::KeyboardModifiers>("Qt::KeyboardModifiers");
+    qRegisterMetaType<GridMode>("SmithChartPlot::GridMode");
     if (!plot)
         return;
     d->m_xAxis = xAxis ? xAxis : plot->xAxis;

@@ -55,13 +55,21 @@ class VNAWIDGETS_EXPORT SmithChartPlot : public QObject
 {
     Q_OBJECT
 
+    Q_PROPERTY(GridMode gridMode READ gridMode WRITE setGridMode NOTIFY gridModeChanged)
+    Q_PROPERTY(int activeTrace READ activeTrace WRITE setActiveTrace NOTIFY activeTraceChanged)
+    Q_PROPERTY(bool onlyHandleActiveTrace READ onlyHandleActiveTrace WRITE setOnlyHandleActiveTrace)
+    Q_PROPERTY(bool gridFollowsView READ gridFollowsView WRITE setGridFollowsView)
+    Q_PROPERTY(bool followsTheme READ followsTheme WRITE setFollowsTheme)
+    Q_PROPERTY(double maximumZoom READ maximumZoom WRITE setMaximumZoom)
+
 public:
     /// Which charts the grid shows.
     enum GridMode : int {
-        Impedance = 0,
-        Admittance = 1,
-        ImpedanceAndAdmittance = 2,
+        Impedance = 0, ///< circles of resistance and reactance
+        Admittance = 1, ///< circles of conductance and susceptance
+        ImpedanceAndAdmittance = 2, ///< both
     };
+    Q_ENUM(GridMode)
 
     /*! \name Construction, layers, replot (smithchartplot.cpp)
         @{ */
@@ -90,6 +98,7 @@ public:
 
     /// Shows the impedance grid, the admittance grid or both. Default: Impedance.
     void setGridMode(GridMode mode);
+    /// Which charts the grid shows.
     GridMode gridMode() const;
     /// Fills the point and label lists of a grid for normalised \a resistances and \a reactances,
     /// with \a samples steps a full circle. Every output is cleared first; x and y lists have equal
@@ -113,6 +122,7 @@ public:
     Q_INVOKABLE bool addCurve(int traceId, const QPen &pen);
     /// Removes a trace with its markers; false if there is none of this id.
     bool removeCurve(int traceId);
+    /// Removes all traces with their markers.
     void clearAllCurves();
     /// Replaces a trace's data: reflection coefficients by \a real and \a imag, cut to the shorter
     /// of both, at the stimulus values \a frequencies (0, 1, 2, ... if these are fewer). NaN makes
@@ -122,6 +132,7 @@ public:
     /// Hands out the stored data, valid until the trace changes; false if there is no such trace.
     bool sourceCurveData(int traceId, const QVector<double> *&frequencies,
                          const QVector<double> *&real, const QVector<double> *&imag) const;
+    /// Sets colour and style of a trace and its markers; false for an unknown id.
     bool setCurvePen(int traceId, const QPen &pen);
     /// Shows or hides a trace; the grid is shown exactly while at least one trace is.
     bool setCurveVisible(int traceId, bool visible);
@@ -137,15 +148,18 @@ public:
     /// Draws a trace above the others; an id of 0 or less leaves none active. False for an unknown
     /// id.
     bool setActiveTrace(int traceId);
+    /// Leaves no trace active.
     void clearActiveTrace();
     /// The id given to setActiveTrace(), or -1 when there is none.
     int activeTrace() const;
+    /// Whether activeTrace() is above 0.
     bool hasActiveTrace() const;
     /*! @} */
 
     /*! \name View (smithchartplot_view.cpp)
         @{ */
 
+    /// Centre and magnification of the view.
     SmithChart::ViewState viewState() const;
     /// Shows the whole chart.
     void resetView();
@@ -163,6 +177,7 @@ public:
 
     /// Whether double clicks and marker drags are confined to the active trace. Default: true.
     bool onlyHandleActiveTrace() const;
+    /// Sets onlyHandleActiveTrace().
     void setOnlyHandleActiveTrace(bool only);
     /// Reports the trace point within 15 pixels of \a pos (plot widget pixels) through a signal;
     /// false if there is none. The host calls it from its own double click or double tap.
@@ -177,33 +192,48 @@ public:
 
     /// traceId x 100 + localId.
     static int makeMarkerId(int traceId, int localId);
+    /// The trace and number of an id; 0 and -1 for one below 1.
     static void parseMarkerId(int id, int &traceId, int &localId);
     /// Adds a marker at a fractional index into the trace's data. One outside the data is kept
     /// hidden until setMarkerIndex() and setMarkerVisible(). False for an unknown trace, a pair
     /// that exists, or a number above 99.
     bool addMarkerVisual(int traceId, int localId, double sourceIndex, Plot::MarkerType type);
+    /// Removes a marker; false if there is none.
     bool removeMarkerVisual(int traceId, int localId);
+    /// Removes all markers.
     void clearAllMarkers();
     /// Draws a marker selected; false if it does not exist or its trace is hidden.
     bool selectMarker(int traceId, int localId);
+    /// Draws no marker selected.
     void clearMarkerSelection();
+    /// The selected marker; false, without touching either, when there is none.
     bool getSelectedMarker(int &traceId, int &localId) const;
+    /// A marker, or null. It belongs to the chart.
     Plot::Marker *getMarker(int traceId, int localId);
+    /// The same, for a chart that is only read.
     const Plot::Marker *getMarker(int traceId, int localId) const;
+    /// The markers of a trace, in the order they were added.
     QVector<const Plot::Marker *> markers(int traceId) const;
+    /// Whether any marker is shown.
     bool hasVisibleMarkers() const;
     /// Moves a marker along its trace, interpolating between points; false outside the data.
     bool setMarkerIndex(int traceId, int localId, double sourceIndex);
+    /// Sets the text beside a marker; false for an unknown one.
     bool setMarkerLabelText(int traceId, int localId, const QString &text);
+    /// Shows or hides a marker; false for an unknown one.
     bool setMarkerVisible(int traceId, int localId, bool visible);
     /// Drives a drag from input that does not reach the plot as mouse events; points are plot
     /// widget pixels. True if a marker was caught.
     bool beginMarkerDragAt(const QPoint &pos);
+    /// Goes on with that drag.
     void updateMarkerDragAt(const QPoint &pos);
+    /// Ends it.
     void endMarkerDragAt(const QPoint &pos);
+    /// Whether a marker is being dragged, by whatever input.
     bool isDraggingMarker() const;
     /// How near a press must be to catch a marker, in logical pixels. Default: 18.
     double markerHitTolerancePx() const;
+    /// Sets markerHitTolerancePx().
     void setMarkerHitTolerancePx(double px);
     /*! @} */
 
@@ -213,6 +243,7 @@ public:
     /// Whether a press on the plot catches the marker under it. Default: true. A host that decides
     /// by itself what a finger means turns it off and calls beginMarkerDrag().
     bool pressDragsMarkers() const;
+    /// Sets pressDragsMarkers().
     void setPressDragsMarkers(bool drags);
     /// What a press on this marker does: asks for its selection and begins to drag it, until the
     /// left button is released. False for an unknown marker, and when the host has removed it.
@@ -229,13 +260,16 @@ public:
     /// Draws, in place of the preset's values, a grid whose lines and labels follow the view: at
     /// every magnification they stand some 30 to 70 pixels apart. Default: false.
     void setGridFollowsView(bool follows);
+    /// Whether the grid follows the view.
     bool gridFollowsView() const;
     /// Labels that grid in ohms and siemens, at round values of these, for a reference impedance.
     /// Without one, the default, values are normalised. False unless it is finite and above 0.
     bool setGridReference(std::optional<double> ohms);
+    /// The reference impedance in ohms, or none.
     std::optional<double> gridReference() const;
     /// Pens, font and colours of the grid.
     void setGridLook(const SmithChart::GridLook &look);
+    /// How the grid looks.
     SmithChart::GridLook gridLook() const;
     /*! Takes the colours of ground, grid and labels from Controls::ThemeManager, now and at every
         themeChanged(), and draws no lines along the axes. What gridLook() says besides colours
@@ -245,15 +279,18 @@ public:
     bool followsTheme() const;
     /// How far the view may be magnified: 1 to 1,000,000, else false. Default: 20.
     bool setMaximumZoom(double zoom);
+    /// How far the view may be magnified.
     double maximumZoom() const;
     /// The axes of real and imaginary part; null once they are gone.
     QCPAxis *xAxis() const;
+    /// The axis of the imaginary part, likewise.
     QCPAxis *yAxis() const;
     /// Keeps a dragged marker on its branch where a trace crosses itself: it moves to the nearest
     /// point that it can reach along the trace, and to another only if that one is farther from
     /// the pointer than \a px logical pixels; a line shows where the pointer is. 0, the default:
     /// to the nearest point always. False unless it is finite and at least 0.
     bool setMarkerDragJumpPx(double px);
+    /// See setMarkerDragJumpPx().
     double markerDragJumpPx() const;
     /*! @} */
 
@@ -267,12 +304,23 @@ Q_SIGNALS:
     void markerDeleteRequested(int traceId, int localId);
     /// A dragged marker is asked to move to a point of its trace.
     void markerPositionChanged(int traceId, int localId, double dataIndex);
+    /// A marker was drawn selected.
     void markerSelected(int traceId, int localId);
+    /// No marker is drawn selected any more.
     void markerSelectionCleared();
+    /// A press has caught a marker. One of a trace that is not active follows only where
+    /// onlyHandleActiveTrace() is off: otherwise neither of the next two is told.
     void markerDragStarted(int traceId, int localId);
+    /// A drag has ended, with the marker at the index that the host last set.
     void markerDragFinished(int traceId, int localId, double finalDataIndex);
     /// A press on or near a marker asks for it to be selected.
     void markerSelectionRequested(int traceId, int localId);
+    /// Another trace is active, or none: its id, or what setActiveTrace() was given.
+    void activeTraceChanged(int traceId);
+    /// A trace was shown or hidden.
+    void curveVisibleChanged(int traceId, bool visible);
+    /// The grid shows other charts.
+    void gridModeChanged(SmithChartPlot::GridMode mode);
 
 private:
     friend class SmithLimit;

@@ -275,7 +275,10 @@ void SmithChartPlot::setGridMode(GridMode mode)
         return;
     d->m_gridMode = mode;
     d->syncGridFlags();
+    const QPointer<SmithChartPlot> self(this);
     d->applyGridChange();
+    if (self)
+        Q_EMIT gridModeChanged(mode);
 }
 
 bool SmithChartPlot::gridFollowsView() const

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace
 {
@@ -70,10 +71,13 @@ bool SmithChartPlot::removeCurve(int traceId)
             plot->removePlottable(curve);
         d->m_curves.remove(index);
     }
-    if (d->m_activeTraceId == traceId)
+    const bool wasActive = d->m_activeTraceId == traceId;
+    if (wasActive)
         d->m_activeTraceId = -1;
     d->setGridVisible(d->anyCurveVisible());
     d->requestQueuedReplot();
+    if (self && wasActive)
+        Q_EMIT activeTraceChanged(-1);
     return true;
 }
 
@@ -91,9 +95,11 @@ void SmithChartPlot::clearAllCurves()
             plot->removePlottable(record.curve);
     }
     d->m_curves.clear();
-    d->m_activeTraceId = -1;
+    const bool hadActive = std::exchange(d->m_activeTraceId, -1) != -1;
     d->setGridVisible(false);
     d->requestQueuedReplot();
+    if (self && hadActive)
+        Q_EMIT activeTraceChanged(-1);
 }
 
 bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencies,
@@ -181,9 +187,13 @@ bool SmithChartPlot::setCurveVisible(int traceId, bool visible)
     auto *const record = d->findTrace(traceId);
     if (!record || !record->curve)
         return false;
+    const bool changes = record->curve->visible() != visible;
     record->curve->setVisible(visible);
     d->setGridVisible(d->anyCurveVisible());
+    const QPointer<SmithChartPlot> self(this);
     d->requestQueuedReplot();
+    if (self && changes)
+        Q_EMIT curveVisibleChanged(traceId, visible);
     return true;
 }
 
@@ -254,18 +264,26 @@ bool SmithChartPlot::setActiveTrace(int traceId)
         qWarning() << "SmithChartPlot::setActiveTrace: traceId" << traceId << "not found";
         return false;
     }
+    const bool changes = d->m_activeTraceId != traceId;
     d->moveCurveToLayer(d->m_activeTraceId, SmithLayers::tracers());
     d->m_activeTraceId = traceId;
     d->moveCurveToLayer(d->m_activeTraceId, SmithLayers::activeTracers());
+    const QPointer<SmithChartPlot> self(this);
     d->requestQueuedReplot();
+    if (self && changes)
+        Q_EMIT activeTraceChanged(traceId);
     return true;
 }
 
 void SmithChartPlot::clearActiveTrace()
 {
+    const bool changes = d->m_activeTraceId != -1;
     d->moveCurveToLayer(d->m_activeTraceId, SmithLayers::tracers());
     d->m_activeTraceId = -1;
+    const QPointer<SmithChartPlot> self(this);
     d->requestQueuedReplot();
+    if (self && changes)
+        Q_EMIT activeTraceChanged(-1);
 }
 
 /// Moves a trace to another layer; does nothing for a trace that does not exist.

@@ -47,9 +47,11 @@ public:
 
     /// Drawn at the highest point in view. Default: none.
     void setLabel(const QString &label);
+    /// What stands beside the circle.
     QString label() const;
     /// Of circle and label; without one, the default, both take the theme's text colour.
     void setPen(std::optional<QPen> pen);
+    /// The pen; none: the theme's text colour.
     std::optional<QPen> pen() const;
 
     /// -1: a circle is never hit.
@@ -57,6 +59,7 @@ public:
                       QVariant *details = nullptr) const override;
 
 protected:
+    /// Draws circle and label, as far as they are in view.
     void draw(QCPPainter *painter) override;
 
 private:

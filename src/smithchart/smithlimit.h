@@ -37,13 +37,16 @@ public:
 
     /// Shows another area; what failed before is forgotten.
     void setArea(const SmithChart::LimitArea &area);
+    /// The area; empty at first.
     SmithChart::LimitArea area() const;
     /// Judges only points whose stimulus lies in a range; none, the default: all.
     void setStimulusRange(std::optional<SmithChart::StimulusRange> range);
     /// Of the border, of the area (lighter), and of what fails. Defaults: the theme's text
     /// colour, and red.
     void setColors(const QColor &area, const QColor &failing);
+    /// Shows or hides the area and what fails.
     void setVisible(bool visible);
+    /// Whether it is shown; true at first.
     bool isVisible() const;
 
     /// Tests a trace of the chart, and draws its failing points. An unknown trace has no points.

@@ -12,17 +12,21 @@ namespace SmithRender
 /// depend on.
 struct Viewport {
     double xMin = -1.0; ///< lower end of the x axis (real part)
-    double xMax = 1.0;
+    double xMax = 1.0; ///< its upper end
     double yMin = -1.0; ///< lower end of the y axis (imaginary part)
-    double yMax = 1.0;
+    double yMax = 1.0; ///< its upper end
     int width = 0; ///< of the axis rectangle, in logical pixels
-    int height = 0;
+    int height = 0; ///< likewise
     double devicePixelRatio = 1.0; ///< device pixels per logical pixel, at least 1
     double tolerancePx = 0.5; ///< how far a drawn line may stray from the points, in device pixels
 
+    /// Length of the range of the x axis.
     double xSpan() const { return xMax - xMin; }
+    /// Length of the range of the y axis.
     double ySpan() const { return yMax - yMin; }
+    /// Width in device pixels.
     double deviceWidth() const { return width * devicePixelRatio; }
+    /// Height in device pixels.
     double deviceHeight() const { return height * devicePixelRatio; }
 
     /// Whether points can be projected: finite ranges of positive span, a size, a ratio of at least
@@ -45,6 +49,7 @@ inline bool operator==(const Viewport &a, const Viewport &b)
         && a.tolerancePx == b.tolerancePx;
 }
 
+/// Exact comparison.
 inline bool operator!=(const Viewport &a, const Viewport &b)
 {
     return !(a == b);

@@ -26,16 +26,16 @@ constexpr double magnifiedThreshold = 1.000000001; ///< a zoom up to this counts
 
 /// Half the lengths of the two axis ranges.
 struct HalfRanges {
-    double x;
-    double y;
+    double x; ///< of the real part
+    double y; ///< of the imaginary part
 };
 
 /// Both axis ranges, lower and upper ends.
 struct ViewRanges {
-    double xLower;
-    double xUpper;
-    double yLower;
-    double yUpper;
+    double xLower; ///< real part at the left
+    double xUpper; ///< at the right
+    double yLower; ///< imaginary part at the bottom
+    double yUpper; ///< at the top
 };
 
 /// The half ranges at zoom 1 for an axis rectangle of \a width x \a height pixels (each at least
@@ -69,6 +69,7 @@ inline bool operator==(const ViewState &a, const ViewState &b)
     return a.centerX == b.centerX && a.centerY == b.centerY && a.zoom == b.zoom;
 }
 
+/// Exact comparison.
 inline bool operator!=(const ViewState &a, const ViewState &b)
 {
     return !(a == b);

@@ -24,9 +24,14 @@ QString toString(double value, int precision)
 
 std::pair<double, int> getScientificNotation(double value)
 {
+    return getScientificNotation(value, zeroThreshold);
+}
+
+std::pair<double, int> getScientificNotation(double value, double threshold)
+{
     if (!std::isfinite(value))
         return {value, 0};
-    if (std::abs(value) < zeroThreshold)
+    if (value == 0.0 || std::abs(value) < threshold)
         return {0.0, 0};
 
     // One step a decade and no logarithm: the step controllers compare the mantissa exactly, and

@@ -33,6 +33,8 @@ VNAWIDGETS_EXPORT QString toString(double value, int precision);
 /// what counts as zero give (0, 0); a value that is not finite is returned as it is, with exponent
 /// 0.
 VNAWIDGETS_EXPORT std::pair<double, int> getScientificNotation(double value);
+/// The same where only a magnitude below \a threshold counts as zero; at 0 nothing but zero does.
+VNAWIDGETS_EXPORT std::pair<double, int> getScientificNotation(double value, double threshold);
 
 /// True for 1, 2 or 5 times a power of ten of either sign, and for what counts as zero.
 VNAWIDGETS_EXPORT bool isStep125Value(double value);

@@ -34,6 +34,7 @@ class VNAWIDGETS_EXPORT PropertyWatcher : public QObject
     Q_OBJECT
 
 public:
+    /// Watches nothing at first.
     explicit PropertyWatcher(QObject *parent = nullptr);
     ~PropertyWatcher() override;
 

@@ -29,10 +29,12 @@ class VNAWIDGETS_EXPORT AbstractButton : public QAbstractButton
     Q_PROPERTY(bool clickable READ clickable WRITE setClickable)
 
 public:
+    /// A button without a text.
     explicit AbstractButton(QWidget *parent = nullptr);
 
     /// Whether the button answers the user. Default: true.
     bool clickable() const { return m_clickable; }
+    /// Sets clickable(); the look stays.
     void setClickable(bool clickable);
 
     QSize sizeHint() const override;

@@ -38,6 +38,7 @@ class VNAWIDGETS_EXPORT DisplayPanel : public QWidget
     Q_OBJECT
 
 public:
+    /// Shows and sets the layout of \a profile, which is not owned and may be null.
     explicit DisplayPanel(Graph::LayoutManagerProifle *profile, QWidget *parent = nullptr);
     ~DisplayPanel() override;
 

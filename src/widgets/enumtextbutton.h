@@ -32,11 +32,13 @@ class VNAWIDGETS_EXPORT EnumTextButton : public LabelButton
 {
     Q_OBJECT
 
+    Q_PROPERTY(int currentValue READ currentValue WRITE setCurrentEnum NOTIFY currentItemToggled)
+
 public:
     /// One choice: what it means to the host, and what the user reads.
     struct EnumSpec {
-        int value;
-        QString text;
+        int value; ///<what it means to the host
+        QString text; ///<what the user reads
 
         friend bool operator==(const EnumSpec &a, const EnumSpec &b)
         {
@@ -45,15 +47,19 @@ public:
         friend bool operator!=(const EnumSpec &a, const EnumSpec &b) { return !(a == b); }
     };
 
+    /// A button without choices.
     explicit EnumTextButton(QWidget *parent = nullptr);
     ~EnumTextButton() override;
 
     /// The choices in display order. Setting them leaves the current choice as it is.
     QList<EnumSpec> enums() const { return m_enums; }
+    /// Sets the choices.
     void setEnums(const QList<EnumSpec> &enums);
 
     /// Value 0 and no text until something is chosen.
     EnumSpec currentEnumSpec() const { return {m_currentValue, m_currentText}; }
+    /// The value of the current choice; 0 at first.
+    int currentValue() const { return m_currentValue; }
     /// Shows any value and text, also one that is not in the list. False when it is shown already.
     bool setCurrentEnum(const EnumSpec &spec);
     /// Shows the first choice of that value, and tells so even when it was shown already. False,
@@ -62,21 +68,34 @@ public:
 
     /// \name The list, see PopupWidget
     ///@{
+
+    /// Size of a tile in pixels. Default: 120 x 100.
     void setIconSize(int width, int height);
+    /// See setIconSize().
     QSize iconSize() const;
+    /// Columns of tiles. Default: 4.
     void setItemCountPerRow(int count);
+    /// See setItemCountPerRow().
     int itemCountPerRow() const;
+    /// Enables or disables the first choice of this text.
     void setItemEnabled(const QString &text, bool enabled);
+    /// Enables or disables the choice at an index.
     void setItemEnabled(int index, bool enabled);
+    /// Sets the title, and shows it.
     void setTitleText(const QString &text);
+    /// The title of the list; empty at first.
     QString titleText() const;
+    /// Sets titleVisible().
     void setTitleVisible(bool visible);
+    /// Whether the title is shown. Default: false.
     bool titleVisible() const;
+    /// Rows (QListView::ListMode, the default) or tiles.
     void setViewMode(QListView::ViewMode mode);
     ///@}
 
     /// Whether a list taller than its screen scrolls inside; see PopupWidget. Default: false.
     bool listScrollsInside() const;
+    /// Sets listScrollsInside().
     void setListScrollsInside(bool scrolls);
 
 public Q_SLOTS:

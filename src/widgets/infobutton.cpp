@@ -37,7 +37,20 @@ QString InfoButton::text() const
 
 void InfoButton::setText(const QString &text)
 {
+    if (m_nameLabel->text() == text)
+        return;
     m_nameLabel->setText(text);
+    Q_EMIT textChanged(text);
+}
+
+bool InfoButton::event(QEvent *event)
+{
+    if (event->type() == QEvent::Paint && !QAbstractButton::text().isEmpty()) {
+        const QString text = QAbstractButton::text();
+        QAbstractButton::setText({});
+        setText(text);
+    }
+    return AbstractButton::event(event);
 }
 
 QWidget *InfoButton::infoWidget() const

@@ -35,21 +35,25 @@ class VNAWIDGETS_EXPORT InfoButton : public AbstractButton
     Q_PROPERTY(LayoutType layoutType READ layoutType WRITE setLayoutType)
     Q_PROPERTY(Qt::Alignment textAlignment READ textAlignment WRITE setTextAlignment)
     Q_PROPERTY(QMargins textMargins READ textMargins WRITE setTextMargins)
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
 
 public:
     /// Where the name stands, then where the information stands.
     enum LayoutType : int {
-        TopBottom = 0,
-        LeftRight = 1,
-        BottomTop = 2,
-        RightLeft = 3,
+        TopBottom = 0, ///<name above information
+        LeftRight = 1, ///<name left of it
+        BottomTop = 2, ///<name below it
+        RightLeft = 3, ///<name right of it
     };
     Q_ENUM(LayoutType)
 
+    /// A button without name and information.
     explicit InfoButton(QWidget *parent = nullptr);
 
-    /// The name. The text of QAbstractButton stays empty.
+    /// The name. The text of QAbstractButton stays empty: one that is set there, through a pointer to
+    /// the base class, becomes the name when the button is drawn.
     QString text() const;
+    /// Sets the name.
     void setText(const QString &text);
 
     /// The widget in the information cell; null after somebody deleted it or took it away.
@@ -59,15 +63,25 @@ public:
 
     /// Default: TopBottom, which also stands in for unknown values.
     LayoutType layoutType() const { return m_layoutType; }
+    /// Sets layoutType().
     void setLayoutType(LayoutType type);
 
     /// Alignment of the name in its cell. Default: left and vertically centred.
     Qt::Alignment textAlignment() const { return m_textAlignment; }
+    /// Sets textAlignment().
     void setTextAlignment(Qt::Alignment alignment);
 
     /// Room around the name, in pixels, beside the style sheet's padding. Default: none.
     QMargins textMargins() const { return m_textMargins; }
+    /// Sets textMargins().
     void setTextMargins(QMargins margins);
+
+Q_SIGNALS:
+    /// The name has changed.
+    void textChanged(const QString &text);
+
+protected:
+    bool event(QEvent *event) override;
 
 private:
     void placeCells();

@@ -41,6 +41,7 @@ class VNAWIDGETS_EXPORT LabelButton : public InfoButton
     Q_PROPERTY(QFont labelFont READ labelFont WRITE setLabelFont)
 
 public:
+    /// A button without name and value.
     explicit LabelButton(QWidget *parent = nullptr);
 
     /// The label that shows the value; null after somebody deleted it or took it away.
@@ -50,18 +51,22 @@ public:
 
     /// The whole value, also while only its end is shown.
     QString labelText() const { return m_labelText; }
+    /// Sets labelText().
     void setLabelText(const QString &text);
 
     /// Alignment of the value in its cell. Default: right and vertically centred.
     Qt::Alignment labelAlignment() const { return m_labelAlignment; }
+    /// Sets labelAlignment().
     void setLabelAlignment(Qt::Alignment alignment);
 
     /// Room around the value, in pixels, beside the style sheet's padding. Default: none.
     QMargins labelMargins() const { return m_labelMargins; }
+    /// Sets labelMargins().
     void setLabelMargins(QMargins margins);
 
     /// Font of the value. Default: the application's.
     QFont labelFont() const { return m_labelFont; }
+    /// Sets labelFont().
     void setLabelFont(const QFont &font);
 
     /// Fits the shown value to the button's width; happens by itself whenever something changes.

@@ -30,7 +30,11 @@ class VNAWIDGETS_EXPORT LockWidget : public QWidget
 {
     Q_OBJECT
 
+    Q_PROPERTY(bool screenLockEnabled READ getScreenLockEnable WRITE setScreenLockEnable)
+    Q_PROPERTY(bool locked READ isLocked WRITE setLocked NOTIFY lockedChanged)
+
 public:
+    /// A hidden, unlocked padlock at the right edge of \a target, which may be null. Not owned.
     LockWidget(QWidget *parent, QWidget *target);
     ~LockWidget() override;
 

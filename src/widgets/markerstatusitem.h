@@ -31,6 +31,7 @@ class VNAWIDGETS_EXPORT MarkerStatusItem : public QWidget
     Q_OBJECT
 
 public:
+    /// An empty line.
     explicit MarkerStatusItem(QWidget *parent = nullptr);
     ~MarkerStatusItem() override;
 

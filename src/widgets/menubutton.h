@@ -34,8 +34,8 @@ class VNAWIDGETS_EXPORT MenuButton : public QPushButton
 public:
     /// One command: what it means to the host, and what the user reads.
     struct MenuSpec {
-        int value;
-        QString text;
+        int value; ///<what it means to the host
+        QString text; ///<what the user reads
 
         friend bool operator==(const MenuSpec &a, const MenuSpec &b)
         {
@@ -44,15 +44,19 @@ public:
         friend bool operator!=(const MenuSpec &a, const MenuSpec &b) { return !(a == b); }
     };
 
+    /// A button without text and commands.
     explicit MenuButton(QWidget *parent = nullptr);
+    /// A button without commands.
     explicit MenuButton(const QString &text, QWidget *parent = nullptr);
     ~MenuButton() override;
 
     /// The commands in display order.
     QList<MenuSpec> menuItems() const { return m_menuItems; }
+    /// Sets the commands.
     void setMenuItems(const QList<MenuSpec> &items);
     /// Appends one command.
     void addMenuItem(int value, const QString &text);
+    /// Removes all commands.
     void clearMenuItems();
 
     /// Value of the first command of that text, or -1.
@@ -63,16 +67,28 @@ public:
 
     /// \name The list, see PopupWidget
     ///@{
+
+    /// Size of a tile in pixels. Default: 120 x 100.
     void setIconSize(int width, int height);
+    /// See setIconSize().
     QSize iconSize() const;
+    /// Columns of tiles. Default: 4.
     void setItemCountPerRow(int count);
+    /// See setItemCountPerRow().
     int itemCountPerRow() const;
+    /// Enables or disables the first command of this text.
     void setItemEnabled(const QString &text, bool enabled);
+    /// Enables or disables the command at an index.
     void setItemEnabled(int index, bool enabled);
+    /// Sets the title, and shows it.
     void setTitleText(const QString &text);
+    /// The title of the list; empty at first.
     QString titleText() const;
+    /// Sets titleVisible().
     void setTitleVisible(bool visible);
+    /// Whether the title is shown. Default: false.
     bool titleVisible() const;
+    /// Rows (QListView::ListMode, the default) or tiles.
     void setViewMode(QListView::ViewMode mode);
     ///@}
 

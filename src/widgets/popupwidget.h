@@ -57,28 +57,36 @@ public:
     /// Horizontal alignment of the rows, which are always centred vertically. Default: left. Tiles
     /// have their text in the middle.
     Qt::Alignment itemTextAlignment() const;
+    /// Sets itemTextAlignment().
     void setItemTextAlignment(Qt::Alignment alignment);
 
+    /// The title; empty at first.
     QString titleText() const;
     /// Sets the title and shows it, when the text differs.
     void setTitleText(const QString &text);
     /// Whether the title takes part in the pop-up, shown or not yet. Default: false.
     bool titleVisible() const;
+    /// Sets titleVisible().
     void setTitleVisible(bool visible);
 
+    /// Rows (QListView::ListMode, the default) or tiles (QListView::IconMode).
     QListView::ViewMode viewMode() const;
+    /// Sets viewMode().
     void setViewMode(QListView::ViewMode mode);
 
     /// Width of the list in list mode, in pixels, from the next popup(). Default: 100.
     int widgetFixedWidth() const;
+    /// Sets widgetFixedWidth().
     void setWidgetFixedWidth(int width);
 
     /// Size of a tile in icon mode, in pixels, from the next popup(). Default: 120 x 100.
     QSize iconSize() const;
+    /// Sets iconSize().
     void setIconSize(int width, int height);
 
     /// Number of columns in icon mode, from the next popup(). Default: 4; less than 1 counts as 1.
     int itemCountPerRow() const;
+    /// Sets itemCountPerRow().
     void setItemCountPerRow(int count);
 
     /// Fits the size to the items, without scroll bars; the caller moves and shows the pop-up.
@@ -87,6 +95,7 @@ public:
     /// Whether a list taller than its screen is made to fit, from the next popup(), and scrolls
     /// inside: for platforms where a window cannot move itself. Default: false.
     bool scrollsInside() const;
+    /// Sets scrollsInside().
     void setScrollsInside(bool scrolls);
 
 Q_SIGNALS:

@@ -30,6 +30,7 @@ class VNAWIDGETS_EXPORT RectangularBottomWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// A bar without values.
     explicit RectangularBottomWidget(QWidget *parent = nullptr);
     ~RectangularBottomWidget() override;
 

@@ -74,6 +74,7 @@ SwitchButton::SwitchButton(QWidget *parent)
     setLayoutType(LeftRight);
     connect(group, qOverload<QAbstractButton *>(&QButtonGroup::buttonClicked), this,
             &SwitchButton::onButtonClicked);
+    connect(m_onButton, &QPushButton::toggled, this, &SwitchButton::statusToggled);
 }
 
 bool SwitchButton::status() const

@@ -27,17 +27,22 @@ class VNAWIDGETS_EXPORT SwitchButton : public InfoButton
 {
     Q_OBJECT
 
+    Q_PROPERTY(bool status READ status WRITE setStatus NOTIFY statusToggled)
+
 public:
+    /// A switch that is off.
     explicit SwitchButton(QWidget *parent = nullptr);
 
     /// Whether "On" is checked. Default: false.
     bool status() const;
-    /// Checks one of the buttons; emits nothing.
+    /// Checks one of the buttons, without statusChanged().
     void setStatus(bool on);
 
 Q_SIGNALS:
     /// The user tapped a button, also the one that was checked already.
     void statusChanged(bool state);
+    /// The status is another one now, by a tap or by setStatus().
+    void statusToggled(bool on);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -225,6 +225,28 @@ private Q_SLOTS:
         QCOMPARE(buttonsOf(scene.bar), QStringList());
     }
 
+    // Flags combine, a title may come through the base class, and makes the dialog wide enough.
+    void titleAsOfAnyWindow()
+    {
+        QWidget host;
+        host.resize(900, 400);
+        host.show();
+        Controls::DraggableFramelessDialog dialog(&host);
+        dialog.setHeaderButton(Bar::MinimizeButton | Bar::CloseButton);
+        auto *layout = new QVBoxLayout(&dialog);
+        layout->addWidget(new QLabel("x"_s));
+        const QString title = "A title that is longer than all there is below it"_s;
+        static_cast<QWidget &>(dialog).setWindowTitle(title);
+        dialog.show();
+        const auto *label = dialog.findChild<QLabel *>("draggableDialogTitleLabel"_s);
+        QCOMPARE(label->text(), title);
+        QTRY_VERIFY(label->width() >= label->sizeHint().width());
+        dialog.hide();
+        dialog.setProperty("windowTitle", QString(title + title + title));
+        dialog.show();
+        QCOMPARE(dialog.width(), host.width());
+    }
+
     void buttonsFollowTheTitleHeight()
     {
         QDialog dialog;

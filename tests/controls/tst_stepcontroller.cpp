@@ -101,6 +101,23 @@ private Q_SLOTS:
         }
     }
 
+    void tinyQuantitiesStepWhenAsked()
+    {
+        Step125Controller controller;
+        double value = 0.0;
+        connect(&controller, &StepController::stepped, this, [&value](double v) { value = v; });
+        controller.stepBy(2e-16, 1);
+        QCOMPARE(value, 2e-16);
+        QVERIFY(!controller.setZeroThreshold(-1.0) && !controller.setZeroThreshold(qInf()));
+        QVERIFY(controller.setZeroThreshold(0.0));
+        controller.stepBy(2e-16, 1);
+        QCOMPARE(value * 1e16, 5.0);
+        controller.stepBy(2e-16, -1);
+        QCOMPARE(value * 1e16, 1.0);
+        controller.stepBy(0.0, 1);
+        QCOMPARE(value, 0.0);
+    }
+
     void writesBackWhatTheAdapterMakesOfIt()
     {
         BaseUnitAdapter adapter;

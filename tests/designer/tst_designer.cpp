@@ -23,7 +23,7 @@ private Q_SLOTS:
             qobject_cast<QDesignerCustomWidgetCollectionInterface *>(plugin.instance());
         QVERIFY2(collection, qUtf8Printable(plugin.errorString()));
         m_widgets = collection->customWidgets();
-        QCOMPARE(int(m_widgets.size()), 19);
+        QCOMPARE(int(m_widgets.size()), 20);
     }
 
     void widgets_data()

@@ -17,6 +17,7 @@
 #include <VnaWidgets/LockWidget>
 #include <VnaWidgets/MarkerStatusItem>
 #include <VnaWidgets/MenuButton>
+#include <VnaWidgets/NumericField>
 #include <VnaWidgets/OverlayContainer>
 #include <VnaWidgets/PopupWidget>
 #include <VnaWidgets/PropertyWatcher>
@@ -137,6 +138,11 @@ struct Panel : QWidget {
     void setFormatName(const QString &) { }
     void setStartFrequency(double hertz) { told << QStringLiteral("start %1").arg(hertz); }
     void showLocked(bool locked) { told << QStringLiteral("locked %1").arg(locked); }
+    void showEntry(double value) { told << QStringLiteral("entry %1").arg(value); }
+    void showLimit(double entered, double value)
+    {
+        told << QStringLiteral("limit %1 %2").arg(entered).arg(value);
+    }
     void showReading(int, int, double) { told << QStringLiteral("reading"); }
     void keepOutOfUnit(int) { }
     void toggleLock() { }
