@@ -76,6 +76,11 @@ SetupDialog::SetupDialog(Setups *setups, QWidget *parent)
         close();
     });
     list(QString());
+    // Return saves a new one, or recalls one of the list.
+    if (m_list->count() == 0)
+        m_name->setFocus();
+    else
+        m_list->setFocus();
     setMinimumSize(
         QSize(440, 420).boundedTo(parent ? parent->size() - QSize(40, 40) : QSize(440, 420)));
 }
