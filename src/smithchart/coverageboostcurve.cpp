@@ -15,6 +15,10 @@
 namespace
 {
 
+/// QCPCurve cuts lines a pixel outside at two sides of the view, and at the others on its edge: by so
+/// much inside, they are beyond it whatever the last bits of a cut end are.
+constexpr double insideEdge = 1e-6;
+
 /// A line without the segments that lie beyond one side of \a area: QCPCurve leads a line that
 /// leaves the view around it, a pixel from its edges, where antialiasing and the shifted stroke
 /// would bring it into view.
@@ -147,7 +151,8 @@ bool CoverageBoostCurve::drawByMask(QCPPainter *painter) const
     const double offset = secondStrokeOffset(painter) * toDevice.m11();
 
     SmithRender::StrokeMask &mask = SmithRender::StrokeMask::ofThisThread();
-    const QRectF seen = toDevice.mapRect(QRectF(clipRect()));
+    const QRectF seen =
+        toDevice.mapRect(QRectF(clipRect())).adjusted(0.0, 0.0, -insideEdge, -insideEdge);
     mask.reset(area.width(), area.height(), inMask(topLeft, bottomRight),
                inMask(seen.topLeft(), seen.bottomRight()));
     mask.setPen(mPen.color().alphaF(), offset > 0.0 ? 1 : 2);
@@ -180,7 +185,9 @@ void CoverageBoostCurve::drawCurveLine(QCPPainter *painter, const QVector<QPoint
     const double offset = secondStrokeOffset(painter);
 
     const QCPAxisRect *const rect = keyAxis() ? keyAxis()->axisRect() : nullptr;
-    const QVector<QPointF> visible = rect ? withoutDetours(lines, QRectF(rect->rect())) : lines;
+    const QVector<QPointF> visible = rect
+        ? withoutDetours(lines, QRectF(rect->rect()).adjusted(0.0, 0.0, -insideEdge, -insideEdge))
+        : lines;
     QCPCurve::drawCurveLine(painter, visible);
     if (offset > 0.0) {
         painter->save();
