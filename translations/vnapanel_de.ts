@@ -479,6 +479,30 @@
         <source>M%1 stands at the end of the data.</source>
         <translation>M%1 steht am Ende der Daten.</translation>
     </message>
+    <message>
+        <source>Value left…</source>
+        <translation>Wert links…</translation>
+    </message>
+    <message>
+        <source>Value right…</source>
+        <translation>Wert rechts…</translation>
+    </message>
+    <message>
+        <source>Reference level</source>
+        <translation>Bezugspegel</translation>
+    </message>
+    <message>
+        <source>Port delay</source>
+        <translation>Torlaufzeit</translation>
+    </message>
+    <message>
+        <source>Value, %1</source>
+        <translation>Wert, %1</translation>
+    </message>
+    <message>
+        <source>Trace %1 does not reach %2 that way.</source>
+        <translation>Kurve %1 erreicht %2 in dieser Richtung nicht.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MathKeys</name>
@@ -581,6 +605,14 @@
     <message>
         <source>Diagram as SVG</source>
         <translation>Diagramm als SVG</translation>
+    </message>
+    <message>
+        <source>Picture to clipboard</source>
+        <translation>Bild in Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Copied the picture</source>
+        <translation>Bild kopiert</translation>
     </message>
 </context>
 <context>

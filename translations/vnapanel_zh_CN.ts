@@ -473,6 +473,30 @@
         <source>M%1 stands at the end of the data.</source>
         <translation>M%1 位于数据末端。</translation>
     </message>
+    <message>
+        <source>Value left…</source>
+        <translation>左侧目标值…</translation>
+    </message>
+    <message>
+        <source>Value right…</source>
+        <translation>右侧目标值…</translation>
+    </message>
+    <message>
+        <source>Reference level</source>
+        <translation>参考电平</translation>
+    </message>
+    <message>
+        <source>Port delay</source>
+        <translation>端口延时</translation>
+    </message>
+    <message>
+        <source>Value, %1</source>
+        <translation>目标值，%1</translation>
+    </message>
+    <message>
+        <source>Trace %1 does not reach %2 that way.</source>
+        <translation>迹线 %1 在该方向未达到 %2。</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MathKeys</name>
@@ -575,6 +599,14 @@
     <message>
         <source>Diagram as SVG</source>
         <translation>图表存为 SVG</translation>
+    </message>
+    <message>
+        <source>Picture to clipboard</source>
+        <translation>图片到剪贴板</translation>
+    </message>
+    <message>
+        <source>Copied the picture</source>
+        <translation>已复制图片</translation>
     </message>
 </context>
 <context>

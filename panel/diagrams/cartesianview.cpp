@@ -12,10 +12,7 @@ namespace Panel
 namespace
 {
 
-QString activeLayer()
-{
-    return QStringLiteral("activeTrace");
-}
+constexpr QLatin1String s_activeLayer("activeTrace");
 
 } // namespace
 
@@ -49,7 +46,7 @@ CartesianView::CartesianView(const PanelModel *model, const DiagramId &id, QWidg
 void CartesianView::setUpPlot()
 {
     plot()->setAccessibleName(tr("Cartesian diagram"));
-    plot()->addLayer(activeLayer(), plot()->layer(QStringLiteral("main")));
+    plot()->addLayer(s_activeLayer, plot()->layer(QStringLiteral("main")));
     plot()->axisRect()->setupFullAxesBox();
     for (QCPAxis *axis : plot()->axisRect()->axes()) {
         axis->setTicks(axis == plot()->yAxis || axis == plot()->xAxis);
@@ -271,7 +268,7 @@ void CartesianView::showActiveTrace()
 {
     const Trace *active = activeTrace();
     for (const auto &[id, line] : m_lines)
-        line.graph->setLayer(active && active->id == id ? activeLayer() : QStringLiteral("main"));
+        line.graph->setLayer(active && active->id == id ? s_activeLayer : QStringLiteral("main"));
     showWrittenScale();
     showOffScale();
     showSelectedMarker();

@@ -61,6 +61,10 @@ ChartGestures::ChartGestures(PanelModel *model, DiagramView *view)
     connect(view, &DiagramView::markerSelectionRequested, model, &PanelModel::selectMarker);
     connect(view, &DiagramView::markerMoveRequested, model, &PanelModel::moveMarker);
     connect(view, &DiagramView::markerDeleteRequested, model, &PanelModel::removeMarker);
+    connect(view, &DiagramView::titleDoubleTapped, this, [this] {
+        activate();
+        m_model->viewSettings()->toggleSingleDiagram();
+    });
     connect(view, &DiagramView::fitRequested, model, &PanelModel::fitTrace);
 }
 

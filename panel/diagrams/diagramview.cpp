@@ -31,6 +31,7 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
 {
     m_title->setObjectName(QStringLiteral("dim"));
     m_title->setContentsMargins(10, 4, 10, 2);
+    m_title->installEventFilter(this);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -216,6 +217,13 @@ void DiagramView::fanOutNumbers()
             placed[group[i]] = true;
         }
     }
+}
+
+bool DiagramView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_title && event->type() == QEvent::MouseButtonDblClick)
+        Q_EMIT titleDoubleTapped();
+    return QWidget::eventFilter(watched, event);
 }
 
 QPointF DiagramView::coordinates(const QPointF &position) const

@@ -90,6 +90,8 @@ public:
 Q_SIGNALS:
     /// A dragged marker is asked to move to a point of its trace.
     void markerMoveRequested(int traceId, int number, double index);
+    /// The title was tapped twice.
+    void titleDoubleTapped();
     /// A row of the read-outs was tapped.
     void markerSelectionRequested(int traceId, int number);
     void markerDeleteRequested(int traceId, int number);
@@ -129,6 +131,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     const PanelModel *m_model;
 

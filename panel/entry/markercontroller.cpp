@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "markercontroller.h"
 
+#include "numerickeys.h"
 #include "softkey.h"
 #include "valuechoices.h"
 #include <panel/ground/numbertext.h>
@@ -31,6 +32,14 @@ enum MarkerTo {
     ToCenter,
     ToStart,
     ToStop,
+    ToReference, ///< the value at the top of the diagram
+    ToDelay, ///< the port is moved to where nothing is delayed
+};
+
+/// Searches that ask for a value first, behind those of Search.
+enum TargetSearch {
+    TargetLeft = 100,
+    TargetRight,
 };
 
 /// Where a further marker of a trace goes, as a share of its data: each halves the largest gap that
@@ -49,20 +58,27 @@ constexpr double s_smallestShare = 1e-4;
 
 } // namespace
 
-MarkerController::MarkerController(PanelModel *model, const PanelKeys &keys, QObject *parent)
+MarkerController::MarkerController(PanelModel *model, const PanelKeys &keys, NumericKeys *numbers,
+                                   QObject *parent)
     : QObject(parent)
     , m_model(model)
     , m_keys(keys)
+    , m_numbers(numbers)
 {
     connect(keys.marker, &SoftKey::choicePicked, this, &MarkerController::onMarkerPicked);
     keys.search->setMenuItems({{int(Search::Maximum), tr("Maximum")},
                                {int(Search::Minimum), tr("Minimum")},
                                {int(Search::PeakLeft), tr("Next peak left")},
-                               {int(Search::PeakRight), tr("Next peak right")}});
+                               {int(Search::PeakRight), tr("Next peak right")},
+                               {TargetLeft, tr("Value left\u2026")},
+                               {TargetRight, tr("Value right\u2026")}});
     connect(keys.search, qOverload<int>(&MenuButton::menuItemClicked), this,
             &MarkerController::onSearchPicked);
-    keys.markerTo->setMenuItems(
-        {{ToCenter, tr("Center")}, {ToStart, tr("Start")}, {ToStop, tr("Stop")}});
+    keys.markerTo->setMenuItems({{ToCenter, tr("Center")},
+                                 {ToStart, tr("Start")},
+                                 {ToStop, tr("Stop")},
+                                 {ToReference, tr("Reference level")},
+                                 {ToDelay, tr("Port delay")}});
     connect(keys.markerTo, qOverload<int>(&MenuButton::menuItemClicked), this,
             &MarkerController::onMarkerToPicked);
     connect(keys.referenceMarker, &SoftKey::choicePicked, this, [this](int index) {
@@ -128,6 +144,10 @@ void MarkerController::onSearchPicked(int command)
     const Trace *trace = m_model->activeTrace();
     if (!trace)
         return;
+    if (command >= TargetLeft) {
+        editTarget(command == TargetLeft ? -1 : 1);
+        return;
+    }
     const Marker *marker = m_model->selectedMarker();
     const int found = searchMarker(m_model->traceData(*trace), trace->format, Search(command),
                                    marker ? qMax(0.0, m_model->indexOf(*marker)) : 0.0);
@@ -141,6 +161,52 @@ void MarkerController::onSearchPicked(int command)
         m_model->addMarker(trace->id, found);
 }
 
+/// Asks for a value, and sends the selected marker where the trace has it as soon as it is entered.
+void MarkerController::editTarget(int direction)
+{
+    const Trace &trace = *m_model->activeTrace();
+    const Marker *marker = m_model->selectedMarker();
+    const double last = m_model->network(trace).points() - 1;
+    const double from = marker ? qMax(0.0, m_model->indexOf(*marker)) : direction > 0 ? 0.0 : last;
+    // On a Smith chart it is the magnitude.
+    const TraceFormat format = trace.onSmithChart() ? TraceFormat::LinearMagnitude : trace.format;
+    m_numbers->editValue(m_keys.search, tr("Value, %1").arg(formatName(format)), format, m_target,
+                         [=](double target) { goToTarget(target, from, direction); });
+}
+
+void MarkerController::goToTarget(double target, double from, int direction)
+{
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
+        return;
+    m_target = target;
+    const double found =
+        searchTarget(m_model->traceData(*trace), trace->format, target, from, direction);
+    const Marker *marker = m_model->selectedMarker();
+    if (found < 0.0)
+        Q_EMIT said(tr("Trace %1 does not reach %2 that way.")
+                        .arg(trace->id)
+                        .arg(cartesianText(target, trace->format)));
+    else if (marker)
+        m_model->moveMarker(marker->trace, marker->number, found);
+    else
+        m_model->addMarker(trace->id, found);
+}
+
+/// Moves the port that the wave comes from so that its group delay at the marker is zero; what a
+/// port reflects passes its line twice.
+void MarkerController::moveToZeroDelay(const Trace &trace, double index)
+{
+    const double nanoseconds =
+        formatValueAt(m_model->traceData(trace), index, TraceFormat::GroupDelay);
+    if (!std::isfinite(nanoseconds))
+        return;
+    Correction correction = m_model->correction(trace);
+    const double seconds = 1e-9 * nanoseconds / (trace.to == trace.from ? 2.0 : 1.0);
+    correction.setDelay(trace.from, correction.delay(trace.from) + seconds);
+    m_model->setCorrection(trace, correction);
+}
+
 void MarkerController::onMarkerToPicked(int command)
 {
     const Marker *marker = m_model->selectedMarker();
@@ -148,6 +214,17 @@ void MarkerController::onMarkerToPicked(int command)
         return;
     const Trace &trace = *m_model->trace(marker->trace);
     const double hertz = m_model->hertzOf(*marker);
+    const double index = m_model->indexOf(*marker);
+    if (command == ToReference || command == ToDelay) {
+        if (index < 0.0)
+            return;
+        const double value = formatValueAt(m_model->traceData(trace), index, trace.format);
+        if (command == ToDelay)
+            moveToZeroDelay(trace, index);
+        else if (!trace.onSmithChart())
+            m_model->setTraceScale(trace.id, {trace.scale.perDivision, value});
+        return;
+    }
     const Stimulus limits = m_model->limits(trace);
     const Stimulus now = m_model->stimulus(trace);
     const auto changed = command == ToCenter ? withCenter

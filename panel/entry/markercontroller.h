@@ -9,7 +9,9 @@
 namespace Panel
 {
 
+class NumericKeys;
 class PanelModel;
+struct Trace;
 
 /// Answers the keys about markers.
 class MarkerController : public QObject
@@ -17,7 +19,8 @@ class MarkerController : public QObject
     Q_OBJECT
 
 public:
-    MarkerController(PanelModel *model, const PanelKeys &keys, QObject *parent = nullptr);
+    MarkerController(PanelModel *model, const PanelKeys &keys, NumericKeys *numbers,
+                     QObject *parent = nullptr);
 
 Q_SIGNALS:
     /// A sentence for the user.
@@ -27,10 +30,15 @@ private:
     void onMarkerPicked(int command);
     void onSearchPicked(int command);
     void onMarkerToPicked(int command);
+    void editTarget(int direction);
+    void goToTarget(double target, double from, int direction);
+    void moveToZeroDelay(const Trace &trace, double index);
     void showMarkers();
 
     PanelModel *m_model;
     PanelKeys m_keys;
+    NumericKeys *m_numbers;
+    double m_target = -3.0; ///< that was searched last
 };
 
 } // namespace Panel

@@ -21,7 +21,7 @@ namespace Panel
 namespace
 {
 
-const QString s_suffix = QStringLiteral(".json");
+constexpr QLatin1String s_suffix(".json");
 
 /// The name without what no file can be called on any system.
 QString fileName(const QString &name)

@@ -56,6 +56,27 @@ int nextPeak(const QVector<double> &values, double needed, int from, int step)
 
 } // namespace
 
+double searchTarget(const TraceData &data, TraceFormat format, double target, double from,
+                    int direction)
+{
+    constexpr double same = 1e-6; // of a step between two points
+    const QVector<double> values = formatValues(data, format);
+    const int count = int(values.size());
+    int i = direction > 0 ? int(std::floor(from)) : int(std::ceil(from));
+    for (; i >= 0 && i < count && i + direction >= 0 && i + direction < count; i += direction) {
+        const double here = values.at(i) - target, next = values.at(i + direction) - target;
+        if (!((here <= 0.0 && next >= 0.0) || (here >= 0.0 && next <= 0.0)) || here == next)
+            continue;
+        // A phase that begins anew passes nothing.
+        if (format == TraceFormat::Phase && std::abs(here - next) > 180.0)
+            continue;
+        const double found = i + direction * here / (here - next);
+        if (direction * (found - from) > same)
+            return found;
+    }
+    return -1.0;
+}
+
 int searchMarker(const TraceData &data, TraceFormat format, Search search, double from)
 {
     const QVector<double> values = formatValues(data, format);

@@ -23,4 +23,11 @@ enum class Search {
     0.02 of a magnitude; traits() has all. Points without a value are no candidates. */
 int searchMarker(const TraceData &data, TraceFormat format, Search search, double from);
 
+/*! The fractional index at which the values first pass a target, from an index on to the right (1) or
+    to the left (-1), interpolated between the points; -1 where they do not. A place at the very start
+    does not count, so that a search goes on from what it has found. On the Smith chart the magnitude
+    counts. */
+double searchTarget(const TraceData &data, TraceFormat format, double target, double from,
+                    int direction);
+
 } // namespace Panel

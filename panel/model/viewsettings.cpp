@@ -13,6 +13,15 @@ ViewSettings::ViewSettings(QObject *parent)
             &ViewSettings::changed);
 }
 
+void ViewSettings::toggleSingleDiagram()
+{
+    const Graph::LayoutType now = diagramLayout();
+    if (now != Graph::LayoutType::Single)
+        m_layoutBefore = now;
+    m_layout.setLayoutType(now == Graph::LayoutType::Single ? m_layoutBefore
+                                                            : Graph::LayoutType::Single);
+}
+
 ReadoutFormat ViewSettings::effectiveReadoutFormat() const
 {
     if (m_readoutFormat != ReadoutFormat::Automatic)

@@ -62,6 +62,8 @@ public:
     {
         set(m_bandwidthDecibels, std::isfinite(decibels) && decibels > 0.0 ? decibels : 0.0);
     }
+    /// Shows one diagram alone, or those of before again.
+    void toggleSingleDiagram();
     void setGridMode(SmithChartPlot::GridMode mode) { set(m_gridMode, mode); }
     void setDensity(GridDensity density) { set(m_density, density); }
     void setGridLabels(GridLabels labels) { set(m_gridLabels, labels); }
@@ -91,6 +93,7 @@ private:
     }
 
     Graph::LayoutManagerProifle m_layout;
+    Graph::LayoutType m_layoutBefore = Graph::LayoutType::SideBySide; ///< one diagram alone
     SmithChartPlot::GridMode m_gridMode = SmithChartPlot::Impedance;
     GridDensity m_density = GridDensity::Automatic;
     GridLabels m_gridLabels = GridLabels::Ohms;

@@ -33,7 +33,9 @@
 #include <widgets/menubutton.h>
 #include <widgets/switchbutton.h>
 
+#include <QClipboard>
 #include <QDir>
+#include <QGuiApplication>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -49,6 +51,7 @@ enum SaveCommand {
     SaveCsv,
     SavePdf,
     SaveSvg,
+    CopyPicture,
 };
 
 /// The network as it is on show, with a comment on what was done to it.
@@ -96,7 +99,7 @@ void PanelController::makeEntry()
     new DisplayKeys(m_model, keys, this);
     new TraceController(m_model, keys, m_window->traceBar(), numbers, m_window, this);
     new MathKeys(m_model, keys, numbers, this);
-    auto *markers = new MarkerController(m_model, keys, this);
+    auto *markers = new MarkerController(m_model, keys, numbers, this);
     connect(markers, &MarkerController::said, bar, &MessageBar::notify);
     auto *sources = new SourceKeys(m_model, keys, this);
     connect(sources, &SourceKeys::fileRequested, this, &PanelController::showFileDialog);
@@ -117,7 +120,8 @@ void PanelController::connectKeys()
     keys.save->setMenuItems({{SaveTouchstone, QStringLiteral("Touchstone")},
                              {SaveCsv, QStringLiteral("CSV")},
                              {SavePdf, tr("Diagram as PDF")},
-                             {SaveSvg, tr("Diagram as SVG")}});
+                             {SaveSvg, tr("Diagram as SVG")},
+                             {CopyPicture, tr("Picture to clipboard")}});
     connect(keys.save, qOverload<int>(&MenuButton::menuItemClicked), this,
             &PanelController::onSavePicked);
     const auto showSave = [this] { m_window->keys().save->setEnabled(m_model->activeTrace()); };
@@ -259,6 +263,10 @@ void PanelController::onSavePicked(int command)
         break;
     case SaveCsv:
         tell(exportData(network, folder, DataFormat::Csv));
+        break;
+    case CopyPicture:
+        QGuiApplication::clipboard()->setPixmap(m_window->grab());
+        m_window->messageBar()->notify(tr("Copied the picture"));
         break;
     case SavePdf:
         tell(exportDiagram(view->plot(), folder, DrawingFormat::Pdf));

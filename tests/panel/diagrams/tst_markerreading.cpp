@@ -112,6 +112,32 @@ private Q_SLOTS:
         QVERIFY(!bandwidthAt({}, 0.0, 3.0));
     }
 
+    void searchesForValues()
+    {
+        TraceData data;
+        for (int i = 0; i < 101; ++i) {
+            data.frequencies << 1e9 + 1e6 * i;
+            data.parameter.real << std::abs(i - 50) / 50.0; // 1 to 0 and back
+            data.parameter.imag << 0.0;
+        }
+        const auto find = [&](double target, double from, int direction) {
+            return searchTarget(data, TraceFormat::LinearMagnitude, target, from, direction);
+        };
+        QVERIFY(std::abs(find(0.55, 0.0, 1) - 22.5) < 1e-9);
+        QVERIFY(std::abs(find(0.55, 22.5, 1) - 77.5) < 1e-9); // goes on from what was found
+        QVERIFY(std::abs(find(0.55, 77.5, -1) - 22.5) < 1e-9);
+        QCOMPARE(find(0.5, 25.0, 1), 75.0);
+        QCOMPARE(find(0.55, 77.5, 1), -1.0);
+        QCOMPARE(find(2.0, 0.0, 1), -1.0);
+        data.parameter.real[60] = qQNaN(); // nothing is passed where nothing is
+        QCOMPARE(find(0.2, 55.0, 1), -1.0);
+        // A phase that begins anew at 180 degrees does not pass 0.
+        data.parameter = {{0.0, -1.0, -1.0, 0.0}, {1.0, 0.1, -0.1, -1.0}};
+        data.frequencies.resize(4);
+        QCOMPARE(searchTarget(data, TraceFormat::Phase, 0.0, 0.0, 1), -1.0);
+        QCOMPARE(searchTarget({}, TraceFormat::Phase, 0.0, 0.0, 1), -1.0);
+    }
+
     void searches()
     {
         TraceData values;
