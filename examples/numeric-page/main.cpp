@@ -68,9 +68,7 @@ int main(int argc, char **argv)
 
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() == 3 && arguments.at(1) == QLatin1String("--grab")) {
-        page.frequency->setFocus();
-        page.frequency->keypad()->setHostWindow(&window);
-        page.frequency->keypad()->open();
+        page.frequency->openKeypad();
         QTimer::singleShot(100, &window, [&window, file = arguments.at(2)] {
             QApplication::exit(window.grab().save(file) ? 0 : 1);
         });

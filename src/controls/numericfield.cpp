@@ -292,19 +292,26 @@ void NumericField::onFocus()
     selectNumber();
 }
 
+void NumericField::openKeypad()
+{
+    if (keypad()->isVisible() || !isEnabled() || !editor() || editor()->isReadOnly())
+        return;
+    keypad()->setWindowTitle(labelText());
+    keypad()->setHostWindow(window());
+    keypad()->setPopupAnchorWidget(this);
+    editor()->setFocus(Qt::OtherFocusReason);
+    registerAtKeyboard();
+    overrideKeyboardFocusProxy(editor());
+    keypad()->open();
+    selectNumber();
+}
+
 bool NumericField::eventFilter(QObject *object, QEvent *event)
 {
     const bool isTap = object == editor() && event->type() == QEvent::MouseButtonRelease
         && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton;
-    if (isTap && d->isKeypadEnabled && !keypad()->isVisible() && !editor()->isReadOnly()) {
-        keypad()->setWindowTitle(labelText());
-        keypad()->setHostWindow(window());
-        keypad()->setPopupAnchorWidget(this);
-        registerAtKeyboard();
-        overrideKeyboardFocusProxy(editor());
-        keypad()->open();
-        selectNumber();
-    }
+    if (isTap && d->isKeypadEnabled)
+        openKeypad();
     return EditableWidget::eventFilter(object, event);
 }
 

@@ -98,6 +98,8 @@ public Q_SLOTS:
     void setValue(double value);
     /// Begins an edit with the number selected.
     void onFocus() override;
+    /// Opens the keypad above the field's window, as a tap does; also while keypadEnabled is off.
+    void openKeypad();
 
 Q_SIGNALS:
     /// The value has changed, by setter, entry or step.

@@ -96,6 +96,14 @@ private Q_SLOTS:
             QStringList({"changed 0.0001"_s, "entered 0.0001"_s, "clamped 0.000999 0.0001"_s}));
         QTRY_VERIFY(!f.field->keypad()->isVisible());
 
+        // Opened by the program, it has its units, too.
+        f.field->openKeypad();
+        f.press("btnUnit2"_s); // nF
+        QCOMPARE(f.take(), QStringList({"changed 1e-07"_s, "entered 1e-07"_s}));
+        QTRY_VERIFY(!f.field->keypad()->isVisible());
+        f.field->setValue(1e-4);
+        f.take();
+
         // Without the keypad, and no number.
         f.editor()->setFocus();
         QCoreApplication::processEvents();
