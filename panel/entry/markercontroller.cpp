@@ -161,7 +161,8 @@ void MarkerController::onSearchPicked(int command)
         m_model->addMarker(trace->id, found);
 }
 
-/// Asks for a value, and sends the selected marker where the trace has it as soon as it is entered.
+/// Sends the selected marker where the trace has the value of the last search, and asks for another
+/// one.
 void MarkerController::editTarget(int direction)
 {
     const Trace &trace = *m_model->activeTrace();
@@ -170,6 +171,8 @@ void MarkerController::editTarget(int direction)
     const double from = marker ? qMax(0.0, m_model->indexOf(*marker)) : direction > 0 ? 0.0 : last;
     // On a Smith chart it is the magnitude.
     const TraceFormat format = trace.onSmithChart() ? TraceFormat::LinearMagnitude : trace.format;
+    if (searchTarget(m_model->traceData(trace), trace.format, m_target, from, direction) >= 0.0)
+        goToTarget(m_target, from, direction);
     m_numbers->editValue(m_keys.search, tr("Value, %1").arg(formatName(format)), format, m_target,
                          [=](double target) { goToTarget(target, from, direction); });
 }

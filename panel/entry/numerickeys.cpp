@@ -112,7 +112,12 @@ void NumericKeys::edit(QWidget *anchor, const QString &name, UnitAdapter *adapte
         anchor->setProperty("editing", editing);
         repolish(anchor);
     };
-    connect(dialog, &QDialog::finished, anchor, [mark] { mark(false); });
+    connect(dialog, &QDialog::finished, anchor, [mark, anchor] {
+        mark(false);
+        // A key whose list opened the entry had given the keyboard to the list.
+        if (anchor->focusPolicy() != Qt::NoFocus)
+            anchor->setFocus();
+    });
     mark(true);
     dialog->open();
 }
