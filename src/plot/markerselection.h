@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
-    How a selected marker looks, and which marker a finger means: the same on every diagram. */
+    How a selected marker looks on every diagram, and which one a press on a chart catches. */
 #pragma once
 
 #include <vnawidgets_export.h>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 /*! \file
     A grid for every magnification: lines of constant resistance and reactance at values of
-    1, 2 and 5 times powers of ten, as close together as the pixels allow.
+    1, 2 and 5 times powers of ten, and quarters of them, as close together as the pixels allow.
 
     The plane of the impedance is divided into cells, each of them further while its image has room
     for more lines. A line is drawn through the cells that it divides and ends at the coarser lines
