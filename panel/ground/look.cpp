@@ -108,6 +108,7 @@ Panel--ReadOuts, Panel--ReadOuts > QWidget > QWidget { background: transparent; 
 QLabel#more { padding: 0px 6px; background: @bar; border: 1px solid @border; border-radius: 4px; color: @text; }
 QPushButton#fitTrace { min-height: 36px; padding: 2px 12px; background: @bar; border: 1px solid @warning; border-radius: 4px; color: @text; }
 Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
+SwitchButton QPushButton#btnOff:checked:enabled { background-color: @border; border-color: @border; color: @text; }
 PopupWidget QListWidget::item { min-height: 44px; }
 QToolButton#pageTab { border: none; border-left: 3px solid transparent; border-radius: 0px; padding: 2px 0px; background: transparent; color: @dimText; font-size: 11px; }
 QToolButton#pageTab:checked { border-left-color: @accent; color: @text; background: @button; }
