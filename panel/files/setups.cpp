@@ -73,7 +73,7 @@ QStringList Setups::names() const
 QString Setups::freeName() const
 {
     for (int number = 1;; ++number) {
-        const QString name = tr("Set-up %1").arg(number);
+        QString name = tr("Set-up %1").arg(number);
         if (!exists(name))
             return name;
     }

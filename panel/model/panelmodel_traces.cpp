@@ -44,7 +44,7 @@ TraceData smoothedAs(const Trace &trace, TraceData data)
 
 TraceData PanelModel::traceData(const Trace &trace) const
 {
-    const TraceData measured = Panel::traceData(network(trace), trace.to, trace.from);
+    TraceData measured = Panel::traceData(network(trace), trace.to, trace.from);
     if (trace.math == TraceMath::DataAndMemory && trace.smoothing == 0.0)
         return measured;
     const std::pair<quint64, quint64> revisions{m_networks.revision(), m_traces.revision()};
@@ -55,7 +55,7 @@ TraceData PanelModel::traceData(const Trace &trace) const
     if (found != m_processed.constEnd())
         return *found;
     const TraceData *stored = memory(trace.id);
-    const TraceData result =
+    TraceData result =
         smoothedAs(trace, stored ? combined(measured, *stored, trace.math) : measured);
     m_processed.insert(trace.id, result);
     return result;
