@@ -16,8 +16,9 @@
 namespace SmithRender
 {
 
-template<typename V>
-VNA_INLINE void squaredDistances(const V &x, const V &y, const Segment &s, V &result)
+/// To one segment, or lane by lane to the Segments.
+template<typename V, typename S>
+VNA_INLINE void squaredDistances(const V &x, const V &y, const S &s, V &result)
 {
     const V zero = V() + 0.0;
     const V one = V() + 1.0;

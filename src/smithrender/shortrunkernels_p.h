@@ -51,37 +51,42 @@ VNA_INLINE Farthest farthestOfFewBody(const double *x, const double *y, int firs
     return farthestLane<Width>(lanes.farthest, lanes.where);
 }
 
+/// As Segment, another one in each lane.
+template<int Width>
+struct Segments {
+    using Doubles = typename Vector<Width>::Doubles;
+
+    VNA_INLINE Segments(const Doubles &fromX, const Doubles &fromY, const Doubles &toX,
+                        const Doubles &toY)
+        : ax(fromX)
+        , ay(fromY)
+        , dx(toX - fromX)
+        , dy(toY - fromY)
+    {
+        const Doubles zero = Doubles() + 0.0;
+        const Doubles one = Doubles() + 1.0;
+        const Doubles squaredLength = dx * dx + dy * dy;
+        inverse = squaredLength >= zero + Segment::shortest ? one / squaredLength : zero;
+    }
+
+    Doubles ax, ay, dx, dy, inverse;
+};
+
 /// The squared distances of the points \a first to \a end - 1 to the segments between their
 /// neighbours.
 template<int Width>
 VNA_INLINE void toNeighboursBody(const double *x, const double *y, int first, int end,
                                  double *result)
 {
-    using Doubles = typename Vector<Width>::Doubles;
-    const Doubles zero = Doubles() + 0.0;
-    const Doubles one = Doubles() + 1.0;
+    typename Vector<Width>::Doubles ax, ay, px, py, bx, by, distance;
     for (int i = first; i < end; i += Width, result += Width) {
-        Doubles ax, ay, px, py, dx, dy;
         load<Width>(x + i - 1, ax);
         load<Width>(y + i - 1, ay);
         load<Width>(x + i, px);
         load<Width>(y + i, py);
-        load<Width>(x + i + 1, dx);
-        load<Width>(y + i + 1, dy);
-        // As Segment and squaredDistances() do it.
-        dx -= ax;
-        dy -= ay;
-        px -= ax;
-        py -= ay;
-        const Doubles squaredLength = dx * dx + dy * dy;
-        const Doubles inverse =
-            squaredLength >= zero + Segment::shortest ? one / squaredLength : zero;
-        Doubles u = (px * dx + py * dy) * inverse;
-        u = u < zero ? zero : u;
-        u = u > one ? one : u;
-        const Doubles qx = px - u * dx;
-        const Doubles qy = py - u * dy;
-        const Doubles distance = qx * qx + qy * qy;
+        load<Width>(x + i + 1, bx);
+        load<Width>(y + i + 1, by);
+        squaredDistances(px, py, Segments<Width>(ax, ay, bx, by), distance);
         std::memcpy(result, &distance, sizeof distance);
     }
 }
@@ -97,55 +102,135 @@ VNA_INLINE void toNeighbours(const double *x, const double *y, int first, int la
     toNeighboursBody<1>(x, y, first + 1 + done, last, result + done);
 }
 
+/// A part of a short run.
+struct ShortPart {
+    int first;
+    int last;
+    double limit; ///< of all its points: the smallest deviation of what it is a part of
+};
+
+/// Parts up to this length, of which noise has most, are looked at side by side.
+constexpr int smallPart = 12;
+
+/// The farthest point of each of some small parts. Reads memory up to smallPart behind them.
+template<int Width>
+VNA_INLINE void farthestOfEach(const double *x, const double *y, const ShortPart *parts, int count,
+                               Farthest *results)
+{
+    using Doubles = typename Vector<Width>::Doubles;
+    const auto gather = [](const auto &valueOf, Doubles &values) __attribute__((always_inline))
+    {
+        if constexpr (Width == 1) {
+            values = valueOf(0);
+        } else {
+            for (int k = 0; k < Width; ++k)
+                values[k] = valueOf(k);
+        }
+    };
+    ShortPart lanes[Width];
+    int longest = 0;
+    for (int k = 0; k < Width; ++k) {
+        lanes[k] = parts[k < count ? k : 0];
+        longest = std::max(longest, lanes[k].last - lanes[k].first);
+    }
+    Doubles ax, ay, bx, by, length;
+    gather([&](int k) { return x[lanes[k].first]; }, ax);
+    gather([&](int k) { return y[lanes[k].first]; }, ay);
+    gather([&](int k) { return x[lanes[k].last]; }, bx);
+    gather([&](int k) { return y[lanes[k].last]; }, by);
+    gather([&](int k) { return static_cast<double>(lanes[k].last - lanes[k].first); }, length);
+    const Segments<Width> segments(ax, ay, bx, by);
+    Doubles farthest = Doubles() - 1.0;
+    Doubles where = Doubles() + 0.0;
+    Doubles step = Doubles() + 1.0;
+    for (int i = 1; i < longest; ++i) {
+        Doubles px, py, distance;
+        gather([&](int k) { return x[lanes[k].first + i]; }, px);
+        gather([&](int k) { return y[lanes[k].first + i]; }, py);
+        squaredDistances(px, py, segments, distance);
+        distance = step < length ? distance : Doubles() - 1.0;
+        where = distance > farthest ? step : where;
+        farthest = distance > farthest ? distance : farthest;
+        step = step + 1.0;
+    }
+    for (int k = 0; k < count; ++k)
+        results[k] = {lane(farthest, k), lanes[k].first + static_cast<int>(lane(where, k))};
+}
+
+/*! Splits a short run into parts, down to those that \a isSplit(part, farthest) does not let go on.
+    Those with a single point between their ends come last: a third of all parts of noise, so that
+    all distances at once are sooner found. */
+template<int Width, typename IsSplit>
+VNA_INLINE void splitShort(const double *x, const double *y, int first, int last, int readable,
+                           const IsSplit &isSplit)
+{
+    // First in, first out: the processor works on several parts at once, where the last one in
+    // would have to wait for itself. Written without jumps, and overwritten if it is another kind.
+    ShortPart large[VectorKernels::longestShort];
+    ShortPart small[VectorKernels::longestShort];
+    ShortPart single[VectorKernels::longestShort];
+    int largeEnd = 0;
+    int smallEnd = 0;
+    int singleEnd = 0;
+    const int longestSmall = last + smallPart < readable ? smallPart : 2;
+    const auto add = [&](const ShortPart &part) __attribute__((always_inline))
+    {
+        const int length = part.last - part.first;
+        large[largeEnd] = part;
+        largeEnd += length > longestSmall;
+        small[smallEnd] = part;
+        smallEnd += int(length > 2) & int(length <= longestSmall);
+        single[singleEnd] = part;
+        singleEnd += length == 2;
+    };
+    const auto decide = [&](const ShortPart &part, const Farthest &farthest)
+        __attribute__((always_inline))
+    {
+        const double limit = std::min(part.limit, farthest.squaredDistance);
+        if (isSplit(farthest, limit)) {
+            add({part.first, farthest.index, limit});
+            add({farthest.index, part.last, limit});
+        }
+    };
+    add({first, last, std::numeric_limits<double>::infinity()});
+    for (int next = 0; next < largeEnd; ++next) {
+        const ShortPart part = large[next];
+        const Segment segment(x[part.first], y[part.first], x[part.last], y[part.last]);
+        decide(part, farthestOfFewBody<Width>(x, y, part.first + 1, part.last, readable, segment));
+    }
+    for (int next = 0; next < smallEnd;) {
+        const int count = std::min(Width, smallEnd - next);
+        Farthest farthest[Width];
+        farthestOfEach<Width>(x, y, small + next, count, farthest);
+        for (int k = 0; k < count; ++k) {
+            const ShortPart part = small[next++];
+            decide(part, farthest[k]);
+        }
+    }
+    double distances[VectorKernels::longestShort + VectorKernels::widest];
+    if (singleEnd > 0)
+        toNeighbours<Width>(x, y, first, last, readable, distances);
+    for (int i = 0; i < singleEnd; ++i) {
+        const ShortPart part = single[i];
+        const double distance = distances[part.first - first];
+        isSplit({distance, part.first + 1}, std::min(part.limit, distance));
+    }
+}
+
 template<int Width>
 VNA_INLINE std::uint64_t simplifyShortBody(const double *x, const double *y, int first, int last,
                                            int readable, double surely, double surelyNot)
 {
-    struct Part {
-        int first;
-        int last;
-    };
-    const auto bit = [first](int i) { return std::uint64_t(1) << (i - first); };
-    // First in, first out: the processor works on several parts at once, where the last one in
-    // would have to wait for itself.
-    Part parts[2 * VectorKernels::longestShort];
-    parts[0] = {first, last};
-    int end = last - first > 2;
     std::uint64_t kept = 0;
-    std::uint64_t single = last - first == 2 ? bit(first + 1) : 0; // between the ends of a part
-    for (int next = 0; next < end; ++next) {
-        const Part part = parts[next];
-        const Segment segment(x[part.first], y[part.first], x[part.last], y[part.last]);
-        const Farthest farthest =
-            farthestOfFewBody<Width>(x, y, part.first + 1, part.last, readable, segment);
-        if (farthest.squaredDistance > surely) {
-            const int split = farthest.index;
-            kept |= bit(split);
-            // Written without jumps, and overwritten if there is little between the ends.
-            parts[end] = {part.first, split};
-            end += split - part.first > 2;
-            parts[end] = {split, part.last};
-            end += part.last - split > 2;
-            single |= std::uint64_t(split - part.first == 2) << (split - 1 - first);
-            // For the last point the shift would be a whole word: of a part of two there is none.
-            single |= std::uint64_t(part.last - split == 2) << ((split + 1 - first) & 63);
-        } else if (!(farthest.squaredDistance < surelyNot)) {
-            return VectorKernels::undecided;
-        }
-    }
-    if (single == 0)
-        return kept;
-
-    // A third of all parts of noise have a single point: all distances at once are sooner found.
-    double distances[VectorKernels::longestShort + VectorKernels::widest];
-    toNeighbours<Width>(x, y, first, last, readable, distances);
     bool isUndecided = false;
-    for (int i = 0; i < last - first - 1; ++i) {
-        const bool isSingle = single >> (i + 1) & 1;
-        const bool isSplit = distances[i] > surely;
-        kept |= std::uint64_t(isSingle & isSplit) << (i + 1);
-        isUndecided |= isSingle & !isSplit & !(distances[i] < surelyNot);
-    }
+    splitShort<Width>(
+        x, y, first, last,
+        readable, [&](const Farthest &farthest, double) __attribute__((always_inline)) {
+            const bool isSplit = farthest.squaredDistance > surely;
+            kept |= std::uint64_t(isSplit) << (farthest.index - first);
+            isUndecided |= !isSplit & !(farthest.squaredDistance < surelyNot);
+            return isSplit;
+        });
     return isUndecided ? VectorKernels::undecided : kept;
 }
 
@@ -153,39 +238,12 @@ template<int Width>
 VNA_INLINE void limitsOfShortBody(const double *x, const double *y, int first, int last,
                                   int readable, double *limits)
 {
-    struct Part {
-        int first;
-        int last;
-        double limit; ///< of all its points: the smallest deviation of what it is a part of
-    };
-    // As in simplifyShortBody(), but down to single points, which come last.
-    Part parts[2 * VectorKernels::longestShort];
-    parts[0] = {first, last, std::numeric_limits<double>::infinity()};
-    int end = last - first > 2;
-    Part singles[VectorKernels::longestShort];
-    singles[0] = parts[0];
-    int singleCount = last - first == 2;
-    for (int next = 0; next < end; ++next) {
-        const Part part = parts[next];
-        const Segment segment(x[part.first], y[part.first], x[part.last], y[part.last]);
-        const Farthest farthest =
-            farthestOfFewBody<Width>(x, y, part.first + 1, part.last, readable, segment);
-        const int split = farthest.index;
-        const double limit = std::min(part.limit, farthest.squaredDistance);
-        limits[split - first - 1] = limit;
-        for (const Part &half : {Part{part.first, split, limit}, Part{split, part.last, limit}}) {
-            parts[end] = half;
-            end += half.last - half.first > 2;
-            singles[singleCount] = half;
-            singleCount += half.last - half.first == 2;
-        }
-    }
-    double distances[VectorKernels::longestShort + VectorKernels::widest];
-    toNeighbours<Width>(x, y, first, last, readable, distances);
-    for (int i = 0; i < singleCount; ++i) {
-        const int at = singles[i].first - first;
-        limits[at] = std::min(singles[i].limit, distances[at]);
-    }
+    splitShort<Width>(
+        x, y, first, last,
+        readable, [&](const Farthest &farthest, double limit) __attribute__((always_inline)) {
+            limits[farthest.index - first - 1] = limit;
+            return true;
+        });
 }
 
 } // namespace SmithRender
