@@ -276,6 +276,7 @@ void StrokeMask::findFullCells(int tileIndex)
 {
     m_tiles[static_cast<size_t>(tileIndex)].strokesToCheck = checkInterval;
     constexpr int cells = tile / cell;
+    constexpr std::uint32_t notFullBits = 0x01010101u * (0xffu - fullEnough);
     const int top = tileIndex / m_tilesAcross * cells;
     const int left = tileIndex % m_tilesAcross * cells;
     for (int row = top; row < top + cells; ++row) {
@@ -285,8 +286,8 @@ void StrokeMask::findFullCells(int tileIndex)
         for (int y = 0; y < cell; ++y, line += m_stride) {
             for (int column = 0; column < cells; ++column) {
                 std::uint32_t pixels;
-                std::memcpy(&pixels, line + column * cell, sizeof pixels);
-                notFull[column] |= pixels & (0x01010101u * (0xffu & ~fullEnough));
+                std::memcpy(&pixels, line + std::ptrdiff_t(column) * cell, sizeof pixels);
+                notFull[column] |= pixels & notFullBits;
             }
         }
         unsigned full = 0;
