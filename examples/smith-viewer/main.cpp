@@ -12,6 +12,7 @@
 #include <smithchart/smithlimit.h>
 
 #include <QApplication>
+#include <QCursor>
 #include <QFile>
 #include <QLabel>
 #include <QMainWindow>
@@ -117,8 +118,9 @@ private:
                                  m_chart->yAxis()->pixelToCoord(pos.y()));
             m_chart->zoomAt(anchor, event->angleDelta().y() > 0 ? 1.25 : 0.8);
         });
-        connect(m_plot, &QCustomPlot::mouseDoubleClick, this, [this](QMouseEvent *event) {
-            if (!m_chart->handleDoubleClick(event->pos(), event->modifiers()))
+        connect(m_plot, &QCustomPlot::mouseDoubleClick, this, [this](const QMouseEvent *event) {
+            const QPoint pos = m_plot->mapFromGlobal(QCursor::pos());
+            if (!m_chart->handleDoubleClick(pos, event->modifiers()))
                 m_chart->resetView();
         });
         connect(
