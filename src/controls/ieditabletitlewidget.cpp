@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include <controls/ieditabletitlewidget.h>
 
+#include "ieditabletitlewidget_p.h"
+
 #include <controls/baseunitadapter.h>
 #include <controls/touchnumkeyboard.h>
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPointer>
 #include <QTimer>
 
 #include <algorithm>
@@ -49,24 +50,6 @@ bool isForwarded(int key)
 }
 
 } // namespace
-
-class IEditableTitleWidgetPrivate
-{
-public:
-    QPointer<QWidget> keyboard; ///< see IEditableTitleWidget::keyboard()
-    QPointer<BaseUnitAdapter> adapter;
-    bool committing = false;
-    bool edited = false; ///< typed into since the edit began
-    bool keepsEntryOpen = false;
-    bool isKeptOpen = false; ///< the entry waits for the focus to come back
-    bool closesKeyboard = false;
-    bool isFinishing = false; ///< the editor passes on the key that ends the edit
-    QPointer<QWidget> savedFocusProxy;
-    bool focusProxyOverridden = false;
-    QStringList dummyDisplayUnits;
-    QPointer<QWidget> editorWidget; ///< see IEditableTitleWidget::editor()
-    int gestureStart = 0;
-};
 
 IEditableTitleWidget::IEditableTitleWidget(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter,
                                            QWidget *parent)
@@ -153,26 +136,6 @@ void IEditableTitleWidget::setDummyDisplayUnits(const QStringList &units)
     d->dummyDisplayUnits = units;
 }
 
-void IEditableTitleWidget::overrideKeyboardFocusProxy(QWidget *widget)
-{
-    if (!widget || !keyboard())
-        return;
-    if (!d->focusProxyOverridden) {
-        d->savedFocusProxy = keyboard()->focusProxy();
-        d->focusProxyOverridden = true;
-    }
-    keyboard()->setFocusProxy(widget);
-}
-
-void IEditableTitleWidget::restoreKeyboardFocusProxy()
-{
-    if (!keyboard() || !d->focusProxyOverridden)
-        return;
-    keyboard()->setFocusProxy(d->savedFocusProxy);
-    d->savedFocusProxy = nullptr;
-    d->focusProxyOverridden = false;
-}
-
 void IEditableTitleWidget::onFocus()
 {
     d->committing = false;
@@ -234,52 +197,9 @@ void IEditableTitleWidget::attachEditor(QLineEdit *lineEdit)
     setKeyboard(keyboard());
 }
 
-void IEditableTitleWidget::setKeyboard(TouchNumKeyboard *keypad)
-{
-    if (keyboard() && keyboard() != keypad)
-        keyboard()->disconnect(this);
-    d->keyboard = keypad;
-    if (!keypad)
-        return;
-    connect(keypad, &TouchNumKeyboard::indicatorPress, this, [this](int position) {
-        if (!isMirrored())
-            return;
-        d->gestureStart = position;
-        editor()->setCursorPosition(position);
-    });
-    connect(keypad, &TouchNumKeyboard::indicatorMove, this, [this](int position) {
-        if (isMirrored())
-            editor()->setSelection(d->gestureStart, position - d->gestureStart);
-    });
-    connect(keypad, &TouchNumKeyboard::indicatorDoubleClick, this, [this] {
-        if (isMirrored())
-            editor()->selectAll();
-    });
-}
-
 QLineEdit *IEditableTitleWidget::editor() const
 {
     return qobject_cast<QLineEdit *>(d->editorWidget);
-}
-
-TouchNumKeyboard *IEditableTitleWidget::keyboard() const
-{
-    return qobject_cast<TouchNumKeyboard *>(d->keyboard);
-}
-
-void IEditableTitleWidget::registerAtKeyboard()
-{
-    TouchNumKeyboard *const keypad = keyboard();
-    if (!keypad)
-        return;
-    QStringList units = d->adapter ? d->adapter->availableUnits() : QStringList();
-    if (units.isEmpty())
-        units = d->dummyDisplayUnits;
-    QList<TouchNumKeyboard::KeySpec> keys;
-    for (const QString &unit : qAsConst(units))
-        keys.append({Qt::Key_Return, unit, unit});
-    keypad->setShortcutKeys(keys);
-    keypad->setReceiver(d->adapter);
 }
 
 bool IEditableTitleWidget::eventFilter(QObject *object, QEvent *event)
@@ -306,30 +226,6 @@ bool IEditableTitleWidget::eventFilter(QObject *object, QEvent *event)
 void IEditableTitleWidget::mousePressEvent(QMouseEvent *event)
 {
     QWidget::mousePressEvent(event);
-}
-
-void IEditableTitleWidget::publishSelection()
-{
-    if (!d->adapter || !editor())
-        return;
-    d->adapter->setProperty("selectionStart", std::max(0, editor()->selectionStart()));
-    d->adapter->setProperty("selectionLen", editor()->selectionLength());
-}
-
-/// Shows what is typed in the keypad's indicator, since the keypad may cover the editor.
-void IEditableTitleWidget::mirror()
-{
-    if (!isMirrored())
-        return;
-    const int cursor = editor()->cursorPosition();
-    const bool selected = editor()->hasSelectedText();
-    keyboard()->setIndicatorText(editor()->text(), selected ? editor()->selectionStart() : cursor,
-                                 editor()->selectionLength(), cursor);
-}
-
-bool IEditableTitleWidget::isMirrored() const
-{
-    return keyboard() && editor() && editor()->hasFocus() && !keyboard()->isAncestorOf(editor());
 }
 
 /// Shows the adapter's text as it stands after a commit or a step.

@@ -339,40 +339,6 @@ void TouchNumKeyboard::showEvent(QShowEvent *event)
         d->ui.edit->setFocus(Qt::OtherFocusReason);
 }
 
-void TouchNumKeyboard::mousePressEvent(QMouseEvent *event)
-{
-    Q_D(TouchNumKeyboard);
-    const int titleBottom = d->ui.titleGridLayout->geometry().bottom();
-    if (event->button() != Qt::LeftButton || QtCompat::position(event).y() > titleBottom) {
-        QDialog::mousePressEvent(event);
-        return;
-    }
-    d->dragging = true;
-    d->dragOffset = pos() - QtCompat::globalPosition(event).toPoint();
-    event->accept();
-}
-
-void TouchNumKeyboard::mouseMoveEvent(QMouseEvent *event)
-{
-    Q_D(TouchNumKeyboard);
-    if (!d->dragging) {
-        QDialog::mouseMoveEvent(event);
-        return;
-    }
-    move(QtCompat::globalPosition(event).toPoint() + d->dragOffset);
-    if (isWindow())
-        move(Utils::boundedTopLeft(pos(), size(), screen()->availableGeometry(), 0));
-    else
-        Utils::clampWidgetToHost(this, parentWidget());
-    event->accept();
-}
-
-void TouchNumKeyboard::mouseReleaseEvent(QMouseEvent *event)
-{
-    d_ptr->dragging = false;
-    QDialog::mouseReleaseEvent(event);
-}
-
 /// Sends the key of the pressed button to the focused widget.
 void TouchNumKeyboard::clickedKey()
 {

@@ -389,13 +389,11 @@ void SmithChartPlotPrivate::setGridVisible(bool visible)
     if (!plot)
         return;
     for (int i = 0; i < plot->plottableCount(); ++i) {
-        QCPAbstractPlottable *const plottable = plot->plottable(i);
-        if (onGridLayer(plottable) && isOurs(plottable))
-            plottable->setVisible(visible);
+        if (onGridLayer(plot->plottable(i)) && isOurs(plot->plottable(i)))
+            plot->plottable(i)->setVisible(visible);
     }
     for (int i = 0; i < plot->itemCount(); ++i) {
-        QCPAbstractItem *const item = plot->item(i);
-        if (onGridLayer(item) && isOurs(item))
-            item->setVisible(visible);
+        if (onGridLayer(plot->item(i)) && isOurs(plot->item(i)))
+            plot->item(i)->setVisible(visible);
     }
 }
