@@ -189,7 +189,8 @@ void NumericKeys::sayWhatFollowed(const StimulusNumber &number, const Stimulus &
 void NumericKeys::editPoints()
 {
     auto *adapter = new NumberAdapter(0);
-    adapter->setRange(Sweep::fewestPoints, Sweep::mostPoints);
+    const NumberRange &points = m_model->sourceLimits().points;
+    adapter->setRange(points.lowest, points.highest);
     adapter->setRealValue(m_model->sweep().points);
     edit(m_keys.points, adapter, {NumericDialog::Step125, 100.0, 1.0}, [this](double value) {
         Sweep sweep = m_model->sweep();
@@ -272,7 +273,8 @@ void NumericKeys::editReference()
 void NumericKeys::editTuning()
 {
     auto *adapter = new FrequencyAdapter;
-    adapter->setRange(tuningLimits.start, tuningLimits.stop);
+    const NumberRange &tuning = m_model->sourceLimits().tuning;
+    adapter->setRange(tuning.lowest, tuning.highest);
     adapter->setRealValue(m_model->tuning());
     edit(m_keys.tune, adapter, {10e6, 1e6}, [this](double value) { m_model->setTuning(value); });
 }
@@ -301,11 +303,11 @@ void NumericKeys::showStimulus()
                                    : nothingText());
     }
     // A file has the points that it has.
-    const bool simulated = isSimulated(m_model->source());
-    m_keys.points->setEnabled(trace && simulated);
-    m_keys.points->setValue(!trace          ? nothingText()
-                                : simulated ? QString::number(m_model->sweep().points)
-                                            : QString::number(m_model->network(*trace).points()));
+    const bool measures = m_model->sourceLimits().measures();
+    m_keys.points->setEnabled(trace && measures);
+    m_keys.points->setValue(!trace         ? nothingText()
+                                : measures ? QString::number(m_model->sweep().points)
+                                           : QString::number(m_model->network(*trace).points()));
 }
 
 void NumericKeys::showMarkerStimulus()
@@ -335,7 +337,7 @@ void NumericKeys::showScale()
 
 void NumericKeys::showTuning()
 {
-    const bool tunable = isTunable(m_model->source());
+    const bool tunable = !m_model->sourceLimits().tuning.isEmpty();
     m_keys.tune->setEnabled(tunable);
     m_keys.tune->setValue(tunable ? frequencyText(m_model->tuning()) : nothingText());
 }

@@ -23,14 +23,15 @@ SourceKeys::SourceKeys(PanelModel *model, const PanelKeys &keys, QObject *parent
     connect(keys.source, &SoftKey::choicePicked, this, [this](int index) {
         const auto picked = Source(index);
         if (picked != Source::Files
-            || (isSimulated(m_model->source()) && !m_model->files().isEmpty()))
+            || (m_model->source() != Source::Files && !m_model->files().isEmpty()))
             m_model->setSource(picked);
         else
             Q_EMIT fileRequested();
         showState();
     });
     connect(keys.sweep, &SwitchButton::statusChanged, model, &PanelModel::setSweeping);
-    for (const auto signal : {&PanelModel::sourceChanged, &PanelModel::sweepingChanged})
+    for (const auto signal : {&PanelModel::sourceChanged, &PanelModel::sourceStateChanged,
+                              &PanelModel::sweepingChanged})
         connect(model, signal, this, &SourceKeys::showState);
     showState();
 }
@@ -39,7 +40,7 @@ void SourceKeys::showState()
 {
     m_keys.source->setChoice(int(m_model->source()));
     m_keys.sweep->setStatus(m_model->isSweeping());
-    m_keys.sweep->setEnabled(isSimulated(m_model->source()));
+    m_keys.sweep->setEnabled(m_model->sourceLimits().measures());
 }
 
 } // namespace Panel

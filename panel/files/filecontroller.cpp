@@ -176,10 +176,10 @@ void FileController::onVanished(const QString &path)
     showDiskState();
 }
 
-/// The paths of the files on show; none while a simulation is.
+/// The paths of the files on show; none while a measurement is.
 QStringList FileController::shownPaths() const
 {
-    return isSimulated(m_model->source()) ? QStringList() : pathsOf(m_model->files());
+    return m_model->source() == Source::Files ? pathsOf(m_model->files()) : QStringList();
 }
 
 void FileController::showDiskState()

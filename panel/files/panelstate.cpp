@@ -113,11 +113,15 @@ void PanelState::restore(PanelModel *model, bool withSource) const
         return;
     restoreLook();
     model->preferences()->setExportFolder(m_saved["screenshots"_key].toString());
+    QStringList instruments;
+    for (const QJsonValue address : m_saved["instruments"_key].toArray())
+        instruments << address.toString();
+    model->preferences()->setInstruments(instruments);
     model->setTuning(m_saved["tuning"_key].toDouble(defaultTuning));
 
     const QJsonObject sweep = m_saved["sweep"_key].toObject();
     const auto source = Source(m_saved["source"_key].toInt());
-    if (withSource && isSimulated(source)) {
+    if (withSource && source != Source::Files) {
         restoreViewSettings(model->viewSettings(), m_saved);
         // Its first data come later.
         QObject *once = new QObject(model);
@@ -126,7 +130,10 @@ void PanelState::restore(PanelModel *model, bool withSource) const
             QMetaObject::invokeMethod(
                 model, [=] { restoreNetworks(model, saved); }, Qt::QueuedConnection);
         });
-        model->setSource(source);
+        if (source == Source::Instrument)
+            model->setInstrument(m_saved["instrument"_key].toString());
+        else
+            model->setSource(source);
     } else {
         restoreViewState(model, m_saved);
     }
@@ -154,6 +161,8 @@ bool PanelState::save(const PanelModel &model, const QString &path)
     state["sweep"_key] = QJsonObject{
         {"start"_key, sweep.start}, {"stop"_key, sweep.stop}, {"points"_key, sweep.points}};
     state["tuning"_key] = model.tuning();
+    state["instrument"_key] = model.instrument();
+    state["instruments"_key] = QJsonArray::fromStringList(preferences->instruments());
     state["files"_key] = files;
     if (!QDir().mkpath(QFileInfo(path).absolutePath()))
         return false;

@@ -217,7 +217,9 @@ QVector<SavedTrace> restoreTraces(PanelModel *model, int network, const QJsonObj
     if (present.isEmpty() || traces.isEmpty())
         return {};
     const Trace first = *model->trace(present.constFirst());
-    model->setStimulus(first, {saved["start"_key].toDouble(), saved["stop"_key].toDouble()});
+    // An instrument keeps the sweep that it is set to.
+    if (model->source() != Source::Instrument)
+        model->setStimulus(first, {saved["start"_key].toDouble(), saved["stop"_key].toDouble()});
     model->setCorrection(first, restoredCorrection(saved));
     QVector<SavedTrace> restored;
     QVector<int> wanted;

@@ -43,18 +43,23 @@ void PanelModel::replaceNetworks(const QVector<Network> &networks)
 
 void PanelModel::openNetworks(const QVector<Network> &networks)
 {
-    const bool simulated = isSimulated(m_source);
+    const bool measured = m_source != Source::Files;
     m_source = Source::Files;
+    m_sourceLimits = {};
+    m_sourceState = {};
+    m_showsMeasurement = false;
     m_files = networks;
     replaceNetworks(networks);
-    if (simulated)
+    if (measured)
         Q_EMIT sourceChanged();
 }
 
 void PanelModel::beginMeasurement(const Network &network)
 {
-    if (isSimulated(m_source))
-        replaceNetworks({network});
+    if (m_source == Source::Files)
+        return;
+    m_showsMeasurement = true;
+    replaceNetworks({network});
 }
 
 bool PanelModel::updateNetwork(int index, const Network &network)
@@ -70,29 +75,37 @@ void PanelModel::updateFile(int index, const Network &network)
     if (index < 0 || index >= m_files.size())
         return;
     m_files[index] = network;
-    if (!isSimulated(m_source) && !updateNetwork(index, network))
+    if (!m_showsMeasurement && m_source == Source::Files && !updateNetwork(index, network))
         openNetworks(QVector<Network>(m_files));
+}
+
+/// Whether the stimulus is that of a sweep, and not the part of a file on show. Until the first data
+/// of an instrument come, files are.
+bool PanelModel::sweeps() const
+{
+    return isSimulated(m_source) || (m_source == Source::Instrument && m_showsMeasurement);
 }
 
 Stimulus PanelModel::stimulus(const Trace &trace) const
 {
-    return isSimulated(m_source) ? m_sweep.stimulus() : m_networks.stimulus(trace.network);
+    return sweeps() ? m_sweep.stimulus() : m_networks.stimulus(trace.network);
 }
 
 Stimulus PanelModel::limits(const Trace &trace) const
 {
-    return isSimulated(m_source) ? Sweep::limits : m_networks.limits(trace.network);
+    return sweeps() ? Stimulus{m_sourceLimits.frequency.lowest, m_sourceLimits.frequency.highest}
+                    : m_networks.limits(trace.network);
 }
 
 double PanelModel::smallestSpan() const
 {
-    return isSimulated(m_source) ? Sweep::smallestSpan : 0.0;
+    return sweeps() ? m_sourceLimits.smallestSpan : 0.0;
 }
 
 void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
 {
     const int network = trace.network;
-    if (!isSimulated(m_source)) {
+    if (!sweeps()) {
         if (m_networks.setStimulus(network, stimulus))
             Q_EMIT stimulusChanged(network);
         return;
@@ -114,12 +127,22 @@ void PanelModel::setCorrection(const Trace &trace, const Correction &correction)
 void PanelModel::setSource(Source source)
 {
     if (source == Source::Files) {
-        if (isSimulated(m_source))
+        if (m_source != Source::Files)
             openNetworks(QVector<Network>(m_files));
         return;
     }
+    const bool wasSimulated = isSimulated(m_source);
     m_source = source;
-    const Sweep sweep = defaultSweep(source, m_sweep.points);
+    m_sourceLimits = Panel::sourceLimits(source);
+    m_sourceState = {};
+    // The first data of an instrument may take long, and nobody shall take a simulation for them.
+    if (source == Source::Instrument && wasSimulated) {
+        m_showsMeasurement = false;
+        replaceNetworks(QVector<Network>(m_files));
+    }
+    const Sweep sweep = isSimulated(source)
+        ? defaultSweep(source, qMin(m_sweep.points, Sweep::mostPoints))
+        : m_sweep;
     const bool another = sweep != m_sweep;
     m_sweep = sweep;
     Q_EMIT sourceChanged();
@@ -127,12 +150,63 @@ void PanelModel::setSource(Source source)
         Q_EMIT sweepChanged();
 }
 
+void PanelModel::setInstrument(const QString &address)
+{
+    m_instrument = address;
+    setSource(Source::Instrument);
+}
+
+void PanelModel::setSourceState(const SourceState &state, const SourceLimits &limits)
+{
+    if (m_source == Source::Files)
+        return;
+    m_sourceState = state;
+    m_sourceLimits = limits;
+    Q_EMIT sourceStateChanged();
+}
+
+void PanelModel::takeSettings(const MeasurementSettings &settings)
+{
+    if (settings.acquisition != m_acquisition) {
+        m_acquisition = settings.acquisition;
+        Q_EMIT acquisitionChanged();
+    }
+    if (settings.sweep != m_sweep) {
+        m_sweep = settings.sweep;
+        Q_EMIT sweepChanged();
+    }
+}
+
+bool PanelModel::isStale() const
+{
+    return m_source == Source::Instrument && m_showsMeasurement
+        && m_sourceState.phase != SourceState::Ready;
+}
+
 void PanelModel::setSweep(const Sweep &sweep)
 {
-    if (sweep == m_sweep || !sweep.isValid())
+    const bool valid =
+        m_source == Source::Instrument ? m_sourceLimits.allow(sweep) : sweep.isValid();
+    if (sweep == m_sweep || !valid)
         return;
     m_sweep = sweep;
     Q_EMIT sweepChanged();
+}
+
+void PanelModel::setAcquisition(const Acquisition &acquisition)
+{
+    const Acquisition bounded = m_sourceLimits.bounded(acquisition);
+    if (bounded == m_acquisition)
+        return;
+    m_acquisition = bounded;
+    Q_EMIT acquisitionChanged();
+}
+
+void PanelModel::sweepOnce()
+{
+    setSweeping(false);
+    if (m_source != Source::Files)
+        Q_EMIT singleRequested();
 }
 
 void PanelModel::setSweeping(bool sweeping)

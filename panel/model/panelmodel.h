@@ -4,6 +4,7 @@
 
 #include "diagramplan.h"
 #include "markers.h"
+#include "measurementsource.h"
 #include "networks.h"
 #include "preferences.h"
 #include "source.h"
@@ -53,8 +54,7 @@ public:
     {
         return m_networks.correction(trace.network);
     }
-    /// What the trace's source is to sweep: the sweep of a simulated device, or the part of a file
-    /// on show.
+    /// What the trace's source is to sweep: the sweep of a device, or the part of a file on show.
     Stimulus stimulus(const Trace &trace) const;
     /// The frequencies that a diagram of the trace shows while it is not magnified.
     Stimulus shownRange(const Trace &trace) const { return m_networks.shownRange(trace.network); }
@@ -63,10 +63,10 @@ public:
     /// The smallest span that the stimulus can have.
     double smallestSpan() const;
 
-    /// Shows files: replaces all networks, makes new traces of them, and ends a simulation. The
+    /// Shows files: replaces all networks, makes new traces of them, and ends a measurement. The
     /// first trace becomes active; markers and zooms go.
     void openNetworks(const QVector<Network> &networks);
-    /// The same with the first data of a simulated source; nothing happens while files are on show.
+    /// The same with the first data of another source; nothing happens while files are on show.
     void beginMeasurement(const Network &network);
     /// Replaces the data of one network by a new measurement of it; traces and markers stay. False,
     /// without a change, for an index without a network, another number of ports, or no points.
@@ -76,28 +76,49 @@ public:
     /// Takes a file that was read again. Traces and markers stay unless it has other ports than
     /// before.
     void updateFile(int index, const Network &network);
-    /// What a simulated device cannot sweep is ignored; the part of a file is bounded by its limits.
+    /// What a device cannot sweep is ignored; the part of a file is bounded by its limits.
     void setStimulus(const Trace &trace, const Stimulus &stimulus);
     /*! @} */
 
     /*! \name Source
         @{ */
     Source source() const { return m_source; }
-    /// The sweep of a simulated source; what files hold does not depend on it.
+    /// The address of the instrument, as parseLinkAddress() takes it; empty while none was chosen.
+    QString instrument() const { return m_instrument; }
+    /// What the source can be set to; empty ranges for files.
+    const SourceLimits &sourceLimits() const { return m_sourceLimits; }
+    const SourceState &sourceState() const { return m_sourceState; }
+    /// Whether what is on show was measured, and not read from files.
+    bool showsMeasurement() const { return m_showsMeasurement; }
+    /// Whether what is on show was measured by an instrument that is not there now.
+    bool isStale() const;
+    /// The sweep of a measurement; what files hold does not depend on it.
     const Sweep &sweep() const { return m_sweep; }
+    /// Bandwidth, power and averages of a measurement.
+    const Acquisition &acquisition() const { return m_acquisition; }
     /// Whether measurements go on; otherwise the last one is held.
     bool isSweeping() const { return m_sweeping; }
     /// What the antenna is tuned to, in Hz.
     double tuning() const { return m_tuning; }
-    /// The networks of the files that were opened last, on show or waiting behind a simulation.
+    /// The networks of the files that were opened last, on show or waiting behind a measurement.
     const QVector<Network> &files() const { return m_files; }
 
-    /// A simulated source begins with its default sweep; its data replace the networks when the
-    /// first come. Going back to files shows those of before at once.
+    /// A simulated source begins with its default sweep, an instrument with its own; the data
+    /// replace the networks when the first come. Going back to files shows those of before at once.
     void setSource(Source source);
+    /// Goes to the instrument at this address, also to the one that is the source already.
+    void setInstrument(const QString &address);
+    /// What the source says of itself; its limits bound what is set from now on.
+    void setSourceState(const SourceState &state, const SourceLimits &limits);
+    /// What the source has made of its settings.
+    void takeSettings(const MeasurementSettings &settings);
     /// A sweep outside the limits is ignored.
     void setSweep(const Sweep &sweep);
+    /// A number outside its limits moves to the limit.
+    void setAcquisition(const Acquisition &acquisition);
     void setSweeping(bool sweeping);
+    /// Holds, and asks for one sweep.
+    void sweepOnce();
     /// A value outside the limits moves to the limit.
     void setTuning(double hertz);
     /*! @} */
@@ -217,7 +238,10 @@ Q_SIGNALS:
     /// Another part of a network is on show, or is to be swept.
     void stimulusChanged(int network);
     void sourceChanged();
+    void sourceStateChanged();
     void sweepChanged();
+    void acquisitionChanged();
+    void singleRequested();
     void sweepingChanged();
     void tuningChanged();
 
@@ -241,6 +265,7 @@ Q_SIGNALS:
     void markerModeChanged();
 
 private:
+    bool sweeps() const;
     void replaceNetworks(const QVector<Network> &networks);
     bool holdsIndex(int traceId, double index) const;
     void placeMarker(int traceId, int number, double index);
@@ -253,8 +278,13 @@ private:
     ViewSettings m_viewSettings;
     Preferences m_preferences;
     Source m_source = Source::Files;
-    QVector<Network> m_files; ///< kept while a simulation is on show
+    QString m_instrument;
+    SourceLimits m_sourceLimits;
+    SourceState m_sourceState;
+    bool m_showsMeasurement = false;
+    QVector<Network> m_files; ///< kept while a measurement is on show
     Sweep m_sweep;
+    Acquisition m_acquisition;
     double m_tuning = defaultTuning;
     bool m_sweeping = true;
     /// What traces made of their data, by trace, and the revisions of networks and traces that it

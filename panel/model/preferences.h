@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
+#include <QStringList>
 
 namespace Panel
 {
@@ -22,14 +22,20 @@ public:
     /// Where pictures and data go; empty for the default folder.
     QString exportFolder() const { return m_exportFolder; }
 
+    /// Addresses of instruments that were linked before, the last one first.
+    QStringList instruments() const { return m_instruments; }
+
     void setLanguage(const QString &code) { set(m_language, code); }
     void setExportFolder(const QString &folder) { set(m_exportFolder, folder); }
+
+    void setInstruments(const QStringList &addresses) { set(m_instruments, addresses); }
 
 Q_SIGNALS:
     void changed();
 
 private:
-    void set(QString &member, const QString &value)
+    template<typename Value>
+    void set(Value &member, const Value &value)
     {
         if (value == member)
             return;
@@ -39,6 +45,7 @@ private:
 
     QString m_language;
     QString m_exportFolder;
+    QStringList m_instruments;
 };
 
 } // namespace Panel

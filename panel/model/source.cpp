@@ -16,6 +16,36 @@ struct Text {
 
 } // namespace
 
+bool SourceLimits::allow(const Sweep &sweep) const
+{
+    return frequency.holds(sweep.start) && frequency.holds(sweep.stop)
+        && sweep.stop - sweep.start >= smallestSpan && points.holds(sweep.points);
+}
+
+Acquisition SourceLimits::bounded(const Acquisition &acquisition) const
+{
+    Acquisition result = acquisition;
+    if (!bandwidth.isEmpty() && !std::isnan(result.bandwidth))
+        result.bandwidth = bandwidth.bounded(result.bandwidth);
+    if (!power.isEmpty() && !std::isnan(result.power))
+        result.power = power.bounded(result.power);
+    result.averages = averages.isEmpty() ? 1 : int(averages.bounded(result.averages));
+    return result;
+}
+
+SourceLimits sourceLimits(Source source)
+{
+    SourceLimits limits;
+    if (!isSimulated(source))
+        return limits;
+    limits.frequency = {Sweep::limits.start, Sweep::limits.stop};
+    limits.smallestSpan = Sweep::smallestSpan;
+    limits.points = {double(Sweep::fewestPoints), double(Sweep::mostPoints)};
+    if (source == Source::Antenna)
+        limits.tuning = {tuningLimits.start, tuningLimits.stop};
+    return limits;
+}
+
 QString sourceName(Source source)
 {
     switch (source) {
@@ -27,6 +57,8 @@ QString sourceName(Source source)
         return Text::tr("Filter");
     case Source::Cable:
         return Text::tr("Long cable");
+    case Source::Instrument:
+        return Text::tr("Instrument");
     }
     return {};
 }

@@ -16,7 +16,7 @@ constexpr qint64 s_mostPoints = qint64(10) * SweepSource::fewestPoints;
 } // namespace
 
 SweepSource::SweepSource(QObject *parent)
-    : QObject(parent)
+    : MeasurementSource(parent)
     , m_worker(QStringLiteral("sweep"))
 {
     m_timer.setTimerType(Qt::PreciseTimer);
@@ -24,9 +24,16 @@ SweepSource::SweepSource(QObject *parent)
     connect(&m_timer, &QTimer::timeout, this, &SweepSource::deliver);
 }
 
+void SweepSource::start(const MeasurementSettings &settings)
+{
+    start(m_device, settings.sweep, settings.tuning);
+}
+
 void SweepSource::start(Source source, const Sweep &sweep, double tuning)
 {
     stop();
+    m_device = source;
+    m_settings = {sweep, {}, tuning};
     ++m_start;
     m_worker.begin();
     m_measurement = std::make_shared<std::unique_ptr<ProgressiveSweep>>();
@@ -34,6 +41,7 @@ void SweepSource::start(Source source, const Sweep &sweep, double tuning)
         *measurement = std::make_unique<ProgressiveSweep>(source, sweep, tuning);
     });
     m_first = true;
+    m_once = false;
     m_clock.start();
     requestFrame();
     m_timer.start();
@@ -54,11 +62,29 @@ void SweepSource::setHeld(bool held)
     m_held = held;
 }
 
-void SweepSource::setTuning(double tuning)
+void SweepSource::measureOnce()
 {
-    m_worker.post([measurement = m_measurement, tuning](const Worker::Job &) {
-        (*measurement)->setTuning(tuning);
-    });
+    m_clock.start();
+    m_once = true;
+}
+
+SourceState SweepSource::state() const
+{
+    SourceState state;
+    state.phase = isRunning() ? SourceState::Ready : SourceState::Idle;
+    return state;
+}
+
+void SweepSource::setSettings(const MeasurementSettings &settings)
+{
+    if (settings.sweep != m_settings.sweep) {
+        start(settings);
+    } else if (settings.tuning != m_settings.tuning) {
+        m_settings = settings;
+        m_worker.post([measurement = m_measurement, tuning = settings.tuning](const Worker::Job &) {
+            (*measurement)->setTuning(tuning);
+        });
+    }
 }
 
 void SweepSource::requestFrame()
@@ -76,14 +102,16 @@ void SweepSource::requestFrame()
 void SweepSource::deliver()
 {
     // Of a device just started, one frame is shown in any case.
-    if (!m_frame || (m_held && !m_first))
+    if (!m_frame || (m_held && !m_first && !m_once))
         return;
     m_first = false;
+    const bool complete = m_frame->progress >= 1.0;
+    m_once = m_once && !complete;
     const QPointer<SweepSource> alive(this);
     const quint64 start = m_start;
     {
         const auto frame = std::move(m_frame);
-        Q_EMIT swept(frame->network, frame->progress);
+        Q_EMIT swept(frame->network, frame->progress, complete ? 1 : 0);
     }
     // Asked for only now that the receiver has let go of the frame before, which is written to.
     if (alive && start == m_start && isRunning())

@@ -5,6 +5,7 @@
 #include "progressivesweep.h"
 
 #include <panel/ground/worker.h>
+#include <panel/model/measurementsource.h>
 
 #include <QElapsedTimer>
 #include <QTimer>
@@ -27,7 +28,7 @@ namespace Panel
     connect(&source, &SweepSource::swept, this, [this](const Network &frame) { ... });
     source.start(Source::Antenna, sweep, defaultTuning);
     \endcode */
-class SweepSource : public QObject
+class SweepSource : public MeasurementSource
 {
     Q_OBJECT
 
@@ -41,23 +42,23 @@ public:
 
     explicit SweepSource(QObject *parent = nullptr);
 
-    /// Sweeps this device, tuned to so many Hz, from now on. Frames of what ran before do not come
-    /// any more.
+    /// Which device the next start is for.
+    void setDevice(Source source) { m_device = source; }
+    void start(const MeasurementSettings &settings) override;
+    /// Sweeps this device, tuned to so many Hz, from now on.
     void start(Source source, const Sweep &sweep, double tuning);
-    void stop();
+    void stop() override;
     bool isRunning() const { return m_worker.isBusy(); }
 
-    /// Stays with the last frame while held, in the middle of a sweep too; a start while held gives
-    /// one frame.
-    void setHeld(bool held);
+    /// Another sweep is a start; a tuning alone begins the sweep in progress anew.
+    void setSettings(const MeasurementSettings &settings) override;
+    /// A sweep that is held in the middle goes on where it was.
+    void setHeld(bool held) override;
     bool isHeld() const { return m_held; }
+    void measureOnce() override;
 
-    /// Tunes the antenna to so many Hz; a sweep in progress begins anew.
-    void setTuning(double tuning);
-
-Q_SIGNALS:
-    /// Points have been measured; at a progress of 1 the sweep is complete.
-    void swept(const Panel::Network &frame, double progress);
+    SourceLimits limits() const override { return sourceLimits(m_device); }
+    SourceState state() const override;
 
 private:
     struct Frame {
@@ -76,7 +77,10 @@ private:
     std::unique_ptr<Frame> m_frame; ///< computed and not yet handed out
     quint64 m_start = 0; ///< counts the starts
     bool m_first = false; ///< nothing has been handed out since the start
+    bool m_once = false; ///< a sweep is under way though held
     bool m_held = false;
+    Source m_device = Source::Antenna;
+    MeasurementSettings m_settings;
 };
 
 } // namespace Panel

@@ -160,10 +160,11 @@ void PanelController::connectFiles()
 
 void PanelController::connectSweep()
 {
-    auto *sweeps = new SweepController(m_model, this);
+    auto *sweeps = new SweepController(m_model, nullptr, this);
     connect(sweeps, &SweepController::progressed, m_window->sweepBar(), &SweepBar::setProgress);
-    connect(sweeps, &SweepController::sweepCompleted, m_window->sweepBar(), &SweepBar::countSweep);
-    connect(sweeps, &SweepController::sweepCompleted, this, &PanelController::sweepCompleted);
+    connect(sweeps, &SweepController::sweepsCompleted, m_window->sweepBar(),
+            &SweepBar::countSweeps);
+    connect(sweeps, &SweepController::sweepsCompleted, this, &PanelController::sweepCompleted);
 }
 
 void PanelController::connectHistory()

@@ -105,7 +105,8 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     });
     setAcceptDrops(true);
 
-    connect(m_model, &PanelModel::networksChanged, this, &PanelWindow::showModel);
+    for (const auto signal : {&PanelModel::networksChanged, &PanelModel::sourceStateChanged})
+        connect(m_model, signal, this, &PanelWindow::showModel);
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
             &PanelWindow::recolor);
     showModel();
@@ -209,11 +210,13 @@ void PanelWindow::showModel()
         : files == 1                ? networks.first().name
                                     : tr("%n files", nullptr, files);
     // What is no measurement of the user's says so.
-    const QString kind = isSimulated(m_model->source()) ? tr("Simulated: %1")
-        : files == 1 && isSample(networks.first())      ? tr("Sample: %1")
-                                                        : QStringLiteral("%1");
+    const bool measured = m_model->showsMeasurement();
+    const QString kind = measured && isSimulated(m_model->source()) ? tr("Simulated: %1")
+        : m_model->isStale()                                        ? tr("Old: %1")
+        : files == 1 && isSample(networks.first())                  ? tr("Sample: %1")
+                                                                    : QStringLiteral("%1");
     m_fileName->setText(kind.arg(name));
-    m_keys.file->setValue(files == 0 || isSimulated(m_model->source()) ? tr("Open\u2026") : name);
+    m_keys.file->setValue(files == 0 || measured ? tr("Open\u2026") : name);
 }
 
 void PanelWindow::resizeEvent(QResizeEvent *event)

@@ -71,14 +71,14 @@ void SweepBar::setProgress(double progress)
     update(0, 0, width(), s_lineWidth);
 }
 
-void SweepBar::countSweep()
+void SweepBar::countSweeps(int sweeps)
 {
     if (!m_clock.isValid()) {
         m_clock.start();
         m_sweeps = 0;
         return;
     }
-    ++m_sweeps;
+    m_sweeps += sweeps;
     const qint64 elapsed = m_clock.elapsed();
     if (elapsed < s_speedInterval || !m_model->isSweeping())
         return;

@@ -24,8 +24,8 @@ public:
     /// How far the sweep is, from 0 to 1. A sweep that is done before the display could show its
     /// progress draws no line.
     void setProgress(double progress);
-    /// A sweep has ended.
-    void countSweep();
+    /// So many sweeps have ended.
+    void countSweeps(int sweeps);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -134,7 +134,7 @@ private Q_SLOTS:
         Desk desk;
         const auto *sweeps = desk.controller.findChild<SweepController *>();
         const QSignalSpy progressed(sweeps, &SweepController::progressed);
-        const QSignalSpy completed(sweeps, &SweepController::sweepCompleted);
+        const QSignalSpy completed(sweeps, &SweepController::sweepsCompleted);
         desk.model.setSweep({1e9, 2e9, 20001});
         desk.model.setSource(Source::Antenna);
         QTRY_VERIFY(progressed.count() >= 1);
