@@ -10,6 +10,7 @@
 #include <panel/touchstone/saving.h>
 #include <panel/window/commandline.h>
 #include <panel/window/grab.h>
+#include <panel/window/linkedmeasurement.h>
 #include <panel/window/messagebar.h>
 #include <panel/window/panelcontroller.h>
 #include <panel/window/panelwindow.h>
@@ -86,6 +87,15 @@ int convert(const Panel::CommandLine &commandLine)
     return conversion.error.isEmpty() ? 0 : 1;
 }
 
+/// Measures with an instrument, and saves what it gave.
+int measure(const Panel::CommandLine &commandLine)
+{
+    const QString error = Panel::measureAndSave(commandLine);
+    if (!error.isEmpty())
+        std::fprintf(stderr, "vnapanel: %s\n", qUtf8Printable(error));
+    return error.isEmpty() ? 0 : 1;
+}
+
 /// So that a picture has something to show.
 void waitForSweep(Panel::PanelController *controller)
 {
@@ -126,7 +136,7 @@ int main(int argc, char **argv)
     }
     if (!commandLine.saveFile.isEmpty()) {
         const QCoreApplication application(argc, argv);
-        return convert(commandLine);
+        return commandLine.instrument.isEmpty() ? convert(commandLine) : measure(commandLine);
     }
     const bool grabs = !commandLine.grabFolder.isEmpty();
     const auto unset = [](const char *name) { return qEnvironmentVariableIsEmpty(name); };

@@ -61,6 +61,8 @@ class MeasurementSource : public QObject
 public:
     using QObject::QObject;
 
+    /// Which device the next start is for; an instrument has an address.
+    virtual void choose(Source source, const QString &address) = 0;
     /// Measures from now on. A simulated device is set to the settings; an instrument keeps its
     /// own, and tells them by settled(). Frames of what ran before do not come any more.
     virtual void start(const MeasurementSettings &settings) = 0;

@@ -72,8 +72,7 @@ void SweepController::start()
     m_source = wanted;
     if (!m_source)
         return;
-    if (isSimulated(source))
-        m_simulation.setDevice(source);
+    m_source->choose(source, m_model->instrument());
     m_source->setHeld(!m_model->isSweeping());
     m_source->start(settings());
     m_model->setSourceState(m_source->state(), m_source->limits());

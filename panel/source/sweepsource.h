@@ -42,8 +42,7 @@ public:
 
     explicit SweepSource(QObject *parent = nullptr);
 
-    /// Which device the next start is for.
-    void setDevice(Source source) { m_device = source; }
+    void choose(Source source, const QString &) override { m_device = source; }
     void start(const MeasurementSettings &settings) override;
     /// Sweeps this device, tuned to so many Hz, from now on.
     void start(Source source, const Sweep &sweep, double tuning);

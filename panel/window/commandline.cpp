@@ -3,6 +3,8 @@
 #include "commandline.h"
 
 #include <panel/ground/languages.h>
+#include <panel/link/linkaddress.h>
+#include <panel/model/source.h>
 
 #include <QCommandLineParser>
 #include <QRegularExpression>
@@ -27,8 +29,8 @@ void addOptions(QCommandLineParser &parser)
         literal("Shows Touchstone files (.s1p, .s2p, .ts) on Smith charts and over the frequency.\n"
                 "Without files it shows those of the last time, or a sample.\n"
                 "\n"
-                "Exit status: 0 if all went well, 1 if a file could not be read or written,\n"
-                "2 if the command line was wrong."));
+                "Exit status: 0 if all went well, 1 if a file could not be read or written or an\n"
+                "instrument not be measured with, 2 if the command line was wrong."));
     parser.addPositionalArgument(literal("files"), literal("Touchstone files to open."),
                                  literal("[files...]"));
     const auto add = [&parser](const QStringList &names, const char *text, const char *value = "") {
@@ -46,6 +48,15 @@ void addOptions(QCommandLineParser &parser)
         "OUT");
     add({literal("touchstone-version")}, "Save as Touchstone 1 or 2 (default: as it needs).", "N");
     add({literal("overwrite")}, "Save over a file that is newer, too.");
+    add({literal("connect")},
+        "Measure with the instrument at nanovna:PORT, librevna:HOST or scpi:HOST; with --save, "
+        "save its last sweep and quit, which needs no display.",
+        "ADDRESS");
+    add({literal("start")}, "Begin the saved sweep at so many Hz (default: as it is set).", "HZ");
+    add({literal("stop")}, "End the saved sweep at so many Hz (default: as it is set).", "HZ");
+    add({literal("points")}, "Points of the saved sweep (default: as it is set).", "N");
+    add({literal("sweeps")}, "Sweep so often before saving (default 1).", "N");
+    add({literal("log-link")}, "Write what goes over the cable to FILE.", "FILE");
     add({literal("simulate")}, "Measure a simulated device live.");
     add({literal("exit-when-shown")},
         "Quit at the first picture and print the peak memory, to time the start.");
@@ -60,6 +71,47 @@ bool parseSize(const QString &text, QSize &size)
     size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
     return match.hasMatch() && size.boundedTo(s_largest) == size
         && size.expandedTo(s_smallest) == size;
+}
+
+/// Reads a number that has to be at least 1; false if the option holds none.
+bool readCount(const QCommandLineParser &parser, const char *name, double most, double &value)
+{
+    bool ok = true;
+    if (parser.isSet(literal(name)))
+        value = parser.value(literal(name)).toDouble(&ok);
+    return ok && !(value < 1.0) && !(value > most);
+}
+
+/// What belongs to an instrument; the sentence as below.
+QString readInstrument(const QCommandLineParser &parser, CommandLine &result)
+{
+    result.instrument = parser.value(literal("connect"));
+    result.linkLog = parser.value(literal("log-link"));
+    LinkAddress address;
+    QString error;
+    if (parser.isSet(literal("connect")) && !parseLinkAddress(result.instrument, address, error))
+        return error;
+    double points = result.points, sweeps = result.sweeps;
+    const std::tuple<const char *, double *, double> numbers[] = {
+        {"start", &result.start, 1e12},
+        {"stop", &result.stop, 1e12},
+        {"points", &points, double(Sweep::mostPoints)},
+        {"sweeps", &sweeps, 1e9},
+    };
+    for (const auto &[name, value, most] : numbers) {
+        if (!parser.isSet(literal(name)))
+            continue;
+        if (result.instrument.isEmpty() || !parser.isSet(literal("save")))
+            return literal("--%1 goes with --connect and --save.").arg(literal(name));
+        if (!readCount(parser, name, most, *value))
+            return literal("--%1 wants a number from 1, not \"%2\".")
+                .arg(literal(name), parser.value(literal(name)));
+    }
+    if (result.start >= result.stop)
+        return literal("--start has to be below --stop.");
+    result.points = int(points);
+    result.sweeps = int(sweeps);
+    return {};
 }
 
 /// The sentence that says why a value cannot be taken; empty if all can.
@@ -81,8 +133,9 @@ QString readValues(const QCommandLineParser &parser, CommandLine &result)
             return literal("--scale wants a number from 1 to 4, not \"%1\".").arg(scale);
     }
     result.saveFile = parser.value(literal("save"));
-    if (parser.isSet(literal("save")) && parser.positionalArguments().size() != 1)
-        return literal("--save wants one file to read.");
+    const auto files = parser.positionalArguments().size();
+    if (parser.isSet(literal("save")) && files != (parser.isSet(literal("connect")) ? 0 : 1))
+        return literal("--save wants one file to read, or an instrument.");
     const QString version = parser.value(literal("touchstone-version"));
     result.touchstoneVersion = version.toInt();
     if (parser.isSet(literal("touchstone-version")) && version != QLatin1String("1")
@@ -92,7 +145,7 @@ QString readValues(const QCommandLineParser &parser, CommandLine &result)
     result.language = parser.value(literal("lang"));
     if (parser.isSet(literal("lang")) && !isLanguage(result.language))
         return literal("--lang wants en, de or zh_CN, not \"%1\".").arg(result.language);
-    return {};
+    return readInstrument(parser, result);
 }
 
 } // namespace

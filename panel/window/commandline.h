@@ -4,6 +4,7 @@
 
 #include <QSize>
 #include <QStringList>
+#include <QtNumeric>
 
 namespace Panel
 {
@@ -19,6 +20,11 @@ struct CommandLine {
     QString saveFile; ///< convert the file to this one; empty: show the window
     int touchstoneVersion = 0; ///< 1 or 2; 0: as the file needs
     bool overwrite = false; ///< save over a newer file, too
+    QString instrument; ///< address to connect to; empty for none
+    double start = qQNaN(), stop = qQNaN(); ///< in Hz; NaN: the instrument's own
+    int points = 0; ///< 0: the instrument's own
+    int sweeps = 1;
+    QString linkLog; ///< file for what goes over the cable; empty for none
     bool simulate = false;
     bool exitWhenShown = false; ///< for timing the start
     bool help = false;
