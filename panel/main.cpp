@@ -175,13 +175,23 @@ int main(int argc, char **argv)
         window.show();
         return grabScreens(&model, &window, commandLine.grabFolder) && opened ? 0 : 1;
     }
-    // Files that are asked for come before a simulation of the last time.
-    state.restore(&model, commandLine.files.isEmpty() && !commandLine.simulate);
+    if (!commandLine.linkLog.isEmpty() && !controller.setLinkLog(commandLine.linkLog)) {
+        std::fprintf(stderr, "vnapanel: %s: the log cannot be written.\n",
+                     qUtf8Printable(commandLine.linkLog));
+        return 1;
+    }
+    // What is asked for comes before a measurement of the last time.
+    state.restore(&model,
+                  commandLine.files.isEmpty() && !commandLine.simulate
+                      && commandLine.instrument.isEmpty());
     if (commandLine.simulate)
         model.setSource(Source::Filter);
+    if (!commandLine.instrument.isEmpty())
+        model.setInstrument(commandLine.instrument);
     if (!state.note().isEmpty())
         window.messageBar()->setMessage(state.note());
-    else if (commandLine.files.isEmpty() && state.files().isEmpty() && !commandLine.simulate)
+    else if (commandLine.files.isEmpty() && state.files().isEmpty() && !commandLine.simulate
+             && commandLine.instrument.isEmpty())
         window.messageBar()->notify(QCoreApplication::translate(
             "Panel::PanelWindow", "This is a sample. Open your own files with System, File."));
     // No larger than what it is shown on.

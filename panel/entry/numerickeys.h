@@ -61,11 +61,15 @@ private:
     void editZoom();
     void editReference();
     void editTuning();
+    void editBandwidth();
+    void editPower();
+    void editAverages();
 
     void showStimulus();
     void showMarkerStimulus();
     void showScale();
     void showTuning();
+    void showAcquisition();
 
     PanelModel *m_model;
     PanelKeys m_keys;

@@ -119,9 +119,13 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
 
     menu->addPage(Text::tr("Sweep"), Glyph::Sweep);
     keys.source = menu->addKey(Text::tr("Source"));
+    keys.instrument = menu->addKey(Text::tr("Instrument"));
     keys.sweep = addSwitch(menu, Text::tr("Sweep"));
+    keys.single = menu->addKey(Text::tr("Single"));
+    keys.ifBandwidth = menu->addKey(Text::tr("IF bandwidth"));
+    keys.power = menu->addKey(Text::tr("Power"));
+    keys.averages = menu->addKey(Text::tr("Averages"));
     keys.tune = menu->addKey(Text::tr("Resonance"));
-    keys.timing = addSwitch(menu, Text::tr("Timing"));
 
     menu->addPage(Text::tr("System"), Glyph::System);
     keys.file = menu->addKey(Text::tr("File"));
@@ -131,6 +135,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     std::tie(keys.undo, keys.redo) = addPair(menu, Text::tr("Undo"), Text::tr("Redo"));
     keys.settings = menu->addKey(Text::tr("Settings"));
     keys.help = menu->addKey(Text::tr("Keyboard help"));
+    keys.timing = addSwitch(menu, Text::tr("Timing"));
     return keys;
 }
 

@@ -60,11 +60,16 @@ struct PanelKeys {
     SoftKey *whole; ///< ends the zoom
     SoftKey *pointer; ///< which traces taps and drags reach
     // Sweep
-    SoftKey *source; ///< files, or one of the simulated devices
+    SoftKey *source; ///< files, one of the simulated devices, or an instrument
+    SoftKey *instrument; ///< which one, and how it stands with it
     SwitchButton *sweep; ///< sweeping or held
+    SoftKey *single; ///< one sweep, then hold
+    SoftKey *ifBandwidth;
+    SoftKey *power;
+    SoftKey *averages;
     SoftKey *tune; ///< the antenna's resonance
-    SwitchButton *timing;
     // System
+    SwitchButton *timing;
     SoftKey *file;
     MenuButton *save; ///< data and drawings
     SoftKey *screenshot;

@@ -21,14 +21,11 @@ SourceKeys::SourceKeys(PanelModel *model, const PanelKeys &keys, QObject *parent
         names << sourceName(Source(i));
     keys.source->setChoices(names);
     connect(keys.source, &SoftKey::choicePicked, this, [this](int index) {
-        const auto picked = Source(index);
-        if (picked != Source::Files
-            || (m_model->source() != Source::Files && !m_model->files().isEmpty()))
-            m_model->setSource(picked);
-        else
-            Q_EMIT fileRequested();
+        pick(Source(index));
         showState();
     });
+    connect(keys.instrument, &SoftKey::clicked, this, &SourceKeys::instrumentRequested);
+    connect(keys.single, &SoftKey::clicked, model, &PanelModel::sweepOnce);
     connect(keys.sweep, &SwitchButton::statusChanged, model, &PanelModel::setSweeping);
     for (const auto signal : {&PanelModel::sourceChanged, &PanelModel::sourceStateChanged,
                               &PanelModel::sweepingChanged})
@@ -36,8 +33,33 @@ SourceKeys::SourceKeys(PanelModel *model, const PanelKeys &keys, QObject *parent
     showState();
 }
 
+void SourceKeys::pick(Source source)
+{
+    const bool hasFiles = m_model->source() != Source::Files && !m_model->files().isEmpty();
+    if (source == Source::Files && !hasFiles)
+        Q_EMIT fileRequested();
+    else if (source == Source::Instrument && m_model->instrument().isEmpty())
+        Q_EMIT instrumentRequested();
+    else
+        m_model->setSource(source);
+}
+
 void SourceKeys::showState()
 {
+    const bool instrument = m_model->source() == Source::Instrument;
+    const SourceState &state = m_model->sourceState();
+    m_keys.instrument->setValue(!instrument ? tr("Choose\u2026")
+                                    : state.phase == SourceState::Connecting
+                                    ? tr("Connecting\u2026")
+                                    : state.phase == SourceState::Ready ? state.identity
+                                                                        : tr("Not there"));
+    // What only an instrument has, and what only a simulation.
+    for (QWidget *key :
+         {static_cast<QWidget *>(m_keys.ifBandwidth), static_cast<QWidget *>(m_keys.power),
+          static_cast<QWidget *>(m_keys.averages)})
+        key->setVisible(instrument);
+    m_keys.tune->setVisible(!instrument);
+    m_keys.single->setEnabled(m_model->sourceLimits().measures());
     m_keys.source->setChoice(int(m_model->source()));
     m_keys.sweep->setStatus(m_model->isSweeping());
     m_keys.sweep->setEnabled(m_model->sourceLimits().measures());

@@ -4,6 +4,8 @@
 
 #include "panelkeys.h"
 
+#include <panel/model/source.h>
+
 #include <QObject>
 
 namespace Panel
@@ -22,8 +24,11 @@ public:
 Q_SIGNALS:
     /// The user wants a file, and none is at hand.
     void fileRequested();
+    /// The user wants to choose an instrument, or see how it stands with it.
+    void instrumentRequested();
 
 private:
+    void pick(Source source);
     void showState();
 
     PanelModel *m_model;

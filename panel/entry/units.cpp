@@ -122,6 +122,12 @@ DecibelAdapter::DecibelAdapter(QObject *parent)
     setDecimals(2);
 }
 
+PowerAdapter::PowerAdapter(QObject *parent)
+    : UnitAdapter({{QStringLiteral("dBm"), 1.0}}, parent)
+{
+    setDecimals(2);
+}
+
 NumberAdapter::NumberAdapter(int decimals, QObject *parent)
     : UnitAdapter({}, parent)
 {

@@ -80,6 +80,15 @@ public:
     explicit DecibelAdapter(QObject *parent = nullptr);
 };
 
+/// A level in dBm with two decimals.
+class PowerAdapter : public UnitAdapter
+{
+    Q_OBJECT
+
+public:
+    explicit PowerAdapter(QObject *parent = nullptr);
+};
+
 /// A number without a unit. What is typed finer than its decimals is rounded to them, so that a
 /// count stays whole.
 class NumberAdapter : public UnitAdapter

@@ -5,6 +5,7 @@
 #include "exports.h"
 #include "filedialog.h"
 #include "helpdialog.h"
+#include "instrumentdialog.h"
 #include "messagebar.h"
 #include "panelwindow.h"
 #include "settingsdialog.h"
@@ -26,6 +27,7 @@
 #include <panel/files/history.h>
 #include <panel/files/setups.h>
 #include <panel/ground/languages.h>
+#include <panel/link/linksource.h>
 #include <panel/model/panelmodel.h>
 #include <panel/source/sweepcontroller.h>
 
@@ -72,6 +74,17 @@ Network documented(const Network &measured, const Correction &correction)
     return network;
 }
 
+constexpr int s_remembered = 8;
+
+/// A list with an entry at its head, where else it was, and no longer than what is remembered.
+QStringList withFirst(const QStringList &list, const QString &first)
+{
+    QStringList result = list;
+    result.removeAll(first);
+    result.prepend(first);
+    return result.mid(0, s_remembered);
+}
+
 } // namespace
 
 PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject *parent)
@@ -81,6 +94,7 @@ PanelController::PanelController(PanelModel *model, PanelWindow *window, QObject
     , m_files(new FileController(model, this))
     , m_history(new History(model, this))
     , m_setups(new Setups(model, m_files, Setups::defaultFolder(), this))
+    , m_link(new LinkSource(this))
 {
     makeEntry();
     connectKeys();
@@ -103,6 +117,7 @@ void PanelController::makeEntry()
     connect(markers, &MarkerController::said, bar, &MessageBar::notify);
     auto *sources = new SourceKeys(m_model, keys, this);
     connect(sources, &SourceKeys::fileRequested, this, &PanelController::showFileDialog);
+    connect(sources, &SourceKeys::instrumentRequested, this, &PanelController::showInstruments);
 }
 
 void PanelController::connectKeys()
@@ -160,7 +175,9 @@ void PanelController::connectFiles()
 
 void PanelController::connectSweep()
 {
-    auto *sweeps = new SweepController(m_model, nullptr, this);
+    auto *sweeps = new SweepController(m_model, m_link, this);
+    connect(m_link, &LinkSource::said, m_window->messageBar(), &MessageBar::notify);
+    connect(m_model, &PanelModel::sourceStateChanged, this, &PanelController::tellState);
     connect(sweeps, &SweepController::progressed, m_window->sweepBar(), &SweepBar::setProgress);
     connect(sweeps, &SweepController::sweepsCompleted, m_window->sweepBar(),
             &SweepBar::countSweeps);
@@ -185,6 +202,29 @@ void PanelController::connectHistory()
     };
     connect(m_history, &History::changed, this, showHistory);
     showHistory();
+}
+
+bool PanelController::setLinkLog(const QString &path)
+{
+    return m_link->setLog(path);
+}
+
+/// Says what is wrong with the instrument, once, and remembers those that were there.
+void PanelController::tellState()
+{
+    const SourceState &state = m_model->sourceState();
+    MessageBar *bar = m_window->messageBar();
+    if (!state.trouble.isEmpty() && state.trouble != m_trouble)
+        bar->setMessage(state.phase == SourceState::Lost
+                            ? tr("%1 It is tried again.").arg(state.trouble)
+                            : state.trouble);
+    else if (state.trouble.isEmpty() && !m_trouble.isEmpty())
+        bar->setMessage({});
+    m_trouble = state.trouble;
+    if (state.phase == SourceState::Ready && m_model->source() == Source::Instrument) {
+        Preferences *preferences = m_model->preferences();
+        preferences->setInstruments(withFirst(preferences->instruments(), m_model->instrument()));
+    }
 }
 
 void PanelController::addShortcuts()
@@ -241,6 +281,16 @@ void PanelController::showHelp()
 {
     auto *dialog = new HelpDialog(m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void PanelController::showInstruments()
+{
+    auto *dialog = new InstrumentDialog(m_model, m_window->sweepBar(), m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &InstrumentDialog::picked, m_model, &PanelModel::setInstrument);
+    const QSize room = m_window->size() - QSize(60, 20);
+    dialog->resize(QSize(620, 560).boundedTo(room));
     dialog->open();
 }
 

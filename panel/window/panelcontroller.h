@@ -11,6 +11,7 @@ namespace Panel
 struct Exported;
 class FileController;
 class History;
+class LinkSource;
 class PanelModel;
 class PanelWindow;
 class Setups;
@@ -25,6 +26,8 @@ public:
     PanelController(PanelModel *model, PanelWindow *window, QObject *parent = nullptr);
 
     FileController *fileController() const { return m_files; }
+    /// Writes what goes over the cable to a file, before anything does; false if it cannot.
+    bool setLinkLog(const QString &path);
 
 public Q_SLOTS:
     /// Lets the user pick files, and opens them.
@@ -33,6 +36,8 @@ public Q_SLOTS:
     void showSetups();
     /// Lists what the keyboard does.
     void showHelp();
+    /// Lets the user choose an instrument, and shows how it stands with it.
+    void showInstruments();
     void takeScreenshot();
     void onSavePicked(int command);
     void tell(const Exported &exported);
@@ -48,6 +53,7 @@ private:
     void connectFiles();
     void connectSweep();
     void connectHistory();
+    void tellState();
     void addShortcuts();
 
     PanelModel *m_model;
@@ -55,6 +61,8 @@ private:
     FileController *m_files;
     History *m_history;
     Setups *m_setups;
+    LinkSource *m_link;
+    QString m_trouble; ///< that was told last
     QString m_dialogFolder; ///< where the file dialog was left
 };
 

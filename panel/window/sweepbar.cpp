@@ -44,6 +44,10 @@ SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
             showSpeed(QString());
             showRange();
         });
+    connect(m_model, &PanelModel::sourceStateChanged, this, [this] {
+        m_clock.invalidate();
+        showSpeed(m_model->isStale() ? tr("Old data") : QString());
+    });
     connect(m_model, &PanelModel::sweepingChanged, this, [this] {
         if (!m_model->isSweeping() && m_clock.isValid())
             showSpeed(tr("Hold"));
@@ -90,6 +94,7 @@ void SweepBar::countSweeps(int sweeps)
 
 void SweepBar::showSpeed(const QString &speed)
 {
+    m_speed = speed;
     m_bar->setSweepSpeedText(speed);
     m_bar->setSweepSpeedVisible(!speed.isEmpty());
 }

@@ -24,6 +24,8 @@ public:
     /// How far the sweep is, from 0 to 1. A sweep that is done before the display could show its
     /// progress draws no line.
     void setProgress(double progress);
+    /// How fast it is measured, as the bar shows it.
+    QString speed() const { return m_speed; }
     /// So many sweeps have ended.
     void countSweeps(int sweeps);
 
@@ -36,6 +38,7 @@ private:
 
     const PanelModel *m_model;
     RectangularBottomWidget *m_bar;
+    QString m_speed;
     double m_progress = 0.0;
     QElapsedTimer m_clock;
     int m_sweeps = 0;
