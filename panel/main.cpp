@@ -150,6 +150,7 @@ int main(int argc, char **argv)
 
     QApplication application(argc, argv);
     application.setApplicationName(QStringLiteral("vnapanel"));
+    application.setApplicationVersion(QStringLiteral(VNAPANEL_VERSION));
     setUpApplication();
     // Pictures and timings are of the panel as it is made, whatever somebody has left.
     const bool keepsState = !grabs && !commandLine.exitWhenShown;
@@ -179,6 +180,17 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "vnapanel: %s: the log cannot be written.\n",
                      qUtf8Printable(commandLine.linkLog));
         return 1;
+    }
+    if (!commandLine.serve.isEmpty()) {
+        QString error;
+        const QString place = controller.serve(commandLine.serve, error);
+        if (place.isEmpty()) {
+            std::fprintf(stderr, "vnapanel: nothing can be served at %s: %s.\n",
+                         qUtf8Printable(commandLine.serve), qUtf8Printable(error));
+            return 1;
+        }
+        std::printf("Serving at %s\n", qUtf8Printable(place));
+        std::fflush(stdout);
     }
     // What is asked for comes before a measurement of the last time.
     state.restore(&model,

@@ -5,6 +5,7 @@
 #include <panel/ground/languages.h>
 #include <panel/link/linkaddress.h>
 #include <panel/model/source.h>
+#include <panel/serve/panelserver.h>
 
 #include <QCommandLineParser>
 #include <QRegularExpression>
@@ -57,6 +58,9 @@ void addOptions(QCommandLineParser &parser)
     add({literal("points")}, "Points of the saved sweep (default: as it is set).", "N");
     add({literal("sweeps")}, "Sweep so often before saving (default 1).", "N");
     add({literal("log-link")}, "Write what goes over the cable to FILE.", "FILE");
+    add({literal("serve")},
+        "Answer SCPI over TCP at a port of this computer, or of the address before it.",
+        "[ADDRESS:]PORT");
     add({literal("simulate")}, "Measure a simulated device live.");
     add({literal("exit-when-shown")},
         "Quit at the first picture and print the peak memory, to time the start.");
@@ -91,6 +95,11 @@ QString readInstrument(const QCommandLineParser &parser, CommandLine &result)
     QString error;
     if (parser.isSet(literal("connect")) && !parseLinkAddress(result.instrument, address, error))
         return error;
+    result.serve = parser.value(literal("serve"));
+    QHostAddress place;
+    int port = 0;
+    if (parser.isSet(literal("serve")) && !parseServePlace(result.serve, place, port))
+        return literal("--serve wants PORT or ADDRESS:PORT, not \"%1\".").arg(result.serve);
     double points = result.points, sweeps = result.sweeps;
     const std::tuple<const char *, double *, double> numbers[] = {
         {"start", &result.start, 1e12},

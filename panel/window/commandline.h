@@ -24,6 +24,7 @@ struct CommandLine {
     double start = qQNaN(), stop = qQNaN(); ///< in Hz; NaN: the instrument's own
     int points = 0; ///< 0: the instrument's own
     int sweeps = 1;
+    QString serve; ///< "[ADDRESS:]PORT" to answer scripts at; empty for none
     QString linkLog; ///< file for what goes over the cable; empty for none
     bool simulate = false;
     bool exitWhenShown = false; ///< for timing the start

@@ -29,12 +29,14 @@
 #include <panel/ground/languages.h>
 #include <panel/link/linksource.h>
 #include <panel/model/panelmodel.h>
+#include <panel/serve/panelserver.h>
 #include <panel/source/sweepcontroller.h>
 
 #include <controls/thememanager.h>
 #include <widgets/menubutton.h>
 #include <widgets/switchbutton.h>
 
+#include <QBuffer>
 #include <QClipboard>
 #include <QDir>
 #include <QGuiApplication>
@@ -207,6 +209,24 @@ void PanelController::connectHistory()
 bool PanelController::setLinkLog(const QString &path)
 {
     return m_link->setLog(path);
+}
+
+QString PanelController::serve(const QString &place, QString &error)
+{
+    const auto screenshot = [this] {
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        m_window->grab().save(&buffer, "PNG");
+        return bytes;
+    };
+    auto *server = new PanelServer(m_model, screenshot, this);
+    connect(this, &PanelController::sweepCompleted, server, &PanelServer::sweepCompleted);
+    QHostAddress address;
+    int port = 0;
+    if (parseServePlace(place, address, port) && server->listen(address, port))
+        return server->place();
+    error = server->errorString();
+    return {};
 }
 
 /// Says what is wrong with the instrument, once, and remembers those that were there.

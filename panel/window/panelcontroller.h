@@ -28,6 +28,8 @@ public:
     FileController *fileController() const { return m_files; }
     /// Writes what goes over the cable to a file, before anything does; false if it cannot.
     bool setLinkLog(const QString &path);
+    /// Answers scripts at "[ADDRESS:]PORT". Where it does, or nothing and why not.
+    QString serve(const QString &place, QString &error);
 
 public Q_SLOTS:
     /// Lets the user pick files, and opens them.
