@@ -85,7 +85,9 @@ NumberRange ScpiPort::askRange(const QByteArray &setting, const NumberRange &oth
         m_knowsRanges = value == value;
         *end = m_knowsRanges ? value : *end;
     }
-    return range.isEmpty() ? otherwise : range;
+    // Some answer with the present value, whatever is asked for behind the question mark.
+    m_knowsRanges = m_knowsRanges && range.lowest < range.highest;
+    return m_knowsRanges ? range : otherwise;
 }
 
 QByteArray ScpiPort::takeErrors()
@@ -107,13 +109,16 @@ QByteArray ScpiPort::takeErrors()
 
 QVector<double> ScpiPort::readText(qint64 count)
 {
+    if (!m_wire.ok())
+        return {};
     const QByteArray text = m_wire.longLine(count * s_longestNumber + 256);
     if (!m_wire.ok())
         return {};
     int code = 0;
     QByteArray error;
     if (readErrorEntry(text, code, error))
-        m_wire.fail(Trouble::refused(m_wire.peer(), "DATA?", error));
+        m_wire.fail(code ? Trouble::refused(m_wire.peer(), "DATA?", error)
+                         : Trouble::silent(m_wire.peer()));
     QVector<double> values = parseNumberList(text);
     if (values.isEmpty())
         m_wire.fail(Trouble::unreadable(m_wire.peer(), text));
@@ -124,8 +129,21 @@ QVector<double> ScpiPort::readText(qint64 count)
 
 QVector<double> ScpiPort::readNumbers(qint64 count, bool bigEndian)
 {
-    if (m_wire.peek(Wire::longTime) != '#')
-        return readText(count);
+    char first = m_wire.peek(Wire::longTime - s_queueTime, false);
+    const bool late = !first;
+    if (late) {
+        // Nothing may be an answer, too: the queue knows. What is late comes before its entry.
+        send("SYST:ERR?");
+        first = m_wire.peek(s_queueTime);
+    }
+    const QVector<double> values = first == '#' ? readBlock(count, bigEndian) : readText(count);
+    if (late && m_wire.ok())
+        m_wire.line();
+    return values;
+}
+
+QVector<double> ScpiPort::readBlock(qint64 count, bool bigEndian)
+{
     const QByteArray head = m_wire.bytes(2);
     const int digits = head.size() == 2 ? head.at(1) - '0' : 0;
     if (m_wire.ok() && (digits < 1 || digits > 9))

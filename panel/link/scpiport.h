@@ -42,6 +42,7 @@ public:
 
 private:
     QVector<double> readText(qint64 count);
+    QVector<double> readBlock(qint64 count, bool bigEndian);
 
     Wire &m_wire;
     bool m_knowsRanges = true;

@@ -214,7 +214,8 @@ def numbers(key, make, order):
 
 def spoilt(data, how, order):
     if how == "error":
-        return b'-230,"Data corrupt or stale"\n'
+        ERRORS.append('-230,"Data corrupt or stale"')
+        return b""
     if how == "huge":
         return b"#91000000000" + data[:4096]
     if how == "fewer":
