@@ -6,9 +6,6 @@
 
 #include <QtEndian>
 
-#include <cmath>
-#include <cstring>
-
 namespace Panel
 {
 
@@ -86,11 +83,6 @@ QVector<NamedTrace> parseCatalogue(const QByteArray &text)
     for (int i = 0; i + 1 < words.size(); i += 2)
         traces.append({words.at(i).trimmed(), words.at(i + 1).trimmed().toUpper()});
     return traces;
-}
-
-bool isNumber(double value)
-{
-    return std::isfinite(value) && std::abs(value) < 9.9e37;
 }
 
 } // namespace Panel

@@ -8,6 +8,8 @@
 #include <QList>
 #include <QVector>
 
+#include <cmath>
+
 namespace Panel
 {
 
@@ -32,7 +34,10 @@ struct NamedTrace {
 };
 QVector<NamedTrace> parseCatalogue(const QByteArray &text);
 
-/// The values of a complex list "re,im,re,im": 9.91E37 stands for none, and counts as NaN.
-bool isNumber(double value);
+/// Whether a value is one: 9.91E37 stands for none.
+inline bool isNumber(double value)
+{
+    return std::abs(value) < 9.9e37; // nor is NaN
+}
 
 } // namespace Panel

@@ -299,12 +299,15 @@ bool ScpiAnalyser::readParameter(int index, Network &network)
     if (!m_wire.ok())
         return false;
     Parameter parameter{QVector<double>(points), QVector<double>(points)};
+    // Bare pointers: there may be a million of them.
+    const double *from = values.constData();
+    double *const real = parameter.real.data();
+    double *const imag = parameter.imag.data();
     bool finite = true;
-    for (int i = 0; i < points; ++i) {
-        const double re = values.at(2 * i), im = values.at(2 * i + 1);
-        finite = finite && isNumber(re) && isNumber(im);
-        parameter.real[i] = re;
-        parameter.imag[i] = im;
+    for (int i = 0; i < points; ++i, from += 2) {
+        finite = finite && isNumber(from[0]) && isNumber(from[1]);
+        real[i] = from[0];
+        imag[i] = from[1];
     }
     if (!finite)
         m_wire.fail(Trouble::notFinite(m_wire.peer()));
