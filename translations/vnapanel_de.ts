@@ -363,6 +363,65 @@
     </message>
 </context>
 <context>
+    <name>Panel::InstrumentDialog</name>
+    <message>
+        <source>small analyser, text shell</source>
+        <translation>kleiner Analysator, Textkonsole</translation>
+    </message>
+    <message>
+        <source>analyser program</source>
+        <translation>Analysatorprogramm</translation>
+    </message>
+    <message>
+        <source>bench analyser, SCPI</source>
+        <translation>Laboranalysator, SCPI</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Instruments</source>
+        <translation>Messgeräte</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Serial ports, and instruments used before</source>
+        <translation>Serielle Schnittstellen und früher benutzte Messgeräte</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>No instrument is connected. Tap one, or type its address.</source>
+        <translation>Kein Messgerät ist verbunden. Tippen Sie eines an oder geben Sie seine Adresse ein.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation>Verbindung zu %1 …</translation>
+    </message>
+    <message>
+        <source>It says nothing of a calibration of its own.</source>
+        <translation>Über eine eigene Kalibrierung sagt es nichts.</translation>
+    </message>
+    <message>
+        <source>Calibrated by itself: %1</source>
+        <translation>Vom Gerät selbst kalibriert: %1</translation>
+    </message>
+    <message>
+        <source>No serial port, and none used before.</source>
+        <translation>Keine serielle Schnittstelle, und noch keines benutzt.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::LimitSheet</name>
     <message>
         <source>A limit line is what the trace must stay below, or above.</source>
@@ -415,6 +474,35 @@
     <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LinkAddress</name>
+    <message>
+        <source>An instrument is written as nanovna:PORT, librevna:HOST or scpi:HOST, not &quot;%1&quot;.</source>
+        <translation>Ein Messgerät schreibt man als nanovna:PORT, librevna:HOST oder scpi:HOST, nicht als „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LinkSource</name>
+    <message>
+        <source>%1 is connected again.</source>
+        <translation>%1 ist wieder verbunden.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LinkedMeasurement</name>
+    <message>
+        <source>%1 does not take this sweep, but goes from %2 to %3 Hz with %4 points.</source>
+        <translation>%1 nimmt diesen Sweep nicht an, sondern geht von %2 bis %3 Hz mit %4 Punkten.</translation>
+    </message>
+    <message>
+        <source>%1: the log cannot be written.</source>
+        <translation>%1: Das Protokoll kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The measurement was cancelled.</source>
+        <translation>Die Messung wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -579,6 +667,10 @@
         <source>Start moved along, to %1.</source>
         <translation>Start ist mitgegangen, auf %1.</translation>
     </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelController</name>
@@ -613,6 +705,10 @@
     <message>
         <source>Copied the picture</source>
         <translation>Bild kopiert</translation>
+    </message>
+    <message>
+        <source>%1 It is tried again.</source>
+        <translation>%1 Es wird erneut versucht.</translation>
     </message>
 </context>
 <context>
@@ -821,6 +917,26 @@
         <source>Redo</source>
         <translation>Wieder</translation>
     </message>
+    <message>
+        <source>Instrument</source>
+        <translation>Messgerät</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>Einmal</translation>
+    </message>
+    <message>
+        <source>IF bandwidth</source>
+        <translation>ZF-Bandbreite</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Pegel</translation>
+    </message>
+    <message>
+        <source>Averages</source>
+        <translation>Mittelungen</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -909,6 +1025,10 @@
     <message>
         <source>What you set cannot be kept: %1 cannot be written.</source>
         <translation>Einstellungen können nicht behalten werden: %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Old: %1</source>
+        <translation>Alt: %1</translation>
     </message>
 </context>
 <context>
@@ -1091,6 +1211,25 @@
         <source>Long cable</source>
         <translation>Langes Kabel</translation>
     </message>
+    <message>
+        <source>Instrument</source>
+        <translation>Messgerät</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::SourceKeys</name>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Verbindet …</translation>
+    </message>
+    <message>
+        <source>Not there</source>
+        <translation>Nicht da</translation>
+    </message>
 </context>
 <context>
     <name>Panel::SweepBar</name>
@@ -1105,6 +1244,25 @@
     <message>
         <source>Speed: %1 sweeps/s</source>
         <translation>Rate: %1 Sweeps/s</translation>
+    </message>
+    <message>
+        <source>Old data</source>
+        <translation>Alte Daten</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::TcpWire</name>
+    <message>
+        <source>nothing answers at this port</source>
+        <translation>an diesem Port antwortet nichts</translation>
+    </message>
+    <message>
+        <source>there is no host of this name</source>
+        <translation>es gibt keinen Rechner dieses Namens</translation>
+    </message>
+    <message>
+        <source>there is no way to this host</source>
+        <translation>es führt kein Weg zu diesem Rechner</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1633,81 @@
     <message>
         <source>Data + memory</source>
         <translation>Daten + Speicher</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Trouble</name>
+    <message>
+        <source>%1 cannot be reached: %2.</source>
+        <translation>%1 ist nicht erreichbar: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: there is no permission to use it.</source>
+        <translation>%1 kann nicht geöffnet werden: Die Berechtigung dazu fehlt.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: there is no such port.</source>
+        <translation>%1 kann nicht geöffnet werden: Diese Schnittstelle gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: another program uses it.</source>
+        <translation>%1 kann nicht geöffnet werden: Ein anderes Programm benutzt es.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer.</source>
+        <translation>%1 antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>%1 sends too slowly.</source>
+        <translation>%1 sendet zu langsam.</translation>
+    </message>
+    <message>
+        <source>%1 has ended the connection.</source>
+        <translation>%1 hat die Verbindung beendet.</translation>
+    </message>
+    <message>
+        <source>%1 sends %2 bytes where %3 are due.</source>
+        <translation>%1 sendet %2 Bytes, wo %3 fällig sind.</translation>
+    </message>
+    <message>
+        <source>%1 sends %2 points where %3 are due.</source>
+        <translation>%1 sendet %2 Punkte, wo %3 fällig sind.</translation>
+    </message>
+    <message>
+        <source>%1 sends values that are no numbers.</source>
+        <translation>%1 sendet Werte, die keine Zahlen sind.</translation>
+    </message>
+    <message>
+        <source>%1 sends what cannot be understood: &quot;%2&quot;.</source>
+        <translation>%1 sendet Unverständliches: „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 refuses &quot;%2&quot;: %3.</source>
+        <translation>%1 lehnt „%2“ ab: %3.</translation>
+    </message>
+    <message>
+        <source>%1 is no instrument whose commands are known: &quot;%2&quot;.</source>
+        <translation>%1 ist kein Messgerät, dessen Befehle bekannt sind: „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 is another instrument than before: %2 in place of %3.</source>
+        <translation>%1 ist ein anderes Messgerät als zuvor: %2 statt %3.</translation>
+    </message>
+    <message>
+        <source>%1 answers, but has no device connected.</source>
+        <translation>%1 antwortet, hat aber kein Gerät angeschlossen.</translation>
+    </message>
+    <message>
+        <source>%1 speaks another protocol than the text shell.</source>
+        <translation>%1 spricht ein anderes Protokoll als die Textkonsole.</translation>
+    </message>
+    <message>
+        <source>This panel was built without serial ports.</source>
+        <translation>Dieses Panel wurde ohne serielle Schnittstellen gebaut.</translation>
+    </message>
+    <message>
+        <source>%1 does not finish its sweep.</source>
+        <translation>%1 beendet seinen Sweep nicht.</translation>
     </message>
 </context>
 <context>

@@ -357,6 +357,65 @@
     </message>
 </context>
 <context>
+    <name>Panel::InstrumentDialog</name>
+    <message>
+        <source>small analyser, text shell</source>
+        <translation>小型分析仪，文本命令行</translation>
+    </message>
+    <message>
+        <source>analyser program</source>
+        <translation>分析仪程序</translation>
+    </message>
+    <message>
+        <source>bench analyser, SCPI</source>
+        <translation>台式分析仪，SCPI</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Instruments</source>
+        <translation>仪器</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Serial ports, and instruments used before</source>
+        <translation>串口和以前用过的仪器</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>No instrument is connected. Tap one, or type its address.</source>
+        <translation>没有连接仪器。请点选一台，或输入其地址。</translation>
+    </message>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation>正在连接 %1…</translation>
+    </message>
+    <message>
+        <source>It says nothing of a calibration of its own.</source>
+        <translation>它未说明自身的校准状态。</translation>
+    </message>
+    <message>
+        <source>Calibrated by itself: %1</source>
+        <translation>由仪器自身校准：%1</translation>
+    </message>
+    <message>
+        <source>No serial port, and none used before.</source>
+        <translation>没有串口，也没有以前用过的仪器。</translation>
+    </message>
+</context>
+<context>
     <name>Panel::LimitSheet</name>
     <message>
         <source>A limit line is what the trace must stay below, or above.</source>
@@ -409,6 +468,35 @@
     <message>
         <source>Remove</source>
         <translation>移除</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LinkAddress</name>
+    <message>
+        <source>An instrument is written as nanovna:PORT, librevna:HOST or scpi:HOST, not &quot;%1&quot;.</source>
+        <translation>仪器应写作 nanovna:PORT、librevna:HOST 或 scpi:HOST，而不是“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LinkSource</name>
+    <message>
+        <source>%1 is connected again.</source>
+        <translation>%1 已重新连接。</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LinkedMeasurement</name>
+    <message>
+        <source>%1 does not take this sweep, but goes from %2 to %3 Hz with %4 points.</source>
+        <translation>%1 不接受此扫描，而是从 %2 到 %3 Hz，%4 个点。</translation>
+    </message>
+    <message>
+        <source>%1: the log cannot be written.</source>
+        <translation>%1：无法写入日志。</translation>
+    </message>
+    <message>
+        <source>The measurement was cancelled.</source>
+        <translation>测量已取消。</translation>
     </message>
 </context>
 <context>
@@ -573,6 +661,10 @@
         <source>Start moved along, to %1.</source>
         <translation>起始频率随之移至 %1。</translation>
     </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelController</name>
@@ -607,6 +699,10 @@
     <message>
         <source>Copied the picture</source>
         <translation>已复制图片</translation>
+    </message>
+    <message>
+        <source>%1 It is tried again.</source>
+        <translation>%1 正在重试。</translation>
     </message>
 </context>
 <context>
@@ -815,6 +911,26 @@
         <source>Redo</source>
         <translation>重做</translation>
     </message>
+    <message>
+        <source>Instrument</source>
+        <translation>仪器</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>单次</translation>
+    </message>
+    <message>
+        <source>IF bandwidth</source>
+        <translation>中频带宽</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>功率</translation>
+    </message>
+    <message>
+        <source>Averages</source>
+        <translation>平均次数</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -902,6 +1018,10 @@
     <message>
         <source>What you set cannot be kept: %1 cannot be written.</source>
         <translation>设置无法保存：无法写入 %1。</translation>
+    </message>
+    <message>
+        <source>Old: %1</source>
+        <translation>旧数据：%1</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1204,25 @@
         <source>Long cable</source>
         <translation>长电缆</translation>
     </message>
+    <message>
+        <source>Instrument</source>
+        <translation>仪器</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::SourceKeys</name>
+    <message>
+        <source>Choose…</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>正在连接…</translation>
+    </message>
+    <message>
+        <source>Not there</source>
+        <translation>不在线</translation>
+    </message>
 </context>
 <context>
     <name>Panel::SweepBar</name>
@@ -1098,6 +1237,25 @@
     <message>
         <source>Speed: %1 sweeps/s</source>
         <translation>速度：%1 次/秒</translation>
+    </message>
+    <message>
+        <source>Old data</source>
+        <translation>旧数据</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::TcpWire</name>
+    <message>
+        <source>nothing answers at this port</source>
+        <translation>此端口没有应答</translation>
+    </message>
+    <message>
+        <source>there is no host of this name</source>
+        <translation>没有此名称的主机</translation>
+    </message>
+    <message>
+        <source>there is no way to this host</source>
+        <translation>无法到达此主机</translation>
     </message>
 </context>
 <context>
@@ -1468,6 +1626,81 @@
     <message>
         <source>Data + memory</source>
         <translation>数据 + 存储</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Trouble</name>
+    <message>
+        <source>%1 cannot be reached: %2.</source>
+        <translation>无法连接 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: there is no permission to use it.</source>
+        <translation>无法打开 %1：没有使用权限。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: there is no such port.</source>
+        <translation>无法打开 %1：没有此端口。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: another program uses it.</source>
+        <translation>无法打开 %1：另一个程序正在使用它。</translation>
+    </message>
+    <message>
+        <source>%1 does not answer.</source>
+        <translation>%1 没有应答。</translation>
+    </message>
+    <message>
+        <source>%1 sends too slowly.</source>
+        <translation>%1 发送太慢。</translation>
+    </message>
+    <message>
+        <source>%1 has ended the connection.</source>
+        <translation>%1 已断开连接。</translation>
+    </message>
+    <message>
+        <source>%1 sends %2 bytes where %3 are due.</source>
+        <translation>%1 发送了 %2 字节，应为 %3 字节。</translation>
+    </message>
+    <message>
+        <source>%1 sends %2 points where %3 are due.</source>
+        <translation>%1 发送了 %2 个点，应为 %3 个点。</translation>
+    </message>
+    <message>
+        <source>%1 sends values that are no numbers.</source>
+        <translation>%1 发送的值不是数字。</translation>
+    </message>
+    <message>
+        <source>%1 sends what cannot be understood: &quot;%2&quot;.</source>
+        <translation>无法理解 %1 发送的内容：“%2”。</translation>
+    </message>
+    <message>
+        <source>%1 refuses &quot;%2&quot;: %3.</source>
+        <translation>%1 拒绝“%2”：%3。</translation>
+    </message>
+    <message>
+        <source>%1 is no instrument whose commands are known: &quot;%2&quot;.</source>
+        <translation>%1 不是已知命令的仪器：“%2”。</translation>
+    </message>
+    <message>
+        <source>%1 is another instrument than before: %2 in place of %3.</source>
+        <translation>%1 与之前的仪器不同：是 %2，而不是 %3。</translation>
+    </message>
+    <message>
+        <source>%1 answers, but has no device connected.</source>
+        <translation>%1 有应答，但没有连接设备。</translation>
+    </message>
+    <message>
+        <source>%1 speaks another protocol than the text shell.</source>
+        <translation>%1 使用的协议不是文本命令行。</translation>
+    </message>
+    <message>
+        <source>This panel was built without serial ports.</source>
+        <translation>此面板构建时不含串口支持。</translation>
+    </message>
+    <message>
+        <source>%1 does not finish its sweep.</source>
+        <translation>%1 没有完成扫描。</translation>
     </message>
 </context>
 <context>

@@ -126,6 +126,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.power = menu->addKey(Text::tr("Power"));
     keys.averages = menu->addKey(Text::tr("Averages"));
     keys.tune = menu->addKey(Text::tr("Resonance"));
+    keys.timing = addSwitch(menu, Text::tr("Timing"));
 
     menu->addPage(Text::tr("System"), Glyph::System);
     keys.file = menu->addKey(Text::tr("File"));
@@ -135,7 +136,6 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     std::tie(keys.undo, keys.redo) = addPair(menu, Text::tr("Undo"), Text::tr("Redo"));
     keys.settings = menu->addKey(Text::tr("Settings"));
     keys.help = menu->addKey(Text::tr("Keyboard help"));
-    keys.timing = addSwitch(menu, Text::tr("Timing"));
     return keys;
 }
 

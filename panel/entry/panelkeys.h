@@ -68,8 +68,8 @@ struct PanelKeys {
     SoftKey *power;
     SoftKey *averages;
     SoftKey *tune; ///< the antenna's resonance
-    // System
     SwitchButton *timing;
+    // System
     SoftKey *file;
     MenuButton *save; ///< data and drawings
     SoftKey *screenshot;

@@ -59,6 +59,7 @@ void SourceKeys::showState()
           static_cast<QWidget *>(m_keys.averages)})
         key->setVisible(instrument);
     m_keys.tune->setVisible(!instrument);
+    m_keys.timing->setVisible(!instrument);
     m_keys.single->setEnabled(m_model->sourceLimits().measures());
     m_keys.source->setChoice(int(m_model->source()));
     m_keys.sweep->setStatus(m_model->isSweeping());
