@@ -24,7 +24,7 @@ namespace
 {
 
 constexpr int s_keyHeight = 44;
-constexpr int s_margin = 12;
+constexpr int s_sheetMargin = 12;
 constexpr int s_width = 760;
 constexpr int s_keysWidth = 280; ///< of the soft keys, which stay in sight
 /// The height is a share of the host's, in pixels at least and at most.
@@ -39,7 +39,7 @@ enum Column {
     StartValue,
     Stop,
     StopValue,
-    Remove,
+    RemoveKey,
 };
 
 } // namespace
@@ -89,7 +89,7 @@ LimitSheet::LimitSheet(PanelModel *model, int traceId, NumericKeys *numbers, QWi
     m_hint->setObjectName(QStringLiteral("dim"));
     m_hint->setWordWrap(true);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(s_margin, s_margin, s_margin, s_margin);
+    column->setContentsMargins(s_sheetMargin, s_sheetMargin, s_sheetMargin, s_sheetMargin);
     column->addLayout(head);
     column->addWidget(m_hint);
     column->addWidget(area, 1);
@@ -242,7 +242,7 @@ void LimitSheet::addRow(int row, const LimitLine &limit)
     addNumber(StartValue, tr("Value at start"), &LimitLine::startValue);
     addNumber(Stop, tr("Stop"), &LimitLine::stop);
     addNumber(StopValue, tr("Value at stop"), &LimitLine::stopValue);
-    QPushButton *remove = addKey(QStringLiteral("\u00d7"), tr("Remove"), row, Remove);
+    QPushButton *remove = addKey(QStringLiteral("\u00d7"), tr("Remove"), row, RemoveKey);
     remove->setFixedWidth(s_keyHeight);
     connect(remove, &QPushButton::clicked, this, [=] {
         QVector<LimitLine> left = lines();

@@ -24,7 +24,7 @@ namespace
 constexpr QLatin1String s_suffix(".json");
 
 /// The name without what no file can be called on any system.
-QString fileName(const QString &name)
+QString fileNameOf(const QString &name)
 {
     QString result;
     for (const QChar letter : name.simplified().left(Setups::longestName)) {
@@ -53,7 +53,7 @@ Setups::Setups(PanelModel *model, FileController *files, const QString &folder, 
 
 QString Setups::path(const QString &name) const
 {
-    return QDir(m_folder).filePath(fileName(name) + s_suffix);
+    return QDir(m_folder).filePath(fileNameOf(name) + s_suffix);
 }
 
 QStringList Setups::names() const
@@ -86,11 +86,11 @@ bool Setups::exists(const QString &name) const
 
 QString Setups::save(const QString &name)
 {
-    if (fileName(name).isEmpty())
+    if (fileNameOf(name).isEmpty())
         return tr("A set-up needs a name.");
     if (!PanelState::save(*m_model, path(name)))
         return tr("The set-up cannot be written to %1.").arg(QDir::toNativeSeparators(m_folder));
-    Q_EMIT told(tr("Saved the set-up %1").arg(fileName(name)));
+    Q_EMIT told(tr("Saved the set-up %1").arg(fileNameOf(name)));
     return QString();
 }
 

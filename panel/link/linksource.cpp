@@ -4,6 +4,8 @@
 
 #include <QPointer>
 
+#include <algorithm>
+
 namespace Panel
 {
 
@@ -14,7 +16,7 @@ LinkSource::LinkSource(QObject *parent)
             this,
             [this] {
                 const qint64 wait = m_clock.isValid() ? frameInterval - m_clock.elapsed() : 0;
-                m_timer.start(int(qBound<qint64>(0, wait, frameInterval)));
+                m_timer.start(int(std::clamp<qint64>(wait, 0, frameInterval)));
             },
             Qt::QueuedConnection);
     })

@@ -101,7 +101,7 @@ bool Wire::fill(Patience &patience)
     const auto size = m_buffer.size();
     m_buffer.resize(size + int(s_chunk));
     const qint64 count =
-        receive(m_buffer.data() + size, s_chunk, int(qBound<qint64>(0, left, s_slice)));
+        receive(m_buffer.data() + size, s_chunk, int(std::clamp<qint64>(left, 0, s_slice)));
     m_buffer.resize(size + int(qMax<qint64>(0, count)));
     if (count < 0)
         fail(Trouble::closed(m_peer));
@@ -190,7 +190,7 @@ QByteArray Wire::bytes(qint64 count, int milliseconds)
             return {};
         }
         const qint64 more = receive(result.data() + have, count - have,
-                                    int(qBound<qint64>(0, patience.left(), s_slice)));
+                                    int(std::clamp<qint64>(patience.left(), 0, s_slice)));
         if (more < 0)
             fail(Trouble::closed(m_peer));
         else if (more > 0)

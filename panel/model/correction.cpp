@@ -17,7 +17,7 @@ namespace
 
 using Complex = std::complex<double>;
 
-constexpr double s_pi = 3.14159265358979323846;
+constexpr double s_turn = 6.28318530717958647693; // radians
 
 void moveReferencePlanes(Network &network, const Correction &correction)
 {
@@ -29,7 +29,7 @@ void moveReferencePlanes(Network &network, const Correction &correction)
             Parameter &s = network.parameters[(from - 1) * network.ports + to - 1];
             for (int i = 0; i < network.points(); ++i) {
                 const Complex turned = Complex(s.real.at(i), s.imag.at(i))
-                    * std::polar(1.0, 2.0 * s_pi * network.frequencies.at(i) * delay);
+                    * std::polar(1.0, s_turn * network.frequencies.at(i) * delay);
                 s.real[i] = turned.real();
                 s.imag[i] = turned.imag();
             }

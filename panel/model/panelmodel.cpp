@@ -9,19 +9,6 @@
 namespace Panel
 {
 
-namespace
-{
-
-QVector<int> idsOf(const QVector<Trace> &traces)
-{
-    QVector<int> ids;
-    for (const Trace &trace : traces)
-        ids.append(trace.id);
-    return ids;
-}
-
-} // namespace
-
 PanelModel::PanelModel(QObject *parent)
     : QObject(parent)
 {
@@ -33,7 +20,7 @@ void PanelModel::replaceNetworks(const QVector<Network> &networks)
 {
     m_networks.replace(networks);
     m_traces.rebuild(m_networks);
-    m_markers.reset(idsOf(traces()));
+    m_markers.reset(m_traces.ids());
     m_zooms.clear();
     Q_EMIT networksChanged();
     Q_EMIT tracesChanged();

@@ -13,14 +13,6 @@ namespace Panel
 namespace
 {
 
-QVector<int> idsOf(const QVector<Trace> &traces)
-{
-    QVector<int> ids;
-    for (const Trace &trace : traces)
-        ids.append(trace.id);
-    return ids;
-}
-
 /// The points that are averaged of a trace: an odd number, so that the middle one stays.
 int averagedPoints(const Trace &trace, int points)
 {
@@ -89,7 +81,7 @@ int PanelModel::addTrace(int like, int wanted)
     const int id = m_traces.addLike(like, wanted);
     if (id == 0)
         return 0;
-    const Markers::Changes changes = m_markers.setTraces(idsOf(traces()));
+    const Markers::Changes changes = m_markers.setTraces(m_traces.ids());
     Q_EMIT tracesChanged();
     tell(changes);
     setActiveTrace(id);
@@ -103,7 +95,7 @@ void PanelModel::removeTrace(int id)
     const bool selected = selectedMarker();
     if (!m_traces.remove(id))
         return;
-    const Markers::Changes changes = m_markers.setTraces(idsOf(traces()));
+    const Markers::Changes changes = m_markers.setTraces(m_traces.ids());
     Q_EMIT tracesChanged();
     tell(changes);
     if (wasActive)

@@ -10,7 +10,7 @@ namespace Panel
 namespace
 {
 
-struct Text {
+struct SourceText {
     Q_DECLARE_TR_FUNCTIONS(Panel::Source)
 };
 
@@ -50,15 +50,15 @@ QString sourceName(Source source)
 {
     switch (source) {
     case Source::Files:
-        return Text::tr("File");
+        return SourceText::tr("File");
     case Source::Antenna:
-        return Text::tr("Antenna");
+        return SourceText::tr("Antenna");
     case Source::Filter:
-        return Text::tr("Filter");
+        return SourceText::tr("Filter");
     case Source::Cable:
-        return Text::tr("Long cable");
+        return SourceText::tr("Long cable");
     case Source::Instrument:
-        return Text::tr("Instrument");
+        return SourceText::tr("Instrument");
     }
     return {};
 }

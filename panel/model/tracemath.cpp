@@ -16,7 +16,7 @@ namespace
 
 using Complex = std::complex<double>;
 
-struct Text {
+struct MathText {
     Q_DECLARE_TR_FUNCTIONS(Panel::TraceMath)
 };
 
@@ -44,15 +44,15 @@ QString mathName(TraceMath math)
 {
     switch (math) {
     case TraceMath::DataAndMemory:
-        return Text::tr("Data");
+        return MathText::tr("Data");
     case TraceMath::Memory:
-        return Text::tr("Memory");
+        return MathText::tr("Memory");
     case TraceMath::Divided:
-        return Text::tr("Data / memory");
+        return MathText::tr("Data / memory");
     case TraceMath::Subtracted:
-        return Text::tr("Data \u2212 memory");
+        return MathText::tr("Data \u2212 memory");
     case TraceMath::Added:
-        return Text::tr("Data + memory");
+        return MathText::tr("Data + memory");
     }
     return QString();
 }

@@ -18,6 +18,14 @@ constexpr int s_portsAtFirst = 4;
 
 } // namespace
 
+QVector<int> Traces::ids() const
+{
+    QVector<int> result;
+    for (const Trace &trace : m_all)
+        result.append(trace.id);
+    return result;
+}
+
 const Trace *Traces::find(int id) const
 {
     const auto found = std::find_if(m_all.begin(), m_all.end(),

@@ -39,6 +39,7 @@ class Traces
 {
 public:
     const QVector<Trace> &all() const { return m_all; }
+    QVector<int> ids() const;
     /// The trace of this id, or null.
     const Trace *find(int id) const;
     /// The active trace, or null when there are no traces.

@@ -4,6 +4,8 @@
 
 #include <QPointer>
 
+#include <algorithm>
+
 namespace Panel
 {
 
@@ -90,7 +92,7 @@ void SweepSource::setSettings(const MeasurementSettings &settings)
 void SweepSource::requestFrame()
 {
     const qint64 due = 1000 * m_clock.restart() / pointMicroseconds;
-    const int points = int(qBound<qint64>(fewestPoints, due, s_mostPoints));
+    const int points = int(std::clamp<qint64>(due, fewestPoints, s_mostPoints));
     m_worker.post([this, measurement = m_measurement, points](const Worker::Job &job) {
         ProgressiveSweep &sweep = **measurement;
         sweep.advance(points);

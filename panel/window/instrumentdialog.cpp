@@ -22,13 +22,13 @@ namespace
 
 /// Ports come and go while the list is on show.
 constexpr int s_refreshInterval = 500;
-constexpr int s_fieldHeight = 44;
+constexpr int s_lineHeight = 44;
 
 QPushButton *makeButton(const QString &text)
 {
     auto *button = new QPushButton(text);
     button->setAutoDefault(false);
-    button->setMinimumHeight(s_fieldHeight);
+    button->setMinimumHeight(s_lineHeight);
     return button;
 }
 
@@ -94,7 +94,7 @@ QWidget *InstrumentDialog::makeEntry()
     auto *column = new QVBoxLayout(entry);
     column->setContentsMargins(0, 0, 0, 0);
     auto *row = new QHBoxLayout;
-    m_address->setMinimumHeight(s_fieldHeight);
+    m_address->setMinimumHeight(s_lineHeight);
     m_address->setAccessibleName(tr("Address"));
     m_address->setText(QStringLiteral("scpi:"));
     m_address->setMaxLength(255);
@@ -189,7 +189,7 @@ void InstrumentDialog::showAddresses()
         for (const QString &address : addresses) {
             auto *item = new QListWidgetItem(
                 address + QStringLiteral("   \u00b7   ") + kindName(address), m_list);
-            item->setSizeHint({0, s_fieldHeight});
+            item->setSizeHint({0, s_lineHeight});
         }
         if (addresses.isEmpty()) {
             m_list->addItem(tr("No serial port, and none used before."));

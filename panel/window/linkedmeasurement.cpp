@@ -19,7 +19,7 @@ namespace Panel
 namespace
 {
 
-struct Text {
+struct MeasurementText {
     Q_DECLARE_TR_FUNCTIONS(Panel::LinkedMeasurement)
 };
 
@@ -52,7 +52,8 @@ QString setSweep(Analyser &analyser, const Wire &wire, const MeasurementSettings
     if (std::abs(asked.start - taken.start) <= tolerance
         && std::abs(asked.stop - taken.stop) <= tolerance && asked.points == taken.points)
         return {};
-    return Text::tr("%1 does not take this sweep, but goes from %2 to %3 Hz with %4 points.")
+    return MeasurementText::tr(
+               "%1 does not take this sweep, but goes from %2 to %3 Hz with %4 points.")
         .arg(wire.peer())
         .arg(taken.start, 0, 'f', 0)
         .arg(taken.stop, 0, 'f', 0)
@@ -83,7 +84,7 @@ QString measureAndSave(const CommandLine &commandLine)
         return error;
     LinkLog log;
     if (!commandLine.linkLog.isEmpty() && !log.open(commandLine.linkLog))
-        return Text::tr("%1: the log cannot be written.").arg(commandLine.linkLog);
+        return MeasurementText::tr("%1: the log cannot be written.").arg(commandLine.linkLog);
     Network network;
     {
         LinkSession session(address, &log, &s_cancel);
@@ -95,7 +96,8 @@ QString measureAndSave(const CommandLine &commandLine)
             error = setSweep(analyser, *session.wire(), settings);
         for (int i = 0; i < commandLine.sweeps && error.isEmpty(); ++i) {
             if (!analyser.sweep(network, {}))
-                error = s_cancel ? Text::tr("The measurement was cancelled.") : session.trouble();
+                error = s_cancel ? MeasurementText::tr("The measurement was cancelled.")
+                                 : session.trouble();
         }
     }
     return error.isEmpty()

@@ -19,7 +19,7 @@ namespace
 {
 
 constexpr int s_keyHeight = 48;
-constexpr int s_margin = 12;
+constexpr int s_dialogMargin = 12;
 constexpr int s_titleHeight = 35;
 
 } // namespace
@@ -38,7 +38,8 @@ SetupDialog::SetupDialog(Setups *setups, QWidget *parent)
     setWindowTitle(tr("Set-ups"));
     setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(s_margin, s_titleHeight + s_margin, s_margin, s_margin);
+    column->setContentsMargins(s_dialogMargin, s_titleHeight + s_dialogMargin, s_dialogMargin,
+                               s_dialogMargin);
     m_list->setAccessibleName(tr("Set-ups"));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
