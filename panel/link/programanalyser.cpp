@@ -52,7 +52,7 @@ void ProgramAnalyser::tell(const QByteArray &command)
 QByteArray ProgramAnalyser::ask(const QByteArray &query)
 {
     m_wire.send(query + '\n');
-    const QByteArray reply = m_wire.line();
+    QByteArray reply = m_wire.line();
     if (m_wire.ok() && (reply.isEmpty() || reply == "ERROR"))
         m_wire.fail(Trouble::refused(m_wire.peer(), query, reply));
     return reply;
@@ -254,7 +254,7 @@ bool ProgramAnalyser::awaitSweep(const Network &network, const Progress &progres
             m_wire.fail(Trouble::neverEnds(m_wire.peer()));
         else if (m_wire.isCancelled())
             m_wire.fail(QString());
-        if (m_wire.ok() && clock.elapsed() > 5 * s_pollTime) {
+        if (m_wire.ok() && clock.elapsed() > qint64(5) * s_pollTime) {
             if (progress)
                 progress(network, qMin(0.95, double(clock.elapsed()) / expected));
             QThread::msleep(s_pollTime);

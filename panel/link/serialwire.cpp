@@ -36,14 +36,13 @@ public:
     {
         if (m_port.open(QIODevice::ReadWrite))
             return true;
-        if (!QFileInfo::exists(peer()))
+        const bool refused = m_port.error() == QSerialPort::PermissionError;
+        if (!QFileInfo::exists(peer()) || (isReadable() && !refused))
             fail(Trouble::noSuchPort(peer()));
-        else if (m_port.error() == QSerialPort::PermissionError && isReadable())
+        else if (isReadable())
             fail(Trouble::busy(peer()));
-        else if (m_port.error() == QSerialPort::PermissionError || !isReadable())
-            fail(Trouble::noPermission(peer()));
         else
-            fail(Trouble::noSuchPort(peer()));
+            fail(Trouble::noPermission(peer()));
         return false;
     }
 

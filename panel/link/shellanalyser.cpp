@@ -33,7 +33,7 @@ QByteArray refusal(const QByteArray &reply)
 {
     const QList<QByteArray> lines = reply.split('\n');
     for (const QByteArray &line : lines) {
-        const QByteArray text = line.trimmed();
+        QByteArray text = line.trimmed();
         if (text.endsWith('?') || text.startsWith("usage:") || text.contains("invalid")
             || text.contains("exceeds"))
             return text;

@@ -43,7 +43,7 @@ void PanelServer::accept()
             socket->deleteLater();
             continue;
         }
-        socket->setReadBufferSize(2 * longestLine);
+        socket->setReadBufferSize(qint64(2) * longestLine);
         socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         m_connections[socket] = std::make_unique<PanelCommands>(m_model, m_screenshot);
         connect(socket, &QTcpSocket::readyRead, this, [this, socket] { read(socket); });

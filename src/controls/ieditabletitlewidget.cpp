@@ -86,6 +86,10 @@ void IEditableTitleWidget::setAdapter(BaseUnitAdapter *adapter)
     }
     d->adapter = adapter;
     connectAdapter();
+    if (adapter && editor()) {
+        connect(adapter, &BaseUnitAdapter::editingFinished, this, &IEditableTitleWidget::showValue);
+        showValue();
+    }
     if (editor() && editor()->hasFocus())
         onFocus();
 }
@@ -100,10 +104,6 @@ void IEditableTitleWidget::connectAdapter()
             &IEditableTitleWidget::setEditorText);
     // Whoever sends the adapter Return or Escape, also a press beside the keypad, ends this edit.
     d->adapter->installEventFilter(this);
-    if (!editor())
-        return;
-    connect(d->adapter, &BaseUnitAdapter::editingFinished, this, &IEditableTitleWidget::showValue);
-    showValue();
 }
 
 bool IEditableTitleWidget::keepsEntryOpen() const
@@ -265,6 +265,7 @@ void IEditableTitleWidget::finishEdit(QKeyEvent *event)
     d->isFinishing = false;
     if (d->closesKeyboard && keyboard() && keyboard()->isVisible())
         keyboard()->done(result);
+    // cppcheck-suppress identicalConditionAfterEarlyExit // done() may have ended it
     if (!self)
         return;
     restoreKeyboardFocusProxy();

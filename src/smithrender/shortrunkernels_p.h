@@ -127,7 +127,7 @@ VNA_INLINE void farthestOfEach(const double *x, const double *y, const ShortPart
                 values[k] = valueOf(k);
         }
     };
-    ShortPart lanes[Width];
+    ShortPart lanes[Width] = {};
     int longest = 0;
     for (int k = 0; k < Width; ++k) {
         lanes[k] = parts[k < count ? k : 0];
