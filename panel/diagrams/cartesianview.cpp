@@ -12,7 +12,7 @@ namespace Panel
 namespace
 {
 
-constexpr QLatin1String s_activeLayer("activeTrace");
+constexpr char s_activeLayer[] = "activeTrace";
 
 } // namespace
 
@@ -46,7 +46,7 @@ CartesianView::CartesianView(const PanelModel *model, const DiagramId &id, QWidg
 void CartesianView::setUpPlot()
 {
     plot()->setAccessibleName(tr("Cartesian diagram"));
-    plot()->addLayer(s_activeLayer, plot()->layer(QStringLiteral("main")));
+    plot()->addLayer(QLatin1String(s_activeLayer), plot()->layer(QStringLiteral("main")));
     plot()->axisRect()->setupFullAxesBox();
     for (QCPAxis *axis : plot()->axisRect()->axes()) {
         axis->setTicks(axis == plot()->yAxis || axis == plot()->xAxis);
@@ -268,7 +268,8 @@ void CartesianView::showActiveTrace()
 {
     const Trace *active = activeTrace();
     for (const auto &[id, line] : m_lines)
-        line.graph->setLayer(active && active->id == id ? s_activeLayer : QStringLiteral("main"));
+        line.graph->setLayer(active && active->id == id ? QLatin1String(s_activeLayer)
+                                                        : QStringLiteral("main"));
     showWrittenScale();
     showOffScale();
     showSelectedMarker();

@@ -21,7 +21,7 @@ namespace Panel
 namespace
 {
 
-constexpr QLatin1String s_suffix(".json");
+constexpr char s_suffix[] = ".json";
 
 /// The name without what no file can be called on any system.
 QString fileNameOf(const QString &name)
@@ -53,16 +53,16 @@ Setups::Setups(PanelModel *model, FileController *files, const QString &folder, 
 
 QString Setups::path(const QString &name) const
 {
-    return QDir(m_folder).filePath(fileNameOf(name) + s_suffix);
+    return QDir(m_folder).filePath(fileNameOf(name) + QLatin1String(s_suffix));
 }
 
 QStringList Setups::names() const
 {
     QStringList names;
-    const QStringList files =
-        QDir(m_folder).entryList({QLatin1Char('*') + s_suffix}, QDir::Files | QDir::Readable);
+    const QStringList files = QDir(m_folder).entryList(
+        {QStringLiteral("*%1").arg(QLatin1String(s_suffix))}, QDir::Files | QDir::Readable);
     for (const QString &file : files)
-        names << file.chopped(s_suffix.size());
+        names << file.chopped(int(sizeof(s_suffix)) - 1);
     // That of the system may be the plain one, which knows no numbers.
     QCollator order{QLocale(currentLanguage())};
     order.setNumericMode(true);
