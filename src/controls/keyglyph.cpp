@@ -48,7 +48,7 @@ public:
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
         const QPalette palette = m_key ? m_key->palette() : QPalette();
-        const QColor color = palette.color(
+        const QColor &color = palette.color(
             mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active, QPalette::ButtonText);
         const double unit = qMin(rect.width(), rect.height()) / 2.2;
         painter->save();
