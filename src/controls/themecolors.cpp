@@ -93,7 +93,7 @@ QColor ThemeColors::color(const QString &name) const
     const auto set = m_set.constFind(name);
     if (set != m_set.constEnd())
         return *set;
-    const QColor own = builtIn(name);
+    QColor own = builtIn(name);
     const NamedColor *row = find(name);
     if (!row || !row->base)
         return own;
