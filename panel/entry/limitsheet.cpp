@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScroller>
@@ -157,7 +158,8 @@ void LimitSheet::followTrace()
 QVector<LimitLine> LimitSheet::lines() const
 {
     QVector<LimitLine> result;
-    for (const LimitLine &limit : m_model->trace(m_trace)->limits) {
+    const Trace *trace = m_model->trace(m_trace);
+    for (const LimitLine &limit : trace ? trace->limits : QVector<LimitLine>()) {
         if (limit.format == m_format)
             result.append(limit);
     }
@@ -226,8 +228,10 @@ void LimitSheet::addRow(int row, const LimitLine &limit)
                                               : cartesianText(limit.*number, m_format),
                                   name, row, column);
         connect(key, &QPushButton::clicked, this, [=] {
-            const auto apply = [this, row, number](double value) {
-                change(row, [=](LimitLine &line) { line.*number = value; });
+            // The keypad may outlive the sheet, which leaves with its trace.
+            const auto apply = [self = QPointer<LimitSheet>(this), row, number](double value) {
+                if (self)
+                    self->change(row, [=](LimitLine &line) { line.*number = value; });
             };
             if (isFrequency)
                 m_numbers->editFrequency(m_rows, name, lines().at(row).*number, apply);
