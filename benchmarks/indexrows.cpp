@@ -5,6 +5,7 @@
 #include "traces.h"
 
 #include <smithchart/indexedtrace_p.h>
+#include <smithchart/tracewalk.h>
 
 #include <malloc.h>
 
@@ -146,6 +147,21 @@ std::string addMemory(const std::string &data, const TracePointer &trace)
     return name;
 }
 
+/// The first step to a feature after new data, which finds all of them.
+std::string addFirstFeature(const std::string &data, const TracePointer &trace)
+{
+    const std::string name = "first feature, " + data;
+    add(name, [trace](benchmark::State &state) {
+        SmithChart::TraceWalk walk;
+        for (auto _ : state) {
+            walk.setData(trace->real, trace->imag);
+            benchmark::DoNotOptimize(walk.nextFeature(0.0, 1));
+        }
+        state.counters["features"] = static_cast<double>(walk.dataFeatures().size());
+    });
+    return name;
+}
+
 } // namespace
 
 void addIndexRows(RatioTable &table)
@@ -181,6 +197,14 @@ void addIndexRows(RatioTable &table)
                   200.0,
                   addNearest("smooth spiral", smooth),
                   {addFullScan("smooth spiral", smooth)}});
+
+    const auto noisy = shared(spiral(million, 20.0, 4.0));
+    table.addRow({"walk to the first feature, noise of 4 px",
+                  million,
+                  Row::Frame,
+                  20.0,
+                  addFirstFeature("noise of 4 px", noisy),
+                  {addFullScan("noise of 4 px", noisy)}});
 
     table.addRow({"memory, smooth spiral",
                   million,

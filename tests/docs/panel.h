@@ -37,6 +37,8 @@
 #include <VnaWidgets/WidgetMouseMoveTool>
 
 #include <platform/placement.h>
+#include <smithchart/tracesummary.h>
+#include <smithchart/tracewalk.h>
 #include <utils/formatting.h>
 
 #include <QAction>
