@@ -181,6 +181,33 @@
     </message>
 </context>
 <context>
+    <name>SmithReader</name>
+    <message>
+        <source>No traces.</source>
+        <translation>Keine Messkurven.</translation>
+    </message>
+    <message>
+        <source>Marker %1 on %2</source>
+        <translation>Marker %1 auf %2</translation>
+    </message>
+    <message>
+        <source>%1 keeps within its limit.</source>
+        <translation>%1 hält die Grenze ein.</translation>
+    </message>
+    <message>
+        <source>%1 fails its limit from %2 on.</source>
+        <translation>%1 verletzt die Grenze ab %2.</translation>
+    </message>
+    <message>
+        <source>Smith chart</source>
+        <translation>Smith-Diagramm</translation>
+    </message>
+    <message>
+        <source>Trace %1</source>
+        <translation>Messkurve %1</translation>
+    </message>
+</context>
+<context>
     <name>StepEditWidget</name>
     <message>
         <source>Form</source>
@@ -200,6 +227,108 @@
     <message>
         <source>Off</source>
         <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>TraceWords</name>
+    <message>
+        <source>infinite</source>
+        <translation>unendlich</translation>
+    </message>
+    <message>
+        <source>minus infinite</source>
+        <translation>minus unendlich</translation>
+    </message>
+    <message>
+        <source>Stimulus</source>
+        <translation>Stimulus</translation>
+    </message>
+    <message>
+        <source>Resistance</source>
+        <translation>Widerstand</translation>
+    </message>
+    <message>
+        <source>Reactance</source>
+        <translation>Reaktanz</translation>
+    </message>
+    <message>
+        <source>Magnitude</source>
+        <translation>Betrag</translation>
+    </message>
+    <message>
+        <source>Phase (°)</source>
+        <translation>Phase (°)</translation>
+    </message>
+    <message>
+        <source>VSWR</source>
+        <translation>VSWR</translation>
+    </message>
+    <message>
+        <source>resonance</source>
+        <translation>Resonanz</translation>
+    </message>
+    <message>
+        <source>parallel resonance</source>
+        <translation>Parallelresonanz</translation>
+    </message>
+    <message>
+        <source>least reflection</source>
+        <translation>kleinste Reflexion</translation>
+    </message>
+    <message>
+        <source>greatest reflection</source>
+        <translation>größte Reflexion</translation>
+    </message>
+    <message>
+        <source>VSWR of %1</source>
+        <translation>VSWR von %1</translation>
+    </message>
+    <message>
+        <source>edge of the limit</source>
+        <translation>Rand der Grenzverletzung</translation>
+    </message>
+    <message>
+        <source>marker</source>
+        <translation>Marker</translation>
+    </message>
+    <message>
+        <source>VSWR %1</source>
+        <translation>VSWR %1</translation>
+    </message>
+    <message>
+        <source>%1 dB more reflection</source>
+        <translation>%1 dB mehr Reflexion</translation>
+    </message>
+    <message>
+        <source>%1 dB less reflection</source>
+        <translation>%1 dB weniger Reflexion</translation>
+    </message>
+    <message>
+        <source>%1: no points.</source>
+        <translation>%1: keine Punkte.</translation>
+    </message>
+    <message>
+        <source>best match at %1 with a VSWR of %2</source>
+        <translation>beste Anpassung bei %1 mit einem VSWR von %2</translation>
+    </message>
+    <message>
+        <source>VSWR below %1 from %2 to %3, %4 wide</source>
+        <translation>VSWR unter %1 von %2 bis %3, %4 breit</translation>
+    </message>
+    <message>
+        <source>VSWR nowhere below %1</source>
+        <translation>VSWR nirgends unter %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n loop(s)</source>
+        <translation>
+            <numerusform>%n Schleife</numerusform>
+            <numerusform>%n Schleifen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 from %2 to %3: %4.</source>
+        <translation>%1 von %2 bis %3: %4.</translation>
     </message>
 </context>
 </TS>

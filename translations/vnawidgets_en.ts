@@ -181,6 +181,33 @@
     </message>
 </context>
 <context>
+    <name>SmithReader</name>
+    <message>
+        <source>No traces.</source>
+        <translation>No traces.</translation>
+    </message>
+    <message>
+        <source>Marker %1 on %2</source>
+        <translation>Marker %1 on %2</translation>
+    </message>
+    <message>
+        <source>%1 keeps within its limit.</source>
+        <translation>%1 keeps within its limit.</translation>
+    </message>
+    <message>
+        <source>%1 fails its limit from %2 on.</source>
+        <translation>%1 fails its limit from %2 on.</translation>
+    </message>
+    <message>
+        <source>Smith chart</source>
+        <translation>Smith chart</translation>
+    </message>
+    <message>
+        <source>Trace %1</source>
+        <translation>Trace %1</translation>
+    </message>
+</context>
+<context>
     <name>StepEditWidget</name>
     <message>
         <source>Form</source>
@@ -200,6 +227,108 @@
     <message>
         <source>Off</source>
         <translation>Off</translation>
+    </message>
+</context>
+<context>
+    <name>TraceWords</name>
+    <message>
+        <source>infinite</source>
+        <translation>infinite</translation>
+    </message>
+    <message>
+        <source>minus infinite</source>
+        <translation>minus infinite</translation>
+    </message>
+    <message>
+        <source>Stimulus</source>
+        <translation>Stimulus</translation>
+    </message>
+    <message>
+        <source>Resistance</source>
+        <translation>Resistance</translation>
+    </message>
+    <message>
+        <source>Reactance</source>
+        <translation>Reactance</translation>
+    </message>
+    <message>
+        <source>Magnitude</source>
+        <translation>Magnitude</translation>
+    </message>
+    <message>
+        <source>Phase (°)</source>
+        <translation>Phase (°)</translation>
+    </message>
+    <message>
+        <source>VSWR</source>
+        <translation>VSWR</translation>
+    </message>
+    <message>
+        <source>resonance</source>
+        <translation>resonance</translation>
+    </message>
+    <message>
+        <source>parallel resonance</source>
+        <translation>parallel resonance</translation>
+    </message>
+    <message>
+        <source>least reflection</source>
+        <translation>least reflection</translation>
+    </message>
+    <message>
+        <source>greatest reflection</source>
+        <translation>greatest reflection</translation>
+    </message>
+    <message>
+        <source>VSWR of %1</source>
+        <translation>VSWR of %1</translation>
+    </message>
+    <message>
+        <source>edge of the limit</source>
+        <translation>edge of the limit</translation>
+    </message>
+    <message>
+        <source>marker</source>
+        <translation>marker</translation>
+    </message>
+    <message>
+        <source>VSWR %1</source>
+        <translation>VSWR %1</translation>
+    </message>
+    <message>
+        <source>%1 dB more reflection</source>
+        <translation>%1 dB more reflection</translation>
+    </message>
+    <message>
+        <source>%1 dB less reflection</source>
+        <translation>%1 dB less reflection</translation>
+    </message>
+    <message>
+        <source>%1: no points.</source>
+        <translation>%1: no points.</translation>
+    </message>
+    <message>
+        <source>best match at %1 with a VSWR of %2</source>
+        <translation>best match at %1 with a VSWR of %2</translation>
+    </message>
+    <message>
+        <source>VSWR below %1 from %2 to %3, %4 wide</source>
+        <translation>VSWR below %1 from %2 to %3, %4 wide</translation>
+    </message>
+    <message>
+        <source>VSWR nowhere below %1</source>
+        <translation>VSWR nowhere below %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n loop(s)</source>
+        <translation>
+            <numerusform>%n loop</numerusform>
+            <numerusform>%n loops</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 from %2 to %3: %4.</source>
+        <translation>%1 from %2 to %3: %4.</translation>
     </message>
 </context>
 </TS>

@@ -181,6 +181,33 @@
     </message>
 </context>
 <context>
+    <name>SmithReader</name>
+    <message>
+        <source>No traces.</source>
+        <translation>没有轨迹。</translation>
+    </message>
+    <message>
+        <source>Marker %1 on %2</source>
+        <translation>%2 上的标记 %1</translation>
+    </message>
+    <message>
+        <source>%1 keeps within its limit.</source>
+        <translation>%1 符合限制。</translation>
+    </message>
+    <message>
+        <source>%1 fails its limit from %2 on.</source>
+        <translation>%1 从 %2 起超出限制。</translation>
+    </message>
+    <message>
+        <source>Smith chart</source>
+        <translation>史密斯圆图</translation>
+    </message>
+    <message>
+        <source>Trace %1</source>
+        <translation>轨迹 %1</translation>
+    </message>
+</context>
+<context>
     <name>StepEditWidget</name>
     <message>
         <source>Form</source>
@@ -200,6 +227,107 @@
     <message>
         <source>Off</source>
         <translation>关</translation>
+    </message>
+</context>
+<context>
+    <name>TraceWords</name>
+    <message>
+        <source>infinite</source>
+        <translation>无穷大</translation>
+    </message>
+    <message>
+        <source>minus infinite</source>
+        <translation>负无穷大</translation>
+    </message>
+    <message>
+        <source>Stimulus</source>
+        <translation>激励</translation>
+    </message>
+    <message>
+        <source>Resistance</source>
+        <translation>电阻</translation>
+    </message>
+    <message>
+        <source>Reactance</source>
+        <translation>电抗</translation>
+    </message>
+    <message>
+        <source>Magnitude</source>
+        <translation>幅度</translation>
+    </message>
+    <message>
+        <source>Phase (°)</source>
+        <translation>相位 (°)</translation>
+    </message>
+    <message>
+        <source>VSWR</source>
+        <translation>驻波比</translation>
+    </message>
+    <message>
+        <source>resonance</source>
+        <translation>谐振</translation>
+    </message>
+    <message>
+        <source>parallel resonance</source>
+        <translation>并联谐振</translation>
+    </message>
+    <message>
+        <source>least reflection</source>
+        <translation>反射最小</translation>
+    </message>
+    <message>
+        <source>greatest reflection</source>
+        <translation>反射最大</translation>
+    </message>
+    <message>
+        <source>VSWR of %1</source>
+        <translation>驻波比为 %1</translation>
+    </message>
+    <message>
+        <source>edge of the limit</source>
+        <translation>限制边缘</translation>
+    </message>
+    <message>
+        <source>marker</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>VSWR %1</source>
+        <translation>驻波比 %1</translation>
+    </message>
+    <message>
+        <source>%1 dB more reflection</source>
+        <translation>反射增加 %1 dB</translation>
+    </message>
+    <message>
+        <source>%1 dB less reflection</source>
+        <translation>反射减少 %1 dB</translation>
+    </message>
+    <message>
+        <source>%1: no points.</source>
+        <translation>%1：没有点。</translation>
+    </message>
+    <message>
+        <source>best match at %1 with a VSWR of %2</source>
+        <translation>最佳匹配在 %1，驻波比为 %2</translation>
+    </message>
+    <message>
+        <source>VSWR below %1 from %2 to %3, %4 wide</source>
+        <translation>驻波比低于 %1 的频段为 %2 至 %3，宽 %4</translation>
+    </message>
+    <message>
+        <source>VSWR nowhere below %1</source>
+        <translation>驻波比从不低于 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n loop(s)</source>
+        <translation>
+            <numerusform>%n 个环</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 from %2 to %3: %4.</source>
+        <translation>%1 从 %2 到 %3：%4。</translation>
     </message>
 </context>
 </TS>

@@ -218,6 +218,8 @@ public:
     bool hasVisibleMarkers() const;
     /// Moves a marker along its trace, interpolating between points; false outside the data.
     bool setMarkerIndex(int traceId, int localId, double sourceIndex);
+    /// The index into its trace's data that a marker was last set to; -1 for an unknown one.
+    double markerIndex(int traceId, int localId) const;
     /// Sets the text beside a marker; false for an unknown one.
     bool setMarkerLabelText(int traceId, int localId, const QString &text);
     /// Shows or hides a marker; false for an unknown one.

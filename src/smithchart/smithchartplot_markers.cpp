@@ -220,6 +220,12 @@ bool SmithChartPlot::setMarkerIndex(int traceId, int localId, double sourceIndex
     return true;
 }
 
+double SmithChartPlot::markerIndex(int traceId, int localId) const
+{
+    const SmithChartPlotPrivate::OwnedMarker *const record = d->findMarker(traceId, localId);
+    return record ? record->sourceIndex : -1.0;
+}
+
 bool SmithChartPlot::setMarkerLabelText(int traceId, int localId, const QString &text)
 {
     Plot::Marker *const marker = getMarker(traceId, localId);

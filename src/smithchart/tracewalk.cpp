@@ -166,8 +166,36 @@ bool holds(const QVector<double> &places, double index)
 
 } // namespace
 
+std::optional<WalkStep> walkStepOf(int key, Qt::KeyboardModifiers modifiers)
+{
+    modifiers &= ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    const bool plain = modifiers == Qt::NoModifier;
+    const WalkUnit byArrow = plain ? WalkUnit::Point : WalkUnit::Feature;
+    const bool arrowCounts = plain || modifiers == Qt::ControlModifier;
+    switch (key) {
+    case Qt::Key_Left:
+        return arrowCounts ? std::optional<WalkStep>({byArrow, -1}) : std::nullopt;
+    case Qt::Key_Right:
+        return arrowCounts ? std::optional<WalkStep>({byArrow, 1}) : std::nullopt;
+    case Qt::Key_PageUp:
+        return plain ? std::optional<WalkStep>({WalkUnit::View, -1}) : std::nullopt;
+    case Qt::Key_PageDown:
+        return plain ? std::optional<WalkStep>({WalkUnit::View, 1}) : std::nullopt;
+    case Qt::Key_Home:
+        return plain ? std::optional<WalkStep>({WalkUnit::End, -1}) : std::nullopt;
+    case Qt::Key_End:
+        return plain ? std::optional<WalkStep>({WalkUnit::End, 1}) : std::nullopt;
+    default:
+        return std::nullopt;
+    }
+}
+
 void TraceWalk::setData(const QVector<double> &real, const QVector<double> &imag)
 {
+    // Both are shared: the same address means the same values.
+    if (real.constData() == m_real.constData() && real.size() == m_real.size()
+        && imag.constData() == m_imag.constData() && imag.size() == m_imag.size())
+        return;
     m_real = real;
     m_imag = imag;
     m_found = false;
@@ -319,6 +347,28 @@ std::optional<TraceStop> TraceWalk::nextFeature(double from, int direction) cons
     if (!nearest)
         return std::nullopt;
     return TraceStop{*nearest, featuresAt(*nearest)};
+}
+
+std::optional<double> TraceWalk::walked(double from, const WalkStep &step, double distance) const
+{
+    const double first = start();
+    if (first < 0.0)
+        return std::nullopt;
+    const bool begins = !(from >= 0.0 && from <= size() - 1.0);
+    switch (step.unit) {
+    case WalkUnit::End:
+        return step.direction > 0 ? end() : first;
+    case WalkUnit::Feature: {
+        const double origin = !begins ? from : step.direction > 0 ? -1.0 : double(size());
+        const std::optional<TraceStop> stop = nextFeature(origin, step.direction);
+        return stop ? stop->index : begins ? first : from;
+    }
+    case WalkUnit::View:
+        return begins ? first : byDistance(from, step.direction, distance);
+    case WalkUnit::Point:
+        break;
+    }
+    return begins ? first : byPoints(from, step.direction);
 }
 
 TraceFeatures TraceWalk::featuresAt(double index) const

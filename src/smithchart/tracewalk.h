@@ -35,6 +35,25 @@ struct TraceStop {
     TraceFeatures features; ///< at least one
 };
 
+/// How far a step goes.
+enum class WalkUnit {
+    Point,
+    View, ///< a tenth of what is in view
+    Feature,
+    End, ///< to the end of the trace
+};
+
+/// A step along a trace.
+struct WalkStep {
+    WalkUnit unit; ///< how far
+    int direction; ///< 1 or -1
+};
+
+/// The step that a key stands for: left and right for a point, with Ctrl for a feature, Page Up and
+/// Page Down, Home and End. Nothing for other keys and modifiers.
+[[nodiscard]] VNAWIDGETS_EXPORT std::optional<WalkStep> walkStepOf(int key,
+                                                                   Qt::KeyboardModifiers modifiers);
+
 /*! Walks a trace by points, by distance and from feature to feature, in both directions.
 
     The features of the data are found in one pass, when they are first asked for; a step then is a
@@ -54,7 +73,8 @@ struct TraceStop {
 class VNAWIDGETS_EXPORT TraceWalk
 {
 public:
-    /// Takes real and imaginary parts of the reflection coefficient, cut to the shorter of both.
+    /// Takes real and imaginary parts of the reflection coefficient, cut to the shorter of both. Those
+    /// that it has already cost nothing.
     void setData(const QVector<double> &real, const QVector<double> &imag);
     /// The standing wave ratio whose circle counts. Default: 2. False unless finite and above 1.
     bool setVswr(double ratio);
@@ -83,6 +103,10 @@ public:
     double byDistance(double from, int direction, double distance) const;
     /// The next place with a feature in a direction (1 or -1), if there is one.
     std::optional<TraceStop> nextFeature(double from, int direction) const;
+    /// Where a step ends that begins at an index, or anywhere off the trace: there, all but a step to
+    /// an end go to the first feature or point. A step within the view goes \a distance. At the end of
+    /// all features it stays. Nothing where there are no points.
+    std::optional<double> walked(double from, const WalkStep &step, double distance) const;
     /// What is at a place, if anything.
     TraceFeatures featuresAt(double index) const;
     /// All places with features of the data themselves, ascending: neither limits nor markers.

@@ -4,6 +4,7 @@
     The host that the code on the pages of docs/ is part of: what it takes for granted. */
 #pragma once
 
+#include <VnaWidgets/AccessiblePlot>
 #include <VnaWidgets/BaseUnitAdapter>
 #include <VnaWidgets/ComboBox>
 #include <VnaWidgets/DisplayPanel>
@@ -27,6 +28,7 @@
 #include <VnaWidgets/SmithChartPlot>
 #include <VnaWidgets/SmithCircle>
 #include <VnaWidgets/SmithLimit>
+#include <VnaWidgets/SmithReader>
 #include <VnaWidgets/Step125Controller>
 #include <VnaWidgets/StyleHelper>
 #include <VnaWidgets/SwitchButton>

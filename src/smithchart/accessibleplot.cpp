@@ -1,0 +1,333 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "accessibleplot_p.h"
+
+#include "accessibletable_p.h"
+
+#include <algorithm>
+#include <cmath>
+
+PlotDescription::~PlotDescription() = default;
+
+QAccessibleInterface *PlotPartAccessible::plot() const
+{
+    return QAccessible::queryAccessibleInterface(m_parts->plot());
+}
+
+QWindow *PlotPartAccessible::window() const
+{
+    const QAccessibleInterface *const whole = plot();
+    return whole ? whole->window() : nullptr;
+}
+
+QAccessibleInterface *PlotPartAccessible::parent() const
+{
+    return plot();
+}
+
+QRect PlotPartAccessible::rect() const
+{
+    const QAccessibleInterface *const whole = plot();
+    return whole ? whole->rect() : QRect();
+}
+
+QAccessible::State PlotPartAccessible::state() const
+{
+    QAccessible::State state;
+    const QAccessibleInterface *const whole = plot();
+    state.invisible = !whole || whole->state().invisible;
+    state.readOnly = true;
+    return state;
+}
+
+namespace
+{
+
+/// A marker: its value is its stimulus.
+class MarkerAccessible : public PlotPartAccessible, public QAccessibleValueInterface
+{
+public:
+    MarkerAccessible(PlotParts *parts, const PlotParts::Part &part)
+        : PlotPartAccessible(parts)
+        , m_part(part)
+    {
+    }
+
+    bool isValid() const override { return m_parts->holds(m_part); }
+    QAccessible::Role role() const override { return QAccessible::Slider; }
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name && isValid() ? m_part.description->markerText(id())
+                                                      : QString();
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = PlotPartAccessible::state();
+        state.readOnly = false;
+        return state;
+    }
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface *>(this)
+                                                   : nullptr;
+    }
+
+    QVariant currentValue() const override { return value().value; }
+    QVariant minimumValue() const override { return value().minimum; }
+    QVariant maximumValue() const override { return value().maximum; }
+    QVariant minimumStepSize() const override { return 0.0; }
+    void setCurrentValue(const QVariant &wanted) override
+    {
+        bool isNumber = false;
+        const double value = wanted.toDouble(&isNumber);
+        if (isNumber && std::isfinite(value) && isValid())
+            m_part.description->requestMarkerValue(id(), value);
+    }
+
+private:
+    PlotDescription::MarkerId id() const { return {m_part.trace, m_part.number}; }
+    PlotDescription::MarkerValue value() const
+    {
+        return isValid() ? m_part.description->markerValue(id())
+                         : PlotDescription::MarkerValue{0.0, 0.0, 0.0};
+    }
+
+    const PlotParts::Part m_part;
+};
+
+/// What a limit says.
+class VerdictAccessible : public PlotPartAccessible
+{
+public:
+    VerdictAccessible(PlotParts *parts, const PlotParts::Part &part)
+        : PlotPartAccessible(parts)
+        , m_part(part)
+    {
+    }
+
+    bool isValid() const override { return m_parts->holds(m_part); }
+    QAccessible::Role role() const override { return QAccessible::StaticText; }
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name && isValid()
+            ? m_part.description->verdicts().value(m_part.number)
+            : QString();
+    }
+
+private:
+    const PlotParts::Part m_part;
+};
+
+} // namespace
+
+/// The plot itself.
+class PlotAccessible : public QAccessibleWidget
+{
+public:
+    PlotAccessible(QCustomPlot *plot, AccessiblePlot *owner)
+        : QAccessibleWidget(plot, QAccessible::Chart)
+        , m_owner(owner)
+    {
+    }
+
+    static QAccessibleInterface *make(const QString &className, QObject *object)
+    {
+        if (className != QLatin1String(QCustomPlot::staticMetaObject.className()))
+            return nullptr;
+        auto *const owner =
+            object->findChild<AccessiblePlot *>(QString(), Qt::FindDirectChildrenOnly);
+        return owner ? new PlotAccessible(static_cast<QCustomPlot *>(object), owner) : nullptr;
+    }
+
+    int childCount() const override { return m_owner ? static_cast<int>(parts().all().size()) : 0; }
+    QAccessibleInterface *child(int index) const override
+    {
+        if (!m_owner)
+            return nullptr;
+        const QVector<PlotParts::Part> all = parts().all();
+        return index >= 0 && index < all.size() ? parts().object(all.at(index)) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        if (!m_owner)
+            return -1;
+        const QVector<PlotParts::Part> all = parts().all();
+        const auto found = std::find_if(all.begin(), all.end(), [&](const PlotParts::Part &part) {
+            return parts().knownObject(part) == child;
+        });
+        return found == all.end() ? -1 : static_cast<int>(found - all.begin());
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        if (!m_owner || (kind != QAccessible::Name && kind != QAccessible::Description))
+            return QAccessibleWidget::text(kind);
+        if (kind == QAccessible::Name && !m_owner->announcement().isEmpty())
+            return m_owner->announcement();
+        QStringList texts;
+        for (const PlotDescription *description : parts().descriptions())
+            texts << (kind == QAccessible::Name ? description->name() : description->summary());
+        return texts.join(QLatin1Char(' '));
+    }
+
+private:
+    PlotParts &parts() const { return *m_owner->m_parts; }
+
+    const QPointer<AccessiblePlot> m_owner;
+};
+
+PlotParts::~PlotParts()
+{
+    for (const Known &known : std::as_const(m_known))
+        QAccessible::deleteAccessibleInterface(known.id);
+}
+
+void PlotParts::remove(PlotDescription *description)
+{
+    m_descriptions.removeOne(description);
+    for (int i = static_cast<int>(m_known.size()) - 1; i >= 0; --i) {
+        if (m_known.at(i).part.description == description)
+            QAccessible::deleteAccessibleInterface(m_known.takeAt(i).id);
+    }
+}
+
+QVector<PlotParts::Part> PlotParts::all() const
+{
+    QVector<Part> parts;
+    for (PlotDescription *const description : m_descriptions) {
+        for (const int trace : description->traces())
+            parts.append({description, Table, trace, 0});
+        for (const PlotDescription::MarkerId &id : description->markers())
+            parts.append({description, Marker, id.trace, id.number});
+        for (int i = 0; i < description->verdicts().size(); ++i)
+            parts.append({description, Verdict, 0, i});
+    }
+    return parts;
+}
+
+bool PlotParts::holds(const Part &part) const
+{
+    if (!m_descriptions.contains(part.description))
+        return false;
+    switch (part.kind) {
+    case Table:
+        return part.description->traces().contains(part.trace);
+    case Marker: {
+        const auto markers = part.description->markers();
+        return std::any_of(markers.begin(), markers.end(),
+                           [&](const PlotDescription::MarkerId &id) {
+                               return id.trace == part.trace && id.number == part.number;
+                           });
+    }
+    case Verdict:
+        return part.number < part.description->verdicts().size();
+    }
+    return false;
+}
+
+QAccessibleInterface *PlotParts::knownObject(const Part &part) const
+{
+    const auto found = std::find_if(m_known.begin(), m_known.end(),
+                                    [&](const Known &known) { return known.part == part; });
+    return found == m_known.end() ? nullptr : QAccessible::accessibleInterface(found->id);
+}
+
+QAccessibleInterface *PlotParts::object(const Part &part)
+{
+    if (QAccessibleInterface *const known = knownObject(part))
+        return known;
+    QAccessibleInterface *made = nullptr;
+    if (part.kind == Table)
+        made = new TraceTableAccessible(this, part);
+    else if (part.kind == Marker)
+        made = new MarkerAccessible(this, part);
+    else
+        made = new VerdictAccessible(this, part);
+    m_known.append({part, QAccessible::registerAccessibleInterface(made)});
+    return made;
+}
+
+AccessiblePlot *AccessiblePlot::on(QCustomPlot *plot)
+{
+    if (!plot)
+        return nullptr;
+    auto *known = plot->findChild<AccessiblePlot *>(QString(), Qt::FindDirectChildrenOnly);
+    return known ? known : new AccessiblePlot(plot);
+}
+
+AccessiblePlot::AccessiblePlot(QCustomPlot *plot)
+    : QObject(plot)
+    , m_parts(std::make_unique<PlotParts>(plot))
+{
+    QAccessible::installFactory(&PlotAccessible::make);
+    // One that was asked for before would be kept, as that of a plain widget.
+    if (QAccessibleInterface *const before = QAccessible::queryAccessibleInterface(plot)) {
+        if (before->role() != QAccessible::Chart)
+            QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(before));
+    }
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(pause);
+    connect(&m_pause, &QTimer::timeout, this, [this] {
+        if (m_isWaiting)
+            say(m_waiting);
+    });
+}
+
+AccessiblePlot::~AccessiblePlot() = default;
+
+void AccessiblePlot::add(PlotDescription *description)
+{
+    if (description && !m_parts->descriptions().contains(description))
+        m_parts->add(description);
+}
+
+void AccessiblePlot::remove(PlotDescription *description)
+{
+    m_parts->remove(description);
+}
+
+void AccessiblePlot::announce(const QString &text)
+{
+    m_isWaiting = m_pause.isActive() && !text.isEmpty();
+    m_waiting = text;
+    if (!m_isWaiting)
+        say(text);
+}
+
+void AccessiblePlot::say(const QString &text)
+{
+    m_isWaiting = false;
+    m_announcement = text;
+    if (!text.isEmpty())
+        m_pause.start();
+    if (QCustomPlot *const plot = m_parts->plot()) {
+        QAccessibleEvent event(plot, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+    Q_EMIT announced(text);
+}
+
+void AccessiblePlot::tellMarkerMoved(PlotDescription *description,
+                                     const PlotDescription::MarkerId &id)
+{
+    const PlotParts::Part part{description, PlotParts::Marker, id.trace, id.number};
+    QAccessibleInterface *const marker = m_parts->knownObject(part);
+    if (!QAccessible::isActive() || !marker || !marker->isValid())
+        return;
+    QAccessibleValueChangeEvent event(marker, description->markerValue(id).value);
+    QAccessible::updateAccessibility(&event);
+}
+
+void AccessiblePlot::tellDataChanged()
+{
+    if (!QAccessible::isActive())
+        return;
+    for (const PlotParts::Part &part : m_parts->all()) {
+        QAccessibleInterface *const table =
+            part.kind == PlotParts::Table ? m_parts->knownObject(part) : nullptr;
+        if (!table)
+            continue;
+        QAccessibleTableModelChangeEvent event(table, QAccessibleTableModelChangeEvent::ModelReset);
+        table->tableInterface()->modelChange(&event);
+        QAccessible::updateAccessibility(&event);
+    }
+}

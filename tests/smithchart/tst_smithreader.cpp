@@ -1,0 +1,240 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "chartscene.h"
+
+#include <smithchart/accessibleplot.h>
+#include <smithchart/smithlimit.h>
+#include <smithchart/smithreader.h>
+
+#include <QAccessible>
+#include <QSignalSpy>
+
+#include <cmath>
+
+using SmithChart::WalkStep;
+using SmithChart::WalkUnit;
+
+namespace
+{
+
+/// A chart with a trace that resonates at 2.5 GHz, between the points of 2 and 3 GHz, and a marker at
+/// the first of five points.
+struct ReaderScene : VnaTest::ChartScene {
+    ReaderScene()
+    {
+        chart->addCurve(1, QPen());
+        chart->setCurveData(1, {1e9, 2e9, 3e9, 4e9, 5e9}, {0.5, 0.2, 0.2, 0.5, 0.7},
+                            {-0.5, -0.2, 0.2, 0.5, 0.6});
+        chart->setGridReference(50.0);
+        chart->setActiveTrace(1);
+        chart->addMarkerVisual(1, 1, 0.0, Plot::PointingDown);
+        reader = new SmithReader(chart);
+        reader->setTraceName(1, QStringLiteral("S11"));
+    }
+
+    QAccessibleInterface *tree() const { return QAccessible::queryAccessibleInterface(plot.get()); }
+    QAccessibleInterface *part(QAccessible::Role role) const
+    {
+        for (int i = 0; i < tree()->childCount(); ++i) {
+            if (tree()->child(i)->role() == role)
+                return tree()->child(i);
+        }
+        return nullptr;
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(plot.get(), key, modifiers);
+    }
+
+    QPointer<SmithReader> reader;
+};
+
+} // namespace
+
+class tst_SmithReader : public VnaTest::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void describesTheChart();
+    void tableOfAnyLength();
+    void aMarkerIsAskedForAndNotMoved();
+    void keysWalkTheTrace();
+    void oneAnnouncementASecondTheNewestWins();
+    void twoChartsShareAPlot();
+    void anyOrderOfDestruction();
+};
+
+void tst_SmithReader::describesTheChart()
+{
+    const ReaderScene scene;
+    QCOMPARE(scene.tree()->role(), QAccessible::Chart);
+    QCOMPARE(scene.tree()->text(QAccessible::Name), QStringLiteral("Smith chart"));
+    QCOMPARE(
+        scene.tree()->text(QAccessible::Description),
+        QStringLiteral("S11 from 1 GHz to 5 GHz: best match at 2 GHz with a VSWR of 1.79; VSWR "
+                       "below 2 from 1.88099 GHz to 3.11901 GHz, 1.23802 GHz wide; 0 loop(s)."));
+    SmithLimit limit(scene.chart);
+    SmithChart::LimitArea area;
+    area.setCircle({0.0, 0.0}, 0.6, SmithChart::LimitArea::StayInside);
+    limit.setArea(area);
+    limit.test(1);
+    scene.reader->addLimit(&limit, 1);
+    QCOMPARE(scene.part(QAccessible::StaticText)->text(QAccessible::Name),
+             QStringLiteral("S11 fails its limit from 1 GHz on."));
+    // Parts find their way back, as tools go up and down the tree.
+    for (int i = 0; i < scene.tree()->childCount(); ++i) {
+        QCOMPARE(scene.tree()->indexOfChild(scene.tree()->child(i)), i);
+        QCOMPARE(scene.tree()->child(i)->parent(), scene.tree());
+    }
+}
+
+void tst_SmithReader::tableOfAnyLength()
+{
+    const ReaderScene scene;
+    const int million = 1000000;
+    QVector<double> real(million, 0.5);
+    real[million - 1] = -1.0 / 3.0;
+    scene.chart->setCurveData(1, {}, real, QVector<double>(million, 0.0));
+    QAccessibleInterface *table = scene.part(QAccessible::Table);
+    QCOMPARE(table->text(QAccessible::Name), QStringLiteral("S11"));
+    QAccessibleTableInterface *cells = table->tableInterface();
+    QCOMPARE(cells->rowCount(), million);
+    QCOMPARE(cells->columnCount(), 6);
+    QCOMPARE(cells->columnDescription(1), QStringLiteral("Resistance (\u03a9)"));
+    QAccessibleInterface *last = cells->cellAt(million - 1, 1);
+    QCOMPARE(last->text(QAccessible::Name), QStringLiteral("25"));
+    QCOMPARE(table->indexOfChild(last), (million - 1) * 6 + 1);
+    QCOMPARE(table->child((million - 1) * 6 + 1), last);
+    // Thousands of cells may be asked for, and the first ones go.
+    for (int row = 0; row < 5000; ++row)
+        QCOMPARE(cells->cellAt(row, 5)->text(QAccessible::Name), QStringLiteral("3"));
+    QCOMPARE(cells->cellAt(million, 0), nullptr);
+    QAccessibleInterface *kept = cells->cellAt(4999, 5);
+    scene.chart->setCurveData(1, {}, {0.0}, {0.0});
+    QVERIFY(!kept->isValid());
+    QVERIFY(kept->text(QAccessible::Name).isEmpty());
+}
+
+void tst_SmithReader::aMarkerIsAskedForAndNotMoved()
+{
+    const ReaderScene scene;
+    QAccessibleInterface *marker = scene.part(QAccessible::Slider);
+    QCOMPARE(marker->text(QAccessible::Name),
+             QStringLiteral("Marker 1 on S11: 1 GHz, 50 \u2212 j100 \u03a9, VSWR 5.83"));
+    QAccessibleValueInterface *value = marker->valueInterface();
+    QCOMPARE(value->currentValue().toDouble(), 1e9);
+    QCOMPARE(value->maximumValue().toDouble(), 5e9);
+    QSignalSpy asked(scene.chart, &SmithChartPlot::markerPositionChanged);
+    QSignalSpy finished(scene.chart, &SmithChartPlot::markerDragFinished);
+    value->setCurrentValue(3.9e9);
+    QCOMPARE(asked.takeFirst(), (QVariantList{1, 1, 3.0}));
+    QCOMPARE(finished.takeFirst(), (QVariantList{1, 1, 0.0}));
+    QCOMPARE(value->currentValue().toDouble(), 1e9);
+    connect(scene.chart, &SmithChartPlot::markerPositionChanged, scene.chart,
+            &SmithChartPlot::setMarkerIndex);
+    value->setCurrentValue(9e9);
+    QCOMPARE(value->currentValue().toDouble(), 5e9);
+    value->setCurrentValue(qQNaN());
+    QCOMPARE(value->currentValue().toDouble(), 5e9);
+    scene.chart->removeMarkerVisual(1, 1);
+    QVERIFY(!marker->isValid());
+}
+
+void tst_SmithReader::keysWalkTheTrace()
+{
+    const ReaderScene scene;
+    QSignalSpy said(scene.reader, &SmithReader::said);
+    const auto last = [&] { return said.isEmpty() ? QString() : said.last().first().toString(); };
+    scene.press(Qt::Key_Right, Qt::ControlModifier);
+    QVERIFY2(last().startsWith(QLatin1String("Marker: 1 GHz")), qPrintable(last()));
+    scene.press(Qt::Key_Right, Qt::ControlModifier);
+    QVERIFY2(last().startsWith(QLatin1String("VSWR of 2: 1.88099 GHz")), qPrintable(last()));
+    scene.press(Qt::Key_Right, Qt::ControlModifier);
+    QVERIFY2(last().startsWith(QLatin1String("Least reflection: 2 GHz")), qPrintable(last()));
+    scene.press(Qt::Key_Right, Qt::ControlModifier);
+    QCOMPARE(
+        last(),
+        QStringLiteral("Resonance: 2.5 GHz, 75 + j0 \u03a9, VSWR 1.5, 3.0 dB less reflection"));
+    QCOMPARE(scene.reader->walkedIndex(), 1.5);
+    scene.press(Qt::Key_Left);
+    QVERIFY2(last().startsWith(QLatin1String("Least reflection: 2 GHz, ")), qPrintable(last()));
+    scene.press(Qt::Key_End);
+    QCOMPARE(scene.reader->walkedIndex(), 4.0);
+    const int steps = said.size();
+    scene.press(Qt::Key_End); // nothing new
+    scene.press(Qt::Key_Right);
+    QCOMPARE(said.size(), steps);
+    scene.press(Qt::Key_PageUp);
+    QCOMPARE(scene.reader->walkedIndex(), 3.0);
+
+    QSignalSpy clicked(scene.chart, &SmithChartPlot::activeTraceDoubleClicked);
+    scene.press(Qt::Key_Return);
+    QCOMPARE(clicked.takeFirst().at(1).toDouble(), 4e9);
+    scene.press(Qt::Key_Escape);
+    QCOMPARE(scene.reader->walkedTrace(), -1);
+    scene.press(Qt::Key_Return);
+    QVERIFY(clicked.isEmpty());
+
+    scene.chart->setCurveVisible(1, false);
+    QVERIFY(!scene.reader->walk({WalkUnit::Point, 1}));
+}
+
+void tst_SmithReader::oneAnnouncementASecondTheNewestWins()
+{
+    const ReaderScene scene;
+    AccessiblePlot *accessible = AccessiblePlot::on(scene.plot.get());
+    QSignalSpy announced(accessible, &AccessiblePlot::announced);
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 5; ++i)
+        accessible->announce(QString::number(i));
+    QCOMPARE(announced.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(announced.size(), 2, 5000);
+    QVERIFY(timer.elapsed() >= AccessiblePlot::pause * 9 / 10);
+    QCOMPARE(announced.last().first().toString(), QStringLiteral("4"));
+    QCOMPARE(scene.tree()->text(QAccessible::Name), QStringLiteral("4"));
+    accessible->announce({}); // at once, and what waits is forgotten
+    QCOMPARE(scene.tree()->text(QAccessible::Name), QStringLiteral("Smith chart"));
+}
+
+void tst_SmithReader::twoChartsShareAPlot()
+{
+    const ReaderScene scene;
+    auto *second = new SmithChartPlot(scene.plot.get(), SmithChart::Basic);
+    second->addCurve(1, QPen());
+    second->setCurveData(1, {}, {0.1}, {0.1});
+    auto *reader = new SmithReader(second);
+    reader->setName(QStringLiteral("Output"));
+    QCOMPARE(scene.tree()->text(QAccessible::Name), QStringLiteral("Smith chart Output"));
+    QCOMPARE(scene.tree()->childCount(), 3);
+    QAccessibleInterface *gone = scene.tree()->child(2);
+    const QAccessible::Id id = QAccessible::uniqueId(gone);
+    delete second;
+    QCOMPARE(QAccessible::accessibleInterface(id), nullptr);
+    QCOMPARE(scene.tree()->childCount(), 2);
+}
+
+void tst_SmithReader::anyOrderOfDestruction()
+{
+    for (int order = 0; order < 3; ++order) {
+        ReaderScene scene;
+        scene.press(Qt::Key_Home); // with a ring
+        for (int i = 0; i < scene.tree()->childCount(); ++i)
+            QVERIFY(scene.tree()->child(i)->isValid());
+        scene.part(QAccessible::Table)->tableInterface()->cellAt(0, 0);
+        if (order == 0)
+            delete scene.reader;
+        else if (order == 1)
+            delete scene.chart;
+        else
+            scene.plot.reset();
+        if (scene.reader)
+            QVERIFY(!scene.reader->walk({WalkUnit::End, 1}));
+        if (order < 2)
+            QCOMPARE(scene.tree()->childCount(), 0);
+    }
+}
+
+QTEST_MAIN(tst_SmithReader)
+#include "tst_smithreader.moc"
