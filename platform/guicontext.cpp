@@ -5,17 +5,33 @@
 namespace Utils
 {
 
+struct GUIContext::Private {
+    bool dark = true;
+};
+
+GUIContext::GUIContext()
+    : d(std::make_unique<Private>())
+{
+}
+
+GUIContext::~GUIContext() = default;
+
 GUIContext *GUIContext::instance()
 {
     static GUIContext *const context = new GUIContext;
     return context;
 }
 
+bool GUIContext::getIsDarkTheme() const
+{
+    return d->dark;
+}
+
 void GUIContext::setIsDarkTheme(bool dark)
 {
-    if (m_dark == dark)
+    if (d->dark == dark)
         return;
-    m_dark = dark;
+    d->dark = dark;
     Q_EMIT darkThemeChanged(dark);
 }
 

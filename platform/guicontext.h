@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <memory>
+
 namespace Utils
 {
 
@@ -24,16 +26,18 @@ public:
     /// Stores the flag; darkThemeChanged() follows only when it differs from the stored one.
     void setIsDarkTheme(bool dark);
     /// True for the dark look, which is also the start-up value.
-    bool getIsDarkTheme() const { return m_dark; }
+    bool getIsDarkTheme() const;
 
 Q_SIGNALS:
     /// The flag has changed.
     void darkThemeChanged(bool dark);
 
 private:
-    GUIContext() = default;
+    GUIContext();
+    ~GUIContext() override;
 
-    bool m_dark = true;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Utils

@@ -5,17 +5,29 @@
 namespace Graph
 {
 
+struct LayoutManagerProifle::Private {
+    LayoutType layoutType = LayoutType::Single;
+};
+
 LayoutManagerProifle::LayoutManagerProifle(QObject *parent)
     : QObject(parent)
+    , d(std::make_unique<Private>())
 {
     qRegisterMetaType<LayoutType>();
 }
 
+LayoutManagerProifle::~LayoutManagerProifle() = default;
+
+LayoutType LayoutManagerProifle::layoutType() const
+{
+    return d->layoutType;
+}
+
 void LayoutManagerProifle::setLayoutType(LayoutType type)
 {
-    if (m_layoutType == type)
+    if (d->layoutType == type)
         return;
-    m_layoutType = type;
+    d->layoutType = type;
     Q_EMIT layoutTypeChanged(type);
 }
 

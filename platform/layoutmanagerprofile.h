@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <memory>
+
 namespace Graph
 {
 Q_NAMESPACE_EXPORT(VNAPLATFORM_EXPORT)
@@ -39,9 +41,10 @@ class VNAPLATFORM_EXPORT LayoutManagerProifle : public QObject
 public:
     /// Belongs to \a parent; one diagram at first.
     explicit LayoutManagerProifle(QObject *parent = nullptr);
+    ~LayoutManagerProifle() override;
 
     /// LayoutType::Single at the start.
-    LayoutType layoutType() const { return m_layoutType; }
+    LayoutType layoutType() const;
 
 public Q_SLOTS:
     /// Sets the layout, and tells so when it is another one.
@@ -52,7 +55,8 @@ Q_SIGNALS:
     void layoutTypeChanged(Graph::LayoutType type);
 
 private:
-    LayoutType m_layoutType = LayoutType::Single;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Graph

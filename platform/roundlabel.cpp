@@ -34,9 +34,21 @@ QRegularExpressionMatch lastDecimalNumber(const QString &text)
 
 } // namespace
 
+struct RoundLabel::Private {
+    QString shown;
+};
+
 RoundLabel::RoundLabel(QWidget *parent)
     : QLabel(parent)
+    , d(std::make_unique<Private>())
 {
+}
+
+RoundLabel::~RoundLabel() = default;
+
+QString RoundLabel::shownText() const
+{
+    return d->shown;
 }
 
 void RoundLabel::setText(const QString &text)
@@ -63,7 +75,7 @@ void RoundLabel::paintEvent(QPaintEvent *event)
     drawFrame(&painter);
     // Line by line at the font's line spacing; a label that lets its text be selected would round
     // the spacing up and need more height than its size hint says.
-    const QStringList lines = m_shown.split(QLatin1Char('\n'));
+    const QStringList lines = d->shown.split(QLatin1Char('\n'));
     const int spacing = fontMetrics().lineSpacing();
     const QRect block =
         QStyle::alignedRect(layoutDirection(), alignment() & Qt::AlignVertical_Mask,
@@ -93,7 +105,7 @@ QRect RoundLabel::textRect() const
 void RoundLabel::fit()
 {
     const QString whole = text();
-    m_shown = whole;
+    d->shown = whole;
     if (whole.contains(QLatin1Char('\n')) || wordWrap() || textFormat() == Qt::RichText)
         return;
 
@@ -101,10 +113,10 @@ void RoundLabel::fit()
     const int width = textRect().width();
     const QRegularExpressionMatch number = lastDecimalNumber(whole);
     for (int decimals = int(number.capturedLength(1)) - 1;
-         decimals >= 0 && metrics.horizontalAdvance(m_shown) > width; --decimals)
-        m_shown = rounded(whole, number, decimals);
-    if (metrics.horizontalAdvance(m_shown) > width)
-        m_shown = metrics.elidedText(m_shown, Qt::ElideRight, width);
+         decimals >= 0 && metrics.horizontalAdvance(d->shown) > width; --decimals)
+        d->shown = rounded(whole, number, decimals);
+    if (metrics.horizontalAdvance(d->shown) > width)
+        d->shown = metrics.elidedText(d->shown, Qt::ElideRight, width);
     update();
 }
 

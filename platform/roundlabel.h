@@ -6,6 +6,8 @@
 
 #include <QLabel>
 
+#include <memory>
+
 namespace Controls
 {
 
@@ -28,9 +30,10 @@ class VNAPLATFORM_EXPORT RoundLabel : public QLabel
 public:
     /// An empty label.
     explicit RoundLabel(QWidget *parent = nullptr);
+    ~RoundLabel() override;
 
     /// What is painted: text(), rounded or elided to the width.
-    QString shownText() const { return m_shown; }
+    QString shownText() const;
 
 public Q_SLOTS:
     /// Shows \a text in place of QLabel::setText(), which knows nothing of rounding.
@@ -45,7 +48,8 @@ private:
     QRect textRect() const;
     void fit();
 
-    QString m_shown;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Controls

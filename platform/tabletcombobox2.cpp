@@ -4,14 +4,21 @@
 
 #include <platform/ienumprofileadapter.h>
 
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
 namespace Profile
 {
 
+struct TabletComboBox2::Private {
+    QPointer<IEnumProfileAdapter> adapter;
+    QStringList icons;
+};
+
 TabletComboBox2::TabletComboBox2(QWidget *parent)
     : QComboBox(parent)
+    , d(std::make_unique<Private>())
 {
     // The delegate that a combo box starts with draws its rows past the style sheets.
     setItemDelegate(new QStyledItemDelegate(this));
@@ -19,9 +26,11 @@ TabletComboBox2::TabletComboBox2(QWidget *parent)
             &TabletComboBox2::writeBack);
 }
 
+TabletComboBox2::~TabletComboBox2() = default;
+
 IEnumProfileAdapter *TabletComboBox2::profile() const
 {
-    return m_adapter;
+    return d->adapter;
 }
 
 void TabletComboBox2::reset()
@@ -32,25 +41,25 @@ void TabletComboBox2::reset()
 
 void TabletComboBox2::setProfile(IEnumProfileAdapter *adapter)
 {
-    if (m_adapter == adapter)
+    if (d->adapter == adapter)
         return;
-    if (m_adapter)
-        disconnect(m_adapter, nullptr, this, nullptr);
-    m_adapter = adapter;
-    if (m_adapter)
-        connect(m_adapter, &IEnumProfileAdapter::changed, this, &TabletComboBox2::showCurrent);
+    if (d->adapter)
+        disconnect(d->adapter, nullptr, this, nullptr);
+    d->adapter = adapter;
+    if (d->adapter)
+        connect(d->adapter, &IEnumProfileAdapter::changed, this, &TabletComboBox2::showCurrent);
 }
 
 void TabletComboBox2::afterSetProfile()
 {
-    if (!m_adapter)
+    if (!d->adapter)
         return;
     {
         // A combo box makes the first entry it is given the current one: nobody chose that.
         const QSignalBlocker quiet(this);
         clear();
-        for (int index = 0; index < m_adapter->count(); ++index)
-            addItem(m_adapter->text(index));
+        for (int index = 0; index < d->adapter->count(); ++index)
+            addItem(d->adapter->text(index));
         setCurrentIndex(-1);
     }
     applyIcons();
@@ -59,26 +68,26 @@ void TabletComboBox2::afterSetProfile()
 
 void TabletComboBox2::setIcons(const QList<QString> &paths)
 {
-    m_icons = paths;
+    d->icons = paths;
     applyIcons();
 }
 
 void TabletComboBox2::showCurrent()
 {
-    setCurrentIndex(m_adapter ? m_adapter->currentIndex() : -1);
+    setCurrentIndex(d->adapter ? d->adapter->currentIndex() : -1);
 }
 
 void TabletComboBox2::applyIcons()
 {
     for (int index = 0; index < count(); ++index)
-        setItemIcon(index, QIcon(m_icons.value(index)));
+        setItemIcon(index, QIcon(d->icons.value(index)));
 }
 
 void TabletComboBox2::writeBack(int index)
 {
-    if (!m_adapter || m_adapter->currentIndex() == index)
+    if (!d->adapter || d->adapter->currentIndex() == index)
         return;
-    m_adapter->setCurrentIndex(index);
+    d->adapter->setCurrentIndex(index);
     showCurrent();
 }
 

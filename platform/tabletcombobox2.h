@@ -5,8 +5,9 @@
 #include <platform/vnaplatform_export.h>
 
 #include <QComboBox>
-#include <QPointer>
 #include <QStringList>
+
+#include <memory>
 
 namespace Profile
 {
@@ -34,6 +35,7 @@ class VNAPLATFORM_EXPORT TabletComboBox2 : public QComboBox
 public:
     /// An empty box, bound to nothing.
     explicit TabletComboBox2(QWidget *parent = nullptr);
+    ~TabletComboBox2() override;
 
     /// Null before setProfile(), after reset() and when the adapter was deleted.
     IEnumProfileAdapter *profile() const;
@@ -53,8 +55,8 @@ private:
     void applyIcons();
     void writeBack(int index);
 
-    QPointer<IEnumProfileAdapter> m_adapter;
-    QStringList m_icons;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Profile

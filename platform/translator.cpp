@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QTranslator>
 
 namespace Utils
 {
@@ -21,32 +22,50 @@ QString displayName(const QLocale &locale)
 
 } // namespace
 
+struct Translator::Private {
+    QLocale locale = QLocale::c();
+    QString language = QStringLiteral("English");
+    QTranslator catalogue;
+};
+
+Translator::Translator()
+    : d(std::make_unique<Private>())
+{
+}
+
+Translator::~Translator() = default;
+
 Translator *Translator::instance()
 {
     static Translator *const translator = new Translator;
     return translator;
 }
 
+QString Translator::currentLanguage() const
+{
+    return d->language;
+}
+
 void Translator::setLanguage(const QLocale &locale)
 {
     // English has a catalogue too, for texts whose source carries a note to translators.
-    if (m_locale == locale)
+    if (d->locale == locale)
         return;
-    m_locale = locale;
-    QCoreApplication::removeTranslator(&m_catalogue);
+    d->locale = locale;
+    QCoreApplication::removeTranslator(&d->catalogue);
     if (load(locale) || load(QLocale(QLocale::English)))
-        QCoreApplication::installTranslator(&m_catalogue);
+        QCoreApplication::installTranslator(&d->catalogue);
 
     const QString language = displayName(locale);
-    if (m_language == language)
+    if (d->language == language)
         return;
-    m_language = language;
+    d->language = language;
     Q_EMIT languageChanged(language);
 }
 
 bool Translator::load(const QLocale &locale)
 {
-    return m_catalogue.load(locale, QStringLiteral("vnawidgets"), QStringLiteral("_"),
+    return d->catalogue.load(locale, QStringLiteral("vnawidgets"), QStringLiteral("_"),
                             QStringLiteral(":/i18n"));
 }
 

@@ -6,7 +6,8 @@
 
 #include <QLocale>
 #include <QObject>
-#include <QTranslator>
+
+#include <memory>
 
 namespace Utils
 {
@@ -32,7 +33,7 @@ public:
     static Translator *instance();
 
     /// The language as its own speakers write it, for example "English" (the start value).
-    QString currentLanguage() const { return m_language; }
+    QString currentLanguage() const;
 
 public Q_SLOTS:
     /*! Switches to the language of the locale. Where no catalogue exists the texts are English;
@@ -45,13 +46,13 @@ Q_SIGNALS:
     void languageChanged(const QString &language);
 
 private:
-    Translator() = default;
+    Translator();
+    ~Translator() override;
 
     bool load(const QLocale &locale);
 
-    QLocale m_locale = QLocale::c();
-    QString m_language = QStringLiteral("English");
-    QTranslator m_catalogue;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Utils

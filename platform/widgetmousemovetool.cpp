@@ -13,24 +13,51 @@
 namespace Utils
 {
 
+namespace
+{
+
+enum State {
+    Idle,
+    Pressed,
+    Dragging,
+};
+
+} // namespace
+
+struct WidgetMouseMoveTool::Private {
+    QWidget *widget = nullptr;
+    bool movable = true;
+    State state = Idle;
+    QPoint pressPosition;
+    QPoint startPosition;
+};
+
 WidgetMouseMoveTool::WidgetMouseMoveTool(QWidget *widget)
     : QObject(widget)
-    , m_widget(widget)
+    , d(std::make_unique<Private>())
 {
+    d->widget = widget;
     // Touches are taken as such: Qt turns a cancelled touch into a mouse release, which would be a
     // tap.
     widget->setAttribute(Qt::WA_AcceptTouchEvents);
     widget->installEventFilter(this);
 }
 
+WidgetMouseMoveTool::~WidgetMouseMoveTool() = default;
+
+bool WidgetMouseMoveTool::isMovable() const
+{
+    return d->movable;
+}
+
 void WidgetMouseMoveTool::setMovable(bool movable)
 {
-    m_movable = movable;
+    d->movable = movable;
 }
 
 bool WidgetMouseMoveTool::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_widget)
+    if (watched != d->widget)
         return QObject::eventFilter(watched, event);
 
     switch (event->type()) {
@@ -41,13 +68,13 @@ bool WidgetMouseMoveTool::eventFilter(QObject *watched, QEvent *event)
         const auto *mouse = static_cast<QMouseEvent *>(event);
         const QPoint global = QtCompat::globalPosition(mouse).toPoint();
         if (event->type() == QEvent::MouseMove) {
-            if (m_state == Idle)
+            if (d->state == Idle)
                 return false;
             moveTo(global);
         } else if (mouse->button() != Qt::LeftButton) {
             return false;
         } else if (event->type() == QEvent::MouseButtonRelease) {
-            if (m_state == Idle)
+            if (d->state == Idle)
                 return false;
             event->accept();
             release(global);
@@ -68,7 +95,7 @@ bool WidgetMouseMoveTool::eventFilter(QObject *watched, QEvent *event)
     case QEvent::WindowBlocked:
     case QEvent::WindowDeactivate:
         // The release will go elsewhere.
-        m_state = Idle;
+        d->state = Idle;
         return false;
     default:
         return false;
@@ -84,45 +111,45 @@ bool WidgetMouseMoveTool::filterTouch(QEvent *event)
     event->accept();
     const auto *touch = static_cast<QTouchEvent *>(event);
     if (event->type() == QEvent::TouchCancel || QtCompat::touchPointCount(touch) != 1) {
-        m_state = Idle;
+        d->state = Idle;
         return true;
     }
     const QPoint global = QtCompat::firstTouchGlobalPosition(touch).toPoint();
     if (event->type() == QEvent::TouchBegin)
         press(global);
-    else if (m_state != Idle && event->type() == QEvent::TouchUpdate)
+    else if (d->state != Idle && event->type() == QEvent::TouchUpdate)
         moveTo(global);
-    else if (m_state != Idle)
+    else if (d->state != Idle)
         release(global);
     return true;
 }
 
 void WidgetMouseMoveTool::press(const QPoint &global)
 {
-    m_state = Pressed;
-    m_pressPosition = global;
-    m_startPosition = m_widget->pos();
+    d->state = Pressed;
+    d->pressPosition = global;
+    d->startPosition = d->widget->pos();
 }
 
 void WidgetMouseMoveTool::moveTo(const QPoint &global)
 {
-    const QPoint way = global - m_pressPosition;
-    if (m_state == Pressed && way.manhattanLength() < QApplication::startDragDistance())
+    const QPoint way = global - d->pressPosition;
+    if (d->state == Pressed && way.manhattanLength() < QApplication::startDragDistance())
         return;
-    m_state = Dragging;
-    if (!m_movable)
+    d->state = Dragging;
+    if (!d->movable)
         return;
-    const QRect bounds = m_widget->isWindow() ? m_widget->screen()->availableGeometry()
-                                              : m_widget->parentWidget()->rect();
-    m_widget->move(
-        boundedTopLeft(m_startPosition + way, m_widget->frameGeometry().size(), bounds, 0));
+    const QRect bounds = d->widget->isWindow() ? d->widget->screen()->availableGeometry()
+                                              : d->widget->parentWidget()->rect();
+    d->widget->move(
+        boundedTopLeft(d->startPosition + way, d->widget->frameGeometry().size(), bounds, 0));
 }
 
 void WidgetMouseMoveTool::release(const QPoint &global)
 {
     moveTo(global);
-    const bool tapped = m_state == Pressed;
-    m_state = Idle;
+    const bool tapped = d->state == Pressed;
+    d->state = Idle;
     if (tapped)
         Q_EMIT clicked();
 }

@@ -5,7 +5,8 @@
 #include <platform/vnaplatform_export.h>
 
 #include <QObject>
-#include <QPoint>
+
+#include <memory>
 
 class QWidget;
 
@@ -30,9 +31,10 @@ class VNAPLATFORM_EXPORT WidgetMouseMoveTool : public QObject
 public:
     /// Works on \a widget from now on and becomes its child.
     explicit WidgetMouseMoveTool(QWidget *widget);
+    ~WidgetMouseMoveTool() override;
 
     /// Whether dragging moves the widget; true at the start.
-    bool isMovable() const { return m_movable; }
+    bool isMovable() const;
     /// Sets whether the widget can be dragged.
     void setMovable(bool movable);
 
@@ -45,22 +47,13 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    enum State {
-        Idle,
-        Pressed,
-        Dragging,
-    };
-
     bool filterTouch(QEvent *event);
     void press(const QPoint &global);
     void moveTo(const QPoint &global);
     void release(const QPoint &global);
 
-    QWidget *m_widget;
-    bool m_movable = true;
-    State m_state = Idle;
-    QPoint m_pressPosition;
-    QPoint m_startPosition;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Utils

@@ -3,8 +3,9 @@
 
 # cmake -DLUPDATE=<program> -DSOURCES=<root of the repository> -DCATALOGUES=<folder> -P update.cmake
 # Brings the .ts files of a folder up to date with the texts of the sources; fails where lupdate complains of one.
-# Without line numbers, so that a .ts file changes only with its texts.
-set(flags -silent -no-obsolete -locations none)
+# Without line numbers, so that a .ts file changes only with its texts; with the headers of platform/, where its classes
+# are declared.
+set(flags -silent -no-obsolete -locations none -I .)
 
 function(update)
     execute_process(COMMAND ${LUPDATE} ${flags} ${ARGV} WORKING_DIRECTORY ${SOURCES}

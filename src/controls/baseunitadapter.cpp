@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QDoubleValidator>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -55,16 +56,33 @@ QDialog *owningDialog(const BaseUnitAdapter *adapter)
 
 } // namespace
 
+struct BaseUnitAdapter::Private {
+    QPointer<QValidator> validator;
+    QMap<int, std::function<bool(QKeyEvent *)>> keyCallbacks;
+    EscKeyPolicy escKeyPolicy = EscRejectsDialog;
+};
+
 BaseUnitAdapter::BaseUnitAdapter(QObject *parent)
     : QObject(parent)
-    , m_cursorWatcher(new Utils::PropertyWatcher(this))
+    , d(std::make_unique<Private>())
 {
-    m_cursorWatcher->watchProperty(
+    auto *cursorWatcher = new Utils::PropertyWatcher(this);
+    cursorWatcher->watchProperty(
         this, QStringLiteral("cursorPos"),
         [this](const QVariant &position) { keepCursorOutOfUnit(position.toInt()); });
 }
 
 BaseUnitAdapter::~BaseUnitAdapter() = default;
+
+BaseUnitAdapter::EscKeyPolicy BaseUnitAdapter::escKeyPolicy() const
+{
+    return d->escKeyPolicy;
+}
+
+void BaseUnitAdapter::setEscKeyPolicy(EscKeyPolicy policy)
+{
+    d->escKeyPolicy = policy;
+}
 
 QString BaseUnitAdapter::adapterType()
 {
@@ -78,20 +96,20 @@ QString BaseUnitAdapter::getCurrentUnit() const
 
 QValidator *BaseUnitAdapter::validator() const
 {
-    return m_validator;
+    return d->validator;
 }
 
 void BaseUnitAdapter::setValidator(QValidator *validator)
 {
-    m_validator = validator;
+    d->validator = validator;
 }
 
 void BaseUnitAdapter::setKeyCallback(int key, const std::function<bool(QKeyEvent *)> &callback)
 {
     if (callback)
-        m_keyCallbacks.insert(key, callback);
+        d->keyCallbacks.insert(key, callback);
     else
-        m_keyCallbacks.remove(key);
+        d->keyCallbacks.remove(key);
 }
 
 void BaseUnitAdapter::resetSelectionToNumericPart(int &selectionStart, int &selectionLength,
@@ -145,7 +163,7 @@ bool BaseUnitAdapter::event(QEvent *event)
     // it.
     auto *keyEvent = static_cast<QKeyEvent *>(event);
     const QPointer<BaseUnitAdapter> self(this);
-    if (const auto callback = m_keyCallbacks.value(keyEvent->key())) {
+    if (const auto callback = d->keyCallbacks.value(keyEvent->key())) {
         if (callback(keyEvent) || !self) {
             event->accept();
             return true;
@@ -191,7 +209,7 @@ bool BaseUnitAdapter::event(QEvent *event)
 /// The value inside the validator's range. NaN stays.
 double BaseUnitAdapter::clamped(double value) const
 {
-    const auto *range = qobject_cast<const QDoubleValidator *>(m_validator.data());
+    const auto *range = qobject_cast<const QDoubleValidator *>(d->validator.data());
     if (!range || std::isnan(value))
         return value;
     if (value > range->top())
@@ -254,7 +272,7 @@ void BaseUnitAdapter::commit(QKeyEvent *event)
 /// Brings back the last valid text, and rejects the owning dialog if the policy says so.
 void BaseUnitAdapter::cancel()
 {
-    const QPointer<QDialog> dialog(m_escKeyPolicy == EscRejectsDialog ? owningDialog(this)
+    const QPointer<QDialog> dialog(d->escKeyPolicy == EscRejectsDialog ? owningDialog(this)
                                                                       : nullptr);
     Q_EMIT specialKeyHandled(m_inputText, numericPartLength(), 0, 0);
     if (dialog)

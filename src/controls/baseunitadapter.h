@@ -6,21 +6,16 @@
 
 #include <QMap>
 #include <QObject>
-#include <QPointer>
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 QT_BEGIN_NAMESPACE
 class QDialog;
 class QKeyEvent;
 class QValidator;
 QT_END_NAMESPACE
-
-namespace Utils
-{
-class PropertyWatcher;
-}
 
 namespace Controls
 {
@@ -85,7 +80,7 @@ public:
     /// What limits the value; null at first. Not owned.
     QValidator *validator() const;
     /// What Escape does; EscRejectsDialog at first.
-    EscKeyPolicy escKeyPolicy() const { return m_escKeyPolicy; }
+    EscKeyPolicy escKeyPolicy() const;
 
     /// Replaces the text alone: the value stays, nothing is emitted.
     void setInputText(const QString &text) { m_inputText = text; }
@@ -97,7 +92,7 @@ public:
     /// owned.
     void setValidator(QValidator *validator);
     /// Sets escKeyPolicy().
-    void setEscKeyPolicy(EscKeyPolicy policy) { m_escKeyPolicy = policy; }
+    void setEscKeyPolicy(EscKeyPolicy policy);
     /// Calls \a callback for the key before anything else; it returns true to end the handling
     /// there. An empty function removes the callback of that key.
     void setKeyCallback(int key, const std::function<bool(QKeyEvent *)> &callback);
@@ -169,10 +164,8 @@ private:
     void insertPoint();
     void toggleSign();
 
-    Utils::PropertyWatcher *m_cursorWatcher;
-    QPointer<QValidator> m_validator;
-    QMap<int, std::function<bool(QKeyEvent *)>> m_keyCallbacks;
-    EscKeyPolicy m_escKeyPolicy = EscRejectsDialog;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Controls

@@ -8,8 +8,13 @@
 namespace Controls
 {
 
+struct KeypadEditor::Private {
+    bool entryOpen = false;
+};
+
 KeypadEditor::KeypadEditor(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter)
     : IEditableTitleWidget(keyboard, adapter, keyboard)
+    , d(std::make_unique<Private>())
 {
     hide();
     QLineEdit *const edit = keyboard->lineEdit();
@@ -19,7 +24,7 @@ KeypadEditor::KeypadEditor(TouchNumKeyboard *keyboard, BaseUnitAdapter *adapter)
     edit->show();
     attachEditor(edit);
     setKeepsEntryOpen(true);
-    connect(keyboard, &QDialog::finished, this, [this] { m_entryOpen = false; });
+    connect(keyboard, &QDialog::finished, this, [this] { d->entryOpen = false; });
 }
 
 KeypadEditor::~KeypadEditor() = default;
@@ -41,11 +46,11 @@ void KeypadEditor::beginEntry()
 void KeypadEditor::onFocus()
 {
     // Back from another field of the keypad, what was typed here still stands.
-    if (m_entryOpen && !isCommitting())
+    if (d->entryOpen && !isCommitting())
         registerAtKeyboard();
     else
         beginEntry();
-    m_entryOpen = true;
+    d->entryOpen = true;
     overrideKeyboardFocusProxy(editor());
 }
 

@@ -4,6 +4,8 @@
 
 #include <controls/ieditabletitlewidget.h>
 
+#include <memory>
+
 namespace Controls
 {
 
@@ -43,7 +45,8 @@ public Q_SLOTS:
 private:
     void beginEntry();
 
-    bool m_entryOpen = false;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Controls

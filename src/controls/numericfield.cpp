@@ -8,6 +8,7 @@
 #include <QDoubleValidator>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPointer>
 
 #include <cmath>
 #include <limits>

@@ -53,16 +53,39 @@ int numberEnd(const QString &text)
 
 } // namespace
 
+struct ScaledUnitAdapter::Private {
+    QStringList units;
+    bool unitSpacing = false;
+};
+
 ScaledUnitAdapter::ScaledUnitAdapter(const QVector<Unit> &units, QObject *parent)
     : BaseUnitAdapter(parent)
+    , d(std::make_unique<Private>())
 {
     for (const Unit &unit : units) {
         if (unit.name.isEmpty() || !(unit.factor > 0.0) || !std::isfinite(unit.factor))
             continue;
-        m_units << unit.name;
+        d->units << unit.name;
         m_unitFactors.insert(unit.name, unit.factor);
     }
     setRealValue(0.0);
+}
+
+ScaledUnitAdapter::~ScaledUnitAdapter() = default;
+
+bool ScaledUnitAdapter::hasUnitSpacing() const
+{
+    return d->unitSpacing;
+}
+
+void ScaledUnitAdapter::setUnitSpacing(bool spacing)
+{
+    d->unitSpacing = spacing;
+}
+
+QStringList ScaledUnitAdapter::availableUnits()
+{
+    return d->units;
 }
 
 QString ScaledUnitAdapter::adapterType()
@@ -86,7 +109,7 @@ QString ScaledUnitAdapter::convertFromBaseValue(double value, QString unit)
                                            : Utils::toString(number, decimals);
     if (text.startsWith(QLatin1Char('-')) && text.toDouble() == 0.0)
         text.remove(0, 1); // what rounds to zero has no sign
-    if (m_unitSpacing && !unit.isEmpty())
+    if (d->unitSpacing && !unit.isEmpty())
         text += QLatin1Char(' ');
     return text + unit;
 }
@@ -109,9 +132,9 @@ double ScaledUnitAdapter::convertToBase(const QString &text)
 /// case.
 QString ScaledUnitAdapter::findUnit(const QString &name) const
 {
-    if (m_units.contains(name))
+    if (d->units.contains(name))
         return name;
-    for (const QString &unit : m_units) {
+    for (const QString &unit : d->units) {
         if (unit.compare(name, Qt::CaseInsensitive) == 0)
             return unit;
     }
@@ -122,7 +145,7 @@ QString ScaledUnitAdapter::findUnit(const QString &name) const
 QString ScaledUnitAdapter::bestUnit(double value) const
 {
     QString best;
-    for (const QString &unit : m_units) {
+    for (const QString &unit : d->units) {
         const double factor = m_unitFactors.value(unit);
         const double bestFactor = m_unitFactors.value(best, factor);
         const bool fits = std::abs(value) >= factor;

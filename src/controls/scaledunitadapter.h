@@ -6,6 +6,8 @@
 
 #include <QVector>
 
+#include <memory>
+
 namespace Controls
 {
 
@@ -41,6 +43,7 @@ public:
     /// \a units in the order of their keys. Entries
     /// without a name or with a factor that is not positive are left out.
     explicit ScaledUnitAdapter(const QVector<Unit> &units, QObject *parent = nullptr);
+    ~ScaledUnitAdapter() override;
 
     /// Names the kind of adapter: "Scaled".
     static QString adapterType();
@@ -50,20 +53,20 @@ public:
 
     /// Whether a space stands between number and unit, as in "2.45 GHz". Default: false. The text
     /// changes with the next value.
-    bool hasUnitSpacing() const { return m_unitSpacing; }
+    bool hasUnitSpacing() const;
     /// Sets hasUnitSpacing().
-    void setUnitSpacing(bool spacing) { m_unitSpacing = spacing; }
+    void setUnitSpacing(bool spacing);
 
     QString convertFromBaseValue(double value, QString unit) override;
     double convertToBase(const QString &text) override;
-    QStringList availableUnits() override { return m_units; }
+    QStringList availableUnits() override;
 
 private:
     QString findUnit(const QString &name) const;
     QString bestUnit(double value) const;
 
-    QStringList m_units;
-    bool m_unitSpacing = false;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Controls

@@ -32,19 +32,34 @@ double nextBelow(double mantissa)
 
 } // namespace
 
+struct Step125Controller::Private {
+    double zeroThreshold = 1e-15;
+};
+
+Step125Controller::Step125Controller(QObject *parent)
+    : StepController(parent)
+    , d(std::make_unique<Private>())
+{
+}
+
 Step125Controller::~Step125Controller() = default;
+
+double Step125Controller::zeroThreshold() const
+{
+    return d->zeroThreshold;
+}
 
 bool Step125Controller::setZeroThreshold(double threshold)
 {
     if (!std::isfinite(threshold) || threshold < 0.0)
         return false;
-    m_zeroThreshold = threshold;
+    d->zeroThreshold = threshold;
     return true;
 }
 
 void Step125Controller::stepBy(double value, int step)
 {
-    const auto [mantissa, exponent] = Utils::getScientificNotation(value, m_zeroThreshold);
+    const auto [mantissa, exponent] = Utils::getScientificNotation(value, d->zeroThreshold);
     if (step == 0 || mantissa == 0.0 || !std::isfinite(value)) {
         Q_EMIT stepped(value);
         return;
@@ -65,7 +80,7 @@ void Step125Controller::stepBy(double value, int step)
         if (result == value)
             result = signedScale * next(entry);
     }
-    Q_EMIT stepped(std::abs(result) < m_zeroThreshold ? 0.0 : result);
+    Q_EMIT stepped(std::abs(result) < d->zeroThreshold ? 0.0 : result);
 }
 
 } // namespace Controls

@@ -4,6 +4,8 @@
 
 #include <controls/stepcontroller.h>
 
+#include <memory>
+
 namespace Controls
 {
 
@@ -23,7 +25,8 @@ class VNAWIDGETS_EXPORT Step125Controller : public StepController
     Q_OBJECT
 
 public:
-    using StepController::StepController;
+    /// Serves no adapter at first.
+    explicit Step125Controller(QObject *parent = nullptr);
     ~Step125Controller() override;
 
     /// Only the sign of \a step counts; 0 emits the value as it is, and so do zero and what is not
@@ -32,12 +35,13 @@ public:
 
     /// A magnitude below this, in base units, counts as zero and is not stepped; 1e-15 by default,
     /// as everywhere in the library. For quantities of such a size, 0.1 fF say, set less, or 0.
-    double zeroThreshold() const { return m_zeroThreshold; }
+    double zeroThreshold() const;
     /// Sets zeroThreshold(); false unless it is finite and at least 0.
     bool setZeroThreshold(double threshold);
 
 private:
-    double m_zeroThreshold = 1e-15;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Controls

@@ -5,7 +5,8 @@
 #include <vnawidgets_export.h>
 
 #include <QObject>
-#include <QPointer>
+
+#include <memory>
 
 namespace Controls
 {
@@ -35,12 +36,12 @@ public:
     /// The adapter whose requests are answered; null at first.
     BaseUnitAdapter *adapter() const;
     /// The amount of one step in base units; 1 by default.
-    double singleStep() const { return m_singleStep; }
+    double singleStep() const;
 
     /// Leaves the former adapter and serves this one; null serves none.
     void setAdapter(BaseUnitAdapter *adapter);
     /// Any number is taken: a negative step turns the direction around.
-    void setSingleStep(double step) { m_singleStep = step; }
+    void setSingleStep(double step);
 
 public Q_SLOTS:
     /// Computes the value \a step positions from \a value and emits stepped(); works without an
@@ -55,8 +56,8 @@ Q_SIGNALS:
 private:
     void writeBack(double newValue);
 
-    QPointer<BaseUnitAdapter> m_adapter;
-    double m_singleStep = 1.0;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Controls

@@ -5,6 +5,7 @@
 #include "markerslayer_p.h"
 #include "qcpitemmarkertext_p.h"
 
+#include <QPointer>
 #include <QSharedPointer>
 
 #include <algorithm>
@@ -22,13 +23,25 @@ constexpr double snapFraction = 1e-6; ///< a fraction up to this counts as the p
 
 } // namespace
 
-Marker::Marker() = default;
+struct Marker::Private {
+    QPointer<QObject> plot; ///< a QObject, because a plot half destroyed must not pass for a plot
+    QPointer<QCPItemText> label;
+    QPointer<QCPItemTracerMarker> tracer;
+    int id = -1;
+    MarkerType type = PointingDown;
+};
+
+Marker::Marker()
+    : d(std::make_unique<Private>())
+{
+}
 
 Marker::Marker(QCustomPlot *plot, int id, MarkerType type)
-    : m_plot(plot)
-    , m_id(id)
-    , m_type(type)
+    : Marker()
 {
+    d->plot = plot;
+    d->id = id;
+    d->type = type;
     if (plot)
         createItems(plot);
 }
@@ -39,6 +52,7 @@ Marker::~Marker()
 }
 
 Marker::Marker(Marker &&other) noexcept
+    : Marker()
 {
     *this = std::move(other);
 }
@@ -48,52 +62,68 @@ Marker &Marker::operator=(Marker &&other) noexcept
     if (this == &other)
         return *this;
     removeItems();
-    m_plot = std::exchange(other.m_plot, nullptr);
-    m_label = std::exchange(other.m_label, nullptr);
-    m_tracer = std::exchange(other.m_tracer, nullptr);
-    m_id = std::exchange(other.m_id, -1);
-    m_type = std::exchange(other.m_type, PointingDown);
+    *d = std::exchange(*other.d, Private());
     return *this;
+}
+
+int Marker::getId() const
+{
+    return d->id;
+}
+
+MarkerType Marker::getType() const
+{
+    return d->type;
+}
+
+QCPItemText *Marker::getLabel() const
+{
+    return d->label;
+}
+
+QCPItemTracer *Marker::getTracer() const
+{
+    return d->tracer;
 }
 
 bool Marker::isVisible() const
 {
-    return m_tracer && m_label && m_tracer->visible() && m_label->visible();
+    return d->tracer && d->label && d->tracer->visible() && d->label->visible();
 }
 
 void Marker::setVisible(bool visible)
 {
-    if (m_tracer)
-        m_tracer->setVisible(visible);
-    if (m_label)
-        m_label->setVisible(visible);
+    if (d->tracer)
+        d->tracer->setVisible(visible);
+    if (d->label)
+        d->label->setVisible(visible);
     queueReplot();
 }
 
 void Marker::setType(MarkerType type)
 {
-    m_type = type;
-    if (m_tracer)
-        m_tracer->setPointingDown(type != PointingUp);
+    d->type = type;
+    if (d->tracer)
+        d->tracer->setPointingDown(type != PointingUp);
     updateLabelPlacement();
     queueReplot();
 }
 
 void Marker::setShape(TracerShape shape)
 {
-    if (m_tracer)
-        m_tracer->setShape(shape);
+    if (d->tracer)
+        d->tracer->setShape(shape);
     queueReplot();
 }
 
 void Marker::setColors(const QPen &pen, const QBrush &brush)
 {
-    if (m_tracer) {
-        m_tracer->setPen(pen);
-        m_tracer->setBrush(brush);
+    if (d->tracer) {
+        d->tracer->setPen(pen);
+        d->tracer->setBrush(brush);
     }
-    if (m_label)
-        m_label->setColor(pen.color());
+    if (d->label)
+        d->label->setColor(pen.color());
 }
 
 bool Marker::setPosition(QCPCurve *curve, double index)
@@ -103,7 +133,7 @@ bool Marker::setPosition(QCPCurve *curve, double index)
 
 bool Marker::setPosition(QCPGraph *graph, double index)
 {
-    return qobject_cast<QCustomPlot *>(m_plot) && placeAtIndex(graph, index);
+    return qobject_cast<QCustomPlot *>(d->plot) && placeAtIndex(graph, index);
 }
 
 bool Marker::setPositionCoordinates(QCPCurve *curve, double x, double y)
@@ -121,8 +151,8 @@ bool Marker::placeAtIndex(Plottable *plottable, double index)
 {
     if (!plottable || !plottable->data())
         return false;
-    if (m_tracer)
-        m_tracer->position->setAxes(plottable->keyAxis(), plottable->valueAxis());
+    if (d->tracer)
+        d->tracer->position->setAxes(plottable->keyAxis(), plottable->valueAxis());
     const auto data = plottable->data();
     const int n = data->size();
     if (n <= 0)
@@ -140,18 +170,18 @@ bool Marker::placeAtIndex(Plottable *plottable, double index)
         x = x * (1.0 - f) + f * next->key;
         y = y * (1.0 - f) + f * next->value;
     }
-    if (m_tracer)
-        m_tracer->position->setCoords(x, y);
+    if (d->tracer)
+        d->tracer->position->setCoords(x, y);
     return true;
 }
 
 bool Marker::placeAtCoordinates(QCPAbstractPlottable *plottable, double x, double y)
 {
-    if (!qobject_cast<QCustomPlot *>(m_plot) || !plottable || !m_tracer || !std::isfinite(x)
+    if (!qobject_cast<QCustomPlot *>(d->plot) || !plottable || !d->tracer || !std::isfinite(x)
         || !std::isfinite(y))
         return false;
-    m_tracer->position->setAxes(plottable->keyAxis(), plottable->valueAxis());
-    m_tracer->position->setCoords(x, y);
+    d->tracer->position->setAxes(plottable->keyAxis(), plottable->valueAxis());
+    d->tracer->position->setCoords(x, y);
     return true;
 }
 
@@ -159,62 +189,62 @@ void Marker::createItems(QCustomPlot *plot)
 {
     raiseMarkersLayer(plot);
 
-    m_tracer = new QCPItemTracerMarker(plot);
-    m_tracer->setPen(QPen(QBrush(Qt::darkGreen, Qt::SolidPattern), 1.5));
-    m_tracer->setBrush(QBrush(Qt::NoBrush));
-    m_tracer->setSize(15);
-    m_tracer->position->setType(QCPItemPosition::ptPlotCoords);
-    m_tracer->setClipToAxisRect(false);
-    m_tracer->setLayer(markersLayerName());
-    m_tracer->setSelectable(true);
-    m_tracer->setPointingDown(m_type != PointingUp);
+    d->tracer = new QCPItemTracerMarker(plot);
+    d->tracer->setPen(QPen(QBrush(Qt::darkGreen, Qt::SolidPattern), 1.5));
+    d->tracer->setBrush(QBrush(Qt::NoBrush));
+    d->tracer->setSize(15);
+    d->tracer->position->setType(QCPItemPosition::ptPlotCoords);
+    d->tracer->setClipToAxisRect(false);
+    d->tracer->setLayer(markersLayerName());
+    d->tracer->setSelectable(true);
+    d->tracer->setPointingDown(d->type != PointingUp);
     queueReplot();
 
-    m_label = new QCPItemMarkerText(plot, m_tracer);
-    m_label->setText(QString()); // the owner's to choose; QCustomPlot starts with a placeholder
-    m_label->position->setType(QCPItemPosition::ptAbsolute);
-    m_label->position->setParentAnchor(m_tracer->position, false);
-    m_label->setClipToAxisRect(false);
-    m_label->setBrush(Qt::NoBrush);
-    m_label->setPen(Qt::NoPen);
-    m_label->setPadding(QMargins(1, 1, 1, 1));
-    m_label->setColor(Qt::darkGreen);
+    d->label = new QCPItemMarkerText(plot, d->tracer);
+    d->label->setText(QString()); // the owner's to choose; QCustomPlot starts with a placeholder
+    d->label->position->setType(QCPItemPosition::ptAbsolute);
+    d->label->position->setParentAnchor(d->tracer->position, false);
+    d->label->setClipToAxisRect(false);
+    d->label->setBrush(Qt::NoBrush);
+    d->label->setPen(Qt::NoPen);
+    d->label->setPadding(QMargins(1, 1, 1, 1));
+    d->label->setColor(Qt::darkGreen);
     QFont font(QStringLiteral("HarmonyOS Sans SC"), 11, QFont::Normal, false);
     font.setStyleStrategy(QFont::PreferAntialias);
-    m_label->setFont(font);
-    m_label->setSelectable(true);
-    m_label->setLayer(markersLayerName());
+    d->label->setFont(font);
+    d->label->setSelectable(true);
+    d->label->setLayer(markersLayerName());
     updateLabelPlacement();
 }
 
 void Marker::removeItems()
 {
     const auto remove = [this](QCPAbstractItem *item) {
-        if (item && qobject_cast<QCustomPlot *>(m_plot))
+        if (item && qobject_cast<QCustomPlot *>(d->plot))
             item->parentPlot()->removeItem(item);
     };
-    remove(m_label);
-    remove(m_tracer);
-    m_label = nullptr;
-    m_tracer = nullptr;
+    remove(d->label);
+    remove(d->tracer);
+    d->label = nullptr;
+    d->tracer = nullptr;
 }
 
 void Marker::updateLabelPlacement()
 {
-    if (!m_label || !m_tracer)
+    if (!d->label || !d->tracer)
         return;
-    if (m_tracer->isPointingDown()) {
-        m_label->position->setCoords(0, -labelDistance);
-        m_label->setPositionAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    if (d->tracer->isPointingDown()) {
+        d->label->position->setCoords(0, -labelDistance);
+        d->label->setPositionAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     } else {
-        m_label->position->setCoords(0, labelDistance);
-        m_label->setPositionAlignment(Qt::AlignHCenter | Qt::AlignTop);
+        d->label->position->setCoords(0, labelDistance);
+        d->label->setPositionAlignment(Qt::AlignHCenter | Qt::AlignTop);
     }
 }
 
 void Marker::queueReplot()
 {
-    if (auto *const plot = qobject_cast<QCustomPlot *>(m_plot))
+    if (auto *const plot = qobject_cast<QCustomPlot *>(d->plot))
         plot->replot(QCustomPlot::rpQueuedReplot);
 }
 

@@ -9,7 +9,8 @@
 
 #include <QBrush>
 #include <QPen>
-#include <QPointer>
+
+#include <memory>
 
 namespace Plot
 {
@@ -48,13 +49,13 @@ public:
     Marker &operator=(Marker &&other) noexcept;
 
     /// The number that the host gave.
-    int getId() const { return m_id; }
+    int getId() const;
     /// Which way it points.
-    MarkerType getType() const { return m_type; }
+    MarkerType getType() const;
     /// The text item, or null.
-    QCPItemText *getLabel() const { return m_label; }
+    QCPItemText *getLabel() const;
     /// The triangle item, or null.
-    QCPItemTracer *getTracer() const { return m_tracer; }
+    QCPItemTracer *getTracer() const;
     /// Whether both items exist and are visible.
     bool isVisible() const;
 
@@ -90,11 +91,8 @@ private:
     void updateLabelPlacement();
     void queueReplot();
 
-    QPointer<QObject> m_plot; ///< a QObject, because a plot half destroyed must not pass for a plot
-    QPointer<QCPItemText> m_label;
-    QPointer<QCPItemTracerMarker> m_tracer;
-    int m_id = -1;
-    MarkerType m_type = PointingDown;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Plot

@@ -22,13 +22,39 @@ double side(const QPointF &p, const QPointF &a, const QPointF &b)
 
 } // namespace
 
+struct QCPItemTracerMarker::Private {
+    TracerShape shape = Equilateral;
+    bool pointingDown = true;
+};
+
 QCPItemTracerMarker::QCPItemTracerMarker(QCustomPlot *parentPlot)
     : QCPItemTracer(parentPlot)
+    , d(std::make_unique<Private>())
 {
     setStyle(QCPItemTracer::tsNone); // the base class is not to draw anything of its own
 }
 
 QCPItemTracerMarker::~QCPItemTracerMarker() = default;
+
+void QCPItemTracerMarker::setShape(TracerShape shape)
+{
+    d->shape = shape;
+}
+
+TracerShape QCPItemTracerMarker::shape() const
+{
+    return d->shape;
+}
+
+void QCPItemTracerMarker::setPointingDown(bool down)
+{
+    d->pointingDown = down;
+}
+
+bool QCPItemTracerMarker::isPointingDown() const
+{
+    return d->pointingDown;
+}
 
 double QCPItemTracerMarker::selectTest(const QPointF &pos, bool onlySelectable,
                                        QVariant *details) const
@@ -38,8 +64,8 @@ double QCPItemTracerMarker::selectTest(const QPointF &pos, bool onlySelectable,
         return -1.0;
     if (hitInsideTriangle(pos))
         return 0.0;
-    const QPointF d = pos - position->pixelPosition();
-    const double squared = d.x() * d.x() + d.y() * d.y();
+    const QPointF way = pos - position->pixelPosition();
+    const double squared = QPointF::dotProduct(way, way);
     return squared <= apexHitRadiusSquared ? std::sqrt(squared) : -1.0;
 }
 
@@ -72,8 +98,8 @@ void QCPItemTracerMarker::computeTriangleVertices(QPointF &apex, QPointF &left,
     apex = position->pixelPosition();
     const double height = mSize > 1.0 ? mSize : 1.0;
     const double halfWidth =
-        height * (m_shape == Equilateral ? equilateralHalfWidth : narrowHalfWidth);
-    const double base = apex.y() + (m_pointingDown ? -height : height);
+        height * (d->shape == Equilateral ? equilateralHalfWidth : narrowHalfWidth);
+    const double base = apex.y() + (d->pointingDown ? -height : height);
     left = QPointF(apex.x() - halfWidth, base);
     right = QPointF(apex.x() + halfWidth, base);
 }

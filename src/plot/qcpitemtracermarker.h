@@ -6,6 +6,8 @@
 
 #include <plot/qcp.h>
 
+#include <memory>
+
 namespace Plot
 {
 
@@ -37,14 +39,14 @@ public:
     ~QCPItemTracerMarker() override;
 
     /// Sets what it is drawn as.
-    void setShape(TracerShape shape) { m_shape = shape; }
+    void setShape(TracerShape shape);
     /// What it is drawn as; a triangle at first.
-    TracerShape shape() const { return m_shape; }
+    TracerShape shape() const;
 
     /// True (the default): the triangle stands above its point; false: it hangs below.
-    void setPointingDown(bool down) { m_pointingDown = down; }
+    void setPointingDown(bool down);
     /// Whether its tip points down.
-    bool isPointingDown() const { return m_pointingDown; }
+    bool isPointingDown() const;
 
     /// 0 inside the triangle, up to 8 the distance in pixels from the apex, else -1.
     double selectTest(const QPointF &pos, bool onlySelectable,
@@ -61,8 +63,8 @@ private:
     void computeTriangleVertices(QPointF &apex, QPointF &left, QPointF &right) const;
     bool hitInsideTriangle(const QPointF &pos) const;
 
-    TracerShape m_shape = Equilateral;
-    bool m_pointingDown = true;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Plot

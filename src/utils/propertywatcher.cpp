@@ -18,6 +18,11 @@ struct PropertyWatcher::Entry {
     std::function<void(const QVariant &)> callback;
 };
 
+/// The watches, in the order in which they were added.
+struct PropertyWatcher::Private {
+    QList<std::shared_ptr<Entry>> entries;
+};
+
 namespace
 {
 
@@ -36,13 +41,14 @@ bool sameValue(const QVariant &a, const QVariant &b)
 
 PropertyWatcher::PropertyWatcher(QObject *parent)
     : QObject(parent)
+    , d(std::make_unique<Private>())
 {
 }
 
 PropertyWatcher::~PropertyWatcher()
 {
-    while (!m_entries.isEmpty())
-        stopWatchingObject(m_entries.constLast()->object);
+    while (!d->entries.isEmpty())
+        stopWatchingObject(d->entries.constLast()->object);
 }
 
 void PropertyWatcher::watchProperty(QObject *object, const QString &propertyName,
@@ -50,7 +56,7 @@ void PropertyWatcher::watchProperty(QObject *object, const QString &propertyName
 {
     if (!object || find(object, propertyName))
         return;
-    m_entries << std::make_shared<Entry>(
+    d->entries << std::make_shared<Entry>(
         Entry{object, propertyName, object->property(propertyName.toUtf8().constData()), callback});
     object->installEventFilter(this);
     connect(object, &QObject::destroyed, this, &PropertyWatcher::stopWatchingObject,
@@ -59,8 +65,8 @@ void PropertyWatcher::watchProperty(QObject *object, const QString &propertyName
 
 void PropertyWatcher::stopWatching(QObject *object, const QString &propertyName)
 {
-    for (int i = int(m_entries.size()) - 1; i >= 0; --i) {
-        const Entry &entry = *m_entries.at(i);
+    for (int i = int(d->entries.size()) - 1; i >= 0; --i) {
+        const Entry &entry = *d->entries.at(i);
         if (entry.object == object && entry.propertyName == propertyName) {
             removeAt(i);
             return;
@@ -71,8 +77,8 @@ void PropertyWatcher::stopWatching(QObject *object, const QString &propertyName)
 void PropertyWatcher::stopWatchingObject(QObject *object)
 {
     bool watched = false;
-    for (int i = int(m_entries.size()) - 1; i >= 0; --i) {
-        if (m_entries.at(i)->object == object) {
+    for (int i = int(d->entries.size()) - 1; i >= 0; --i) {
+        if (d->entries.at(i)->object == object) {
             removeAt(i);
             watched = true;
         }
@@ -118,7 +124,7 @@ bool PropertyWatcher::checkProperties(QObject *object, const QString &propertyNa
 std::shared_ptr<PropertyWatcher::Entry> PropertyWatcher::find(QObject *object,
                                                               const QString &propertyName) const
 {
-    for (const std::shared_ptr<Entry> &entry : m_entries) {
+    for (const std::shared_ptr<Entry> &entry : d->entries) {
         if (entry->object == object && entry->propertyName == propertyName)
             return entry;
     }
@@ -127,7 +133,7 @@ std::shared_ptr<PropertyWatcher::Entry> PropertyWatcher::find(QObject *object,
 
 void PropertyWatcher::removeAt(int index)
 {
-    const std::shared_ptr<Entry> entry = m_entries.takeAt(index);
+    const std::shared_ptr<Entry> entry = d->entries.takeAt(index);
     entry->object = nullptr;
     entry->callback = nullptr;
 }

@@ -66,7 +66,8 @@ private:
     std::shared_ptr<Entry> find(QObject *object, const QString &propertyName) const;
     void removeAt(int index);
 
-    QList<std::shared_ptr<Entry>> m_entries;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace Utils

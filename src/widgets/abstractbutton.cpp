@@ -11,15 +11,27 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 
+struct AbstractButton::Private {
+    bool clickable = true;
+};
+
 AbstractButton::AbstractButton(QWidget *parent)
     : QAbstractButton(parent)
+    , d(std::make_unique<Private>())
 {
     ButtonAccessible::install<AbstractButton, ButtonAccessible>();
 }
 
+AbstractButton::~AbstractButton() = default;
+
+bool AbstractButton::clickable() const
+{
+    return d->clickable;
+}
+
 void AbstractButton::setClickable(bool clickable)
 {
-    m_clickable = clickable;
+    d->clickable = clickable;
 }
 
 QSize AbstractButton::sizeHint() const
@@ -43,7 +55,7 @@ QSize AbstractButton::minimumSizeHint() const
 
 void AbstractButton::mousePressEvent(QMouseEvent *event)
 {
-    if (m_clickable)
+    if (d->clickable)
         QAbstractButton::mousePressEvent(event);
     else
         event->ignore();
@@ -53,7 +65,7 @@ void AbstractButton::mouseReleaseEvent(QMouseEvent *event)
 {
     // A button that became inert under the finger comes up without a click: one that is not down
     // ignores the release.
-    if (!m_clickable)
+    if (!d->clickable)
         setDown(false);
     QAbstractButton::mouseReleaseEvent(event);
 }
@@ -61,7 +73,7 @@ void AbstractButton::mouseReleaseEvent(QMouseEvent *event)
 void AbstractButton::keyPressEvent(QKeyEvent *event)
 {
     const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
-    if (presses && !m_clickable)
+    if (presses && !d->clickable)
         event->ignore();
     else
         QAbstractButton::keyPressEvent(event);
@@ -71,7 +83,7 @@ void AbstractButton::keyReleaseEvent(QKeyEvent *event)
 {
     // Not down, QAbstractButton of Qt 5 would keep the release of a press that went to the parent,
     // which would stay down.
-    if (!m_clickable) {
+    if (!d->clickable) {
         setDown(false);
         event->ignore();
     } else {

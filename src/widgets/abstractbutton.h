@@ -6,6 +6,8 @@
 
 #include <QAbstractButton>
 
+#include <memory>
+
 class QStyleOptionButton;
 
 /*! A push button drawn by the style alone, and the base of the touch buttons. It can be made inert
@@ -31,9 +33,10 @@ class VNAWIDGETS_EXPORT AbstractButton : public QAbstractButton
 public:
     /// A button without a text.
     explicit AbstractButton(QWidget *parent = nullptr);
+    ~AbstractButton() override;
 
     /// Whether the button answers the user. Default: true.
-    bool clickable() const { return m_clickable; }
+    bool clickable() const;
     /// Sets clickable(); the look stays.
     void setClickable(bool clickable);
 
@@ -50,5 +53,6 @@ protected:
 private:
     QStyleOptionButton styleOption() const;
 
-    bool m_clickable = true;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

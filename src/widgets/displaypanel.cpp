@@ -9,17 +9,24 @@
 #include "ui_displaypanel.h"
 
 #include <QEvent>
+#include <QPointer>
 
 using Graph::LayoutManagerProifle;
 using Graph::LayoutType;
 
+struct DisplayPanel::Private {
+    Ui::DisplayPanel ui;
+    QPointer<LayoutManagerProifle> profile;
+    Profile::IEnumProfileAdapter *adapter = nullptr;
+};
+
 DisplayPanel::DisplayPanel(LayoutManagerProifle *profile, QWidget *parent)
     : QWidget(parent)
-    , ui(std::make_unique<Ui::DisplayPanel>())
-    , m_profile(profile)
+    , d(std::make_unique<Private>())
 {
-    ui->setupUi(this);
-    ui->layoutSelectEdit->setIconSize({24, 24});
+    d->profile = profile;
+    d->ui.setupUi(this);
+    d->ui.layoutSelectEdit->setIconSize({24, 24});
     auto *context = Utils::GUIContext::instance();
     updateThemeIcons(context->getIsDarkTheme());
     bindProfile();
@@ -38,7 +45,7 @@ void DisplayPanel::updateThemeIcons(bool dark)
     QList<QString> paths;
     for (int layout = 1; layout <= 4; ++layout)
         paths << QStringLiteral(":/Graph/Image/layout%1%2").arg(QString::number(layout), suffix);
-    ui->layoutSelectEdit->setIcons(paths);
+    d->ui.layoutSelectEdit->setIcons(paths);
 }
 
 void DisplayPanel::changeEvent(QEvent *event)
@@ -51,17 +58,17 @@ void DisplayPanel::changeEvent(QEvent *event)
 /// (Re)builds the entries in the current language.
 void DisplayPanel::bindProfile()
 {
-    ui->layoutSelectEdit->setAccessibleName(tr("Diagram layout"));
-    ui->layoutSelectEdit->reset();
-    delete m_adapter;
+    d->ui.layoutSelectEdit->setAccessibleName(tr("Diagram layout"));
+    d->ui.layoutSelectEdit->reset();
+    delete d->adapter;
     using Adapter = Profile::EnumProfileAdapter<LayoutType>;
-    m_adapter = new Adapter({{LayoutType::Single, tr("One diagram")},
+    d->adapter = new Adapter({{LayoutType::Single, tr("One diagram")},
                              {LayoutType::SideBySide, tr("Two side by side")},
                              {LayoutType::Stacked, tr("Two stacked")},
                              {LayoutType::Quad, tr("Four diagrams")}},
-                            m_profile.data(), &LayoutManagerProifle::layoutType,
+                            d->profile.data(), &LayoutManagerProifle::layoutType,
                             &LayoutManagerProifle::setLayoutType,
                             &LayoutManagerProifle::layoutTypeChanged, this);
-    ui->layoutSelectEdit->setProfile(m_adapter);
-    ui->layoutSelectEdit->afterSetProfile();
+    d->ui.layoutSelectEdit->setProfile(d->adapter);
+    d->ui.layoutSelectEdit->afterSetProfile();
 }

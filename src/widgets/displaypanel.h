@@ -4,7 +4,6 @@
 
 #include <vnawidgets_export.h>
 
-#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -12,14 +11,6 @@
 namespace Graph
 {
 class LayoutManagerProifle;
-}
-namespace Profile
-{
-class IEnumProfileAdapter;
-}
-namespace Ui
-{
-class DisplayPanel;
 }
 
 /*! The panel that chooses how the diagrams share the window.
@@ -55,7 +46,6 @@ protected:
 private:
     void bindProfile();
 
-    std::unique_ptr<Ui::DisplayPanel> ui;
-    QPointer<Graph::LayoutManagerProifle> m_profile;
-    Profile::IEnumProfileAdapter *m_adapter = nullptr;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

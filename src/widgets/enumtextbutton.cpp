@@ -7,6 +7,8 @@
 #include <widgets/listbutton_p.h>
 #include <widgets/popupwidget.h>
 
+#include <QPointer>
+
 namespace
 {
 
@@ -23,33 +25,61 @@ protected:
 
 } // namespace
 
+struct EnumTextButton::Private {
+    explicit Private(EnumTextButton *button)
+        : list(button)
+    {
+    }
+
+    ListButton list;
+    QList<EnumSpec> enums;
+    int currentValue = 0;
+    QString currentText;
+    bool closedByPress = false; ///< the finger now on the button closed the list
+};
+
 EnumTextButton::EnumTextButton(QWidget *parent)
     : LabelButton(parent)
-    , m_list(std::make_unique<ListButton>(this))
+    , d(std::make_unique<Private>(this))
 {
     ButtonAccessible::install<EnumTextButton, EnumTextButtonAccessible>();
     connect(this, &EnumTextButton::clicked, this, &EnumTextButton::onClicked);
-    connect(m_list->popup(), &PopupWidget::currentItemChanged, this,
+    connect(d->list.popup(), &PopupWidget::currentItemChanged, this,
             &EnumTextButton::onPopupWidgetItemChanged);
     connect(this, &EnumTextButton::currentItemToggled, this, &EnumTextButton::onCurrentItemToggled);
 }
 
 EnumTextButton::~EnumTextButton() = default;
 
+QList<EnumTextButton::EnumSpec> EnumTextButton::enums() const
+{
+    return d->enums;
+}
+
+EnumTextButton::EnumSpec EnumTextButton::currentEnumSpec() const
+{
+    return {d->currentValue, d->currentText};
+}
+
+int EnumTextButton::currentValue() const
+{
+    return d->currentValue;
+}
+
 void EnumTextButton::setEnums(const QList<EnumSpec> &enums)
 {
-    if (m_enums == enums)
+    if (d->enums == enums)
         return;
-    m_enums = enums;
-    m_list->setEntries(enums);
+    d->enums = enums;
+    d->list.setEntries(enums);
 }
 
 bool EnumTextButton::setCurrentEnum(const EnumSpec &spec)
 {
     if (spec == currentEnumSpec())
         return false;
-    m_currentValue = spec.value;
-    m_currentText = spec.text;
+    d->currentValue = spec.value;
+    d->currentText = spec.text;
     setLabelText(spec.text);
     Q_EMIT currentItemToggled(spec.value);
     return true;
@@ -57,96 +87,96 @@ bool EnumTextButton::setCurrentEnum(const EnumSpec &spec)
 
 bool EnumTextButton::setCurrentEnum(int value)
 {
-    const int index = m_list->indexOf(value);
+    const int index = d->list.indexOf(value);
     if (index < 0)
         return false;
-    m_currentValue = value;
-    m_currentText = m_list->textAt(index);
-    setLabelText(m_currentText);
+    d->currentValue = value;
+    d->currentText = d->list.textAt(index);
+    setLabelText(d->currentText);
     Q_EMIT currentItemToggled(value);
     return true;
 }
 
 void EnumTextButton::setIconSize(int width, int height)
 {
-    m_list->popup()->setIconSize(width, height);
+    d->list.popup()->setIconSize(width, height);
 }
 
 QSize EnumTextButton::iconSize() const
 {
-    return m_list->popup()->iconSize();
+    return d->list.popup()->iconSize();
 }
 
 void EnumTextButton::setItemCountPerRow(int count)
 {
-    m_list->popup()->setItemCountPerRow(count);
+    d->list.popup()->setItemCountPerRow(count);
 }
 
 int EnumTextButton::itemCountPerRow() const
 {
-    return m_list->popup()->itemCountPerRow();
+    return d->list.popup()->itemCountPerRow();
 }
 
 void EnumTextButton::setItemEnabled(const QString &text, bool enabled)
 {
-    m_list->popup()->setItemEnabled(text, enabled);
+    d->list.popup()->setItemEnabled(text, enabled);
 }
 
 void EnumTextButton::setItemEnabled(int index, bool enabled)
 {
-    m_list->popup()->setItemEnabled(index, enabled);
+    d->list.popup()->setItemEnabled(index, enabled);
 }
 
 void EnumTextButton::setTitleText(const QString &text)
 {
-    m_list->popup()->setTitleText(text);
+    d->list.popup()->setTitleText(text);
 }
 
 QString EnumTextButton::titleText() const
 {
-    return m_list->popup()->titleText();
+    return d->list.popup()->titleText();
 }
 
 void EnumTextButton::setTitleVisible(bool visible)
 {
-    m_list->popup()->setTitleVisible(visible);
+    d->list.popup()->setTitleVisible(visible);
 }
 
 bool EnumTextButton::titleVisible() const
 {
-    return m_list->popup()->titleVisible();
+    return d->list.popup()->titleVisible();
 }
 
 void EnumTextButton::setViewMode(QListView::ViewMode mode)
 {
-    m_list->popup()->setViewMode(mode);
+    d->list.popup()->setViewMode(mode);
 }
 
 bool EnumTextButton::listScrollsInside() const
 {
-    return m_list->popup()->scrollsInside();
+    return d->list.popup()->scrollsInside();
 }
 
 void EnumTextButton::setListScrollsInside(bool scrolls)
 {
-    m_list->popup()->setScrollsInside(scrolls);
+    d->list.popup()->setScrollsInside(scrolls);
 }
 
 void EnumTextButton::onClicked(bool)
 {
     // The list closed at the press; a slow finger may lift long after the guard ran out.
-    if (m_list->reopenGuard()->isActive() || m_closedByPress || m_list->isEmpty())
+    if (d->list.reopenGuard()->isActive() || d->closedByPress || d->list.isEmpty())
         setChecked(false);
     else
-        m_list->open(text(), m_currentText, Qt::AlignLeft | Qt::AlignVCenter);
+        d->list.open(text(), d->currentText, Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void EnumTextButton::onPopupWidgetItemChanged(const QString &text)
 {
-    const int index = m_list->indexOf(text);
+    const int index = d->list.indexOf(text);
     if (index < 0)
         return;
-    const int value = m_list->valueAt(index);
+    const int value = d->list.valueAt(index);
     const QPointer<EnumTextButton> alive(this);
     setCurrentEnum(value);
     if (alive)
@@ -155,24 +185,24 @@ void EnumTextButton::onPopupWidgetItemChanged(const QString &text)
 
 void EnumTextButton::onCurrentItemToggled(int)
 {
-    m_list->popup()->setCurrentItem(m_currentText);
+    d->list.popup()->setCurrentItem(d->currentText);
 }
 
 void EnumTextButton::updatePopupPosition()
 {
-    if (m_list->popup()->viewMode() == QListView::IconMode) {
-        Utils::centerWidgetInHost(m_list->popup(), window());
+    if (d->list.popup()->viewMode() == QListView::IconMode) {
+        Utils::centerWidgetInHost(d->list.popup(), window());
         return;
     }
-    m_list->fitWidth();
-    m_list->moveToButton(rect().center());
+    d->list.fitWidth();
+    d->list.moveToButton(rect().center());
 }
 
 bool EnumTextButton::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_list->popup()) {
+    if (watched == d->list.popup()) {
         if (event->type() == QEvent::Close)
-            m_list->reopenGuard()->start();
+            d->list.reopenGuard()->start();
         else if (event->type() == QEvent::Show)
             updatePopupPosition();
     }
@@ -181,7 +211,7 @@ bool EnumTextButton::eventFilter(QObject *watched, QEvent *event)
 
 void EnumTextButton::mousePressEvent(QMouseEvent *event)
 {
-    m_closedByPress = m_list->reopenGuard()->isActive();
+    d->closedByPress = d->list.reopenGuard()->isActive();
     LabelButton::mousePressEvent(event);
 }
 
@@ -190,5 +220,5 @@ void EnumTextButton::mouseReleaseEvent(QMouseEvent *event)
     const QPointer<EnumTextButton> alive(this);
     LabelButton::mouseReleaseEvent(event);
     if (alive)
-        m_closedByPress = false;
+        d->closedByPress = false;
 }

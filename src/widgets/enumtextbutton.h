@@ -11,8 +11,6 @@
 
 #include <memory>
 
-class ListButton;
-
 /*! A button for a setting with a fixed set of values: it shows the current choice, and a tap opens
     the list of all of them, as rows below (or above) it or as tiles in the middle of the window.
 
@@ -52,14 +50,14 @@ public:
     ~EnumTextButton() override;
 
     /// The choices in display order. Setting them leaves the current choice as it is.
-    QList<EnumSpec> enums() const { return m_enums; }
+    QList<EnumSpec> enums() const;
     /// Sets the choices.
     void setEnums(const QList<EnumSpec> &enums);
 
     /// Value 0 and no text until something is chosen.
-    EnumSpec currentEnumSpec() const { return {m_currentValue, m_currentText}; }
+    EnumSpec currentEnumSpec() const;
     /// The value of the current choice; 0 at first.
-    int currentValue() const { return m_currentValue; }
+    int currentValue() const;
     /// Shows any value and text, also one that is not in the list. False when it is shown already.
     bool setCurrentEnum(const EnumSpec &spec);
     /// Shows the first choice of that value, and tells so even when it was shown already. False,
@@ -120,9 +118,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    const std::unique_ptr<ListButton> m_list;
-    QList<EnumSpec> m_enums;
-    int m_currentValue = 0;
-    QString m_currentText;
-    bool m_closedByPress = false; ///< the finger now on the button closed the list
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

@@ -7,39 +7,67 @@
 #include <QDebug>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPointer>
 
 // Qt 5 cannot hold margins in a property without being told of them.
 Q_DECLARE_METATYPE(QMargins)
 
+struct InfoButton::Private {
+    LayoutType layoutType = TopBottom;
+    QGridLayout *layout = nullptr;
+    QPointer<QWidget> infoWidget;
+    QLabel *nameLabel = nullptr;
+    Qt::Alignment textAlignment = Qt::AlignLeft | Qt::AlignVCenter;
+    QMargins textMargins;
+};
+
 InfoButton::InfoButton(QWidget *parent)
     : AbstractButton(parent)
-    , m_layout(new QGridLayout(this))
-    , m_infoWidget(new QWidget(this))
-    , m_nameLabel(new QLabel(this))
+    , d(std::make_unique<Private>())
 {
+    d->layout = new QGridLayout(this);
+    d->infoWidget = new QWidget(this);
+    d->nameLabel = new QLabel(this);
     ButtonAccessible::install<InfoButton, NamedButtonAccessible<InfoButton>>();
     qRegisterMetaType<QMargins>("QMargins");
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred); // soft keys share a column
-    m_layout->setContentsMargins(0, 0, 0, 0);
-    m_layout->setSpacing(0);
-    m_nameLabel->setObjectName(QStringLiteral("nameLabel"));
-    m_nameLabel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    m_nameLabel->setMinimumWidth(0);
-    m_nameLabel->setIndent(0); // or a style sheet's padding would bring an indent along
-    m_nameLabel->setAlignment(m_textAlignment);
+    d->layout->setContentsMargins(0, 0, 0, 0);
+    d->layout->setSpacing(0);
+    d->nameLabel->setObjectName(QStringLiteral("nameLabel"));
+    d->nameLabel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    d->nameLabel->setMinimumWidth(0);
+    d->nameLabel->setIndent(0); // or a style sheet's padding would bring an indent along
+    d->nameLabel->setAlignment(d->textAlignment);
     placeCells();
+}
+
+InfoButton::~InfoButton() = default;
+
+InfoButton::LayoutType InfoButton::layoutType() const
+{
+    return d->layoutType;
+}
+
+Qt::Alignment InfoButton::textAlignment() const
+{
+    return d->textAlignment;
+}
+
+QMargins InfoButton::textMargins() const
+{
+    return d->textMargins;
 }
 
 QString InfoButton::text() const
 {
-    return m_nameLabel->text();
+    return d->nameLabel->text();
 }
 
 void InfoButton::setText(const QString &text)
 {
-    if (m_nameLabel->text() == text)
+    if (d->nameLabel->text() == text)
         return;
-    m_nameLabel->setText(text);
+    d->nameLabel->setText(text);
     Q_EMIT textChanged(text);
 }
 
@@ -55,59 +83,59 @@ bool InfoButton::event(QEvent *event)
 
 QWidget *InfoButton::infoWidget() const
 {
-    return isAncestorOf(m_infoWidget) ? m_infoWidget.data() : nullptr;
+    return isAncestorOf(d->infoWidget) ? d->infoWidget.data() : nullptr;
 }
 
 void InfoButton::setInfoWidget(QWidget *widget)
 {
     if (widget && widget == infoWidget())
         return;
-    if (!widget || widget == m_nameLabel || widget->isAncestorOf(this)) {
+    if (!widget || widget == d->nameLabel || widget->isAncestorOf(this)) {
         qWarning() << "InfoButton::setInfoWidget: cannot show" << widget;
         return;
     }
     QWidget *const old = infoWidget();
-    m_infoWidget = widget;
+    d->infoWidget = widget;
     placeCells(); // takes the widget out of the old one, where it may have lived
     delete old;
 }
 
 void InfoButton::setLayoutType(LayoutType type)
 {
-    if (m_layoutType == type)
+    if (d->layoutType == type)
         return;
-    m_layoutType = type;
+    d->layoutType = type;
     placeCells();
 }
 
 void InfoButton::setTextAlignment(Qt::Alignment alignment)
 {
-    if (m_textAlignment == alignment)
+    if (d->textAlignment == alignment)
         return;
-    m_textAlignment = alignment;
-    m_nameLabel->setAlignment(alignment);
+    d->textAlignment = alignment;
+    d->nameLabel->setAlignment(alignment);
 }
 
 void InfoButton::setTextMargins(QMargins margins)
 {
-    if (m_textMargins == margins)
+    if (d->textMargins == margins)
         return;
-    m_textMargins = margins;
-    m_nameLabel->setContentsMargins(margins);
+    d->textMargins = margins;
+    d->nameLabel->setContentsMargins(margins);
 }
 
 /// Puts name and information into the cells that the layout type asks for.
 void InfoButton::placeCells()
 {
-    const bool sideBySide = m_layoutType == LeftRight || m_layoutType == RightLeft;
-    const bool nameSecond = m_layoutType == BottomTop || m_layoutType == RightLeft;
+    const bool sideBySide = d->layoutType == LeftRight || d->layoutType == RightLeft;
+    const bool nameSecond = d->layoutType == BottomTop || d->layoutType == RightLeft;
     const auto place = [this, sideBySide](QWidget *widget, int cell) {
-        m_layout->removeWidget(widget);
-        m_layout->addWidget(widget, sideBySide ? 0 : cell, sideBySide ? cell : 0);
+        d->layout->removeWidget(widget);
+        d->layout->addWidget(widget, sideBySide ? 0 : cell, sideBySide ? cell : 0);
     };
-    place(m_nameLabel, nameSecond ? 1 : 0);
-    if (m_infoWidget)
-        place(m_infoWidget, nameSecond ? 0 : 1);
-    m_layout->setRowStretch(0, 1);
-    m_layout->setRowStretch(1, sideBySide ? 0 : 1);
+    place(d->nameLabel, nameSecond ? 1 : 0);
+    if (d->infoWidget)
+        place(d->infoWidget, nameSecond ? 0 : 1);
+    d->layout->setRowStretch(0, 1);
+    d->layout->setRowStretch(1, sideBySide ? 0 : 1);
 }

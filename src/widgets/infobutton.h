@@ -7,10 +7,8 @@
 #include <widgets/abstractbutton.h>
 
 #include <QMargins>
-#include <QPointer>
 
-class QGridLayout;
-class QLabel;
+#include <memory>
 
 /*! A button of two cells: a name, and a widget that says something about it. The name stands above,
     left of, below or right of the widget.
@@ -49,6 +47,7 @@ public:
 
     /// A button without name and information.
     explicit InfoButton(QWidget *parent = nullptr);
+    ~InfoButton() override;
 
     /// The name. The text of QAbstractButton stays empty: one that is set there, through a pointer to
     /// the base class, becomes the name when the button is drawn.
@@ -62,17 +61,17 @@ public:
     void setInfoWidget(QWidget *widget);
 
     /// Default: TopBottom, which also stands in for unknown values.
-    LayoutType layoutType() const { return m_layoutType; }
+    LayoutType layoutType() const;
     /// Sets layoutType().
     void setLayoutType(LayoutType type);
 
     /// Alignment of the name in its cell. Default: left and vertically centred.
-    Qt::Alignment textAlignment() const { return m_textAlignment; }
+    Qt::Alignment textAlignment() const;
     /// Sets textAlignment().
     void setTextAlignment(Qt::Alignment alignment);
 
     /// Room around the name, in pixels, beside the style sheet's padding. Default: none.
-    QMargins textMargins() const { return m_textMargins; }
+    QMargins textMargins() const;
     /// Sets textMargins().
     void setTextMargins(QMargins margins);
 
@@ -86,10 +85,6 @@ protected:
 private:
     void placeCells();
 
-    LayoutType m_layoutType = TopBottom;
-    QGridLayout *m_layout;
-    QPointer<QWidget> m_infoWidget;
-    QLabel *m_nameLabel;
-    Qt::Alignment m_textAlignment = Qt::AlignLeft | Qt::AlignVCenter;
-    QMargins m_textMargins;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QDynamicPropertyChangeEvent>
 #include <QLabel>
+#include <QPointer>
 
 namespace
 {
@@ -27,8 +28,17 @@ protected:
 
 } // namespace
 
+struct LabelButton::Private {
+    QString labelText;
+    Qt::Alignment labelAlignment = Qt::AlignRight | Qt::AlignVCenter;
+    QMargins labelMargins;
+    QFont labelFont;
+    QPointer<QLabel> label;
+};
+
 LabelButton::LabelButton(QWidget *parent)
     : InfoButton(parent)
+    , d(std::make_unique<Private>())
 {
     ButtonAccessible::install<LabelButton, LabelButtonAccessible>();
     auto *const value = new QLabel(this);
@@ -36,15 +46,37 @@ LabelButton::LabelButton(QWidget *parent)
     value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     value->setMinimumWidth(0);
     value->setIndent(0); // or a style sheet's padding would bring an indent that elides too late
-    value->setAlignment(m_labelAlignment);
+    value->setAlignment(d->labelAlignment);
     setLabel(value);
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
             &LabelButton::onThemeChanged);
 }
 
+LabelButton::~LabelButton() = default;
+
+QString LabelButton::labelText() const
+{
+    return d->labelText;
+}
+
+Qt::Alignment LabelButton::labelAlignment() const
+{
+    return d->labelAlignment;
+}
+
+QMargins LabelButton::labelMargins() const
+{
+    return d->labelMargins;
+}
+
+QFont LabelButton::labelFont() const
+{
+    return d->labelFont;
+}
+
 QLabel *LabelButton::label() const
 {
-    return isAncestorOf(m_label) ? m_label.data() : nullptr;
+    return isAncestorOf(d->label) ? d->label.data() : nullptr;
 }
 
 void LabelButton::setLabel(QLabel *newLabel)
@@ -54,16 +86,16 @@ void LabelButton::setLabel(QLabel *newLabel)
     setInfoWidget(newLabel);
     if (!newLabel || infoWidget() != newLabel)
         return; // refused with a warning
-    m_label = newLabel;
-    m_label->installEventFilter(this);
+    d->label = newLabel;
+    d->label->installEventFilter(this);
     elidedText();
 }
 
 void LabelButton::setLabelText(const QString &text)
 {
-    if (m_labelText == text)
+    if (d->labelText == text)
         return;
-    m_labelText = text;
+    d->labelText = text;
     if (QLabel *const value = label())
         value->setText(text);
     elidedText();
@@ -74,27 +106,27 @@ void LabelButton::setLabelText(const QString &text)
 
 void LabelButton::setLabelAlignment(Qt::Alignment alignment)
 {
-    if (m_labelAlignment == alignment)
+    if (d->labelAlignment == alignment)
         return;
-    m_labelAlignment = alignment;
+    d->labelAlignment = alignment;
     if (QLabel *const value = label())
         value->setAlignment(alignment);
 }
 
 void LabelButton::setLabelMargins(QMargins margins)
 {
-    if (m_labelMargins == margins)
+    if (d->labelMargins == margins)
         return;
-    m_labelMargins = margins;
+    d->labelMargins = margins;
     if (QLabel *const value = label())
         value->setContentsMargins(margins);
 }
 
 void LabelButton::setLabelFont(const QFont &font)
 {
-    if (m_labelFont == font)
+    if (d->labelFont == font)
         return;
-    m_labelFont = font;
+    d->labelFont = font;
     if (QLabel *const value = label())
         value->setFont(font);
 }
@@ -107,7 +139,7 @@ void LabelButton::elidedText()
     if (isMultiline()) {
         value->setWordWrap(true);
         value->setMaximumWidth(width() + MultilineOverhang);
-        value->setText(m_labelText);
+        value->setText(d->labelText);
         return;
     }
     value->setWordWrap(false);
@@ -116,10 +148,10 @@ void LabelButton::elidedText()
     const int available = width() - margins.left() - margins.right();
     const QFontMetrics metrics = value->fontMetrics();
     // The end of a value tells more than its beginning.
-    const int advance = metrics.horizontalAdvance(m_labelText);
+    const int advance = metrics.horizontalAdvance(d->labelText);
     // An advance may have been rounded up: a value as wide as the room has to be shortened, too.
-    value->setText(advance < available ? m_labelText
-                                       : metrics.elidedText(m_labelText, Qt::ElideLeft,
+    value->setText(advance < available ? d->labelText
+                                       : metrics.elidedText(d->labelText, Qt::ElideLeft,
                                                             qMin(available, advance - 1)));
 }
 
@@ -132,7 +164,7 @@ QSize LabelButton::sizeHint() const
     // Ask for the whole value, whatever is shown of it now, and for the pixel that keeps it whole.
     const QFontMetrics metrics = value->fontMetrics();
     const int missing =
-        metrics.horizontalAdvance(m_labelText) + 1 - metrics.horizontalAdvance(value->text());
+        metrics.horizontalAdvance(d->labelText) + 1 - metrics.horizontalAdvance(value->text());
     const bool sideBySide = layoutType() == LeftRight || layoutType() == RightLeft;
     if (missing > 0)
         hint.setWidth(sideBySide ? hint.width() + missing

@@ -9,9 +9,11 @@
 
 #include <QFont>
 
+#include <memory>
 #include <type_traits>
 
 class QEnterEvent;
+class QLabel;
 
 /*! A button with a name and a value, such as "Start" and "2.000 GHz". A value that is too long
     loses its beginning, so that the unit stays readable; with the dynamic property "multilineLabel"
@@ -43,6 +45,7 @@ class VNAWIDGETS_EXPORT LabelButton : public InfoButton
 public:
     /// A button without name and value.
     explicit LabelButton(QWidget *parent = nullptr);
+    ~LabelButton() override;
 
     /// The label that shows the value; null after somebody deleted it or took it away.
     QLabel *label() const;
@@ -50,22 +53,22 @@ public:
     void setLabel(QLabel *newLabel);
 
     /// The whole value, also while only its end is shown.
-    QString labelText() const { return m_labelText; }
+    QString labelText() const;
     /// Sets labelText().
     void setLabelText(const QString &text);
 
     /// Alignment of the value in its cell. Default: right and vertically centred.
-    Qt::Alignment labelAlignment() const { return m_labelAlignment; }
+    Qt::Alignment labelAlignment() const;
     /// Sets labelAlignment().
     void setLabelAlignment(Qt::Alignment alignment);
 
     /// Room around the value, in pixels, beside the style sheet's padding. Default: none.
-    QMargins labelMargins() const { return m_labelMargins; }
+    QMargins labelMargins() const;
     /// Sets labelMargins().
     void setLabelMargins(QMargins margins);
 
     /// Font of the value. Default: the application's.
-    QFont labelFont() const { return m_labelFont; }
+    QFont labelFont() const;
     /// Sets labelFont().
     void setLabelFont(const QFont &font);
 
@@ -94,9 +97,6 @@ protected:
 private:
     bool isMultiline() const;
 
-    QString m_labelText;
-    Qt::Alignment m_labelAlignment = Qt::AlignRight | Qt::AlignVCenter;
-    QMargins m_labelMargins;
-    QFont m_labelFont;
-    QPointer<QLabel> m_label;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

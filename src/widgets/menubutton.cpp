@@ -23,6 +23,17 @@ public:
 
 } // namespace
 
+struct MenuButton::Private {
+    explicit Private(MenuButton *button)
+        : list(button)
+    {
+    }
+
+    ListButton list;
+    QList<MenuSpec> menuItems;
+    Qt::Alignment itemTextAlignment = Qt::AlignLeft;
+};
+
 MenuButton::MenuButton(const QString &text, QWidget *parent)
     : MenuButton(parent)
 {
@@ -31,20 +42,20 @@ MenuButton::MenuButton(const QString &text, QWidget *parent)
 
 MenuButton::MenuButton(QWidget *parent)
     : QPushButton(parent)
-    , m_list(std::make_unique<ListButton>(this))
+    , d(std::make_unique<Private>(this))
 {
     ButtonAccessible::install<MenuButton, MenuButtonAccessible>();
     setCheckable(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    connect(m_list->popup(), &PopupWidget::currentItemChanged, this,
+    connect(d->list.popup(), &PopupWidget::currentItemChanged, this,
             &MenuButton::onPopupWidgetItemChanged);
-    connect(m_list->reopenGuard(), &QTimer::timeout, this, [this] {
+    connect(d->list.reopenGuard(), &QTimer::timeout, this, [this] {
         setChecked(false);
         setDown(false);
     });
     // A press opens the list by itself; this is for the keyboard and for click().
     connect(this, &MenuButton::clicked, this, [this] {
-        if (m_list->reopenGuard()->isActive())
+        if (d->list.reopenGuard()->isActive())
             setChecked(false);
         else
             openPopup();
@@ -53,37 +64,42 @@ MenuButton::MenuButton(QWidget *parent)
 
 MenuButton::~MenuButton() = default;
 
+QList<MenuButton::MenuSpec> MenuButton::menuItems() const
+{
+    return d->menuItems;
+}
+
 void MenuButton::setMenuItems(const QList<MenuSpec> &items)
 {
-    if (m_menuItems == items)
+    if (d->menuItems == items)
         return;
-    m_menuItems = items;
-    m_list->setEntries(items);
+    d->menuItems = items;
+    d->list.setEntries(items);
 }
 
 void MenuButton::addMenuItem(int value, const QString &text)
 {
-    m_menuItems << MenuSpec{value, text};
-    m_list->append(value, text);
+    d->menuItems << MenuSpec{value, text};
+    d->list.append(value, text);
 }
 
 void MenuButton::clearMenuItems()
 {
-    m_menuItems.clear();
-    m_list->clear();
+    d->menuItems.clear();
+    d->list.clear();
 }
 
 int MenuButton::getValueByDisplayName(const QString &text) const
 {
-    return m_list->valueAt(m_list->indexOf(text));
+    return d->list.valueAt(d->list.indexOf(text));
 }
 
 void MenuButton::setItemTextAlignment(Qt::Alignment alignment)
 {
-    m_itemTextAlignment = alignment;
-    m_list->popup()->setItemTextAlignment(alignment);
+    d->itemTextAlignment = alignment;
+    d->list.popup()->setItemTextAlignment(alignment);
     // Centred entries need the padding of both sides; others keep the theme's.
-    m_list->popup()->setStyleSheet(alignment & Qt::AlignHCenter ? QStringLiteral(
+    d->list.popup()->setStyleSheet(alignment & Qt::AlignHCenter ? QStringLiteral(
                                        "QListWidget#ListModeView::item { padding-left: "
                                        "4px; padding-right: 4px; }")
                                                                 : QString());
@@ -91,57 +107,57 @@ void MenuButton::setItemTextAlignment(Qt::Alignment alignment)
 
 void MenuButton::setIconSize(int width, int height)
 {
-    m_list->popup()->setIconSize(width, height);
+    d->list.popup()->setIconSize(width, height);
 }
 
 QSize MenuButton::iconSize() const
 {
-    return m_list->popup()->iconSize();
+    return d->list.popup()->iconSize();
 }
 
 void MenuButton::setItemCountPerRow(int count)
 {
-    m_list->popup()->setItemCountPerRow(count);
+    d->list.popup()->setItemCountPerRow(count);
 }
 
 int MenuButton::itemCountPerRow() const
 {
-    return m_list->popup()->itemCountPerRow();
+    return d->list.popup()->itemCountPerRow();
 }
 
 void MenuButton::setItemEnabled(const QString &text, bool enabled)
 {
-    m_list->popup()->setItemEnabled(text, enabled);
+    d->list.popup()->setItemEnabled(text, enabled);
 }
 
 void MenuButton::setItemEnabled(int index, bool enabled)
 {
-    m_list->popup()->setItemEnabled(index, enabled);
+    d->list.popup()->setItemEnabled(index, enabled);
 }
 
 void MenuButton::setTitleText(const QString &text)
 {
-    m_list->popup()->setTitleText(text);
+    d->list.popup()->setTitleText(text);
 }
 
 QString MenuButton::titleText() const
 {
-    return m_list->popup()->titleText();
+    return d->list.popup()->titleText();
 }
 
 void MenuButton::setTitleVisible(bool visible)
 {
-    m_list->popup()->setTitleVisible(visible);
+    d->list.popup()->setTitleVisible(visible);
 }
 
 bool MenuButton::titleVisible() const
 {
-    return m_list->popup()->titleVisible();
+    return d->list.popup()->titleVisible();
 }
 
 void MenuButton::setViewMode(QListView::ViewMode mode)
 {
-    m_list->popup()->setViewMode(mode);
+    d->list.popup()->setViewMode(mode);
 }
 
 QSize MenuButton::sizeHint() const
@@ -158,25 +174,25 @@ void MenuButton::onPopupWidgetItemChanged(const QString &text)
         Q_EMIT menuItemClicked(text);
     if (!alive)
         return;
-    m_list->popup()->hide();
+    d->list.popup()->hide();
     setChecked(false);
 }
 
 void MenuButton::updatePopupPosition()
 {
-    if (m_list->popup()->isVisible())
-        m_list->moveToButton(rect().bottomLeft());
+    if (d->list.popup()->isVisible())
+        d->list.moveToButton(rect().bottomLeft());
 }
 
 bool MenuButton::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_list->popup()) {
+    if (watched == d->list.popup()) {
         switch (event->type()) {
         case QEvent::FocusOut:
         case QEvent::Hide:
         case QEvent::Close:
         case QEvent::WindowDeactivate:
-            m_list->reopenGuard()->start();
+            d->list.reopenGuard()->start();
             break;
         case QEvent::Show:
             updatePopupPosition();
@@ -190,7 +206,7 @@ bool MenuButton::eventFilter(QObject *watched, QEvent *event)
 
 void MenuButton::mousePressEvent(QMouseEvent *event)
 {
-    if (m_list->reopenGuard()->isActive()) {
+    if (d->list.reopenGuard()->isActive()) {
         setChecked(false);
         return;
     }
@@ -202,9 +218,9 @@ void MenuButton::mousePressEvent(QMouseEvent *event)
 /// Opens the list, if there is anything to offer.
 void MenuButton::openPopup()
 {
-    if (m_menuItems.isEmpty())
+    if (d->menuItems.isEmpty())
         return;
     setChecked(true);
-    if (!m_list->popup()->isVisible())
-        m_list->open(text(), QString(), m_itemTextAlignment); // a menu has no current entry
+    if (!d->list.popup()->isVisible())
+        d->list.open(text(), QString(), d->itemTextAlignment); // a menu has no current entry
 }

@@ -10,8 +10,6 @@
 
 #include <memory>
 
-class ListButton;
-
 /*! A push button that offers a menu of commands in a list sized for fingers. A press, Space or
     click() opens the list; picking an entry reports it, and nothing is remembered.
 
@@ -51,7 +49,7 @@ public:
     ~MenuButton() override;
 
     /// The commands in display order.
-    QList<MenuSpec> menuItems() const { return m_menuItems; }
+    QList<MenuSpec> menuItems() const;
     /// Sets the commands.
     void setMenuItems(const QList<MenuSpec> &items);
     /// Appends one command.
@@ -113,7 +111,6 @@ protected:
 private:
     void openPopup();
 
-    const std::unique_ptr<ListButton> m_list;
-    QList<MenuSpec> m_menuItems;
-    Qt::Alignment m_itemTextAlignment = Qt::AlignLeft;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

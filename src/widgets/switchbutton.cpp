@@ -44,48 +44,61 @@ protected:
 
 } // namespace
 
+struct SwitchButton::Private {
+    explicit Private(SwitchButton *button)
+        : container(new QWidget(button))
+        , onButton(new QPushButton(tr("On"), container))
+        , offButton(new QPushButton(tr("Off"), container))
+        , layout(new QHBoxLayout(container))
+    {
+    }
+
+    QWidget *container;
+    QPushButton *onButton;
+    QPushButton *offButton;
+    QHBoxLayout *layout;
+};
+
 SwitchButton::SwitchButton(QWidget *parent)
     : InfoButton(parent)
-    , m_container(new QWidget(this))
-    , m_onButton(new QPushButton(tr("On"), m_container))
-    , m_offButton(new QPushButton(tr("Off"), m_container))
-    , m_layout(new QHBoxLayout(m_container))
-    , m_lastClicked(m_offButton)
+    , d(std::make_unique<Private>(this))
 {
     ButtonAccessible::install<SwitchButton, SwitchButtonAccessible>();
-    m_layout->setContentsMargins(10, 0, 10, 0);
-    m_layout->setSpacing(0);
+    d->layout->setContentsMargins(10, 0, 10, 0);
+    d->layout->setSpacing(0);
     auto *const group = new QButtonGroup(this);
     group->setExclusive(true);
-    m_onButton->setObjectName(QStringLiteral("btnOn"));
-    m_offButton->setObjectName(QStringLiteral("btnOff"));
-    for (QPushButton *const button : {m_onButton, m_offButton}) {
+    d->onButton->setObjectName(QStringLiteral("btnOn"));
+    d->offButton->setObjectName(QStringLiteral("btnOff"));
+    for (QPushButton *const button : {d->onButton, d->offButton}) {
         button->setAutoDefault(false); // Return in a dialog is no tap on a switch
         button->setCheckable(true);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         button->installEventFilter(this);
         group->addButton(button);
-        m_layout->addWidget(button);
+        d->layout->addWidget(button);
     }
     setStatus(false);
     setFocusPolicy(Qt::NoFocus); // the two buttons take it
 
-    setInfoWidget(m_container);
+    setInfoWidget(d->container);
     setLayoutType(LeftRight);
     connect(group, qOverload<QAbstractButton *>(&QButtonGroup::buttonClicked), this,
             &SwitchButton::onButtonClicked);
-    connect(m_onButton, &QPushButton::toggled, this, &SwitchButton::statusToggled);
+    connect(d->onButton, &QPushButton::toggled, this, &SwitchButton::statusToggled);
 }
+
+SwitchButton::~SwitchButton() = default;
 
 bool SwitchButton::status() const
 {
-    return m_onButton->isChecked();
+    return d->onButton->isChecked();
 }
 
 void SwitchButton::setStatus(bool on)
 {
-    QPushButton *const checked = on ? m_onButton : m_offButton;
-    QPushButton *const unchecked = on ? m_offButton : m_onButton;
+    QPushButton *const checked = on ? d->onButton : d->offButton;
+    QPushButton *const unchecked = on ? d->offButton : d->onButton;
     checked->setChecked(true);
     unchecked->setChecked(false);
     // One stop for the tab key, as for radio buttons.
@@ -114,7 +127,6 @@ bool SwitchButton::eventFilter(QObject *watched, QEvent *event)
 
 void SwitchButton::onButtonClicked(QAbstractButton *button)
 {
-    m_lastClicked = button;
-    setStatus(button == m_onButton);
-    Q_EMIT statusChanged(button == m_onButton);
+    setStatus(button == d->onButton);
+    Q_EMIT statusChanged(button == d->onButton);
 }

@@ -6,8 +6,7 @@
 
 #include <widgets/infobutton.h>
 
-class QHBoxLayout;
-class QPushButton;
+#include <memory>
 
 /*! A setting that is on or off: its name, and the two buttons "On" and "Off" beside it, of which
     one is always checked.
@@ -32,6 +31,7 @@ class VNAWIDGETS_EXPORT SwitchButton : public InfoButton
 public:
     /// A switch that is off.
     explicit SwitchButton(QWidget *parent = nullptr);
+    ~SwitchButton() override;
 
     /// Whether "On" is checked. Default: false.
     bool status() const;
@@ -51,9 +51,6 @@ private Q_SLOTS:
     void onButtonClicked(QAbstractButton *button);
 
 private:
-    QWidget *m_container;
-    QPushButton *m_onButton;
-    QPushButton *m_offButton;
-    QHBoxLayout *m_layout;
-    QAbstractButton *m_lastClicked;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
