@@ -24,4 +24,10 @@ VNAWIDGETS_EXPORT void drawMarker(Marker &marker, const QPen &tracePen, bool sel
 [[nodiscard]] VNAWIDGETS_EXPORT int markerAt(const QVector<const Marker *> &markers,
                                              const QPointF &pos, double tolerancePx);
 
+/// The same for a finger: the nearest whose triangle, from its tip to its far edge, lies within
+/// \a reachPx. Of those that coincide, less than a pixel apart, the earlier: put first what the user
+/// has selected.
+[[nodiscard]] VNAWIDGETS_EXPORT int markerInReach(const QVector<const Marker *> &markers,
+                                                  const QPointF &pos, double reachPx);
+
 } // namespace Plot

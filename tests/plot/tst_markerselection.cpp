@@ -35,6 +35,13 @@ private Q_SLOTS:
         QCOMPARE(Plot::markerAt(markers, tip + QPointF(0, 4), 18.0), 1);
         QCOMPARE(Plot::markerAt(markers, tip + QPointF(0, 4), 3.0), -1);
         QCOMPARE(Plot::markerAt(markers, tip + QPointF(40, 4), 18.0), 2); // the earlier of equals
+
+        // A finger's reach starts at the triangle's edge; of markers that coincide, the first is meant.
+        QCOMPARE(Plot::markerInReach(markers, tip + QPointF(40, 21), 22.0), 2);
+        QCOMPARE(Plot::markerInReach(markers, tip + QPointF(40, 23), 22.0), -1);
+        QCOMPARE(Plot::markerInReach(markers, tip - QPointF(0, 15 + 21), 22.0), 1);
+        QCOMPARE(Plot::markerInReach(markers, tip + QPointF(25, 0), 30.0), 2);
+
         second.setVisible(false);
         QCOMPARE(Plot::markerAt(markers, tip + QPointF(40, 4), 18.0), 3);
         QCOMPARE(Plot::markerAt({}, tip, 18.0), -1);
