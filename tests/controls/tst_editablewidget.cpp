@@ -1,51 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <controls/editablewidget.h>
-#include <controls/keypadeditor.h>
-#include <controls/scaledunitadapter.h>
-#include <controls/stepcontroller.h>
 #include <controls/thememanager.h>
-#include <controls/touchnumkeyboard.h>
 
-#include <memory>
-
-#include <pointer.h>
-#include <vnatest.h>
+#include "fieldscene.h"
 
 using namespace VnaTest;
-using Controls::BaseUnitAdapter;
-using Controls::EditableWidget;
-using Controls::KeypadEditor;
-using Controls::ScaledUnitAdapter;
-using Controls::TouchNumKeyboard;
 
-namespace
-{
-
-ScaledUnitAdapter *frequencyAdapter(QObject *parent)
-{
-    auto *adapter = new ScaledUnitAdapter(
-        {{"GHz"_s, 1e9}, {"MHz"_s, 1e6}, {"kHz"_s, 1e3}, {"Hz"_s, 1.0}}, parent);
-    adapter->setDecimals(9);
-    adapter->setRealValue(1e9);
-    return adapter;
-}
-
-/// A field of a page: opens the keypad when it gets the focus.
-class PageField : public EditableWidget
-{
-public:
-    using EditableWidget::EditableWidget;
-    void onFocus() override
-    {
-        EditableWidget::onFocus();
-        keyboard()->open();
-    }
-};
-
-} // namespace
-
-class tst_EditableWidget : public TestCase
+class tst_EditableWidget : public TestCase, private FieldScene
 {
     Q_OBJECT
 
@@ -53,19 +14,7 @@ private Q_SLOTS:
     void init()
     {
         TestCase::init();
-        m_window = std::make_unique<QMainWindow>();
-        m_window->setGeometry(0, 0, 800, 600);
-        auto *page = new QWidget;
-        auto *layout = new QVBoxLayout(page);
-        m_other = new QPushButton("other"_s);
-        m_other->setFocusPolicy(Qt::StrongFocus);
-        layout->addWidget(m_other);
-        layout->addStretch();
-        m_window->setCentralWidget(page);
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        m_other->setFocus();
-        m_keypad = new TouchNumKeyboard(m_window.get());
+        open();
     }
 
     void cleanup()
@@ -255,75 +204,6 @@ private Q_SLOTS:
         m_keypad->reject();
     }
 
-    void stepKeysShowTheSteppedValue()
-    {
-        auto *adapter = frequencyAdapter(m_keypad);
-        adapter->setValidator(new QDoubleValidator(0, 1.2e9, 0, adapter));
-        Controls::StepController stepper;
-        stepper.setSingleStep(0.1e9);
-        stepper.setAdapter(adapter);
-        new KeypadEditor(m_keypad, adapter);
-        m_keypad->open();
-        auto *edit = m_keypad->findChild<QLineEdit *>("edit"_s);
-        QCoreApplication::processEvents(); // lays the keys out
-        QCOMPARE(edit->selectedText(), "1"_s);
-        press(m_keypad, "btnUp"_s);
-        QCOMPARE(edit->text(), "1.1GHz"_s);
-        for (int i = 0; i < 3; ++i)
-            type("up"_s);
-        QCOMPARE(edit->text(), "1.2GHz"_s);
-        type("\x1b"_s);
-        QCOMPARE(adapter->getRealValue(), 1.2e9);
-    }
-
-    void aSecondFieldInTheKeypad()
-    {
-        auto *adapter = frequencyAdapter(m_keypad);
-        auto *step = frequencyAdapter(m_window.get());
-        new KeypadEditor(m_keypad, adapter);
-        auto *field = new EditableWidget(m_keypad, step);
-        m_keypad->setTitleWidget(field);
-        QSignalSpy stepped(step, &BaseUnitAdapter::editingFinished);
-        QSignalSpy committed(adapter, &BaseUnitAdapter::editingFinished);
-        m_keypad->open();
-        auto *edit = m_keypad->findChild<QLineEdit *>("edit"_s);
-        QTRY_VERIFY(edit->hasSelectedText());
-        type("2"_s);
-
-        // To the step and back with Enter: the value typed so far stands, and its unit keys return.
-        mouseClick(lineEdit(field));
-        QVERIFY(lineEdit(field)->hasFocus());
-        QTRY_VERIFY(lineEdit(field)->hasSelectedText());
-        QCOMPARE(m_keypad->receiver(), step);
-        type("5"_s);
-        press(m_keypad, "btnUnit2"_s);
-        QCOMPARE(stepped.count(), 1);
-        QCOMPARE(step->getRealValue(), 5e6);
-        QVERIFY(m_keypad->isVisible());
-        QVERIFY(edit->hasFocus());
-        QCOMPARE(m_keypad->receiver(), adapter);
-        QCOMPARE(edit->text(), "2GHz"_s);
-
-        // And back with a tap on the text area, which commits the step.
-        mouseClick(lineEdit(field));
-        QTRY_VERIFY(lineEdit(field)->hasSelectedText());
-        type("7"_s);
-        mouseClick(edit);
-        QCOMPARE(stepped.count(), 2);
-        QCOMPARE(step->getRealValue(), 7e6);
-        QVERIFY(committed.isEmpty());
-        type("\r"_s);
-        QCOMPARE(committed.count(), 1);
-        QCOMPARE(adapter->getRealValue(), 2e9);
-        QCOMPARE(stepped.count(), 2);
-        QVERIFY(m_keypad->isHidden());
-        QVERIFY(m_other->hasFocus());
-
-        // The next time begins with the value again.
-        m_keypad->open();
-        QTRY_COMPARE(edit->selectedText(), "2"_s);
-    }
-
     void hasABorderOfTheTheme()
     {
         EditableWidget *field = addField(frequencyAdapter(m_keypad));
@@ -339,62 +219,6 @@ private Q_SLOTS:
         mouseClick(field->findChild<QLabel *>());
         QVERIFY(lineEdit(field)->hasFocus());
     }
-
-private:
-    /// Begins an edit in a field of the page, or in the text area of the keypad.
-    Controls::IEditableTitleWidget *openEditor(TouchNumKeyboard *keypad, BaseUnitAdapter *adapter,
-                                               bool onPage)
-    {
-        Controls::IEditableTitleWidget *field = nullptr;
-        if (onPage) {
-            field = new PageField(keypad, adapter, m_window->centralWidget());
-            field->setGeometry(10, 500, 200, 60);
-            field->show();
-            mouseClick(field);
-        } else {
-            field = new KeypadEditor(keypad, adapter);
-            keypad->open();
-        }
-        QCoreApplication::processEvents(); // the number is selected
-        return field;
-    }
-
-    /// Clicks a button of the keypad by its name; other text is typed.
-    void press(const TouchNumKeyboard *keypad, const QString &input) const
-    {
-        if (const auto *button = keypad->findChild<QPushButton *>(input))
-            mouseClick(button);
-        else
-            type(input);
-    }
-
-    EditableWidget *addField(BaseUnitAdapter *adapter)
-    {
-        auto *field = new EditableWidget(m_keypad, adapter, m_window->centralWidget());
-        m_window->centralWidget()->layout()->addWidget(field);
-        field->show();
-        QCoreApplication::processEvents();
-        return field;
-    }
-
-    static QLineEdit *lineEdit(const QWidget *field)
-    {
-        return field->findChild<QLineEdit *>("stepEdit"_s);
-    }
-
-    /// A real key through the window.
-    void type(const QString &text) const
-    {
-        const QMap<QString, Qt::Key> special{
-            {"\r"_s, Qt::Key_Return}, {"\x1b"_s, Qt::Key_Escape}, {"\b"_s, Qt::Key_Backspace},
-            {"."_s, Qt::Key_Period},  {"del"_s, Qt::Key_Delete},  {"up"_s, Qt::Key_Up}};
-        typeKey(m_window.get(), special.value(text, Qt::Key(text.toUpper().at(0).unicode())),
-                text.length() > 1 ? QString() : text);
-    }
-
-    std::unique_ptr<QMainWindow> m_window;
-    QPointer<QPushButton> m_other;
-    QPointer<TouchNumKeyboard> m_keypad;
 };
 
 QTEST_MAIN(tst_EditableWidget)
