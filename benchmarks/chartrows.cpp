@@ -51,7 +51,7 @@ void addDense(RatioTable &table, const std::string &data, int points, double tar
                   {"plain curve, " + name},
                   "grid",
                   "grid"});
-    const auto addSteps = [&](const std::string &view, double magnification, double most) {
+    const auto addSteps = [&](const std::string &view, double magnification, double maximum) {
         const std::string steps = "view step" + view + ", ";
         add(steps + name, [trace, magnification](benchmark::State &state) {
             stepToPicture(state, trace(), magnification);
@@ -59,7 +59,7 @@ void addDense(RatioTable &table, const std::string &data, int points, double tar
         table.addRow({data + ", zoom or pan" + view,
                       points,
                       Row::ShareOfRest,
-                      most,
+                      maximum,
                       steps + name,
                       {"new data, " + name},
                       steps + "grid",

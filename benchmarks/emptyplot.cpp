@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
-    A window with an empty plot that ends as soon as it is shown: the least that a program with a
+    A window with an empty plot that ends as soon as it is shown: the minimum that a program with a
     plot costs. */
 #include <plot/qcp.h>
 

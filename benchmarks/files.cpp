@@ -34,7 +34,7 @@ double processMemory(const char *name)
     return 0.0;
 }
 
-/// From here on the most that the process has held is what it holds now.
+/// From here on the maximum that the process has held is what it holds now.
 void forgetPeakMemory()
 {
     QFile file(QStringLiteral("/proc/self/clear_refs"));

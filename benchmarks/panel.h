@@ -17,8 +17,8 @@ void liveFrame(benchmark::State &state, int points);
 /// The same plots with the same data, drawn once more and no more than that.
 void sameReplot(benchmark::State &state, int points);
 
-/// Starts a program that ends by itself, and waits for that; the counter "mebibytes" is the most
-/// memory that it held, where it prints that.
+/// Starts a program that ends by itself, and waits for that; the counter "mebibytes" is the maximum of
+/// the memory that it held, where it prints that.
 void startProgram(benchmark::State &state, const char *program, const QStringList &arguments);
 
 /// The panel's samples, as it names them.

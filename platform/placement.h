@@ -35,7 +35,7 @@ VNAPLATFORM_EXPORT QPoint boundedTopLeft(QPoint wanted, QSize size, QRect bounds
 /// Centres \a widget over \a host; one that is larger starts at the host's left or top edge.
 VNAPLATFORM_EXPORT void centerWidgetInHost(QWidget *widget, QWidget *host);
 
-/// Moves \a widget by the least that brings it inside the host's rect(); frames of windows count.
+/// Moves \a widget only as far as brings it inside the host's rect(); frames of windows count.
 VNAPLATFORM_EXPORT void clampWidgetToHost(QWidget *widget, QWidget *host);
 
 } // namespace Utils

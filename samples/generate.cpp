@@ -24,8 +24,8 @@ enum class Format { RealImaginary, MagnitudeAngle, DecibelAngle };
 std::string fixed(double value, int decimals)
 {
     char text[64];
-    const double least = 0.5 * std::pow(10.0, -decimals);
-    std::snprintf(text, sizeof text, "%.*f", decimals, std::abs(value) < least ? 0.0 : value);
+    const double half = 0.5 * std::pow(10.0, -decimals);
+    std::snprintf(text, sizeof text, "%.*f", decimals, std::abs(value) < half ? 0.0 : value);
     return text;
 }
 

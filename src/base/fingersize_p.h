@@ -8,7 +8,7 @@
 namespace Utils
 {
 
-/// Least side of something a finger is to hit, in pixels: 9 mm, and two lines of the widget's font.
+/// Minimum side of something a finger is to hit, in pixels: 9 mm, and two lines of the widget's font.
 inline int fingerSize(const QWidget *widget)
 {
     return qMax(2 * widget->fontMetrics().height(), qRound(widget->logicalDpiY() * 9 / 25.4));

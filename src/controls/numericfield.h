@@ -51,9 +51,9 @@ public:
 
     /// The value, in the unit without a prefix. 0 at first.
     double value() const;
-    /// The least value; minus infinity at first.
+    /// The minimum; minus infinity at first.
     double minimum() const;
-    /// The greatest value; infinity at first.
+    /// The maximum; infinity at first.
     double maximum() const;
     /// Sets minimum(), and maximum() where that would be less. NaN is ignored.
     void setMinimum(double minimum);

@@ -125,9 +125,9 @@ QVector<QPolygonF> circleLines(const Circle &circle, const QRectF &rect, bool in
     // A chord over the angle 2a strays by r (1 - cos a), about r a^2 / 2.
     const double step = 2.0 * std::sqrt(2.0 * tolerance / circle.radius);
     for (const ArcStretch &stretch : stretches) {
-        constexpr double most = 10000.0;
+        constexpr double maximum = 10000.0;
         const double steps = std::ceil((stretch.last - stretch.first) / step);
-        const int count = static_cast<int>(std::clamp(steps, 2.0, most));
+        const int count = static_cast<int>(std::clamp(steps, 2.0, maximum));
         QPolygonF line;
         line.reserve(count + 1);
         for (int i = 0; i <= count; ++i) {

@@ -33,7 +33,7 @@ struct LimitResult {
 
 /// A range of stimulus values, both ends included.
 struct StimulusRange {
-    double low; ///<the least stimulus that counts
+    double low; ///<the lowest stimulus that counts
     double high; ///<the greatest one
 };
 

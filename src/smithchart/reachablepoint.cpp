@@ -23,24 +23,24 @@ int reachableIndex(const QVector<double> &real, const QVector<double> &imag,
         return dx * dx + dy * dy;
     };
     int best = start;
-    double least = distanceAt(start);
-    if (!std::isfinite(least))
+    double smallest = distanceAt(start);
+    if (!std::isfinite(smallest))
         return -1;
     constexpr double slackPx = 4.0; // over the noise of a measurement
-    const double reach = std::sqrt(least) + slackPx;
+    const double reach = std::sqrt(smallest) + slackPx;
     for (const int step : {1, -1}) {
         for (int i = start + step; i >= 0 && i < count; i += step) {
             const double distance = distanceAt(i);
             if (!(distance <= reach * reach)) // a gap ends the way, too
                 break;
-            if (distance < least) {
-                least = distance;
+            if (distance < smallest) {
+                smallest = distance;
                 best = i;
             }
         }
     }
     if (squaredDistance)
-        *squaredDistance = least;
+        *squaredDistance = smallest;
     return best;
 }
 

@@ -55,9 +55,9 @@ struct Decimal {
     /// these values themselves.
     double rank() const
     {
-        const Decimal least = reduced();
-        const qint64 step = least.digits % 5 == 0 ? 5 : least.digits % 2 == 0 ? 2 : 1;
-        return Decimal{step == least.digits ? 2 * step : step, least.exponent}.value();
+        const Decimal shortest = reduced();
+        const qint64 step = shortest.digits % 5 == 0 ? 5 : shortest.digits % 2 == 0 ? 2 : 1;
+        return Decimal{step == shortest.digits ? 2 * step : step, shortest.exponent}.value();
     }
 };
 
@@ -142,7 +142,7 @@ constexpr double tightest = 0.6; ///< of the spacing: how near lines may come wh
 /// A way to divide the side of a cell.
 struct Division {
     const Parts *parts = nullptr; ///< none
-    double spacing = 0.0; ///< least distance between the lines, in pixels
+    double spacing = 0.0; ///< minimum distance between the lines, in pixels
 };
 
 class Divider
@@ -251,11 +251,11 @@ private:
         for (const Parts *parts = partsFor(side.length); parts->count > 0; ++parts) {
             const double first = parts->lengths[0] * tenth;
             const double last = parts->lengths[parts->count - 1] * tenth;
-            const double least = distance(far, far - last * direction);
-            const double most = distance(near, near + first * direction);
-            if (least >= tightest * m_rules.spacingPx
-                && least * most >= m_rules.spacingPx * m_rules.spacingPx)
-                return {parts, least};
+            const double smallest = distance(far, far - last * direction);
+            const double largest = distance(near, near + first * direction);
+            if (smallest >= tightest * m_rules.spacingPx
+                && smallest * largest >= m_rules.spacingPx * m_rules.spacingPx)
+                return {parts, smallest};
         }
         return {};
     }

@@ -44,7 +44,7 @@ public:
                  const QString &value2, const QString &value3);
     /// Shows or hides the dot; hidden at the start.
     void setSelectedStatus(bool selected);
-    /// Colour of all texts, usually the trace's; the style sheets' colour until then.
+    /// Colour of all texts, as a rule the trace's; the style sheets' colour until then.
     void setColor(const QColor &color);
     /// Bold texts, as for the active trace; off at the start.
     void setBold(bool bold);
