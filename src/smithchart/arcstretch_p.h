@@ -10,6 +10,8 @@
 namespace SmithChart
 {
 
+inline constexpr double pi = 3.141592653589793;
+
 /// A stretch of an arc, by the angles that the arc is measured by.
 struct ArcStretch {
     double first;

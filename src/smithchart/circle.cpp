@@ -12,8 +12,6 @@ namespace SmithChart
 namespace
 {
 
-constexpr double pi = 3.141592653589793;
-
 std::optional<Circle> usable(const Circle &circle)
 {
     return circle.isUsable() ? std::optional<Circle>(circle) : std::nullopt;

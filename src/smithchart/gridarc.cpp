@@ -13,8 +13,6 @@ namespace SmithChart
 namespace
 {
 
-constexpr double pi = 3.141592653589793;
-
 /// The angle of z + 1.
 double angleOf(double real, double imaginary)
 {
