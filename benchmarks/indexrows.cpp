@@ -188,6 +188,13 @@ void addIndexRows(RatioTable &table)
     firstViewRow("long Lissajous", shared(lissajous(million, 300.0, 301.0)), 8.0);
     // A golden section of a turn from each point to the next: they fill the ring in no order.
     firstViewRow("spiral wound too fast", shared(spiral(100000, 61803.4)), 20.0);
+    // Ten times the points, a little more than ten times the work.
+    table.addRow({"first view, seven points, to a tenth of them",
+                  100000,
+                  Row::ShareOfTime,
+                  15.0,
+                  addFirstView("seven points", shared(sevenPoints(100000))),
+                  {addFirstView("seven points, short", shared(sevenPoints(10000)))}});
     firstViewRow("short sweep, smooth", shared(spiral(sweep, 3.0)), 1.0);
     firstViewRow("short sweep, noise of 0.4 px", shared(spiral(sweep, 3.0, 0.4)), 1.0);
 

@@ -68,6 +68,17 @@ Trace randomWalk(int count, double step, unsigned seed)
     return trace;
 }
 
+Trace sevenPoints(int count)
+{
+    const Trace seven = spiral(7, 2.4);
+    Trace trace;
+    for (int i = 0; i < count; ++i) {
+        trace.real << seven.real.at(i % 7);
+        trace.imag << seven.imag.at(i % 7);
+    }
+    return trace;
+}
+
 Trace lissajous(int count, double xPeriods, double yPeriods)
 {
     Trace trace;

@@ -29,6 +29,9 @@ Trace lossyLine(int count, double turns);
 /// which turn back at its rim.
 Trace randomWalk(int count, double step, unsigned seed);
 
+/// The same seven points again and again, all far apart.
+Trace sevenPoints(int count);
+
 /// The figure of two sines of \a xPeriods and \a yPeriods periods.
 Trace lissajous(int count, double xPeriods, double yPeriods);
 

@@ -42,6 +42,11 @@ void unite(Kdop &kdop, const Kdop &other)
         kdop.support[j] = std::max(kdop.support[j], other.support[j]);
 }
 
+/// Stretches that repeat are found where they hold one of the points that are this far apart, and
+/// have a period up to this length.
+constexpr int sampleDistance = 2048;
+constexpr int longestPeriod = 64;
+
 double extentOf(const Kdop &kdop)
 {
     return std::max(kdop.support[0] + kdop.support[8], kdop.support[4] + kdop.support[12]);
@@ -80,6 +85,43 @@ void BoundingVolumeHierarchy::build(const double *x, const double *y, int count)
             support += m_room;
     }
     buildLevels();
+    findRepeats();
+}
+
+void BoundingVolumeHierarchy::findRepeats()
+{
+    m_repeats.clear();
+    int begin = 0;
+    for (int sample = 0; sample + sampleDistance < m_count; sample += sampleDistance) {
+        if (sample < begin)
+            continue;
+        const Repeat repeat = repeatAt(sample, begin);
+        if (repeat.end - repeat.begin < sampleDistance / 2)
+            continue;
+        m_repeats.push_back(repeat);
+        begin = repeat.end;
+    }
+}
+
+/// The stretch around a point that repeats, from \a begin at the earliest; an empty one if there is
+/// none.
+BoundingVolumeHierarchy::Repeat BoundingVolumeHierarchy::repeatAt(int sample, int begin) const
+{
+    for (int period = 1; period <= longestPeriod; ++period) {
+        const auto comesAgain = [&](int i) {
+            return m_x[i] == m_x[i + period] && m_y[i] == m_y[i + period];
+        };
+        int end = sample;
+        while (end + period < m_count && comesAgain(end))
+            ++end;
+        if (end - sample < sampleDistance / 4)
+            continue;
+        int first = sample;
+        while (first > begin && comesAgain(first - 1))
+            --first;
+        return {first, end + period, period};
+    }
+    return {sample, sample, 0};
 }
 
 void BoundingVolumeHierarchy::buildLeaf(int leaf)
@@ -149,7 +191,8 @@ size_t BoundingVolumeHierarchy::memoryUsed() const
 {
     size_t bytes =
         (m_chordX.capacity() + m_chordY.capacity() + m_deviation.capacity()) * sizeof(double)
-        + m_finite.capacity() / 8 + m_stack.capacity() * sizeof(Candidate);
+        + m_finite.capacity() / 8 + m_repeats.capacity() * sizeof(Repeat)
+        + m_stack.capacity() * sizeof(Candidate);
     for (const std::vector<Kdop> &level : m_levels)
         bytes += sizeof(std::vector<Kdop>) + level.capacity() * sizeof(Kdop);
     return bytes;
@@ -175,15 +218,36 @@ void BoundingVolumeHierarchy::push(int level, int firstNode, int lastNode, const
 
 Farthest BoundingVolumeHierarchy::farthest(int first, int end, const Segment &segment)
 {
-    const VectorKernels &kernels = vectorKernels();
     Farthest best;
+    for (const Repeat &repeat : m_repeats) {
+        if (repeat.end <= first)
+            continue;
+        if (repeat.begin >= end)
+            break;
+        // Of points that are equal the first is the one to find: those of the first period.
+        const int from = std::max(first, repeat.begin);
+        search(first, from, segment, best);
+        vectorKernels().farthest(m_x, m_y, from, std::min({from + repeat.period, repeat.end, end}),
+                                 m_count, segment, best);
+        first = std::min(repeat.end, end);
+    }
+    search(first, end, segment, best);
+    return best;
+}
+
+/// Offers \a best the farthest of the points \a first to \a end - 1, of which there may be none.
+void BoundingVolumeHierarchy::search(int first, int end, const Segment &segment, Farthest &best)
+{
+    if (first >= end)
+        return;
+    const VectorKernels &kernels = vectorKernels();
     if (end - first <= 2 << chordShift) {
         kernels.farthest(m_x, m_y, first, end, m_count, segment, best);
-        return best;
+        return;
     }
     if (end - first <= fewChords << chordShift) {
         farthestByChords(first, end, segment, best);
-        return best;
+        return;
     }
 
     // Behind the best so far, a node must promise more than the k-DOPs' room: where values repeat,
@@ -224,7 +288,6 @@ Farthest BoundingVolumeHierarchy::farthest(int first, int end, const Segment &se
             pushOverlapping(top.level - 1, child, child + (1 << fanOutShift) - 1);
         }
     }
-    return best;
 }
 
 void BoundingVolumeHierarchy::farthestByChords(int first, int end, const Segment &segment,

@@ -23,6 +23,9 @@ class NearestScan;
     one of the next. Distance to a segment is convex, so the ends of a chord, or the corners of a
     k-DOP, bound it for all between them.
 
+    Where the same few points come again and again, exactly, no bound tells one period from the next:
+    such stretches are known, and looked at for one period.
+
     Chord or leaf i of n points covers point i x n to point (i + 1) x n, both included. */
 class BoundingVolumeHierarchy
 {
@@ -56,6 +59,13 @@ private:
         int node;
     };
 
+    /// A stretch of points that are all equal to those a period before them.
+    struct Repeat {
+        int begin;
+        int end;
+        int period;
+    };
+
     static int shiftOf(int level) { return leafShift + fanOutShift * level; }
     int nodesAt(int level) const
     {
@@ -63,6 +73,9 @@ private:
     }
     void buildLeaf(int leaf);
     void buildLevels();
+    void findRepeats();
+    Repeat repeatAt(int sample, int begin) const;
+    void search(int first, int end, const Segment &segment, Farthest &best);
     void farthestByChords(int first, int end, const Segment &segment, Farthest &best) const;
     void nearestByChords(int leaf, double x, double y, double scale, double slack,
                          NearestScan &scan) const;
@@ -80,6 +93,7 @@ private:
     std::vector<double> m_deviation;
     std::vector<bool> m_finite; ///< by leaf
     std::vector<std::vector<Kdop>> m_levels;
+    std::vector<Repeat> m_repeats; ///< in ascending order, apart from each other
     std::vector<Candidate> m_stack;
 };
 

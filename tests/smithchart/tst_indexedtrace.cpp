@@ -124,6 +124,29 @@ private Q_SLOTS:
             QCOMPARE(disagreement.ties, 0);
     }
 
+    // Stretches in which a few points come again exactly, with others before, between and behind.
+    void keepsTheSameOfRepeatedPoints()
+    {
+        Random random(7);
+        for (int round = 0; round < 60; ++round) {
+            Trace trace;
+            for (int part = uniformInt(random, 1, 4); part > 0; --part) {
+                const int period = round % 3 == 0 ? 7 : uniformInt(random, 1, 80);
+                const Trace few = randomTrace(random, Noisy, std::max(period, 2));
+                for (int i = uniformInt(random, 1000, 7000); i > 0; --i) {
+                    trace.real << few.real.at(i % period);
+                    trace.imag << few.imag.at(i % period);
+                }
+                const Trace other = randomTrace(random, Smooth, uniformInt(random, 2, 3000));
+                trace.real << other.real;
+                trace.imag << other.imag;
+            }
+            IndexedTrace tree = treeOf(trace);
+            compareAt(tree, trace, squareViewport(0.0, 0.0, 1.05, 800, 800));
+            compareAt(tree, trace, squareViewport(0.2, -0.1, 0.02, 800, 800));
+        }
+    }
+
     void holdsLittleMemory()
     {
         const Viewport viewport = squareViewport(0.0, 0.0, 1.05, 800, 800);
