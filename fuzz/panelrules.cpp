@@ -119,24 +119,41 @@ private:
 
     void checkFrequencies()
     {
+        constexpr FrequencyScale linear = FrequencyScale::Linear;
         double lowest = qInf(), highest = -qInf();
         for (const int id : m_view->traceIds()) {
-            const Stimulus shown = m_model.shownRange(*m_model.trace(id));
+            const Trace &trace = *m_model.trace(id);
+            Stimulus shown = m_model.shownRange(trace);
+            if (shown.start <= 0.0 && m_model.viewSettings()->frequencyScale() != linear) {
+                for (const double hertz : m_model.network(trace).frequencies) {
+                    shown.start = hertz;
+                    if (hertz > 0.0)
+                        break;
+                }
+            }
             lowest = std::min(lowest, shown.start);
             highest = std::max(highest, shown.stop);
         }
         const Stimulus shown = lowest < highest ? Stimulus{lowest, highest} : around(lowest);
-        const QCPRange whole(shown.start, shown.stop);
-        const QCPRange range = m_cartesian->frequencyAxis().range();
+        const bool logarithmic = m_cartesian->frequencyAxis().scale() != linear;
+        const auto along = [logarithmic](double start, double stop) {
+            return logarithmic ? QCPRange(std::log10(start), std::log10(stop))
+                               : QCPRange(start, stop);
+        };
+        const QCPRange whole = along(shown.start, shown.stop);
+        const QCPRange seen = m_cartesian->frequencyAxis().range();
+        const QCPRange range = along(seen.lower, seen.upper);
         const Zoom zoom = m_model.zoom(m_view->id());
         const double size = whole.size() / zoom.factor;
         expect(range.size(), size, "what is seen of the frequencies");
         expect(range.center(), whole.center() + zoom.x * whole.size() / 2.0, "their centre",
                whole.size());
         const QStringList texts = m_cartesian->frequencyAxis().texts();
-        const double rounding = 1e3 * size;
-        expect(hertzOf(texts.at(0)), range.lower, "the left label", rounding);
-        expect(hertzOf(texts.at(2)), range.upper, "the right label", rounding);
+        const double rounding = 1e3 * seen.size();
+        expect(hertzOf(texts.first()), seen.lower, "the left label", rounding);
+        expect(hertzOf(texts.last()), seen.upper, "the right label", rounding);
+        if (logarithmic)
+            return;
         // Beside the middle frequency, or below it.
         QString division =
             texts.at(1).split(QLatin1Char('\n')).last().section(QStringLiteral(" \u00b7 "), -1);

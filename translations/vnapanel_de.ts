@@ -92,6 +92,14 @@
         <source>Off</source>
         <translation>Aus</translation>
     </message>
+    <message>
+        <source>Linear</source>
+        <translation>Linear</translation>
+    </message>
+    <message>
+        <source>Logarithmic</source>
+        <translation>Logarithmisch</translation>
+    </message>
 </context>
 <context>
     <name>Panel::Exports</name>
@@ -591,6 +599,63 @@
         <source>Trace %1 does not reach %2 that way.</source>
         <translation>Kurve %1 erreicht %2 in dieser Richtung nicht.</translation>
     </message>
+    <message>
+        <source>Highest peaks</source>
+        <translation>Höchste Spitzen</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MarkerReading</name>
+    <message>
+        <source>Bandwidth %1 dB</source>
+        <translation>Bandbreite %1 dB</translation>
+    </message>
+    <message>
+        <source>centre %1</source>
+        <translation>Mitte %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MarkerRows</name>
+    <message>
+        <source>Marker</source>
+        <translation>Marker</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Kurve</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Value 2</source>
+        <translation>Wert 2</translation>
+    </message>
+    <message>
+        <source>Value 3</source>
+        <translation>Wert 3</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MarkerTable</name>
+    <message>
+        <source>Tap a trace twice to set a marker.</source>
+        <translation>Zweimal antippen setzt Marker.</translation>
+    </message>
+    <message>
+        <source>Markers</source>
+        <translation>Marker</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MathKeys</name>
@@ -937,6 +1002,26 @@
         <source>Averages</source>
         <translation>Mittelungen</translation>
     </message>
+    <message>
+        <source>Frequency axis</source>
+        <translation>Frequenzachse</translation>
+    </message>
+    <message>
+        <source>Reference position</source>
+        <translation>Referenzposition</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Folgen</translation>
+    </message>
+    <message>
+        <source>Couple</source>
+        <translation>Koppeln</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -1052,14 +1137,6 @@
         <source>Tap a trace twice to set a marker.</source>
         <translation>Zweimal antippen setzt Marker.</translation>
     </message>
-    <message>
-        <source>Bandwidth %1 dB</source>
-        <translation>Bandbreite %1 dB</translation>
-    </message>
-    <message>
-        <source>centre %1</source>
-        <translation>Mitte %1</translation>
-    </message>
 </context>
 <context>
     <name>Panel::SettingsDialog</name>
@@ -1086,10 +1163,6 @@
     <message>
         <source>Markers on measured points only</source>
         <translation>Marker nur auf Messpunkten</translation>
-    </message>
-    <message>
-        <source>Markers coupled over all traces</source>
-        <translation>Marker aller Kurven gekoppelt</translation>
     </message>
     <message>
         <source>Saved files go to</source>
@@ -1559,6 +1632,14 @@
     <message>
         <source>Tr%1</source>
         <translation>Tr%1</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
     </message>
 </context>
 <context>

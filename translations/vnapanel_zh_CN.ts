@@ -91,6 +91,14 @@
         <source>Off</source>
         <translation>关</translation>
     </message>
+    <message>
+        <source>Linear</source>
+        <translation>线性</translation>
+    </message>
+    <message>
+        <source>Logarithmic</source>
+        <translation>对数</translation>
+    </message>
 </context>
 <context>
     <name>Panel::Exports</name>
@@ -419,7 +427,7 @@
     <name>Panel::LimitSheet</name>
     <message>
         <source>A limit line is what the trace must stay below, or above.</source>
-        <translation>限制线规定迹线必须低于或高于的界限。</translation>
+        <translation>限制线规定轨迹必须低于或高于的界限。</translation>
     </message>
     <message>
         <source>Add a line</source>
@@ -583,7 +591,64 @@
     </message>
     <message>
         <source>Trace %1 does not reach %2 that way.</source>
-        <translation>迹线 %1 在该方向未达到 %2。</translation>
+        <translation>轨迹 %1 在该方向未达到 %2。</translation>
+    </message>
+    <message>
+        <source>Highest peaks</source>
+        <translation>最高峰值</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MarkerReading</name>
+    <message>
+        <source>Bandwidth %1 dB</source>
+        <translation>带宽 %1 dB</translation>
+    </message>
+    <message>
+        <source>centre %1</source>
+        <translation>中心 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MarkerRows</name>
+    <message>
+        <source>Marker</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>轨迹</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>频率</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>Value 2</source>
+        <translation>数值 2</translation>
+    </message>
+    <message>
+        <source>Value 3</source>
+        <translation>数值 3</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MarkerTable</name>
+    <message>
+        <source>Tap a trace twice to set a marker.</source>
+        <translation>双击轨迹以设置标记。</translation>
+    </message>
+    <message>
+        <source>Markers</source>
+        <translation>标记</translation>
     </message>
 </context>
 <context>
@@ -931,6 +996,26 @@
         <source>Averages</source>
         <translation>平均次数</translation>
     </message>
+    <message>
+        <source>Frequency axis</source>
+        <translation>频率轴</translation>
+    </message>
+    <message>
+        <source>Reference position</source>
+        <translation>参考位置</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>跟踪</translation>
+    </message>
+    <message>
+        <source>Couple</source>
+        <translation>耦合</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>表格</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>
@@ -1045,14 +1130,6 @@
         <source>Tap a trace twice to set a marker.</source>
         <translation>双击轨迹以设置标记。</translation>
     </message>
-    <message>
-        <source>Bandwidth %1 dB</source>
-        <translation>带宽 %1 dB</translation>
-    </message>
-    <message>
-        <source>centre %1</source>
-        <translation>中心 %1</translation>
-    </message>
 </context>
 <context>
     <name>Panel::SettingsDialog</name>
@@ -1081,10 +1158,6 @@
         <translation>标记仅取测量点</translation>
     </message>
     <message>
-        <source>Markers coupled over all traces</source>
-        <translation>所有轨迹的标记耦合</translation>
-    </message>
-    <message>
         <source>Saved files go to</source>
         <translation>保存到</translation>
     </message>
@@ -1093,7 +1166,7 @@
     <name>Panel::SetupDialog</name>
     <message>
         <source>A set-up keeps files, traces, scales, limits and markers.</source>
-        <translation>设置集保存文件、迹线、刻度、限制和标记。</translation>
+        <translation>设置集保存文件、轨迹、刻度、限制和标记。</translation>
     </message>
     <message>
         <source>Save</source>
@@ -1552,6 +1625,14 @@
     <message>
         <source>Tr%1</source>
         <translation>Tr%1</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>顶部</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>底部</translation>
     </message>
 </context>
 <context>

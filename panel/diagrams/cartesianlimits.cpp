@@ -13,6 +13,9 @@ namespace Panel
 namespace
 {
 
+/// A bent line is drawn in so many straight ones.
+constexpr int s_piecesOfABend = 100;
+
 constexpr double s_lineWidth = 2.0;
 constexpr double s_failureSize = 5.0;
 
@@ -37,8 +40,17 @@ void CartesianLimits::show(const Trace &trace, const TraceData &data, QCPAxis *v
     for (const LimitLine &limit : trace.limits) {
         if (limit.format != trace.format)
             continue;
-        frequencies << limit.start << limit.stop << limit.stop;
-        bounds << limit.startValue << limit.stopValue << qQNaN();
+        // A slope over linear frequencies is bent on a logarithmic axis.
+        const bool bent = m_plot->xAxis->scaleType() == QCPAxis::stLogarithmic
+            && limit.startValue != limit.stopValue;
+        const int pieces = bent ? s_piecesOfABend : 1;
+        for (int i = 0; i <= pieces; ++i) {
+            const double share = double(i) / pieces;
+            frequencies << limit.start + share * (limit.stop - limit.start);
+            bounds << limit.startValue + share * (limit.stopValue - limit.startValue);
+        }
+        frequencies << limit.stop;
+        bounds << qQNaN();
     }
     if (frequencies.isEmpty() || !trace.visible) {
         remove(trace.id);

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cartesianview.h"
 
-#include <panel/ground/look.h>
+#include "freecorner.h"
+#include "readouts.h"
 
-#include <cmath>
+#include <panel/ground/look.h>
 
 namespace Panel
 {
@@ -13,6 +14,13 @@ namespace
 {
 
 constexpr char s_activeLayer[] = "activeTrace";
+
+/// Zero where there is none.
+double firstAboveZero(const QVector<double> &frequencies)
+{
+    const auto found = std::upper_bound(frequencies.begin(), frequencies.end(), 0.0);
+    return found == frequencies.end() ? 0.0 : *found;
+}
 
 } // namespace
 
@@ -38,8 +46,16 @@ CartesianView::CartesianView(const PanelModel *model, const DiagramId &id, QWidg
         showScale(traceId);
         showWrittenScale();
         showOffScale();
+        placeReadOuts();
         replotLater();
     });
+    connect(m_model->viewSettings(), &ViewSettings::changed, this, [this] {
+        if (fitFrequencies()) {
+            fillLines();
+            replotLater();
+        }
+    });
+    connect(readOuts(), &ReadOuts::overlaySizeChanged, this, &CartesianView::placeReadOuts);
     recolor();
 }
 
@@ -139,8 +155,8 @@ void CartesianView::fillLine(const Trace &trace)
     Line &line = found->second;
     const QCPRange range = m_frequencies.range();
     const auto load = [&](QCPGraph *graph, const TraceData &drawn) {
-        CartesianLine points =
-            cartesianLine(drawn, trace.format, m_laidOut.width(), range.lower, range.upper);
+        CartesianLine points = cartesianLine(drawn, trace.format, m_laidOut.width(), range.lower,
+                                             range.upper, m_frequencies.scale());
         graph->setData(points.frequencies, points.values, true);
         return points;
     };
@@ -173,21 +189,33 @@ void CartesianView::showMemory(const Trace &trace)
 /// Takes in all frequencies of the traces; true if there are others to show than before.
 bool CartesianView::fitFrequencies()
 {
+    const bool logarithmic =
+        m_model->viewSettings()->frequencyScale() == FrequencyScale::Logarithmic;
     double lowest = qInf(), highest = -qInf();
     for (const Trace &trace : traces()) {
-        const Stimulus range = m_model->shownRange(trace);
+        Stimulus range = m_model->shownRange(trace);
+        // A logarithmic axis begins with the first point that it can show.
+        if (range.start <= 0.0 && logarithmic)
+            range.start = firstAboveZero(m_model->network(trace).frequencies);
         lowest = qMin(lowest, range.start);
         highest = qMax(highest, range.stop);
     }
     if (lowest > highest)
         lowest = highest = 0.0;
     const Stimulus whole = lowest < highest ? Stimulus{lowest, highest} : around(lowest);
-    return m_frequencies.show({whole.start, whole.stop}, m_model->zoom(id()));
+    return showFrequencies({whole.start, whole.stop});
+}
+
+/// Shows the part of these frequencies that the zoom leaves; true if it is another one.
+bool CartesianView::showFrequencies(const QCPRange &whole)
+{
+    return m_frequencies.show(whole, m_model->zoom(id()),
+                              m_model->viewSettings()->frequencyScale());
 }
 
 void CartesianView::showZoom()
 {
-    m_frequencies.show(m_frequencies.whole(), m_model->zoom(id()));
+    showFrequencies(m_frequencies.whole());
     fillLines();
     replotLater();
 }
@@ -206,6 +234,7 @@ void CartesianView::showWrittenScale()
     if (!active || m_laidOut.isEmpty())
         return;
     m_values.write(*active, m_laidOut.height());
+    m_values.setArrowColor(currentLook().trace(active->id));
 }
 
 /// Offers to fit a visible trace that cannot be seen, the active one before all others.
@@ -249,8 +278,35 @@ void CartesianView::onLayout()
     const QPoint corner = rect->rect().topRight() + QPoint(-8, 8);
     m_limits.verdict()->setCorner(corner);
     m_fitButton->setCorner(corner);
-    if (changed)
-        fillLines();
+    if (!changed)
+        return;
+    fillLines();
+    readOuts()->showOver({rect->width() - 16, rect->height() / 2});
+    placeReadOuts();
+}
+
+/// Puts the read-outs where they hide the least, and what is said in place of them above the
+/// diagram.
+void CartesianView::placeReadOuts()
+{
+    const QRect rect = plot()->axisRect()->rect();
+    if (readOuts()->markers().isEmpty()) {
+        const int left = qMin(rect.left(), plot()->width() - readOuts()->width());
+        readOuts()->move(qMax(0, left), qMax(0, rect.top() - readOuts()->height()));
+        return;
+    }
+    constexpr int margin = 8;
+    QRect room = rect.adjusted(margin, margin, -margin, -margin);
+    for (const QWidget *above :
+         {static_cast<const QWidget *>(verdict()), static_cast<const QWidget *>(m_fitButton)}) {
+        if (!above->isHidden())
+            room.setTop(qMax(room.top(), above->geometry().bottom() + margin));
+    }
+    QVector<QCPGraph *> lines;
+    for (const auto &[id, line] : m_lines)
+        lines.append(line.graph);
+    m_readOutCorner = freestCorner(room, readOuts()->size(), lines, m_readOutCorner);
+    readOuts()->move(boxIn(room, readOuts()->size(), m_readOutCorner).topLeft());
 }
 
 void CartesianView::setTraceVisible(const Trace &trace)
@@ -318,6 +374,7 @@ void CartesianView::recolor()
             line.memory->setPen(look.memoryPen(trace.id, trace.network));
     }
     m_limits.recolor();
+    showWrittenScale();
     showSelectedMarker();
 }
 
@@ -326,9 +383,9 @@ QStringList CartesianView::titleParts() const
     const Trace *active = activeTrace();
     if (!active)
         return {};
-    QStringList parts{formatName(active->format),
-                      divisionText(active->format, active->scale.perDivision),
-                      tr("ref %1").arg(cartesianReferenceText(active->scale.top, active->format))};
+    QStringList parts{
+        formatName(active->format), divisionText(active->format, active->scale.perDivision),
+        tr("ref %1").arg(cartesianReferenceText(active->scale.reference(), active->format))};
     // The numbers beside the axis are the active trace's.
     QStringList others;
     for (const Trace &trace : traces()) {
@@ -346,55 +403,6 @@ int CartesianView::drawnPoints() const
     for (const auto &[id, line] : m_lines)
         count += line.graph->visible() ? line.graph->dataCount() : 0;
     return count;
-}
-
-void CartesianView::dragTo(int traceId, int number, const QPointF &position)
-{
-    const double index = nearestIndex(traceId, position);
-    if (index >= 0.0)
-        Q_EMIT markerMoveRequested(traceId, number, index);
-}
-
-/// The index of a trace's point below or above a point of the plot widget; -1 without data.
-double CartesianView::nearestIndex(int traceId, const QPointF &position) const
-{
-    const QVector<double> &frequencies = m_model->network(*m_model->trace(traceId)).frequencies;
-    return frequencies.isEmpty()
-        ? -1.0
-        : indexOfFrequency(frequencies, plot()->xAxis->pixelToCoord(position.x()));
-}
-
-int CartesianView::pointsPerStep(int traceId) const
-{
-    const int points = m_model->network(*m_model->trace(traceId)).points();
-    const double shown = points * m_frequencies.range().size() / m_frequencies.whole().size();
-    return qMax(1, qRound(shown / qMax(1, m_laidOut.width())));
-}
-
-Zoom CartesianView::zoomedAt(const QPointF &position, double factor) const
-{
-    return m_frequencies.zoomedAt(coordinates(position).x(), m_model->zoom(id()), factor);
-}
-
-Zoom CartesianView::movedTo(const QPointF &coordinates, const QPointF &position) const
-{
-    return m_frequencies.shifted(coordinates.x() - this->coordinates(position).x(),
-                                 m_model->zoom(id()));
-}
-
-Hit CartesianView::hitLine(const QPointF &position) const
-{
-    Hit nearest;
-    double least = reach;
-    for (const Trace &trace : traces()) {
-        const double distance =
-            reaches(trace) ? m_lines.at(trace.id).graph->selectTest(position, false) : -1.0;
-        if (distance < 0.0 || distance >= least)
-            continue;
-        least = distance;
-        nearest = {Hit::Line, trace.id, 0, std::round(nearestIndex(trace.id, position))};
-    }
-    return nearest;
 }
 
 } // namespace Panel

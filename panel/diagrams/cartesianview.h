@@ -75,9 +75,11 @@ private:
     void fillLine(const Trace &trace);
     void fillLines();
     bool fitFrequencies();
+    bool showFrequencies(const QCPRange &whole);
     void showScale(int traceId);
     void showWrittenScale();
     void showOffScale();
+    void placeReadOuts();
 
     FrequencyAxis m_frequencies;
     std::map<int, Line> m_lines; ///< by trace
@@ -85,6 +87,7 @@ private:
     CartesianMarkers m_markers;
     CartesianLimits m_limits;
     FitOffer *m_fitButton;
+    Qt::Corner m_readOutCorner = Qt::TopRightCorner;
     QSize m_laidOut; ///< of the axis rectangle; empty before the first layout
 };
 

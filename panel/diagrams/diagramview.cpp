@@ -37,8 +37,11 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
     column->setSpacing(0);
     column->addWidget(m_title);
     column->addLayout(m_body, 1);
-    m_body->addWidget(m_readOuts, 1);
     m_body->addWidget(m_plot, 1);
+    if (m_id.smith)
+        m_body->addWidget(m_readOuts, 1);
+    else
+        m_readOuts->setParent(m_plot);
     m_plot->setFocusPolicy(Qt::WheelFocus);
     connect(m_readOuts, &ReadOuts::selectionRequested, this,
             &DiagramView::markerSelectionRequested);
@@ -291,14 +294,16 @@ void DiagramView::replotLater()
 void DiagramView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    if (!m_id.smith)
+        return;
     // A square diagram leaves room beside it where it is much wider than high.
-    const int side = m_id.smith ? width() - height() : 0;
+    const int side = width() - height();
     if (2 * side >= height()) {
-        m_body->setDirection(QBoxLayout::LeftToRight);
-        m_readOuts->showInColumn(side);
+        m_body->setDirection(QBoxLayout::RightToLeft);
+        m_readOuts->showBeside(side);
     } else {
         m_body->setDirection(QBoxLayout::TopToBottom);
-        m_readOuts->showInStrip(size(), m_id.smith ? 3 : 1);
+        m_readOuts->showBelow(size() - QSize(0, m_title->sizeHint().height()));
     }
 }
 

@@ -12,6 +12,12 @@ namespace Panel
 namespace
 {
 
+/// Between the diagram and the texts below it, in pixels.
+constexpr int s_padding = 5;
+/// What stands for zero on a logarithmic axis, in Hz.
+constexpr double s_lowestHertz = 1e-3;
+/// Steps of an axis that shows less than a decade.
+constexpr double s_stepsInADecade = 8.0;
 /// Digits of a span that its ends are told with.
 constexpr double s_spanDigits = 4.0;
 
@@ -21,13 +27,85 @@ QCPItemText *makeText(QCustomPlot *plot, double place, Qt::Alignment alignment)
     text->setLayer(QStringLiteral("axes"));
     text->setSelectable(false);
     text->setClipToAxisRect(false);
-    text->setPadding(QMargins(0, 4, 0, 0));
+    text->setPadding(QMargins(0, s_padding, 0, 0));
     text->setPositionAlignment(alignment | Qt::AlignTop);
     text->position->setType(QCPItemPosition::ptAxisRectRatio);
     text->position->setAxisRect(plot->axisRect());
     text->position->setCoords(place, 1.0);
     return text;
 }
+
+/// Round frequencies of a logarithmic axis: decades with 2 and 5 between them, or even steps within a
+/// decade. Those that stand too near to an end or to each other are not written.
+class RoundFrequencies : public QCPAxisTicker
+{
+public:
+    explicit RoundFrequencies(const QCPAxis *axis)
+        : m_axis(axis)
+    {
+    }
+
+protected:
+    QVector<double> createTickVector(double, const QCPRange &range) override
+    {
+        QVector<double> ticks;
+        if (!(range.lower > 0.0) || !std::isfinite(range.upper))
+            return ticks;
+        if (range.upper < 10.0 * range.lower) {
+            const double step = cleanMantissa(range.size() / s_stepsInADecade);
+            for (double tick = std::ceil(range.lower / step) * step; tick <= range.upper;
+                 tick += step)
+                ticks << tick;
+            return ticks;
+        }
+        for (double decade = std::pow(10.0, std::floor(std::log10(range.lower)));
+             decade <= range.upper; decade *= 10.0) {
+            for (const double multiple : {1.0, 2.0, 5.0}) {
+                if (multiple * decade >= range.lower && multiple * decade <= range.upper)
+                    ticks << multiple * decade;
+            }
+        }
+        return ticks;
+    }
+
+    QVector<QString> createLabelVector(const QVector<double> &ticks, const QLocale &, QChar,
+                                       int) override
+    {
+        const QFontMetrics metrics(m_axis->tickLabelFont());
+        const double gap = 1.5 * metrics.averageCharWidth();
+        const QCPRange range = m_axis->range();
+        const auto width = [&](double hertz) {
+            return double(metrics.horizontalAdvance(shortFrequencyText(hertz)));
+        };
+        // The texts at the ends stand within, those of ticks around their places.
+        double free = m_axis->coordToPixel(range.lower) + width(range.lower) + gap;
+        const double end = m_axis->coordToPixel(range.upper) - width(range.upper) - gap;
+        QVector<QString> labels(ticks.size());
+        // Decades first; what lies between them takes what room is left.
+        const auto isDecade = [](double hertz) {
+            const double decade = std::log10(hertz);
+            return std::abs(decade - std::round(decade)) < 1e-6;
+        };
+        for (int i = 0; i < ticks.size(); ++i) {
+            const double place = m_axis->coordToPixel(ticks.at(i)), half = width(ticks.at(i)) / 2.0;
+            double until = end;
+            for (int next = i + 1; !isDecade(ticks.at(i)) && next < ticks.size(); ++next) {
+                if (isDecade(ticks.at(next)))
+                    until = qMin(until,
+                                 m_axis->coordToPixel(ticks.at(next)) - width(ticks.at(next)) / 2.0
+                                     - gap);
+            }
+            if (place - half < free || place + half > until)
+                continue;
+            labels[i] = shortFrequencyText(ticks.at(i));
+            free = place + half + gap;
+        }
+        return labels;
+    }
+
+private:
+    const QCPAxis *m_axis;
+};
 
 } // namespace
 
@@ -39,25 +117,60 @@ FrequencyAxis::FrequencyAxis(QCustomPlot *plot)
 {
     m_axis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
     m_axis->setTickLabels(false);
+    m_axis->setTickLabelPadding(s_padding);
     m_axis->grid()->setZeroLinePen(Qt::NoPen);
     setRange(m_whole);
 }
 
-bool FrequencyAxis::show(const QCPRange &whole, const Zoom &zoom)
+FrequencyScale FrequencyAxis::scale() const
 {
-    m_whole = whole;
+    return m_axis->scaleType() == QCPAxis::stLogarithmic ? FrequencyScale::Logarithmic
+                                                         : FrequencyScale::Linear;
+}
+
+/// What is linear along the axis.
+double FrequencyAxis::along(double hertz) const
+{
+    return scale() == FrequencyScale::Linear ? hertz : std::log10(qMax(hertz, s_lowestHertz));
+}
+
+QCPRange FrequencyAxis::along(const QCPRange &hertz) const
+{
+    return {along(hertz.lower), along(hertz.upper)};
+}
+
+double FrequencyAxis::hertzAt(double along) const
+{
+    return scale() == FrequencyScale::Linear ? along : std::pow(10.0, along);
+}
+
+bool FrequencyAxis::show(const QCPRange &whole, const Zoom &zoom, FrequencyScale wanted)
+{
     const QCPRange before = range();
-    const double half = whole.size() / 2.0;
-    const double centre = whole.center() + zoom.x * half;
+    const FrequencyScale scaleBefore = scale();
+    const bool logarithmic = wanted == FrequencyScale::Logarithmic && whole.lower > 0.0;
+    if (logarithmic != (scaleBefore == FrequencyScale::Logarithmic)) {
+        m_axis->setScaleType(logarithmic ? QCPAxis::stLogarithmic : QCPAxis::stLinear);
+        m_axis->setTicker(logarithmic ? QSharedPointer<QCPAxisTicker>(new RoundFrequencies(m_axis))
+                                      : QSharedPointer<QCPAxisTicker>(new QCPAxisTickerFixed));
+        m_axis->setTickLabels(logarithmic);
+        m_centre->setVisible(!logarithmic);
+    }
+    m_whole = whole;
+    const QCPRange axis = along(whole);
+    const double half = axis.size() / 2.0;
+    const double centre = axis.center() + zoom.x * half;
     // The ends themselves, where sums would round.
     setRange(zoom.isWhole() ? whole
-                            : QCPRange(centre - half / zoom.factor, centre + half / zoom.factor));
-    return range() != before;
+                            : QCPRange(hertzAt(centre - half / zoom.factor),
+                                       hertzAt(centre + half / zoom.factor)));
+    return range() != before || scale() != scaleBefore;
 }
 
 Zoom FrequencyAxis::zoomFor(double centre, double factor) const
 {
-    return bounded({factor, (centre - m_whole.center()) / (m_whole.size() / 2.0), 0.0}, false);
+    const QCPRange axis = along(m_whole);
+    return bounded({factor, (centre - axis.center()) / (axis.size() / 2.0), 0.0}, false);
 }
 
 Zoom FrequencyAxis::zoomedAt(double hertz, const Zoom &before, double factor) const
@@ -65,20 +178,22 @@ Zoom FrequencyAxis::zoomedAt(double hertz, const Zoom &before, double factor) co
     if (!std::isfinite(factor))
         return before;
     const double wanted = qBound(1.0, before.factor * factor, Zoom::maximum);
-    const double ratio = m_whole.size() / wanted / range().size();
-    return zoomFor(hertz + (range().center() - hertz) * ratio, wanted);
+    const QCPRange axis = along(range());
+    const double ratio = along(m_whole).size() / wanted / axis.size();
+    return zoomFor(along(hertz) + (axis.center() - along(hertz)) * ratio, wanted);
 }
 
-Zoom FrequencyAxis::shifted(double hertz, const Zoom &before) const
+Zoom FrequencyAxis::shifted(double hertz, double to, const Zoom &before) const
 {
-    return zoomFor(range().center() + hertz, before.factor);
+    return zoomFor(along(range()).center() + along(hertz) - along(to), before.factor);
 }
 
 void FrequencyAxis::setRange(const QCPRange &hertz)
 {
-    auto ticker = qSharedPointerCast<QCPAxisTickerFixed>(m_axis->ticker());
-    ticker->setTickOrigin(hertz.lower);
-    ticker->setTickStep(hertz.size() / divisions);
+    if (const auto fixed = m_axis->ticker().dynamicCast<QCPAxisTickerFixed>()) {
+        fixed->setTickOrigin(hertz.lower);
+        fixed->setTickStep(hertz.size() / divisions);
+    }
     m_axis->setRange(hertz);
     const double digit = std::pow(10.0, std::floor(std::log10(hertz.size())) - s_spanDigits);
     const auto text = [digit](double value) {
@@ -93,11 +208,19 @@ void FrequencyAxis::setRange(const QCPRange &hertz)
 
 QStringList FrequencyAxis::texts() const
 {
-    return {m_left->text(), m_centre->text(), m_right->text()};
+    QStringList texts{m_left->text()};
+    if (scale() == FrequencyScale::Linear)
+        texts << m_centre->text();
+    else
+        texts += m_axis->tickVectorLabels().toList();
+    texts.removeAll(QString());
+    return texts << m_right->text();
 }
 
 void FrequencyAxis::setLook(const QFont &font, const QColor &color)
 {
+    m_axis->setTickLabelFont(font);
+    m_axis->setTickLabelColor(color);
     for (QCPItemText *text : {m_left, m_centre, m_right}) {
         text->setFont(font);
         text->setColor(color);
@@ -106,6 +229,11 @@ void FrequencyAxis::setLook(const QFont &font, const QColor &color)
 
 void FrequencyAxis::fit()
 {
+    if (scale() == FrequencyScale::Logarithmic) {
+        // Which labels have room is known once the layout is.
+        m_axis->axisRect()->update(QCPLayoutElement::upPreparation);
+        return;
+    }
     const QFontMetrics metrics(m_centre->font());
     const int gap = metrics.averageCharWidth();
     const int outer =

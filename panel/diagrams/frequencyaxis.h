@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <panel/model/cartesian.h>
 #include <panel/model/diagramplan.h>
 
 #include <plot/qcp.h>
@@ -13,6 +14,7 @@ namespace Panel
 
 /*! The frequency axis of a Cartesian diagram: its grid of ten divisions, and below it the
     frequencies at the left edge, in the middle and at the right edge with the width of a division.
+    A logarithmic axis has its grid at round frequencies, with those that have room written below.
 
     The texts follow the axis rectangle by themselves, wherever a layout puts it. */
 class FrequencyAxis
@@ -23,15 +25,17 @@ public:
     /// Sets up the x axis of the plot, which owns the texts.
     explicit FrequencyAxis(QCustomPlot *plot);
 
-    /// Shows the part of these frequencies, in Hz, that a zoom leaves; true if it is another one.
-    bool show(const QCPRange &whole, const Zoom &zoom);
+    /// Shows the part of these frequencies, in Hz, that a zoom leaves; true if it is another one. A
+    /// logarithmic axis wants them above zero, and is linear otherwise.
+    bool show(const QCPRange &whole, const Zoom &zoom, FrequencyScale scale);
+    FrequencyScale scale() const;
     /// The part on show, and what it is a part of.
     QCPRange range() const { return m_axis->range(); }
     QCPRange whole() const { return m_whole; }
     /// The zoom that magnifies what lies around a frequency, which stays where it is.
     Zoom zoomedAt(double hertz, const Zoom &before, double factor) const;
-    /// The zoom that shifts the part on show.
-    Zoom shifted(double hertz, const Zoom &before) const;
+    /// The zoom that shifts the part on show, so that one frequency stands where another one was.
+    Zoom shifted(double hertz, double to, const Zoom &before) const;
     /// What stands below the diagram, from left to right.
     QStringList texts() const;
     void setLook(const QFont &font, const QColor &color);
@@ -44,6 +48,9 @@ public:
 private:
     void setRange(const QCPRange &hertz);
     Zoom zoomFor(double centre, double factor) const;
+    double along(double hertz) const;
+    QCPRange along(const QCPRange &hertz) const;
+    double hertzAt(double along) const;
 
     QCPAxis *m_axis;
     QCPRange m_whole = {0.0, 1.0};

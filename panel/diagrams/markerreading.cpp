@@ -3,7 +3,10 @@
 #include "markerreading.h"
 
 #include <panel/ground/numbertext.h>
+#include <panel/model/bandwidth.h>
 #include <panel/model/cartesian.h>
+
+#include <QCoreApplication>
 
 #include <cmath>
 #include <complex>
@@ -15,6 +18,10 @@ namespace
 {
 
 using Complex = std::complex<double>;
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Panel::MarkerReading)
+};
 
 double frequency(const MarkedPoint &point)
 {
@@ -50,16 +57,19 @@ QString imaginaryText(double value, const QString &unit)
         + engineeringText(std::abs(value), unit);
 }
 
-/// What has this reactance (Ω, in series) or susceptance (S, in parallel) at a frequency in Hz.
-QString elementText(double imaginary, double hertz, bool isReactance)
+/// Adds what has this reactance (Ω, in series) or susceptance (S, in parallel) at a frequency in Hz.
+void addElement(MarkerReading &reading, double imaginary, double hertz, bool isReactance)
 {
     const double omega = 2.0 * std::acos(-1.0) * hertz;
-    if (!(omega > 0.0) || !std::isfinite(imaginary) || imaginary == 0.0)
-        return {};
+    if (!(omega > 0.0) || !std::isfinite(imaginary) || imaginary == 0.0) {
+        reading.add(qQNaN(), {});
+        return;
+    }
     // jX = jωL or 1/jωC; jB = jωC or 1/jωL.
     const bool grows = imaginary > 0.0;
     const QString unit = grows == isReactance ? QStringLiteral("H") : QStringLiteral("F");
-    return engineeringText(grows ? imaginary / omega : -1.0 / (omega * imaginary), unit);
+    const double element = grows ? imaginary / omega : -1.0 / (omega * imaginary);
+    reading.add(element, engineeringText(element, unit));
 }
 
 double degrees(double angle)
@@ -67,9 +77,9 @@ double degrees(double angle)
     return angle * 180.0 / std::acos(-1.0);
 }
 
-QString angleText(double angle)
+void addAs(MarkerReading &reading, double value, TraceFormat format)
 {
-    return cartesianText(angle, TraceFormat::Phase);
+    reading.add(value, cartesianText(value, format));
 }
 
 /// An angle of any size, as from -180 to 180 degrees.
@@ -88,34 +98,48 @@ double vswr(const Complex &gamma)
     return formatValue(gamma, {}, TraceFormat::Vswr);
 }
 
-QStringList readings(const Complex &gamma, ReadoutFormat format)
+void addReflection(MarkerReading &reading, const Complex &gamma, ReadoutFormat format)
 {
-    const QString angle = angleText(degrees(std::arg(gamma)));
     if (format == ReadoutFormat::MagnitudePhase)
-        return {numberText(std::abs(gamma), 4), angle};
-    if (format == ReadoutFormat::Decibels)
-        return {cartesianText(decibels(gamma), TraceFormat::LogMagnitude), angle};
-    return {cartesianText(vswr(gamma), TraceFormat::Vswr)};
+        reading.add(std::abs(gamma), numberText(std::abs(gamma), 4));
+    else if (format == ReadoutFormat::Decibels)
+        addAs(reading, decibels(gamma), TraceFormat::LogMagnitude);
+    else
+        addAs(reading, vswr(gamma), TraceFormat::Vswr);
+    if (format != ReadoutFormat::Vswr)
+        addAs(reading, degrees(std::arg(gamma)), TraceFormat::Phase);
 }
 
 } // namespace
 
+void MarkerReading::add(double number, const QString &text)
+{
+    numbers.append(number);
+    values.append(text);
+}
+
+QString markerName(const PanelModel &model, const Marker &marker)
+{
+    QString name = QStringLiteral("M%1").arg(marker.number);
+    const Marker *reference = model.referenceMarker(marker.trace);
+    if (!reference)
+        return name;
+    return reference->number == marker.number ? name + QLatin1Char('R') : QChar(0x0394) + name;
+}
+
 MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format)
 {
     const double hertz = frequency(point);
-    MarkerReading reading{frequencyText(hertz), {}};
-    if (format == ReadoutFormat::Admittance) {
-        const Complex y = admittance(point);
-        const QString unit = QStringLiteral("S");
-        reading.values = QStringList{partText(y.real(), unit), imaginaryText(y.imag(), unit),
-                                     elementText(y.imag(), hertz, false)};
-    } else if (format == ReadoutFormat::Impedance || format == ReadoutFormat::Automatic) {
-        const Complex z = impedance(point);
-        const QString unit = QStringLiteral("\u03a9");
-        reading.values = QStringList{partText(z.real(), unit), imaginaryText(z.imag(), unit),
-                                     elementText(z.imag(), hertz, true)};
+    MarkerReading reading{hertz, frequencyText(hertz), {}, {}};
+    const bool y = format == ReadoutFormat::Admittance;
+    if (y || format == ReadoutFormat::Impedance || format == ReadoutFormat::Automatic) {
+        const Complex value = y ? admittance(point) : impedance(point);
+        const QString unit = y ? QStringLiteral("S") : QStringLiteral("\u03a9");
+        reading.add(value.real(), partText(value.real(), unit));
+        reading.add(value.imag(), imaginaryText(value.imag(), unit));
+        addElement(reading, value.imag(), hertz, !y);
     } else {
-        reading.values = readings(reflection(point), format);
+        addReflection(reading, reflection(point), format);
     }
     return reading;
 }
@@ -123,8 +147,10 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format)
 MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
                                const MarkedPoint &reference)
 {
-    MarkerReading reading{frequencyText(frequency(point) - frequency(reference)), {}};
+    const double hertz = frequency(point) - frequency(reference);
+    MarkerReading reading{hertz, frequencyText(hertz), {}, {}};
     const Complex here = reflection(point), there = reflection(reference);
+    const double turned = wrapped(degrees(std::arg(here) - std::arg(there)));
     switch (format) {
     case ReadoutFormat::Automatic:
     case ReadoutFormat::Impedance:
@@ -133,21 +159,21 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
         const Complex difference =
             y ? admittance(point) - admittance(reference) : impedance(point) - impedance(reference);
         const QString unit = y ? QStringLiteral("S") : QStringLiteral("\u03a9");
-        reading.values = QStringList{engineeringText(difference.real(), unit),
-                                     imaginaryText(difference.imag(), unit)};
+        reading.add(difference.real(), engineeringText(difference.real(), unit));
+        reading.add(difference.imag(), imaginaryText(difference.imag(), unit));
         break;
     }
     case ReadoutFormat::MagnitudePhase:
-        reading.values = QStringList{numberText(std::abs(here) - std::abs(there), 4),
-                                     angleText(wrapped(degrees(std::arg(here) - std::arg(there))))};
+        reading.add(std::abs(here) - std::abs(there),
+                    numberText(std::abs(here) - std::abs(there), 4));
+        addAs(reading, turned, TraceFormat::Phase);
         break;
     case ReadoutFormat::Decibels:
-        reading.values =
-            QStringList{cartesianText(decibels(here) - decibels(there), TraceFormat::LogMagnitude),
-                        angleText(wrapped(degrees(std::arg(here) - std::arg(there))))};
+        addAs(reading, decibels(here) - decibels(there), TraceFormat::LogMagnitude);
+        addAs(reading, turned, TraceFormat::Phase);
         break;
     case ReadoutFormat::Vswr:
-        reading.values = QStringList{cartesianText(vswr(here) - vswr(there), TraceFormat::Vswr)};
+        addAs(reading, vswr(here) - vswr(there), TraceFormat::Vswr);
         break;
     }
     return reading;
@@ -155,8 +181,10 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
 
 MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format)
 {
-    return {frequencyText(frequency(point)),
-            {cartesianText(formatValueAt(point.data, point.index, format), format)}};
+    const double hertz = frequency(point);
+    MarkerReading reading{hertz, frequencyText(hertz), {}, {}};
+    addAs(reading, formatValueAt(point.data, point.index, format), format);
+    return reading;
 }
 
 MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format,
@@ -166,26 +194,49 @@ MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format,
         - formatValueAt(reference.data, reference.index, format);
     if (format == TraceFormat::Phase)
         difference = wrapped(difference);
-    return {frequencyText(frequency(point) - frequency(reference)),
-            {cartesianText(difference, format)}};
+    const double hertz = frequency(point) - frequency(reference);
+    MarkerReading reading{hertz, frequencyText(hertz), {}, {}};
+    addAs(reading, difference, format);
+    return reading;
 }
 
-MarkerReading readMarker(const PanelModel &model, const Marker &marker, const Marker *reference)
+MarkerReading readMarker(const PanelModel &model, const Marker &marker)
 {
+    const Marker *reference = model.referenceMarker(marker.trace);
+    if (reference && reference->number == marker.number)
+        reference = nullptr;
     const Trace &trace = *model.trace(marker.trace);
     const auto point = [&](const Marker &marked) {
         return MarkedPoint{model.traceData(trace), model.indexOf(marked)};
     };
     const ReadoutFormat format = model.viewSettings()->effectiveReadoutFormat();
     if (point(marker).index < 0.0 || (reference && point(*reference).index < 0.0)) {
-        const double from = reference ? model.hertzOf(*reference) : 0.0;
-        return {frequencyText(model.hertzOf(marker) - from), {nothingText()}};
+        const double hertz = model.hertzOf(marker) - (reference ? model.hertzOf(*reference) : 0.0);
+        return {hertz, frequencyText(hertz), {nothingText()}, {qQNaN()}};
     }
     if (trace.onSmithChart())
         return reference ? readOnSmithChart(point(marker), format, point(*reference))
                          : readOnSmithChart(point(marker), format);
     return reference ? readOnCartesian(point(marker), trace.format, point(*reference))
                      : readOnCartesian(point(marker), trace.format);
+}
+
+QString bandwidthText(const PanelModel &model)
+{
+    const double step = model.viewSettings()->bandwidthDecibels();
+    const Marker *selected = model.selectedMarker();
+    if (step == 0.0 || !selected)
+        return {};
+    const std::optional<Bandwidth> band =
+        bandwidthAt(model.traceData(*model.trace(selected->trace)), model.indexOf(*selected), step);
+    const QString name = Text::tr("Bandwidth %1 dB").arg(step);
+    if (!band)
+        return name + QLatin1Char(' ') + nothingText();
+    return QStringList{name + QLatin1Char(' ') + frequencyText(band->width()),
+                       Text::tr("centre %1").arg(frequencyText(band->centre())),
+                       QStringLiteral("Q %1").arg(band->quality(), 0, 'g', 4),
+                       cartesianText(band->decibels, TraceFormat::LogMagnitude)}
+        .join(QStringLiteral(" \u00b7 "));
 }
 
 } // namespace Panel

@@ -13,9 +13,14 @@ namespace Panel
 
 /// What a marker shows of its point, as text; values that do not exist are dashes.
 struct MarkerReading {
+    double hertz = 0.0;
     QString frequency; ///< "2.450 GHz"
     /// One to three: "48.21 Ω", "+j3.100 Ω", "204.5 pH".
     QStringList values;
+    /// The same as numbers, to sort by; NaN for a dash.
+    QVector<double> numbers;
+
+    void add(double number, const QString &text);
 };
 
 /// A point of a trace at a fractional index, which must lie within the data.
@@ -34,9 +39,13 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format);
 MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
                                const MarkedPoint &reference);
 
-/// Reads a marker in the format of its trace, as the difference from a reference marker if there is
-/// one. While one of them is parked there are dashes but for the frequency.
-MarkerReading readMarker(const PanelModel &model, const Marker &marker, const Marker *reference);
+/// Reads a marker in the format of its trace, as the difference from the trace's reference marker if
+/// there is another one. While one of them is parked there are dashes but for the frequency.
+MarkerReading readMarker(const PanelModel &model, const Marker &marker);
+/// "M2", or with a sign where it is a reference or read against one: "M1R", "\u0394M2".
+QString markerName(const PanelModel &model, const Marker &marker);
+/// What is read of the band around the selected marker; empty while it is not asked for.
+QString bandwidthText(const PanelModel &model);
 
 /// Reads a point of a Cartesian diagram.
 MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format);

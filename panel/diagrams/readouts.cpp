@@ -5,9 +5,6 @@
 #include "markerreading.h"
 
 #include <panel/ground/look.h>
-#include <panel/ground/numbertext.h>
-#include <panel/model/bandwidth.h>
-#include <panel/model/cartesian.h>
 
 #include <controls/thememanager.h>
 #include <widgets/markerstatusitem.h>
@@ -33,6 +30,8 @@ constexpr int s_mostRows = 4;
 /// pixels.
 constexpr int s_widthOfThreeValues = 420;
 constexpr int s_narrowestColumn = 150;
+/// Over a diagram a line about a band breaks here, in pixels.
+constexpr int s_widthOfABandwidth = 260;
 /// A frequency and three values.
 constexpr int s_columns = 4;
 /// What the dot and the name of a marker take, in pixels.
@@ -92,23 +91,47 @@ void ReadOuts::setTraces(const QVector<int> &ids)
     refresh();
 }
 
-void ReadOuts::showInStrip(const QSize &diagram, int values)
+void ReadOuts::showBelow(const QSize &diagram)
 {
     setMinimumWidth(0);
     setMaximumWidth(QWIDGETSIZE_MAX);
     m_hint->setWordWrap(false);
     // A reading of several values that has no room on one line takes two.
-    const int fewest = values > 1 && diagram.width() < s_widthOfThreeValues ? 2 : 1;
-    setFixedHeight(qBound(fewest, diagram.height() / s_heightForARow, s_mostRows) * lineHeight());
+    const int fewest = diagram.width() < s_widthOfThreeValues ? 2 : 1;
+    const int lines = qBound(fewest, diagram.height() / s_heightForARow, s_mostRows);
+    // The labels above and below the chart want a line each.
+    const int left = diagram.height() - diagram.width() - 2 * fontMetrics().height();
+    setFixedHeight(qMax(lines * lineHeight(), left));
 }
 
-void ReadOuts::showInColumn(int width)
+void ReadOuts::showBeside(int width)
 {
     setMinimumHeight(0);
     setMaximumHeight(QWIDGETSIZE_MAX);
     m_hint->setWordWrap(true);
     setMinimumWidth(s_narrowestColumn);
     setMaximumWidth(qBound(s_narrowestColumn, width, s_widthOfThreeValues));
+}
+
+void ReadOuts::showOver(const QSize &room)
+{
+    if (room == m_room)
+        return;
+    m_room = room;
+    arrange();
+}
+
+/// As large as the rows, or the hint, where there is room.
+void ReadOuts::fitOverlay(const QSize &content)
+{
+    const bool box = !m_markers.isEmpty();
+    if (property("box") != box) {
+        setProperty("box", box);
+        repolish(this);
+    }
+    resize(box ? (content + QSize(2, 2)).boundedTo(m_room)
+               : QSize(m_hint->sizeHint().width(), lineHeight()));
+    Q_EMIT overlaySizeChanged();
 }
 
 int ReadOuts::lineHeight() const
@@ -136,6 +159,7 @@ void ReadOuts::refresh()
         widenColumns(m_texts.last());
     }
     m_bandwidth->setText(bandwidthText());
+    setVisible(!m_model->viewSettings()->markerTable());
     arrange();
     showSelected();
 }
@@ -167,42 +191,19 @@ void ReadOuts::showMore()
     m_more->move(width() - m_more->width() - s_margin, height() - m_more->height());
 }
 
-/// What is read of the band around the selected marker; empty while it is not asked for.
+/// What is read of the band around the selected marker, if it is one of these.
 QString ReadOuts::bandwidthText() const
 {
-    const double step = m_model->viewSettings()->bandwidthDecibels();
     const Marker *selected = m_model->selectedMarker();
-    if (step == 0.0 || !selected || !m_traces.contains(selected->trace))
-        return {};
-    const std::optional<Bandwidth> band = bandwidthAt(
-        m_model->traceData(*m_model->trace(selected->trace)), m_model->indexOf(*selected), step);
-    const QString name = tr("Bandwidth %1 dB").arg(step);
-    if (!band)
-        return name + QLatin1Char(' ') + nothingText();
-    const QString separator = QStringLiteral(" \u00b7 ");
-    return name + QLatin1Char(' ') + frequencyText(band->width()) + separator
-        + tr("centre %1").arg(frequencyText(band->centre())) + separator
-        + QStringLiteral("Q %1").arg(band->quality(), 0, 'g', 4) + separator
-        + cartesianText(band->decibels, TraceFormat::LogMagnitude);
+    return selected && m_traces.contains(selected->trace) ? Panel::bandwidthText(*m_model)
+                                                          : QString();
 }
 
 /// What is read of a marker: its frequency and its values.
 QStringList ReadOuts::textsOf(const Marker &marker) const
 {
-    const Marker *reference = m_model->referenceMarker(marker.trace);
-    const bool isReference = reference && reference->number == marker.number;
-    const MarkerReading reading = readMarker(*m_model, marker, isReference ? nullptr : reference);
+    const MarkerReading reading = readMarker(*m_model, marker);
     return QStringList(reading.frequency) + reading.values.mid(0, s_columns - 1);
-}
-
-/// The name of a marker, with a sign where it is a reference or read against one.
-QString ReadOuts::nameOf(const Marker &marker) const
-{
-    QString name = QStringLiteral("M%1").arg(marker.number);
-    const Marker *reference = m_model->referenceMarker(marker.trace);
-    if (!reference)
-        return name;
-    return reference->number == marker.number ? name + QLatin1Char('R') : QChar(0x0394) + name;
 }
 
 /// Makes room for the texts in their columns. Columns only grow: numbers that change in a live
@@ -233,9 +234,10 @@ int ReadOuts::columnsFrom(int first, int count, int width) const
 /// Places the readings: side by side where two fit, over several lines where one does not.
 void ReadOuts::arrange()
 {
-    const int width = qMax(1, viewport()->width());
+    const bool over = !m_room.isEmpty();
+    const int width = qMax(1, over ? m_room.width() - 2 : viewport()->width());
     const int room = width - 2 * s_margin;
-    int x = s_margin, y = 0, used = 0;
+    int x = s_margin, y = 0, used = 0, right = 0;
     for (int row = 0; row < m_markers.size(); ++row) {
         const QStringList &texts = m_texts.at(row);
         const int count = int(texts.size());
@@ -244,13 +246,14 @@ void ReadOuts::arrange()
             const int columns = columnsFrom(first, count, room);
             MarkerStatusItem *item = showLine(used++, row, first, columns);
             const int taken = item->preferredSingleLineWidth();
-            if (x > s_margin && (folds || x + taken > room)) {
+            if (x > s_margin && (folds || over || x + taken > room)) {
                 x = s_margin;
                 y += lineHeight();
             }
             item->setLayoutWidth(taken);
             item->move(x, y + (lineHeight() - item->height()) / 2);
             x += taken + s_margin;
+            right = qMax(right, x);
             first += columns;
         }
         if (folds)
@@ -263,14 +266,19 @@ void ReadOuts::arrange()
     }
     const bool banded = !m_bandwidth->text().isEmpty();
     if (banded) {
+        right = over ? qMax(right, qMin(width, s_widthOfABandwidth)) : width;
         y += lineHeight();
-        m_bandwidth->setGeometry(0, y, width, m_bandwidth->heightForWidth(width));
+        m_bandwidth->setGeometry(0, y, right, m_bandwidth->heightForWidth(right));
         y += m_bandwidth->height() - lineHeight();
     }
     m_bandwidth->setVisible(banded);
-    widget()->resize(width, y + lineHeight());
+    const QSize content(over ? right : width, y + lineHeight());
+    widget()->resize(content);
     m_hint->setVisible(m_markers.isEmpty());
-    m_hint->setGeometry(0, 0, width, qMax(lineHeight(), m_hint->heightForWidth(width)));
+    m_hint->setGeometry(0, 0, over ? m_hint->sizeHint().width() : width,
+                        qMax(lineHeight(), m_hint->heightForWidth(width)));
+    if (over)
+        fitOverlay(content);
 }
 
 /// The item of a line, with some of a marker's texts: columns from the first one on.
@@ -285,8 +293,8 @@ MarkerStatusItem *ReadOuts::showLine(int index, int row, int first, int columns)
     const auto width = [&](int column) {
         return column < columns ? m_widths.at(first + column) : 0;
     };
-    item->setText(first == 0 ? nameOf(marker) : QString(), texts.at(0), texts.value(1),
-                  texts.value(2), texts.value(3));
+    item->setText(first == 0 ? markerName(*m_model, marker) : QString(), texts.at(0),
+                  texts.value(1), texts.value(2), texts.value(3));
     item->setKeyColumnWidth(width(0));
     item->setNumLabelWidth(width(1), width(2), width(3));
     item->setSelectedStatus(first == 0 && m_model->isSelected(marker));
@@ -322,7 +330,8 @@ MarkerStatusItem *ReadOuts::item(int row) const
 void ReadOuts::resizeEvent(QResizeEvent *event)
 {
     QScrollArea::resizeEvent(event);
-    arrange();
+    if (m_room.isEmpty())
+        arrange();
     showSelected();
 }
 

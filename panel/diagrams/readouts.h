@@ -16,9 +16,10 @@ namespace Panel
     a dot, the others as their difference from their trace's reference marker where it has one; then
     the bandwidth around the selected one.
 
-    Rows keep their order. The size follows from the room alone, never from how many markers there
-    are, so that the diagram below does not move; what does not fit scrolls under a finger. A tap on
-    a row asks for its marker to be selected. */
+    Rows keep their order. Beside or below a diagram the size follows from the room alone, never from
+    how many markers there are, so that the diagram does not move; over a diagram it follows from the
+    rows. What does not fit scrolls under a finger. A tap on a row asks for its marker to be
+    selected. */
 class ReadOuts : public QScrollArea
 {
     Q_OBJECT
@@ -28,12 +29,14 @@ public:
 
     /// The traces whose markers are read.
     void setTraces(const QVector<int> &ids);
-    /// Takes a share of the height of a diagram of this size, one to four lines, for readings of so
-    /// many values.
-    void showInStrip(const QSize &diagram, int values);
+    /// Takes what a square diagram leaves of a height, in pixels, but two to four lines at least.
+    void showBelow(const QSize &diagram);
     /// Takes at most so much width beside a diagram, in pixels, within what lines can use; and its
     /// height.
-    void showInColumn(int width);
+    void showBeside(int width);
+    /// Lies over a diagram, a row for each marker, and takes at most this size, in pixels; whoever
+    /// owns the diagram moves it, at each overlaySizeChanged().
+    void showOver(const QSize &room);
     /// The markers on show, from the first row on.
     const QVector<Marker> &markers() const { return m_markers; }
     /// The first line of a marker's reading, or null.
@@ -41,6 +44,7 @@ public:
 
 Q_SIGNALS:
     void selectionRequested(int traceId, int number);
+    void overlaySizeChanged();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -57,11 +61,11 @@ private:
     void refreshTrace(int traceId);
     QString bandwidthText() const;
     QStringList textsOf(const Marker &marker) const;
-    QString nameOf(const Marker &marker) const;
     void widenColumns(const QStringList &texts);
     void forgetWidths();
     int columnsFrom(int first, int count, int width) const;
     void arrange();
+    void fitOverlay(const QSize &content);
     void showSelected();
     void showMore();
     MarkerStatusItem *showLine(int index, int row, int first, int columns);
@@ -76,6 +80,7 @@ private:
     QVector<Marker> m_markers;
     QVector<QStringList> m_texts; ///< of the markers
     QVector<Line> m_lines; ///< made when first needed, hidden when not
+    QSize m_room; ///< over a diagram; empty beside or below one
     QVector<int> m_widths; ///< of the columns, in pixels: frequency and three values
 };
 

@@ -10,6 +10,9 @@ namespace Panel
 namespace
 {
 
+/// How long and wide the arrow is, in pixels.
+constexpr double s_arrow = 8.0;
+
 /// Numbers with true minus signs.
 class Ticker : public QCPAxisTickerFixed
 {
@@ -25,7 +28,18 @@ protected:
 ValueAxis::ValueAxis(QCustomPlot *plot)
     : m_axis(plot->yAxis)
     , m_ticker(new Ticker)
+    , m_arrow(new QCPItemLine(plot))
 {
+    m_arrow->setLayer(QStringLiteral("axes"));
+    m_arrow->setSelectable(false);
+    m_arrow->setClipToAxisRect(false);
+    m_arrow->setHead({QCPLineEnding::esSpikeArrow, s_arrow, s_arrow});
+    m_arrow->end->setTypeX(QCPItemPosition::ptAxisRectRatio);
+    m_arrow->end->setAxisRect(plot->axisRect());
+    m_arrow->end->setTypeY(QCPItemPosition::ptPlotCoords);
+    m_arrow->end->setAxes(plot->xAxis, plot->yAxis);
+    m_arrow->start->setParentAnchor(m_arrow->end);
+    m_arrow->start->setCoords(-s_arrow, 0.0);
     m_axis->setTickLabelPadding(8);
     m_axis->grid()->setZeroLinePen(Qt::NoPen);
     m_axis->setNumberFormat(QStringLiteral("gb"));
@@ -41,6 +55,12 @@ void ValueAxis::write(const Trace &trace, int height)
     const int step = needed <= 1.0 ? 1 : needed <= 2.0 ? 2 : 5;
     m_ticker->setTickStep(step * trace.scale.perDivision);
     m_axis->setRange(bottom(trace.format, trace.scale), trace.scale.top);
+    m_arrow->end->setCoords(0.0, trace.scale.reference());
+}
+
+void ValueAxis::setArrowColor(const QColor &color)
+{
+    m_arrow->setPen(color);
 }
 
 } // namespace Panel

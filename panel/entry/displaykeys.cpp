@@ -31,6 +31,9 @@ DisplayKeys::DisplayKeys(PanelModel *model, const PanelKeys &keys, QObject *pare
     keys.grid->setChoices({tr("Impedance"), tr("Admittance"), tr("Both")});
     connect(keys.grid, &SoftKey::choicePicked, settings,
             [settings](int index) { settings->setGridMode(SmithChartPlot::GridMode(index)); });
+    keys.frequencyScale->setChoices({tr("Linear"), tr("Logarithmic")});
+    connect(keys.frequencyScale, &SoftKey::choicePicked, settings,
+            [settings](int index) { settings->setFrequencyScale(FrequencyScale(index)); });
     keys.density->setChoices({tr("Basic"), tr("Standard"), tr("Detailed"), tr("Automatic")});
     connect(keys.density, &SoftKey::choicePicked, settings,
             [settings](int index) { settings->setDensity(GridDensity(index)); });
@@ -62,6 +65,7 @@ void DisplayKeys::showSettings()
 {
     const ViewSettings *settings = m_model->viewSettings();
     m_keys.grid->setChoice(settings->gridMode());
+    m_keys.frequencyScale->setChoice(int(settings->frequencyScale()));
     m_keys.density->setChoice(int(settings->density()));
     // A preset has its own labels.
     const bool automatic = settings->density() == GridDensity::Automatic;
@@ -70,8 +74,8 @@ void DisplayKeys::showSettings()
     m_keys.vswrLimit->setChoice(ratios().choiceOf(settings->vswrLimit()));
     m_keys.pointer->setChoice(settings->onlyActiveTrace());
     const Trace *active = m_model->activeTrace();
-    for (SoftKey *key :
-         {m_keys.grid, m_keys.density, m_keys.pointer, m_keys.vswrCircle, m_keys.vswrLimit})
+    for (SoftKey *key : {m_keys.grid, m_keys.density, m_keys.pointer, m_keys.vswrCircle,
+                         m_keys.vswrLimit, m_keys.frequencyScale})
         key->setEnabled(active);
     m_keys.gridLabels->setEnabled(active && automatic);
     m_keys.whole->setEnabled(active && !m_model->zoom(m_model->diagramOf(active->id)).isWhole());

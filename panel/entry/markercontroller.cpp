@@ -11,6 +11,7 @@
 #include <panel/model/panelmodel.h>
 
 #include <widgets/menubutton.h>
+#include <widgets/switchbutton.h>
 
 #include <cmath>
 
@@ -32,13 +33,14 @@ enum MarkerTo {
     ToCenter,
     ToStart,
     ToStop,
-    ToReference, ///< the value at the top of the diagram
+    ToReference, ///< the value that the scale is about
     ToDelay, ///< the port is moved to where nothing is delayed
 };
 
-/// Searches that ask for a value first, behind those of Search.
-enum TargetSearch {
-    TargetLeft = 100,
+/// Searches behind those of Search: for several markers, and for a value that is asked for.
+enum FurtherSearch {
+    AllPeaks = 99,
+    TargetLeft,
     TargetRight,
 };
 
@@ -70,6 +72,7 @@ MarkerController::MarkerController(PanelModel *model, const PanelKeys &keys, Num
                                {int(Search::Minimum), tr("Minimum")},
                                {int(Search::PeakLeft), tr("Next peak left")},
                                {int(Search::PeakRight), tr("Next peak right")},
+                               {AllPeaks, tr("Highest peaks")},
                                {TargetLeft, tr("Value left\u2026")},
                                {TargetRight, tr("Value right\u2026")}});
     connect(keys.search, qOverload<int>(&MenuButton::menuItemClicked), this,
@@ -100,6 +103,19 @@ MarkerController::MarkerController(PanelModel *model, const PanelKeys &keys, Num
     connect(keys.bandwidth, &SoftKey::choicePicked, this, [this](int index) {
         m_model->viewSettings()->setBandwidthDecibels(bandwidths().valueOf(index));
     });
+
+    keys.track->setChoices({tr("Off"), tr("Maximum"), tr("Minimum")});
+    connect(keys.track, &SoftKey::choicePicked, this, [this](int index) {
+        if (const Marker *marker = m_model->selectedMarker())
+            m_model->setMarkerTracking(marker->trace, marker->number, Tracking(index));
+    });
+    keys.couple->setChoices({tr("Off"), tr("On")});
+    connect(keys.couple, &SoftKey::choicePicked, this,
+            [this](int index) { m_model->setMarkersCoupled(index == 1); });
+    connect(model, &PanelModel::markerModeChanged, this, &MarkerController::showMarkers);
+    connect(model, &PanelModel::markerTrackingChanged, this, &MarkerController::showMarkers);
+    connect(keys.markerTable, &SwitchButton::statusChanged, m_model->viewSettings(),
+            &ViewSettings::setMarkerTable);
 
     for (const auto signal : {&PanelModel::activeTraceChanged, &PanelModel::selectedMarkerChanged,
                               &PanelModel::tracesChanged})
@@ -148,17 +164,48 @@ void MarkerController::onSearchPicked(int command)
         editTarget(command == TargetLeft ? -1 : 1);
         return;
     }
+    if (command == AllPeaks) {
+        markPeaks(*trace);
+        return;
+    }
     const Marker *marker = m_model->selectedMarker();
     const int found = searchMarker(m_model->traceData(*trace), trace->format, Search(command),
                                    marker ? qMax(0.0, m_model->indexOf(*marker)) : 0.0);
     if (found < 0)
-        Q_EMIT said(tr("Trace %1 has no further peak of %2 that way.")
-                        .arg(trace->id)
-                        .arg(cartesianText(traits(trace->format).peakExcursion, trace->format)));
+        tellNoPeak(*trace);
     else if (marker)
         m_model->moveMarker(marker->trace, marker->number, found);
     else
         m_model->addMarker(trace->id, found);
+}
+
+void MarkerController::tellNoPeak(const Trace &trace)
+{
+    Q_EMIT said(tr("Trace %1 has no further peak of %2 that way.")
+                    .arg(trace.id)
+                    .arg(cartesianText(traits(trace.format).peakExcursion, trace.format)));
+}
+
+/// Puts the markers of a trace on its highest peaks, the first on the highest; those that are left
+/// over go.
+void MarkerController::markPeaks(const Trace &trace)
+{
+    const int id = trace.id;
+    const QVector<int> peaks =
+        highestPeaks(m_model->traceData(trace), trace.format, Markers::perTrace);
+    if (peaks.isEmpty()) {
+        tellNoPeak(trace);
+        return;
+    }
+    for (int number = 1; number <= Markers::perTrace; ++number) {
+        if (number > peaks.size())
+            m_model->removeMarker(id, number);
+        else if (m_model->marker(id, number))
+            m_model->moveMarker(id, number, peaks.at(number - 1));
+        else
+            m_model->addMarker(id, peaks.at(number - 1));
+    }
+    m_model->selectMarker(id, 1);
 }
 
 /// Sends the selected marker where the trace has the value of the last search, and asks for another
@@ -225,7 +272,7 @@ void MarkerController::onMarkerToPicked(int command)
         if (command == ToDelay)
             moveToZeroDelay(trace, index);
         else if (!trace.onSmithChart())
-            m_model->setTraceScale(trace.id, {trace.scale.perDivision, value});
+            m_model->setTraceScale(trace.id, trace.scale.withReference(value));
         return;
     }
     const Stimulus limits = m_model->limits(trace);
@@ -269,6 +316,10 @@ void MarkerController::showMarkers()
     keys.referenceMarker->setChoice(referenceIndex);
     keys.readout->setChoice(int(m_model->viewSettings()->readoutFormat()));
     keys.bandwidth->setChoice(bandwidths().choiceOf(m_model->viewSettings()->bandwidthDecibels()));
+    keys.track->setEnabled(selected);
+    keys.track->setChoice(selected ? int(selected->tracking) : 0);
+    keys.couple->setChoice(m_model->markersCoupled() ? 1 : 0);
+    keys.markerTable->setStatus(m_model->viewSettings()->markerTable());
     keys.marker->setEnabled(trace);
     keys.search->setEnabled(trace);
     keys.markerTo->setEnabled(selected);

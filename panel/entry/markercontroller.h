@@ -29,6 +29,8 @@ Q_SIGNALS:
 private:
     void onMarkerPicked(int command);
     void onSearchPicked(int command);
+    void tellNoPeak(const Trace &trace);
+    void markPeaks(const Trace &trace);
     void onMarkerToPicked(int command);
     void editTarget(int direction);
     void goToTarget(double target, double from, int direction);

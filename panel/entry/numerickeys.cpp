@@ -241,10 +241,10 @@ void NumericKeys::editScale(QWidget *anchor)
     edit(anchor, unit.isEmpty() ? tr("Scale/") : tr("Scale, %1/").arg(unit), adapter,
          {NumericDialog::Step125}, [=, id = trace->id](double value) {
              // The standing wave ratio begins at 1, wherever its scale ends.
-             const double top = format == TraceFormat::Vswr
-                 ? bottom(format, before) + traits(format).divisions * value
-                 : before.top;
-             m_model->setTraceScale(id, {value, top});
+             Scale scale = before.withDivision(value);
+             if (format == TraceFormat::Vswr)
+                 scale.top = bottom(format, before) + traits(format).divisions * value;
+             m_model->setTraceScale(id, scale);
          });
 }
 
@@ -270,11 +270,11 @@ void NumericKeys::editReference()
     UnitAdapter *adapter = valueAdapter(trace->format);
     const double farthest = farthestValue(trace->format);
     adapter->setRange(-farthest, farthest);
-    adapter->setRealValue(trace->scale.top);
-    const double division = trace->scale.perDivision;
-    edit(m_keys.reference, adapter, {division, division / 10.0},
-         [this, division, id = trace->id](double value) {
-             m_model->setTraceScale(id, {division, value});
+    const Scale before = trace->scale;
+    adapter->setRealValue(before.reference());
+    edit(m_keys.reference, adapter, {before.perDivision, before.perDivision / 10.0},
+         [this, before, id = trace->id](double value) {
+             m_model->setTraceScale(id, before.withReference(value));
          });
 }
 
@@ -335,8 +335,9 @@ void NumericKeys::showScale()
                                : cartesian ? divisionText(trace->format, trace->scale.perDivision)
                                            : zoomText(zoom.factor));
     m_keys.scale->setEnabled(trace);
-    m_keys.reference->setValue(cartesian ? cartesianReferenceText(trace->scale.top, trace->format)
-                                         : nothingText());
+    m_keys.reference->setValue(cartesian
+                                   ? cartesianReferenceText(trace->scale.reference(), trace->format)
+                                   : nothingText());
     m_keys.reference->setEnabled(cartesian);
     m_keys.zoom->setEnabled(trace);
     m_keys.zoom->setValue(trace ? QStringLiteral("%1 \u00d7").arg(zoom.factor, 0, 'f', 2)

@@ -72,6 +72,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.center = menu->addKey(Text::tr("Center"));
     keys.span = menu->addKey(Text::tr("Span"));
     keys.points = menu->addKey(Text::tr("Points"));
+    keys.frequencyScale = menu->addKey(Text::tr("Frequency axis"));
 
     menu->addPage(Text::tr("Trace"), Glyph::Trace);
     keys.trace = menu->addKey(Text::tr("Trace"));
@@ -91,6 +92,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     menu->addPage(Text::tr("Scale"), Glyph::Scale);
     keys.scale = menu->addKey(Text::tr("Scale"));
     keys.reference = menu->addKey(Text::tr("Reference"));
+    keys.referencePosition = menu->addKey(Text::tr("Reference position"));
     keys.autoScale = addMenu(menu, Text::tr("Autoscale"));
 
     menu->addPage(Text::tr("Marker"), Glyph::Marker);
@@ -101,6 +103,8 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.referenceMarker = menu->addKey(Text::tr("Reference"));
     keys.readout = menu->addKey(Text::tr("Read-out"));
     keys.bandwidth = menu->addKey(Text::tr("Bandwidth"));
+    std::tie(keys.track, keys.couple) = addPair(menu, Text::tr("Track"), Text::tr("Couple"));
+    keys.markerTable = addSwitch(menu, Text::tr("Table"));
 
     menu->addPage(Text::tr("Limits"), Glyph::Limits);
     keys.limitLines = menu->addKey(Text::tr("Limit lines"));

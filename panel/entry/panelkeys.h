@@ -21,6 +21,7 @@ struct PanelKeys {
     SoftKey *center;
     SoftKey *span;
     SoftKey *points;
+    SoftKey *frequencyScale; ///< of Cartesian diagrams
     // Trace
     SoftKey *trace; ///< which is active
     SoftKey *parameter; ///< that it shows, of its network
@@ -37,7 +38,8 @@ struct PanelKeys {
     SoftKey *impedance; ///< that the ports refer to
     // Scale
     SoftKey *scale;
-    SoftKey *reference; ///< the value at the top of a Cartesian diagram
+    SoftKey *reference; ///< the value that stays where it is when the scale changes
+    SoftKey *referencePosition; ///< where that is
     MenuButton *autoScale; ///< of one trace, or of all
     // Marker
     SoftKey *marker; ///< adds and removes
@@ -47,6 +49,9 @@ struct PanelKeys {
     SoftKey *referenceMarker;
     SoftKey *readout;
     SoftKey *bandwidth; ///< how far down, or up, the edges of a band are
+    SoftKey *track; ///< what the selected marker goes to by itself
+    SoftKey *couple; ///< whether markers of one number stand together
+    SwitchButton *markerTable;
     // Limits
     SoftKey *limitLines; ///< that the active trace must stay above or below
     SoftKey *vswrCircle; ///< a circle on the Smith charts, to read against

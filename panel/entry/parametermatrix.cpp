@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "parametermatrix.h"
 
+#include <panel/ground/dialogstage.h>
 #include <panel/model/network.h>
 
 #include <QGridLayout>
@@ -19,15 +20,12 @@ namespace
 /// A key, in pixels, and what lies between two.
 constexpr QSize s_key(64, 48);
 constexpr int s_gap = 6;
-constexpr int s_margin = 12;
-constexpr int s_titleHeight = 35;
 
 } // namespace
 
 ParameterMatrix::ParameterMatrix(int ports, int to, int from, QWidget *parent)
     : DraggableFramelessDialog(parent)
 {
-    setAttribute(Qt::WA_DeleteOnClose);
     setAccessibleName(tr("Parameter"));
     setWindowTitle(tr("Parameter"));
     setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
@@ -61,13 +59,13 @@ ParameterMatrix::ParameterMatrix(int ports, int to, int from, QWidget *parent)
     area->setWidget(keys);
     QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(s_margin, s_titleHeight + s_margin, s_margin, s_margin);
+    layout->setContentsMargins(dialogMargins(12));
     layout->addWidget(area);
 
     keys->adjustSize();
     const QMargins frame = contentsMargins() + layout->contentsMargins();
     const QSize needed = keys->size().grownBy(frame);
-    resize(needed.boundedTo(parent->size() - QSize(2 * s_margin, 2 * s_margin)));
+    resize(needed);
     if (current) {
         current->setChecked(true);
         current->setFocus();

@@ -6,6 +6,7 @@
 #include "numerickeys.h"
 #include "parametermatrix.h"
 #include "softkey.h"
+#include <panel/ground/dialogstage.h>
 #include <panel/ground/numbertext.h>
 #include <panel/model/panelmodel.h>
 
@@ -50,6 +51,7 @@ TraceController::TraceController(PanelModel *model, const PanelKeys &keys, Trace
     connect(bar, &TraceBar::activationRequested, model, &PanelModel::setActiveTrace);
     connect(bar, &TraceBar::editRequested, this, &TraceController::onEditRequested);
     connectKeys();
+    connect(m_model, &PanelModel::traceScaleChanged, this, &TraceController::showTrace);
     for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::activeTraceChanged})
         connect(model, signal, this, &TraceController::showTrace);
     connect(model, &PanelModel::limitsChanged, this, &TraceController::showTrace);
@@ -78,6 +80,10 @@ void TraceController::connectKeys()
     keys.autoScale->addMenuItem(FitAll, tr("All traces"));
     connect(keys.autoScale, qOverload<int>(&MenuButton::menuItemClicked), this,
             &TraceController::onAutoScalePicked);
+    connect(keys.referencePosition, &SoftKey::choicePicked, this, [this](int divisions) {
+        if (const Trace *trace = m_model->activeTrace())
+            m_model->setTraceScale(trace->id, trace->scale.withPosition(divisions));
+    });
     connect(keys.limitLines, &SoftKey::clicked, this, [this] {
         const Trace *trace = m_model->activeTrace();
         if (m_limitSheet)
@@ -139,7 +145,7 @@ void TraceController::editParameter(int traceId)
     auto *matrix = new ParameterMatrix(m_model->network(trace).ports, trace.to, trace.from, m_host);
     connect(matrix, &ParameterMatrix::picked, m_model,
             [this, traceId](int to, int from) { m_model->setTraceParameter(traceId, to, from); });
-    matrix->open();
+    DialogStage::show(matrix, m_host);
 }
 
 void TraceController::choose(QWidget *anchor, const QRect &place, const QStringList &choices,
@@ -159,6 +165,19 @@ void TraceController::choose(QWidget *anchor, const QRect &place, const QStringL
     popup->show();
 }
 
+/// Lists the divisions from the top to the bottom.
+void TraceController::showReferencePosition(const Trace *active)
+{
+    QStringList places{tr("Top")};
+    const bool cartesian = active && !active->onSmithChart();
+    for (int i = 1; cartesian && i < traits(active->format).divisions; ++i)
+        places << QString::number(i);
+    places << tr("Bottom");
+    m_keys.referencePosition->setChoices(places);
+    m_keys.referencePosition->setChoice(cartesian ? active->scale.position : -1);
+    m_keys.referencePosition->setEnabled(cartesian);
+}
+
 void TraceController::showTrace()
 {
     const PanelKeys &keys = m_keys;
@@ -174,6 +193,7 @@ void TraceController::showTrace()
     keys.trace->setChoice(index);
     keys.format->setChoice(active ? int(active->format) : -1);
     keys.visible->setStatus(active && active->visible);
+    showReferencePosition(active);
     const auto isPresent = [active](const LimitLine &limit) {
         return limit.format == active->format;
     };

@@ -15,6 +15,7 @@ namespace Panel
 class LimitSheet;
 class NumericKeys;
 class PanelModel;
+struct Trace;
 
 /// Answers the list of traces and the keys about the active one.
 class TraceController : public QObject
@@ -36,6 +37,7 @@ private:
     void choose(QWidget *anchor, const QRect &place, const QStringList &choices, int current,
                 const std::function<void(int)> &picked);
     void showTrace();
+    void showReferencePosition(const Trace *active);
 
     PanelModel *m_model;
     PanelKeys m_keys;

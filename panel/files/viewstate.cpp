@@ -57,6 +57,7 @@ QJsonObject written(const PanelModel &model, const Trace &trace)
         markers.append(QJsonObject{{"number"_key, marker.number},
                                    {"hertz"_key, marker.place.hertz},
                                    {"repeat"_key, marker.place.repeat},
+                                   {"tracking"_key, int(marker.tracking)},
                                    {"selected"_key, model.isSelected(marker)}});
     QJsonArray limits;
     for (const LimitLine &limit : trace.limits)
@@ -74,6 +75,7 @@ QJsonObject written(const PanelModel &model, const Trace &trace)
             {"format"_key, int(trace.format)},
             {"scale"_key, trace.scale.perDivision},
             {"top"_key, trace.scale.top},
+            {"position"_key, trace.scale.position},
             {"visible"_key, trace.visible},
             {"active"_key, active && active->id == trace.id},
             {"reference"_key, reference ? reference->number : 0},
@@ -165,13 +167,18 @@ void restoreTrace(PanelModel *model, int id, const QJsonObject &saved)
 {
     model->setTraceParameter(id, saved["to"_key].toInt(), saved["from"_key].toInt());
     model->setTraceFormat(id, TraceFormat(saved["format"_key].toInt()));
-    model->setTraceScale(id, {saved["scale"_key].toDouble(), saved["top"_key].toDouble()});
+    model->setTraceScale(id,
+                         {saved["scale"_key].toDouble(), saved["top"_key].toDouble(),
+                          saved["position"_key].toInt()});
     model->setSmoothing(id, saved["smoothing"_key].toDouble());
     model->setTraceVisible(id, saved["visible"_key].toBool());
     for (const QJsonValue value : saved["markers"_key].toArray()) {
         const QJsonObject marker = value.toObject();
         model->restoreMarker(id, marker["number"_key].toInt(),
                              {marker["hertz"_key].toDouble(), marker["repeat"_key].toInt()});
+        const int tracking = marker["tracking"_key].toInt();
+        model->setMarkerTracking(id, marker["number"_key].toInt(),
+                                 Tracking(qBound(0, tracking, trackingCount - 1)));
     }
     const QVector<Marker> markers = model->markersOf(id);
     for (const Marker &marker : markers) {
@@ -267,6 +274,9 @@ void restoreViewSettings(ViewSettings *view, const QJsonObject &state)
         view->setGridLabels(GridLabels(state["gridLabels"_key].toInt()));
     view->setVswrCircle(state["vswrCircle"_key].toDouble());
     view->setVswrLimit(state["vswrLimit"_key].toDouble());
+    view->setFrequencyScale(state["logarithmic"_key].toBool() ? FrequencyScale::Logarithmic
+                                                              : FrequencyScale::Linear);
+    view->setMarkerTable(state["markerTable"_key].toBool());
     view->setBandwidthDecibels(state["bandwidth"_key].toDouble());
     view->setReadoutFormat(ReadoutFormat(state["readout"_key].toInt()));
     view->setOnlyActiveTrace(state["onlyActiveTrace"_key].toBool());
@@ -310,6 +320,8 @@ QJsonObject viewState(const PanelModel &model)
         {"gridLabels"_key, int(view->gridLabels())},
         {"vswrCircle"_key, view->vswrCircle()},
         {"vswrLimit"_key, view->vswrLimit()},
+        {"logarithmic"_key, view->frequencyScale() == FrequencyScale::Logarithmic},
+        {"markerTable"_key, view->markerTable()},
         {"bandwidth"_key, view->bandwidthDecibels()},
         {"readout"_key, int(view->readoutFormat())},
         {"onlyActiveTrace"_key, view->onlyActiveTrace()},

@@ -105,8 +105,14 @@ Panel--LimitSheet { border: 1px solid @accent; border-radius: 4px; }
 Panel--LimitSheet QScrollArea, Panel--LimitSheet QScrollArea > QWidget > QWidget { background: transparent; }
 Panel--MessageBar[notice="true"] { border-color: @accent; }
 Panel--ReadOuts, Panel--ReadOuts > QWidget > QWidget { background: transparent; border: none; }
+Panel--ReadOuts[box="true"] { background: @veil; border: 1px solid @border; border-radius: 4px; }
 QLabel#more { padding: 0px 6px; background: @bar; border: 1px solid @border; border-radius: 4px; color: @text; }
 QPushButton#fitTrace { min-height: 36px; padding: 2px 12px; background: @bar; border: 1px solid @warning; border-radius: 4px; color: @text; }
+Panel--MarkerTable { background: @background; border-top: 1px solid @border; }
+Panel--MarkerTable QTableView { background: @background; selection-background-color: @button; }
+Panel--MarkerTable QTableView::item { padding: 0px 10px; border: none; }
+Panel--MarkerTable QTableView::item:selected { background: @button; }
+Panel--MarkerTable QHeaderView::section { background: @background; color: @dimText; border: none; border-bottom: 1px solid @border; padding: 0px 10px; }
 Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
 SwitchButton QPushButton#btnOff:checked:enabled { background-color: @border; border-color: @border; color: @text; }
 PopupWidget QListWidget::item { min-height: 44px; }
@@ -123,13 +129,16 @@ Panel--ParameterMatrix QScrollArea, Panel--ParameterMatrix QScrollArea > QWidget
 Panel--ParameterMatrix QPushButton#parameter:checked { border: 2px solid @accent; }
 Panel--SetupDialog QListWidget::item, Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @button; }
 )");
+    // What lies over a diagram lets it show faintly.
+    QColor veil = look.background;
+    veil.setAlphaF(0.8F);
     const std::pair<const char *, QColor> places[] = {
         {"@background", look.background}, {"@bar", look.bar},       {"@dimText", look.dimText},
         {"@border", look.border},         {"@button", look.button}, {"@warning", look.warning},
-        {"@accent", look.accent},         {"@text", look.text},
+        {"@accent", look.accent},         {"@text", look.text},     {"@veil", veil},
     };
     for (const auto &[place, color] : places)
-        sheet.replace(QLatin1String(place), color.name());
+        sheet.replace(QLatin1String(place), color.name(QColor::HexArgb));
     return sheet;
 }
 

@@ -287,34 +287,74 @@ ValueRange valueRange(const TraceData &data, TraceFormat format)
     return valueRange(cartesianLine(data, format, 1).values);
 }
 
+namespace
+{
+
+/// Points that lie in so many columns of the same number of points.
+struct Stretch {
+    int first;
+    int count;
+    int columns;
+
+    /// Whether columns have more points than can be told apart.
+    bool isDense() const { return count > s_pointsPerColumn * columns; }
+};
+
+/// Columns of a linear diagram share their points evenly; those of a logarithmic one are a stretch
+/// each.
+QVector<Stretch> stretches(const QVector<double> &frequencies, const Stretch &all, double from,
+                           double to, FrequencyScale scale)
+{
+    if (scale == FrequencyScale::Linear || !all.isDense() || !(from > 0.0) || !std::isfinite(to))
+        return {all};
+    QVector<Stretch> result;
+    const auto end = frequencies.begin() + all.first + all.count;
+    int first = all.first;
+    for (int column = 1; column <= all.columns && first < all.first + all.count; ++column) {
+        const double edge = from * std::pow(to / from, double(column) / all.columns);
+        const int next = column == all.columns
+            ? all.first + all.count
+            : int(std::lower_bound(frequencies.begin() + first, end, edge) - frequencies.begin());
+        if (next > first)
+            result.append({first, next - first, 1});
+        first = next;
+    }
+    return result;
+}
+
+} // namespace
+
 CartesianLine cartesianLine(const TraceData &data, TraceFormat format, int columns, double from,
-                            double to)
+                            double to, FrequencyScale scale)
 {
     const auto begin = data.frequencies.begin(), end = data.frequencies.end();
     const int first = qMax(0, int(std::lower_bound(begin, end, from) - begin) - 1);
     const int count =
         qMin(data.points(), int(std::upper_bound(begin, end, to) - begin) + 1) - first;
-    columns = qMax(1, columns);
+    const Stretch all{first, count, qMax(1, columns)};
     const Formula &row = formula(format);
 
     // Where each value is needed, all are computed; else those of the points that are kept.
-    const bool dense = count > s_pointsPerColumn * columns;
+    const bool dense = all.isDense();
     QVector<double> values;
     const bool averaged = data.averagedPoints > 1;
     const bool unordered = averaged || row.order == Formula::OfItsOwn;
     if (averaged || format == TraceFormat::UnwrappedPhase || (dense && unordered))
         values = formatValues(data, format);
     QVector<int> kept;
-    if (!dense) {
-        kept.resize(qMax(0, count));
-        std::iota(kept.begin(), kept.end(), first);
-    } else if (unordered) {
-        kept = extremesOf(values, first, count, columns);
-    } else {
-        kept = SmithRender::columnExtremes(
-            data.parameter.real, data.parameter.imag, first, count, columns,
-            row.order == Formula::Phase ? SmithRender::ColumnValue::Phase
-                                        : SmithRender::ColumnValue::Magnitude);
+    for (const Stretch &part : stretches(data.frequencies, all, from, to, scale)) {
+        if (!part.isDense()) {
+            const auto before = kept.size();
+            kept.resize(before + qMax(0, part.count));
+            std::iota(kept.begin() + before, kept.end(), part.first);
+        } else if (unordered) {
+            kept += extremesOf(values, part.first, part.count, part.columns);
+        } else {
+            kept += SmithRender::columnExtremes(
+                data.parameter.real, data.parameter.imag, part.first, part.count, part.columns,
+                row.order == Formula::Phase ? SmithRender::ColumnValue::Phase
+                                            : SmithRender::ColumnValue::Magnitude);
+        }
     }
 
     CartesianLine line;

@@ -40,13 +40,20 @@ QVector<double> formatValues(const TraceData &data, TraceFormat format);
 /// The value at a fractional index into the data, which must not be empty.
 double formatValueAt(const TraceData &data, double index, TraceFormat format);
 
+/// How a diagram spreads frequencies over its columns; a logarithm wants them above zero.
+enum class FrequencyScale {
+    Linear,
+    Logarithmic,
+};
+
 /*! The line of a trace for a diagram of so many pixel columns that shows a range of frequencies in
     Hz: the points within, and the one before and after.
     Where there are many more points than columns, each column keeps its first, lowest, highest and
     last point: the picture is the same, and the logarithm is taken of those alone. A phase that
     jumps by more than half a turn from one point to the next is not joined. */
 CartesianLine cartesianLine(const TraceData &data, TraceFormat format, int columns,
-                            double from = -qInf(), double to = qInf());
+                            double from = -qInf(), double to = qInf(),
+                            FrequencyScale scale = FrequencyScale::Linear);
 
 /// "−1.32 dB", "−123.4°" or "1.25"; a dash for what is no number.
 QString cartesianText(double value, TraceFormat format);

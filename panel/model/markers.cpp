@@ -67,7 +67,7 @@ Markers::Changes Markers::place(int trace, int number, const StimulusPlace &plac
     for (const int each : reach(trace)) {
         const Marker *marker = find(each, number);
         if (!marker) {
-            m_all.append({each, number, place});
+            m_all.append({each, number, place, Tracking::Off});
             changes.append({MarkerChange::Added, each, number});
         } else if (marker->place != place) {
             m_all[int(marker - m_all.constData())].place = place;
@@ -88,6 +88,15 @@ Markers::Changes Markers::remove(int trace, int number)
         changes.append({MarkerChange::Removed, each, number});
     }
     return changes;
+}
+
+bool Markers::setTracking(int trace, int number, Tracking tracking)
+{
+    const Marker *marker = find(trace, number);
+    if (!marker || marker->tracking == tracking)
+        return false;
+    m_all[int(marker - m_all.constData())].tracking = tracking;
+    return true;
 }
 
 bool Markers::select(int trace, int number)

@@ -9,11 +9,20 @@
 namespace Panel
 {
 
+/// What a marker goes to by itself, whenever its trace has other data.
+enum class Tracking {
+    Off,
+    Maximum,
+    Minimum,
+};
+constexpr int trackingCount = 3;
+
 /// A marked frequency of a trace. Where it stands in the data on show is derived from it.
 struct Marker {
     int trace = 0; ///< id of the trace
     int number = 0; ///< from 1 within the trace
-    StimulusPlace place; ///< where the user set it
+    StimulusPlace place; ///< where the user set it, or where it has gone
+    Tracking tracking = Tracking::Off;
 };
 
 /// What became of a marker.
@@ -64,6 +73,8 @@ public:
     /// Sets a marker, or moves the one of this number.
     Changes place(int trace, int number, const StimulusPlace &place);
     Changes remove(int trace, int number);
+    /// False for a marker that does not exist, and for what it does already.
+    bool setTracking(int trace, int number, Tracking tracking);
     /// A marker that does not exist, such as number 0, leaves none selected. True if another one is
     /// selected than before.
     bool select(int trace, int number);

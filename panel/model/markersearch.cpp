@@ -4,6 +4,7 @@
 
 #include "cartesian.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Panel
@@ -75,6 +76,19 @@ double searchTarget(const TraceData &data, TraceFormat format, double target, do
             return found;
     }
     return -1.0;
+}
+
+QVector<int> highestPeaks(const TraceData &data, TraceFormat format, int most)
+{
+    const QVector<double> values = formatValues(data, format);
+    QVector<int> peaks;
+    for (int i = nextPeak(values, traits(format).peakExcursion, 0, 1); i >= 0;
+         i = nextPeak(values, traits(format).peakExcursion, i, 1))
+        peaks.append(i);
+    std::stable_sort(peaks.begin(), peaks.end(),
+                     [&values](int a, int b) { return values.at(a) > values.at(b); });
+    peaks.resize(qMin(most, int(peaks.size())));
+    return peaks;
 }
 
 int searchMarker(const TraceData &data, TraceFormat format, Search search, double from)

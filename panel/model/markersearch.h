@@ -23,6 +23,9 @@ enum class Search {
     0.02 of a magnitude; traits() has all. Points without a value are no candidates. */
 int searchMarker(const TraceData &data, TraceFormat format, Search search, double from);
 
+/// The indices of the highest peaks, at most so many, the highest first; a peak as above.
+QVector<int> highestPeaks(const TraceData &data, TraceFormat format, int most);
+
 /*! The fractional index at which the values first pass a target, from an index on to the right (1) or
     to the left (-1), interpolated between the points; -1 where they do not. A place at the very start
     does not count, so that a search goes on from what it has found. On the Smith chart the magnitude

@@ -54,6 +54,7 @@ bool PanelModel::updateNetwork(int index, const Network &network)
     if (!m_networks.update(index, network))
         return false;
     Q_EMIT networkUpdated(index);
+    trackMarkers();
     return true;
 }
 
@@ -93,8 +94,10 @@ void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
 {
     const int network = trace.network;
     if (!sweeps()) {
-        if (m_networks.setStimulus(network, stimulus))
+        if (m_networks.setStimulus(network, stimulus)) {
             Q_EMIT stimulusChanged(network);
+            trackMarkers();
+        }
         return;
     }
     setSweep({stimulus.start, stimulus.stop, m_sweep.points});
@@ -106,7 +109,7 @@ void PanelModel::setCorrection(const Trace &trace, const Correction &correction)
     if (!m_networks.setCorrection(network, correction))
         return;
     Q_EMIT correctionChanged(network);
-    Q_EMIT tracesChanged();
+    tellTraces();
 }
 
 // Source

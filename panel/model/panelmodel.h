@@ -154,7 +154,8 @@ public:
     void setTraceFormat(int id, TraceFormat format);
     /// A parameter that the trace's network does not have is ignored.
     void setTraceParameter(int id, int to, int from);
-    /// What is not finite, or not above zero a division, is ignored.
+    /// What is not finite, not above zero a division, or has its reference outside the diagram, is
+    /// ignored.
     void setTraceScale(int id, const Scale &scale);
     /// Gives a trace over the frequency a scale at which all of its data on show are seen.
     void fitTrace(int id);
@@ -223,6 +224,8 @@ public:
     void selectMarker(int traceId, int number);
     /// A marker that does not exist, such as number 0, leaves the trace without a reference.
     void setReferenceMarker(int traceId, int number);
+    /// The marker goes there at once, and again with other data, until it is moved.
+    void setMarkerTracking(int traceId, int number, Tracking tracking);
     void setMarkersDiscrete(bool discrete);
     /// Gives all traces the same markers, those of the active one first.
     void setMarkersCoupled(bool coupled);
@@ -261,6 +264,8 @@ Q_SIGNALS:
     void markersExhausted(int traceId);
     void selectedMarkerChanged();
     void referenceMarkerChanged(int traceId);
+    /// A marker of a trace follows something else, or nothing.
+    void markerTrackingChanged(int traceId);
     /// Continuous or discrete, coupled or not: where markers stand may have changed.
     void markerModeChanged();
 
@@ -270,6 +275,8 @@ private:
     bool holdsIndex(int traceId, double index) const;
     void placeMarker(int traceId, int number, double index);
     void tell(const Markers::Changes &changes);
+    void tellTraces();
+    void trackMarkers();
 
     Networks m_networks;
     Traces m_traces;

@@ -3,6 +3,8 @@
 // The markers of the model.
 #include "panelmodel.h"
 
+#include "markersearch.h"
+
 #include <cmath>
 
 namespace Panel
@@ -62,8 +64,34 @@ void PanelModel::restoreMarker(int traceId, int number, const StimulusPlace &pla
 
 void PanelModel::moveMarker(int traceId, int number, double index)
 {
-    if (holdsIndex(traceId, index) && marker(traceId, number))
-        placeMarker(traceId, number, index);
+    if (!holdsIndex(traceId, index) || !marker(traceId, number))
+        return;
+    if (m_markers.setTracking(traceId, number, Tracking::Off))
+        Q_EMIT markerTrackingChanged(traceId);
+    placeMarker(traceId, number, index);
+}
+
+void PanelModel::setMarkerTracking(int traceId, int number, Tracking tracking)
+{
+    if (!m_markers.setTracking(traceId, number, tracking))
+        return;
+    Q_EMIT markerTrackingChanged(traceId);
+    trackMarkers();
+}
+
+/// Moves the markers that follow a value to where it is now.
+void PanelModel::trackMarkers()
+{
+    for (const Marker &marker : QVector<Marker>(m_markers.all())) {
+        const Trace *owner = trace(marker.trace);
+        if (marker.tracking == Tracking::Off || !owner)
+            continue;
+        const Search search =
+            marker.tracking == Tracking::Maximum ? Search::Maximum : Search::Minimum;
+        const int found = searchMarker(traceData(*owner), owner->format, search, 0.0);
+        if (found >= 0)
+            placeMarker(marker.trace, marker.number, found);
+    }
 }
 
 void PanelModel::placeMarker(int traceId, int number, double index)

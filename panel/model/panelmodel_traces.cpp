@@ -76,6 +76,13 @@ QString PanelModel::parameterName(const Trace &trace)
     return Panel::parameterName(trace.to, trace.from);
 }
 
+/// Traces show something else, and what follows their values goes along.
+void PanelModel::tellTraces()
+{
+    Q_EMIT tracesChanged();
+    trackMarkers();
+}
+
 int PanelModel::addTrace(int like, int wanted)
 {
     const int id = m_traces.addLike(like, wanted);
@@ -133,7 +140,7 @@ void PanelModel::setTraceVisible(int id, bool visible)
 void PanelModel::setTraceFormat(int id, TraceFormat format)
 {
     if (m_traces.setFormat(id, format, m_networks))
-        Q_EMIT tracesChanged();
+        tellTraces();
 }
 
 void PanelModel::setTraceParameter(int id, int to, int from)
@@ -143,7 +150,7 @@ void PanelModel::setTraceParameter(int id, int to, int from)
         return;
     if (stored)
         Q_EMIT memoryChanged(id);
-    Q_EMIT tracesChanged();
+    tellTraces();
 }
 
 void PanelModel::setTraceScale(int id, const Scale &scale)
@@ -158,15 +165,19 @@ void PanelModel::fitTrace(int id)
     if (!trace || trace->onSmithChart())
         return;
     const ValueRange range = valueRange(traceData(*trace), trace->format);
-    setTraceScale(id, fittingScale(trace->format, range.lowest, range.highest));
+    Scale scale = fittingScale(trace->format, range.lowest, range.highest);
+    scale.position = trace->scale.position;
+    setTraceScale(id, scale);
 }
 
 void PanelModel::storeMemory(int id)
 {
     const Trace *trace = this->trace(id);
     if (trace
-        && m_traces.storeMemory(id, Panel::traceData(network(*trace), trace->to, trace->from)))
+        && m_traces.storeMemory(id, Panel::traceData(network(*trace), trace->to, trace->from))) {
         Q_EMIT memoryChanged(id);
+        trackMarkers();
+    }
 }
 
 void PanelModel::clearMemory(int id)
@@ -176,7 +187,7 @@ void PanelModel::clearMemory(int id)
         return;
     Q_EMIT memoryChanged(id);
     if (calculated)
-        Q_EMIT tracesChanged();
+        tellTraces();
 }
 
 void PanelModel::setTraceMath(int id, TraceMath math)
@@ -185,13 +196,13 @@ void PanelModel::setTraceMath(int id, TraceMath math)
         return;
     if (math == TraceMath::Divided || math == TraceMath::Subtracted)
         fitTrace(id); // the result is nowhere near the data
-    Q_EMIT tracesChanged();
+    tellTraces();
 }
 
 void PanelModel::setSmoothing(int id, double percent)
 {
     if (m_traces.setSmoothing(id, percent))
-        Q_EMIT tracesChanged();
+        tellTraces();
 }
 
 } // namespace Panel

@@ -40,11 +40,30 @@ constexpr int readoutFormatCount = 6;
 /// The part of a trace's values that a Cartesian diagram shows.
 struct Scale {
     double perDivision = 1.0;
-    double top = 0.0; ///< the value at the diagram's upper edge, its reference
+    double top = 0.0; ///< the value at the diagram's upper edge
+    int position = 0; ///< of the reference, in divisions below that edge
+
+    /// The value that stays where it is when the division changes.
+    double reference() const { return top - position * perDivision; }
+    /// \name The same with one of them changed and the reference value at its position
+    ///@{
+    Scale withReference(double value) const
+    {
+        return {perDivision, value + position * perDivision, position};
+    }
+    Scale withDivision(double division) const
+    {
+        return {division, reference() + position * division, position};
+    }
+    Scale withPosition(int divisions) const
+    {
+        return {perDivision, reference() + divisions * perDivision, divisions};
+    }
+    ///@}
 
     friend bool operator==(const Scale &a, const Scale &b)
     {
-        return a.perDivision == b.perDivision && a.top == b.top;
+        return a.perDivision == b.perDivision && a.top == b.top && a.position == b.position;
     }
     friend bool operator!=(const Scale &a, const Scale &b) { return !(a == b); }
 };

@@ -194,7 +194,8 @@ bool Traces::setScale(int id, const Scale &scale)
 {
     Trace *trace = edit(id);
     if (!trace || trace->scale == scale || !std::isfinite(scale.top)
-        || !std::isfinite(scale.perDivision) || !(scale.perDivision > 0.0))
+        || !std::isfinite(scale.perDivision) || !(scale.perDivision > 0.0) || scale.position < 0
+        || scale.position > traits(trace->format).divisions)
         return false;
     trace->scale = scale;
     return true;

@@ -70,7 +70,8 @@ public:
     /// False for a parameter that the trace's network does not have. What was stored is dropped: it
     /// is nothing to compare with.
     bool setParameter(int id, int to, int from, const Networks &networks);
-    /// False for a scale that is not finite or not above zero a division.
+    /// False for a scale that is not finite, not above zero a division, or with its reference outside
+    /// the diagram.
     bool setScale(int id, const Scale &scale);
     bool storeMemory(int id, const TraceData &memory);
     /// The trace shows its data again.

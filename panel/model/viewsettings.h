@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "traceformat.h"
+#include "cartesian.h"
 
 #include <platform/layoutmanagerprofile.h>
 #include <smithchart/smithchartplot.h>
@@ -57,6 +57,13 @@ public:
     /// The fall or rise at whose ends a bandwidth is read of the selected marker, in dB, or 0.
     double bandwidthDecibels() const { return m_bandwidthDecibels; }
 
+    /// How Cartesian diagrams spread the frequencies.
+    FrequencyScale frequencyScale() const { return m_frequencyScale; }
+    /// Whether all markers are read in one table, in place of the read-outs of each diagram.
+    bool markerTable() const { return m_markerTable; }
+
+    void setFrequencyScale(FrequencyScale scale) { set(m_frequencyScale, scale); }
+    void setMarkerTable(bool shown) { set(m_markerTable, shown); }
     /// Anything but a finite number above 0 ends it.
     void setBandwidthDecibels(double decibels)
     {
@@ -102,6 +109,8 @@ private:
     double m_bandwidthDecibels = 0.0;
     ReadoutFormat m_readoutFormat = ReadoutFormat::Automatic;
     bool m_onlyActiveTrace = false;
+    FrequencyScale m_frequencyScale = FrequencyScale::Linear;
+    bool m_markerTable = false;
 };
 
 } // namespace Panel

@@ -3,6 +3,7 @@
 #include "filedialog.h"
 
 #include <panel/files/samples.h>
+#include <panel/ground/dialogstage.h>
 #include <panel/ground/elidedlabel.h>
 #include <panel/ground/icons.h>
 
@@ -40,13 +41,16 @@ QString fileSize(qint64 bytes)
 } // namespace
 
 FileDialog::FileDialog(QWidget *parent)
-    : QDialog(parent)
+    : DraggableFramelessDialog(parent)
     , m_path(new ElidedLabel(Qt::ElideLeft))
     , m_hint(new QLabel)
     , m_list(new QListWidget)
 {
+    setAccessibleName(tr("Open Touchstone files"));
     setWindowTitle(tr("Open Touchstone files"));
+    setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
     auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(dialogMargins(12));
 
     auto *places = new QHBoxLayout;
     m_up = addButton(places, tr("\u2191 Up"), "up");

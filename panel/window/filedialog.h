@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QDialog>
+#include <controls/draggableframelessdialog.h>
 
 class QLabel;
 class QListWidget;
@@ -14,7 +14,7 @@ namespace Panel
 
 /*! Picks Touchstone files with a finger: tall rows, one tap for a folder or to pick and unpick a
    file, and the places one goes to most. It only picks; reading the files is for whoever asked. */
-class FileDialog : public QDialog
+class FileDialog : public Controls::DraggableFramelessDialog
 {
     Q_OBJECT
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helpdialog.h"
 
+#include <panel/ground/dialogstage.h>
+
 #include <QGridLayout>
 #include <QLabel>
 
@@ -15,7 +17,7 @@ HelpDialog::HelpDialog(QWidget *parent)
     setWindowTitle(tr("Keys"));
     setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
     auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(16, 16 + 35, 16, 16);
+    grid->setContentsMargins(dialogMargins(16));
     grid->setHorizontalSpacing(24);
     grid->setVerticalSpacing(5);
     const std::pair<QString, QString> rows[] = {

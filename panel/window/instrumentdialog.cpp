@@ -3,6 +3,7 @@
 #include "instrumentdialog.h"
 
 #include "sweepbar.h"
+#include <panel/ground/dialogstage.h>
 #include <panel/link/linkaddress.h>
 #include <panel/link/serialwire.h>
 #include <panel/model/panelmodel.h>
@@ -64,7 +65,7 @@ InstrumentDialog::InstrumentDialog(PanelModel *model, const SweepBar *bar, QWidg
     setWindowTitle(tr("Instruments"));
     setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 12 + 35, 16, 12);
+    column->setContentsMargins(dialogMargins(12));
     m_state->setWordWrap(true);
     m_state->setTextFormat(Qt::PlainText);
     m_state->setAccessibleName(tr("State"));

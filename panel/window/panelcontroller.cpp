@@ -15,6 +15,7 @@
 
 #include <panel/diagrams/diagrams.h>
 #include <panel/diagrams/diagramview.h>
+#include <panel/diagrams/markertable.h>
 #include <panel/entry/displaykeys.h>
 #include <panel/entry/markercontroller.h>
 #include <panel/entry/mathkeys.h>
@@ -26,6 +27,7 @@
 #include <panel/files/filecontroller.h>
 #include <panel/files/history.h>
 #include <panel/files/setups.h>
+#include <panel/ground/dialogstage.h>
 #include <panel/ground/languages.h>
 #include <panel/link/linksource.h>
 #include <panel/model/panelmodel.h>
@@ -146,6 +148,8 @@ void PanelController::connectKeys()
     showSave();
     keys.settings->setValue(QStringLiteral("\u2026"));
 
+    connect(m_window->markerTable(), &MarkerTable::selectionRequested, m_model,
+            &PanelModel::selectMarker);
     connect(m_window->themeButton(), &QAbstractButton::clicked, Controls::ThemeManager::instance(),
             &Controls::ThemeManager::toggleTheme);
     connect(m_window->screenshotButton(), &QAbstractButton::clicked, this,
@@ -250,7 +254,10 @@ void PanelController::tellState()
 void PanelController::addShortcuts()
 {
     const auto add = [this](const QKeySequence &keys, auto action) {
-        connect(new QShortcut(keys, m_window), &QShortcut::activated, this, action);
+        connect(new QShortcut(keys, m_window), &QShortcut::activated, this, [this, action] {
+            if (!DialogStage::isOccupied(m_window))
+                action();
+        });
     };
     const auto ctrl = [](Qt::Key key) { return QKeySequence(int(Qt::CTRL) | int(key)); };
     add(QKeySequence::Undo, [this] { m_history->undo(); });
@@ -272,46 +279,39 @@ void PanelController::addShortcuts()
 void PanelController::showFileDialog()
 {
     auto *dialog = new FileDialog(m_window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFolder(m_dialogFolder.isEmpty() ? m_files->folder() : m_dialogFolder);
-    const QSize room = m_window->size() - QSize(80, 40);
-    dialog->resize(QSize(640, 560).boundedTo(room));
+    dialog->resize(640, 560);
     connect(dialog, &QDialog::accepted, m_files,
             [this, dialog] { m_files->loadFiles(dialog->pickedFiles()); });
     connect(dialog, &QDialog::finished, this,
             [this, dialog] { m_dialogFolder = dialog->folder(); });
-    dialog->open();
+    DialogStage::show(dialog, m_window);
 }
 
 void PanelController::showSettings()
 {
     auto *dialog = new SettingsDialog(m_model, m_window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->open();
+    DialogStage::show(dialog, m_window);
 }
 
 void PanelController::showSetups()
 {
     auto *dialog = new SetupDialog(m_setups, m_window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->open();
+    DialogStage::show(dialog, m_window);
 }
 
 void PanelController::showHelp()
 {
     auto *dialog = new HelpDialog(m_window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->open();
+    DialogStage::show(dialog, m_window);
 }
 
 void PanelController::showInstruments()
 {
     auto *dialog = new InstrumentDialog(m_model, m_window->sweepBar(), m_window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &InstrumentDialog::picked, m_model, &PanelModel::setInstrument);
-    const QSize room = m_window->size() - QSize(60, 20);
-    dialog->resize(QSize(620, 560).boundedTo(room));
-    dialog->open();
+    dialog->resize(620, 560);
+    DialogStage::show(dialog, m_window);
 }
 
 void PanelController::takeScreenshot()

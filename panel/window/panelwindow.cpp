@@ -8,6 +8,7 @@
 #include "timingline.h"
 #include <panel/diagrams/chartgestures.h>
 #include <panel/diagrams/diagrams.h>
+#include <panel/diagrams/markertable.h>
 #include <panel/entry/softkey.h>
 #include <panel/entry/softkeymenu.h>
 #include <panel/entry/tracebar.h>
@@ -68,6 +69,7 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     , m_model(model)
     , m_traceBar(new TraceBar(model))
     , m_diagrams(new Diagrams(model))
+    , m_markerTable(new MarkerTable(model))
     , m_sweepBar(new SweepBar(model))
     , m_timingLine(new TimingLine(m_diagrams))
     , m_softKeys(new SoftKeyMenu)
@@ -78,6 +80,7 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     auto *diagramColumn = new QVBoxLayout;
     diagramColumn->setSpacing(0);
     diagramColumn->addWidget(makeDiagrams(), 1);
+    diagramColumn->addWidget(m_markerTable);
     diagramColumn->addWidget(m_timingLine);
     diagramColumn->addWidget(m_sweepBar);
 
@@ -224,6 +227,7 @@ void PanelWindow::resizeEvent(QResizeEvent *event)
     QMainWindow::resizeEvent(event);
     // Traces first; the diagrams name the file too.
     m_fileName->setVisible(width() > 900);
+    m_markerTable->setRoom(height());
 }
 
 /// An open padlock locks, a closed one tells that it has.

@@ -15,6 +15,7 @@ class QToolButton;
 namespace Panel
 {
 
+class MarkerTable;
 class MessageBar;
 class PanelLock;
 class PanelModel;
@@ -42,6 +43,7 @@ public:
     Diagrams *diagrams() const { return m_diagrams; }
     SmithView *smithView() const;
     CartesianView *cartesianView() const;
+    MarkerTable *markerTable() const { return m_markerTable; }
     TraceBar *traceBar() const { return m_traceBar; }
     MessageBar *messageBar() const { return m_messageBar; }
 
@@ -81,6 +83,7 @@ private:
     TraceBar *m_traceBar;
     MessageBar *m_messageBar;
     Diagrams *m_diagrams;
+    MarkerTable *m_markerTable;
     SweepBar *m_sweepBar;
     TimingLine *m_timingLine;
     QStackedWidget *m_pages;

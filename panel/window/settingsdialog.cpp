@@ -4,6 +4,7 @@
 
 #include "exports.h"
 
+#include <panel/ground/dialogstage.h>
 #include <panel/ground/languages.h>
 #include <panel/model/panelmodel.h>
 
@@ -46,7 +47,7 @@ SettingsDialog::SettingsDialog(PanelModel *model, QWidget *parent)
     setAccessibleName(tr("Settings"));
     setWindowTitle(tr("Settings"));
     setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
-    m_form->setContentsMargins(16, 16 + 35, 16, 16);
+    m_form->setContentsMargins(dialogMargins(16));
     m_form->setHorizontalSpacing(24);
     m_form->setVerticalSpacing(8);
     addTheme();
@@ -108,8 +109,6 @@ void SettingsDialog::addMarkerModes()
 {
     connect(addSwitch(tr("Markers on measured points only"), m_model->markersDiscrete()),
             &SwitchButton::statusChanged, m_model, &PanelModel::setMarkersDiscrete);
-    connect(addSwitch(tr("Markers coupled over all traces"), m_model->markersCoupled()),
-            &SwitchButton::statusChanged, m_model, &PanelModel::setMarkersCoupled);
 }
 
 void SettingsDialog::addFolder()
@@ -132,15 +131,14 @@ void SettingsDialog::showFolder()
 
 void SettingsDialog::pickFolder()
 {
-    // Opened, not executed: the panel may go while it is on screen.
     auto *dialog =
         new QFileDialog(this, tr("Saved files go to"), folderForExports(*m_model->preferences()));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
     connect(dialog, &QFileDialog::fileSelected, m_model->preferences(),
             &Preferences::setExportFolder);
-    dialog->open();
+    DialogStage::show(dialog, this);
 }
 
 } // namespace Panel

@@ -3,6 +3,7 @@
 #include "setupdialog.h"
 
 #include <panel/files/setups.h>
+#include <panel/ground/dialogstage.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -19,8 +20,6 @@ namespace
 {
 
 constexpr int s_keyHeight = 48;
-constexpr int s_dialogMargin = 12;
-constexpr int s_titleHeight = 35;
 
 } // namespace
 
@@ -38,8 +37,7 @@ SetupDialog::SetupDialog(Setups *setups, QWidget *parent)
     setWindowTitle(tr("Set-ups"));
     setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(s_dialogMargin, s_titleHeight + s_dialogMargin, s_dialogMargin,
-                               s_dialogMargin);
+    column->setContentsMargins(dialogMargins(12));
     m_list->setAccessibleName(tr("Set-ups"));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);

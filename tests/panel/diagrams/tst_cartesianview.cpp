@@ -278,6 +278,41 @@ private Q_SLOTS:
         QVERIFY(is("1 GHz", "2.5 GHz \u00b7 300 MHz/", "4 GHz"));
     }
 
+    void logarithmicAxisHasRoundFrequencies()
+    {
+        Desk desk(QSize(1280, 800));
+        Network network = slope(1001, 0.0, 10e9); // of which the first has no logarithm
+        desk.show({network});
+        desk.model.setActiveTrace(3);
+        desk.model.viewSettings()->setFrequencyScale(FrequencyScale::Logarithmic);
+        Desk::settle();
+        QCOMPARE(desk.frequencies().first(), "10 MHz"_s);
+        QVERIFY2(desk.frequencies().contains("1 GHz"_s),
+                 qPrintable(desk.frequencies().join(" | "_s)));
+        const QCPAxis *axis = desk.view()->plot()->xAxis;
+        const QCPRange whole = axis->range();
+        // A decade is as wide as another, and the middle of the zoom is that of the screen.
+        QVERIFY(qAbs(axis->coordToPixel(1e8) - axis->coordToPixel(1e7) - axis->coordToPixel(1e9)
+                     + axis->coordToPixel(1e8))
+                < 0.01);
+        const QPointF middle = desk.view()->plot()->axisRect()->rect().center();
+        const double there = desk.view()->coordinates(middle).x();
+        const Zoom zoom = desk.view()->zoomedAt(middle, 3.0);
+        desk.model.setZoom(desk.view()->id(), zoom);
+        Desk::settle();
+        desk.checkRules();
+        QVERIFY(qAbs(desk.view()->coordinates(middle).x() / there - 1.0) < 1e-6);
+        QVERIFY(qAbs(3.0 * std::log(axis->range().upper / axis->range().lower)
+                         / std::log(whole.upper / whole.lower)
+                     - 1.0)
+                < 1e-6);
+        // A finger that pulls to the left comes to higher frequencies.
+        desk.model.setZoom(desk.view()->id(),
+                           desk.view()->movedTo({there, 0.0}, middle - QPointF(50.0, 0.0)));
+        Desk::settle();
+        QVERIFY(qAbs(axis->coordToPixel(there) - middle.x() + 50.0) < 0.5);
+    }
+
     /// No two traces look alike, whichever file they are of.
     void tracesOfTwoFilesDiffer()
     {

@@ -290,7 +290,7 @@ private Q_SLOTS:
                 }
             }
             QStringList texts;
-            const auto labels = readOuts->item(0)->findChildren<QLabel *>();
+            const auto labels = readOuts->findChildren<QLabel *>();
             for (const QLabel *label : labels)
                 texts << label->text();
             const Trace &trace = *desk.model.trace(3);

@@ -155,6 +155,9 @@ private Q_SLOTS:
         QCOMPARE(find(Search::PeakLeft, 5), 1);
         QCOMPARE(find(Search::PeakRight, 7), -1);
         QCOMPARE(searchMarker({}, TraceFormat::Vswr, Search::Maximum, 0), -1);
+        QCOMPARE(highestPeaks(values, TraceFormat::Smith, 6), (QVector<int>{6, 1}));
+        QCOMPARE(highestPeaks(values, TraceFormat::Smith, 1), (QVector<int>{6}));
+        QVERIFY(highestPeaks({}, TraceFormat::Smith, 6).isEmpty());
         QCOMPARE(searchMarker(values, TraceFormat::LogMagnitude, Search::PeakRight, 0), 1);
     }
 };

@@ -93,6 +93,30 @@ private Q_SLOTS:
             }
         }
     }
+
+    /// Each decade of a logarithmic diagram has its share of the points, and their extremes.
+    void thinsByDecades()
+    {
+        TraceData data;
+        for (int i = 1; i <= 1000000; ++i) {
+            data.frequencies << 1e3 * i;
+            data.parameter.real << (i == 5 || i == 777777 ? 1.0 : 0.1);
+            data.parameter.imag << 0.0;
+        }
+        const CartesianLine line = cartesianLine(data, TraceFormat::LinearMagnitude, 600, 1e3, 1e9,
+                                                 FrequencyScale::Logarithmic);
+        QVERIFY(line.values.size() <= 4 * 600);
+        QVERIFY(std::is_sorted(line.frequencies.begin(), line.frequencies.end()));
+        for (double decade = 1e3; decade < 1e9; decade *= 10.0) {
+            const auto inside =
+                std::count_if(line.frequencies.begin(), line.frequencies.end(), [=](double hertz) {
+                    return hertz >= decade && hertz < 10.0 * decade;
+                });
+            QVERIFY2(inside >= (decade < 1e5 ? 9 : 100), qPrintable(QString::number(decade)));
+        }
+        QVERIFY(line.frequencies.contains(5e3) && line.frequencies.contains(777777e3));
+        QCOMPARE(std::count(line.values.begin(), line.values.end(), 1.0), 2);
+    }
 };
 
 QTEST_GUILESS_MAIN(CartesianTest)

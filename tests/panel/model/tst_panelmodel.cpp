@@ -227,7 +227,7 @@ private Q_SLOTS:
         show(752.4e9, 752.4e9); // a slip of the finger
         QCOMPARE(index(model, 1, 1), -1.0);
         QCOMPARE(model.hertzOf(*model.marker(1, 1)), 75e9);
-        const MarkerReading reading = readMarker(model, *model.marker(1, 1), nullptr);
+        const MarkerReading reading = readMarker(model, *model.marker(1, 1));
         QCOMPARE(reading.frequency, "75.000 GHz"_s);
         QCOMPARE(reading.values.first(), nothingText());
         model.setMarkersDiscrete(true);

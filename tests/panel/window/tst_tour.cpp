@@ -163,9 +163,19 @@ private Q_SLOTS:
         desk.press(Qt::Key_F1);
         QPointer<QDialog> help = desk.window.findChild<HelpDialog *>();
         QVERIFY(help && help->isVisible());
+        // It is in the window, and the keys are its own.
+        QCOMPARE(help->window(), &desk.window);
+        const Zoom before = desk.model.zoom({true, 0});
+        for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Tab, Qt::Key_F1, Qt::Key_Plus})
+            desk.press(key);
+        QVERIFY(desk.model.zoom({true, 0}) == before);
+        QCOMPARE(desk.window.findChildren<HelpDialog *>().size(), 1);
         QTest::keyClick(help.data(), Qt::Key_Escape);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(!help);
+        QVERIFY(!help && desk.window.focusWidget());
+        desk.press(Qt::Key_Plus);
+        QVERIFY(desk.model.zoom({true, 0}) != before);
+        desk.press(Qt::Key_0);
 
         desk.model.addMarker(1, 10.5);
         desk.click(desk.keys().settings);
@@ -176,13 +186,14 @@ private Q_SLOTS:
         const auto switches = settings->findChildren<SwitchButton *>();
         for (const SwitchButton *each : switches)
             mouseClick(each->findChild<QAbstractButton *>("btnOn"_s));
-        QVERIFY(desk.model.markersDiscrete() && desk.model.markersCoupled());
-        // Half-way is rounded upwards, and every trace has the marker now.
-        for (const Trace &trace : desk.model.traces())
-            QCOMPARE(desk.index(trace.id, 1), 11.0);
+        QVERIFY(desk.model.markersDiscrete());
         mouseClick(settings->findChild<QAbstractButton *>("draggableDialogCloseButton"_s));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!settings);
+        // Half-way is rounded upwards, and every trace has the marker now.
+        desk.pick(desk.keys().couple, 1);
+        for (const Trace &trace : desk.model.traces())
+            QCOMPARE(desk.index(trace.id, 1), 11.0);
 
         const auto *layout = desk.keys().layout->findChild<QComboBox *>();
         desk.window.softKeys()->showKey(layout);
@@ -192,6 +203,7 @@ private Q_SLOTS:
         QTest::keyClick(QApplication::focusWindow(), Qt::Key_Return);
         Desk::settle();
         QCOMPARE(desk.window.diagrams()->views().size(), 4);
+        desk.press(Qt::Key_F1); // and the window goes with it
     }
 
     void listsTakeKeysAndFitTheScreen()
