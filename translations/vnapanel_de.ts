@@ -1610,6 +1610,10 @@
         <source>Tr%1</source>
         <translation>Tr%1</translation>
     </message>
+    <message>
+        <source>Add a trace</source>
+        <translation>Kurve hinzufügen</translation>
+    </message>
 </context>
 <context>
     <name>Panel::TraceController</name>

@@ -1603,6 +1603,10 @@
         <source>Tr%1</source>
         <translation>Tr%1</translation>
     </message>
+    <message>
+        <source>Add a trace</source>
+        <translation>添加轨迹</translation>
+    </message>
 </context>
 <context>
     <name>Panel::TraceController</name>

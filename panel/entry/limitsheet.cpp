@@ -210,9 +210,9 @@ void LimitSheet::change(int row, Change apply)
     setLines(changed);
 }
 
-QPushButton *LimitSheet::addKey(const QString &text, const QString &name, int row, int column)
+QPushButton *LimitSheet::addKey(const QString &name, int row, int column)
 {
-    auto *key = new QPushButton(text);
+    auto *key = new QPushButton;
     key->setAccessibleName(QStringLiteral("%1 %2").arg(name).arg(row + 1));
     key->setAutoDefault(false);
     key->setMinimumHeight(s_keyHeight);
@@ -220,13 +220,11 @@ QPushButton *LimitSheet::addKey(const QString &text, const QString &name, int ro
     return key;
 }
 
-void LimitSheet::addRow(int row, const LimitLine &limit)
+void LimitSheet::addRow(int row)
 {
     const auto addNumber = [&](Column column, const QString &name, double LimitLine::*number) {
         const bool isFrequency = column == Start || column == Stop;
-        QPushButton *key = addKey(isFrequency ? frequencyText(limit.*number)
-                                              : cartesianText(limit.*number, m_format),
-                                  name, row, column);
+        QPushButton *key = addKey(name, row, column);
         connect(key, &QPushButton::clicked, this, [=] {
             // The keypad may outlive the sheet, which leaves with its trace.
             const auto apply = [self = QPointer<LimitSheet>(this), row, number](double value) {
@@ -239,14 +237,15 @@ void LimitSheet::addRow(int row, const LimitLine &limit)
                 m_numbers->editValue(m_rows, name, m_format, lines().at(row).*number, apply);
         });
     };
-    QPushButton *side = addKey(limit.upper ? tr("below") : tr("above"), tr("Side"), row, Side);
+    QPushButton *side = addKey(tr("Side"), row, Side);
     connect(side, &QPushButton::clicked, this,
             [=] { change(row, [](LimitLine &line) { line.upper = !line.upper; }); });
     addNumber(Start, tr("Start"), &LimitLine::start);
     addNumber(StartValue, tr("Value at start"), &LimitLine::startValue);
     addNumber(Stop, tr("Stop"), &LimitLine::stop);
     addNumber(StopValue, tr("Value at stop"), &LimitLine::stopValue);
-    QPushButton *remove = addKey(QStringLiteral("\u00d7"), tr("Remove"), row, RemoveKey);
+    QPushButton *remove = addKey(tr("Remove"), row, RemoveKey);
+    remove->setText(QStringLiteral("\u00d7"));
     remove->setFixedWidth(s_keyHeight);
     connect(remove, &QPushButton::clicked, this, [=] {
         QVector<LimitLine> left = lines();
@@ -255,9 +254,32 @@ void LimitSheet::addRow(int row, const LimitLine &limit)
     });
 }
 
-/// Rows as there are lines; the focus stays in its field.
+/// Texts of the rows that are there already.
+void LimitSheet::updateTexts(const QVector<LimitLine> &all)
+{
+    for (int row = 0; row < all.size(); ++row) {
+        const LimitLine &limit = all.at(row);
+        const auto setText = [this, row](Column column, const QString &text) {
+            static_cast<QPushButton *>(m_grid->itemAtPosition(row, column)->widget())
+                ->setText(text);
+        };
+        setText(Side, limit.upper ? tr("below") : tr("above"));
+        setText(Start, frequencyText(limit.start));
+        setText(StartValue, cartesianText(limit.startValue, m_format));
+        setText(Stop, frequencyText(limit.stop));
+        setText(StopValue, cartesianText(limit.stopValue, m_format));
+    }
+}
+
+/// Rows as there are lines. Keys that are needed again stay, so that the focus returns to them from
+/// the keypad.
 void LimitSheet::rebuild()
 {
+    if (m_grid->count() == lines().size() * (RemoveKey + 1)) {
+        updateTexts(lines());
+        showCount();
+        return;
+    }
     const int focused = m_grid->indexOf(focusWidget());
     while (QLayoutItem *item = m_grid->takeAt(0)) {
         if (item->widget()) {
@@ -268,14 +290,22 @@ void LimitSheet::rebuild()
     }
     const QVector<LimitLine> all = lines();
     for (int row = 0; row < all.size(); ++row)
-        addRow(row, all.at(row));
+        addRow(row);
     m_grid->setRowStretch(LimitLine::perTrace, 1);
-    m_hint->setVisible(all.isEmpty());
-    m_clear->setEnabled(!all.isEmpty());
-    m_add->setEnabled(m_model->trace(m_trace)->limits.size() < LimitLine::perTrace);
+    updateTexts(all);
+    showCount();
     QLayoutItem *item = focused < 0 ? nullptr : m_grid->itemAt(focused);
     if (item && item->widget())
         item->widget()->setFocus();
+}
+
+/// What can be done with as many lines as there are.
+void LimitSheet::showCount()
+{
+    const bool none = lines().isEmpty();
+    m_hint->setVisible(none);
+    m_clear->setEnabled(!none);
+    m_add->setEnabled(m_model->trace(m_trace)->limits.size() < LimitLine::perTrace);
 }
 
 } // namespace Panel

@@ -39,9 +39,11 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    QPushButton *addKey(const QString &text, const QString &name, int row, int column);
-    void addRow(int row, const LimitLine &limit);
+    QPushButton *addKey(const QString &name, int row, int column);
+    void addRow(int row);
+    void updateTexts(const QVector<LimitLine> &all);
     void rebuild();
+    void showCount();
     void addLine();
     void followTrace();
     QString title() const;

@@ -13,11 +13,12 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScroller>
+#include <QToolButton>
 
 namespace Panel
 {
 
-/// One trace: filled with its colour when active, dashed and pale when hidden. Where there are
+/// One trace: framed and tinted with its colour when active, dashed and pale when hidden. Where there are
 /// several files it shows its own below, and how its line is drawn.
 class TraceButton : public QAbstractButton
 {
@@ -97,7 +98,7 @@ public:
     QSize sizeHint() const override
     {
         return {qMax(width(shownFields()), fileWidth()),
-                qMax(fontMetrics().height() + 14, 32) + fileHeight()};
+                qMax(fontMetrics().height() + fileHeight() + 10, s_height)};
     }
 
 protected:
@@ -125,17 +126,24 @@ protected:
         QColor color = look.trace(m_traceId);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        // Around a button filled with its own colour another one tells of the focus.
+        // Around the frame of an active trace another colour tells of the focus.
         const QColor focused = isChecked() ? look.text : color;
-        QPen edge(hasFocus() ? focused : isChecked() ? color : look.border, hasFocus() ? 2.5 : 1.0);
+        QPen edge(hasFocus()        ? focused
+                      : isChecked() ? color
+                                    : look.border,
+                  hasFocus()        ? 2.5
+                      : isChecked() ? 2.0
+                                    : 1.0);
+        QColor tint = color;
+        tint.setAlphaF(s_tint);
         if (!m_shown) {
             edge.setStyle(Qt::DashLine);
-            color.setAlphaF(isChecked() ? 0.45F : 0.6F);
+            color.setAlphaF(0.6F);
         }
         painter.setPen(edge);
-        painter.setBrush(isChecked() ? QBrush(color) : QBrush(isDown() ? look.button : look.bar));
+        painter.setBrush(isDown() ? look.button : isChecked() ? tint : look.bar);
         painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 4.0, 4.0);
-        painter.setPen(!isChecked() ? color : m_shown ? textOn(color) : look.text);
+        painter.setPen(color);
         painter.drawText(QRect(s_padding, 0, advance(text()), height() - fileHeight()),
                          Qt::AlignVCenter, text());
         for (int i = 0; i < shownFields(); ++i)
@@ -145,7 +153,9 @@ protected:
     }
 
 private:
+    static constexpr int s_height = 44;
     static constexpr int s_padding = 12;
+    static constexpr float s_tint = 0.22F; ///< of the active one
     static constexpr int s_sample = 18; ///< the length of the piece of line
 
     void paintFile(QPainter &painter)
@@ -200,9 +210,17 @@ private:
     QPoint m_released = {-1, -1};
 };
 
+namespace
+{
+
+constexpr int s_addWidth = 44;
+
+} // namespace
+
 TraceBar::TraceBar(const PanelModel *model, QWidget *parent)
     : QScrollArea(parent)
     , m_model(model)
+    , m_add(new QToolButton(this))
 {
     setAccessibleName(tr("Traces"));
     setWidgetResizable(true);
@@ -218,6 +236,13 @@ TraceBar::TraceBar(const PanelModel *model, QWidget *parent)
     m_row->addStretch();
     setWidget(content);
     QScroller::grabGesture(viewport(), QScroller::LeftMouseButtonGesture);
+    m_add->setObjectName(QStringLiteral("addTrace"));
+    m_add->setText(QStringLiteral("+"));
+    m_add->setAccessibleName(tr("Add a trace"));
+    m_add->setToolTip(tr("Add a trace"));
+    m_add->setFixedSize(s_addWidth, sizeHint().height());
+    m_row->insertWidget(0, m_add);
+    connect(m_add, &QToolButton::clicked, this, &TraceBar::addRequested);
 
     connect(m_model, &PanelModel::tracesChanged, this, &TraceBar::rebuild);
     connect(m_model, &PanelModel::activeTraceChanged, this, &TraceBar::refresh);
@@ -232,12 +257,12 @@ TraceBar::TraceBar(const PanelModel *model, QWidget *parent)
 
 QSize TraceBar::sizeHint() const
 {
-    return {200, 42};
+    return {200, 44};
 }
 
 QSize TraceBar::minimumSizeHint() const
 {
-    return {80, 42};
+    return {80, 44};
 }
 
 TraceButton *TraceBar::traceButton(int traceId) const
@@ -294,6 +319,8 @@ void TraceBar::rebuild()
 void TraceBar::refresh()
 {
     const Trace *active = m_model->activeTrace();
+    m_add->setVisible(active);
+    m_add->setEnabled(m_model->traces().size() < Trace::most);
     for (TraceButton *button : qAsConst(m_buttons)) {
         const Trace *trace = m_model->trace(button->traceId());
         // Between two signals of the model a button may outlive its trace.
@@ -319,7 +346,7 @@ void TraceBar::fit()
     int wanted = 0;
     for (const TraceButton *button : qAsConst(m_buttons))
         wanted += button->fullWidth() + m_row->spacing();
-    const bool tight = wanted > viewport()->width();
+    const bool tight = wanted + m_add->width() > viewport()->width();
     for (TraceButton *button : qAsConst(m_buttons)) {
         button->setShort(tight && !button->isChecked());
         if (button->isChecked())

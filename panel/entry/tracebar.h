@@ -7,6 +7,7 @@
 
 class QAbstractButton;
 class QHBoxLayout;
+class QToolButton;
 
 namespace Panel
 {
@@ -15,7 +16,7 @@ class PanelModel;
 class TraceButton;
 
 /*! The list of traces in the top bar, "Tr1 S11 Smith 1.00 U/" in their colours and with the active
-    one inverse. It scrolls under a finger where it is too long; where it would be, the others are
+    one framed, and behind them a key that adds one. It scrolls under a finger where it is too long; where it would be, the others are
     named only.
 
     A tap on a trace asks for it to become active; on a field of the active one, for that field to
@@ -43,6 +44,8 @@ public:
 
 Q_SIGNALS:
     void activationRequested(int traceId);
+    /// The key behind the last trace was tapped.
+    void addRequested();
     void editRequested(int traceId, Panel::TraceBar::Field field);
 
 protected:
@@ -57,6 +60,7 @@ private:
     const PanelModel *m_model;
     QHBoxLayout *m_row;
     QVector<TraceButton *> m_buttons;
+    QToolButton *m_add;
 };
 
 } // namespace Panel

@@ -49,6 +49,7 @@ TraceController::TraceController(PanelModel *model, const PanelKeys &keys, Trace
     , m_host(host)
 {
     connect(bar, &TraceBar::activationRequested, model, &PanelModel::setActiveTrace);
+    connect(bar, &TraceBar::addRequested, this, &TraceController::addTrace);
     connect(bar, &TraceBar::editRequested, this, &TraceController::onEditRequested);
     connectKeys();
     connect(m_model, &PanelModel::traceScaleChanged, this, &TraceController::showTrace);

@@ -150,9 +150,4 @@ void repolish(QWidget *widget)
     widget->style()->polish(widget);
 }
 
-QColor textOn(const QColor &fill)
-{
-    return qGray(fill.rgb()) > 120 ? QColor(Qt::black) : QColor(Qt::white);
-}
-
 } // namespace Panel

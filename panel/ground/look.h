@@ -52,7 +52,4 @@ QString panelStyleSheet(const Look &look);
 /// in force, because a change of sheet passes over what is not polished yet.
 void repolish(QWidget *widget);
 
-/// Text that can be read on a fill: black or white.
-QColor textOn(const QColor &fill);
-
 } // namespace Panel

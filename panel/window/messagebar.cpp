@@ -46,12 +46,12 @@ MessageBar::MessageBar(QWidget *parent)
     row->addWidget(m_progress);
 
     m_action->setObjectName(QStringLiteral("messageAction"));
-    m_action->setMinimumSize(88, 40);
+    m_action->setMinimumSize(88, 44);
     row->addWidget(m_action, 0, Qt::AlignTop);
 
     m_close->setObjectName(QStringLiteral("closeMessage"));
     m_close->setAccessibleName(tr("Close message"));
-    m_close->setMinimumSize(44, 40);
+    m_close->setMinimumSize(44, 44);
     connect(m_close, &QToolButton::clicked, this, [this] { setMessage(QString()); });
     row->addWidget(m_close, 0, Qt::AlignTop);
     const auto recolor = [close = m_close] { close->setIcon(icon("close")); };

@@ -132,7 +132,7 @@ QWidget *PanelWindow::makeTopBar()
     bar->setObjectName(QStringLiteral("topBar"));
     bar->setAttribute(Qt::WA_StyledBackground);
     auto *row = new QHBoxLayout(bar);
-    row->setContentsMargins(10, 4, 6, 4);
+    row->setContentsMargins(10, 2, 6, 2);
     row->setSpacing(8);
     m_mark = new QLabel;
     row->addWidget(m_mark);
@@ -161,7 +161,7 @@ QToolButton *PanelWindow::addBarButton(QHBoxLayout *row, const QString &name)
     auto *button = new QToolButton;
     button->setAccessibleName(name);
     button->setToolTip(name);
-    button->setMinimumSize(44, 40);
+    button->setMinimumSize(44, 44);
     button->setIconSize(QSize(20, 20));
     row->addWidget(button);
     return button;
