@@ -49,6 +49,19 @@ void dropOffscreenNoise(QtMsgType type, const QMessageLogContext &context, const
         s_handleMessage(type, context, message);
 }
 
+/// Ends a panel that nobody could see: of a port that is taken the platform only warns, and later.
+void watchListening(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    s_handleMessage(type, context, message);
+    if (!message.startsWith(QLatin1String("QVncServer could not connect")) || !qApp)
+        return;
+    const auto end = [] {
+        std::fputs("vnapanel: no viewer could see it: the port is taken.\n", stderr);
+        QCoreApplication::exit(1);
+    };
+    QMetaObject::invokeMethod(qApp, end, Qt::QueuedConnection);
+}
+
 /// What the program held at most, where the system tells it.
 void printPeakMemory()
 {
@@ -142,13 +155,17 @@ int main(int argc, char **argv)
     const auto unset = [](const char *name) { return qEnvironmentVariableIsEmpty(name); };
     if (grabs && unset("DISPLAY") && unset("WAYLAND_DISPLAY") && unset("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (grabs)
-        s_handleMessage = qInstallMessageHandler(dropOffscreenNoise);
+    s_handleMessage = qInstallMessageHandler(grabs ? dropOffscreenNoise : watchListening);
 
     if (commandLine.scale > 1.0)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(commandLine.scale));
 
     QApplication application(argc, argv);
+    if (!QGuiApplication::primaryScreen()) {
+        std::fprintf(stderr, "vnapanel: there is no screen (%s).\n",
+                     qUtf8Printable(QGuiApplication::platformName()));
+        return 1;
+    }
     application.setApplicationName(QStringLiteral("vnapanel"));
     application.setApplicationVersion(QStringLiteral(VNAPANEL_VERSION));
     setUpApplication();

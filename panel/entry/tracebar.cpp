@@ -126,6 +126,7 @@ protected:
         QColor color = look.trace(m_traceId);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
+        painter.setLayoutDirection(Qt::LeftToRight); // "10 dB/" in every language
         // Around the frame of an active trace another colour tells of the focus.
         const QColor focused = isChecked() ? look.text : color;
         QPen edge(hasFocus()        ? focused

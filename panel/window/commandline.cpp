@@ -159,13 +159,44 @@ QString readValues(const QCommandLineParser &parser, CommandLine &result)
 
 } // namespace
 
+namespace
+{
+
+/// Leaves out what QApplication takes for itself: options of one dash, of which most have a value.
+QStringList withoutToolkitOptions(const QStringList &arguments)
+{
+    const QStringList alone{literal("-reverse"), literal("-nograb"), literal("-dograb"),
+                            literal("-sync"), literal("-widgetcount")};
+    const QStringList valued{literal("-platform"),        literal("-platformpluginpath"),
+                             literal("-platformtheme"),   literal("-plugin"),
+                             literal("-style"),           literal("-stylesheet"),
+                             literal("-qwindowgeometry"), literal("-qwindowicon"),
+                             literal("-qwindowtitle"),    literal("-display"),
+                             literal("-geometry"),        literal("-fontengine"),
+                             literal("-session")};
+    QStringList own;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString &argument = arguments.at(i);
+        // Each may be written with two dashes as well.
+        const QString option = argument.startsWith(literal("--")) ? argument.mid(1) : argument;
+        if (valued.contains(option))
+            ++i;
+        else if (!alone.contains(option)
+                 && !valued.contains(option.section(QLatin1Char('='), 0, 0)))
+            own << argument;
+    }
+    return own;
+}
+
+} // namespace
+
 CommandLine parseCommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
     addOptions(parser);
     CommandLine result;
     // The parser takes the first one for the program's name.
-    if (!parser.parse(QStringList{QString()} + arguments)) {
+    if (!parser.parse(QStringList{QString()} + withoutToolkitOptions(arguments))) {
         result.error = parser.errorText();
         if (!result.error.endsWith(QLatin1Char('.')))
             result.error += QLatin1Char('.');
@@ -186,7 +217,9 @@ QString helpText()
 {
     QCommandLineParser parser;
     addOptions(parser);
-    return parser.helpText();
+    return parser.helpText()
+        + literal("\nOptions of Qt are passed on: -platform, -style, -stylesheet, -reverse and "
+                  "others.\n");
 }
 
 } // namespace Panel

@@ -29,6 +29,7 @@ TouchNumKeyboard::TouchNumKeyboard(QWidget *parent)
     d->titleWidgetLayout->setContentsMargins(6, 4, 0, 4);
     d->ui.titleGridLayout->addLayout(d->titleWidgetLayout, 0, 1);
     setAccessibleName(tr("Numeric keypad"));
+    setLayoutDirection(Qt::LeftToRight); // digits stand alike wherever people read to the left
     setAutoFillBackground(true); // embedded, it would let the host show through
     // An entry that is committed accepts a modal dialog, and only closes one that is not.
     setWindowModality(Qt::WindowModal);

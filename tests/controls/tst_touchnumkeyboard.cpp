@@ -83,6 +83,20 @@ private Q_SLOTS:
         verifySizes();
     }
 
+    /// Digits stand as on every keypad, also where people read to the left.
+    void digitsAreNotMirrored()
+    {
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        const auto restore =
+            qScopeGuard([] { QApplication::setLayoutDirection(Qt::LayoutDirectionAuto); });
+        Controls::TouchNumKeyboard pad;
+        pad.show();
+        const auto left = [&pad](const char *name) {
+            return pad.findChild<QPushButton *>(QLatin1String(name))->geometry().left();
+        };
+        QVERIFY(left("btn7") < left("btn8") && left("btn8") < left("btn9"));
+    }
+
     void heldKeysRepeat()
     {
         KeypadScene f;

@@ -15,6 +15,16 @@ class CommandLineTest : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void leavesToolkitOptionsToQt()
+    {
+        const CommandLine line =
+            parseCommandLine({"-platform"_s, "vnc:port=5901"_s, "a.s2p"_s, "--style=fusion"_s,
+                              "-reverse"_s, "-style"_s, "fusion"_s, "b.s2p"_s});
+        QVERIFY2(line.error.isEmpty(), qPrintable(line.error));
+        QCOMPARE(line.files, (QStringList{"a.s2p"_s, "b.s2p"_s}));
+        QVERIFY(!parseCommandLine({"--plattform"_s, "vnc"_s}).error.isEmpty());
+    }
+
     void reads()
     {
         const QString badSize =
