@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel.h"
 
+#include <controls/thememanager.h>
 #include <panel/diagrams/diagrams.h>
 #include <panel/diagrams/diagramview.h>
 #include <panel/files/samples.h>
@@ -100,6 +101,39 @@ void sameReplot(benchmark::State &state, int points)
             view->plot()->replot(QCustomPlot::rpQueuedReplot);
         QApplication::processEvents();
     }
+}
+
+void changeTheme(benchmark::State &state)
+{
+    setUpOnce();
+    LivePanel panel(1601);
+    for (auto _ : state) {
+        Controls::ThemeManager::instance()->toggleTheme();
+        state.PauseTiming();
+        LivePanel::settle();
+        state.ResumeTiming();
+    }
+}
+
+void changeSheet(benchmark::State &state)
+{
+    setUpOnce();
+    LivePanel panel(1601);
+    QString sheets[2];
+    for (QString &sheet : sheets) {
+        Controls::ThemeManager::instance()->toggleTheme();
+        sheet = qApp->styleSheet();
+    }
+    LivePanel::settle();
+    int turn = 0;
+    for (auto _ : state) {
+        qApp->setStyleSheet(sheets[turn]);
+        turn = 1 - turn;
+        state.PauseTiming();
+        LivePanel::settle();
+        state.ResumeTiming();
+    }
+    Controls::ThemeManager::instance()->setTheme(Controls::ThemeManager::Dark);
 }
 
 void startProgram(benchmark::State &state, const char *program, const QStringList &arguments)

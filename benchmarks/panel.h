@@ -17,6 +17,12 @@ void liveFrame(benchmark::State &state, int points);
 /// The same plots with the same data, drawn once more and no more than that.
 void sameReplot(benchmark::State &state, int points);
 
+/// The panel changes from dark to light and back: colours, pictures and style sheets, not painted.
+void changeTheme(benchmark::State &state);
+
+/// The same window when the application gets the same style sheets, and nothing else happens.
+void changeSheet(benchmark::State &state);
+
 /// Starts a program that ends by itself, and waits for that; the counter "mebibytes" is the maximum of
 /// the memory that it held, where it prints that.
 void startProgram(benchmark::State &state, const char *program, const QStringList &arguments);

@@ -33,6 +33,15 @@ void addPanelRows(RatioTable &table)
                   "live frame, 1000001",
                   {"live frame, 1601"}});
 
+    add("theme", changeTheme);
+    add("style sheet", changeSheet);
+    table.addRow({"panel: change of theme, to one style sheet",
+                  0,
+                  Row::ShareOfTime,
+                  1.2,
+                  "theme",
+                  {"style sheet"}});
+
     const auto addStart = [](const std::string &name, const char *program, QStringList arguments) {
         benchmark::RegisterBenchmark(name.c_str(),
                                      [program, arguments](benchmark::State &state) {

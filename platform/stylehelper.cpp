@@ -58,6 +58,12 @@ void tell(const QString &path, const QString &complaint)
     }
 }
 
+void tell(const QString &sheet, const QStringList &unknownColors)
+{
+    const QString names = unknownColors.join(QLatin1String(", "));
+    tell(sheet, names.isEmpty() ? names : QStringLiteral("names unknown colours: ") + names);
+}
+
 /// The text of a sheet, with its colours; what the library has in place of one that is none.
 QString load(const QString &name, const QString &path, const QVariantMap &colors)
 {
@@ -75,10 +81,7 @@ QString load(const QString &name, const QString &path, const QVariantMap &colors
         return withStyleColors(standIn, colors);
     }
     sheet = withStyleColors(sheet, colors, &unknown);
-    tell(path,
-         unknown.isEmpty()
-             ? QString()
-             : QStringLiteral("names unknown colours: ") + unknown.join(QLatin1String(", ")));
+    tell(path, unknown);
     return sheet;
 }
 
@@ -105,6 +108,10 @@ void StyleHelper::setThemes(const QStringList &files)
         if (!text.isEmpty())
             sheet += text + QLatin1Char('\n');
     }
+
+    QStringList unknown;
+    sheet += withStyleColors(application->property(hostSheetProperty).toString(), colors, &unknown);
+    tell(QStringLiteral("the host's sheet"), unknown);
 
     // What the application has of its own stays, after the theme, so that it prevails.
     static QString applied;

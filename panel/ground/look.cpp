@@ -14,6 +14,53 @@
 namespace Panel
 {
 
+namespace
+{
+
+/// What the panel adds to the library's style sheets.
+QString styleSheet()
+{
+    return QStringLiteral(R"(
+Panel--PanelWindow, QWidget#topBar, QWidget#softKeys, Panel--SweepBar, Panel--MessageBar, Panel--LimitSheet { background: @barColor; }
+QLabel#dim { color: @dimTextColor; }
+QWidget#topBar { border-bottom: 1px solid @borderColor; }
+QWidget#softKeys { border-left: 1px solid @borderColor; }
+QStackedWidget#diagrams, QWidget#emptyPage { background: @backgroundColor; }
+Panel--SmithView, Panel--CartesianView, Panel--TimingLine { background: @backgroundColor; }
+Panel--SweepBar { border-top: 1px solid @borderColor; }
+Panel--MessageBar { border: 1px solid @warningColor; border-radius: 4px; }
+Panel--LimitSheet { border: 1px solid @focusColor; border-radius: 4px; }
+Panel--LimitSheet QScrollArea, Panel--LimitSheet QScrollArea > QWidget > QWidget { background: transparent; }
+Panel--MessageBar[notice="true"] { border-color: @focusColor; }
+Panel--ReadOuts, Panel--ReadOuts > QWidget > QWidget { background: transparent; border: none; }
+Panel--ReadOuts[box="true"] { background: @veilColor; border: 1px solid @borderColor; border-radius: 4px; }
+QLabel#more { padding: 0px 6px; background: @barColor; border: 1px solid @borderColor; border-radius: 4px; color: @textColor; }
+QPushButton#fitTrace { min-height: 36px; padding: 2px 12px; background: @barColor; border: 1px solid @warningColor; border-radius: 4px; color: @textColor; }
+Panel--MarkerTable { background: @backgroundColor; border-top: 1px solid @borderColor; }
+Panel--MarkerTable QTableView { background: @backgroundColor; selection-background-color: @buttonColor; }
+Panel--MarkerTable QTableView::item { padding: 0px 10px; border: none; }
+Panel--MarkerTable QTableView::item:selected { background: @buttonColor; }
+Panel--MarkerTable QHeaderView::section { background: @backgroundColor; color: @dimTextColor; border: none; border-bottom: 1px solid @borderColor; padding: 0px 10px; }
+Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
+SwitchButton QPushButton#btnOff:checked:enabled { background-color: @borderColor; border-color: @borderColor; color: @textColor; }
+PopupWidget QListWidget#ListModeView::item, PopupWidget QListWidget#IconModeView::item { min-height: 44px; }
+QToolButton#pageTab { border: none; border-left: 3px solid transparent; border-radius: 0px; padding: 2px 0px; background: transparent; color: @dimTextColor; font-size: 11px; }
+QToolButton#pageTab:checked { border-left-color: @focusColor; color: @textColor; background: @buttonColor; }
+QToolButton#pageTab:focus { border: 2px solid @focusColor; padding: 1px 0px; }
+Panel--SoftKey[editing="true"] { border-color: @focusColor; }
+Panel--SoftKey QLabel#valueLabel { padding: 0px; }
+Panel--SoftKey QLabel#valueLabel:disabled { color: @dimTextColor; }
+Panel--NumericDialog QLabel#range { color: @dimTextColor; font-size: 12px; padding-right: 6px; }
+Panel--NumericDialog LabelButton QLabel#nameLabel { font-weight: normal; padding: 0px 10px; }
+Panel--NumericDialog QLabel#range[warning="true"] { color: @warningColor; }
+Panel--ParameterMatrix QScrollArea, Panel--ParameterMatrix QScrollArea > QWidget > QWidget { background: transparent; }
+Panel--ParameterMatrix QPushButton#parameter:checked { border: 2px solid @focusColor; }
+Panel--SetupDialog QListWidget::item, Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @buttonColor; }
+)");
+}
+
+} // namespace
+
 void setUpApplication()
 {
     registerIcons();
@@ -21,7 +68,10 @@ void setUpApplication()
     QFont font = QApplication::font();
     font.setPixelSize(14);
     QApplication::setFont(font);
-    Controls::ThemeManager::instance()->setTheme(Controls::ThemeManager::Dark);
+    using Controls::ThemeManager;
+    auto *theme = ThemeManager::instance();
+    theme->setHostSheet(styleSheet());
+    theme->setTheme(ThemeManager::Dark);
 }
 
 namespace
@@ -86,60 +136,8 @@ Look currentLook()
     look.accent = theme->getColor(QStringLiteral("focusColor"));
     look.pass = dark ? QColor(0x3d, 0xd6, 0x8c) : QColor(0x00, 0x7a, 0x45);
     look.fail = dark ? QColor(0xff, 0x5c, 0x5c) : QColor(0xc6, 0x1a, 0x1a);
-    look.warning = dark ? QColor(0xff, 0xb3, 0x47) : QColor(0xa8, 0x4f, 0x00);
+    look.warning = theme->getColor(QStringLiteral("warningColor"));
     return look;
-}
-
-QString panelStyleSheet(const Look &look)
-{
-    QString sheet = QStringLiteral(R"(
-Panel--PanelWindow, QWidget#topBar, QWidget#softKeys, Panel--SweepBar, Panel--MessageBar, Panel--LimitSheet { background: @bar; }
-QLabel#dim { color: @dimText; }
-QWidget#topBar { border-bottom: 1px solid @border; }
-QWidget#softKeys { border-left: 1px solid @border; }
-QStackedWidget#diagrams, QWidget#emptyPage { background: @background; }
-Panel--SmithView, Panel--CartesianView, Panel--TimingLine { background: @background; }
-Panel--SweepBar { border-top: 1px solid @border; }
-Panel--MessageBar { border: 1px solid @warning; border-radius: 4px; }
-Panel--LimitSheet { border: 1px solid @accent; border-radius: 4px; }
-Panel--LimitSheet QScrollArea, Panel--LimitSheet QScrollArea > QWidget > QWidget { background: transparent; }
-Panel--MessageBar[notice="true"] { border-color: @accent; }
-Panel--ReadOuts, Panel--ReadOuts > QWidget > QWidget { background: transparent; border: none; }
-Panel--ReadOuts[box="true"] { background: @veil; border: 1px solid @border; border-radius: 4px; }
-QLabel#more { padding: 0px 6px; background: @bar; border: 1px solid @border; border-radius: 4px; color: @text; }
-QPushButton#fitTrace { min-height: 36px; padding: 2px 12px; background: @bar; border: 1px solid @warning; border-radius: 4px; color: @text; }
-Panel--MarkerTable { background: @background; border-top: 1px solid @border; }
-Panel--MarkerTable QTableView { background: @background; selection-background-color: @button; }
-Panel--MarkerTable QTableView::item { padding: 0px 10px; border: none; }
-Panel--MarkerTable QTableView::item:selected { background: @button; }
-Panel--MarkerTable QHeaderView::section { background: @background; color: @dimText; border: none; border-bottom: 1px solid @border; padding: 0px 10px; }
-Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
-SwitchButton QPushButton#btnOff:checked:enabled { background-color: @border; border-color: @border; color: @text; }
-PopupWidget QListWidget::item { min-height: 44px; }
-QToolButton#pageTab { border: none; border-left: 3px solid transparent; border-radius: 0px; padding: 2px 0px; background: transparent; color: @dimText; font-size: 11px; }
-QToolButton#pageTab:checked { border-left-color: @accent; color: @text; background: @button; }
-QToolButton#pageTab:focus { border: 2px solid @accent; padding: 1px 0px; }
-Panel--SoftKey[editing="true"] { border-color: @accent; }
-Panel--SoftKey QLabel#valueLabel { padding: 0px; }
-Panel--SoftKey QLabel#valueLabel:disabled { color: @dimText; }
-Panel--NumericDialog QLabel#range { color: @dimText; font-size: 12px; padding-right: 6px; }
-Panel--NumericDialog LabelButton QLabel#nameLabel { font-weight: normal; padding: 0px 10px; }
-Panel--NumericDialog QLabel#range[warning="true"] { color: @warning; }
-Panel--ParameterMatrix QScrollArea, Panel--ParameterMatrix QScrollArea > QWidget > QWidget { background: transparent; }
-Panel--ParameterMatrix QPushButton#parameter:checked { border: 2px solid @accent; }
-Panel--SetupDialog QListWidget::item, Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @button; }
-)");
-    // What lies over a diagram lets it show faintly.
-    QColor veil = look.background;
-    veil.setAlphaF(0.8F);
-    const std::pair<const char *, QColor> places[] = {
-        {"@background", look.background}, {"@bar", look.bar},       {"@dimText", look.dimText},
-        {"@border", look.border},         {"@button", look.button}, {"@warning", look.warning},
-        {"@accent", look.accent},         {"@text", look.text},     {"@veil", veil},
-    };
-    for (const auto &[place, color] : places)
-        sheet.replace(QLatin1String(place), color.name(QColor::HexArgb));
-    return sheet;
 }
 
 void repolish(QWidget *widget)

@@ -38,14 +38,11 @@ struct Look {
     QPen memoryPen(int id, int file) const;
 };
 
-/// Gives the program the panel's font, the pictures of the library and the dark theme; called once
-/// at the start.
+/// Gives the program the panel's font and style sheet, the pictures of the library and the dark theme;
+/// called once at the start.
 void setUpApplication();
 
 Look currentLook();
-
-/// The style sheet of the panel's window.
-QString panelStyleSheet(const Look &look);
 
 /// Applies the style sheet to a widget anew, after a change of a property that its rules ask for. A
 /// widget that was never shown is left alone: polished by hand, it would keep the rules of the sheet

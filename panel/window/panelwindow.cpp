@@ -286,7 +286,6 @@ void PanelWindow::dropEvent(QDropEvent *event)
 void PanelWindow::recolor()
 {
     const Look look = currentLook();
-    setStyleSheet(panelStyleSheet(look));
     const double ratio = devicePixelRatioF();
     m_mark->setPixmap(mark(24, look.text, ratio));
     m_emptyMark->setPixmap(mark(120, look.border, ratio));

@@ -15,6 +15,8 @@ namespace Utils
 
 /// The application's property that holds the colours by name, as texts of style sheets.
 constexpr char styleColorsProperty[] = "vnaThemeColors";
+/// The application's property that holds a host's sheet, with the names of colours.
+constexpr char hostSheetProperty[] = "vnaHostSheet";
 
 /// The sheet with colours in place of their names, outside of comments and quotes. A name that is
 /// unknown becomes transparent and is added to \a unknown.

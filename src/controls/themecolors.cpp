@@ -54,6 +54,8 @@ constexpr NamedColor s_colors[] = {
     {"indicatorColor", "#8b949c", "#69747d", "borderColor"},
     {"listSelectedColor", "#15344a", "#bcd8f2", "listItemSelectedColor"},
     {"pressedColor", "#1d6d9f", "#63acf6", "labelButtonPressedColor"},
+    {"veilColor", "#cc000000", "#ccece9e4", "backgroundColor"},
+    {"warningColor", "#ffb347", "#a84f00", nullptr},
 };
 
 const NamedColor *find(const QString &name)
@@ -107,7 +109,7 @@ QColor ThemeColors::color(const QString &name) const
     };
     return {shifted(own.red(), builtInBase.red(), base.red()),
             shifted(own.green(), builtInBase.green(), base.green()),
-            shifted(own.blue(), builtInBase.blue(), base.blue())};
+            shifted(own.blue(), builtInBase.blue(), base.blue()), own.alpha()};
 }
 
 QStringList ThemeColors::names() const

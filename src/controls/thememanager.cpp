@@ -134,6 +134,7 @@ public:
     ThemeColors dark{true};
     ThemeColors light{false};
     QString sheetFolder;
+    QString hostSheet;
     bool isInForce = false; ///< setTheme() has been called
     bool isPending = false;
 };
@@ -265,6 +266,17 @@ void ThemeManager::setSheetFolder(const QString &folder)
     d->applySoon();
 }
 
+QString ThemeManager::hostSheet() const
+{
+    return d->hostSheet;
+}
+
+void ThemeManager::setHostSheet(const QString &sheet)
+{
+    d->hostSheet = sheet;
+    d->applySoon();
+}
+
 QString ThemeManager::fillColors(const QString &sheet) const
 {
     return Utils::withStyleColors(sheet, d->sheetColors());
@@ -298,8 +310,10 @@ void ThemeManager::setTheme(Theme theme)
     d->isInForce = true;
     d->isPending = false;
     Utils::GUIContext::instance()->setIsDarkTheme(theme == Dark);
-    if (auto *application = QCoreApplication::instance())
+    if (auto *application = QCoreApplication::instance()) {
         application->setProperty(Utils::styleColorsProperty, d->sheetColors());
+        application->setProperty(Utils::hostSheetProperty, d->hostSheet);
+    }
     Utils::StyleHelper::setThemes(d->sheets());
     Q_EMIT themeChanged(theme);
 }

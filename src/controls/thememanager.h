@@ -99,6 +99,11 @@ public:
     QString sheetFolder() const;
     /// Sets sheetFolder(); files that the folder lacks stay what they are.
     void setSheetFolder(const QString &folder);
+    /// A style sheet of the host's own, put behind those of the theme, with names in place of colours
+    /// ("@textColor"). A change of theme brings it along in one go. Empty, the default, for none.
+    QString hostSheet() const;
+    /// Sets hostSheet().
+    void setHostSheet(const QString &sheet);
     /// A style sheet with the current theme's colours in place of their names ("@textColor"), for
     /// QWidget::setStyleSheet(). An unknown name becomes transparent.
     QString fillColors(const QString &sheet) const;

@@ -252,6 +252,16 @@ private Q_SLOTS:
         QVERIFY(qApp->styleSheet().contains("LockWidget:focus { border-width"_s)); // the base
         QVERIFY(!qApp->styleSheet().contains("QMainWindow"_s));
 
+        // Rules of the host's own come in the same sheet, in the colours of each theme.
+        manager->setHostSheet("#own { color: @textColor; }"_s);
+        for (const auto &[theme, text] :
+             {std::pair(ThemeManager::Light, "#own { color: #2c3a45; }"_s),
+              std::pair(ThemeManager::Dark, "#own { color: #ffffff; }"_s)}) {
+            manager->setTheme(theme);
+            QVERIFY(qApp->styleSheet().endsWith(text));
+        }
+        manager->setHostSheet({});
+
         manager->setSheetFolder({});
         manager->setColor(ThemeManager::Dark, "dialogColor"_s, {});
         manager->setMemoryTracePalette(ThemeManager::Dark, {});
