@@ -8,7 +8,7 @@
 #include <panel/ground/numbertext.h>
 
 #include <controls/thememanager.h>
-#include <plot/marker.h>
+#include <plot/markerselection.h>
 
 #include <QElapsedTimer>
 #include <QVBoxLayout>
@@ -149,33 +149,27 @@ Hit DiagramView::hit(const QPointF &position) const
 
 Hit DiagramView::hitMarker(const QPointF &position) const
 {
-    Hit nearest;
-    double least = reach;
+    QVector<Hit> hits;
+    QVector<const Plot::Marker *> drawn;
     const Trace *active = activeTrace();
-    for (const Trace &trace : traces()) {
-        if (!reaches(trace))
-            continue;
-        for (const Marker &marker : m_model->markersOf(trace.id)) {
-            const Plot::Marker *drawn = drawnMarker(trace.id, marker.number);
-            if (!drawn || !drawn->isVisible())
+    const auto collect = [&](auto isWanted) {
+        for (const Trace &trace : traces()) {
+            if (!reaches(trace))
                 continue;
-            // From the tip, where the body stands on its point, to the body's far edge.
-            const QPointF tip = drawn->getTracer()->position->pixelPosition();
-            const double height = std::max(1.0, drawn->getTracer()->size());
-            const double up = std::clamp(tip.y() - position.y(), 0.0, height);
-            double distance = std::hypot(position.x() - tip.x(), position.y() - (tip.y() - up));
-            // Of two that coincide, the selected one, then the active trace's.
-            if (m_model->isSelected(marker))
-                distance -= 2.0;
-            else if (active && active->id == trace.id)
-                distance -= 1.0;
-            if (distance < least) {
-                least = distance;
-                nearest = {Hit::MarkerBody, trace.id, marker.number, m_model->indexOf(marker)};
+            for (const Marker &marker : m_model->markersOf(trace.id)) {
+                if (!isWanted(trace, marker))
+                    continue;
+                hits.append({Hit::MarkerBody, trace.id, marker.number, m_model->indexOf(marker)});
+                drawn.append(drawnMarker(trace.id, marker.number));
             }
         }
-    }
-    return nearest;
+    };
+    // Of those that coincide, the selected one, then the active trace's.
+    collect([&](const Trace &, const Marker &marker) { return m_model->isSelected(marker); });
+    collect([&](const Trace &trace, const Marker &) { return active && active->id == trace.id; });
+    collect([](const Trace &, const Marker &) { return true; });
+    const int nearest = Plot::markerInReach(drawn, position, reach);
+    return nearest < 0 ? Hit() : hits.at(nearest);
 }
 
 /// Sets the numbers of markers whose tips all but coincide side by side, in the order of their tips.
