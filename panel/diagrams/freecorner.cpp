@@ -9,7 +9,7 @@ namespace
 {
 
 /// How many pixel columns of a box are looked at.
-constexpr int s_columns = 32;
+constexpr int s_triedColumns = 32;
 /// Another corner must be freer by so many of them.
 constexpr int s_much = 4;
 
@@ -33,8 +33,8 @@ int hiddenColumns(const QRect &box, const QVector<QCPGraph *> &lines)
     for (const QCPGraph *line : lines) {
         if (!line->visible())
             continue;
-        for (int i = 0; i < s_columns; ++i) {
-            const double column = box.left() + (i + 0.5) * box.width() / s_columns;
+        for (int i = 0; i < s_triedColumns; ++i) {
+            const double column = box.left() + (i + 0.5) * box.width() / s_triedColumns;
             const double height = heightAt(line, column);
             hidden += height >= box.top() && height <= box.bottom() ? 1 : 0;
         }
