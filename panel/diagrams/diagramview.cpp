@@ -57,8 +57,8 @@ void DiagramView::followModel()
 {
     connect(m_model, &PanelModel::stimulusChanged, this, [this] { loadTraces(); });
     connect(m_model, &PanelModel::networkUpdated, this, [this](int network) {
-        // A hidden diagram catches up when it is shown.
-        m_stale = !isVisible();
+        // A diagram that nobody sees catches up when it is shown.
+        m_stale = !isVisible() || window()->isMinimized();
         if (m_stale)
             return;
         QElapsedTimer timer;

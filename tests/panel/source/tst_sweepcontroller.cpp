@@ -90,6 +90,23 @@ private Q_SLOTS:
         }
     }
 
+    void drawsNothingWhileMinimised()
+    {
+        Desk desk;
+        desk.model.setSource(Source::Antenna);
+        const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
+        const QSignalSpy drawn(desk.window.smithView()->plot(), &QCustomPlot::afterReplot);
+        QTRY_VERIFY(updated.count() >= 3);
+        desk.window.showMinimized();
+        desk.settle();
+        const auto before = drawn.count();
+        const auto heard = updated.count();
+        QTRY_VERIFY(updated.count() >= heard + 5);
+        QCOMPARE(drawn.count(), before);
+        desk.window.showNormal();
+        QTRY_VERIFY(drawn.count() > before);
+    }
+
     void markersStayOverNewData()
     {
         Desk desk;
