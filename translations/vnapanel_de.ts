@@ -775,6 +775,18 @@
         <source>%1 It is tried again.</source>
         <translation>%1 Es wird erneut versucht.</translation>
     </message>
+    <message>
+        <source>Print the diagram…</source>
+        <translation>Diagramm drucken …</translation>
+    </message>
+    <message>
+        <source>Printed the diagram</source>
+        <translation>Diagramm gedruckt</translation>
+    </message>
+    <message>
+        <source>The printer does not take the diagram.</source>
+        <translation>Der Drucker nimmt das Diagramm nicht an.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelKeys</name>

@@ -769,6 +769,18 @@
         <source>%1 It is tried again.</source>
         <translation>%1 正在重试。</translation>
     </message>
+    <message>
+        <source>Print the diagram…</source>
+        <translation>打印图表…</translation>
+    </message>
+    <message>
+        <source>Printed the diagram</source>
+        <translation>已打印图表</translation>
+    </message>
+    <message>
+        <source>The printer does not take the diagram.</source>
+        <translation>打印机不接受该图表。</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelKeys</name>

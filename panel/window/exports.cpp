@@ -5,6 +5,7 @@
 #include <panel/model/preferences.h>
 #include <panel/touchstone/saving.h>
 
+#include <controls/thememanager.h>
 #include <plot/qcp.h>
 
 #include <QCoreApplication>
@@ -12,6 +13,7 @@
 #include <QDir>
 #include <QFile>
 #include <QPixmap>
+#include <QPrinter>
 #include <QStandardPaths>
 #include <QSvgGenerator>
 #include <QWidget>
@@ -111,6 +113,27 @@ Exported exportDiagram(QCustomPlot *plot, const QString &folder, DrawingFormat f
                           painter.end();
                           return QString();
                       });
+}
+
+bool printDiagram(QCustomPlot *plot, QPrinter *printer)
+{
+    using Controls::ThemeManager;
+    QCPPainter painter;
+    if (!painter.begin(printer))
+        return false;
+    const ThemeManager::Theme theme = ThemeManager::instance()->currentTheme();
+    ThemeManager::instance()->setTheme(ThemeManager::Light);
+    const QRectF page(QPointF(),
+                      printer->pageLayout().paintRectPixels(printer->resolution()).size());
+    const double scale = qMin(page.width() / plot->width(), page.height() / plot->height());
+    painter.translate((page.width() - scale * plot->width()) / 2.0,
+                      (page.height() - scale * plot->height()) / 2.0);
+    painter.scale(scale, scale);
+    painter.setMode(QCPPainter::pmVectorized);
+    painter.setMode(QCPPainter::pmNoCaching);
+    plot->toPainter(&painter, plot->width(), plot->height());
+    ThemeManager::instance()->setTheme(theme);
+    return painter.end();
 }
 
 Exported exportData(const Network &network, const QString &folder, DataFormat format)

@@ -8,6 +8,7 @@
 #include <panel/model/network.h>
 
 class QCustomPlot;
+class QPrinter;
 class QWidget;
 
 namespace Panel
@@ -32,6 +33,10 @@ enum class DrawingFormat {
 };
 /// A diagram as lines that can be enlarged, without its title and its read-outs.
 Exported exportDiagram(QCustomPlot *plot, const QString &folder, DrawingFormat format);
+
+/// Draws a diagram in the middle of a page, as large as the page allows, dark on white; false when the
+/// printer takes nothing.
+bool printDiagram(QCustomPlot *plot, QPrinter *printer);
 
 enum class DataFormat {
     Touchstone,

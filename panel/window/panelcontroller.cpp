@@ -42,6 +42,8 @@
 #include <QClipboard>
 #include <QDir>
 #include <QGuiApplication>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -58,6 +60,7 @@ enum SaveCommand {
     SavePdf,
     SaveSvg,
     CopyPicture,
+    Print,
 };
 
 /// The network as it is on show, with a comment on what was done to it.
@@ -140,7 +143,8 @@ void PanelController::connectKeys()
                              {SaveCsv, QStringLiteral("CSV")},
                              {SavePdf, tr("Diagram as PDF")},
                              {SaveSvg, tr("Diagram as SVG")},
-                             {CopyPicture, tr("Picture to clipboard")}});
+                             {CopyPicture, tr("Picture to clipboard")},
+                             {Print, tr("Print the diagram\u2026")}});
     connect(keys.save, qOverload<int>(&MenuButton::menuItemClicked), this,
             &PanelController::onSavePicked);
     const auto showSave = [this] { m_window->keys().save->setEnabled(m_model->activeTrace()); };
@@ -339,6 +343,9 @@ void PanelController::onSavePicked(int command)
         QGuiApplication::clipboard()->setPixmap(m_window->grab());
         m_window->messageBar()->notify(tr("Copied the picture"));
         break;
+    case Print:
+        print(view->plot());
+        break;
     case SavePdf:
         tell(exportDiagram(view->plot(), folder, DrawingFormat::Pdf));
         break;
@@ -346,6 +353,21 @@ void PanelController::onSavePicked(int command)
         tell(exportDiagram(view->plot(), folder, DrawingFormat::Svg));
         break;
     }
+}
+
+void PanelController::print(QCustomPlot *plot)
+{
+    const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setPageOrientation(plot->width() > plot->height() ? QPageLayout::Landscape
+                                                               : QPageLayout::Portrait);
+    auto *dialog = new QPrintDialog(printer.get(), m_window);
+    connect(dialog, qOverload<>(&QDialog::accepted), plot, [this, plot, printer] {
+        if (printDiagram(plot, printer.get()))
+            m_window->messageBar()->notify(tr("Printed the diagram"));
+        else
+            m_window->messageBar()->setMessage(tr("The printer does not take the diagram."));
+    });
+    DialogStage::show(dialog, m_window);
 }
 
 /// Says where something was saved, or why it was not.

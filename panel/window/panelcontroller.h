@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QString>
 
+class QCustomPlot;
+
 namespace Panel
 {
 
@@ -42,6 +44,7 @@ public Q_SLOTS:
     void showInstruments();
     void takeScreenshot();
     void onSavePicked(int command);
+    void print(QCustomPlot *plot);
     void tell(const Exported &exported);
     void setTimingShown(bool shown);
 

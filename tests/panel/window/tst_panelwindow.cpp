@@ -6,8 +6,11 @@
 #include <panel/diagrams/readouts.h>
 #include <panel/entry/tracebar.h>
 #include <panel/ground/languages.h>
+#include <panel/window/exports.h>
 #include <panel/window/filedialog.h>
 #include <panel/window/timingline.h>
+
+#include <QPrinter>
 
 using namespace VnaTest;
 using namespace Panel;
@@ -92,6 +95,23 @@ private Q_SLOTS:
         // Nothing of the charts in between has stayed on the plot.
         QCOMPARE(desk.plot()->itemCount(), items);
         QCOMPARE(desk.plot()->plottableCount(), plottables);
+    }
+
+    /// What is printed is dark on white, whatever the panel shows.
+    void printsTheDiagram()
+    {
+        ChartDesk desk;
+        const QTemporaryDir folder;
+        QPrinter printer(QPrinter::ScreenResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(folder.filePath("page.pdf"_s));
+        QVERIFY(printDiagram(desk.plot(), &printer));
+        QVERIFY(QFileInfo(folder.filePath("page.pdf"_s)).size() > 2000);
+        QVERIFY(Controls::ThemeManager::instance()->isDarkTheme());
+        printer.setOutputFileName(folder.filePath("none/page.pdf"_s));
+        expectWarning("QPainter::begin(): Returned false"_s);
+        QVERIFY(!printDiagram(desk.plot(), &printer));
+        QVERIFY(Controls::ThemeManager::instance()->isDarkTheme());
     }
 
     void activatesAndHidesTraces()
