@@ -17,6 +17,25 @@
     </message>
 </context>
 <context>
+    <name>Panel::DiagramReader</name>
+    <message>
+        <source>%1 from %2 to %3: highest %4 at %5, lowest %6 at %7.</source>
+        <translation>%1 von %2 bis %3: höchster Wert %4 bei %5, niedrigster %6 bei %7.</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Magnitude (dB)</source>
+        <translation>Betrag (dB)</translation>
+    </message>
+    <message>
+        <source>Marker %1 on %2: %3</source>
+        <translation>Marker %1 auf %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>Panel::DiagramView</name>
     <message>
         <source>All traces are hidden</source>
@@ -368,6 +387,38 @@
     <message>
         <source>undo; with Shift, do it again</source>
         <translation>zurücknehmen; mit Umschalt wieder</translation>
+    </message>
+    <message>
+        <source>F2, Home, End</source>
+        <translation>F2, Pos1, Ende</translation>
+    </message>
+    <message>
+        <source>walk along the active trace, hear and read what is where</source>
+        <translation>die aktive Messkurve entlanggehen und hören und lesen, was wo ist</translation>
+    </message>
+    <message>
+        <source>walking: ← →</source>
+        <translation>beim Gehen: ← →</translation>
+    </message>
+    <message>
+        <source>by a point, with Ctrl to the next feature, as the wheel does</source>
+        <translation>um einen Punkt, mit Strg zum nächsten Merkmal, wie mit dem Rad</translation>
+    </message>
+    <message>
+        <source>PgUp, PgDn</source>
+        <translation>Bild ↑, Bild ↓</translation>
+    </message>
+    <message>
+        <source>by a tenth of the view; ↑ ↓ to another trace</source>
+        <translation>um ein Zehntel der Ansicht; ↑ ↓ zu einer anderen Messkurve</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>set a marker there; Esc ends the walk</source>
+        <translation>dort einen Marker setzen; Esc beendet das Gehen</translation>
     </message>
 </context>
 <context>
@@ -1730,6 +1781,17 @@
     <message>
         <source>Data + memory</source>
         <translation>Daten + Speicher</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::TraceWalker</name>
+    <message>
+        <source>Marker %1 is set at %2.</source>
+        <translation>Marker %1 steht bei %2.</translation>
+    </message>
+    <message>
+        <source>changed by %1</source>
+        <translation>Änderung um %1</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,25 @@
     </message>
 </context>
 <context>
+    <name>Panel::DiagramReader</name>
+    <message>
+        <source>%1 from %2 to %3: highest %4 at %5, lowest %6 at %7.</source>
+        <translation>%1 从 %2 到 %3：最高 %4（%5），最低 %6（%7）。</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>频率</translation>
+    </message>
+    <message>
+        <source>Magnitude (dB)</source>
+        <translation>幅度 (dB)</translation>
+    </message>
+    <message>
+        <source>Marker %1 on %2: %3</source>
+        <translation>%2 上的标记 %1：%3</translation>
+    </message>
+</context>
+<context>
     <name>Panel::DiagramView</name>
     <message>
         <source>All traces are hidden</source>
@@ -362,6 +381,38 @@
     <message>
         <source>undo; with Shift, do it again</source>
         <translation>撤销；加 Shift 重做</translation>
+    </message>
+    <message>
+        <source>F2, Home, End</source>
+        <translation>F2、Home、End</translation>
+    </message>
+    <message>
+        <source>walk along the active trace, hear and read what is where</source>
+        <translation>沿活动轨迹行走，听到并读出各处的值</translation>
+    </message>
+    <message>
+        <source>walking: ← →</source>
+        <translation>行走时：← →</translation>
+    </message>
+    <message>
+        <source>by a point, with Ctrl to the next feature, as the wheel does</source>
+        <translation>移动一个点，按 Ctrl 到下一个特征点，滚轮亦可</translation>
+    </message>
+    <message>
+        <source>PgUp, PgDn</source>
+        <translation>PgUp、PgDn</translation>
+    </message>
+    <message>
+        <source>by a tenth of the view; ↑ ↓ to another trace</source>
+        <translation>移动视图的十分之一；↑ ↓ 换到另一条轨迹</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>回车</translation>
+    </message>
+    <message>
+        <source>set a marker there; Esc ends the walk</source>
+        <translation>在该处设置标记；Esc 结束行走</translation>
     </message>
 </context>
 <context>
@@ -1723,6 +1774,17 @@
     <message>
         <source>Data + memory</source>
         <translation>数据 + 存储</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::TraceWalker</name>
+    <message>
+        <source>Marker %1 is set at %2.</source>
+        <translation>标记 %1 已设在 %2。</translation>
+    </message>
+    <message>
+        <source>changed by %1</source>
+        <translation>变化 %1</translation>
     </message>
 </context>
 <context>

@@ -272,14 +272,6 @@
         <translation>Parallelresonanz</translation>
     </message>
     <message>
-        <source>least reflection</source>
-        <translation>kleinste Reflexion</translation>
-    </message>
-    <message>
-        <source>greatest reflection</source>
-        <translation>größte Reflexion</translation>
-    </message>
-    <message>
         <source>VSWR of %1</source>
         <translation>VSWR von %1</translation>
     </message>
@@ -329,6 +321,14 @@
     <message>
         <source>%1 from %2 to %3: %4.</source>
         <translation>%1 von %2 bis %3: %4.</translation>
+    </message>
+    <message>
+        <source>minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation>Maximum</translation>
     </message>
 </context>
 </TS>

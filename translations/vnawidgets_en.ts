@@ -272,14 +272,6 @@
         <translation>parallel resonance</translation>
     </message>
     <message>
-        <source>least reflection</source>
-        <translation>least reflection</translation>
-    </message>
-    <message>
-        <source>greatest reflection</source>
-        <translation>greatest reflection</translation>
-    </message>
-    <message>
         <source>VSWR of %1</source>
         <translation>VSWR of %1</translation>
     </message>
@@ -329,6 +321,14 @@
     <message>
         <source>%1 from %2 to %3: %4.</source>
         <translation>%1 from %2 to %3: %4.</translation>
+    </message>
+    <message>
+        <source>minimum</source>
+        <translation>minimum</translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation>maximum</translation>
     </message>
 </context>
 </TS>

@@ -272,14 +272,6 @@
         <translation>并联谐振</translation>
     </message>
     <message>
-        <source>least reflection</source>
-        <translation>反射最小</translation>
-    </message>
-    <message>
-        <source>greatest reflection</source>
-        <translation>反射最大</translation>
-    </message>
-    <message>
         <source>VSWR of %1</source>
         <translation>驻波比为 %1</translation>
     </message>
@@ -328,6 +320,14 @@
     <message>
         <source>%1 from %2 to %3: %4.</source>
         <translation>%1 从 %2 到 %3：%4。</translation>
+    </message>
+    <message>
+        <source>minimum</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation>最大值</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chartgestures.h"
 
+#include "tracewalker.h"
+
 #include <panel/ground/pointerevent.h>
 
 #include <plot/qcp.h>
@@ -40,6 +42,11 @@ void stepMarker(PanelModel *model, const Marker &marker, double points)
     else
         index += points;
     model->moveMarker(marker.trace, marker.number, qBound(0.0, index, last));
+}
+
+TraceWalker *walkerOf(const DiagramView *view)
+{
+    return view->findChild<TraceWalker *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 } // namespace
@@ -104,6 +111,14 @@ void ChartGestures::onWheel(QWheelEvent *event)
 {
     activate();
     const double notches = event->angleDelta().y() / 120.0;
+    TraceWalker *walker = walkerOf(m_view);
+    if (walker->isWalking() && notches != 0.0) {
+        const bool byFeatures = event->modifiers().testFlag(Qt::ControlModifier);
+        walker->walk({byFeatures ? SmithChart::WalkUnit::Feature : SmithChart::WalkUnit::Point,
+                      notches > 0.0 ? 1 : -1});
+        event->accept();
+        return;
+    }
     m_model->setZoom(m_view->id(),
                      m_view->zoomedAt(event->position(), std::pow(s_zoomStep, notches)));
     event->accept();
@@ -185,6 +200,8 @@ bool ChartGestures::onGesture(QGestureEvent *event)
 
 bool ChartGestures::handleKey(PanelModel *model, DiagramView *view, const QKeyEvent *event)
 {
+    if (walkerOf(view)->handleKey(event))
+        return true;
     const Marker *selected = model->selectedMarker();
     const auto zoom = [=](double factor) {
         model->setZoom(view->id(), view->zoomedAt(centreOf(view), factor));

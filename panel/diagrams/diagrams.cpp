@@ -4,7 +4,9 @@
 
 #include "cartesianview.h"
 #include "chartgestures.h"
+#include "diagramreader.h"
 #include "smithview.h"
+#include "tracewalker.h"
 
 #include <panel/ground/look.h>
 
@@ -113,6 +115,10 @@ DiagramView *Diagrams::view(const DiagramId &id)
     else
         view = new CartesianView(m_model, id);
     (new DiagramFrame(view, this))->hide();
+    const auto *reader = new DiagramReader(m_model, view);
+    const auto *walker = new TraceWalker(m_model, view);
+    connect(walker, &TraceWalker::said, reader, &DiagramReader::announce);
+    connect(walker, &TraceWalker::said, this, &Diagrams::said);
     new ChartGestures(m_model, view);
     view->plot()->installEventFilter(this);
     return view;

@@ -38,6 +38,8 @@ public:
 Q_SIGNALS:
     /// Others are on show, or another one is active.
     void viewsChanged();
+    /// What is where a trace is walked; empty when the walk ends.
+    void said(const QString &text);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

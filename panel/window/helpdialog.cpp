@@ -6,9 +6,20 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QScroller>
 
 namespace Panel
 {
+
+namespace
+{
+
+/// Around the rows, in pixels.
+constexpr int s_margin = 16;
+
+} // namespace
 
 HelpDialog::HelpDialog(QWidget *parent)
     : DraggableFramelessDialog(parent)
@@ -16,8 +27,9 @@ HelpDialog::HelpDialog(QWidget *parent)
     setAccessibleName(tr("Keys"));
     setWindowTitle(tr("Keys"));
     setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(dialogMargins(16));
+    auto *rowsArea = new QWidget;
+    auto *grid = new QGridLayout(rowsArea);
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(24);
     grid->setVerticalSpacing(5);
     const std::pair<QString, QString> rows[] = {
@@ -27,6 +39,11 @@ HelpDialog::HelpDialog(QWidget *parent)
         {QStringLiteral("\u2190 \u2192"),
          tr("move the selected marker, with Ctrl by a point; or the view")},
         {QStringLiteral("\u2191 \u2193"), tr("move the view")},
+        {tr("F2, Home, End"), tr("walk along the active trace, hear and read what is where")},
+        {tr("walking: \u2190 \u2192"),
+         tr("by a point, with Ctrl to the next feature, as the wheel does")},
+        {tr("PgUp, PgDn"), tr("by a tenth of the view; \u2191 \u2193 to another trace")},
+        {tr("Return"), tr("set a marker there; Esc ends the walk")},
         {tr("G, M, k"), tr("finish a typed number in GHz, MHz or kHz")},
         {tr("Del"), tr("remove the selected marker")},
         {tr("Esc"), tr("select none; leave an entry without changing it")},
@@ -50,6 +67,24 @@ HelpDialog::HelpDialog(QWidget *parent)
         grid->addWidget(new QLabel(action), row, 1);
         ++row;
     }
+
+    // What has no room on a small screen scrolls, under a finger and by keys.
+    auto *scroll = new QScrollArea;
+    scroll->setAccessibleName(tr("Keys"));
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(rowsArea);
+    rowsArea->setAutoFillBackground(false);
+    scroll->viewport()->setAutoFillBackground(false);
+    QScroller::grabGesture(scroll->viewport(), QScroller::LeftMouseButtonGesture);
+    const QSize whole = rowsArea->sizeHint();
+    const int room = parent ? parent->height() - dialogMargins(2 * s_margin).top() - 2 * s_margin
+                            : whole.height();
+    scroll->setMinimumSize(whole.width() + scroll->verticalScrollBar()->sizeHint().width(),
+                           qMin(whole.height(), qMax(room, s_margin)));
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(dialogMargins(s_margin));
+    column->addWidget(scroll);
 }
 
 } // namespace Panel

@@ -139,23 +139,29 @@ public:
         return owner ? new PlotAccessible(static_cast<QCustomPlot *>(object), owner) : nullptr;
     }
 
-    int childCount() const override { return m_owner ? static_cast<int>(parts().all().size()) : 0; }
+    /// The parts, then the widgets in the plot.
+    int childCount() const override
+    {
+        return QAccessibleWidget::childCount()
+            + (m_owner ? static_cast<int>(parts().all().size()) : 0);
+    }
     QAccessibleInterface *child(int index) const override
     {
-        if (!m_owner)
-            return nullptr;
-        const QVector<PlotParts::Part> all = parts().all();
-        return index >= 0 && index < all.size() ? parts().object(all.at(index)) : nullptr;
+        const auto all = m_owner ? parts().all() : QVector<PlotParts::Part>();
+        return index >= 0 && index < all.size()
+            ? parts().object(all.at(index))
+            : QAccessibleWidget::child(index - static_cast<int>(all.size()));
     }
     int indexOfChild(const QAccessibleInterface *child) const override
     {
-        if (!m_owner)
-            return -1;
-        const QVector<PlotParts::Part> all = parts().all();
+        const auto all = m_owner ? parts().all() : QVector<PlotParts::Part>();
         const auto found = std::find_if(all.begin(), all.end(), [&](const PlotParts::Part &part) {
             return parts().knownObject(part) == child;
         });
-        return found == all.end() ? -1 : static_cast<int>(found - all.begin());
+        if (found != all.end())
+            return static_cast<int>(found - all.begin());
+        const int widget = QAccessibleWidget::indexOfChild(child);
+        return widget < 0 ? -1 : widget + static_cast<int>(all.size());
     }
     QString text(QAccessible::Text kind) const override
     {
@@ -264,8 +270,11 @@ AccessiblePlot::AccessiblePlot(QCustomPlot *plot)
         if (before->role() != QAccessible::Chart)
             QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(before));
     }
-    m_pause.setSingleShot(true);
-    m_pause.setInterval(pause);
+    for (QTimer *const timer : {&m_pause, &m_dataPause}) {
+        timer->setSingleShot(true);
+        timer->setInterval(pause);
+    }
+    connect(&m_dataPause, &QTimer::timeout, this, &AccessiblePlot::resetTables);
     connect(&m_pause, &QTimer::timeout, this, [this] {
         if (m_isWaiting)
             say(m_waiting);
@@ -319,8 +328,12 @@ void AccessiblePlot::tellMarkerMoved(PlotDescription *description,
 
 void AccessiblePlot::tellDataChanged()
 {
-    if (!QAccessible::isActive())
-        return;
+    if (QAccessible::isActive() && !m_dataPause.isActive())
+        m_dataPause.start();
+}
+
+void AccessiblePlot::resetTables()
+{
     for (const PlotParts::Part &part : m_parts->all()) {
         QAccessibleInterface *const table =
             part.kind == PlotParts::Table ? m_parts->knownObject(part) : nullptr;

@@ -102,7 +102,7 @@ public:
 
     /// A marker has moved.
     void tellMarkerMoved(PlotDescription *description, const PlotDescription::MarkerId &id);
-    /// Data have changed: the tables are read anew.
+    /// Data have changed: the tables are read anew, once a pause at most.
     void tellDataChanged();
 
 Q_SIGNALS:
@@ -114,10 +114,12 @@ private:
 
     explicit AccessiblePlot(QCustomPlot *plot);
     void say(const QString &text);
+    void resetTables();
 
     const std::unique_ptr<PlotParts> m_parts;
     QString m_announcement;
     QString m_waiting; ///< to be said after the pause
     bool m_isWaiting = false;
     QTimer m_pause;
+    QTimer m_dataPause; ///< until the tables are read anew
 };

@@ -112,7 +112,10 @@ void SmithReader::setTraceName(int trace, const QString &name)
 
 void SmithReader::setStimulusText(const StimulusText &text)
 {
-    d->stimulusText = text ? text : hertzText;
+    if (text)
+        d->stimulusText = text;
+    else
+        d->stimulusText = [](double hertz) { return hertzText(hertz); };
 }
 
 bool SmithReader::setVswr(double ratio)

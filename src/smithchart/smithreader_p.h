@@ -83,7 +83,9 @@ public:
     QPointer<AccessiblePlot> accessible;
     QString ownName;
     QHash<int, QString> names;
-    SmithChart::StimulusText stimulusText = SmithChart::hertzText;
+    SmithChart::StimulusText stimulusText = [](double hertz) {
+        return SmithChart::hertzText(hertz);
+    };
     QVector<Limit> limits;
     bool takesKeys = true;
     SmithChart::TraceWalk walk;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <iterator>
 #include <limits>
 #include <vector>
 
@@ -97,12 +98,12 @@ public:
             m_low = {index, value};
         if (m_trend >= 0 && m_high.value - value >= m_excursion) {
             if (m_trend > 0)
-                m_stops.push_back({double(m_high.index), GreatestReflection});
+                m_stops.push_back({double(m_high.index), Maximum});
             m_trend = -1;
             m_low = {index, value};
         } else if (m_trend <= 0 && value - m_low.value >= m_excursion) {
             if (m_trend < 0)
-                m_stops.push_back({double(m_low.index), LeastReflection});
+                m_stops.push_back({double(m_low.index), Minimum});
             m_trend = 1;
             m_high = {index, value};
         }
@@ -123,12 +124,13 @@ private:
     Point m_low{-1, std::numeric_limits<double>::infinity()};
 };
 
-/// All of some stops in their order, those at one place as one.
-QVector<TraceStop> joined(std::initializer_list<std::vector<TraceStop>> lists)
+/// All stops that are wanted in their order, those at one place as one.
+QVector<TraceStop> joined(std::initializer_list<std::vector<TraceStop>> lists, TraceFeatures wanted)
 {
     std::vector<TraceStop> all;
     for (const std::vector<TraceStop> &list : lists)
-        all.insert(all.end(), list.begin(), list.end());
+        std::copy_if(list.begin(), list.end(), std::back_inserter(all),
+                     [wanted](const TraceStop &stop) { return stop.features & wanted; });
     std::sort(all.begin(), all.end(),
               [](const TraceStop &a, const TraceStop &b) { return a.index < b.index; });
     QVector<TraceStop> stops;
@@ -217,6 +219,12 @@ bool TraceWalk::setExcursion(double magnitude)
     m_found = m_found && magnitude == m_excursion;
     m_excursion = magnitude;
     return true;
+}
+
+void TraceWalk::setFeatures(TraceFeatures features)
+{
+    m_found = m_found && features == m_wanted;
+    m_wanted = features;
 }
 
 void TraceWalk::setLimitEdges(const QVector<double> &indices)
@@ -322,7 +330,7 @@ const QVector<TraceStop> &TraceWalk::dataFeatures() const
     }
     axis.endRun();
     circle.endRun();
-    m_features = joined({axis.stops(), circle.stops(), extremes.stops()});
+    m_features = joined({axis.stops(), circle.stops(), extremes.stops()}, m_wanted);
     m_found = true;
     return m_features;
 }

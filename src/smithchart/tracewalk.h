@@ -20,8 +20,8 @@ namespace SmithChart
 enum TraceFeature {
     Resonance = 0x01, ///< the reactance goes from - to +: a series resonance
     RealAxis = 0x02, ///< the reactance goes from + to -: a parallel resonance
-    LeastReflection = 0x04, ///< the magnitude is least here, and greater on both sides
-    GreatestReflection = 0x08, ///< the magnitude is greatest here, and less on both sides
+    Minimum = 0x04, ///< the magnitude is least here, and greater on both sides
+    Maximum = 0x08, ///< the magnitude is greatest here, and less on both sides
     VswrCircle = 0x10, ///< the trace crosses the circle of a standing wave ratio
     LimitEdge = 0x20, ///< a stretch that fails a limit begins or ends
     MarkedPoint = 0x40, ///< a marker stands here
@@ -86,6 +86,8 @@ public:
     bool setExcursion(double magnitude);
     /// See setExcursion().
     double excursion() const { return m_excursion; }
+    /// Which features of the data count. Default: all of them.
+    void setFeatures(TraceFeatures features);
     /// Indices of the first and last points of what fails its limits, in any order.
     void setLimitEdges(const QVector<double> &indices);
     /// Indices of the markers on the trace, in any order.
@@ -121,6 +123,7 @@ private:
     QVector<double> m_imag;
     double m_vswr = 2.0;
     double m_excursion = 0.02;
+    TraceFeatures m_wanted = ~TraceFeatures();
     QVector<double> m_limitEdges; ///< ascending
     QVector<double> m_markers; ///< ascending
     mutable QVector<TraceStop> m_features;

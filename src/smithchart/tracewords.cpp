@@ -34,7 +34,11 @@ QString vswrText(const std::complex<double> &reflection)
 
 QString impedanceText(const PointValues &point)
 {
-    const double reactance = point.impedance.imag();
+    // On the real axis nothing is left of it but rounding.
+    constexpr double rounding = 1e-9;
+    double reactance = point.impedance.imag();
+    if (std::fabs(reactance) < rounding * std::abs(point.impedance))
+        reactance = 0.0;
     const QString sign = reactance < 0.0 ? QStringLiteral(" \u2212 j") : QStringLiteral(" + j");
     const QString unit = point.unit.isEmpty() ? QString() : QLatin1Char(' ') + point.unit;
     return number(point.impedance.real(), 4) + sign + number(std::fabs(reactance), 4) + unit;
@@ -50,7 +54,7 @@ double valueAt(const QVector<double> &values, double index)
 
 } // namespace
 
-QString hertzText(double hertz)
+QString hertzText(double hertz, int digits)
 {
     const std::pair<double, const char *> units[] = {
         {1e9, "GHz"}, {1e6, "MHz"}, {1e3, "kHz"}, {1.0, "Hz"}};
@@ -58,7 +62,7 @@ QString hertzText(double hertz)
     const auto *const unit =
         std::find_if(std::begin(units), std::end(units) - 1,
                      [size](const auto &candidate) { return size >= candidate.first; });
-    return number(hertz / unit->first, 6) + QLatin1Char(' ') + QLatin1String(unit->second);
+    return number(hertz / unit->first, digits) + QLatin1Char(' ') + QLatin1String(unit->second);
 }
 
 std::complex<double> normalisedImpedance(const std::complex<double> &reflection)
@@ -100,8 +104,8 @@ QString featureText(TraceFeatures features, double vswr)
     const std::pair<TraceFeature, QString> all[] = {
         {Resonance, TraceWords::tr("resonance")},
         {RealAxis, TraceWords::tr("parallel resonance")},
-        {LeastReflection, TraceWords::tr("least reflection")},
-        {GreatestReflection, TraceWords::tr("greatest reflection")},
+        {Minimum, TraceWords::tr("minimum")},
+        {Maximum, TraceWords::tr("maximum")},
         {VswrCircle, TraceWords::tr("VSWR of %1").arg(vswr)},
         {LimitEdge, TraceWords::tr("edge of the limit")},
         {MarkedPoint, TraceWords::tr("marker")},

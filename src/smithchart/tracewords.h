@@ -42,8 +42,8 @@ struct PointValues {
 /// Turns a stimulus value into text with its unit.
 using StimulusText = std::function<QString(double)>;
 
-/// "2.45 GHz": a value in Hz.
-[[nodiscard]] VNAWIDGETS_EXPORT QString hertzText(double hertz);
+/// "2.45 GHz": a value in Hz, of up to so many digits.
+[[nodiscard]] VNAWIDGETS_EXPORT QString hertzText(double hertz, int digits = 7);
 /// The impedance of a reflection coefficient, in units of the reference; infinite for 1.
 [[nodiscard]] VNAWIDGETS_EXPORT std::complex<double>
 normalisedImpedance(const std::complex<double> &reflection);

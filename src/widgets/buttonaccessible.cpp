@@ -9,6 +9,28 @@ ButtonAccessible::ButtonAccessible(QAbstractButton *button)
 {
 }
 
+/// What it opens, or null.
+QAccessibleInterface *ButtonAccessible::list() const
+{
+    return QAccessible::queryAccessibleInterface(button()->findChild<PopupWidget *>());
+}
+
+int ButtonAccessible::childCount() const
+{
+    return QAccessibleWidget::childCount() + (list() ? 1 : 0);
+}
+
+QAccessibleInterface *ButtonAccessible::child(int index) const
+{
+    return index == QAccessibleWidget::childCount() ? list() : QAccessibleWidget::child(index);
+}
+
+int ButtonAccessible::indexOfChild(const QAccessibleInterface *child) const
+{
+    return child && child == list() ? QAccessibleWidget::childCount()
+                                    : QAccessibleWidget::indexOfChild(child);
+}
+
 QAccessible::Role ButtonAccessible::role() const
 {
     return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;

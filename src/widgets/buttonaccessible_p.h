@@ -25,6 +25,10 @@ public:
             });
     }
 
+    /// The list that it opens comes after its other children: Qt leaves popups out of the tree.
+    int childCount() const override;
+    QAccessibleInterface *child(int index) const override;
+    int indexOfChild(const QAccessibleInterface *child) const override;
     QAccessible::Role role() const override;
     QString text(QAccessible::Text kind) const override;
     QAccessible::State state() const override;
@@ -41,6 +45,7 @@ protected:
     virtual void activate();
 
 private:
+    QAccessibleInterface *list() const;
     QString mainAction() const;
 };
 

@@ -85,7 +85,7 @@ void tst_TraceWalk::aSeriesCircuitResonatesWhereItsFormulaSays()
     QVERIFY(std::abs(frequency(stops.first().index) - at(-0.6)) < 1e-4);
     QVERIFY(std::abs(frequency(stops.last().index) - at(0.6)) < 1e-4);
     QSet<int> middle{int(stops.at(1).features), int(stops.at(2).features)};
-    QCOMPARE(middle, (QSet<int>{Resonance, LeastReflection}));
+    QCOMPARE(middle, (QSet<int>{Resonance, Minimum}));
     for (const TraceStop &stop : stops) {
         if (stop.features.testFlag(Resonance))
             QVERIFY(std::abs(frequency(stop.index) - 1.0) < 1e-5);
