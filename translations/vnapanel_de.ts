@@ -420,6 +420,10 @@
         <source>set a marker there; Esc ends the walk</source>
         <translation>dort einen Marker setzen; Esc beendet das Gehen</translation>
     </message>
+    <message>
+        <source>read the selected marker over its whole diagram</source>
+        <translation>den ausgewählten Marker groß über dem Diagramm lesen</translation>
+    </message>
 </context>
 <context>
     <name>Panel::InstrumentDialog</name>
@@ -838,6 +842,10 @@
         <source>The printer does not take the diagram.</source>
         <translation>Der Drucker nimmt das Diagramm nicht an.</translation>
     </message>
+    <message>
+        <source>Select a marker to read it large.</source>
+        <translation>Wähle einen Marker, um ihn groß zu lesen.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelKeys</name>
@@ -1230,6 +1238,10 @@
     <message>
         <source>Saved files go to</source>
         <translation>Gespeichert wird in</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
     </message>
 </context>
 <context>

@@ -414,6 +414,10 @@
         <source>set a marker there; Esc ends the walk</source>
         <translation>在该处设置标记；Esc 结束行走</translation>
     </message>
+    <message>
+        <source>read the selected marker over its whole diagram</source>
+        <translation>在整个图上大字显示所选标记</translation>
+    </message>
 </context>
 <context>
     <name>Panel::InstrumentDialog</name>
@@ -832,6 +836,10 @@
         <source>The printer does not take the diagram.</source>
         <translation>打印机不接受该图表。</translation>
     </message>
+    <message>
+        <source>Select a marker to read it large.</source>
+        <translation>请先选择要放大显示的标记。</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelKeys</name>
@@ -1223,6 +1231,10 @@
     <message>
         <source>Saved files go to</source>
         <translation>保存到</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>高对比度</translation>
     </message>
 </context>
 <context>

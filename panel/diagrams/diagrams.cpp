@@ -5,6 +5,7 @@
 #include "cartesianview.h"
 #include "chartgestures.h"
 #include "diagramreader.h"
+#include "largereading.h"
 #include "smithview.h"
 #include "tracewalker.h"
 
@@ -119,9 +120,17 @@ DiagramView *Diagrams::view(const DiagramId &id)
     const auto *walker = new TraceWalker(m_model, view);
     connect(walker, &TraceWalker::said, reader, &DiagramReader::announce);
     connect(walker, &TraceWalker::said, this, &Diagrams::said);
+    (new LargeReading(m_model, view))->setWanted(m_largeReading);
     new ChartGestures(m_model, view);
     view->plot()->installEventFilter(this);
     return view;
+}
+
+void Diagrams::setLargeReading(bool large)
+{
+    m_largeReading = large;
+    for (const DiagramView *view : allViews())
+        view->findChild<LargeReading *>()->setWanted(large);
 }
 
 bool Diagrams::eventFilter(QObject *watched, QEvent *event)

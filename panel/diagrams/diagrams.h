@@ -35,6 +35,10 @@ public:
     SmithView *smithView() const;
     CartesianView *cartesianView() const;
 
+    /// Whether the selected marker is read over its whole diagram. False at first.
+    bool largeReading() const { return m_largeReading; }
+    void setLargeReading(bool large);
+
 Q_SIGNALS:
     /// Others are on show, or another one is active.
     void viewsChanged();
@@ -54,6 +58,7 @@ private:
     QGridLayout *m_grid;
     std::map<DiagramId, DiagramView *> m_views;
     QVector<DiagramView *> m_shown;
+    bool m_largeReading = false;
 };
 
 } // namespace Panel

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "look.h"
 
+#include "highcontrast.h"
 #include "icons.h"
+#include "tracecolors.h"
 
 #include <controls/thememanager.h>
 
@@ -71,6 +73,10 @@ void setUpApplication()
     using Controls::ThemeManager;
     auto *theme = ThemeManager::instance();
     theme->setHostSheet(styleSheet());
+    for (const auto kind : {ThemeManager::Dark, ThemeManager::Light}) {
+        theme->setTracePalette(kind, traceColors(kind == ThemeManager::Dark));
+        theme->setMemoryTracePalette(kind, memoryColors(kind == ThemeManager::Dark));
+    }
     theme->setTheme(ThemeManager::Dark);
 }
 
@@ -112,12 +118,12 @@ QVector<QColor> extended(QVector<QColor> palette, bool dark)
 
 QPen Look::pen(int id, int file) const
 {
-    return dashed(trace(id), file);
+    return dashed(trace(id), isHighContrast() ? file + id - 1 : file);
 }
 
 QPen Look::memoryPen(int id, int file) const
 {
-    return dashed(memory(id), file);
+    return dashed(memory(id), isHighContrast() ? file + id - 1 : file);
 }
 
 Look currentLook()

@@ -33,7 +33,7 @@ struct Look {
     /// The same for stored data.
     QColor memory(int id) const { return memories.at((id - 1) % memories.size()); }
     /// The line of a trace of a file: the first file's are solid, those of each further one have a
-    /// dash pattern of their own.
+    /// dash pattern of their own. At high contrast so has each trace.
     QPen pen(int id, int file) const;
     QPen memoryPen(int id, int file) const;
 };

@@ -25,9 +25,13 @@ public:
     /// Addresses of instruments that were linked before, the last one first.
     QStringList instruments() const { return m_instruments; }
 
+    /// Black and white, and a dash pattern for each trace.
+    bool highContrast() const { return m_highContrast; }
+
     void setLanguage(const QString &code) { set(m_language, code); }
     void setExportFolder(const QString &folder) { set(m_exportFolder, folder); }
 
+    void setHighContrast(bool on) { set(m_highContrast, on); }
     void setInstruments(const QStringList &addresses) { set(m_instruments, addresses); }
 
 Q_SIGNALS:
@@ -46,6 +50,7 @@ private:
     QString m_language;
     QString m_exportFolder;
     QStringList m_instruments;
+    bool m_highContrast = false;
 };
 
 } // namespace Panel

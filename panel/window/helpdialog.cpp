@@ -54,6 +54,7 @@ HelpDialog::HelpDialog(QWidget *parent)
         {tr("Ctrl + T"), tr("dark or light")},
         {tr("Ctrl + ,"), tr("settings")},
         {QStringLiteral("F3"), tr("show what the drawing costs")},
+        {QStringLiteral("F4"), tr("read the selected marker over its whole diagram")},
         {QStringLiteral("F11"), tr("full screen")},
         {tr("Ctrl + Q"), tr("quit")},
     };

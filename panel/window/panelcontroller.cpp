@@ -28,6 +28,7 @@
 #include <panel/files/history.h>
 #include <panel/files/setups.h>
 #include <panel/ground/dialogstage.h>
+#include <panel/ground/highcontrast.h>
 #include <panel/ground/languages.h>
 #include <panel/link/linksource.h>
 #include <panel/model/panelmodel.h>
@@ -160,6 +161,7 @@ void PanelController::connectKeys()
     connect(m_window->screenshotButton(), &QAbstractButton::clicked, this,
             &PanelController::takeScreenshot);
     connect(m_model->preferences(), &Preferences::changed, this, [this] {
+        setHighContrast(m_model->preferences()->highContrast());
         const QString wanted = m_model->preferences()->language();
         if (!wanted.isEmpty() && wanted != currentLanguage())
             m_window->messageBar()->notify(
@@ -277,6 +279,12 @@ void PanelController::addShortcuts()
     add(ctrl(Qt::Key_PageUp), [this] { m_window->softKeys()->turnPage(-1); });
     add(Qt::Key_F1, [this] { showHelp(); });
     add(Qt::Key_F3, [this] { setTimingShown(m_window->timingLine()->isHidden()); });
+    add(Qt::Key_F4, [this] {
+        Diagrams *diagrams = m_window->diagrams();
+        diagrams->setLargeReading(!diagrams->largeReading());
+        if (diagrams->largeReading() && !m_model->selectedMarker())
+            m_window->messageBar()->notify(tr("Select a marker to read it large."));
+    });
     add(Qt::Key_F11,
         [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); });
 }

@@ -75,6 +75,8 @@ void SettingsDialog::addTheme()
     connect(theme, &ThemeManager::themeChanged, choice,
             [choice](ThemeManager::Theme now) { choice->setCurrentIndex(now); });
     addRow(tr("Look"), choice);
+    connect(addSwitch(tr("High contrast"), m_model->preferences()->highContrast()),
+            &SwitchButton::statusChanged, m_model->preferences(), &Preferences::setHighContrast);
 }
 
 void SettingsDialog::addLanguage()

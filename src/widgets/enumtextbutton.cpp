@@ -17,7 +17,11 @@ class EnumTextButtonAccessible : public NamedButtonAccessible<EnumTextButton>
 public:
     using NamedButtonAccessible::NamedButtonAccessible;
 
-    QAccessible::Role role() const override { return QAccessible::ComboBox; }
+    /// Without a list it is a button like others.
+    QAccessible::Role role() const override
+    {
+        return button()->enums().isEmpty() ? QAccessible::Button : QAccessible::ComboBox;
+    }
 
 protected:
     QString value() const override { return button()->labelText(); }
