@@ -9,10 +9,11 @@ ButtonAccessible::ButtonAccessible(QAbstractButton *button)
 {
 }
 
-/// What it opens, or null.
+/// What it has opened, or null: a hidden list has a current entry too, which passes for the focus.
 QAccessibleInterface *ButtonAccessible::list() const
 {
-    return QAccessible::queryAccessibleInterface(button()->findChild<PopupWidget *>());
+    auto *const popup = button()->findChild<PopupWidget *>();
+    return popup && popup->isVisible() ? QAccessible::queryAccessibleInterface(popup) : nullptr;
 }
 
 int ButtonAccessible::childCount() const

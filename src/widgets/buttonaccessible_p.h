@@ -25,7 +25,7 @@ public:
             });
     }
 
-    /// The list that it opens comes after its other children: Qt leaves popups out of the tree.
+    /// An open list comes after its other children: Qt leaves popups out of the tree.
     int childCount() const override;
     QAccessibleInterface *child(int index) const override;
     int indexOfChild(const QAccessibleInterface *child) const override;
