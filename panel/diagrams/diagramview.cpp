@@ -20,6 +20,14 @@
 namespace Panel
 {
 
+namespace
+{
+
+/// A stretch beside the plot's 1: the read-outs get what they can use, and the plot the rest.
+constexpr int s_readOutsFirst = 1000;
+
+} // namespace
+
 DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
@@ -39,7 +47,7 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
     column->addLayout(m_body, 1);
     m_body->addWidget(m_plot, 1);
     if (m_id.smith)
-        m_body->addWidget(m_readOuts, 1);
+        m_body->addWidget(m_readOuts, s_readOutsFirst);
     else
         m_readOuts->setParent(m_plot);
     m_plot->setFocusPolicy(Qt::WheelFocus);

@@ -26,6 +26,8 @@ namespace
 constexpr int s_rowHeight = 44;
 /// Changes of a live sweep are gathered for so long, in milliseconds: nobody reads faster.
 constexpr int s_gathering = 100;
+/// What a cell has beside its text, in pixels: the style's padding and a gap.
+constexpr int s_cellRoom = 26;
 /// The share of the host's height.
 constexpr double s_share = 0.3;
 
@@ -191,7 +193,7 @@ MarkerTable::MarkerTable(const PanelModel *model, QWidget *parent)
     m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setDefaultSectionSize(s_rowHeight);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_table->horizontalHeader()->setFixedHeight(s_rowHeight);
     m_table->horizontalHeader()->setHighlightSections(false);
     QScroller::grabGesture(m_table->viewport(), QScroller::LeftMouseButtonGesture);
@@ -244,6 +246,7 @@ void MarkerTable::refresh()
         return;
     m_rows->refresh();
     m_hint->setVisible(m_rows->rowCount() == 0);
+    fitColumns();
     m_bandwidth->setText(bandwidthText(*m_model));
     m_bandwidth->setVisible(!m_bandwidth->text().isEmpty());
     const Marker *selected = m_model->selectedMarker();
@@ -256,6 +259,38 @@ void MarkerTable::refresh()
     if (current.row() != m_table->currentIndex().row()
         || !m_table->selectionModel()->hasSelection())
         m_table->selectRow(current.row());
+}
+
+/// Gives each column the room of its texts, and of those before: numbers of a live sweep would make
+/// it tremble. What room is left is shared; a value that no row has takes none.
+void MarkerTable::fitColumns()
+{
+    QHeaderView *header = m_table->horizontalHeader();
+    int sum = 0, shown = 0;
+    m_widths.resize(ColumnCount);
+    for (int column = 0; column < ColumnCount; ++column) {
+        bool used = column <= FirstValue;
+        int width = header->sectionSizeHint(column);
+        for (int row = 0; row < m_rows->rowCount(); ++row) {
+            const QString text = m_rows->index(row, column).data().toString();
+            used = used || !text.isEmpty();
+            width = qMax(width, fontMetrics().horizontalAdvance(text) + s_cellRoom);
+        }
+        m_table->setColumnHidden(column, !used);
+        m_widths[column] = qMax(m_widths.at(column), width);
+        sum += used ? m_widths.at(column) : 0;
+        shown += used ? 1 : 0;
+    }
+    const int spare = qMax(0, m_table->viewport()->width() - sum) / shown;
+    for (int column = 0; column < ColumnCount; ++column)
+        header->resizeSection(column, m_widths.at(column) + spare);
+}
+
+void MarkerTable::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (isVisible())
+        fitColumns();
 }
 
 void MarkerTable::onRowPicked(const QModelIndex &index)

@@ -37,8 +37,12 @@ public:
 Q_SIGNALS:
     void selectionRequested(int traceId, int number);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void refresh();
+    void fitColumns();
     void onRowPicked(const QModelIndex &index);
 
     const PanelModel *m_model;
@@ -47,6 +51,7 @@ private:
     QTableView *m_table;
     QLabel *m_hint; ///< in place of the rows while there are none
     QLabel *m_bandwidth;
+    QVector<int> m_widths; ///< that the columns have needed, in pixels
     QTimer m_refresh; ///< runs while changes are gathered
 };
 

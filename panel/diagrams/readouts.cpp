@@ -101,7 +101,8 @@ void ReadOuts::showBelow(const QSize &diagram)
     const int lines = qBound(fewest, diagram.height() / s_heightForARow, s_mostRows);
     // The labels above and below the chart want a line each.
     const int left = diagram.height() - diagram.width() - 2 * fontMetrics().height();
-    setFixedHeight(qMax(lines * lineHeight(), left));
+    setMinimumHeight(fewest * lineHeight());
+    setMaximumHeight(qMax(lines * lineHeight(), left));
 }
 
 void ReadOuts::showBeside(int width)

@@ -100,9 +100,9 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.markerStimulus = menu->addKey(Text::tr("Stimulus"));
     keys.search = addMenu(menu, Text::tr("Search"));
     keys.markerTo = addMenu(menu, Text::tr("Marker to"));
-    keys.referenceMarker = menu->addKey(Text::tr("Reference"));
+    std::tie(keys.referenceMarker, keys.bandwidth) =
+        addPair(menu, Text::tr("Reference"), Text::tr("Bandwidth"));
     keys.readout = menu->addKey(Text::tr("Read-out"));
-    keys.bandwidth = menu->addKey(Text::tr("Bandwidth"));
     std::tie(keys.track, keys.couple) = addPair(menu, Text::tr("Track"), Text::tr("Couple"));
     keys.markerTable = addSwitch(menu, Text::tr("Table"));
 

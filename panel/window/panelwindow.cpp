@@ -181,6 +181,8 @@ QWidget *PanelWindow::makeEmptyPage()
     auto *page = new QWidget;
     page->setObjectName(QStringLiteral("emptyPage"));
     page->setAttribute(Qt::WA_StyledBackground);
+    // While it is not on show, the diagrams may be lower than it is.
+    page->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     auto *column = new QVBoxLayout(page);
     column->setSpacing(12);
     column->addStretch();

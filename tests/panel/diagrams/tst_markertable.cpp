@@ -92,6 +92,15 @@ private Q_SLOTS:
         QVERIFY(desk.table()->isHidden() && desk.cartesian()->readOuts()->isVisible());
     }
 
+    void fitsASmallScreen()
+    {
+        TableDesk desk(QSize(798, 455));
+        desk.model.addMarker(1, 900);
+        desk.model.viewSettings()->setMarkerTable(true);
+        TableDesk::waitForTable();
+        QCOMPARE(desk.window.size(), QSize(798, 455));
+    }
+
     void markersFollowTheirExtreme()
     {
         TableDesk desk;
