@@ -23,8 +23,8 @@ namespace
 constexpr double s_letters = 0.75;
 /// Around the text, in pixels.
 constexpr int s_margin = 16;
-/// How much of the ground covers the traces behind the text.
-constexpr double s_cover = 0.8;
+/// How opaque the ground behind the text is, of 255.
+constexpr int s_cover = 204;
 
 } // namespace
 
@@ -89,7 +89,7 @@ void LargeReading::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const Look look = currentLook();
     QColor ground = look.background;
-    ground.setAlphaF(s_cover);
+    ground.setAlpha(s_cover);
     painter.fillRect(rect(), ground);
     const QRect room = rect().adjusted(s_margin, s_margin, -s_margin, -s_margin);
     const int height = room.height() / int(m_lines.size());

@@ -32,6 +32,7 @@ constexpr ContrastColor s_colors[] = {
     {"buttonHoverColor", 0x303030, 0xd8d8d8},
     {"listItemDefaultColor", 0x000000, 0xffffff},
     {"focusColor", 0xffff00, 0x0000c0},
+    {"disabledCheckedColor", 0x505050, 0xc8c8c8},
 };
 
 bool s_on = false;

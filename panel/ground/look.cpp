@@ -44,7 +44,7 @@ Panel--MarkerTable QTableView::item { padding: 0px 10px; border: none; }
 Panel--MarkerTable QTableView::item:selected { background: @buttonColor; }
 Panel--MarkerTable QHeaderView::section { background: @backgroundColor; color: @dimTextColor; border: none; border-bottom: 1px solid @borderColor; padding: 0px 10px; }
 Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
-SwitchButton QPushButton#btnOff:checked:enabled { background-color: @borderColor; border-color: @borderColor; color: @textColor; }
+SwitchButton QPushButton#btnOff:checked:enabled { background-color: @disabledCheckedColor; border-color: @borderColor; color: @textColor; }
 PopupWidget QListWidget#ListModeView::item, PopupWidget QListWidget#IconModeView::item { min-height: 44px; }
 QToolButton#pageTab { border: none; border-left: 3px solid transparent; border-radius: 0px; padding: 2px 0px; background: transparent; color: @dimTextColor; font-size: 11px; }
 QToolButton#pageTab:checked { border-left-color: @focusColor; color: @textColor; background: @buttonColor; }

@@ -161,7 +161,7 @@ void tst_SmithReader::keysWalkTheTrace()
     QVERIFY2(last().startsWith(QLatin1String("Minimum: 2 GHz, ")), qPrintable(last()));
     scene.press(Qt::Key_End);
     QCOMPARE(scene.reader->walkedIndex(), 4.0);
-    const int steps = said.size();
+    const int steps = int(said.size());
     scene.press(Qt::Key_End); // nothing new
     scene.press(Qt::Key_Right);
     QCOMPARE(said.size(), steps);

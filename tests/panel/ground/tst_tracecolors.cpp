@@ -97,6 +97,9 @@ void tst_TraceColors::highContrast()
             QVERIFY2(contrast(text, look.background) >= 7.0, qPrintable(text.name()));
             QVERIFY2(contrast(text, look.bar) >= 7.0, qPrintable(text.name()));
         }
+        // A switch that is off is filled.
+        QVERIFY(contrast(look.text, theme->getColor(QStringLiteral("disabledCheckedColor")))
+                >= 7.0);
         QVERIFY(look.pen(2, 0).style() == Qt::CustomDashLine);
         QVERIFY(look.pen(1, 0).style() == Qt::SolidLine);
         setHighContrast(false);
