@@ -62,8 +62,8 @@ QVector<PlotDescription::MarkerId> SmithReader::Private::markers() const
 {
     QVector<MarkerId> ids;
     for (const int trace : traces()) {
-        constexpr int most = 99;
-        for (int number = 1; number <= most && ids.size() < most; ++number) {
+        constexpr int highest = 99;
+        for (int number = 1; number <= highest && ids.size() < highest; ++number) {
             const Plot::Marker *const marker = std::as_const(*chart).getMarker(trace, number);
             if (marker && marker->isVisible())
                 ids.append({trace, number});

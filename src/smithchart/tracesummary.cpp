@@ -68,7 +68,7 @@ TraceSummary summarise(const QVector<double> &real, const QVector<double> &imag,
 {
     TraceSummary summary;
     const int count = static_cast<int>(std::min(real.size(), imag.size()));
-    double least = std::numeric_limits<double>::infinity();
+    double smallest = std::numeric_limits<double>::infinity();
     TurnCount turns(noiseOf(real, imag, count));
     const auto power = [&](int i) { return real.at(i) * real.at(i) + imag.at(i) * imag.at(i); };
     for (int i = 0; i < count; ++i) {
@@ -78,15 +78,15 @@ TraceSummary summarise(const QVector<double> &real, const QVector<double> &imag,
         if (summary.first < 0)
             summary.first = i;
         summary.last = i;
-        if (here < least) {
-            least = here;
+        if (here < smallest) {
+            smallest = here;
             summary.best = i;
         }
         turns.addPoint(real.at(i), imag.at(i));
     }
     if (summary.best < 0)
         return summary;
-    summary.magnitude = std::sqrt(least);
+    summary.magnitude = std::sqrt(smallest);
     summary.loops = turns.wholeTurns();
     const double radius = (vswr - 1.0) / (vswr + 1.0);
     if (!(summary.magnitude < radius))

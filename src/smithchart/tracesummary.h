@@ -13,7 +13,7 @@ namespace SmithChart
 struct TraceSummary {
     int first = -1; ///< index of the first finite point; -1 where there is none
     int last = -1; ///< index of the last one
-    int best = -1; ///< index of the best match: the least magnitude, the first of equals
+    int best = -1; ///< index of the best match: the smallest magnitude, the first of equals
     double magnitude = 0.0; ///< there
     double bandLow =
         -1.0; ///< fractional index where the band around the best match begins; -1: none

@@ -20,7 +20,7 @@ namespace SmithChart
 enum TraceFeature {
     Resonance = 0x01, ///< the reactance goes from - to +: a series resonance
     RealAxis = 0x02, ///< the reactance goes from + to -: a parallel resonance
-    Minimum = 0x04, ///< the magnitude is least here, and greater on both sides
+    Minimum = 0x04, ///< the magnitude is smallest here, and greater on both sides
     Maximum = 0x08, ///< the magnitude is greatest here, and less on both sides
     VswrCircle = 0x10, ///< the trace crosses the circle of a standing wave ratio
     LimitEdge = 0x20, ///< a stretch that fails a limit begins or ends
