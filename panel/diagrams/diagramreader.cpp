@@ -16,12 +16,6 @@ namespace Panel
 namespace
 {
 
-/// Whether a trace has an impedance.
-bool reflects(const Trace &trace)
-{
-    return trace.to == trace.from;
-}
-
 /// Where a value is lowest and highest.
 struct Extremes {
     int lowest = -1;

@@ -22,7 +22,7 @@ namespace
 /// Of the height of a line that its letters take.
 constexpr double s_letters = 0.75;
 /// Around the text, in pixels.
-constexpr int s_margin = 16;
+constexpr int s_edge = 16;
 /// How opaque the ground behind the text is, of 255.
 constexpr int s_cover = 204;
 
@@ -91,7 +91,7 @@ void LargeReading::paintEvent(QPaintEvent *)
     QColor ground = look.background;
     ground.setAlpha(s_cover);
     painter.fillRect(rect(), ground);
-    const QRect room = rect().adjusted(s_margin, s_margin, -s_margin, -s_margin);
+    const QRect room = rect().adjusted(s_edge, s_edge, -s_edge, -s_edge);
     const int height = room.height() / int(m_lines.size());
     QFont large = font();
     large.setPixelSize(qMax(1, qRound(height * s_letters)));

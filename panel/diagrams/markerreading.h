@@ -29,6 +29,12 @@ struct MarkedPoint {
     double index = 0.0;
 };
 
+/// Whether a trace has an impedance to read.
+inline bool reflects(const Trace &trace)
+{
+    return trace.to == trace.from;
+}
+
 /*! Reads a point on the Smith chart.
 
     Impedance and admittance are those of impedanceOf() and admittanceOf(), and the standing wave

@@ -28,11 +28,6 @@ constexpr double s_viewStep = 0.1;
 /// What counts as a match while no standing wave ratio is set.
 constexpr double s_match = 2.0;
 
-bool reflects(const Trace &trace)
-{
-    return trace.to == trace.from;
-}
-
 } // namespace
 
 TraceWalker::TraceWalker(PanelModel *model, DiagramView *view)

@@ -17,7 +17,7 @@ namespace
 {
 
 /// Around the rows, in pixels.
-constexpr int s_margin = 16;
+constexpr int s_edge = 16;
 
 } // namespace
 
@@ -79,12 +79,12 @@ HelpDialog::HelpDialog(QWidget *parent)
     scroll->viewport()->setAutoFillBackground(false);
     QScroller::grabGesture(scroll->viewport(), QScroller::LeftMouseButtonGesture);
     const QSize whole = rowsArea->sizeHint();
-    const int room = parent ? parent->height() - dialogMargins(2 * s_margin).top() - 2 * s_margin
+    const int room = parent ? parent->height() - dialogMargins(2 * s_edge).top() - 2 * s_edge
                             : whole.height();
     scroll->setMinimumSize(whole.width() + scroll->verticalScrollBar()->sizeHint().width(),
-                           qMin(whole.height(), qMax(room, s_margin)));
+                           qMin(whole.height(), qMax(room, s_edge)));
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(dialogMargins(s_margin));
+    column->setContentsMargins(dialogMargins(s_edge));
     column->addWidget(scroll);
 }
 
