@@ -302,8 +302,14 @@ void AccessiblePlot::announce(const QString &text)
         say(text);
 }
 
+QString AccessiblePlot::announcement() const
+{
+    return m_said.isValid() && !m_said.hasExpired(memory) ? m_announcement : QString();
+}
+
 void AccessiblePlot::say(const QString &text)
 {
+    m_said.start();
     m_isWaiting = false;
     m_announcement = text;
     if (!text.isEmpty())

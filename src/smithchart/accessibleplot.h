@@ -4,6 +4,7 @@
 
 #include <vnawidgets_export.h>
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
@@ -84,6 +85,8 @@ class VNAWIDGETS_EXPORT AccessiblePlot : public QObject
 public:
     /// Milliseconds between two announcements.
     static constexpr int pause = 1000;
+    /// Milliseconds after which a plot goes by its own name again.
+    static constexpr int memory = 10000;
 
     /// The one of this plot, made when it is first asked for; null for a null plot.
     static AccessiblePlot *on(QCustomPlot *plot);
@@ -97,8 +100,9 @@ public:
     /// Has a text said: at once, or when the pause after the one before is over. The newest of those
     /// that wait is said, the others never are. Nothing, the empty text, ends the announcement.
     void announce(const QString &text);
-    /// What was announced last; the plot goes by it in place of its name.
-    QString announcement() const { return m_announcement; }
+    /// What was announced last; the plot goes by it in place of its name for a while. Empty from then
+    /// on.
+    QString announcement() const;
 
     /// A marker has moved.
     void tellMarkerMoved(PlotDescription *description, const PlotDescription::MarkerId &id);
@@ -118,6 +122,7 @@ private:
 
     const std::unique_ptr<PlotParts> m_parts;
     QString m_announcement;
+    QElapsedTimer m_said; ///< since the last announcement
     QString m_waiting; ///< to be said after the pause
     bool m_isWaiting = false;
     QTimer m_pause;
