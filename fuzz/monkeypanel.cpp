@@ -7,6 +7,7 @@
 #include <controls/thememanager.h>
 #include <panel/files/filecontroller.h>
 #include <panel/files/samples.h>
+#include <panel/ground/dialogstage.h>
 #include <panel/ground/languages.h>
 #include <panel/window/filedialog.h>
 #include <panel/window/panellock.h>
@@ -278,7 +279,7 @@ void Desk::perform(const Event &event)
     const bool byHand = event.species <= Species::Key && !isPointerDown();
     // A dialog or a list that was open before the host locked is left to the hand.
     const bool locked = byHand && isLocked() && !QApplication::activeModalWidget()
-        && !QApplication::activePopupWidget();
+        && !QApplication::activePopupWidget() && !Panel::DialogStage::isOccupied(m_window.get());
     const int changes = m_changes, loads = m_loads;
     switch (event.species) {
     case Species::Tap:

@@ -189,8 +189,8 @@ QStringList brokenRules(const PanelModel &model, const Diagrams &diagrams)
 {
     QStringList broken;
     for (const DiagramView *view : diagrams.views()) {
-        // What is hidden catches up when it is shown.
-        if (view->isVisible() && !view->visibleRegion().isEmpty())
+        // What is hidden or minimised catches up when it is shown.
+        if (view->isVisible() && !view->window()->isMinimized() && !view->visibleRegion().isEmpty())
             broken << Judge(model, view).broken();
     }
     return broken;

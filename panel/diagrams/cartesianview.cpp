@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cartesianview.h"
 
-#include "freecorner.h"
 #include "readouts.h"
 
 #include <panel/ground/look.h>
@@ -251,62 +250,6 @@ void CartesianView::showOffScale()
             candidates.append({trace, m_lines.at(trace.id).drawn});
     }
     m_fitButton->offer(candidates);
-}
-
-void CartesianView::onLayout()
-{
-    QCPAxisRect *rect = plot()->axisRect();
-    // Above is room for a marker on the topmost line and its number.
-    const QMargins margins(12, 18 + fontMetrics().height() + 6, 14,
-                           FrequencyAxis::heightFor(fontMetrics(), plot()->width()));
-    if (rect->minimumMargins() != margins) {
-        rect->setMinimumMargins(margins);
-        m_laidOut = {};
-    }
-    const bool changed = rect->size() != m_laidOut;
-    // Other numbers beside the axis may want another margin, which leaves another rectangle.
-    constexpr int mostPasses = 3;
-    for (int pass = 0; pass < mostPasses && rect->size() != m_laidOut; ++pass) {
-        m_laidOut = rect->size();
-        showWrittenScale();
-        for (const auto phase : {QCPLayoutElement::upPreparation, QCPLayoutElement::upMargins,
-                                 QCPLayoutElement::upLayout})
-            plot()->plotLayout()->update(phase);
-    }
-    m_laidOut = rect->size();
-    m_frequencies.fit();
-    const QPoint corner = rect->rect().topRight() + QPoint(-8, 8);
-    m_limits.verdict()->setCorner(corner);
-    m_fitButton->setCorner(corner);
-    if (!changed)
-        return;
-    fillLines();
-    readOuts()->showOver({rect->width() - 16, rect->height() / 2});
-    placeReadOuts();
-}
-
-/// Puts the read-outs where they hide the least, and what is said in place of them above the
-/// diagram.
-void CartesianView::placeReadOuts()
-{
-    const QRect rect = plot()->axisRect()->rect();
-    if (readOuts()->markers().isEmpty()) {
-        const int left = qMin(rect.left(), plot()->width() - readOuts()->width());
-        readOuts()->move(qMax(0, left), qMax(0, rect.top() - readOuts()->height()));
-        return;
-    }
-    constexpr int margin = 8;
-    QRect room = rect.adjusted(margin, margin, -margin, -margin);
-    for (const QWidget *above :
-         {static_cast<const QWidget *>(verdict()), static_cast<const QWidget *>(m_fitButton)}) {
-        if (!above->isHidden())
-            room.setTop(qMax(room.top(), above->geometry().bottom() + margin));
-    }
-    QVector<QCPGraph *> lines;
-    for (const auto &[id, line] : m_lines)
-        lines.append(line.graph);
-    m_readOutCorner = freestCorner(room, readOuts()->size(), lines, m_readOutCorner);
-    readOuts()->move(boxIn(room, readOuts()->size(), m_readOutCorner).topLeft());
 }
 
 void CartesianView::setTraceVisible(const Trace &trace)

@@ -4,7 +4,6 @@
 
 #include "tracemath.h"
 
-#include <panel/ground/numbertext.h>
 
 #include <smithchart/columnextremes.h>
 
@@ -375,28 +374,6 @@ CartesianLine cartesianLine(const TraceData &data, TraceFormat format, int colum
         before = index;
     }
     return line;
-}
-
-namespace
-{
-
-/// The number and the unit of the format, which stands close to an angle.
-QString withUnit(const QString &number, TraceFormat format)
-{
-    return number + unitSpace(format) + formatUnit(format);
-}
-
-} // namespace
-
-QString cartesianText(double value, TraceFormat format)
-{
-    return std::isfinite(value) ? withUnit(numberText(value, traits(format).decimals), format)
-                                : nothingText();
-}
-
-QString cartesianReferenceText(double value, TraceFormat format)
-{
-    return withUnit(withMinusSigns(QString::number(value, 'g', 6)), format);
 }
 
 } // namespace Panel
