@@ -31,7 +31,7 @@ namespace
 constexpr int eventsPerCheck = 100;
 constexpr int eventsPerCensus = 5000;
 /// What 50,000 events may leave behind that no count sees; caches of fonts and pictures are in it.
-constexpr double mostGrowthKiB = 8192.0;
+constexpr double maximumGrowthKiB = 8192.0;
 
 // Unoptimised or watched by a sanitizer, an event's time says nothing about the panel.
 #if defined(NDEBUG) && !defined(__SANITIZE_ADDRESS__)
@@ -153,7 +153,7 @@ int play(const Game &game)
                 broken << QStringLiteral("not destroyed: ") + left;
             growth = atFirst > 0.0 ? residentKiB() - atFirst : 0.0;
             atFirst = atFirst > 0.0 ? atFirst : residentKiB();
-            if (game.limit > 0.0 && growth > mostGrowthKiB)
+            if (game.limit > 0.0 && growth > maximumGrowthKiB)
                 broken << QStringLiteral("memory has grown by %1 KiB").arg(growth);
         }
         broken << desk.takeBroken() << s_warnings;

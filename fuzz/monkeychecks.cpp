@@ -24,8 +24,8 @@ namespace
 {
 
 /// A diagram has four traces and a file two diagrams' worth at most; what leaks goes far beyond.
-constexpr int mostItems = 3000;
-constexpr int mostWidgets = 3000;
+constexpr int maximumItems = 3000;
+constexpr int maximumWidgets = 3000;
 
 QString nameOf(const QObject *object)
 {
@@ -89,7 +89,7 @@ void checkWidgets(QStringList &broken)
     }
     if (popups.size() > 1)
         broken << QStringLiteral("%1 are open").arg(popups.join(QStringLiteral(" and ")));
-    if (widgets.size() > mostWidgets)
+    if (widgets.size() > maximumWidgets)
         broken << QStringLiteral("there are %1 widgets").arg(widgets.size());
 }
 
@@ -101,7 +101,7 @@ QStringList brokenRules(const Desk &desk)
     for (const Panel::DiagramView *view : desk.window()->diagrams()->allViews()) {
         checkAxes(view, broken);
         const int items = view->plot()->itemCount() + view->plot()->plottableCount();
-        if (items > mostItems)
+        if (items > maximumItems)
             broken << QStringLiteral("%1 holds %2 items").arg(nameOf(view)).arg(items);
     }
     broken << Fuzz::brokenRules(*desk.model(), *desk.window()->diagrams());

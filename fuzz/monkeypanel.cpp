@@ -26,7 +26,7 @@ namespace Monkey
 namespace
 {
 
-constexpr int mostPoints = 20001;
+constexpr int maximumPoints = 20001;
 
 /// Also what the panel's own thread of a file or a sweep has handed over.
 void settle()
@@ -237,8 +237,8 @@ void Desk::host(const Event &event)
 void Desk::keepBounds()
 {
     Panel::Sweep sweep = m_model->sweep();
-    if (sweep.points > mostPoints) {
-        sweep.points = mostPoints;
+    if (sweep.points > maximumPoints) {
+        sweep.points = maximumPoints;
         m_model->setSweep(sweep);
     }
     auto *dialog = m_window->findChild<Panel::FileDialog *>();

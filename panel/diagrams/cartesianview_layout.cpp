@@ -20,8 +20,8 @@ void CartesianView::onLayout()
     }
     const bool changed = rect->size() != m_laidOut;
     // Other numbers beside the axis may want another margin, which leaves another rectangle.
-    constexpr int mostPasses = 3;
-    for (int pass = 0; pass < mostPasses && rect->size() != m_laidOut; ++pass) {
+    constexpr int maximumPasses = 3;
+    for (int pass = 0; pass < maximumPasses && rect->size() != m_laidOut; ++pass) {
         m_laidOut = rect->size();
         showWrittenScale();
         for (const auto phase : {QCPLayoutElement::upPreparation, QCPLayoutElement::upMargins,

@@ -48,13 +48,13 @@ Zoom CartesianView::movedTo(const QPointF &coordinates, const QPointF &position)
 Hit CartesianView::hitLine(const QPointF &position) const
 {
     Hit nearest;
-    double least = reach;
+    double nearestDistance = reach;
     for (const Trace &trace : traces()) {
         const double distance =
             reaches(trace) ? m_lines.at(trace.id).graph->selectTest(position, false) : -1.0;
-        if (distance < 0.0 || distance >= least)
+        if (distance < 0.0 || distance >= nearestDistance)
             continue;
-        least = distance;
+        nearestDistance = distance;
         nearest = {Hit::Line, trace.id, 0, std::round(nearestIndex(trace.id, position))};
     }
     return nearest;

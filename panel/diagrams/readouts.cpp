@@ -25,7 +25,7 @@ constexpr int s_margin = 4;
 constexpr int s_gap = 14;
 /// A row for so much height of the diagram, in pixels, and the most rows.
 constexpr int s_heightForARow = 110;
-constexpr int s_mostRows = 4;
+constexpr int s_maximumRows = 4;
 /// What a row takes whose three values stand on one line, and what one takes whose values fold, in
 /// pixels.
 constexpr int s_widthOfThreeValues = 420;
@@ -98,7 +98,7 @@ void ReadOuts::showBelow(const QSize &diagram)
     m_hint->setWordWrap(false);
     // A reading of several values that has no room on one line takes two.
     const int fewest = diagram.width() < s_widthOfThreeValues ? 2 : 1;
-    const int lines = qBound(fewest, diagram.height() / s_heightForARow, s_mostRows);
+    const int lines = qBound(fewest, diagram.height() / s_heightForARow, s_maximumRows);
     // The labels above and below the chart want a line each.
     const int left = diagram.height() - diagram.width() - 2 * fontMetrics().height();
     setMinimumHeight(fewest * lineHeight());

@@ -377,14 +377,14 @@ Zoom SmithView::movedTo(const QPointF &coordinates, const QPointF &position) con
 Hit SmithView::hitLine(const QPointF &position) const
 {
     Hit nearest;
-    double least = reach;
+    double nearestDistance = reach;
     for (const Trace &trace : traces()) {
         int index = -1;
         double distance = 0.0;
         if (!reaches(trace) || !m_chart->nearestPoint(trace.id, position.toPoint(), index, distance)
-            || distance >= least)
+            || distance >= nearestDistance)
             continue;
-        least = distance;
+        nearestDistance = distance;
         nearest = {Hit::Line, trace.id, 0, double(index)};
     }
     return nearest;

@@ -31,7 +31,7 @@ void Verdict::show(bool tested, const QVector<Failure> &failures)
         setStyleSheet(sheet);
     QString text = QStringLiteral("<span style='font-size:24px'>%1</span>")
                        .arg(failures.isEmpty() ? tr("PASS") : tr("FAIL"));
-    for (const Failure &failure : failures.mid(0, mostFailures))
+    for (const Failure &failure : failures.mid(0, maximumFailures))
         text += QLatin1String("<br>")
             + tr("Tr%1 from %2").arg(QString::number(failure.trace), frequencyText(failure.hertz));
     setText(text);

@@ -16,7 +16,7 @@ class Verdict : public QLabel
 
 public:
     /// The traces that are named at most.
-    static constexpr int mostFailures = 3;
+    static constexpr int maximumFailures = 3;
 
     /// A trace that fails, and the lowest frequency in Hz at which it does.
     struct Failure {

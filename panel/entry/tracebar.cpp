@@ -321,7 +321,7 @@ void TraceBar::refresh()
 {
     const Trace *active = m_model->activeTrace();
     m_add->setVisible(active);
-    m_add->setEnabled(m_model->traces().size() < Trace::most);
+    m_add->setEnabled(m_model->traces().size() < Trace::maximumCount);
     for (TraceButton *button : qAsConst(m_buttons)) {
         const Trace *trace = m_model->trace(button->traceId());
         // Between two signals of the model a button may outlive its trace.

@@ -202,7 +202,7 @@ void TraceController::showTrace()
         active ? std::count_if(active->limits.begin(), active->limits.end(), isPresent) : 0;
     keys.limitLines->setEnabled(active && !active->onSmithChart());
     keys.limitLines->setValue(count == 0 ? tr("None") : QString::number(count));
-    keys.addTrace->setEnabled(active && m_model->traces().size() < Trace::most);
+    keys.addTrace->setEnabled(active && m_model->traces().size() < Trace::maximumCount);
     keys.removeTrace->setEnabled(m_model->traces().size() > 1);
     keys.addTrace->setValue(QStringLiteral("+"));
     keys.removeTrace->setValue(active ? tr("Tr%1").arg(active->id) : nothingText());

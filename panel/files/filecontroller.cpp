@@ -20,7 +20,7 @@ namespace
 /// What reads faster than this many milliseconds needs no progress bar.
 constexpr int s_patience = 400;
 /// More sentences than this would cover the diagrams.
-constexpr int s_mostSentences = 4;
+constexpr int s_maximumSentences = 4;
 
 QString fileName(const QString &path)
 {
@@ -153,9 +153,9 @@ void FileController::report(const ReadFiles &files)
                      qUtf8Printable(refusal.result.sentence(refusal.path)));
     }
     sentences << fileNotes(files.networks);
-    const int more = int(sentences.size()) - s_mostSentences;
+    const int more = int(sentences.size()) - s_maximumSentences;
     if (more > 0) {
-        sentences = sentences.mid(0, s_mostSentences);
+        sentences = sentences.mid(0, s_maximumSentences);
         sentences.last() += QLatin1Char(' ') + tr("(%n more)", nullptr, more);
     }
     Q_EMIT reported(sentences.join(QLatin1Char('\n')));

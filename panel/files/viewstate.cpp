@@ -41,7 +41,7 @@ bool isTrace(const QJsonObject &trace)
         && isChoice(trace["format"_key], traceFormatCount) && trace["scale"_key].isDouble()
         && trace["top"_key].isDouble() && trace["visible"_key].isBool()
         && isChoice(trace["reference"_key], Markers::perTrace + 1)
-        && isChoice(trace["id"_key].toInt(), Trace::most + 1);
+        && isChoice(trace["id"_key].toInt(), Trace::maximumCount + 1);
 }
 
 /// What tells a network apart: its file, or what was simulated.

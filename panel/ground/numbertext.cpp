@@ -10,7 +10,7 @@ namespace Panel
 namespace
 {
 
-QString frequencyWithDecimals(double hertz, int fewestDecimals)
+QString frequencyWithDecimals(double hertz, int minimumDecimals)
 {
     if (!std::isfinite(hertz))
         return nothingText();
@@ -19,7 +19,7 @@ QString frequencyWithDecimals(double hertz, int fewestDecimals)
         ++unit;
     QString digits = QString::number(hertz / unit->size, 'f', 9);
     const int point = int(digits.indexOf(QLatin1Char('.')));
-    while (digits.size() > point + 1 + fewestDecimals && digits.endsWith(QLatin1Char('0')))
+    while (digits.size() > point + 1 + minimumDecimals && digits.endsWith(QLatin1Char('0')))
         digits.chop(1);
     if (digits.endsWith(QLatin1Char('.')))
         digits.chop(1);

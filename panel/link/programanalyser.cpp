@@ -28,7 +28,7 @@ constexpr int s_pollTime = 20;
 constexpr int s_operationTime = 1000;
 /// Beyond the time that a sweep takes, in milliseconds.
 constexpr int s_sweepGrace = 4500;
-constexpr int s_mostPoints = 1000001;
+constexpr int s_maximumPoints = 1000001;
 constexpr qint64 s_longestPoint = 96;
 /// In the order of a network.
 constexpr const char *s_parameters[] = {"S11", "S21", "S12", "S22"};
@@ -118,8 +118,8 @@ bool ProgramAnalyser::findDevice()
     tell(":VNA:SWEEPTYPE LIN");
     m_limits.frequency = {askNumber(":DEV:INF:LIM:MINF?", 100e3),
                           askNumber(":DEV:INF:LIM:MAXF?", 6e9)};
-    m_limits.points = {2.0,
-                       qBound(2.0, askNumber(":DEV:INF:LIM:MAXP?", 65535.0), double(s_mostPoints))};
+    m_limits.points = {
+        2.0, qBound(2.0, askNumber(":DEV:INF:LIM:MAXP?", 65535.0), double(s_maximumPoints))};
     m_limits.bandwidth = {askNumber(":DEV:INF:LIM:MINIFBW?", 10.0),
                           askNumber(":DEV:INF:LIM:MAXIFBW?", 50e3)};
     m_limits.power = {-60.0, 20.0};
@@ -138,8 +138,8 @@ bool ProgramAnalyser::readSettings()
         if (m_wire.ok() && (!readNumber(reply, value) || !std::isfinite(value)))
             m_wire.fail(Trouble::unreadable(m_wire.peer(), reply));
     }
-    if (m_wire.ok() && !(numbers[2] >= 1.0 && numbers[2] <= s_mostPoints))
-        m_wire.fail(Trouble::otherPoints(m_wire.peer(), qint64(numbers[2]), s_mostPoints));
+    if (m_wire.ok() && !(numbers[2] >= 1.0 && numbers[2] <= s_maximumPoints))
+        m_wire.fail(Trouble::otherPoints(m_wire.peer(), qint64(numbers[2]), s_maximumPoints));
     if (!m_wire.ok())
         return false;
     m_settings.sweep = {numbers[0], numbers[1], int(numbers[2])};

@@ -21,12 +21,12 @@ namespace
 constexpr int s_frequencyTime = 500;
 /// Beyond the time that a sweep takes, in milliseconds.
 constexpr int s_sweepGrace = 4500;
-constexpr int s_mostPoints = 1000001;
+constexpr int s_maximumPoints = 1000001;
 /// Where limits are not told.
 constexpr NumberRange s_anyFrequency{1.0, 1.1e12};
 constexpr NumberRange s_anyBandwidth{1.0, 15e6};
 constexpr NumberRange s_anyPower{-90.0, 30.0};
-constexpr int s_mostAverages = 1024;
+constexpr int s_maximumAverages = 1024;
 /// In the order of a network.
 constexpr const char *s_parameters[] = {"S11", "S21", "S12", "S22"};
 
@@ -96,15 +96,15 @@ void ScpiAnalyser::readLimits()
     m_limits.frequency.lowest = qMin(m_limits.frequency.lowest, sweep.start);
     m_limits.frequency.highest = qMax(m_limits.frequency.highest, sweep.stop);
     m_limits.smallestSpan = 1.0;
-    m_limits.points = m_port.askRange(channel("SENS%c:SWE:POIN"), {2.0, double(s_mostPoints)});
+    m_limits.points = m_port.askRange(channel("SENS%c:SWE:POIN"), {2.0, double(s_maximumPoints)});
     m_limits.points.lowest = qMax(2.0, m_limits.points.lowest);
     m_limits.points.highest =
-        qBound(double(sweep.points), m_limits.points.highest, double(s_mostPoints));
+        qBound(double(sweep.points), m_limits.points.highest, double(s_maximumPoints));
     if (!std::isnan(m_settings.acquisition.bandwidth))
         m_limits.bandwidth = m_port.askRange(channel("SENS%c:BWID"), s_anyBandwidth);
     if (!std::isnan(m_settings.acquisition.power))
         m_limits.power = m_port.askRange(channel("SOUR%c:POW"), s_anyPower);
-    m_limits.averages = {1.0, double(s_mostAverages)};
+    m_limits.averages = {1.0, double(s_maximumAverages)};
 }
 
 bool ScpiAnalyser::readSettings()
@@ -112,8 +112,8 @@ bool ScpiAnalyser::readSettings()
     const double start = m_port.askNumber(channel("SENS%c:FREQ:STAR?"));
     const double stop = m_port.askNumber(channel("SENS%c:FREQ:STOP?"));
     const double points = m_port.askNumber(channel("SENS%c:SWE:POIN?"));
-    if (m_wire.ok() && !(points >= 1.0 && points <= s_mostPoints))
-        m_wire.fail(Trouble::otherPoints(m_wire.peer(), qint64(points), s_mostPoints));
+    if (m_wire.ok() && !(points >= 1.0 && points <= s_maximumPoints))
+        m_wire.fail(Trouble::otherPoints(m_wire.peer(), qint64(points), s_maximumPoints));
     if (!m_wire.ok())
         return false;
     m_settings.sweep = {start, stop, int(points)};
@@ -123,7 +123,7 @@ bool ScpiAnalyser::readSettings()
     const QByteArray averaging = m_port.askOptional(channel("SENS%c:AVER:STAT?"));
     const bool on = averaging.startsWith("ON") || numberOr(averaging, 0.0) != 0.0;
     const double count = on ? m_port.askOptionalNumber(channel("SENS%c:AVER:COUN?"), 1.0) : 1.0;
-    acquisition.averages = int(NumberRange{1.0, double(s_mostAverages)}.bounded(count));
+    acquisition.averages = int(NumberRange{1.0, double(s_maximumAverages)}.bounded(count));
     m_sweepTime = NumberRange{0.0, 3600.0}.bounded(
         m_port.askOptionalNumber(channel("SENS%c:SWE:TIME?"), 1.0));
     m_frequencies.clear();

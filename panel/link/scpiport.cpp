@@ -16,7 +16,7 @@ namespace
 /// What an optional answer may take before the error queue is asked, in milliseconds.
 constexpr int s_optionalTime = 250;
 constexpr int s_queueTime = 1500;
-constexpr int s_mostErrors = 32;
+constexpr int s_maximumErrors = 32;
 /// A number as text, with its comma, is never longer.
 constexpr qint64 s_longestNumber = 40;
 
@@ -93,7 +93,7 @@ NumberRange ScpiPort::askRange(const QByteArray &setting, const NumberRange &oth
 QByteArray ScpiPort::takeErrors()
 {
     QByteArray first;
-    for (int i = 0; i < s_mostErrors && m_wire.ok(); ++i) {
+    for (int i = 0; i < s_maximumErrors && m_wire.ok(); ++i) {
         send("SYST:ERR?");
         const QByteArray line = m_wire.line();
         int code = 0;

@@ -56,12 +56,12 @@ protected:
         return true;
     }
 
-    qint64 receive(char *into, qint64 most, int milliseconds) override
+    qint64 receive(char *into, qint64 maximum, int milliseconds) override
     {
         if (m_port.bytesAvailable() == 0 && m_port.isOpen())
             m_port.waitForReadyRead(milliseconds);
         if (m_port.bytesAvailable() > 0)
-            return m_port.read(into, most);
+            return m_port.read(into, maximum);
         const QSerialPort::SerialPortError error = m_port.error();
         m_port.clearError();
         return !m_port.isOpen() || error == QSerialPort::ResourceError

@@ -24,7 +24,7 @@ constexpr qint64 s_longestRow = 128;
 constexpr qint64 s_shortPiece = 1200;
 constexpr qint64 s_longPiece = 2500;
 constexpr double s_highest = 2.7e9;
-constexpr int s_fewestPoints = 2;
+constexpr int s_minimumPoints = 2;
 /// Of firmware that counts its bandwidths: so many Hz over the count and one.
 constexpr double s_bandwidthUnit = 4000.0;
 
@@ -58,7 +58,7 @@ QByteArray ShellAnalyser::command(const QByteArray &text)
 {
     m_wire.discard();
     m_wire.send(text + '\r');
-    const qint64 longest = Wire::shortLine + m_mostPerScan * s_longestRow;
+    const qint64 longest = Wire::shortLine + m_maximumPerScan * s_longestRow;
     QByteArray reply = m_wire.until(s_prompt, longest);
     reply.chop(s_prompt.size());
     const auto echo = reply.indexOf(text);
@@ -109,8 +109,8 @@ bool ShellAnalyser::begin()
     const QByteArray board = captured("^\\s*Board:\\s*(.+)$", info);
     m_identity = Trouble::quoted(board.isEmpty() ? QByteArray("NanoVNA") : board) + QLatin1Char(' ')
         + Trouble::quoted(version);
-    const double most = numberOr(captured("\\[p:\\s*(\\d+)", info), m_mostPerScan);
-    m_mostPerScan = int(NumberRange{21.0, 4096.0}.bounded(most));
+    const double maximum = numberOr(captured("\\[p:\\s*(\\d+)", info), m_maximumPerScan);
+    m_maximumPerScan = int(NumberRange{21.0, 4096.0}.bounded(maximum));
     const QStringList flags =
         QString::fromLatin1(askOwnText("cal")).simplified().split(QLatin1Char(' '));
     m_calibration =
@@ -118,7 +118,7 @@ bool ShellAnalyser::begin()
     const bool readsLow = m_commands.contains(" scan_bin ");
     m_limits.frequency = {readsLow ? 600.0 : 50e3, s_highest};
     m_limits.smallestSpan = 1e3;
-    m_limits.points = {double(s_fewestPoints), double(mostPoints)};
+    m_limits.points = {double(s_minimumPoints), double(maximumPoints)};
     if (m_commands.contains(" bandwidth "))
         readBandwidth();
     return readOwnSweep();
@@ -156,7 +156,7 @@ bool ShellAnalyser::readOwnSweep()
         number = number < 0.0 ? number + 4294967296.0 : number;
     if (m_wire.ok()
         && (numbers.size() != 3 || !(numbers.at(0) > 0.0) || !(numbers.at(1) >= numbers.at(0))
-            || !(numbers.at(2) >= s_fewestPoints) || !(numbers.at(2) <= mostPoints)))
+            || !(numbers.at(2) >= s_minimumPoints) || !(numbers.at(2) <= maximumPoints)))
         m_wire.fail(Trouble::unreadable(m_wire.peer(), m_ownSweep));
     if (!m_wire.ok())
         return false;
@@ -207,9 +207,9 @@ bool ShellAnalyser::apply(const MeasurementSettings &wanted)
 
 int ShellAnalyser::nextPiece(int left) const
 {
-    const int most = qMin(m_piece, m_mostPerScan);
+    const int maximum = qMin(m_piece, m_maximumPerScan);
     // Never a single point, which firmware divides by zero over.
-    return left <= most ? left : left - most < s_fewestPoints ? most - 1 : most;
+    return left <= maximum ? left : left - maximum < s_minimumPoints ? maximum - 1 : maximum;
 }
 
 /// Pieces take about a second, however slow the bandwidth.
@@ -275,9 +275,9 @@ bool ShellAnalyser::scan(double start, double stop, int points, Scan &scan)
                                                 : scanText(range, points, raw);
         if (!m_wire.ok())
             return false;
-        const QByteArray most = captured("exceeds range (\\d+)", raw);
-        if (!most.isEmpty() && most.toInt() >= s_fewestPoints && most.toInt() < points) {
-            m_mostPerScan = most.toInt();
+        const QByteArray maximum = captured("exceeds range (\\d+)", raw);
+        if (!maximum.isEmpty() && maximum.toInt() >= s_minimumPoints && maximum.toInt() < points) {
+            m_maximumPerScan = maximum.toInt();
             scan.points.clear();
             return true;
         }

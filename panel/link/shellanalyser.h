@@ -17,7 +17,7 @@ class ShellAnalyser : public Analyser
 {
 public:
     /// The longest sweep that is measured in pieces.
-    static constexpr int mostPoints = 10001;
+    static constexpr int maximumPoints = 10001;
 
     using Analyser::Analyser;
 
@@ -43,7 +43,7 @@ private:
     QByteArray m_ownSweep; ///< as it was found, for the way back
     QVector<double> m_bandwidths; ///< to choose from; empty where any may be asked for
     bool m_knowsMask = true; ///< until it shows otherwise
-    int m_mostPerScan = 101;
+    int m_maximumPerScan = 101;
     int m_piece = 11; ///< points that take about a second
 };
 

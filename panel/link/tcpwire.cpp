@@ -93,12 +93,12 @@ bool TcpWire::write(const QByteArray &bytes)
     return true;
 }
 
-qint64 TcpWire::receive(char *into, qint64 most, int milliseconds)
+qint64 TcpWire::receive(char *into, qint64 maximum, int milliseconds)
 {
     if (m_socket.bytesAvailable() == 0 && m_socket.state() == QAbstractSocket::ConnectedState)
         m_socket.waitForReadyRead(milliseconds);
     if (m_socket.bytesAvailable() > 0)
-        return m_socket.read(into, most);
+        return m_socket.read(into, maximum);
     return m_socket.state() == QAbstractSocket::ConnectedState ? 0 : -1;
 }
 

@@ -22,7 +22,7 @@ public:
 
 protected:
     bool write(const QByteArray &bytes) override;
-    qint64 receive(char *into, qint64 most, int milliseconds) override;
+    qint64 receive(char *into, qint64 maximum, int milliseconds) override;
 
 private:
     QString m_host;

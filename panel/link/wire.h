@@ -81,7 +81,7 @@ protected:
     virtual bool write(const QByteArray &bytes) = 0;
     /// What has come, at most so many bytes; waits so long at most. 0 if nothing came, -1 if the
     /// other end is gone.
-    virtual qint64 receive(char *into, qint64 most, int milliseconds) = 0;
+    virtual qint64 receive(char *into, qint64 maximum, int milliseconds) = 0;
 
 private:
     class Patience;

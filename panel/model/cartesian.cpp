@@ -4,7 +4,6 @@
 
 #include "tracemath.h"
 
-
 #include <smithchart/columnextremes.h>
 
 #include <algorithm>

@@ -78,7 +78,7 @@ double searchTarget(const TraceData &data, TraceFormat format, double target, do
     return -1.0;
 }
 
-QVector<int> highestPeaks(const TraceData &data, TraceFormat format, int most)
+QVector<int> highestPeaks(const TraceData &data, TraceFormat format, int maximum)
 {
     const QVector<double> values = formatValues(data, format);
     QVector<int> peaks;
@@ -87,7 +87,7 @@ QVector<int> highestPeaks(const TraceData &data, TraceFormat format, int most)
         peaks.append(i);
     std::stable_sort(peaks.begin(), peaks.end(),
                      [&values](int a, int b) { return values.at(a) > values.at(b); });
-    peaks.resize(qMin(most, int(peaks.size())));
+    peaks.resize(qMin(maximum, int(peaks.size())));
     return peaks;
 }
 

@@ -24,7 +24,7 @@ enum class Search {
 int searchMarker(const TraceData &data, TraceFormat format, Search search, double from);
 
 /// The indices of the highest peaks, at most so many, the highest first; a peak as above.
-QVector<int> highestPeaks(const TraceData &data, TraceFormat format, int most);
+QVector<int> highestPeaks(const TraceData &data, TraceFormat format, int maximum);
 
 /*! The fractional index at which the values first pass a target, from an index on to the right (1) or
     to the left (-1), interpolated between the points; -1 where they do not. A place at the very start

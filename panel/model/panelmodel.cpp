@@ -131,7 +131,7 @@ void PanelModel::setSource(Source source)
         replaceNetworks(QVector<Network>(m_files));
     }
     const Sweep sweep = isSimulated(source)
-        ? defaultSweep(source, qMin(m_sweep.points, Sweep::mostPoints))
+        ? defaultSweep(source, qMin(m_sweep.points, Sweep::maximumPoints))
         : m_sweep;
     const bool another = sweep != m_sweep;
     m_sweep = sweep;

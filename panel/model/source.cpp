@@ -40,7 +40,7 @@ SourceLimits sourceLimits(Source source)
         return limits;
     limits.frequency = {Sweep::limits.start, Sweep::limits.stop};
     limits.smallestSpan = Sweep::smallestSpan;
-    limits.points = {double(Sweep::fewestPoints), double(Sweep::mostPoints)};
+    limits.points = {double(Sweep::minimumPoints), double(Sweep::maximumPoints)};
     if (source == Source::Antenna)
         limits.tuning = {tuningLimits.start, tuningLimits.stop};
     return limits;

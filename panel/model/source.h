@@ -17,8 +17,8 @@ namespace Panel
 struct Sweep {
     static constexpr Stimulus limits{1e6, 9e9};
     static constexpr double smallestSpan = 1e3;
-    static constexpr int fewestPoints = 2;
-    static constexpr int mostPoints = 1000001;
+    static constexpr int minimumPoints = 2;
+    static constexpr int maximumPoints = 1000001;
 
     double start = 1.8e9;
     double stop = 6.6e9;
@@ -29,7 +29,7 @@ struct Sweep {
     bool isValid() const
     {
         return start >= limits.start && stop <= limits.stop && stop - start >= smallestSpan
-            && points >= fewestPoints && points <= mostPoints;
+            && points >= minimumPoints && points <= maximumPoints;
     }
 
     friend bool operator==(const Sweep &a, const Sweep &b)

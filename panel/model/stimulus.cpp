@@ -9,8 +9,8 @@ namespace Panel
 
 Stimulus around(double hertz)
 {
-    constexpr double share = 1e-3, least = 100.0;
-    const double half = std::max(least, share * hertz);
+    constexpr double share = 1e-3, minimum = 100.0;
+    const double half = std::max(minimum, share * hertz);
     return {hertz - half, hertz + half};
 }
 
@@ -30,11 +30,11 @@ Stimulus withStop(Stimulus stimulus, double stop, const Stimulus &limits, double
 
 Stimulus withCenter(Stimulus stimulus, double center, const Stimulus &limits, double smallestSpan)
 {
-    const double least = smallestSpan / 2.0;
-    center = std::clamp(center, limits.start + least, limits.stop - least);
+    const double minimum = smallestSpan / 2.0;
+    center = std::clamp(center, limits.start + minimum, limits.stop - minimum);
     const double half =
         std::min({stimulus.span() / 2.0, center - limits.start, limits.stop - center});
-    return {center - std::max(half, least), center + std::max(half, least)};
+    return {center - std::max(half, minimum), center + std::max(half, minimum)};
 }
 
 Stimulus withSpan(Stimulus stimulus, double span, const Stimulus &limits, double smallestSpan)

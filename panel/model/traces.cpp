@@ -108,10 +108,10 @@ Scale Traces::startScale(TraceFormat format, const Networks &networks) const
 int Traces::addLike(int id, int wanted)
 {
     const Trace *like = find(id);
-    if (!like || m_all.size() >= Trace::most)
+    if (!like || m_all.size() >= Trace::maximumCount)
         return 0;
     Trace added = *like;
-    added.id = wanted > 0 && wanted <= Trace::most && !find(wanted) ? wanted : 1;
+    added.id = wanted > 0 && wanted <= Trace::maximumCount && !find(wanted) ? wanted : 1;
     while (find(added.id))
         ++added.id;
     added.math = TraceMath::DataAndMemory;
@@ -232,7 +232,7 @@ bool Traces::setMath(int id, TraceMath math)
 bool Traces::setSmoothing(int id, double percent)
 {
     Trace *trace = edit(id);
-    const double bounded = std::clamp(percent, 0.0, Trace::mostSmoothing);
+    const double bounded = std::clamp(percent, 0.0, Trace::maximumSmoothing);
     if (!trace || !std::isfinite(percent) || trace->smoothing == bounded)
         return false;
     trace->smoothing = bounded;

@@ -27,9 +27,9 @@ struct Trace {
     double smoothing = 0.0; ///< share of the points that are averaged, in percent
 
     /// How many traces there can be, beyond those that networks begin with.
-    static constexpr int most = 32;
+    static constexpr int maximumCount = 32;
     /// Largest share of the points that can be averaged, in percent.
-    static constexpr double mostSmoothing = 20.0;
+    static constexpr double maximumSmoothing = 20.0;
 
     bool onSmithChart() const { return format == TraceFormat::Smith; }
 };

@@ -15,7 +15,7 @@ namespace Panel
 namespace
 {
 
-constexpr int s_mostErrors = 16;
+constexpr int s_maximumErrors = 16;
 struct ErrorText {
     int code;
     const char *text;
@@ -101,7 +101,7 @@ void PanelCommands::noteError(int code)
 {
     const bool command = code > -200;
     m_status |= command ? s_commandBit : s_executionBit;
-    if (m_errors.size() < s_mostErrors)
+    if (m_errors.size() < s_maximumErrors)
         m_errors << code;
     else
         m_errors.last() = QueueOverflow;

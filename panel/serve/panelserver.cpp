@@ -38,7 +38,7 @@ QString PanelServer::place() const
 void PanelServer::accept()
 {
     while (QTcpSocket *socket = m_server.nextPendingConnection()) {
-        if (int(m_connections.size()) >= mostConnections) {
+        if (int(m_connections.size()) >= maximumConnections) {
             socket->abort();
             socket->deleteLater();
             continue;
@@ -60,7 +60,7 @@ void PanelServer::answer(QTcpSocket *socket, const QByteArray &text)
     if (text.isEmpty())
         return;
     socket->write(text + '\n');
-    if (socket->bytesToWrite() > mostUnsent)
+    if (socket->bytesToWrite() > maximumUnsent)
         socket->abort();
 }
 

@@ -29,11 +29,11 @@ class PanelServer : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int mostConnections = 8;
+    static constexpr int maximumConnections = 8;
     /// A line, in bytes; a longer one ends the connection.
     static constexpr int longestLine = 64 << 10;
     /// What waits to be sent, in bytes; who reads less than that is not answered any more.
-    static constexpr qint64 mostUnsent = qint64(256) << 20;
+    static constexpr qint64 maximumUnsent = qint64(256) << 20;
 
     PanelServer(PanelModel *model, const std::function<QByteArray()> &screenshot,
                 QObject *parent = nullptr);

@@ -13,7 +13,7 @@ namespace
 {
 
 /// A frame that comes late has more points, but never so many that it takes long itself.
-constexpr qint64 s_mostPoints = qint64(10) * SweepSource::fewestPoints;
+constexpr qint64 s_maximumPoints = qint64(10) * SweepSource::minimumPoints;
 
 } // namespace
 
@@ -92,7 +92,7 @@ void SweepSource::setSettings(const MeasurementSettings &settings)
 void SweepSource::requestFrame()
 {
     const qint64 due = 1000 * m_clock.restart() / pointMicroseconds;
-    const int points = int(std::clamp<qint64>(due, fewestPoints, s_mostPoints));
+    const int points = int(std::clamp<qint64>(due, minimumPoints, s_maximumPoints));
     m_worker.post([this, measurement = m_measurement, points](const Worker::Job &job) {
         ProgressiveSweep &sweep = **measurement;
         sweep.advance(points);

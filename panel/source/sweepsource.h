@@ -38,7 +38,7 @@ public:
     /// Time that a point takes to measure, in microseconds.
     static constexpr int pointMicroseconds = 10;
     /// Points that a frame has in any case.
-    static constexpr int fewestPoints = 1601;
+    static constexpr int minimumPoints = 1601;
 
     explicit SweepSource(QObject *parent = nullptr);
 

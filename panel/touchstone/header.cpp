@@ -204,7 +204,7 @@ QString Header::takeMore(std::string_view line)
         if (!toNumber(word, ohms) || !(ohms > 0.0))
             return Text::tr("a reference must be a number above zero, and not %1")
                 .arg(quoted(word));
-        if (m_references.size() == s_mostPorts)
+        if (m_references.size() == s_maximumPorts)
             return notANumber(word);
         m_references.append(ohms);
     }
@@ -220,11 +220,12 @@ QString Header::takeMode(std::string_view word)
     const std::size_t comma = std::min(ports.find(','), ports.size());
     const bool paired = comma < ports.size();
     const bool known = lookUp(types, word.substr(0, 1), mode.type)
-        && toCount(ports.substr(0, comma), mode.port) && mode.port <= s_mostPorts
+        && toCount(ports.substr(0, comma), mode.port) && mode.port <= s_maximumPorts
         && paired == (mode.type != Mode::SingleEnded)
         && (!paired
-            || (toCount(ports.substr(comma + 1), mode.otherPort) && mode.otherPort <= s_mostPorts));
-    if (!known || m_modes.size() == s_mostPorts)
+            || (toCount(ports.substr(comma + 1), mode.otherPort)
+                && mode.otherPort <= s_maximumPorts));
+    if (!known || m_modes.size() == s_maximumPorts)
         return Text::tr("%1 is no mode such as S1, D2,3 or C2,3").arg(quoted(word));
     m_modes.push_back(mode);
     return QString();
@@ -243,10 +244,10 @@ QString Header::finish(int ports)
         return missing("[Number of Frequencies]");
     if (m_ports == 0)
         m_ports = ports;
-    if (m_ports > s_mostPorts)
+    if (m_ports > s_maximumPorts)
         return Text::tr("a network of %1 ports, and at most %2 ports are read")
             .arg(m_ports)
-            .arg(s_mostPorts);
+            .arg(s_maximumPorts);
     if (isHybrid(m_kind) && m_ports != 2)
         return Text::tr("only two-ports have G and H parameters");
     if (m_version2 && m_ports == 2 && lacks(Keyword::TwoPortDataOrder))

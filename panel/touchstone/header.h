@@ -13,7 +13,7 @@ namespace Panel
 {
 
 /// A reader takes no more ports than this: a point would have 131073 numbers.
-constexpr int s_mostPorts = 256;
+constexpr int s_maximumPorts = 256;
 
 enum class NumberFormat { RealImaginary, MagnitudeAngle, DecibelAngle };
 enum class MatrixFormat { Full, Lower, Upper };

@@ -21,7 +21,7 @@ namespace
 /// Bytes between two reports of progress.
 constexpr qint64 s_portion = 1 << 20;
 /// Bytes of comments that are kept.
-constexpr qint64 s_mostComments = 16 << 20;
+constexpr qint64 s_maximumComments = 16 << 20;
 /// What a two-port's second line has that begins with five numbers.
 constexpr int s_otherHalf = 4;
 
@@ -129,7 +129,7 @@ void Parser::takeComment(std::string_view text)
     m_notRenormalized = m_notRenormalized || startsWithWord(words, "data is not renormalized");
     m_commentBytes += qint64(text.size());
     // What a writer says of its file is not true of what is made of it.
-    if (m_commentBytes > s_mostComments || startsWithWord(words, "vnawidgets:"))
+    if (m_commentBytes > s_maximumComments || startsWithWord(words, "vnawidgets:"))
         return;
     const bool within = (m_filled > 0 && m_doubtful.empty()) || !m_firstPoint.empty();
     const int points = (m_store ? int(m_store->points()) : 0) + (within ? 1 : 0);
@@ -235,7 +235,7 @@ bool Parser::measureFirstPoint(std::string_view line)
     while (nextWord(line, word)) {
         if (!toNumber(word, value))
             return fail(notANumber(word));
-        if (m_firstPoint.size() > std::size_t(2) * s_mostPorts * s_mostPorts)
+        if (m_firstPoint.size() > std::size_t(2) * s_maximumPorts * s_maximumPorts)
             break;
         m_firstPoint.push_back(value);
     }
@@ -246,7 +246,7 @@ bool Parser::closeFirstPoint()
 {
     const int count = int(m_firstPoint.size());
     const int ports = int(std::lround(std::sqrt((count - 1) / 2.0)));
-    if (ports < 1 || ports > s_mostPorts || 1 + 2 * ports * ports != count)
+    if (ports < 1 || ports > s_maximumPorts || 1 + 2 * ports * ports != count)
         return fail(Text::tr("the first point has %1 numbers, and no number of ports has so many")
                         .arg(count),
                     m_pointLine);
@@ -381,9 +381,9 @@ bool Parser::finish()
     if (m_portImpedances && (m_notRenormalized || m_header.lacksReference()))
         network.remarks << Text::tr(
             "the references are the port impedances in its comments, and not what is shown");
-    if (m_commentBytes > s_mostComments)
-        network.remarks
-            << Text::tr("only the first %1 MB of its comments are kept").arg(s_mostComments >> 20);
+    if (m_commentBytes > s_maximumComments)
+        network.remarks << Text::tr("only the first %1 MB of its comments are kept")
+                               .arg(s_maximumComments >> 20);
     return true;
 }
 

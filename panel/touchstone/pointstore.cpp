@@ -14,9 +14,9 @@ namespace Panel
 namespace
 {
 
-constexpr int s_mostPoints = 4000000;
+constexpr int s_maximumPoints = 4000000;
 /// Of all parameters together: 1 GiB.
-constexpr qint64 s_mostNumbers = 1 << 27;
+constexpr qint64 s_maximumNumbers = 1 << 27;
 /// Numbers of a block; one point may have more.
 constexpr int s_block = 1 << 14;
 
@@ -66,10 +66,10 @@ QString PointStore::take(int line)
         return Text::tr("the frequency must not be below zero nor beyond all bounds");
     if (points() > 0 && frequency < m_lastFrequency)
         return Text::tr("the frequency falls back");
-    if (points() == s_mostPoints)
-        return Text::tr("the file has more than %1 points").arg(s_mostPoints);
-    if ((points() + 1) * numbersKept() > s_mostNumbers)
-        return Text::tr("the file has more than %1 numbers").arg(s_mostNumbers);
+    if (points() == s_maximumPoints)
+        return Text::tr("the file has more than %1 points").arg(s_maximumPoints);
+    if ((points() + 1) * numbersKept() > s_maximumNumbers)
+        return Text::tr("the file has more than %1 numbers").arg(s_maximumNumbers);
     m_lastFrequency = frequency;
     m_lines[std::size_t(m_filled++)] = line;
     return m_filled == int(m_lines.size()) ? flush() : QString();
@@ -78,8 +78,8 @@ QString PointStore::take(int line)
 void PointStore::expect(qint64 points)
 {
     // Some more, since a little too few would cost a copy of all of them.
-    const qint64 most = std::min<qint64>(s_mostPoints, s_mostNumbers / numbersKept());
-    const int count = int(std::min(points + points / 50, most));
+    const qint64 maximum = std::min<qint64>(s_maximumPoints, s_maximumNumbers / numbersKept());
+    const int count = int(std::min(points + points / 50, maximum));
     m_network.frequencies.reserve(count);
     for (Parameter &parameter : m_network.parameters) {
         parameter.real.reserve(count);

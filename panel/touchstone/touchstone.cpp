@@ -32,10 +32,10 @@ QString refusal(const QFileInfo &info)
     if (!isTouchstoneName(info.fileName()))
         return Text::tr("the name of a Touchstone file ends in .s1p, .s2p and so on, or in .ts");
     const int ports = touchstonePorts(info.fileName());
-    if (ports > s_mostPorts)
+    if (ports > s_maximumPorts)
         return Text::tr("a network of %1 ports, and at most %2 ports are read")
             .arg(ports)
-            .arg(s_mostPorts);
+            .arg(s_maximumPorts);
     if (info.size() > s_largestFile)
         return Text::tr("the file is larger than %1 MB").arg(s_largestFile / s_mebibyte);
     return QString();

@@ -182,10 +182,10 @@ void putKeywords(TextSink &sink, const Network &network, bool allReferences)
 
 QString touchstoneObstacle(const Network &network, int version)
 {
-    if (network.ports > s_mostPorts)
+    if (network.ports > s_maximumPorts)
         return Text::tr("a network of %1 ports, and at most %2 ports are read")
             .arg(network.ports)
-            .arg(s_mostPorts);
+            .arg(s_maximumPorts);
     if (network.ports < 1 || !isComplete(network))
         return Text::tr("the network holds no data");
     if (!isSweep(network.frequencies))

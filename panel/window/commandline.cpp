@@ -78,12 +78,12 @@ bool parseSize(const QString &text, QSize &size)
 }
 
 /// Reads a number that has to be at least 1; false if the option holds none.
-bool readCount(const QCommandLineParser &parser, const char *name, double most, double &value)
+bool readCount(const QCommandLineParser &parser, const char *name, double maximum, double &value)
 {
     bool ok = true;
     if (parser.isSet(literal(name)))
         value = parser.value(literal(name)).toDouble(&ok);
-    return ok && !(value < 1.0) && !(value > most);
+    return ok && !(value < 1.0) && !(value > maximum);
 }
 
 /// What belongs to an instrument; the sentence as below.
@@ -104,15 +104,15 @@ QString readInstrument(const QCommandLineParser &parser, CommandLine &result)
     const std::tuple<const char *, double *, double> numbers[] = {
         {"start", &result.start, 1e12},
         {"stop", &result.stop, 1e12},
-        {"points", &points, double(Sweep::mostPoints)},
+        {"points", &points, double(Sweep::maximumPoints)},
         {"sweeps", &sweeps, 1e9},
     };
-    for (const auto &[name, value, most] : numbers) {
+    for (const auto &[name, value, maximum] : numbers) {
         if (!parser.isSet(literal(name)))
             continue;
         if (result.instrument.isEmpty() || !parser.isSet(literal("save")))
             return literal("--%1 goes with --connect and --save.").arg(literal(name));
-        if (!readCount(parser, name, most, *value))
+        if (!readCount(parser, name, maximum, *value))
             return literal("--%1 wants a number from 1, not \"%2\".")
                 .arg(literal(name), parser.value(literal(name)));
     }

@@ -33,8 +33,8 @@ struct Text {
 /// Opens a file that was not there before: with a number behind the stem where one was.
 bool openNew(QFile &file, const QString &stem, const QString &suffix)
 {
-    constexpr int mostNames = 1000;
-    for (int number = 1; number <= mostNames; ++number) {
+    constexpr int maximumNames = 1000;
+    for (int number = 1; number <= maximumNames; ++number) {
         const QString behind = number == 1 ? QString() : QStringLiteral("-%1").arg(number);
         file.setFileName(stem + behind + suffix);
         if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))

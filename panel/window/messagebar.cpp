@@ -21,7 +21,7 @@ namespace Panel
 namespace
 {
 
-constexpr int s_mostWidth = 720;
+constexpr int s_maximumWidth = 720;
 constexpr int s_margin = 12;
 
 } // namespace
@@ -110,7 +110,7 @@ void MessageBar::place()
 {
     if (isHidden())
         return;
-    const int room = qMin(s_mostWidth, parentWidget()->width() - 2 * s_margin);
+    const int room = qMin(s_maximumWidth, parentWidget()->width() - 2 * s_margin);
     // The text alone decides, and breaks where there is no room for a line.
     const QFontMetrics metrics = m_label->fontMetrics();
     int text = 0;

@@ -173,7 +173,7 @@ private Q_SLOTS:
             model.removeTrace(id);
         QCOMPARE(model.traces().size(), 1);
         while (model.addTrace(model.activeTrace()->id) > 0) { }
-        QCOMPARE(model.traces().size(), Trace::most);
+        QCOMPARE(model.traces().size(), Trace::maximumCount);
     }
 
     void testsAgainstLines()

@@ -123,7 +123,7 @@ void TraceMathTest::modelProcessesTraces()
     QVERIFY(shown(1).parameter.real.at(25) != network.parameters.at(0).real.at(75));
     QCOMPARE(shown(1).averagedPoints, 0);
     model.setSmoothing(2, 1e9);
-    QCOMPARE(model.trace(2)->smoothing, Trace::mostSmoothing);
+    QCOMPARE(model.trace(2)->smoothing, Trace::maximumSmoothing);
     QCOMPARE(shown(2).averagedPoints, 11);
     Correction correction;
     correction.setDelay(1, 0.5e-9);

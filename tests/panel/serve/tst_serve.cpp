@@ -125,7 +125,7 @@ private Q_SLOTS:
             return socket;
         };
         std::vector<std::unique_ptr<QTcpSocket>> clients;
-        for (int i = 0; i < PanelServer::mostConnections; ++i) {
+        for (int i = 0; i < PanelServer::maximumConnections; ++i) {
             clients.push_back(connected());
             QTRY_COMPARE(clients.back()->state(), QAbstractSocket::ConnectedState);
             clients.back()->write("*IDN?\n");

@@ -36,11 +36,11 @@ private Q_SLOTS:
         const double lowest = Sweep::limits.start;
         const std::tuple<Source, Sweep, int> rows[] = {
             {Source::Antenna, defaultSweep(Source::Antenna, 1001), 1},
-            {Source::Antenna, defaultSweep(Source::Antenna, Sweep::mostPoints), 1},
+            {Source::Antenna, defaultSweep(Source::Antenna, Sweep::maximumPoints), 1},
             {Source::Filter, defaultSweep(Source::Filter, 100001), 2},
             {Source::Filter, {lowest, Sweep::limits.stop, 201}, 2},
             {Source::Cable, {lowest, Sweep::limits.stop, 100001}, 1},
-            {Source::Cable, {lowest, lowest + Sweep::smallestSpan, Sweep::fewestPoints}, 1},
+            {Source::Cable, {lowest, lowest + Sweep::smallestSpan, Sweep::minimumPoints}, 1},
         };
         for (const auto &[kind, sweep, ports] : rows) {
             QVERIFY(sweep.isValid());
@@ -227,11 +227,11 @@ private Q_SLOTS:
                 if (sizes.size() == 1)
                     source.start(Source::Cable, {1e9, 2e9, 301}, defaultTuning);
             });
-            source.start(Source::Filter, {1e9, 2e9, Sweep::mostPoints}, defaultTuning);
+            source.start(Source::Filter, {1e9, 2e9, Sweep::maximumPoints}, defaultTuning);
             source.start(Source::Antenna, {1e9, 2e9, 201}, defaultTuning);
             QTRY_VERIFY(sizes.size() >= 3);
             // Destroyed in the middle of a long computation.
-            source.start(Source::Filter, {1e9, 2e9, Sweep::mostPoints}, defaultTuning);
+            source.start(Source::Filter, {1e9, 2e9, Sweep::maximumPoints}, defaultTuning);
         }
         QCOMPARE(sizes.takeFirst(), 201);
         for (const int size : sizes)

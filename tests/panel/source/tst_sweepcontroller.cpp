@@ -69,11 +69,11 @@ private Q_SLOTS:
     void answersClicksWhileSweeping()
     {
         Desk desk;
-        desk.sweepPoints(Sweep::mostPoints);
+        desk.sweepPoints(Sweep::maximumPoints);
         const QSignalSpy updated(&desk.model, &PanelModel::networkUpdated);
         desk.model.setSource(Source::Antenna);
         QTRY_VERIFY_WITH_TIMEOUT(updated.count() >= 2, 60000);
-        QCOMPARE(desk.points(), Sweep::mostPoints);
+        QCOMPARE(desk.points(), Sweep::maximumPoints);
 
         // Drawn are the points of the picture, not those of the data.
         QVERIFY(desk.window.smithView()->drawnPoints() > 100);
@@ -134,7 +134,7 @@ private Q_SLOTS:
         QVERIFY(isOnTheTrace());
 
         // With other points it keeps its frequency, shorter data or longer.
-        for (const int points : {Sweep::fewestPoints, 100001}) {
+        for (const int points : {Sweep::minimumPoints, 100001}) {
             desk.sweepPoints(points);
             QTRY_COMPARE(desk.points(), points);
             const Marker *marker = desk.model.marker(1, 1);
