@@ -95,10 +95,10 @@ QString SmithReader::Private::markerText(const MarkerId &id) const
 void SmithReader::Private::requestMarkerValue(const MarkerId &id, double value)
 {
     const ReadTrace of = data(id.trace);
-    if (of.size() == 0)
+    const QPointer<SmithChartPlot> guard(chart);
+    if (of.size() == 0 || !guard)
         return;
-    const QPointer<SmithChartPlot> guard = chart;
-    Q_EMIT chart->markerDragStarted(id.trace, id.number);
+    Q_EMIT guard->markerDragStarted(id.trace, id.number);
     if (guard)
         Q_EMIT guard->markerPositionChanged(id.trace, id.number, std::round(of.indexOf(value)));
     if (!guard)

@@ -52,6 +52,7 @@ struct SwitchButton::Private {
         , layout(new QHBoxLayout(container))
     {
     }
+    Q_DISABLE_COPY(Private)
 
     QWidget *container;
     QPushButton *onButton;
