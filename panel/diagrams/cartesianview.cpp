@@ -121,6 +121,8 @@ void CartesianView::addLine(const Trace &trace)
     line.values->grid()->setVisible(false);
     line.graph = plot()->addGraph(plot()->xAxis, line.values);
     line.graph->setSelectable(QCP::stNone);
+    // Columns are thinned already, and the plot's own thinning joins what a gap in a column parts.
+    line.graph->setAdaptiveSampling(false);
     line.graph->setVisible(trace.visible);
 }
 
@@ -178,6 +180,7 @@ void CartesianView::showMemory(const Trace &trace)
     } else if (stored && !line.memory) {
         line.memory = plot()->addGraph(plot()->xAxis, line.values);
         line.memory->setSelectable(QCP::stNone);
+        line.memory->setAdaptiveSampling(false);
         line.memory->setPen(currentLook().memoryPen(trace.id, trace.network));
         line.memory->setVisible(trace.visible);
     }

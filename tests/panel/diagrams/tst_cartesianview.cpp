@@ -313,6 +313,38 @@ private Q_SLOTS:
         QVERIFY(qAbs(axis->coordToPixel(there) - middle.x() + 50.0) < 0.5);
     }
 
+    /// A phase that begins anew is not joined, however many points a pixel column has.
+    void turnsOfThePhaseAreNotJoined()
+    {
+        Desk desk(QSize(1100, 700));
+        desk.setLayout(Graph::LayoutType::SideBySide);
+        desk.model.setTraceFormat(3, TraceFormat::Phase);
+        desk.model.setActiveTrace(3);
+        desk.model.setTraceVisible(4, false);
+        Desk::settle();
+        const TraceData data = desk.model.traceData(*desk.model.trace(3));
+        const QVector<double> values = formatValues(data, TraceFormat::Phase);
+        const QCPAxis *axis = desk.view()->plot()->xAxis;
+        const QImage picture = desk.view()->plot()->grab().toImage();
+        const QColor color = currentLook().trace(3);
+        int turns = 0;
+        for (int i = 1; i < values.size(); ++i) {
+            if (std::abs(values.at(i) - values.at(i - 1)) < 180.0)
+                continue;
+            ++turns;
+            const int column = qRound(axis->coordToPixel(data.frequencies.at(i)));
+            for (int x = column - 2; x <= column + 2; ++x) {
+                int drawn = 0;
+                for (int y = 0; y < picture.height(); ++y) {
+                    const QColor here = picture.pixelColor(x, y);
+                    drawn += std::abs(here.hslHue() - color.hslHue()) < 8 && here.value() > 80;
+                }
+                QVERIFY2(drawn < picture.height() / 4, qPrintable(QString::number(drawn)));
+            }
+        }
+        QVERIFY(turns > 1);
+    }
+
     /// No two traces look alike, whichever file they are of.
     void tracesOfTwoFilesDiffer()
     {
