@@ -200,7 +200,21 @@ MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format,
     return reading;
 }
 
-MarkerReading readMarker(const PanelModel &model, const Marker &marker)
+namespace
+{
+
+/// A frequency with as many digits as a span can be read to: a marker between two points would have
+/// ten of them.
+QString textWithin(double hertz, double span)
+{
+    constexpr int digitsOfASpan = 6;
+    if (!(span > 0.0) || !std::isfinite(hertz))
+        return frequencyText(hertz);
+    const double digit = std::pow(10.0, std::floor(std::log10(span)) - digitsOfASpan + 1);
+    return frequencyText(std::round(hertz / digit) * digit);
+}
+
+MarkerReading readPoint(const PanelModel &model, const Marker &marker)
 {
     const Marker *reference = model.referenceMarker(marker.trace);
     if (reference && reference->number == marker.number)
@@ -219,6 +233,16 @@ MarkerReading readMarker(const PanelModel &model, const Marker &marker)
                          : readOnSmithChart(point(marker), format);
     return reference ? readOnCartesian(point(marker), trace.format, point(*reference))
                      : readOnCartesian(point(marker), trace.format);
+}
+
+} // namespace
+
+MarkerReading readMarker(const PanelModel &model, const Marker &marker)
+{
+    MarkerReading reading = readPoint(model, marker);
+    const Stimulus shown = model.shownRange(*model.trace(marker.trace));
+    reading.frequency = textWithin(reading.hertz, shown.span());
+    return reading;
 }
 
 QString bandwidthText(const PanelModel &model)

@@ -65,7 +65,7 @@ private Q_SLOTS:
     void readsSortsAndSelects()
     {
         TableDesk desk(QSize(1280, 800));
-        desk.model.addMarker(1, 900);
+        desk.model.addMarker(1, 900.123456);
         desk.model.addMarker(3, 700);
         desk.model.addMarker(3, 100);
         QVERIFY(desk.table()->isHidden() && desk.cartesian()->readOuts()->isVisible());
@@ -73,6 +73,7 @@ private Q_SLOTS:
         TableDesk::waitForTable();
         QVERIFY(desk.table()->isVisible() && desk.cartesian()->readOuts()->isHidden());
         QCOMPARE(desk.names(), (QStringList{"Tr1 M1"_s, "Tr3 M1"_s, "Tr3 M2"_s}));
+        QCOMPARE(desk.table()->rowTexts(0).at(2), "2.525031 GHz"_s); // no more than the span tells
         QCOMPARE(desk.table()->rowTexts(1).mid(1, 2), (QStringList{"S21 LogM"_s, "2.475 GHz"_s}));
         desk.table()->table()->sortByColumn(2, Qt::AscendingOrder); // as a tap on "Frequency" does
         QCOMPARE(desk.names(), (QStringList{"Tr3 M2"_s, "Tr3 M1"_s, "Tr1 M1"_s}));
