@@ -11,6 +11,7 @@ int main(int argc, char **argv)
     chart.setFollowsTheme(true);
     chart.addCurve(1, QPen(Qt::cyan));
     chart.setCurveData(1, {1e9, 2e9, 3e9}, {0.0, 0.3, 0.1}, {0.5, 0.2, -0.4});
+    plot.resize(600, 600);
     plot.show();
     return app.exec();
 }

@@ -257,7 +257,8 @@ void BaseUnitAdapter::commit(QKeyEvent *event)
             m_inputText = convertFromBaseValue(value, unit);
         }
         Q_EMIT editingFinished(m_realValue);
-        if (self && value != entered)
+        // 0.1 in µF is a rounding error beyond 100 nF.
+        if (self && std::abs(value - entered) > 1e-12 * std::abs(value))
             Q_EMIT entryClamped(entered, value);
     }
 
@@ -273,7 +274,7 @@ void BaseUnitAdapter::commit(QKeyEvent *event)
 void BaseUnitAdapter::cancel()
 {
     const QPointer<QDialog> dialog(d->escKeyPolicy == EscRejectsDialog ? owningDialog(this)
-                                                                      : nullptr);
+                                                                       : nullptr);
     Q_EMIT specialKeyHandled(m_inputText, numericPartLength(), 0, 0);
     if (dialog)
         dialog->reject();

@@ -67,18 +67,23 @@ void Step125Controller::stepBy(double value, int step)
 
     const bool negative = value < 0.0;
     const bool grows = negative == (step < 0);
-    const double scale = std::pow(10.0, exponent);
+    // Powers of ten are exact up to 1e22, those below 1 are not: 2 / 1e10 is 2e-10, 2 * 1e-10 a bit
+    // less.
+    const bool divides = exponent < 0 && exponent >= -22;
+    const double power = std::pow(10.0, divides ? -exponent : exponent);
+    const auto scaled = [&, sign = negative ? -1.0 : 1.0](double entry) {
+        return sign * (divides ? entry / power : entry * power);
+    };
     double result = 0.0;
     if (negative && grows) {
-        result = -scale;
+        result = scaled(1.0);
     } else {
         const auto next = grows ? nextAbove : nextBelow;
-        const double signedScale = negative ? -scale : scale;
         const double entry = next(std::abs(mantissa));
-        result = signedScale * entry;
+        result = scaled(entry);
         // The rounding of a mantissa (2e-12 has 1.9999999999999998) must not hold the user up.
         if (result == value)
-            result = signedScale * next(entry);
+            result = scaled(next(entry));
     }
     Q_EMIT stepped(std::abs(result) < d->zeroThreshold ? 0.0 : result);
 }

@@ -101,6 +101,20 @@ private Q_SLOTS:
         }
     }
 
+    /// Each press moves, whatever a decade is rounded to.
+    void everyPressMoves()
+    {
+        Controls::Step125Controller controller;
+        double value = 1e-14;
+        QObject::connect(&controller, &Controls::StepController::stepped, &controller,
+                         [&value](double stepped) { value = stepped; });
+        for (const double wanted : {2e-14, 5e-14, 1e-13, 2e-13, 5e-13, 1e-12, 2e-12, 5e-12, 1e-11,
+                                    2e-11, 5e-11, 1e-10, 2e-10, 5e-10, 1e-9, 2e-9}) {
+            controller.stepBy(value, 1);
+            QVERIFY2(value == wanted, qPrintable(QString::number(value, 'g', 17)));
+        }
+    }
+
     void tinyQuantitiesStepWhenAsked()
     {
         Step125Controller controller;
