@@ -82,7 +82,7 @@ def band_around(points, hertz, magnitude):
 # What the panel says
 
 
-def wait_for(what, probe, seconds=15.0):
+def wait_for(what, probe, seconds=30.0):
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         try:
@@ -118,6 +118,8 @@ class Panel:
         self.chart = wait_for("the chart", lambda: self.find("chart", "Smith chart"))
 
     def find_window(self):
+        if self.process.poll() is not None:
+            sys.exit(f"FAILED: the panel ended with {self.process.returncode}")
         for application in self.atspi.Registry.getDesktop(0):
             if application and application.name == "vnapanel" and application.childCount:
                 return application.getChildAtIndex(0)
@@ -264,7 +266,9 @@ def main():
     with tempfile.TemporaryDirectory() as home:
         os.chmod(home, 0o700)
         reading, writing = os.pipe()
-        server = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x800x24"],
+        # Without -noreset the server breaks new connections when the bus, its first client, leaves it.
+        server = subprocess.Popen(["Xvfb", "-noreset", "-displayfd", str(writing),
+                                   "-screen", "0", "1280x800x24"],
                                   pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
         display = os.read(reading, 16).decode().strip()
