@@ -68,6 +68,8 @@ void TabletComboBox2::afterSetProfile()
 
 void TabletComboBox2::setIcons(const QList<QString> &paths)
 {
+    if (d->icons == paths)
+        return; // reading pictures is slow
     d->icons = paths;
     applyIcons();
 }

@@ -170,13 +170,38 @@ MarkerTable::MarkerTable(const PanelModel *model, QWidget *parent)
     , m_model(model)
     , m_rows(new MarkerRows(model, this))
     , m_sorted(new QSortFilterProxyModel(this))
-    , m_table(new QTableView)
-    , m_hint(new QLabel(tr("Tap a trace twice to set a marker.")))
-    , m_bandwidth(new QLabel)
 {
     setAttribute(Qt::WA_StyledBackground);
     m_sorted->setSourceModel(m_rows);
     m_sorted->setSortRole(Qt::UserRole);
+    m_refresh.setSingleShot(true);
+    m_refresh.setInterval(s_gathering);
+    connect(&m_refresh, &QTimer::timeout, this, &MarkerTable::refresh);
+    const auto later = [this] {
+        if (m_model->viewSettings()->markerTable() && !m_refresh.isActive())
+            m_refresh.start();
+    };
+    for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::selectedMarkerChanged,
+                              &PanelModel::markerModeChanged})
+        connect(m_model, signal, this, later);
+    for (const auto signal : {&PanelModel::networkUpdated, &PanelModel::stimulusChanged,
+                              &PanelModel::referenceMarkerChanged, &PanelModel::memoryChanged})
+        connect(m_model, signal, this, later);
+    for (const auto signal :
+         {&PanelModel::markerAdded, &PanelModel::markerMoved, &PanelModel::markerRemoved})
+        connect(m_model, signal, this, later);
+    connect(m_model->viewSettings(), &ViewSettings::changed, this, &MarkerTable::refresh);
+    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
+            &MarkerTable::refresh);
+    refresh();
+}
+
+/// Makes what it shows, which a panel that starts without its table need not wait for.
+void MarkerTable::makeTable()
+{
+    m_table = new QTableView(this);
+    m_hint = new QLabel(tr("Tap a trace twice to set a marker."), this);
+    m_bandwidth = new QLabel(this);
     m_table->setModel(m_sorted);
     m_table->setItemDelegate(new MarkerRowDelegate(m_table));
     m_table->setAccessibleName(tr("Markers"));
@@ -211,26 +236,6 @@ MarkerTable::MarkerTable(const PanelModel *model, QWidget *parent)
 
     connect(m_table, &QTableView::clicked, this, &MarkerTable::onRowPicked);
     connect(m_table, &QTableView::activated, this, &MarkerTable::onRowPicked);
-    m_refresh.setSingleShot(true);
-    m_refresh.setInterval(s_gathering);
-    connect(&m_refresh, &QTimer::timeout, this, &MarkerTable::refresh);
-    const auto later = [this] {
-        if (m_model->viewSettings()->markerTable() && !m_refresh.isActive())
-            m_refresh.start();
-    };
-    for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::selectedMarkerChanged,
-                              &PanelModel::markerModeChanged})
-        connect(m_model, signal, this, later);
-    for (const auto signal : {&PanelModel::networkUpdated, &PanelModel::stimulusChanged,
-                              &PanelModel::referenceMarkerChanged, &PanelModel::memoryChanged})
-        connect(m_model, signal, this, later);
-    for (const auto signal :
-         {&PanelModel::markerAdded, &PanelModel::markerMoved, &PanelModel::markerRemoved})
-        connect(m_model, signal, this, later);
-    connect(m_model->viewSettings(), &ViewSettings::changed, this, &MarkerTable::refresh);
-    connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
-            &MarkerTable::refresh);
-    refresh();
 }
 
 void MarkerTable::setRoom(int height)
@@ -241,6 +246,8 @@ void MarkerTable::setRoom(int height)
 void MarkerTable::refresh()
 {
     const bool shown = m_model->viewSettings()->markerTable();
+    if (shown && !m_table)
+        makeTable();
     setVisible(shown);
     if (!shown)
         return;

@@ -32,6 +32,7 @@ public:
     void setRoom(int height);
     /// The texts of a row as it is on show, from left to right.
     QStringList rowTexts(int row) const;
+    /// Null until the table is on show for the first time.
     QTableView *table() const { return m_table; }
 
 Q_SIGNALS:
@@ -41,6 +42,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void makeTable();
     void refresh();
     void fitColumns();
     void onRowPicked(const QModelIndex &index);
@@ -48,9 +50,9 @@ private:
     const PanelModel *m_model;
     MarkerRows *m_rows;
     QSortFilterProxyModel *m_sorted;
-    QTableView *m_table;
-    QLabel *m_hint; ///< in place of the rows while there are none
-    QLabel *m_bandwidth;
+    QTableView *m_table = nullptr;
+    QLabel *m_hint = nullptr; ///< in place of the rows while there are none
+    QLabel *m_bandwidth = nullptr;
     QVector<int> m_widths; ///< that the columns have needed, in pixels
     QTimer m_refresh; ///< runs while changes are gathered
 };

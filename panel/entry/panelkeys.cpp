@@ -28,7 +28,7 @@ struct Text {
 
 MenuButton *addMenu(SoftKeyMenu *menu, const QString &name)
 {
-    auto *button = new MenuButton(name + QStringLiteral(" \u25be"));
+    auto *button = new MenuButton(name + QStringLiteral(" \u25be"), menu->begunPage());
     button->setAccessibleName(name);
     menu->addKey(button);
     return button;
@@ -36,7 +36,7 @@ MenuButton *addMenu(SoftKeyMenu *menu, const QString &name)
 
 SwitchButton *addSwitch(SoftKeyMenu *menu, const QString &name)
 {
-    auto *button = new SwitchButton;
+    auto *button = new SwitchButton(menu->begunPage());
     button->setText(name);
     button->setTextMargins({10, 0, 10, 0});
     menu->addKey(button);
@@ -47,11 +47,11 @@ SwitchButton *addSwitch(SoftKeyMenu *menu, const QString &name)
 std::pair<SoftKey *, SoftKey *> addPair(SoftKeyMenu *menu, const QString &left,
                                         const QString &right)
 {
-    auto *pair = new QWidget;
+    auto *pair = new QWidget(menu->begunPage());
     auto *row = new QHBoxLayout(pair);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(6);
-    const std::pair<SoftKey *, SoftKey *> keys{new SoftKey(left), new SoftKey(right)};
+    const std::pair<SoftKey *, SoftKey *> keys{new SoftKey(left, pair), new SoftKey(right, pair)};
     for (SoftKey *key : {keys.first, keys.second}) {
         key->setNarrow(true);
         key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -112,7 +112,7 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.vswrLimit = menu->addKey(Text::tr("VSWR limit"));
 
     menu->addPage(Text::tr("Display"), Glyph::Display);
-    keys.layout = new DisplayPanel(model->viewSettings()->layoutProfile());
+    keys.layout = new DisplayPanel(model->viewSettings()->layoutProfile(), menu->begunPage());
     menu->addWidget(keys.layout);
     keys.grid = menu->addKey(Text::tr("Grid"));
     keys.density = menu->addKey(Text::tr("Density"));

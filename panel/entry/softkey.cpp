@@ -22,7 +22,7 @@ QFont scaled(QFont font, double factor)
 } // namespace
 
 SoftKey::SoftKey(const QString &name, QWidget *parent)
-    : EnumTextButton(parent)
+    : EnumTextButton(ListCreation::WhenOpened, parent)
 {
     setText(name);
     setAccessibleName(name);

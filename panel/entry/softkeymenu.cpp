@@ -34,7 +34,7 @@ SoftKeyMenu::SoftKeyMenu(QWidget *parent)
     : QWidget(parent)
     , m_tabs(new QButtonGroup(this))
     , m_tabColumn(new QVBoxLayout)
-    , m_pages(new QStackedWidget)
+    , m_pages(new QStackedWidget(this))
 {
     setObjectName(QStringLiteral("softKeys"));
     setAttribute(Qt::WA_StyledBackground);
@@ -50,18 +50,21 @@ SoftKeyMenu::SoftKeyMenu(QWidget *parent)
             m_pages->setCurrentIndex(page);
     });
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
-            &SoftKeyMenu::recolor);
+            [this] {
+                for (int page = 0; page < pageCount(); ++page)
+                    recolor(page);
+            });
 }
 
 void SoftKeyMenu::addPage(const QString &name, Glyph glyph)
 {
-    auto *page = new QWidget;
+    auto *page = new QWidget(m_pages);
     m_column = new QVBoxLayout(page);
     m_column->setContentsMargins(0, 6, 0, 6);
     m_column->setSpacing(6);
     m_column->addStretch(1);
     const int index = m_pages->addWidget(page);
-    auto *tab = new QToolButton;
+    auto *tab = new QToolButton(this);
     tab->setObjectName(QStringLiteral("pageTab"));
     tab->setText(name);
     tab->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
@@ -77,19 +80,23 @@ void SoftKeyMenu::addPage(const QString &name, Glyph glyph)
     m_tabs->addButton(tab, index);
     m_glyphs.append(glyph);
     tab->setChecked(index == 0);
-    recolor();
+    recolor(index);
 }
 
-void SoftKeyMenu::recolor()
+void SoftKeyMenu::recolor(int page)
 {
     const Look look = currentLook();
-    for (int i = 0; i < m_glyphs.size(); ++i)
-        m_tabs->button(i)->setIcon(glyphIcon(m_glyphs.at(i), look.dimText, look.accent));
+    m_tabs->button(page)->setIcon(glyphIcon(m_glyphs.at(page), look.dimText, look.accent));
+}
+
+QWidget *SoftKeyMenu::begunPage() const
+{
+    return m_column->parentWidget();
 }
 
 SoftKey *SoftKeyMenu::addKey(const QString &name)
 {
-    auto *key = new SoftKey(name);
+    auto *key = new SoftKey(name, begunPage());
     // All are alike, and measuring one is not cheap.
     if (m_keyHeights.isEmpty())
         m_keyHeights = {key->minimumSizeHint().height(), key->sizeHint().height()};

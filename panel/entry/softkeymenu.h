@@ -27,7 +27,10 @@ public:
 
     /// Begins a page; the first is the one on show.
     void addPage(const QString &name, Glyph glyph);
-    /// Appends a key to the page that was begun last. The menu owns it.
+    /// The page that was begun last: the parent of what is added to it. A widget that moves to
+    /// another parent is styled anew with all that it holds.
+    QWidget *begunPage() const;
+    /// Appends a key to that page. The menu owns it.
     SoftKey *addKey(const QString &name);
     /// The same with a key that exists already.
     void addKey(QWidget *key);
@@ -47,7 +50,7 @@ protected:
 
 private:
     void appendKey(QWidget *key, int smallestHeight);
-    void recolor();
+    void recolor(int page);
 
     QButtonGroup *m_tabs;
     QVBoxLayout *m_tabColumn;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "glyphs.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -76,28 +77,51 @@ QPainterPath outline(Glyph glyph)
     return path;
 }
 
+/// Draws the glyph when it is asked for, so that it is sharp on every screen and costs nothing before.
+class GlyphEngine : public QIconEngine
+{
+public:
+    GlyphEngine(Glyph glyph, const QColor &off, const QColor &on)
+        : m_glyph(glyph)
+        , m_off(off)
+        , m_on(on)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State state) override
+    {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(state == QIcon::On ? m_on : m_off, 1.8, Qt::SolidLine, Qt::RoundCap,
+                             Qt::RoundJoin));
+        painter->translate(rect.topLeft());
+        painter->scale(rect.width() / s_side, rect.height() / s_side);
+        painter->drawPath(outline(m_glyph));
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+
+    QIconEngine *clone() const override { return new GlyphEngine(m_glyph, m_off, m_on); }
+
+private:
+    Glyph m_glyph;
+    QColor m_off;
+    QColor m_on;
+};
+
 } // namespace
 
 QIcon glyphIcon(Glyph glyph, const QColor &off, const QColor &on)
 {
-    const QPainterPath path = outline(glyph);
-    QIcon icon;
-    for (const bool checked : {false, true}) {
-        // Sharp on screens of up to three device pixels for one.
-        for (const int ratio : {1, 2, 3}) {
-            QPixmap pixmap(int(s_side) * ratio, int(s_side) * ratio);
-            pixmap.setDevicePixelRatio(ratio);
-            pixmap.fill(Qt::transparent);
-            QPainter painter(&pixmap);
-            painter.setRenderHint(QPainter::Antialiasing);
-            painter.setPen(
-                QPen(checked ? on : off, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-            painter.drawPath(path);
-            painter.end();
-            icon.addPixmap(pixmap, QIcon::Normal, checked ? QIcon::On : QIcon::Off);
-        }
-    }
-    return icon;
+    return QIcon(new GlyphEngine(glyph, off, on));
 }
 
 } // namespace Panel

@@ -67,19 +67,25 @@ QPixmap mark(int size, const QColor &color, double ratio)
 PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     : QMainWindow(parent)
     , m_model(model)
-    , m_traceBar(new TraceBar(model))
-    , m_diagrams(new Diagrams(model))
-    , m_markerTable(new MarkerTable(model))
-    , m_sweepBar(new SweepBar(model))
-    , m_timingLine(new TimingLine(m_diagrams))
-    , m_softKeys(new SoftKeyMenu)
+    , m_main(new QWidget(this))
+    , m_topBar(new QWidget(m_main))
+    , m_traceBar(new TraceBar(model, m_topBar))
+    , m_pages(new QStackedWidget(m_main))
+    , m_diagrams(new Diagrams(model, m_pages))
+    , m_markerTable(new MarkerTable(model, m_main))
+    , m_sweepBar(new SweepBar(model, m_main))
+    , m_timingLine(new TimingLine(m_diagrams, m_main))
+    , m_softKeys(new SoftKeyMenu(m_main))
     , m_keys(makePanelKeys(m_softKeys, model))
 {
     setWindowTitle(tr("Vector network analyser"));
+    // Parents from the start: a widget that moves to one later is styled anew with all it holds.
+    setCentralWidget(m_main);
 
     auto *diagramColumn = new QVBoxLayout;
     diagramColumn->setSpacing(0);
-    diagramColumn->addWidget(makeDiagrams(), 1);
+    fillPages();
+    diagramColumn->addWidget(m_pages, 1);
     diagramColumn->addWidget(m_markerTable);
     diagramColumn->addWidget(m_timingLine);
     diagramColumn->addWidget(m_sweepBar);
@@ -89,15 +95,15 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     middle->addLayout(diagramColumn, 1);
     middle->addWidget(m_softKeys);
 
-    setCentralWidget(new QWidget);
-    auto *column = new QVBoxLayout(centralWidget());
+    auto *column = new QVBoxLayout(m_main);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(makeTopBar());
+    fillTopBar();
+    column->addWidget(m_topBar);
     column->addLayout(middle, 1);
     m_messageBar = new MessageBar(m_pages);
     // Over the diagrams.
-    m_lock = new PanelLock(new LockWidget(centralWidget(), m_pages), this);
+    m_lock = new PanelLock(new LockWidget(m_main, m_pages), this);
     connect(m_lock, &PanelLock::lockedChanged, this, [this] {
         showLock();
         m_messageBar->notify({}); // of how to unlock
@@ -126,17 +132,16 @@ CartesianView *PanelWindow::cartesianView() const
     return m_diagrams->cartesianView();
 }
 
-QWidget *PanelWindow::makeTopBar()
+void PanelWindow::fillTopBar()
 {
-    auto *bar = new QWidget;
-    bar->setObjectName(QStringLiteral("topBar"));
-    bar->setAttribute(Qt::WA_StyledBackground);
-    auto *row = new QHBoxLayout(bar);
+    m_topBar->setObjectName(QStringLiteral("topBar"));
+    m_topBar->setAttribute(Qt::WA_StyledBackground);
+    auto *row = new QHBoxLayout(m_topBar);
     row->setContentsMargins(10, 2, 6, 2);
     row->setSpacing(8);
-    m_mark = new QLabel;
+    m_mark = new QLabel(m_topBar);
     row->addWidget(m_mark);
-    auto *name = new QLabel(tr("VNA"));
+    auto *name = new QLabel(tr("VNA"), m_topBar);
     QFont bold = name->font();
     bold.setBold(true);
     name->setFont(bold);
@@ -153,12 +158,11 @@ QWidget *PanelWindow::makeTopBar()
     m_screenshotButton = addBarButton(row, tr("Screenshot"));
     m_lockButton = addBarButton(row, tr("Lock"));
     m_lockButton->setCheckable(true);
-    return bar;
 }
 
 QToolButton *PanelWindow::addBarButton(QHBoxLayout *row, const QString &name)
 {
-    auto *button = new QToolButton;
+    auto *button = new QToolButton(m_topBar);
     button->setAccessibleName(name);
     button->setToolTip(name);
     button->setMinimumSize(44, 44);
@@ -167,18 +171,16 @@ QToolButton *PanelWindow::addBarButton(QHBoxLayout *row, const QString &name)
     return button;
 }
 
-QWidget *PanelWindow::makeDiagrams()
+void PanelWindow::fillPages()
 {
-    m_pages = new QStackedWidget;
     m_pages->setObjectName(QStringLiteral("diagrams"));
     m_pages->addWidget(m_diagrams);
     m_pages->addWidget(makeEmptyPage());
-    return m_pages;
 }
 
 QWidget *PanelWindow::makeEmptyPage()
 {
-    auto *page = new QWidget;
+    auto *page = new QWidget(m_pages);
     page->setObjectName(QStringLiteral("emptyPage"));
     page->setAttribute(Qt::WA_StyledBackground);
     // While it is not on show, the diagrams may be lower than it is.

@@ -71,8 +71,8 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    QWidget *makeTopBar();
-    QWidget *makeDiagrams();
+    void fillTopBar();
+    void fillPages();
     QWidget *makeEmptyPage();
     QToolButton *addBarButton(QHBoxLayout *row, const QString &name);
     void showModel();
@@ -80,13 +80,17 @@ private:
     void recolor();
 
     PanelModel *m_model;
+    QWidget *m_main;
+    QWidget *m_topBar;
     TraceBar *m_traceBar;
-    MessageBar *m_messageBar;
+    QStackedWidget *m_pages; ///< the diagrams, or what stands there without data
     Diagrams *m_diagrams;
     MarkerTable *m_markerTable;
     SweepBar *m_sweepBar;
     TimingLine *m_timingLine;
-    QStackedWidget *m_pages;
+    SoftKeyMenu *m_softKeys;
+    PanelKeys m_keys;
+    MessageBar *m_messageBar;
     PanelLock *m_lock;
     QLabel *m_mark;
     ElidedLabel *m_fileName;
@@ -95,8 +99,6 @@ private:
     QToolButton *m_screenshotButton;
     QToolButton *m_lockButton;
     QAbstractButton *m_emptyPageButton;
-    SoftKeyMenu *m_softKeys;
-    PanelKeys m_keys;
 };
 
 } // namespace Panel

@@ -31,7 +31,7 @@ protected:
 
 struct EnumTextButton::Private {
     explicit Private(EnumTextButton *button)
-        : list(button)
+        : list(button, [button](const QString &text) { button->onPopupWidgetItemChanged(text); })
     {
     }
 
@@ -43,13 +43,18 @@ struct EnumTextButton::Private {
 };
 
 EnumTextButton::EnumTextButton(QWidget *parent)
+    : EnumTextButton(ListCreation::AtOnce, parent)
+{
+}
+
+EnumTextButton::EnumTextButton(ListCreation creation, QWidget *parent)
     : LabelButton(parent)
     , d(std::make_unique<Private>(this))
 {
     ButtonAccessible::install<EnumTextButton, EnumTextButtonAccessible>();
     connect(this, &EnumTextButton::clicked, this, &EnumTextButton::onClicked);
-    connect(d->list.popup(), &PopupWidget::currentItemChanged, this,
-            &EnumTextButton::onPopupWidgetItemChanged);
+    if (creation == ListCreation::AtOnce)
+        d->list.popup();
     connect(this, &EnumTextButton::currentItemToggled, this, &EnumTextButton::onCurrentItemToggled);
 }
 
@@ -158,12 +163,12 @@ void EnumTextButton::setViewMode(QListView::ViewMode mode)
 
 bool EnumTextButton::listScrollsInside() const
 {
-    return d->list.popup()->scrollsInside();
+    return d->list.scrollsInside();
 }
 
 void EnumTextButton::setListScrollsInside(bool scrolls)
 {
-    d->list.popup()->setScrollsInside(scrolls);
+    d->list.setScrollsInside(scrolls);
 }
 
 void EnumTextButton::onClicked(bool)
@@ -189,7 +194,7 @@ void EnumTextButton::onPopupWidgetItemChanged(const QString &text)
 
 void EnumTextButton::onCurrentItemToggled(int)
 {
-    d->list.popup()->setCurrentItem(d->currentText);
+    d->list.setCurrent(d->currentText);
 }
 
 void EnumTextButton::updatePopupPosition()
@@ -204,7 +209,7 @@ void EnumTextButton::updatePopupPosition()
 
 bool EnumTextButton::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == d->list.popup()) {
+    if (d->list.isPopup(watched)) {
         if (event->type() == QEvent::Close)
             d->list.reopenGuard()->start();
         else if (event->type() == QEvent::Show)

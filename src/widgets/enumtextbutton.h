@@ -113,6 +113,14 @@ Q_SIGNALS:
     void currentItemToggled(int value);
 
 protected:
+    /// When the list comes to be, which costs more than the button.
+    enum class ListCreation {
+        AtOnce, ///< with the button, as for every button made with the public constructor
+        WhenOpened, ///< or when one of its settings is asked for: for a screen of many buttons
+    };
+    /// A button without choices whose list is made at \a creation.
+    EnumTextButton(ListCreation creation, QWidget *parent);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

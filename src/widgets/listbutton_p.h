@@ -7,18 +7,28 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <functional>
+
 class PopupWidget;
 
 /*! What a button has that opens a list: the entries, the list, and a guard by which the tap that
-    closed the list does not open it again. The list and the guard are children of the button. */
+    closed the list does not open it again. The list and the guard are children of the button. The
+    list comes to be with popup(): a button that wants it at once calls that when it is made. */
 class ListButton
 {
 public:
     ListButton(const ListButton &) = delete;
     ListButton &operator=(const ListButton &) = delete;
-    explicit ListButton(QAbstractButton *button);
+    /// \a pick is called with the text of an entry that is picked and was not the current one.
+    ListButton(QAbstractButton *button, std::function<void(const QString &)> pick);
 
-    PopupWidget *popup() const { return m_popup; }
+    /// The list, made where there was none.
+    PopupWidget *popup();
+    bool isPopup(const QObject *object) const;
+    /// Chooses the entry in the list, as open() would.
+    void setCurrent(const QString &current);
+    bool scrollsInside() const { return m_scrollsInside; }
+    void setScrollsInside(bool scrolls);
 
     bool isEmpty() const { return m_texts.isEmpty(); }
     /// Replaces all entries, and closes the list: what it offers is no longer true.
@@ -56,7 +66,9 @@ private:
     void fill();
 
     QAbstractButton *m_button;
-    PopupWidget *m_popup;
+    std::function<void(const QString &)> m_pick;
+    PopupWidget *m_popup = nullptr;
+    bool m_scrollsInside = false;
     QTimer *m_reopenGuard;
     QList<int> m_values;
     QStringList m_texts;

@@ -25,7 +25,7 @@ public:
 
 struct MenuButton::Private {
     explicit Private(MenuButton *button)
-        : list(button)
+        : list(button, [button](const QString &text) { button->onPopupWidgetItemChanged(text); })
     {
     }
 
@@ -47,8 +47,7 @@ MenuButton::MenuButton(QWidget *parent)
     ButtonAccessible::install<MenuButton, MenuButtonAccessible>();
     setCheckable(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    connect(d->list.popup(), &PopupWidget::currentItemChanged, this,
-            &MenuButton::onPopupWidgetItemChanged);
+    d->list.popup();
     connect(d->list.reopenGuard(), &QTimer::timeout, this, [this] {
         setChecked(false);
         setDown(false);
@@ -186,7 +185,7 @@ void MenuButton::updatePopupPosition()
 
 bool MenuButton::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == d->list.popup()) {
+    if (d->list.isPopup(watched)) {
         switch (event->type()) {
         case QEvent::FocusOut:
         case QEvent::Hide:
