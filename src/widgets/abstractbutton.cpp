@@ -5,6 +5,7 @@
 #include <base/fingersize_p.h>
 #include <widgets/buttonaccessible_p.h>
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMouseEvent>
@@ -102,6 +103,9 @@ QStyleOptionButton AbstractButton::styleOption() const
 {
     QStyleOptionButton option;
     option.initFrom(this);
+    // A button whose part has the focus shows it as a whole.
+    if (isAncestorOf(QApplication::focusWidget()))
+        option.state |= QStyle::State_HasFocus;
     option.text = QAbstractButton::text();
     option.state |= isDown() ? QStyle::State_Sunken : QStyle::State_Raised;
     option.state |= isChecked() ? QStyle::State_On : QStyle::State_Off;

@@ -9,6 +9,7 @@
 #include "ui_displaypanel.h"
 
 #include <QEvent>
+#include <QLabel>
 #include <QPointer>
 
 using Graph::LayoutManagerProifle;
@@ -18,6 +19,7 @@ struct DisplayPanel::Private {
     Ui::DisplayPanel ui;
     QPointer<LayoutManagerProifle> profile;
     Profile::IEnumProfileAdapter *adapter = nullptr;
+    QLabel *name = nullptr; ///< for assistive tools alone
 };
 
 DisplayPanel::DisplayPanel(LayoutManagerProifle *profile, QWidget *parent)
@@ -27,6 +29,10 @@ DisplayPanel::DisplayPanel(LayoutManagerProifle *profile, QWidget *parent)
     d->profile = profile;
     d->ui.setupUi(this);
     d->ui.layoutSelectEdit->setIconSize({24, 24});
+    // A combo box goes by what is chosen, unless a label names it.
+    d->name = new QLabel(this);
+    d->name->setBuddy(d->ui.layoutSelectEdit);
+    d->name->hide();
     auto *context = Utils::GUIContext::instance();
     updateThemeIcons(context->getIsDarkTheme());
     bindProfile();
@@ -59,16 +65,17 @@ void DisplayPanel::changeEvent(QEvent *event)
 void DisplayPanel::bindProfile()
 {
     d->ui.layoutSelectEdit->setAccessibleName(tr("Diagram layout"));
+    d->name->setText(tr("Diagram layout"));
     d->ui.layoutSelectEdit->reset();
     delete d->adapter;
     using Adapter = Profile::EnumProfileAdapter<LayoutType>;
     d->adapter = new Adapter({{LayoutType::Single, tr("One diagram")},
-                             {LayoutType::SideBySide, tr("Two side by side")},
-                             {LayoutType::Stacked, tr("Two stacked")},
-                             {LayoutType::Quad, tr("Four diagrams")}},
-                            d->profile.data(), &LayoutManagerProifle::layoutType,
-                            &LayoutManagerProifle::setLayoutType,
-                            &LayoutManagerProifle::layoutTypeChanged, this);
+                              {LayoutType::SideBySide, tr("Two side by side")},
+                              {LayoutType::Stacked, tr("Two stacked")},
+                              {LayoutType::Quad, tr("Four diagrams")}},
+                             d->profile.data(), &LayoutManagerProifle::layoutType,
+                             &LayoutManagerProifle::setLayoutType,
+                             &LayoutManagerProifle::layoutTypeChanged, this);
     d->ui.layoutSelectEdit->setProfile(d->adapter);
     d->ui.layoutSelectEdit->afterSetProfile();
 }

@@ -74,6 +74,7 @@ SwitchButton::SwitchButton(QWidget *parent)
     for (QPushButton *const button : {d->onButton, d->offButton}) {
         button->setAutoDefault(false); // Return in a dialog is no tap on a switch
         button->setCheckable(true);
+        button->setAutoExclusive(true); // they read as radio buttons
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         button->installEventFilter(this);
         group->addButton(button);
@@ -111,6 +112,17 @@ void SwitchButton::setStatus(bool on)
 bool SwitchButton::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::FocusIn: {
+        // Else a screen reader would say no more than "On".
+        auto *const part = static_cast<QPushButton *>(watched);
+        part->setAccessibleName(QStringLiteral("%1: %2").arg(
+            accessibleName().isEmpty() ? text() : accessibleName(), part->text()));
+        update();
+        break;
+    }
+    case QEvent::FocusOut:
+        update();
+        break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
