@@ -448,10 +448,6 @@
         <translation>Messgeräte</translation>
     </message>
     <message>
-        <source>State</source>
-        <translation>Zustand</translation>
-    </message>
-    <message>
         <source>Serial ports, and instruments used before</source>
         <translation>Serielle Schnittstellen und früher benutzte Messgeräte</translation>
     </message>
@@ -1118,10 +1114,6 @@
     <message>
         <source>VNA</source>
         <translation>VNA</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
     </message>
     <message>
         <source>Dark or light</source>

@@ -442,10 +442,6 @@
         <translation>仪器</translation>
     </message>
     <message>
-        <source>State</source>
-        <translation>状态</translation>
-    </message>
-    <message>
         <source>Serial ports, and instruments used before</source>
         <translation>串口和以前用过的仪器</translation>
     </message>
@@ -1112,10 +1108,6 @@
     <message>
         <source>VNA</source>
         <translation>VNA</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>文件</translation>
     </message>
     <message>
         <source>Dark or light</source>

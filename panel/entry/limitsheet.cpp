@@ -56,6 +56,7 @@ LimitSheet::LimitSheet(PanelModel *model, int traceId, NumericKeys *numbers, QWi
     , m_hint(new QLabel(tr("A limit line is what the trace must stay below, or above.")))
     , m_add(new QPushButton(tr("Add a line")))
     , m_clear(new QPushButton(tr("Remove all")))
+    , m_focusBefore(host->window()->focusWidget())
 {
     setObjectName(QStringLiteral("sheet"));
     setAccessibleName(title());
@@ -81,6 +82,7 @@ LimitSheet::LimitSheet(PanelModel *model, int traceId, NumericKeys *numbers, QWi
         m_grid->setColumnStretch(column, 1);
     auto *area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // it follows the keys in it
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidget(m_rows);
@@ -141,6 +143,8 @@ void LimitSheet::keyPressEvent(QKeyEvent *event)
 
 void LimitSheet::leave()
 {
+    if (m_focusBefore && isAncestorOf(window()->focusWidget()))
+        m_focusBefore->setFocus();
     hide();
     deleteLater();
 }
@@ -260,8 +264,9 @@ void LimitSheet::updateTexts(const QVector<LimitLine> &all)
     for (int row = 0; row < all.size(); ++row) {
         const LimitLine &limit = all.at(row);
         const auto setText = [this, row](Column column, const QString &text) {
-            static_cast<QPushButton *>(m_grid->itemAtPosition(row, column)->widget())
-                ->setText(text);
+            auto *key = static_cast<QPushButton *>(m_grid->itemAtPosition(row, column)->widget());
+            key->setText(text);
+            key->setAccessibleDescription(text); // its name says what it is for
         };
         setText(Side, limit.upper ? tr("below") : tr("above"));
         setText(Start, frequencyText(limit.start));

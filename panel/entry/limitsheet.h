@@ -5,6 +5,7 @@
 #include <panel/model/limitline.h>
 
 #include <QFrame>
+#include <QPointer>
 
 class QGridLayout;
 class QLabel;
@@ -62,6 +63,7 @@ private:
     QLabel *m_hint; ///< in place of the rows while there are none
     QPushButton *m_add;
     QPushButton *m_clear;
+    QPointer<QWidget> m_focusBefore;
 };
 
 } // namespace Panel

@@ -54,6 +54,7 @@ ParameterMatrix::ParameterMatrix(int ports, int to, int from, QWidget *parent)
     }
     auto *area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // it follows the keys in it
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidget(keys);

@@ -4,6 +4,8 @@
 
 #include <QKeyEvent>
 
+#include <algorithm>
+
 namespace Panel
 {
 
@@ -69,7 +71,20 @@ void SoftKey::showValue()
     // Value and mark of the list, where a value like "M1" may be none of its entries.
     setCurrentEnum({m_choice, m_value});
     setLabelText(m_choices.isEmpty() ? m_value : m_value + QStringLiteral(" \u25be"));
-    setAccessibleDescription(m_value);
+    QStringList told{m_value, m_shortcut};
+    // An arrow is a picture.
+    if (std::none_of(m_value.begin(), m_value.end(), [](QChar c) { return c.isLetterOrNumber(); })
+        || m_shortcut == m_value)
+        told.removeFirst();
+    told.removeAll(QString());
+    setAccessibleDescription(told.join(QStringLiteral(", ")));
+}
+
+void SoftKey::setShortcutText(const QString &keys)
+{
+    m_shortcut = keys;
+    setToolTip(keys);
+    showValue();
 }
 
 void SoftKey::setNarrow(bool narrow)

@@ -30,6 +30,9 @@ public:
     void setChoice(int index);
     int choice() const { return m_choice; }
 
+    /// Tells which keys of the keyboard do the same.
+    void setShortcutText(const QString &keys);
+
     /// For two keys side by side: as narrow as its name allows.
     void setNarrow(bool narrow);
 
@@ -47,6 +50,7 @@ private:
     void showValue();
 
     QString m_value;
+    QString m_shortcut;
     QStringList m_choices;
     int m_choice = -1;
     bool m_narrow = false;

@@ -7,7 +7,7 @@
 
 #include <controls/thememanager.h>
 
-#include <QAbstractButton>
+#include <QAccessibleWidget>
 #include <QButtonGroup>
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -29,6 +29,77 @@ constexpr int s_iconSide = 20;
 constexpr int s_tabStretch = 1000;
 
 } // namespace
+
+/// Names a page. What is a tool button for the style is a tab for assistive tools.
+class PageTab : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    PageTab(const QString &name, QWidget *parent)
+        : QToolButton(parent)
+    {
+        QAccessible::installFactory(&Accessible::make);
+        setObjectName(QStringLiteral("pageTab"));
+        setText(name);
+        setAccessibleName(name);
+        setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        setIconSize({s_iconSide, s_iconSide});
+        setCheckable(true);
+        setFixedWidth(s_tabWidth);
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+        setMinimumHeight(s_lowestTab);
+        setMaximumHeight(s_tabWidth);
+        showChecked(false);
+        connect(this, &QToolButton::toggled, this, &PageTab::showChecked);
+    }
+
+private:
+    class Accessible : public QAccessibleWidget
+    {
+    public:
+        explicit Accessible(QWidget *tab)
+            : QAccessibleWidget(tab, QAccessible::PageTab)
+        {
+        }
+
+        static QAccessibleInterface *make(const QString &className, QObject *object)
+        {
+            return className == QLatin1String(PageTab::staticMetaObject.className())
+                ? new Accessible(static_cast<QWidget *>(object))
+                : nullptr;
+        }
+
+        QAccessible::State state() const override
+        {
+            QAccessible::State state = QAccessibleWidget::state();
+            state.selectable = true;
+            state.selected = static_cast<PageTab *>(widget())->isChecked();
+            return state;
+        }
+        QStringList actionNames() const override
+        {
+            return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+        }
+        void doAction(const QString &name) override
+        {
+            if (name == pressAction())
+                static_cast<PageTab *>(widget())->click();
+            else
+                QAccessibleWidget::doAction(name);
+        }
+    };
+
+    /// One stop for the tab key, whoever has turned the page.
+    void showChecked(bool checked)
+    {
+        setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus);
+        QAccessible::State changed;
+        changed.selected = true;
+        QAccessibleStateChangeEvent event(this, changed);
+        QAccessible::updateAccessibility(&event);
+    }
+};
 
 SoftKeyMenu::SoftKeyMenu(QWidget *parent)
     : QWidget(parent)
@@ -64,17 +135,7 @@ void SoftKeyMenu::addPage(const QString &name, Glyph glyph)
     m_column->setSpacing(6);
     m_column->addStretch(1);
     const int index = m_pages->addWidget(page);
-    auto *tab = new QToolButton(this);
-    tab->setObjectName(QStringLiteral("pageTab"));
-    tab->setText(name);
-    tab->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    tab->setIconSize({s_iconSide, s_iconSide});
-    tab->setCheckable(true);
-    tab->setFocusPolicy(Qt::StrongFocus);
-    tab->setFixedWidth(s_tabWidth);
-    tab->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    tab->setMinimumHeight(s_lowestTab);
-    tab->setMaximumHeight(s_tabWidth);
+    auto *tab = new PageTab(name, this);
     // Above the stretch, which takes nothing before the tabs are as high as they like.
     m_tabColumn->insertWidget(index, tab, s_tabStretch);
     m_tabs->addButton(tab, index);
@@ -167,3 +228,5 @@ void SoftKeyMenu::showKey(const QWidget *key)
 }
 
 } // namespace Panel
+
+#include "softkeymenu.moc"

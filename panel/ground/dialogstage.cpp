@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QDialog>
 #include <QKeyEvent>
+#include <QPushButton>
 
 namespace Panel
 {
@@ -43,6 +44,10 @@ DialogStage::DialogStage(QDialog *dialog, QWidget *window)
         first->setFocus();
     else if (!focusNextPrevChild(true))
         dialog->setFocus();
+    // Tab comes to it, too, once it is clear that it is not where to begin.
+    if (auto *close =
+            dialog->findChild<QPushButton *>(QStringLiteral("draggableDialogCloseButton")))
+        close->setFocusPolicy(Qt::TabFocus);
 }
 
 void DialogStage::show(QDialog *dialog, QWidget *window)

@@ -56,7 +56,10 @@ Panel--NumericDialog QLabel#range { color: @dimTextColor; font-size: 12px; paddi
 Panel--NumericDialog LabelButton QLabel#nameLabel { font-weight: normal; padding: 0px 10px; }
 Panel--NumericDialog QLabel#range[warning="true"] { color: @warningColor; }
 Panel--ParameterMatrix QScrollArea, Panel--ParameterMatrix QScrollArea > QWidget > QWidget { background: transparent; }
-Panel--ParameterMatrix QPushButton#parameter:checked { border: 2px solid @focusColor; }
+Panel--HelpDialog QTableView { background: transparent; }
+Panel--HelpDialog QTableView::item:selected { background: @buttonColor; color: @textColor; }
+Panel--MarkerTable QTableView, Panel--HelpDialog QTableView, Panel--FileDialog QListWidget, Panel--SetupDialog QListWidget, Panel--InstrumentDialog QListWidget { border: 2px solid transparent; outline: none; }
+Panel--MarkerTable QTableView:focus, Panel--HelpDialog QTableView:focus, Panel--FileDialog QListWidget:focus, Panel--SetupDialog QListWidget:focus, Panel--InstrumentDialog QListWidget:focus { border-color: @focusColor; }
 Panel--SetupDialog QListWidget::item, Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @buttonColor; }
 )");
 }

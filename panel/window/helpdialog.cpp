@@ -4,11 +4,11 @@
 
 #include <panel/ground/dialogstage.h>
 
-#include <QGridLayout>
-#include <QLabel>
-#include <QScrollArea>
+#include <QHeaderView>
 #include <QScrollBar>
 #include <QScroller>
+#include <QTableWidget>
+#include <QVBoxLayout>
 
 namespace Panel
 {
@@ -18,6 +18,7 @@ namespace
 
 /// Around the rows, in pixels.
 constexpr int s_edge = 16;
+constexpr int s_rowGap = 6;
 
 } // namespace
 
@@ -27,11 +28,6 @@ HelpDialog::HelpDialog(QWidget *parent)
     setAccessibleName(tr("Keys"));
     setWindowTitle(tr("Keys"));
     setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
-    auto *rowsArea = new QWidget;
-    auto *grid = new QGridLayout(rowsArea);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(24);
-    grid->setVerticalSpacing(5);
     const std::pair<QString, QString> rows[] = {
         {tr("Tab"), tr("go through all keys; Space or Return presses")},
         {tr("Ctrl + PgUp, PgDn"), tr("turn the page of soft keys")},
@@ -58,34 +54,42 @@ HelpDialog::HelpDialog(QWidget *parent)
         {QStringLiteral("F11"), tr("full screen")},
         {tr("Ctrl + Q"), tr("quit")},
     };
+    // A table can be read row by row; what has no room on a small screen scrolls.
+    auto *table = new QTableWidget(int(std::size(rows)), 2);
+    table->setAccessibleName(tr("Keys"));
     int row = 0;
     for (const auto &[keys, action] : rows) {
-        auto *name = new QLabel(keys);
-        QFont bold = name->font();
+        auto *name = new QTableWidgetItem(keys);
+        QFont bold = table->font();
         bold.setBold(true);
         name->setFont(bold);
-        grid->addWidget(name, row, 0);
-        grid->addWidget(new QLabel(action), row, 1);
-        ++row;
+        table->setItem(row, 0, name);
+        table->setItem(row++, 1, new QTableWidgetItem(action));
     }
-
-    // What has no room on a small screen scrolls, under a finger and by keys.
-    auto *scroll = new QScrollArea;
-    scroll->setAccessibleName(tr("Keys"));
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidget(rowsArea);
-    rowsArea->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
-    QScroller::grabGesture(scroll->viewport(), QScroller::LeftMouseButtonGesture);
-    const QSize whole = rowsArea->sizeHint();
-    const int room = parent ? parent->height() - dialogMargins(2 * s_edge).top() - 2 * s_edge
-                            : whole.height();
-    scroll->setMinimumSize(whole.width() + scroll->verticalScrollBar()->sizeHint().width(),
-                           qMin(whole.height(), qMax(room, s_edge)));
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setTabKeyNavigation(false);
+    table->setShowGrid(false);
+    table->setFrameShape(QFrame::NoFrame);
+    table->horizontalHeader()->hide();
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + s_rowGap);
+    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    QScroller::grabGesture(table->viewport(), QScroller::LeftMouseButtonGesture);
+    table->resizeColumnsToContents();
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->selectRow(0);
+    const QSize whole(table->horizontalHeader()->length() + s_rowGap,
+                      table->verticalHeader()->length());
+    const int room =
+        parent ? parent->height() - dialogMargins(2 * s_edge).top() - 2 * s_edge : whole.height();
+    table->setMinimumSize(whole.width() + table->verticalScrollBar()->sizeHint().width(),
+                          qMin(whole.height(), qMax(room, s_edge)));
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(dialogMargins(s_edge));
-    column->addWidget(scroll);
+    column->addWidget(table);
 }
 
 } // namespace Panel

@@ -68,7 +68,6 @@ InstrumentDialog::InstrumentDialog(PanelModel *model, const SweepBar *bar, QWidg
     column->setContentsMargins(dialogMargins(12));
     m_state->setWordWrap(true);
     m_state->setTextFormat(Qt::PlainText);
-    m_state->setAccessibleName(tr("State"));
     column->addWidget(m_state);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

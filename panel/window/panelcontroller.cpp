@@ -266,6 +266,13 @@ void PanelController::addShortcuts()
                 action();
         });
     };
+    const auto tell = [](QWidget *button, const QKeySequence &keys) {
+        const QString text = keys.toString(QKeySequence::NativeText);
+        if (auto *key = qobject_cast<SoftKey *>(button))
+            key->setShortcutText(text);
+        else
+            button->setToolTip(QStringLiteral("%1 (%2)").arg(button->accessibleName(), text));
+    };
     const auto ctrl = [](Qt::Key key) { return QKeySequence(int(Qt::CTRL) | int(key)); };
     add(QKeySequence::Undo, [this] { m_history->undo(); });
     add(QKeySequence::Redo, [this] { m_history->redo(); });
@@ -287,6 +294,18 @@ void PanelController::addShortcuts()
     });
     add(Qt::Key_F11,
         [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); });
+
+    const PanelKeys &keys = m_window->keys();
+    tell(keys.undo, QKeySequence::Undo);
+    tell(keys.redo, QKeySequence::Redo);
+    tell(keys.file, QKeySequence::Open);
+    tell(keys.settings, ctrl(Qt::Key_Comma));
+    tell(keys.help, Qt::Key_F1);
+    tell(m_window->themeButton(), ctrl(Qt::Key_T));
+    tell(m_window->lockButton(), ctrl(Qt::Key_L));
+    for (QWidget *button : {static_cast<QWidget *>(keys.screenshot),
+                            static_cast<QWidget *>(m_window->screenshotButton())})
+        tell(button, ctrl(Qt::Key_P));
 }
 
 void PanelController::showFileDialog()

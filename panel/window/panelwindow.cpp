@@ -149,7 +149,6 @@ void PanelWindow::fillTopBar()
     row->addWidget(m_traceBar, 1);
     m_fileName = new ElidedLabel(Qt::ElideMiddle);
     m_fileName->setObjectName(QStringLiteral("dim"));
-    m_fileName->setAccessibleName(tr("File"));
     m_fileName->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_fileName->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     m_fileName->setFixedWidth(fontMetrics().averageCharWidth() * 24);

@@ -62,6 +62,7 @@ void SettingsDialog::addRow(const QString &name, QWidget *field)
     auto *label = new QLabel(name);
     // In the middle of the row, where the layout would put it at the top.
     label->setMinimumHeight(s_fieldHeight);
+    label->setBuddy(field); // names a combo box for screen readers
     m_form->addRow(label, field);
 }
 

@@ -59,6 +59,10 @@ SetupDialog::SetupDialog(Setups *setups, QWidget *parent)
         answers->addWidget(key, 1);
     column->addLayout(answers);
 
+    QWidget *const order[] = {m_list, m_name, m_save, preset, m_remove, m_recall};
+    for (size_t i = 1; i < std::size(order); ++i)
+        setTabOrder(order[i - 1], order[i]);
+
     connect(m_list, &QListWidget::currentTextChanged, this, [this](const QString &name) {
         if (!name.isEmpty())
             m_name->setText(name);
