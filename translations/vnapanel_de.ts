@@ -1147,10 +1147,6 @@
         <translation>Öffnen…</translation>
     </message>
     <message>
-        <source>The panel is locked: tap the padlock to unlock.</source>
-        <translation>Die Bedienung ist gesperrt: zum Freigeben auf das Schloss tippen.</translation>
-    </message>
-    <message>
         <source>Simulated: %1</source>
         <translation>Simuliert: %1</translation>
     </message>
@@ -1177,6 +1173,18 @@
     <message>
         <source>Old: %1</source>
         <translation>Alt: %1</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Unlocked</source>
+        <translation>Entsperrt</translation>
+    </message>
+    <message>
+        <source>The panel is locked: tap the padlock or press Ctrl + L.</source>
+        <translation>Die Bedienfläche ist gesperrt: auf das Schloss tippen oder Strg + L drücken.</translation>
     </message>
 </context>
 <context>
@@ -1886,6 +1894,14 @@
     <message>
         <source>Tr%1 from %2</source>
         <translation>Tr%1 ab %2</translation>
+    </message>
+    <message>
+        <source>Limits: pass</source>
+        <translation>Grenzen: bestanden</translation>
+    </message>
+    <message>
+        <source>Limits: fail, %1</source>
+        <translation>Grenzen: nicht bestanden, %1</translation>
     </message>
 </context>
 </TS>

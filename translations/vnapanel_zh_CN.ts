@@ -1140,10 +1140,6 @@
         <translation>打开…</translation>
     </message>
     <message>
-        <source>The panel is locked: tap the padlock to unlock.</source>
-        <translation>面板已锁定：点按挂锁解锁。</translation>
-    </message>
-    <message>
         <source>Simulated: %1</source>
         <translation>模拟：%1</translation>
     </message>
@@ -1170,6 +1166,18 @@
     <message>
         <source>Old: %1</source>
         <translation>旧数据：%1</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>已锁定</translation>
+    </message>
+    <message>
+        <source>Unlocked</source>
+        <translation>已解锁</translation>
+    </message>
+    <message>
+        <source>The panel is locked: tap the padlock or press Ctrl + L.</source>
+        <translation>面板已锁定：轻触挂锁或按 Ctrl + L。</translation>
     </message>
 </context>
 <context>
@@ -1879,6 +1887,14 @@
     <message>
         <source>Tr%1 from %2</source>
         <translation>Tr%1 自 %2</translation>
+    </message>
+    <message>
+        <source>Limits: pass</source>
+        <translation>限制线：合格</translation>
+    </message>
+    <message>
+        <source>Limits: fail, %1</source>
+        <translation>限制线：不合格，%1</translation>
     </message>
 </context>
 </TS>

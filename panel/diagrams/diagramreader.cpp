@@ -3,6 +3,7 @@
 #include "diagramreader.h"
 
 #include "markerreading.h"
+#include "verdict.h"
 
 #include <panel/ground/numbertext.h>
 #include <panel/model/cartesian.h>
@@ -45,6 +46,9 @@ DiagramReader::DiagramReader(const PanelModel *model, DiagramView *view)
     , m_accessible(AccessiblePlot::on(view->plot()))
 {
     m_accessible->add(this);
+    if (const auto *verdict = view->findChild<Verdict *>())
+        connect(verdict, &Verdict::changed, this,
+                [this, verdict] { announce(verdict->sentence()); });
     const auto tellData = [this] {
         if (m_accessible)
             m_accessible->tellDataChanged();

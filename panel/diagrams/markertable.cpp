@@ -5,6 +5,7 @@
 #include "markerreading.h"
 
 #include <panel/ground/look.h>
+#include <panel/ground/quietview.h>
 
 #include <controls/thememanager.h>
 
@@ -199,7 +200,7 @@ MarkerTable::MarkerTable(const PanelModel *model, QWidget *parent)
 /// Makes what it shows, which a panel that starts without its table need not wait for.
 void MarkerTable::makeTable()
 {
-    m_table = new QTableView(this);
+    m_table = new QuietView<QTableView>(this);
     m_hint = new QLabel(tr("Tap a trace twice to set a marker."), this);
     m_bandwidth = new QLabel(this);
     m_table->setModel(m_sorted);

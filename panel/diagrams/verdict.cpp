@@ -20,6 +20,7 @@ Verdict::Verdict(QWidget *diagram)
 void Verdict::show(bool tested, const QVector<Failure> &failures)
 {
     setVisible(tested);
+    tell(tested, failures);
     if (!tested)
         return;
     const Look look = currentLook();
@@ -37,6 +38,28 @@ void Verdict::show(bool tested, const QVector<Failure> &failures)
     setText(text);
     adjustSize();
     place();
+}
+
+void Verdict::tell(bool tested, const QVector<Failure> &failures)
+{
+    QStringList texts;
+    QVector<int> failing;
+    for (const Failure &failure : failures) {
+        failing << failure.trace;
+        if (texts.size() < maximumFailures)
+            texts << tr("Tr%1 from %2")
+                         .arg(QString::number(failure.trace), frequencyText(failure.hertz));
+    }
+    setAccessibleName(!tested ? QString()
+                          : texts.isEmpty()
+                          ? tr("Limits: pass")
+                          : tr("Limits: fail, %1").arg(texts.join(QLatin1String(", "))));
+    if (tested == m_tested && failing == m_failing)
+        return;
+    m_tested = tested;
+    m_failing = failing;
+    if (tested)
+        Q_EMIT changed();
 }
 
 void Verdict::setCorner(const QPoint &topRight)

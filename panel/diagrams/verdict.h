@@ -26,14 +26,24 @@ public:
 
     explicit Verdict(QWidget *diagram);
 
+    /// In a sentence, for those who cannot see it.
+    QString sentence() const { return accessibleName(); }
+
     /// Shows what became of the traces that were tested, if any were.
     void show(bool tested, const QVector<Failure> &failures);
     /// The corner, in pixels of the diagram, that it keeps to from now on.
     void setCorner(const QPoint &topRight);
 
+Q_SIGNALS:
+    /// Another verdict, or one on other traces; not one that differs in its frequencies alone.
+    void changed();
+
 private:
     void place();
+    void tell(bool tested, const QVector<Failure> &failures);
 
+    QVector<int> m_failing; ///< the traces
+    bool m_tested = false;
     QPoint m_topRight;
 };
 

@@ -307,9 +307,7 @@ void MarkerController::showMarkers()
         references << name;
     }
     keys.marker->setChoices(commands);
-    keys.marker->setChoice(selectedIndex);
-    if (selectedIndex < 0)
-        keys.marker->setValue(tr("None"));
+    keys.marker->setChoice(selectedIndex, tr("None"));
     keys.marker->setItemEnabled(Remove, selected);
     keys.marker->setItemEnabled(RemoveAll, commands.size() > FirstMarker);
     keys.referenceMarker->setChoices(references);

@@ -51,6 +51,8 @@ void SoftKey::setValue(const QString &value)
 
 void SoftKey::setChoices(const QStringList &choices)
 {
+    if (choices == m_choices)
+        return;
     m_choices = choices;
     QList<EnumSpec> specs;
     for (int i = 0; i < choices.size(); ++i)
@@ -59,32 +61,43 @@ void SoftKey::setChoices(const QStringList &choices)
     setChoice(-1);
 }
 
-void SoftKey::setChoice(int index)
+void SoftKey::setChoice(int index, const QString &none)
 {
     m_choice = index;
-    m_value = m_choices.value(index);
+    m_value = m_choices.value(index, none);
     showValue();
 }
 
 void SoftKey::showValue()
 {
+    const QString label = m_choices.isEmpty() ? m_value : m_value + QStringLiteral(" \u25be");
+    if (EnumSpec{m_choice, m_value} == currentEnumSpec() && label == labelText())
+        return;
     // Value and mark of the list, where a value like "M1" may be none of its entries.
     setCurrentEnum({m_choice, m_value});
-    setLabelText(m_choices.isEmpty() ? m_value : m_value + QStringLiteral(" \u25be"));
+    setLabelText(label);
+    tellValue();
+}
+
+/// Describes the key to screen readers, which read its name before.
+void SoftKey::tellValue()
+{
     QStringList told{m_value, m_shortcut};
     // An arrow is a picture.
     if (std::none_of(m_value.begin(), m_value.end(), [](QChar c) { return c.isLetterOrNumber(); })
         || m_shortcut == m_value)
         told.removeFirst();
     told.removeAll(QString());
-    setAccessibleDescription(told.join(QStringLiteral(", ")));
+    const QString description = told.join(QStringLiteral(", "));
+    if (description != accessibleDescription())
+        setAccessibleDescription(description);
 }
 
 void SoftKey::setShortcutText(const QString &keys)
 {
     m_shortcut = keys;
     setToolTip(keys);
-    showValue();
+    tellValue();
 }
 
 void SoftKey::setNarrow(bool narrow)

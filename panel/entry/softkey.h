@@ -26,8 +26,8 @@ public:
     void setValue(const QString &value);
     /// Makes the key open a list, of which none is chosen yet.
     void setChoices(const QStringList &choices);
-    /// Shows a choice without reporting it; -1 shows none.
-    void setChoice(int index);
+    /// Shows a choice without reporting it; -1 shows none, or the text for that.
+    void setChoice(int index, const QString &none = QString());
     int choice() const { return m_choice; }
 
     /// Tells which keys of the keyboard do the same.
@@ -48,6 +48,7 @@ protected:
 
 private:
     void showValue();
+    void tellValue();
 
     QString m_value;
     QString m_shortcut;

@@ -4,6 +4,7 @@
 
 #include "softkey.h"
 #include <panel/ground/look.h>
+#include <panel/ground/pagestack.h>
 
 #include <controls/thememanager.h>
 
@@ -105,7 +106,7 @@ SoftKeyMenu::SoftKeyMenu(QWidget *parent)
     : QWidget(parent)
     , m_tabs(new QButtonGroup(this))
     , m_tabColumn(new QVBoxLayout)
-    , m_pages(new QStackedWidget(this))
+    , m_pages(new PageStack(this))
 {
     setObjectName(QStringLiteral("softKeys"));
     setAttribute(Qt::WA_StyledBackground);

@@ -6,6 +6,7 @@
 #include <panel/ground/dialogstage.h>
 #include <panel/ground/elidedlabel.h>
 #include <panel/ground/icons.h>
+#include <panel/ground/quietview.h>
 
 #include <QDir>
 #include <QListWidget>
@@ -44,7 +45,7 @@ FileDialog::FileDialog(QWidget *parent)
     : DraggableFramelessDialog(parent)
     , m_path(new ElidedLabel(Qt::ElideLeft))
     , m_hint(new QLabel)
-    , m_list(new QListWidget)
+    , m_list(new QuietView<QListWidget>)
 {
     setAccessibleName(tr("Open Touchstone files"));
     setWindowTitle(tr("Open Touchstone files"));

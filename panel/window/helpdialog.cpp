@@ -3,6 +3,7 @@
 #include "helpdialog.h"
 
 #include <panel/ground/dialogstage.h>
+#include <panel/ground/quietview.h>
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -55,7 +56,7 @@ HelpDialog::HelpDialog(QWidget *parent)
         {tr("Ctrl + Q"), tr("quit")},
     };
     // A table can be read row by row; what has no room on a small screen scrolls.
-    auto *table = new QTableWidget(int(std::size(rows)), 2);
+    auto *table = new QuietView<QTableWidget>(int(std::size(rows)), 2);
     table->setAccessibleName(tr("Keys"));
     int row = 0;
     for (const auto &[keys, action] : rows) {

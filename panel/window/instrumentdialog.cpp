@@ -4,6 +4,7 @@
 
 #include "sweepbar.h"
 #include <panel/ground/dialogstage.h>
+#include <panel/ground/quietview.h>
 #include <panel/link/linkaddress.h>
 #include <panel/link/serialwire.h>
 #include <panel/model/panelmodel.h>
@@ -57,7 +58,7 @@ InstrumentDialog::InstrumentDialog(PanelModel *model, const SweepBar *bar, QWidg
     , m_model(model)
     , m_bar(bar)
     , m_state(new QLabel)
-    , m_list(new QListWidget)
+    , m_list(new QuietView<QListWidget>)
     , m_address(new QLineEdit)
     , m_connect(makeButton(tr("Connect")))
 {

@@ -5,6 +5,7 @@
 #include <panel/ground/icons.h>
 #include <panel/ground/look.h>
 
+#include <controls/announcer.h>
 #include <controls/thememanager.h>
 
 #include <QEvent>
@@ -32,6 +33,7 @@ MessageBar::MessageBar(QWidget *parent)
     , m_progress(new QProgressBar(this))
     , m_action(new QPushButton(this))
     , m_close(new QToolButton(this))
+    , m_announcer(new Controls::Announcer(this))
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(12, 4, 4, 4);
@@ -78,13 +80,26 @@ bool MessageBar::showsProgress() const
 void MessageBar::setMessage(const QString &message)
 {
     showText(message, false);
+    m_announcer->announce(message);
 }
 
 void MessageBar::notify(const QString &notice)
 {
+    showCaption(notice);
+    if (message() == notice)
+        m_announcer->announce(notice);
+}
+
+void MessageBar::showCaption(const QString &text)
+{
     const bool asks = isVisible() && !m_action->isHidden();
-    if (!asks && (isNotice() || isHidden() || !notice.isEmpty()))
-        showText(notice, !notice.isEmpty());
+    if (!asks && (isNotice() || isHidden() || !text.isEmpty()))
+        showText(text, !text.isEmpty());
+}
+
+void MessageBar::speak(const QString &text)
+{
+    m_announcer->announce(text);
 }
 
 void MessageBar::showText(const QString &message, bool notice)
@@ -135,7 +150,8 @@ bool MessageBar::eventFilter(QObject *watched, QEvent *event)
 void MessageBar::offer(const QString &message, const QString &action, const QObject *context,
                        const std::function<void()> &answer)
 {
-    setMessage(message);
+    showText(message, false);
+    m_announcer->announce(message + QLatin1Char(' ') + action);
     m_action->setText(action);
     m_action->show();
     place();

@@ -7,6 +7,10 @@
 
 #include <functional>
 
+namespace Controls
+{
+class Announcer;
+}
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -17,7 +21,7 @@ namespace Panel
 
 /*! A sentence over the lower edge of its parent, which it never moves; hidden while there is none.
     A message stays until it is closed or replaced, a notice leaves by itself. Beside it there may be
-    a button with what can be done about it, and how far something has got.
+    a button with what can be done about it, and how far something has got. Screen readers say it.
 
     \code
     bar->setMessage(tr("The file cannot be read."));
@@ -41,6 +45,10 @@ public:
     /// Shows what needs no answer; an empty one takes the last notice back. A message with something
     /// to press stays instead.
     void notify(const QString &notice);
+    /// Shows, as a notice, what is read aloud elsewhere.
+    void showCaption(const QString &text);
+    /// Has read aloud what is seen elsewhere.
+    void speak(const QString &text);
     /// Shows a message with a button. Pressing it closes the message and calls the answer, as long
     /// as the context lives.
     void offer(const QString &message, const QString &action, const QObject *context,
@@ -66,6 +74,7 @@ private:
     QToolButton *m_close;
     QTimer m_leave; ///< runs while a notice is on show
     QMetaObject::Connection m_answer;
+    Controls::Announcer *m_announcer;
 };
 
 } // namespace Panel

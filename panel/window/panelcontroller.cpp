@@ -148,7 +148,8 @@ void PanelController::connectKeys()
                              {Print, tr("Print the diagram\u2026")}});
     connect(keys.save, qOverload<int>(&MenuButton::menuItemClicked), this,
             &PanelController::onSavePicked);
-    connect(m_window->diagrams(), &Diagrams::said, m_window->messageBar(), &MessageBar::notify);
+    connect(m_window->diagrams(), &Diagrams::said, m_window->messageBar(),
+            &MessageBar::showCaption);
     const auto showSave = [this] { m_window->keys().save->setEnabled(m_model->activeTrace()); };
     connect(m_model, &PanelModel::tracesChanged, this, showSave);
     showSave();

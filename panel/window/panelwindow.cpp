@@ -16,6 +16,7 @@
 #include <panel/ground/elidedlabel.h>
 #include <panel/ground/icons.h>
 #include <panel/ground/look.h>
+#include <panel/ground/pagestack.h>
 #include <panel/model/panelmodel.h>
 
 #include <controls/thememanager.h>
@@ -70,7 +71,7 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     , m_main(new QWidget(this))
     , m_topBar(new QWidget(m_main))
     , m_traceBar(new TraceBar(model, m_topBar))
-    , m_pages(new QStackedWidget(m_main))
+    , m_pages(new PageStack(m_main))
     , m_diagrams(new Diagrams(model, m_pages))
     , m_markerTable(new MarkerTable(model, m_main))
     , m_sweepBar(new SweepBar(model, m_main))
@@ -107,10 +108,11 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     connect(m_lock, &PanelLock::lockedChanged, this, [this] {
         showLock();
         m_messageBar->notify({}); // of how to unlock
+        m_messageBar->speak(m_lock->isLocked() ? tr("Locked") : tr("Unlocked"));
     });
     connect(m_lockButton, &QToolButton::toggled, m_lock, &PanelLock::setLocked);
     connect(m_lock, &PanelLock::blocked, m_messageBar, [this] {
-        m_messageBar->notify(tr("The panel is locked: tap the padlock to unlock."));
+        m_messageBar->notify(tr("The panel is locked: tap the padlock or press Ctrl + L."));
     });
     setAcceptDrops(true);
 

@@ -33,6 +33,10 @@ Controls::ComboBox *makeChoice(const QString &name, const QStringList &choices, 
     choice->addItems(choices);
     choice->setCurrentIndex(current);
     choice->setMinimumHeight(s_fieldHeight);
+    // Where a label names a box, screen readers do not say what is chosen.
+    choice->setAccessibleDescription(choice->currentText());
+    QObject::connect(choice, &QComboBox::currentTextChanged, choice,
+                     &QWidget::setAccessibleDescription);
     return choice;
 }
 

@@ -4,6 +4,7 @@
 
 #include <panel/files/setups.h>
 #include <panel/ground/dialogstage.h>
+#include <panel/ground/quietview.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -26,7 +27,7 @@ constexpr int s_keyHeight = 48;
 SetupDialog::SetupDialog(Setups *setups, QWidget *parent)
     : DraggableFramelessDialog(parent)
     , m_setups(setups)
-    , m_list(new QListWidget)
+    , m_list(new QuietView<QListWidget>)
     , m_hint(new QLabel(tr("A set-up keeps files, traces, scales, limits and markers.")))
     , m_name(new QLineEdit)
     , m_save(makeKey(tr("Save"), "save"))

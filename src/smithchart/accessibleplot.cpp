@@ -139,21 +139,19 @@ public:
         return owner ? new PlotAccessible(static_cast<QCustomPlot *>(object), owner) : nullptr;
     }
 
-    /// The parts, then the widgets in the plot.
-    int childCount() const override
-    {
-        return QAccessibleWidget::childCount()
-            + (m_owner ? static_cast<int>(parts().all().size()) : 0);
-    }
+    /// The parts, then the widgets in the plot, then what is announced.
+    int childCount() const override { return partCount() + widgetCount() + (line() ? 1 : 0); }
     QAccessibleInterface *child(int index) const override
     {
-        const auto all = m_owner ? parts().all() : QVector<PlotParts::Part>();
-        return index >= 0 && index < all.size()
-            ? parts().object(all.at(index))
-            : QAccessibleWidget::child(index - static_cast<int>(all.size()));
+        if (index >= 0 && index < partCount())
+            return parts().object(parts().all().at(index));
+        return index == partCount() + widgetCount() ? line()
+                                                    : QAccessibleWidget::child(index - partCount());
     }
     int indexOfChild(const QAccessibleInterface *child) const override
     {
+        if (child && child == line())
+            return partCount() + widgetCount();
         const auto all = m_owner ? parts().all() : QVector<PlotParts::Part>();
         const auto found = std::find_if(all.begin(), all.end(), [&](const PlotParts::Part &part) {
             return parts().knownObject(part) == child;
@@ -167,8 +165,6 @@ public:
     {
         if (!m_owner || (kind != QAccessible::Name && kind != QAccessible::Description))
             return QAccessibleWidget::text(kind);
-        if (kind == QAccessible::Name && !m_owner->announcement().isEmpty())
-            return m_owner->announcement();
         QStringList texts;
         for (const PlotDescription *description : parts().descriptions())
             texts << (kind == QAccessible::Name ? description->name() : description->summary());
@@ -177,6 +173,12 @@ public:
 
 private:
     PlotParts &parts() const { return *m_owner->m_parts; }
+    int partCount() const { return m_owner ? static_cast<int>(parts().all().size()) : 0; }
+    int widgetCount() const { return QAccessibleWidget::childCount(); }
+    QAccessibleInterface *line() const
+    {
+        return m_owner && m_owner->m_announcer ? m_owner->m_announcer->line() : nullptr;
+    }
 
     const QPointer<AccessiblePlot> m_owner;
 };
@@ -263,6 +265,7 @@ AccessiblePlot *AccessiblePlot::on(QCustomPlot *plot)
 AccessiblePlot::AccessiblePlot(QCustomPlot *plot)
     : QObject(plot)
     , m_parts(std::make_unique<PlotParts>(plot))
+    , m_announcer(new Controls::Announcer(plot))
 {
     QAccessible::installFactory(&PlotAccessible::make);
     // One that was asked for before would be kept, as that of a plain widget.
@@ -270,15 +273,10 @@ AccessiblePlot::AccessiblePlot(QCustomPlot *plot)
         if (before->role() != QAccessible::Chart)
             QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(before));
     }
-    for (QTimer *const timer : {&m_pause, &m_dataPause}) {
-        timer->setSingleShot(true);
-        timer->setInterval(pause);
-    }
+    m_dataPause.setSingleShot(true);
+    m_dataPause.setInterval(pause);
     connect(&m_dataPause, &QTimer::timeout, this, &AccessiblePlot::resetTables);
-    connect(&m_pause, &QTimer::timeout, this, [this] {
-        if (m_isWaiting)
-            say(m_waiting);
-    });
+    connect(m_announcer, &Controls::Announcer::announced, this, &AccessiblePlot::announced);
 }
 
 AccessiblePlot::~AccessiblePlot() = default;
@@ -296,29 +294,8 @@ void AccessiblePlot::remove(PlotDescription *description)
 
 void AccessiblePlot::announce(const QString &text)
 {
-    m_isWaiting = m_pause.isActive() && !text.isEmpty();
-    m_waiting = text;
-    if (!m_isWaiting)
-        say(text);
-}
-
-QString AccessiblePlot::announcement() const
-{
-    return m_said.isValid() && !m_said.hasExpired(memory) ? m_announcement : QString();
-}
-
-void AccessiblePlot::say(const QString &text)
-{
-    m_said.start();
-    m_isWaiting = false;
-    m_announcement = text;
-    if (!text.isEmpty())
-        m_pause.start();
-    if (QCustomPlot *const plot = m_parts->plot()) {
-        QAccessibleEvent event(plot, QAccessible::NameChanged);
-        QAccessible::updateAccessibility(&event);
-    }
-    Q_EMIT announced(text);
+    if (m_announcer)
+        m_announcer->announce(text);
 }
 
 void AccessiblePlot::tellMarkerMoved(PlotDescription *description,

@@ -4,8 +4,10 @@
 
 #include <vnawidgets_export.h>
 
-#include <QElapsedTimer>
+#include <controls/announcer.h>
+
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QTimer>
 #include <QVector>
@@ -84,9 +86,7 @@ class VNAWIDGETS_EXPORT AccessiblePlot : public QObject
 
 public:
     /// Milliseconds between two announcements.
-    static constexpr int pause = 1000;
-    /// Milliseconds after which a plot goes by its own name again.
-    static constexpr int memory = 10000;
+    static constexpr int pause = Controls::Announcer::pause;
 
     /// The one of this plot, made when it is first asked for; null for a null plot.
     static AccessiblePlot *on(QCustomPlot *plot);
@@ -97,12 +97,8 @@ public:
     /// Reads it no more; to be called before it is destroyed.
     void remove(PlotDescription *description);
 
-    /// Has a text said: at once, or when the pause after the one before is over. The newest of those
-    /// that wait is said, the others never are. Nothing, the empty text, ends the announcement.
+    /// Has a text said, as Controls::Announcer does.
     void announce(const QString &text);
-    /// What was announced last; the plot goes by it in place of its name for a while. Empty from then
-    /// on.
-    QString announcement() const;
 
     /// A marker has moved.
     void tellMarkerMoved(PlotDescription *description, const PlotDescription::MarkerId &id);
@@ -117,14 +113,9 @@ private:
     friend class PlotAccessible;
 
     explicit AccessiblePlot(QCustomPlot *plot);
-    void say(const QString &text);
     void resetTables();
 
     const std::unique_ptr<PlotParts> m_parts;
-    QString m_announcement;
-    QElapsedTimer m_said; ///< since the last announcement
-    QString m_waiting; ///< to be said after the pause
-    bool m_isWaiting = false;
-    QTimer m_pause;
+    QPointer<Controls::Announcer> m_announcer; ///< the plot's
     QTimer m_dataPause; ///< until the tables are read anew
 };

@@ -52,7 +52,8 @@ QAccessible::State ButtonAccessible::state() const
     state.pressed = button()->isDown();
     state.checkable = button()->isCheckable();
     state.checked = button()->isChecked();
-    if (const auto *const popup = button()->findChild<PopupWidget *>()) {
+    const auto *const popup = button()->findChild<PopupWidget *>();
+    if (popup && role() != QAccessible::Button) {
         state.hasPopup = true;
         state.expandable = true;
         state.expanded = popup->isVisible();

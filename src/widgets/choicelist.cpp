@@ -84,3 +84,11 @@ void ChoiceList::focusInEvent(QFocusEvent *event)
     if (noneCurrent)
         setCurrentItem(nullptr);
 }
+
+void ChoiceList::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    if (hasFocus())
+        QListWidget::currentChanged(current, previous);
+    else
+        QAbstractItemView::currentChanged(current, previous);
+}

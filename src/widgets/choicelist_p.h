@@ -18,4 +18,6 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
+    /// Qt's tells screen readers of a new current item as if the list had the focus.
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 };

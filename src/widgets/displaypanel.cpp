@@ -29,7 +29,9 @@ DisplayPanel::DisplayPanel(LayoutManagerProifle *profile, QWidget *parent)
     d->profile = profile;
     d->ui.setupUi(this);
     d->ui.layoutSelectEdit->setIconSize({24, 24});
-    // A combo box goes by what is chosen, unless a label names it.
+    // A combo box goes by what is chosen, unless a label names it; then it has to be told.
+    connect(d->ui.layoutSelectEdit, &QComboBox::currentTextChanged, d->ui.layoutSelectEdit,
+            &QWidget::setAccessibleDescription);
     d->name = new QLabel(this);
     d->name->setBuddy(d->ui.layoutSelectEdit);
     d->name->hide();

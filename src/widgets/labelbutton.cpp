@@ -100,8 +100,13 @@ void LabelButton::setLabelText(const QString &text)
         value->setText(text);
     elidedText();
     updateGeometry();
-    QAccessibleValueChangeEvent change(this, text);
-    QAccessible::updateAccessibility(&change);
+    // A plain button has no value that a tool could ask for.
+    const QAccessibleInterface *const whole =
+        QAccessible::isActive() ? QAccessible::queryAccessibleInterface(this) : nullptr;
+    if (whole && whole->role() == QAccessible::ComboBox) {
+        QAccessibleValueChangeEvent change(this, text);
+        QAccessible::updateAccessibility(&change);
+    }
 }
 
 void LabelButton::setLabelAlignment(Qt::Alignment alignment)

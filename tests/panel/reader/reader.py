@@ -153,14 +153,22 @@ class Panel:
     def press(self, *keys):
         subprocess.run(["xdotool", "key", *keys], check=True)
 
+    def announced(self):
+        """What a screen reader was told last; it says a notification when that shows."""
+        for node in self.walk(self.chart):
+            if node.getRoleName() == "notification":
+                node.clearCache()
+                return node.name
+        return ""
+
     def said_after(self, *keys):
-        """Presses keys, and returns what is announced then: a new name of the chart."""
-        before = self.chart.name
+        """Presses keys, and returns what is announced then, in the status line of the chart."""
+        before = self.announced()
         self.press(*keys)
 
         def changed():
-            self.chart.clearCache()
-            return self.chart.name if self.chart.name != before else None
+            now = self.announced()
+            return now if now != before else None
 
         said = wait_for("the key " + " ".join(keys), changed)
         print("said:", said)
