@@ -160,6 +160,9 @@ int main(int argc, char **argv)
     if (commandLine.scale > 1.0)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(commandLine.scale));
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // or icons would be enlarged
+#endif
     QApplication application(argc, argv);
     if (!QGuiApplication::primaryScreen()) {
         std::fprintf(stderr, "vnapanel: there is no screen (%s).\n",

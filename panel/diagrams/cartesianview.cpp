@@ -6,6 +6,8 @@
 
 #include <panel/ground/look.h>
 
+#include <plot/tracegraph.h>
+
 namespace Panel
 {
 
@@ -119,7 +121,7 @@ void CartesianView::addLine(const Trace &trace)
     line.values = plot()->axisRect()->addAxis(QCPAxis::atLeft);
     line.values->setVisible(false);
     line.values->grid()->setVisible(false);
-    line.graph = plot()->addGraph(plot()->xAxis, line.values);
+    line.graph = new Plot::TraceGraph(plot()->xAxis, line.values);
     line.graph->setSelectable(QCP::stNone);
     // Columns are thinned already, and the plot's own thinning joins what a gap in a column parts.
     line.graph->setAdaptiveSampling(false);
@@ -178,10 +180,10 @@ void CartesianView::showMemory(const Trace &trace)
         plot()->removeGraph(line.memory);
         line.memory = nullptr;
     } else if (stored && !line.memory) {
-        line.memory = plot()->addGraph(plot()->xAxis, line.values);
+        line.memory = new Plot::TraceGraph(plot()->xAxis, line.values);
         line.memory->setSelectable(QCP::stNone);
         line.memory->setAdaptiveSampling(false);
-        line.memory->setPen(currentLook().memoryPen(trace.id, trace.network));
+        showPens();
         line.memory->setVisible(trace.visible);
     }
     fillLine(trace);
@@ -272,9 +274,30 @@ void CartesianView::showActiveTrace()
     for (const auto &[id, line] : m_lines)
         line.graph->setLayer(active && active->id == id ? QLatin1String(s_activeLayer)
                                                         : QStringLiteral("main"));
+    showPens();
     showWrittenScale();
     showOffScale();
     showSelectedMarker();
+}
+
+void CartesianView::showPens()
+{
+    const Look look = currentLook();
+    const Trace *active = activeTrace();
+    const auto apply = [](QCPGraph *graph, QPen pen, double width) {
+        if (pen.style() == Qt::SolidLine)
+            pen.setWidthF(width);
+        graph->setPen(pen);
+    };
+    for (const auto &[id, line] : m_lines) {
+        const Trace *trace = m_model->trace(id);
+        if (!trace)
+            continue;
+        apply(line.graph, look.pen(id, trace->network),
+              active && active->id == id ? Look::activeTraceWidth : Look::traceWidth);
+        if (line.memory)
+            apply(line.memory, look.memoryPen(id, trace->network), Look::traceWidth);
+    }
 }
 
 void CartesianView::placeMarker(const Trace &trace, const Marker &marker)
@@ -313,12 +336,7 @@ void CartesianView::recolor()
         axis->grid()->setPen(QPen(faint));
     }
     m_frequencies.setLook(labels, look.dimText);
-    for (const Trace &trace : traces()) {
-        const Line &line = m_lines.at(trace.id);
-        line.graph->setPen(look.pen(trace.id, trace.network));
-        if (line.memory)
-            line.memory->setPen(look.memoryPen(trace.id, trace.network));
-    }
+    showPens();
     m_limits.recolor();
     showWrittenScale();
     showSelectedMarker();

@@ -76,6 +76,7 @@ private:
     void fillLines();
     bool fitFrequencies();
     bool showFrequencies(const QCPRange &whole);
+    void showPens();
     void showScale(int traceId);
     void showWrittenScale();
     void showOffScale();

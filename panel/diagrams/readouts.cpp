@@ -308,6 +308,11 @@ MarkerStatusItem *ReadOuts::showLine(int index, int row, int first, int columns)
 MarkerStatusItem *ReadOuts::makeItem(int index)
 {
     auto *item = new MarkerStatusItem(widget());
+    // A finger selects no text here, and what can be selected is laid out as a document: a fifth of a
+    // live sweep's frame.
+    const auto labels = item->findChildren<QLabel *>();
+    for (QLabel *label : labels)
+        label->setTextInteractionFlags(Qt::NoTextInteraction);
     connect(item, &MarkerStatusItem::clicked, this, [this, index] {
         // The scroller holds a press back, and the marker may be gone when it comes.
         const int row = m_lines.at(index).marker;

@@ -168,6 +168,7 @@ void SmithView::makeChart()
     m_chart = new SmithChartPlot(plot(), presetOf(m_density), this);
     m_chart->setGridFollowsView(m_density == GridDensity::Automatic);
     m_chart->setMaximumZoom(Zoom::maximum);
+    m_chart->setTraceWidths(Look::traceWidth, Look::activeTraceWidth);
     m_chart->setMarkerDragJumpPx(s_jump);
     // What a finger means is decided by whoever asks hit().
     m_chart->setPressDragsMarkers(false);

@@ -36,6 +36,10 @@ struct Look {
     /// dash pattern of their own. At high contrast so has each trace.
     QPen pen(int id, int file) const;
     QPen memoryPen(int id, int file) const;
+
+    /// Widths of solid lines, in pixels; dashed ones, which painters draw, are as thin as they can be.
+    static constexpr double traceWidth = 1.25;
+    static constexpr double activeTraceWidth = 2.0;
 };
 
 /// Gives the program the panel's font and style sheet, the pictures of the library and the dark theme;

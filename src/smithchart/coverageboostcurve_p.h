@@ -4,15 +4,14 @@
 
 #include <plot/qcp.h>
 
-/*! The curve of a trace: strokes its line twice.
+/*! The curve of a trace: strokes its line twice where that is a device pixel wide.
 
     A thin anti-aliased line spreads over two pixel rows and looks faint; the second stroke gives it
     full coverage. On a light background that is not enough, so there the second one is shifted by a
     quarter of a device pixel.
 
-    On a raster image, both strokes of all segments are gathered in a mask, which then is painted
-    once: noisy traces draw over the same pixels many times. Elsewhere, and with pens that are not
-    plain thin lines, QCPCurve draws. */
+    On a raster image, both strokes of all segments are gathered in a LineMask. Elsewhere, and with
+    pens that are not plain lines, QCPCurve draws. */
 class CoverageBoostCurve : public QCPCurve
 {
     Q_OBJECT
@@ -26,6 +25,7 @@ protected:
 
 private:
     double secondStrokeOffset(const QCPPainter *painter) const;
-    bool isThinLine(const QCPPainter *painter) const;
+    bool isThin(const QCPPainter *painter) const;
+    bool isPlainLine(const QCPPainter *painter) const;
     bool drawByMask(QCPPainter *painter) const;
 };

@@ -134,6 +134,14 @@ public:
                          const QVector<double> *&real, const QVector<double> *&imag) const;
     /// Sets colour and style of a trace and its markers; false for an unknown id.
     bool setCurvePen(int traceId, const QPen &pen);
+    /// The width of the solid lines of traces in pixels of the widget; 0 (the default): one device
+    /// pixel, whatever the screen's scale, which dashed ones always have.
+    double traceWidth() const;
+    /// The same of the active trace. Default: 0.
+    double activeTraceWidth() const;
+    /// Sets traceWidth() and activeTraceWidth(); negative values count as 0, others than finite ones
+    /// are ignored. Lines of up to 8 device pixels take hardly longer than thin ones.
+    void setTraceWidths(double width, double activeWidth);
     /// Shows or hides a trace; the grid is shown exactly while at least one trace is.
     bool setCurveVisible(int traceId, bool visible);
     /// The ids of all traces, in the order they were added.

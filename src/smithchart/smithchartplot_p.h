@@ -79,6 +79,7 @@ public:
     QVector<QCPCurve *> dataCurves() const;
     bool anyCurveVisible() const;
     void moveCurveToLayer(int traceId, const QString &layer);
+    void applyPen(const OwnedCurve &record) const;
     void reportPerformance(OwnedCurve &record, qint64 elapsedNs);
 
     // View
@@ -142,6 +143,8 @@ public:
     double m_maximumZoom = SmithChart::maximumZoom;
     QVector<OwnedCurve> m_curves;
     int m_activeTraceId = -1;
+    double m_traceWidth = 0.0;
+    double m_activeTraceWidth = 0.0;
     std::vector<OwnedMarker> m_ownedMarkers;
     int m_draggingMarkerId = -1;
     bool m_finishingDrag = false;

@@ -21,11 +21,14 @@ namespace
 
 constexpr qint64 reportIntervalMs = 2000;
 
-void applyTracePen(QCPCurve *curve, const QPen &basePen)
+/// \a width counts pixels of the widget; 0: one of the device, which lines with gaps always have:
+/// painters are slow with wide ones.
+void applyTracePen(QCPCurve *curve, const QPen &basePen, double width)
 {
     QPen pen = basePen;
-    pen.setWidth(1);
-    pen.setCosmetic(true);
+    const bool hasWidth = width > 0.0 && basePen.style() == Qt::SolidLine;
+    pen.setWidthF(hasWidth ? width : 1.0);
+    pen.setCosmetic(!hasWidth);
     pen.setCapStyle(Qt::RoundCap);
     pen.setJoinStyle(Qt::RoundJoin);
     curve->setPen(pen);
@@ -41,7 +44,7 @@ bool SmithChartPlot::addCurve(int traceId, const QPen &pen)
     auto *const curve = new CoverageBoostCurve(d->m_xAxis, d->m_yAxis);
     curve->setLayer(SmithLayers::tracers());
     curve->setName(QString::number(traceId));
-    applyTracePen(curve, pen);
+    applyTracePen(curve, pen, d->m_traceWidth);
     curve->setSelectable(QCP::stNone);
     curve->removeFromLegend();
 
@@ -176,10 +179,33 @@ bool SmithChartPlot::setCurvePen(int traceId, const QPen &pen)
     if (!record || !record->curve)
         return false;
     record->basePen = pen;
-    applyTracePen(record->curve, pen);
+    d->applyPen(*record);
     d->recolorMarkers(record->curve);
     d->requestQueuedReplot();
     return true;
+}
+
+double SmithChartPlot::traceWidth() const
+{
+    return d->m_traceWidth;
+}
+
+double SmithChartPlot::activeTraceWidth() const
+{
+    return d->m_activeTraceWidth;
+}
+
+void SmithChartPlot::setTraceWidths(double width, double activeWidth)
+{
+    if (!std::isfinite(width) || !std::isfinite(activeWidth))
+        return;
+    d->m_traceWidth = std::max(width, 0.0);
+    d->m_activeTraceWidth = std::max(activeWidth, 0.0);
+    for (const auto &record : std::as_const(d->m_curves)) {
+        if (record.curve)
+            d->applyPen(record);
+    }
+    d->requestQueuedReplot();
 }
 
 bool SmithChartPlot::setCurveVisible(int traceId, bool visible)
@@ -293,7 +319,14 @@ void SmithChartPlotPrivate::moveCurveToLayer(int traceId, const QString &layer)
     if (!plot() || !record || !record->curve)
         return;
     record->curve->setLayer(layer);
-    applyTracePen(record->curve, record->basePen);
+    applyPen(*record);
+}
+
+void SmithChartPlotPrivate::applyPen(const OwnedCurve &record) const
+{
+    const bool isActive =
+        record.curve->layer() && record.curve->layer()->name() == SmithLayers::activeTracers();
+    applyTracePen(record.curve, record.basePen, isActive ? m_activeTraceWidth : m_traceWidth);
 }
 
 SmithChartPlotPrivate::OwnedCurve *SmithChartPlotPrivate::findTrace(int traceId)

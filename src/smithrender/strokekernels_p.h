@@ -25,7 +25,7 @@ VNA_INLINE void prepareStrokesBody(StrokeBatch &batch)
     constexpr int fractionBits = StrokeBatch::fractionBits;
     constexpr int half = stepsPerPixel / 2;
     constexpr int inStep = stepsPerPixel - 1;
-    constexpr int stepShift = 6;
+    constexpr int stepShift = StrokeBatch::stepShift;
     constexpr float one = 1 << fractionBits;
     // No jumps: noise goes all ways.
     for (int k = 0; k < batch.count; ++k) {

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "strokemask_p.h"
 
+#include "strokewalk_p.h"
 #include "vectorkernels_p.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 namespace SmithRender
 {
@@ -19,11 +21,6 @@ constexpr double rounding = 1e-6;
 
 /// A cell is full where no more shows through than this.
 constexpr std::uint8_t fullEnough = 7;
-
-inline void multiply(std::uint8_t &clear, unsigned passing)
-{
-    clear = static_cast<std::uint8_t>((clear * passing + 128) >> 8);
-}
 
 } // namespace
 
@@ -51,11 +48,15 @@ void StrokeMask::reset(int width, int height, const Bounds &bounds, const Bounds
     m_tiles.assign(static_cast<size_t>(m_tilesAcross) * static_cast<size_t>(m_tilesDown), Tile());
 }
 
-void StrokeMask::setPen(double opacity, int strokes)
+void StrokeMask::setPen(double opacity, int strokes, double width)
 {
+    m_batch.width = static_cast<float>(width);
+    // Along a diagonal a line is higher than it is wide.
+    m_pieceLength = tile - (width > 1.0 ? static_cast<int>(std::ceil(width * 1.5)) : 1);
     for (size_t i = 0; i < m_passing.size(); ++i) {
         const double passes = 1.0 - opacity * static_cast<double>(i) / 255.0;
         m_passing[i] = static_cast<std::uint16_t>(std::lround(256.0 * std::pow(passes, strokes)));
+        m_clearAt[i] = static_cast<std::uint8_t>(std::lround(255.0 * std::pow(passes, strokes)));
     }
     for (size_t i = 0; i < m_passing.size(); ++i)
         m_passingBoth[i] = m_passing[255 - i] | std::uint32_t(m_passing[i]) << 16;
@@ -99,89 +100,104 @@ inline void StrokeMask::touch(int left, int top, int right, int bottom)
         findFullCells(static_cast<int>(&corner - m_tiles.data()));
 }
 
-/// Goes along a segment of a batch, column by column.
-class StrokeMask::Walk
+/// Makes wide segments longer where their blunt ends would leave a notch: at the ends of a line, where
+/// it turns back and where it goes on along the other axis.
+void StrokeMask::joinSegments()
 {
-public:
-    // Copies of what the mask has, because a byte that is written might be any member.
-    Walk(const StrokeMask &mask, const StrokeBatch &batch, std::size_t i, std::uint8_t *clear)
-        : m_passing(mask.m_passing.data())
-        , m_passingBoth(mask.m_passingBoth.data())
-        , m_along(batch.isSteep[i] ? mask.m_stride : 1)
-        , m_across(batch.isSteep[i] ? 1 : mask.m_stride)
-        , m_perColumn(batch.perColumn[i])
-        , m_column(batch.first[i])
-        , m_at(batch.across[i])
-        , m_pixel(clear + m_column * m_along)
-    {
+    StrokeBatch &b = m_batch;
+    const auto halfWidth = static_cast<int>(b.width * half);
+    const auto isSteep = [&b](std::size_t i) {
+        return std::abs(b.toX[i] - b.fromX[i]) < std::abs(b.toY[i] - b.fromY[i]);
+    };
+    for (int k = 0; k < b.count; ++k) {
+        const auto i = static_cast<std::size_t>(k);
+        b.startCap[i] = b.startCap[i] != 0 ? halfWidth : 0;
+        b.endCap[i] = b.endCap[i] != 0 ? halfWidth : 0;
+        if (i == 0 || b.fromX[i] != b.toX[i - 1] || b.fromY[i] != b.toY[i - 1])
+            continue;
+        const auto along = [](int from1, int to1, int from2, int to2) {
+            return double(to1 - from1) * double(to2 - from2);
+        };
+        const bool turnsBack = along(b.fromX[i - 1], b.toX[i - 1], b.fromX[i], b.toX[i])
+                + along(b.fromY[i - 1], b.toY[i - 1], b.fromY[i], b.toY[i])
+            < 0.0;
+        if (turnsBack || isSteep(i - 1) != isSteep(i))
+            b.endCap[i - 1] = b.startCap[i] = halfWidth;
     }
+}
 
-    int column() const { return m_column; }
-
-    /// The first of the two pixels that share the line in another column.
-    int pixelIn(int column) const
-    {
-        return (m_at + m_perColumn * (column - m_column)) >> StrokeBatch::fractionBits;
-    }
-
-    void skipTo(int column)
-    {
-        m_pixel += m_along * (column - m_column);
-        m_at += m_perColumn * (column - m_column);
-        m_column = column;
-    }
-
-    /// Draws so many steps of a column.
-    void drawPart(int steps) const
-    {
-        const unsigned share = shareOfSecond();
-        const auto length = static_cast<unsigned>(steps);
-        std::uint8_t *const near = pixelOfLine();
-        multiply(near[0], m_passing[(255 - share) * length / stepsPerPixel]);
-        multiply(near[m_across], m_passing[share * length / stepsPerPixel]);
-    }
-
-    void drawTo(int end)
-    {
-        for (; m_column < end; ++m_column, m_pixel += m_along, m_at += m_perColumn) {
-            std::uint8_t *const near = pixelOfLine();
-            const std::uint32_t both = m_passingBoth[shareOfSecond()];
-            multiply(near[0], both & 0xffff);
-            multiply(near[m_across], both >> 16);
+/// As VectorKernels::prepareStrokes for lines wider than a pixel.
+void StrokeMask::prepareWideStrokes()
+{
+    joinSegments();
+    StrokeBatch &b = m_batch;
+    constexpr float one = 1 << StrokeBatch::fractionBits;
+    for (int k = 0; k < b.count; ++k) {
+        const auto i = static_cast<std::size_t>(k);
+        int u1 = b.fromX[i], v1 = b.fromY[i], u2 = b.toX[i], v2 = b.toY[i];
+        int startCap = b.startCap[i], endCap = b.endCap[i];
+        const bool isSteep = std::abs(u2 - u1) < std::abs(v2 - v1);
+        if (isSteep) {
+            std::swap(u1, v1);
+            std::swap(u2, v2);
         }
+        if (u2 < u1) {
+            std::swap(u1, u2);
+            std::swap(v1, v2);
+            std::swap(startCap, endCap);
+        }
+        const float slope =
+            u1 == u2 ? 0.0F : static_cast<float>(v2 - v1) / static_cast<float>(u2 - u1);
+        // The columns whose middles the segment comes to.
+        const auto firstFrom = [](int u) { return (u + half - 1) >> stepShift; };
+        const int first = firstFrom(u1 - startCap);
+        const int last = firstFrom(u2 + endCap) - 1;
+        const int covered = static_cast<int>(one * b.width * std::sqrt(1.0F + slope * slope));
+        const int toMiddle = first * stepsPerPixel + half - u1;
+        const int v = v1 * (1 << StrokeBatch::fractionBits >> stepShift)
+            + static_cast<int>(slope * static_cast<float>(toMiddle) * (one / stepsPerPixel))
+            - covered / 2;
+        const int step = static_cast<int>(slope * one);
+        const int vAtLast = v + step * (last - first);
+        const int low = std::min(v, vAtLast) >> StrokeBatch::fractionBits;
+        const int high = (std::max(v, vAtLast) + covered) >> StrokeBatch::fractionBits;
+        b.isSteep[i] = isSteep ? -1 : 0;
+        b.first[i] = first;
+        b.last[i] = last;
+        b.inFirst[i] = b.inLast[i] = stepsPerPixel;
+        b.across[i] = v;
+        b.perColumn[i] = step;
+        b.covered[i] = covered;
+        b.left[i] = isSteep ? low : first;
+        b.right[i] = isSteep ? high : last;
+        b.top[i] = isSteep ? first : low;
+        b.bottom[i] = isSteep ? last : high;
     }
-
-private:
-    unsigned shareOfSecond() const
-    {
-        return (static_cast<unsigned>(m_at) >> (StrokeBatch::fractionBits - 8)) & 255;
-    }
-    std::uint8_t *pixelOfLine() const
-    {
-        return m_pixel + (m_at >> StrokeBatch::fractionBits) * m_across;
-    }
-
-    const std::uint16_t *m_passing;
-    const std::uint32_t *m_passingBoth;
-    std::ptrdiff_t m_along;
-    std::ptrdiff_t m_across;
-    int m_perColumn;
-    int m_column;
-    int m_at;
-    std::uint8_t *m_pixel;
-};
+}
 
 void StrokeMask::drawBatch()
 {
-    vectorKernels().prepareStrokes(m_batch);
+    if (m_batch.width > 1.0F) {
+        prepareWideStrokes();
+        drawBatchBy<WideWalk>();
+    } else {
+        vectorKernels().prepareStrokes(m_batch);
+        drawBatchBy<Walk>();
+    }
+    m_batch.count = 0;
+}
+
+template<typename W>
+void StrokeMask::drawBatchBy()
+{
     const StrokeBatch &b = m_batch;
     std::uint8_t *const clear = m_clear.data();
     for (int k = 0; k < b.count; ++k) {
         const auto i = static_cast<std::size_t>(k);
         if (b.last[i] < b.first[i] || isFull(b.left[i], b.top[i], b.right[i], b.bottom[i]))
             continue;
-        Walk walk(*this, b, i, clear);
-        if (b.last[i] - b.first[i] >= pieceLength) {
+        W walk(*this, b, i, clear);
+        if (b.last[i] - b.first[i] >= m_pieceLength) {
             drawInPieces(i, walk);
             continue;
         }
@@ -192,11 +208,11 @@ void StrokeMask::drawBatch()
         if (b.last[i] > b.first[i])
             walk.drawPart(b.inLast[i]);
     }
-    m_batch.count = 0;
 }
 
 /// Draws a segment that may come to many tiles.
-void StrokeMask::drawInPieces(std::size_t segment, Walk walk)
+template<typename W>
+void StrokeMask::drawInPieces(std::size_t segment, W walk)
 {
     const bool isSteep = m_batch.isSteep[segment];
     const int first = m_batch.first[segment];
@@ -205,7 +221,7 @@ void StrokeMask::drawInPieces(std::size_t segment, Walk walk)
     const auto comesTo = [&](int to) {
         const int from = walk.column();
         const int low = std::min(walk.pixelIn(from), walk.pixelIn(to));
-        const int high = std::max(walk.pixelIn(from), walk.pixelIn(to)) + 1;
+        const int high = std::max(walk.lastPixelIn(from), walk.lastPixelIn(to));
         const int left = isSteep ? low : from;
         const int top = isSteep ? from : low;
         const int right = isSteep ? high : to;
@@ -219,7 +235,7 @@ void StrokeMask::drawInPieces(std::size_t segment, Walk walk)
         walk.drawPart(m_batch.inFirst[segment]);
     walk.skipTo(first + 1);
     while (walk.column() < last) {
-        const int end = std::min(last, walk.column() + pieceLength);
+        const int end = std::min(last, walk.column() + m_pieceLength);
         if (comesTo(end - 1))
             walk.drawTo(end);
         else

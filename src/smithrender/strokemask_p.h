@@ -18,8 +18,8 @@ namespace SmithRender
     of every segment multiplies it by what that stroke lets through. The outcome is that of blending
     all of them onto a picture one after the other, which then has to be done only once.
 
-    Lines are a pixel wide and antialiased: in each column (of flat lines; row, of steep ones) the
-    two pixels next to the line share it. Coordinates are pixels from the top-left corner. */
+    Lines are antialiased by what they cover of each column (of flat lines; row, of steep ones).
+    Of those wider than a pixel, strokes do not add up where a line crosses itself. Coordinates are pixels from the top-left corner. */
 class StrokeMask
 {
 public:
@@ -39,8 +39,12 @@ public:
     /// Makes the mask as large as that; it must be empty. Lines are cut at \a bounds, up to a few
     /// pixels outside, and capped there. Segments beyond one side of \a seen are left out.
     void reset(int width, int height, const Bounds &bounds, const Bounds &seen);
-    /// How opaque lines are, 0 to 1, and how many strokes each is drawn with.
-    void setPen(double opacity, int strokes);
+    /// The largest width of a line.
+    static constexpr double widest = 8.0;
+
+    /// How opaque lines are, 0 to 1, with how many strokes each is drawn, and how wide it is: 1 to
+    /// widest.
+    void setPen(double opacity, int strokes, double width = 1.0);
 
     struct Point {
         double x;
@@ -63,7 +67,6 @@ private:
     /// Side of the squares that are known to be touched or not.
     static constexpr int tileShift = 5;
     static constexpr int tile = 1 << tileShift;
-    static constexpr int pieceLength = tile - 1;
     /// Side of the squares that are known to be full or not: no stroke changes full ones any more.
     static constexpr int cellShift = 2;
     static constexpr int cell = 1 << cellShift;
@@ -71,9 +74,11 @@ private:
     static constexpr int border = 1 << tileShift;
 
     static constexpr int stepsPerPixel = StrokeBatch::stepsPerPixel;
+    static constexpr int stepShift = StrokeBatch::stepShift;
     static constexpr int half = stepsPerPixel / 2;
 
     class Walk;
+    class WideWalk;
 
     struct Segment {
         Point from;
@@ -111,12 +116,18 @@ private:
             drawBatch();
     }
     void drawBatch();
-    void drawInPieces(std::size_t segment, Walk walk);
+    void joinSegments();
+    void prepareWideStrokes();
+    template<typename W>
+    void drawBatchBy();
+    template<typename W>
+    void drawInPieces(std::size_t segment, W walk);
     void touch(int left, int top, int right, int bottom);
     void findFullCells(int tileIndex);
     bool isFull(int left, int top, int right, int bottom) const;
 
     StrokeBatch m_batch;
+    int m_pieceLength = tile - 1; ///< so that a piece comes to two tiles each way at most
     Bounds m_bounds;
     Bounds m_seen;
     int m_width = 0;
@@ -130,6 +141,7 @@ private:
     int m_cellStride = 0; ///< bytes of a row of them; it ends in padding
     bool m_hasFullCells = false;
     std::array<std::uint16_t, 256> m_passing{}; ///< of 256, by coverage
+    std::array<std::uint8_t, 256> m_clearAt{}; ///< what a wide line leaves clear, by coverage
     /// For both pixels of a column, by the coverage of the second one.
     std::array<std::uint32_t, 256> m_passingBoth{};
 };

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/thememanager.h>
+#include <plot/tracegraph.h>
 #include <smithchart/smithchartplot.h>
 
 #include <tracesamples.h>
@@ -62,6 +63,7 @@ protected:
 struct Difference {
     double mean = 0.0; ///< over all colours of all pixels
     int largest = 0;
+    double strong = 0.0; ///< the share of values that differ by more than 96
 };
 
 Difference differenceOf(const QImage &a, const QImage &b)
@@ -73,9 +75,11 @@ Difference differenceOf(const QImage &a, const QImage &b)
             const int here = std::abs(a.constScanLine(y)[i] - b.constScanLine(y)[i]);
             difference.largest = std::max(difference.largest, here);
             sum += here;
+            difference.strong += here > 96 ? 1.0 : 0.0;
         }
     }
     difference.mean = sum / (3.0 * a.width() * a.height());
+    difference.strong /= 3.0 * a.width() * a.height();
     return difference;
 }
 
@@ -155,6 +159,94 @@ private Q_SLOTS:
                                     .arg(difference.mean)
                                     .arg(difference.largest)));
         }
+    }
+
+    void wideTracesLookLikeAPaintersLine_data()
+    {
+        QTest::addColumn<double>("width");
+        QTest::addColumn<int>("ratio");
+        for (const double width : {1.25, 2.0, 3.0}) {
+            for (const int ratio : {1, 2})
+                QTest::addRow("%g pixels at %d", width, ratio) << width << ratio;
+        }
+    }
+    /// On the chart and in a graph; where a line bends sharply, masks leave out what a join adds.
+    void wideTracesLookLikeAPaintersLine()
+    {
+        QFETCH(double, width);
+        QFETCH(int, ratio);
+        QVector<double> frequencies, real, imag;
+        for (int i = 0; i < 400; ++i) {
+            frequencies << i;
+            real << (0.2 + i / 500.0) * std::cos(i / 20.0);
+            imag << (0.2 + i / 500.0) * std::sin(i / 20.0);
+        }
+        QCustomPlot plot;
+        plot.setBackground(QBrush());
+        plot.axisRect()->setBackground(QBrush());
+        plot.resize(300, 300);
+        SmithChartPlot chart(&plot, SmithChart::Standard);
+        chart.addCurve(1, QPen(Qt::red));
+        chart.setTraceWidths(width, 0.0);
+        chart.setCurveData(1, frequencies, real, imag);
+        plot.replot();
+        auto *const graph = new Plot::TraceGraph(plot.xAxis, plot.yAxis);
+        auto *const wanted = new QCPGraph(plot.xAxis, plot.yAxis);
+        for (QCPGraph *const line : {static_cast<QCPGraph *>(graph), wanted}) {
+            line->setVisible(false);
+            line->setPen(QPen(Qt::green, width));
+            for (int i = 0; i < 300; ++i) // beyond the view at both sides, with a gap
+                line->addData(-1.5 + i / 100.0,
+                              i == 120 ? notANumber : 0.8 * std::sin(i / 20.0) * i / 200.0);
+        }
+        QCPCurve *const curve = chart.getCurve(1);
+        auto *const spiral = new QCPCurve(plot.xAxis, plot.yAxis);
+        spiral->setData(curve->data());
+        spiral->setPen(QPen(Qt::red, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        spiral->setVisible(false);
+        const auto compare = [&](QCPAbstractPlottable *ours, QCPAbstractPlottable *theirs) {
+            ours->setVisible(false);
+            const QImage without = pictureOf(plot, ratio, false);
+            theirs->setVisible(true);
+            const QImage expected = pictureOf(plot, ratio, false);
+            theirs->setVisible(false);
+            ours->setVisible(true);
+            const QImage picture = pictureOf(plot, ratio, false);
+            ours->setVisible(false);
+            QVERIFY(differenceOf(without, expected).mean > 0.3);
+            const Difference difference = differenceOf(picture, expected);
+            // Painters round the ends.
+            QVERIFY2(difference.mean < 0.2 && difference.strong < 3e-4,
+                     qPrintable(QStringLiteral("mean %1, strong %2")
+                                    .arg(difference.mean)
+                                    .arg(difference.strong)));
+        };
+        compare(curve, spiral);
+        compare(graph, wanted);
+    }
+
+    /// Noise goes all ways at once; what is drawn stays within the mask.
+    void wideNoiseIsDrawn()
+    {
+        QVector<double> frequencies(20000), real(20000), imag(20000);
+        Random random(7);
+        for (int i = 0; i < frequencies.size(); ++i) {
+            frequencies[i] = i;
+            real[i] = uniform(random, -1.5, 1.5);
+            imag[i] = uniform(random, -1.5, 1.5);
+        }
+        QCustomPlot plot;
+        plot.resize(300, 300);
+        SmithChartPlot chart(&plot, SmithChart::Standard);
+        chart.addCurve(1, QPen(Qt::red));
+        chart.setTraceWidths(8.0, 8.0);
+        QCOMPARE(chart.traceWidth(), 8.0);
+        chart.setCurveData(1, frequencies, real, imag);
+        plot.replot();
+        const QImage picture = plot.toPixmap(300, 300).toImage();
+        QCOMPARE(picture.pixelColor(150, 150), QColor(Qt::red));
+        chart.setTraceWidths(-1.0, qQNaN());
+        QCOMPARE(chart.activeTraceWidth(), 8.0);
     }
 };
 
