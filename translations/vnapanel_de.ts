@@ -669,6 +669,14 @@
         <source>centre %1</source>
         <translation>Mitte %1</translation>
     </message>
+    <message>
+        <source>%1: its edges are not in the data</source>
+        <translation>%1: die Kanten liegen nicht in den Daten</translation>
+    </message>
+    <message>
+        <source>marker %1</source>
+        <translation>Marker %1</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MarkerRows</name>

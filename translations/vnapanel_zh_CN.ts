@@ -663,6 +663,14 @@
         <source>centre %1</source>
         <translation>中心 %1</translation>
     </message>
+    <message>
+        <source>%1: its edges are not in the data</source>
+        <translation>%1：边沿不在数据内</translation>
+    </message>
+    <message>
+        <source>marker %1</source>
+        <translation>标记 %1</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MarkerRows</name>

@@ -77,9 +77,12 @@ double degrees(double angle)
     return angle * 180.0 / std::acos(-1.0);
 }
 
+/// With the name of what has no unit.
 void addAs(MarkerReading &reading, double value, TraceFormat format)
 {
-    reading.add(value, cartesianText(value, format));
+    const QString text = cartesianText(value, format);
+    const bool isNamed = format == TraceFormat::Vswr && std::isfinite(value);
+    reading.add(value, isNamed ? formatName(format) + QLatin1Char(' ') + text : text);
 }
 
 /// An angle of any size, as from -180 to 180 degrees.
@@ -255,11 +258,13 @@ QString bandwidthText(const PanelModel &model)
         bandwidthAt(model.traceData(*model.trace(selected->trace)), model.indexOf(*selected), step);
     const QString name = Text::tr("Bandwidth %1 dB").arg(step);
     if (!band)
-        return name + QLatin1Char(' ') + nothingText();
-    return QStringList{name + QLatin1Char(' ') + frequencyText(band->width()),
-                       Text::tr("centre %1").arg(frequencyText(band->centre())),
-                       QStringLiteral("Q %1").arg(band->quality(), 0, 'g', 4),
-                       cartesianText(band->decibels, TraceFormat::LogMagnitude)}
+        return Text::tr("%1: its edges are not in the data").arg(name);
+    const double span = model.shownRange(*model.trace(selected->trace)).span();
+    return QStringList{
+        name + QLatin1Char(' ') + textWithin(band->width(), span),
+        Text::tr("centre %1").arg(textWithin(band->centre(), span)),
+        QStringLiteral("Q %1").arg(band->quality(), 0, 'g', 4),
+        Text::tr("marker %1").arg(cartesianText(band->decibels, TraceFormat::LogMagnitude))}
         .join(QStringLiteral(" \u00b7 "));
 }
 

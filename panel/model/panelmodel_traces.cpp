@@ -123,9 +123,13 @@ void PanelModel::setActiveTrace(int id)
 {
     if (!m_traces.setActive(id))
         return;
+    // The marker of the same number, or else a first one: keys that are about a marker have one then.
     const Marker *selected = selectedMarker();
-    const bool reselected = selected && selected->trace != id
-        && m_markers.select(id, markersCoupled() ? selected->number : 0);
+    const QVector<Marker> own = markersOf(id);
+    const int number = selected && markersCoupled() ? selected->number
+        : own.isEmpty()                             ? 0
+                                                    : own.first().number;
+    const bool reselected = selected && selected->trace != id && m_markers.select(id, number);
     Q_EMIT activeTraceChanged();
     if (reselected)
         Q_EMIT selectedMarkerChanged();

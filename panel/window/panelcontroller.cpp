@@ -349,6 +349,7 @@ void PanelController::showInstruments()
 
 void PanelController::takeScreenshot()
 {
+    m_window->messageBar()->notify({}); // of what was saved before
     tell(exportScreenshot(m_window, folderForExports(*m_model->preferences())));
 }
 

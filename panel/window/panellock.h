@@ -19,7 +19,8 @@ class PanelLock : public QObject
     Q_OBJECT
 
 public:
-    PanelLock(LockWidget *padlock, QWidget *window);
+    /// \a key locks, and unlocks as the padlock does.
+    PanelLock(LockWidget *padlock, QWidget *key, QWidget *window);
 
     bool isLocked() const;
     void setLocked(bool locked);
@@ -33,9 +34,11 @@ Q_SIGNALS:
 
 private:
     void releaseKeys();
+    bool isTapOnKey(const QEvent *event) const;
     bool isBlocked(QEvent *event) const;
 
     QPointer<LockWidget> m_padlock;
+    QWidget *m_key;
     QWidget *m_window;
 };
 

@@ -41,6 +41,9 @@ namespace Panel
 namespace
 {
 
+/// In pixels, less what a window manager adds to the smallest screen, of 800 x 480.
+constexpr QSize s_smallest(640, 400);
+
 /// The panel's sign: a small Smith chart.
 QPixmap mark(int size, const QColor &color, double ratio)
 {
@@ -82,6 +85,8 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     setWindowTitle(tr("Vector network analyser"));
     // Parents from the start: a widget that moves to one later is styled anew with all it holds.
     setCentralWidget(m_main);
+    // Its layout wants more with every diagram and table: where there is no room, diagrams give way.
+    m_main->setMinimumSize(s_smallest);
 
     auto *diagramColumn = new QVBoxLayout;
     diagramColumn->setSpacing(0);
@@ -104,7 +109,7 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     column->addLayout(middle, 1);
     m_messageBar = new MessageBar(m_pages);
     // Over the diagrams.
-    m_lock = new PanelLock(new LockWidget(m_main, m_pages), this);
+    m_lock = new PanelLock(new LockWidget(m_main, m_pages), m_lockButton, this);
     connect(m_lock, &PanelLock::lockedChanged, this, [this] {
         showLock();
         m_messageBar->notify({}); // of how to unlock

@@ -358,8 +358,13 @@ private Q_SLOTS:
             QVERIFY(!colors.contains(pen.color()));
             colors << pen.color();
             QCOMPARE(pen.style() == Qt::SolidLine, trace.network == 0);
-            if (const QCPGraph *graph = desk.view()->graph(trace.id))
-                QCOMPARE(graph->pen(), pen);
+            const QCPGraph *graph = desk.view()->graph(trace.id);
+            if (!graph)
+                continue;
+            QCOMPARE(graph->pen().color(), pen.color());
+            QCOMPARE(graph->pen().dashPattern(), pen.dashPattern());
+            // Dashes are left to painters, which are slow with wide ones.
+            QCOMPARE(graph->pen().widthF() > 1.0, pen.style() == Qt::SolidLine);
         }
     }
 

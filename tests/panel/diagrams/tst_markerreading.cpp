@@ -49,7 +49,7 @@ private Q_SLOTS:
         row("short as admittance", QPointF(-1, 0), y, "\u221e S|\u2013|");
         row("polar", QPointF(0, 0.5), int(ReadoutFormat::MagnitudePhase), "0.5000|90.0\u00b0");
         row("decibels", QPointF(-0.1, 0), db, "\u221220.00 dB|180.0\u00b0");
-        row("standing wave", QPointF(0, -0.5), vswr, "3.00");
+        row("standing wave", QPointF(0, -0.5), vswr, "VSWR 3.00");
         row("no standing wave", QPointF(1, 0), vswr, "\u2013");
         row("nothing", QPointF(qQNaN(), 0), z, "\u2013|\u2013|");
         row("no level", QPointF(qQNaN(), 0), db, "\u2013|\u2013");

@@ -62,6 +62,11 @@ private Q_SLOTS:
         QVERIFY(!desk.window.lock()->isLocked() && !desk.window.lockButton()->isChecked());
         desk.press(Qt::Key_Delete);
         QCOMPARE(told, (QStringList{"removed 1 1"_s, "selected"_s}));
+        // So does the key that locks.
+        mouseClick(desk.window.lockButton());
+        QVERIFY(desk.window.lock()->isLocked());
+        mouseClick(desk.window.lockButton());
+        QVERIFY(!desk.window.lock()->isLocked() && !desk.window.lockButton()->isChecked());
     }
 
     /// A key that a finger holds while the panel locks is not pressed by its release.
