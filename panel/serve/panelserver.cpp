@@ -18,7 +18,12 @@ PanelServer::PanelServer(PanelModel *model, const std::function<QByteArray()> &s
     connect(&m_server, &QTcpServer::newConnection, this, &PanelServer::accept);
 }
 
-PanelServer::~PanelServer() = default;
+/// Connections that are open tell of their end when the server closes them, after those here are gone.
+PanelServer::~PanelServer()
+{
+    for (const auto &connection : m_connections)
+        connection.first->disconnect(this);
+}
 
 bool PanelServer::listen(const QHostAddress &address, int port)
 {

@@ -152,6 +152,21 @@ private Q_SLOTS:
         clients.front()->abort(); // gone before the answer
     }
 
+    void endsBeforeItsClients()
+    {
+        QTcpSocket client;
+        {
+            PanelDesk desk;
+            QString error;
+            const QString place = desk.controller.serve("0"_s, error);
+            client.connectToHost("127.0.0.1"_s,
+                                 quint16(place.section(QLatin1Char(':'), 1).toInt()));
+            client.write("*IDN?\n");
+            QTRY_VERIFY(client.canReadLine());
+        }
+        QTRY_COMPARE(client.state(), QAbstractSocket::UnconnectedState);
+    }
+
     /// Two programs that laboratories use.
     void answersOthersClients()
     {
