@@ -7,6 +7,7 @@
 #include <platform/placement.h>
 
 #include <QAbstractSlider>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,9 +15,34 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
+#include <QWindow>
 
 namespace Controls
 {
+
+namespace
+{
+
+bool isOnPlatform(const char *name)
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String(name));
+}
+
+/// On Wayland a window does not know where it is and cannot place itself: the system moves it.
+bool startSystemMove(const QWidget *dialog)
+{
+    return dialog->isWindow() && dialog->windowHandle() && isOnPlatform("wayland")
+        && dialog->windowHandle()->startSystemMove();
+}
+
+/// Where a press says that a dialog is. Under some window managers of X11 the position of a window
+/// without a frame is that within a parent that the manager has given it.
+QPoint positionByPress(const QWidget *dialog, const QPoint &inDialog, const QPoint &global)
+{
+    return dialog->isWindow() && isOnPlatform("xcb") ? global - inDialog : dialog->pos();
+}
+
+} // namespace
 
 class DraggableDialogTitleBarPrivate
 {
@@ -323,7 +349,12 @@ bool DraggableFramelessDialog::filterTitleBar(QEvent *event)
     }
     case QEvent::TouchBegin:
         return resolved && !Utils::isSecondFinger(event)
-            && startDrag(event, d->titleBar->mapFromGlobal(global), global);
+            && startDrag(
+                   event,
+                   isOnPlatform("xcb")
+                       ? QtCompat::firstTouchPosition(static_cast<QTouchEvent *>(event)).toPoint()
+                       : d->titleBar->mapFromGlobal(global),
+                   global);
     case QEvent::MouseMove:
     case QEvent::TouchUpdate:
         if (!d->dragging)
@@ -351,10 +382,12 @@ bool DraggableFramelessDialog::startDrag(QEvent *event, const QPoint &localPos,
 {
     if (!shouldStartDrag(d->titleBar, localPos))
         return false;
-    d->pressGlobalPos = globalPos;
-    d->dialogStartPos = pos();
-    d->dragging = true;
     event->accept();
+    if (startSystemMove(this))
+        return true; // and no release comes
+    d->pressGlobalPos = globalPos;
+    d->dialogStartPos = positionByPress(this, d->titleBar->mapTo(this, localPos), globalPos);
+    d->dragging = true;
     return true;
 }
 

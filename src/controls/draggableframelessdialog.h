@@ -81,8 +81,9 @@ private:
 /*! A dialog without a system frame for the touch screen, dragged by its own title bar.
 
     It centres itself over its parent when shown and stays inside the parent while dragged and when
-    the parent shrinks; without a parent it stays on its screen. The dialog's own layout must leave
-    the height of the title bar free at the top. Not for dialogs that the window manager should
+    the parent shrinks; without a parent it stays on its screen. On Wayland, where windows cannot
+    place themselves, the compositor moves it instead. The dialog's own layout must leave the height
+    of the title bar free at the top. Not for dialogs that the window manager should
     frame.
 
     \code
@@ -115,7 +116,7 @@ public:
     /// Moves to \a delta pixels from where the drag began, as far as the parent (or the screen)
     /// allows.
     void doMoveByDelta(const QPoint &delta);
-    /// Always false: the dialog moves itself, on every platform alike.
+    /// Always false: the dialog moves itself wherever a window can.
     bool startSystemMoveIfSupported() const;
     /// Whether a press at \a localPos of \a bar drags: not on buttons, sliders, entries or what
     /// takes focus.
