@@ -118,9 +118,12 @@ void waitForSweep(Panel::PanelController *controller)
     swept.exec();
 }
 
-/// Makes the window no larger than its screen, once its frame is known.
+/// Makes the window no larger than its screen, once its frame is known. A shell that gives it the
+/// whole screen knows better, and takes the frame away only later.
 void fitToScreen(QWidget *window)
 {
+    if (window->windowState() != Qt::WindowNoState)
+        return;
     const QRect available = window->screen()->availableGeometry();
     const QSize frame = window->frameGeometry().size() - window->size();
     window->resize(window->size().boundedTo(available.size() - frame));
@@ -163,6 +166,9 @@ int main(int argc, char **argv)
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // or icons would be enlarged
 #endif
+    // Without a desktop's theme, as over VNC and on Wayland, Qt takes a style that draws inert texts
+    // twice. The option -style comes before this.
+    QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication application(argc, argv);
     if (!QGuiApplication::primaryScreen()) {
         std::fprintf(stderr, "vnapanel: there is no screen (%s).\n",
