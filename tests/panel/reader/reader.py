@@ -19,8 +19,8 @@ import sys
 import tempfile
 import time
 
-LAUNCHERS = ["/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher"]
-SKIPPED = 77
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "desktop"))
+from display import LAUNCHERS, SKIPPED, Tree, running, wait_for, x_server
 
 
 # What the file says
@@ -82,19 +82,6 @@ def band_around(points, hertz, magnitude):
 # What the panel says
 
 
-def wait_for(what, probe, seconds=30.0):
-    end = time.monotonic() + seconds
-    while time.monotonic() < end:
-        try:
-            result = probe()
-        except Exception:  # the tree changes while it is read
-            result = None
-        if result:
-            return result
-        time.sleep(0.05)
-    sys.exit("FAILED: nothing came of " + what)
-
-
 def number(text):
     return float(text.replace("\u2212", "-").replace(" ", ""))
 
@@ -110,41 +97,17 @@ def close_to(what, value, expected, tolerance):
         sys.exit(f"FAILED: {what} is off by {abs(value - expected):.3g}")
 
 
-class Panel:
+class Panel(Tree):
     def __init__(self, pyatspi, program, path, home):
-        self.atspi = pyatspi
-        self.process = subprocess.Popen([program, "--lang", "en", "--state", home + "/state.ini", path])
-        self.window = wait_for("the panel", self.find_window)
+        process = subprocess.Popen([program, "--lang", "en", "--state", home + "/state.ini", path])
+        super().__init__(pyatspi, process)
         self.chart = wait_for("the chart", lambda: self.find("chart", "Smith chart"))
-
-    def find_window(self):
-        if self.process.poll() is not None:
-            sys.exit(f"FAILED: the panel ended with {self.process.returncode}")
-        for application in self.atspi.Registry.getDesktop(0):
-            if application and application.name == "vnapanel" and application.childCount:
-                return application.getChildAtIndex(0)
-        return None
-
-    def walk(self, node, depth=0):
-        yield node
-        if depth > 14 or node.getRoleName() == "table":
-            return
-        for i in range(node.childCount):
-            child = node.getChildAtIndex(i)
-            if child is not None:
-                yield from self.walk(child, depth + 1)
-
-    def find(self, role, name):
-        for node in self.walk(self.window.getApplication()):
-            if node.getRoleName() == role and node.name.startswith(name):
-                return node
-        return None
 
     def find_key(self, name):
         """A soft key, whose page is turned to."""
         for _ in range(12):
             key = self.find("push button", name) or self.find("combo box", name)
-            if key and key.getState().contains(self.atspi.STATE_SHOWING):
+            if key and self.shows(key):
                 return key
             self.press("ctrl+Next")
             time.sleep(0.3)
@@ -241,19 +204,14 @@ def inside(program, path):
     """Within a session bus and a display of its own."""
     import pyatspi
 
-    launcher = subprocess.Popen([next(filter(os.path.exists, LAUNCHERS)), "--launch-immediately"])
-    manager = subprocess.Popen(["openbox"])
     points, resistance = read_touchstone(path)
-    panel = None
-    try:
+    launcher = [next(filter(os.path.exists, LAUNCHERS)), "--launch-immediately"]
+    with running(launcher), running(["openbox"]):
         panel = Panel(pyatspi, program, path, os.environ["HOME"])
-        use(panel, points, resistance, os.environ["HOME"])
-    finally:
-        if panel:
+        try:
+            use(panel, points, resistance, os.environ["HOME"])
+        finally:
             panel.quit()
-        for process in (manager, launcher):
-            process.terminate()
-            process.wait(10)
 
 
 def main():
@@ -271,24 +229,13 @@ def main():
     if missing:
         print("skipped, for lack of", ", ".join(missing))
         sys.exit(SKIPPED)
-    with tempfile.TemporaryDirectory() as home:
+    with tempfile.TemporaryDirectory() as home, x_server(1280, 800) as display:
         os.chmod(home, 0o700)
-        reading, writing = os.pipe()
-        # Without -noreset the server breaks new connections when the bus, its first client, leaves it.
-        server = subprocess.Popen(["Xvfb", "-noreset", "-displayfd", str(writing),
-                                   "-screen", "0", "1280x800x24"],
-                                  pass_fds=[writing], stderr=subprocess.DEVNULL)
-        os.close(writing)
-        display = os.read(reading, 16).decode().strip()
-        environment = {**os.environ, "DISPLAY": ":" + display, "HOME": home, "XDG_RUNTIME_DIR": home,
+        environment = {**os.environ, "DISPLAY": display, "HOME": home, "XDG_RUNTIME_DIR": home,
                        "XDG_CONFIG_HOME": home, "QT_QPA_PLATFORM": "xcb", "VNA_READER_INSIDE": "1",
                        "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
-        try:
-            code = subprocess.run(["dbus-run-session", "--", sys.executable, __file__, program, path],
-                                  env=environment, timeout=150).returncode
-        finally:
-            server.terminate()
-            server.wait(10)
+        code = subprocess.run(["dbus-run-session", "--", sys.executable, __file__, program, path],
+                              env=environment, timeout=150).returncode
     sys.exit(code)
 
 
