@@ -207,6 +207,21 @@ QStringList ReadOuts::textsOf(const Marker &marker) const
     return QStringList(reading.frequency) + reading.values.mid(0, s_columns - 1);
 }
 
+QStringList ReadOuts::readings() const
+{
+    QStringList lines;
+    for (int row = 0; row < m_markers.size(); ++row) {
+        const Marker &marker = m_markers.at(row);
+        lines << QStringLiteral("Tr%1 ").arg(marker.trace)
+                + PanelModel::parameterName(*m_model->trace(marker.trace)) + QLatin1Char(' ')
+                + markerName(*m_model, marker) + QStringLiteral(": ")
+                + m_texts.at(row).join(QStringLiteral(" \u00b7 "));
+    }
+    if (!m_bandwidth->text().isEmpty())
+        lines << m_bandwidth->text();
+    return lines;
+}
+
 /// Makes room for the texts in their columns. Columns only grow: numbers that change in a live
 /// sweep would make them tremble.
 void ReadOuts::widenColumns(const QStringList &texts)

@@ -39,6 +39,8 @@ public:
     void showOver(const QSize &room);
     /// The markers on show, from the first row on.
     const QVector<Marker> &markers() const { return m_markers; }
+    /// What is read, a line for each marker and one for the bandwidth.
+    QStringList readings() const;
     /// The first line of a marker's reading, or null.
     MarkerStatusItem *item(int row) const;
 

@@ -80,6 +80,7 @@ QJsonObject written(const PanelModel &model, const Trace &trace)
             {"active"_key, active && active->id == trace.id},
             {"reference"_key, reference ? reference->number : 0},
             {"smoothing"_key, trace.smoothing},
+            {"math"_key, int(trace.math)},
             {"limits"_key, limits},
             {"markers"_key, markers}};
 }
@@ -167,6 +168,9 @@ void restoreTrace(PanelModel *model, int id, const QJsonObject &saved)
 {
     model->setTraceParameter(id, saved["to"_key].toInt(), saved["from"_key].toInt());
     model->setTraceFormat(id, TraceFormat(saved["format"_key].toInt()));
+    // Before the scale, to which it fits the result.
+    if (isChoice(saved["math"_key], traceMathCount))
+        model->setTraceMath(id, TraceMath(saved["math"_key].toInt()));
     model->setTraceScale(id,
                          {saved["scale"_key].toDouble(), saved["top"_key].toDouble(),
                           saved["position"_key].toInt()});

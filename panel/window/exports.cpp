@@ -2,16 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "exports.h"
 
+#include "diagrampage.h"
+
 #include <panel/model/preferences.h>
 #include <panel/touchstone/saving.h>
 
-#include <controls/thememanager.h>
 #include <plot/qcp.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QPdfWriter>
 #include <QPixmap>
 #include <QPrinter>
 #include <QStandardPaths>
@@ -92,47 +94,48 @@ Exported exportScreenshot(QWidget *window, const QString &folder)
     });
 }
 
-Exported exportDiagram(QCustomPlot *plot, const QString &folder, DrawingFormat format)
+Exported exportDiagram(DiagramView *view, const QString &folder, DrawingFormat format)
 {
     const bool pdf = format == DrawingFormat::Pdf;
+    const DiagramPage page(view);
     return exportFile(folder, QStringLiteral("vnapanel"),
                       pdf ? QStringLiteral(".pdf") : QStringLiteral(".svg"), [&](QFile &file) {
-                          if (pdf)
-                              return plot->savePdf(file.fileName()) ? QString() : cannotDraw();
+                          QPdfWriter writer(&file);
                           QSvgGenerator svg;
-                          svg.setOutputDevice(&file);
-                          svg.setSize(plot->size());
-                          svg.setViewBox(plot->rect());
+                          if (pdf) {
+                              // A point for a pixel.
+                              constexpr int pointsInAnInch = 72;
+                              writer.setResolution(pointsInAnInch);
+                              writer.setPageSize(QPageSize(QSizeF(page.size()), QPageSize::Point,
+                                                           QString(), QPageSize::ExactMatch));
+                              writer.setPageMargins(QMarginsF());
+                          } else {
+                              svg.setOutputDevice(&file);
+                              svg.setSize(page.size());
+                              svg.setViewBox(QRect(QPoint(), page.size()));
+                          }
                           QCPPainter painter;
-                          if (!painter.begin(&svg))
+                          if (!painter.begin(pdf ? static_cast<QPaintDevice *>(&writer) : &svg))
                               return cannotDraw();
-                          painter.setMode(QCPPainter::pmVectorized);
-                          painter.setMode(QCPPainter::pmNoCaching);
-                          painter.fillRect(plot->rect(), plot->palette().window());
-                          plot->toPainter(&painter, plot->width(), plot->height());
-                          painter.end();
-                          return QString();
+                          page.draw(&painter);
+                          return painter.end() ? QString() : cannotDraw();
                       });
 }
 
-bool printDiagram(QCustomPlot *plot, QPrinter *printer)
+bool printDiagram(DiagramView *view, QPrinter *printer)
 {
-    using Controls::ThemeManager;
     QCPPainter painter;
     if (!painter.begin(printer))
         return false;
-    const ThemeManager::Theme theme = ThemeManager::instance()->currentTheme();
-    ThemeManager::instance()->setTheme(ThemeManager::Light);
-    const QRectF page(QPointF(),
-                      printer->pageLayout().paintRectPixels(printer->resolution()).size());
-    const double scale = qMin(page.width() / plot->width(), page.height() / plot->height());
-    painter.translate((page.width() - scale * plot->width()) / 2.0,
-                      (page.height() - scale * plot->height()) / 2.0);
+    const DiagramPage page(view);
+    const QRectF paper(QPointF(),
+                       printer->pageLayout().paintRectPixels(printer->resolution()).size());
+    const double scale =
+        qMin(paper.width() / page.size().width(), paper.height() / page.size().height());
+    painter.translate((paper.width() - scale * page.size().width()) / 2.0,
+                      (paper.height() - scale * page.size().height()) / 2.0);
     painter.scale(scale, scale);
-    painter.setMode(QCPPainter::pmVectorized);
-    painter.setMode(QCPPainter::pmNoCaching);
-    plot->toPainter(&painter, plot->width(), plot->height());
-    ThemeManager::instance()->setTheme(theme);
+    page.draw(&painter);
     return painter.end();
 }
 

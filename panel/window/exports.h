@@ -7,13 +7,13 @@
 
 #include <panel/model/network.h>
 
-class QCustomPlot;
 class QPrinter;
 class QWidget;
 
 namespace Panel
 {
 
+class DiagramView;
 class Preferences;
 
 struct Exported {
@@ -31,12 +31,12 @@ enum class DrawingFormat {
     Pdf,
     Svg,
 };
-/// A diagram as lines that can be enlarged, without its title and its read-outs.
-Exported exportDiagram(QCustomPlot *plot, const QString &folder, DrawingFormat format);
+/// A DiagramPage as lines that can be enlarged.
+Exported exportDiagram(DiagramView *view, const QString &folder, DrawingFormat format);
 
-/// Draws a diagram in the middle of a page, as large as the page allows, dark on white; false when the
-/// printer takes nothing.
-bool printDiagram(QCustomPlot *plot, QPrinter *printer);
+/// Draws a DiagramPage in the middle of a sheet, as large as that allows; false when the printer takes
+/// nothing.
+bool printDiagram(DiagramView *view, QPrinter *printer);
 
 enum class DataFormat {
     Touchstone,

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panelcontroller.h"
 
-#include "exports.h"
 #include "filedialog.h"
 #include "helpdialog.h"
 #include "instrumentdialog.h"
@@ -40,11 +39,6 @@
 #include <widgets/switchbutton.h>
 
 #include <QBuffer>
-#include <QClipboard>
-#include <QDir>
-#include <QGuiApplication>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -53,34 +47,6 @@ namespace Panel
 
 namespace
 {
-
-/// The commands of the save key.
-enum SaveCommand {
-    SaveTouchstone,
-    SaveCsv,
-    SavePdf,
-    SaveSvg,
-    CopyPicture,
-    Print,
-};
-
-/// The network as it is on show, with a comment on what was done to it.
-Network documented(const Network &measured, const Correction &correction)
-{
-    Network network = corrected(measured, correction);
-    QStringList done;
-    for (int port = 1; port <= correction.delays.size(); ++port) {
-        if (correction.delay(port) != 0.0)
-            done << QStringLiteral("Port %1 extended by %2 ps")
-                        .arg(port)
-                        .arg(correction.delay(port) * 1e12, 0, 'f', 2);
-    }
-    if (correction.referenceOhms > 0.0)
-        done << QStringLiteral("Referred to %1 ohms").arg(correction.referenceOhms);
-    for (const QString &text : done)
-        network.comments.prepend({0, text});
-    return network;
-}
 
 constexpr int s_remembered = 8;
 
@@ -140,19 +106,9 @@ void PanelController::connectKeys()
     connect(keys.timing, &SwitchButton::statusChanged, this, &PanelController::setTimingShown);
     keys.help->setValue(QStringLiteral("F1"));
     keys.screenshot->setValue(QStringLiteral("PNG"));
-    keys.save->setMenuItems({{SaveTouchstone, QStringLiteral("Touchstone")},
-                             {SaveCsv, QStringLiteral("CSV")},
-                             {SavePdf, tr("Diagram as PDF")},
-                             {SaveSvg, tr("Diagram as SVG")},
-                             {CopyPicture, tr("Picture to clipboard")},
-                             {Print, tr("Print the diagram\u2026")}});
-    connect(keys.save, qOverload<int>(&MenuButton::menuItemClicked), this,
-            &PanelController::onSavePicked);
+    addSaving();
     connect(m_window->diagrams(), &Diagrams::said, m_window->messageBar(),
             &MessageBar::showCaption);
-    const auto showSave = [this] { m_window->keys().save->setEnabled(m_model->activeTrace()); };
-    connect(m_model, &PanelModel::tracesChanged, this, showSave);
-    showSave();
     keys.settings->setValue(QStringLiteral("\u2026"));
 
     connect(m_window->markerTable(), &MarkerTable::selectionRequested, m_model,
@@ -345,69 +301,6 @@ void PanelController::showInstruments()
     connect(dialog, &InstrumentDialog::picked, m_model, &PanelModel::setInstrument);
     dialog->resize(620, 560);
     DialogStage::show(dialog, m_window);
-}
-
-void PanelController::takeScreenshot()
-{
-    m_window->messageBar()->notify({}); // of what was saved before
-    tell(exportScreenshot(m_window, folderForExports(*m_model->preferences())));
-}
-
-void PanelController::onSavePicked(int command)
-{
-    const Trace *trace = m_model->activeTrace();
-    const DiagramView *view = m_window->diagrams()->activeView();
-    if (!trace || !view)
-        return;
-    const QString folder = folderForExports(*m_model->preferences());
-    const Network network =
-        documented(m_model->networks().at(trace->network), m_model->correction(*trace));
-    switch (command) {
-    case SaveTouchstone:
-        tell(exportData(network, folder, DataFormat::Touchstone));
-        break;
-    case SaveCsv:
-        tell(exportData(network, folder, DataFormat::Csv));
-        break;
-    case CopyPicture:
-        QGuiApplication::clipboard()->setPixmap(m_window->grab());
-        m_window->messageBar()->notify(tr("Copied the picture"));
-        break;
-    case Print:
-        print(view->plot());
-        break;
-    case SavePdf:
-        tell(exportDiagram(view->plot(), folder, DrawingFormat::Pdf));
-        break;
-    case SaveSvg:
-        tell(exportDiagram(view->plot(), folder, DrawingFormat::Svg));
-        break;
-    }
-}
-
-void PanelController::print(QCustomPlot *plot)
-{
-    const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    printer->setPageOrientation(plot->width() > plot->height() ? QPageLayout::Landscape
-                                                               : QPageLayout::Portrait);
-    auto *dialog = new QPrintDialog(printer.get(), m_window);
-    connect(dialog, qOverload<>(&QDialog::accepted), plot, [this, plot, printer] {
-        if (printDiagram(plot, printer.get()))
-            m_window->messageBar()->notify(tr("Printed the diagram"));
-        else
-            m_window->messageBar()->setMessage(tr("The printer does not take the diagram."));
-    });
-    DialogStage::show(dialog, m_window);
-}
-
-/// Says where something was saved, or why it was not.
-void PanelController::tell(const Exported &exported)
-{
-    MessageBar *bar = m_window->messageBar();
-    if (exported.error.isEmpty())
-        bar->notify(tr("Saved %1").arg(QDir::toNativeSeparators(exported.path)));
-    else
-        bar->setMessage(exported.error);
 }
 
 void PanelController::setTimingShown(bool shown)

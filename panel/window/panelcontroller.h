@@ -5,11 +5,10 @@
 #include <QObject>
 #include <QString>
 
-class QCustomPlot;
-
 namespace Panel
 {
 
+class DiagramView;
 struct Exported;
 class FileController;
 class History;
@@ -44,7 +43,8 @@ public Q_SLOTS:
     void showInstruments();
     void takeScreenshot();
     void onSavePicked(int command);
-    void print(QCustomPlot *plot);
+    void addSaving();
+    void print(DiagramView *view);
     void tell(const Exported &exported);
     void setTimingShown(bool shown);
 

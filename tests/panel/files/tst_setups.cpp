@@ -64,6 +64,8 @@ private Q_SLOTS:
         model.setTraceFormat(added, TraceFormat::Phase);
         model.setLimits(3, {limit(-3.0)});
         model.viewSettings()->setVswrLimit(2.0);
+        model.setTraceMath(4, TraceMath::Divided);
+        model.setTraceScale(4, {3.0, 6.0});
         settle();
         model.removeTrace(2);
         model.removeMarker(3, 1);

@@ -97,21 +97,34 @@ private Q_SLOTS:
         QCOMPARE(desk.plot()->plottableCount(), plottables);
     }
 
-    /// What is printed is dark on white, whatever the panel shows.
+    /// What is printed is dark on white, with title and markers, whatever the panel shows.
     void printsTheDiagram()
     {
         ChartDesk desk;
+        desk.model.addMarker(1, 100.0);
         const QTemporaryDir folder;
         QPrinter printer(QPrinter::ScreenResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(folder.filePath("page.pdf"_s));
-        QVERIFY(printDiagram(desk.plot(), &printer));
+        QVERIFY(printDiagram(desk.view(), &printer));
         QVERIFY(QFileInfo(folder.filePath("page.pdf"_s)).size() > 2000);
         QVERIFY(Controls::ThemeManager::instance()->isDarkTheme());
         printer.setOutputFileName(folder.filePath("none/page.pdf"_s));
         expectWarning("QPainter::begin(): Returned false"_s);
-        QVERIFY(!printDiagram(desk.plot(), &printer));
+        QVERIFY(!printDiagram(desk.view(), &printer));
+
+        const Exported svg = exportDiagram(desk.view(), folder.path(), DrawingFormat::Svg);
+        QVERIFY2(svg.error.isEmpty(), qPrintable(svg.error));
+        QFile file(svg.path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString drawing = QString::fromUtf8(file.readAll());
+        QVERIFY(drawing.contains(desk.view()->title().left(8))); // as much as there is room for
+        QVERIFY(drawing.contains("Tr1 S11 M1: "_s));
+        const Exported pdf = exportDiagram(desk.view(), folder.path(), DrawingFormat::Pdf);
+        QVERIFY(pdf.error.isEmpty() && QFileInfo(pdf.path).size() < 200000);
         QVERIFY(Controls::ThemeManager::instance()->isDarkTheme());
+        QCOMPARE(desk.window.grab().toImage().pixelColor(desk.inWindow(desk.onPlot(0.01, 0.01))),
+                 currentLook().background);
     }
 
     void activatesAndHidesTraces()
