@@ -16,6 +16,8 @@
 #include <panel/window/panelwindow.h>
 #include <panel/window/quitsignals.h>
 
+#include <controls/thememanager.h>
+
 #include <QApplication>
 #include <QEventLoop>
 #include <QFile>
@@ -163,9 +165,7 @@ int main(int argc, char **argv)
     if (commandLine.scale > 1.0)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(commandLine.scale));
 
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // or icons would be enlarged
-#endif
+    Controls::ThemeManager::useHighDpiIcons();
     // Without a desktop's theme, as over VNC and on Wayland, Qt takes a style that draws inert texts
     // twice. The option -style comes before this.
     QApplication::setStyle(QStringLiteral("Fusion"));

@@ -7,7 +7,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QShortcutEvent>
 
 namespace Panel
@@ -20,10 +19,9 @@ const QKeySequence s_unlock(int(Qt::CTRL) | int(Qt::Key_L));
 
 } // namespace
 
-PanelLock::PanelLock(LockWidget *padlock, QWidget *key, QWidget *window)
+PanelLock::PanelLock(LockWidget *padlock, QWidget *window)
     : QObject(window)
     , m_padlock(padlock)
-    , m_key(key)
     , m_window(window)
 {
     connect(padlock, &LockWidget::pressBlocked, this, &PanelLock::blocked);
@@ -62,26 +60,8 @@ void PanelLock::setLocked(bool locked)
     m_padlock->setLocked(locked);
 }
 
-/// Whether somebody taps the key that has locked: nobody looks for another one to unlock.
-bool PanelLock::isTapOnKey(const QEvent *event) const
-{
-    if (event->type() != QEvent::MouseButtonPress || !m_key->isVisible())
-        return false;
-    const auto *press = static_cast<const QMouseEvent *>(event);
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    const QPoint place = press->globalPosition().toPoint();
-#else
-    const QPoint place = press->globalPos();
-#endif
-    return m_key->rect().contains(m_key->mapFromGlobal(place));
-}
-
 bool PanelLock::eventFilter(QObject *watched, QEvent *event)
 {
-    if (isTapOnKey(event)) {
-        setLocked(false);
-        return true;
-    }
     // A shortcut is an object; of all others, windows come before their widgets.
     const bool counts = watched->isWidgetType() || event->type() == QEvent::Shortcut;
     if (!counts || !isBlocked(event))
@@ -103,7 +83,9 @@ bool PanelLock::isBlocked(QEvent *event) const
         const bool travels = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
         // A modifier by itself does nothing.
         const bool modifier = key->key() >= Qt::Key_Shift && key->key() <= Qt::Key_ScrollLock;
-        return !unlocks && !travels && !modifier && !(m_padlock && m_padlock->hasFocus());
+        const bool onKey = m_padlock
+            && (m_padlock->hasFocus() || (m_padlock->key() && m_padlock->key()->hasFocus()));
+        return !unlocks && !travels && !modifier && !onKey;
     }
     case QEvent::Shortcut:
         return static_cast<QShortcutEvent *>(event)->key() != s_unlock;

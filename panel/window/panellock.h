@@ -19,8 +19,7 @@ class PanelLock : public QObject
     Q_OBJECT
 
 public:
-    /// \a key locks, and unlocks as the padlock does.
-    PanelLock(LockWidget *padlock, QWidget *key, QWidget *window);
+    PanelLock(LockWidget *padlock, QWidget *window);
 
     bool isLocked() const;
     void setLocked(bool locked);
@@ -34,11 +33,9 @@ Q_SIGNALS:
 
 private:
     void releaseKeys();
-    bool isTapOnKey(const QEvent *event) const;
     bool isBlocked(QEvent *event) const;
 
     QPointer<LockWidget> m_padlock;
-    QWidget *m_key;
     QWidget *m_window;
 };
 

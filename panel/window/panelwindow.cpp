@@ -109,7 +109,9 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     column->addLayout(middle, 1);
     m_messageBar = new MessageBar(m_pages);
     // Over the diagrams.
-    m_lock = new PanelLock(new LockWidget(m_main, m_pages), m_lockButton, this);
+    auto *padlock = new LockWidget(m_main, m_pages);
+    padlock->setKey(m_lockButton); // nobody looks for another one to unlock
+    m_lock = new PanelLock(padlock, this);
     connect(m_lock, &PanelLock::lockedChanged, this, [this] {
         showLock();
         m_messageBar->notify({}); // of how to unlock

@@ -4,6 +4,7 @@
     What differs between Qt 5.15 and Qt 6: every test of QT_VERSION stands here, and nowhere else. */
 #pragma once
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QMouseEvent>
 #include <QTouchEvent>
@@ -31,6 +32,14 @@ inline bool hasTouchDevice()
     });
 #else
     return !QTouchDevice::devices().isEmpty();
+#endif
+}
+
+/// Has icons drawn at the screen's scale rather than enlarged; before there is an application.
+inline void useHighDpiIcons()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
 }
 

@@ -5,6 +5,7 @@
 #include "themecolors_p.h"
 #include "themesettings_p.h"
 
+#include <base/qtcompat_p.h>
 #include <base/stylecolors_p.h>
 #include <platform/guicontext.h>
 #include <platform/stylehelper.h>
@@ -145,6 +146,11 @@ ThemeManager *ThemeManager::instance()
     if (!manager)
         manager = new ThemeManager;
     return manager;
+}
+
+void ThemeManager::useHighDpiIcons()
+{
+    QtCompat::useHighDpiIcons();
 }
 
 ThemeManager::ThemeManager()

@@ -54,6 +54,9 @@ public:
 
     /// The one instance, made at the first call and never destroyed.
     static ThemeManager *instance();
+    /// Has icons drawn at the screen's scale, where Qt 5 enlarges them otherwise. Called before the
+    /// application is made; Qt 6 always does so.
+    static void useHighDpiIcons();
 
     /// The theme that was set last; Dark at the start.
     Theme currentTheme() const;

@@ -26,6 +26,7 @@ struct LockWidgetPrivate {
     Ui::LockWidget ui;
     bool locked = false;
     QPointer<QWidget> target;
+    QPointer<QWidget> key;
     Utils::WidgetMouseMoveTool *mouseMoveTool = nullptr;
     QGraphicsOpacityEffect *opacityEffect = nullptr;
     QSequentialAnimationGroup *blinkGroup = nullptr;
@@ -209,6 +210,16 @@ void LockWidget::loadPixmaps()
     d->ui.label->setPixmap(d->locked ? d->lockedPixmap : d->unlockedPixmap);
 }
 
+void LockWidget::setKey(QWidget *key)
+{
+    d->key = key;
+}
+
+QWidget *LockWidget::key() const
+{
+    return d->key;
+}
+
 bool LockWidget::isLocked() const
 {
     return d->locked;
@@ -254,8 +265,13 @@ bool LockWidget::mustPass(QObject *watched, QEvent *event) const
     default:
         return true;
     }
-    // A made-up event need not know its place on the screen.
-    if (isAncestorOf(qobject_cast<QWidget *>(watched)))
-        return true;
-    return QRect(mapToGlobal(QPoint(0, 0)), size()).contains(global);
+    const auto isAt = [&](const QWidget *widget) {
+        // A made-up event need not know its place on the screen.
+        const auto *const target = qobject_cast<QWidget *>(watched);
+        return widget
+            && (widget == target || widget->isAncestorOf(target)
+                || (widget->isVisible()
+                    && QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size()).contains(global)));
+    };
+    return isAt(this) || isAt(d->key);
 }

@@ -45,6 +45,12 @@ public:
     /// Whether presses are swallowed. False at the start.
     bool isLocked() const;
 
+    /// A widget that presses reach even when it is locked, such as the button that locks and unlocks.
+    /// Null, the default, for none; not owned, and it may die first.
+    void setKey(QWidget *key);
+    /// See setKey().
+    QWidget *key() const;
+
 public Q_SLOTS:
     /// Locks as a tap on the padlock does, or unlocks; presses are swallowed only while it is shown.
     void setLocked(bool lock);
