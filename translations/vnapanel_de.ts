@@ -1251,6 +1251,10 @@
         <source>High contrast</source>
         <translation>Hoher Kontrast</translation>
     </message>
+    <message>
+        <source>Dashes tell traces apart</source>
+        <translation>Striche unterscheiden Kurven</translation>
+    </message>
 </context>
 <context>
     <name>Panel::SetupDialog</name>

@@ -1244,6 +1244,10 @@
         <source>High contrast</source>
         <translation>高对比度</translation>
     </message>
+    <message>
+        <source>Dashes tell traces apart</source>
+        <translation>用虚线区分轨迹</translation>
+    </message>
 </context>
 <context>
     <name>Panel::SetupDialog</name>

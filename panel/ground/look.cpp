@@ -86,18 +86,26 @@ void setUpApplication()
 namespace
 {
 
-/// Lengths of dashes and gaps in pixels, file by file; the first is solid.
+/// Lengths of dashes and gaps in pixels, file by file, or trace by trace; the first is solid.
 const QVector<QVector<qreal>> &dashPatterns()
 {
     static const QVector<QVector<qreal>> patterns{
-        {}, {8, 3}, {3, 3}, {10, 3, 3, 3}, {14, 4}, {10, 3, 3, 3, 3, 3}};
+        {}, {8, 3}, {3, 3}, {10, 3, 3, 3}, {14, 4}, {10, 3, 3, 3, 3, 3}, {2, 5}, {16, 3, 6, 3}};
     return patterns;
 }
 
-QPen dashed(const QColor &color, int file)
+bool s_traceDashes = false;
+
+/// The dash pattern of a trace, by its number: files have one each, else traces.
+int patternOf(int id, int file)
+{
+    return s_traceDashes || isHighContrast() ? file + id - 1 : file;
+}
+
+QPen dashed(const QColor &color, int number)
 {
     QPen pen(color);
-    const QVector<qreal> &pattern = dashPatterns().at(file % dashPatterns().size());
+    const QVector<qreal> &pattern = dashPatterns().at(number % dashPatterns().size());
     if (!pattern.isEmpty())
         pen.setDashPattern(pattern);
     return pen;
@@ -119,14 +127,23 @@ QVector<QColor> extended(QVector<QColor> palette, bool dark)
 
 } // namespace
 
+void setTraceDashes(bool on)
+{
+    if (on == s_traceDashes)
+        return;
+    s_traceDashes = on;
+    auto *theme = Controls::ThemeManager::instance();
+    theme->setTheme(theme->currentTheme());
+}
+
 QPen Look::pen(int id, int file) const
 {
-    return dashed(trace(id), isHighContrast() ? file + id - 1 : file);
+    return dashed(trace(id), patternOf(id, file));
 }
 
 QPen Look::memoryPen(int id, int file) const
 {
-    return dashed(memory(id), isHighContrast() ? file + id - 1 : file);
+    return dashed(memory(id), patternOf(id, file));
 }
 
 Look currentLook()

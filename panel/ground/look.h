@@ -33,7 +33,7 @@ struct Look {
     /// The same for stored data.
     QColor memory(int id) const { return memories.at((id - 1) % memories.size()); }
     /// The line of a trace of a file: the first file's are solid, those of each further one have a
-    /// dash pattern of their own. At high contrast so has each trace.
+    /// dash pattern of their own. So has each trace, at high contrast or by setTraceDashes().
     QPen pen(int id, int file) const;
     QPen memoryPen(int id, int file) const;
 
@@ -45,6 +45,9 @@ struct Look {
 /// Gives the program the panel's font and style sheet, the pictures of the library and the dark theme;
 /// called once at the start.
 void setUpApplication();
+
+/// Has each trace drawn with a dash pattern of its own, beside its colour. Default: no.
+void setTraceDashes(bool on);
 
 Look currentLook();
 

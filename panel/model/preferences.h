@@ -28,10 +28,14 @@ public:
     /// Black and white, and a dash pattern for each trace.
     bool highContrast() const { return m_highContrast; }
 
+    /// A dash pattern for each trace, beside its colour.
+    bool traceDashes() const { return m_traceDashes; }
+
     void setLanguage(const QString &code) { set(m_language, code); }
     void setExportFolder(const QString &folder) { set(m_exportFolder, folder); }
 
     void setHighContrast(bool on) { set(m_highContrast, on); }
+    void setTraceDashes(bool on) { set(m_traceDashes, on); }
     void setInstruments(const QStringList &addresses) { set(m_instruments, addresses); }
 
 Q_SIGNALS:
@@ -51,6 +55,7 @@ private:
     QString m_exportFolder;
     QStringList m_instruments;
     bool m_highContrast = false;
+    bool m_traceDashes = false;
 };
 
 } // namespace Panel

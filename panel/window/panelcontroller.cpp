@@ -29,6 +29,7 @@
 #include <panel/ground/dialogstage.h>
 #include <panel/ground/highcontrast.h>
 #include <panel/ground/languages.h>
+#include <panel/ground/look.h>
 #include <panel/link/linksource.h>
 #include <panel/model/panelmodel.h>
 #include <panel/serve/panelserver.h>
@@ -119,6 +120,7 @@ void PanelController::connectKeys()
             &PanelController::takeScreenshot);
     connect(m_model->preferences(), &Preferences::changed, this, [this] {
         setHighContrast(m_model->preferences()->highContrast());
+        setTraceDashes(m_model->preferences()->traceDashes());
         const QString wanted = m_model->preferences()->language();
         if (!wanted.isEmpty() && wanted != currentLanguage())
             m_window->messageBar()->notify(

@@ -82,6 +82,8 @@ void SettingsDialog::addTheme()
     addRow(tr("Look"), choice);
     connect(addSwitch(tr("High contrast"), m_model->preferences()->highContrast()),
             &SwitchButton::statusChanged, m_model->preferences(), &Preferences::setHighContrast);
+    connect(addSwitch(tr("Dashes tell traces apart"), m_model->preferences()->traceDashes()),
+            &SwitchButton::statusChanged, m_model->preferences(), &Preferences::setTraceDashes);
 }
 
 void SettingsDialog::addLanguage()

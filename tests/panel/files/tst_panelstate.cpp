@@ -58,6 +58,7 @@ private Q_SLOTS:
         desk.model.setZoom({true, 1}, {3.0, 0.25, -0.5});
         desk.model.setStimulus(*desk.model.trace(2), {1e9, 5e9});
         desk.model.preferences()->setExportFolder(path("pictures"));
+        desk.model.preferences()->setTraceDashes(true);
         desk.model.preferences()->setLanguage("de"_s);
         QVERIFY(PanelState::save(desk.model, path("state.json")));
         m_saved = read(path("state.json"));
@@ -102,6 +103,7 @@ private Q_SLOTS:
         QCOMPARE(desk.model.stimulus(*trace), (Stimulus{1e9, 5e9}));
         QCOMPARE(desk.model.referenceMarker(2), desk.model.marker(2, 2));
         QCOMPARE(desk.model.preferences()->exportFolder(), path("pictures"));
+        QVERIFY(desk.model.preferences()->traceDashes());
 
         // Other files: what belongs to the traces stays away, the rest comes.
         PanelDesk other;

@@ -105,6 +105,10 @@ void tst_TraceColors::highContrast()
         setHighContrast(false);
         QCOMPARE(currentLook().text, before.text);
         QCOMPARE(currentLook().border, before.border);
+        setTraceDashes(true);
+        QVERIFY(currentLook().pen(2, 0).style() == Qt::CustomDashLine);
+        QCOMPARE(currentLook().pen(2, 0).color(), before.pen(2, 0).color());
+        setTraceDashes(false);
     }
 }
 
