@@ -191,6 +191,7 @@ int main(int argc, char **argv)
     PanelModel model;
     PanelWindow window(&model);
     PanelController controller(&model, &window);
+    controller.setSoundOutput(makeSoundOutput);
     window.resize(commandLine.size);
     const bool opened = openFiles(controller.fileController(), commandLine.files, state.files());
     if (grabs) {

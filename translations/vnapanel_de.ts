@@ -424,6 +424,10 @@
         <source>read the selected marker over its whole diagram</source>
         <translation>den ausgewählten Marker groß über dem Diagramm lesen</translation>
     </message>
+    <message>
+        <source>hear the active trace, or stop</source>
+        <translation>die aktive Messkurve hören, oder anhalten</translation>
+    </message>
 </context>
 <context>
     <name>Panel::InstrumentDialog</name>
@@ -1254,6 +1258,10 @@
     <message>
         <source>Dashes tell traces apart</source>
         <translation>Striche unterscheiden Kurven</translation>
+    </message>
+    <message>
+        <source>Sound along a walk and under the pointer</source>
+        <translation>Ton beim Entlanggehen und unter dem Zeiger</translation>
     </message>
 </context>
 <context>

@@ -418,6 +418,10 @@
         <source>read the selected marker over its whole diagram</source>
         <translation>在整个图上大字显示所选标记</translation>
     </message>
+    <message>
+        <source>hear the active trace, or stop</source>
+        <translation>听当前轨迹，或停止</translation>
+    </message>
 </context>
 <context>
     <name>Panel::InstrumentDialog</name>
@@ -1247,6 +1251,10 @@
     <message>
         <source>Dashes tell traces apart</source>
         <translation>用虚线区分轨迹</translation>
+    </message>
+    <message>
+        <source>Sound along a walk and under the pointer</source>
+        <translation>沿轨迹行走时和指针处发声</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,7 @@
 #include "tracewalker.h"
 
 #include <panel/ground/look.h>
+#include <panel/ground/pointerevent.h>
 
 #include <controls/thememanager.h>
 
@@ -120,6 +121,9 @@ DiagramView *Diagrams::view(const DiagramId &id)
     const auto *walker = new TraceWalker(m_model, view);
     connect(walker, &TraceWalker::said, reader, &DiagramReader::announce);
     connect(walker, &TraceWalker::said, this, &Diagrams::said);
+    connect(walker, &TraceWalker::walked, this, &Diagrams::pointed);
+    connect(view->plot(), &QCustomPlot::mouseMove, this,
+            [this, view = view](const QMouseEvent *event) { tellPointer(view, event); });
     (new LargeReading(m_model, view))->setWanted(m_largeReading);
     new ChartGestures(m_model, view);
     view->plot()->installEventFilter(this);
@@ -131,6 +135,15 @@ void Diagrams::setLargeReading(bool large)
     m_largeReading = large;
     for (const DiagramView *view : allViews())
         view->findChild<LargeReading *>()->setWanted(large);
+}
+
+void Diagrams::tellPointer(const DiagramView *view, const QMouseEvent *event)
+{
+    if (!m_tellsPointer || event->buttons() != Qt::NoButton)
+        return;
+    const Hit hit = view->hit(pointerPosition(event));
+    if (hit.kind == Hit::Line)
+        Q_EMIT pointed(hit.trace, hit.index);
 }
 
 bool Diagrams::eventFilter(QObject *watched, QEvent *event)

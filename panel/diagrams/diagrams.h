@@ -39,11 +39,16 @@ public:
     bool largeReading() const { return m_largeReading; }
     void setLargeReading(bool large);
 
+    /// Whether pointed() tells of the pointer, too. False at first.
+    void setTellsPointer(bool tells) { m_tellsPointer = tells; }
+
 Q_SIGNALS:
     /// Others are on show, or another one is active.
     void viewsChanged();
     /// What is where a trace is walked; empty when the walk ends.
     void said(const QString &text);
+    /// A walk has come to a point of a trace, or the pointer where that is asked for.
+    void pointed(int trace, double index);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -53,12 +58,14 @@ private:
     void arrange(bool reload);
     void place(const QVector<DiagramView *> &views);
     void recolor();
+    void tellPointer(const DiagramView *view, const QMouseEvent *event);
 
     PanelModel *m_model;
     QGridLayout *m_grid;
     std::map<DiagramId, DiagramView *> m_views;
     QVector<DiagramView *> m_shown;
     bool m_largeReading = false;
+    bool m_tellsPointer = false;
 };
 
 } // namespace Panel

@@ -174,6 +174,7 @@ void TraceWalker::goTo(double index)
     const Trace &trace = *m_model->trace(m_trace);
     prepare(trace);
     showRing(trace);
+    Q_EMIT walked(m_trace, m_index);
     Q_EMIT said(textAt(trace, before));
 }
 

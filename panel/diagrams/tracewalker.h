@@ -37,6 +37,8 @@ public:
 
 Q_SIGNALS:
     void said(const QString &text);
+    /// A step has come to a place on a trace.
+    void walked(int trace, double index);
 
 private:
     /// What limits were last tested for.

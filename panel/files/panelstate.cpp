@@ -114,6 +114,7 @@ void PanelState::restore(PanelModel *model, bool withSource) const
     restoreLook();
     model->preferences()->setExportFolder(m_saved["screenshots"_key].toString());
     model->preferences()->setHighContrast(m_saved["highContrast"_key].toBool());
+    model->preferences()->setSoundFollows(m_saved["soundFollows"_key].toBool());
     model->preferences()->setTraceDashes(m_saved["traceDashes"_key].toBool());
     QStringList instruments;
     for (const QJsonValue address : m_saved["instruments"_key].toArray())
@@ -160,6 +161,7 @@ bool PanelState::save(const PanelModel &model, const QString &path)
     state["look"_key] = int(Controls::ThemeManager::instance()->currentTheme());
     state["screenshots"_key] = preferences->exportFolder();
     state["highContrast"_key] = preferences->highContrast();
+    state["soundFollows"_key] = preferences->soundFollows();
     state["traceDashes"_key] = preferences->traceDashes();
     state["source"_key] = int(model.source());
     state["sweep"_key] = QJsonObject{

@@ -31,11 +31,15 @@ public:
     /// A dash pattern for each trace, beside its colour.
     bool traceDashes() const { return m_traceDashes; }
 
+    /// Whether points are heard along a walk and under the pointer.
+    bool soundFollows() const { return m_soundFollows; }
+
     void setLanguage(const QString &code) { set(m_language, code); }
     void setExportFolder(const QString &folder) { set(m_exportFolder, folder); }
 
     void setHighContrast(bool on) { set(m_highContrast, on); }
     void setTraceDashes(bool on) { set(m_traceDashes, on); }
+    void setSoundFollows(bool on) { set(m_soundFollows, on); }
     void setInstruments(const QStringList &addresses) { set(m_instruments, addresses); }
 
 Q_SIGNALS:
@@ -56,6 +60,7 @@ private:
     QStringList m_instruments;
     bool m_highContrast = false;
     bool m_traceDashes = false;
+    bool m_soundFollows = false;
 };
 
 } // namespace Panel

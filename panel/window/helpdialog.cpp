@@ -23,13 +23,13 @@ constexpr int s_rowGap = 6;
 
 } // namespace
 
-HelpDialog::HelpDialog(QWidget *parent)
+HelpDialog::HelpDialog(bool hasSound, QWidget *parent)
     : DraggableFramelessDialog(parent)
 {
     setAccessibleName(tr("Keys"));
     setWindowTitle(tr("Keys"));
     setHeaderButton(Controls::DraggableDialogTitleBar::CloseButton);
-    const std::pair<QString, QString> rows[] = {
+    QVector<std::pair<QString, QString>> rows{
         {tr("Tab"), tr("go through all keys; Space or Return presses")},
         {tr("Ctrl + PgUp, PgDn"), tr("turn the page of soft keys")},
         {QStringLiteral("+  \u2212  0"), tr("magnify a diagram, or show all of it")},
@@ -55,11 +55,13 @@ HelpDialog::HelpDialog(QWidget *parent)
         {QStringLiteral("F11"), tr("full screen")},
         {tr("Ctrl + Q"), tr("quit")},
     };
+    if (hasSound)
+        rows.append({QStringLiteral("F5"), tr("hear the active trace, or stop")});
     // A table can be read row by row; what has no room on a small screen scrolls.
-    auto *table = new QuietView<QTableWidget>(int(std::size(rows)), 2);
+    auto *table = new QuietView<QTableWidget>(int(rows.size()), 2);
     table->setAccessibleName(tr("Keys"));
     int row = 0;
-    for (const auto &[keys, action] : rows) {
+    for (const auto &[keys, action] : std::as_const(rows)) {
         auto *name = new QTableWidgetItem(keys);
         QFont bold = table->font();
         bold.setBold(true);

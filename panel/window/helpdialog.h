@@ -13,7 +13,8 @@ class HelpDialog : public Controls::DraggableFramelessDialog
     Q_OBJECT
 
 public:
-    explicit HelpDialog(QWidget *parent = nullptr);
+    /// \a hasSound says whether there is anything to hear with.
+    explicit HelpDialog(bool hasSound, QWidget *parent = nullptr);
 };
 
 } // namespace Panel

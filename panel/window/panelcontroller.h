@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <panel/ground/soundoutput.h>
+
 #include <QObject>
 #include <QString>
 
@@ -16,6 +18,7 @@ class LinkSource;
 class PanelModel;
 class PanelWindow;
 class Setups;
+class TraceSound;
 
 /*! Brings the parts of the panel together: it makes the controllers of all rooms, tells in the window
     what they say, and answers for the window itself: theme, lock, screenshot, dialogs, shortcuts. */
@@ -27,6 +30,8 @@ public:
     PanelController(PanelModel *model, PanelWindow *window, QObject *parent = nullptr);
 
     FileController *fileController() const { return m_files; }
+    /// Where traces are heard; without, nothing offers to.
+    void setSoundOutput(const SoundOutputMaker &makeOutput);
     /// Writes what goes over the cable to a file, before anything does; false if it cannot.
     bool setLinkLog(const QString &path);
     /// Answers scripts at "[ADDRESS:]PORT". Where it does, or nothing and why not.
@@ -67,6 +72,7 @@ private:
     History *m_history;
     Setups *m_setups;
     LinkSource *m_link;
+    TraceSound *m_sound;
     QString m_trouble; ///< that was told last
     QString m_dialogFolder; ///< where the file dialog was left
 };

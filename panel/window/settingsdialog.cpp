@@ -42,7 +42,7 @@ Controls::ComboBox *makeChoice(const QString &name, const QStringList &choices, 
 
 } // namespace
 
-SettingsDialog::SettingsDialog(PanelModel *model, QWidget *parent)
+SettingsDialog::SettingsDialog(PanelModel *model, bool hasSound, QWidget *parent)
     : DraggableFramelessDialog(parent)
     , m_model(model)
     , m_form(new QFormLayout(this))
@@ -57,6 +57,10 @@ SettingsDialog::SettingsDialog(PanelModel *model, QWidget *parent)
     addTheme();
     addLanguage();
     addMarkerModes();
+    if (hasSound)
+        connect(addSwitch(tr("Sound along a walk and under the pointer"),
+                          model->preferences()->soundFollows()),
+                &SwitchButton::statusChanged, model->preferences(), &Preferences::setSoundFollows);
     addFolder();
     setMinimumWidth(440);
 }

@@ -20,7 +20,8 @@ class SettingsDialog : public Controls::DraggableFramelessDialog
     Q_OBJECT
 
 public:
-    explicit SettingsDialog(PanelModel *model, QWidget *parent = nullptr);
+    /// \a hasSound says whether there is anything to hear with.
+    SettingsDialog(PanelModel *model, bool hasSound, QWidget *parent = nullptr);
 
 private:
     SwitchButton *addSwitch(const QString &name, bool on);
