@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "tracetone.h"
 
+#include "arcstretch_p.h"
+
 #include <cmath>
 #include <limits>
 
@@ -11,7 +13,6 @@ namespace SmithChart
 namespace
 {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr double lowestPitch = 220.0;
 /// Above total reflection, as of what amplifies; a further octave.
 constexpr double greatestMagnitude = 4.0 / 3.0;
