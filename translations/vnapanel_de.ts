@@ -485,6 +485,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::LetterKeys</name>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalten</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Löschen</translation>
+    </message>
+</context>
+<context>
     <name>Panel::LimitSheet</name>
     <message>
         <source>A limit line is what the trace must stay below, or above.</source>

@@ -479,6 +479,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::LetterKeys</name>
+    <message>
+        <source>Shift</source>
+        <translation>上档</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>删除</translation>
+    </message>
+</context>
+<context>
     <name>Panel::LimitSheet</name>
     <message>
         <source>A limit line is what the trace must stay below, or above.</source>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "setupdialog.h"
 
+#include <panel/entry/letterkeys.h>
 #include <panel/files/setups.h>
 #include <panel/ground/dialogstage.h>
 #include <panel/ground/quietview.h>
@@ -54,6 +55,11 @@ SetupDialog::SetupDialog(Setups *setups, QWidget *parent)
     naming->addWidget(m_name, 1);
     naming->addWidget(m_save);
     column->addLayout(naming);
+    auto *letters = new LetterKeys(m_name, this);
+    column->addWidget(letters);
+    // On a small screen there is room for one of the two.
+    connect(letters, &LetterKeys::shownChanged, this,
+            [this](bool shown) { m_list->setVisible(!shown && m_list->count() > 0); });
     auto *answers = new QHBoxLayout;
     QPushButton *preset = makeKey(tr("Preset"), "preset");
     for (QPushButton *key : {preset, m_remove, m_recall})
@@ -86,7 +92,7 @@ SetupDialog::SetupDialog(Setups *setups, QWidget *parent)
     else
         m_list->setFocus();
     setMinimumSize(
-        QSize(440, 420).boundedTo(parent ? parent->size() - QSize(40, 40) : QSize(440, 420)));
+        QSize(500, 420).boundedTo(parent ? parent->size() - QSize(40, 40) : QSize(500, 420)));
 }
 
 QPushButton *SetupDialog::makeKey(const QString &name, const char *objectName)

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
 
+#include <panel/entry/letterkeys.h>
 #include <panel/files/history.h>
 #include <panel/files/setups.h>
 #include <panel/files/viewstate.h>
 #include <panel/model/limitline.h>
 
+#include <QLineEdit>
 #include <QTemporaryDir>
 
 using namespace Panel;
@@ -152,6 +154,36 @@ private Q_SLOTS:
         QVERIFY(refuses("9 other"_s));
         QVERIFY(setups.remove("9 other"_s));
         QVERIFY(!setups.remove("9 other"_s));
+    }
+
+    /// On the smallest screen, without a keyboard.
+    void aFingerTypesAName()
+    {
+        PanelDesk desk(QSize(800, 480));
+        desk.click(desk.keys().setups);
+        auto *name = desk.window.findChild<QLineEdit *>();
+        auto *letters = desk.window.findChild<LetterKeys *>();
+        QVERIFY(name && letters && !letters->isVisible());
+        name->setFocus();
+        QVERIFY(!letters->isVisible()); // there is a keyboard then
+        desk.click(name);
+        QVERIFY(letters->isVisible());
+        name->selectAll();
+        for (const QString &text :
+             {"\u21e7"_s, "A"_s, "b"_s, "\u2423"_s, "1"_s, "2"_s, "\u232b"_s}) {
+            const auto keys = letters->findChildren<QAbstractButton *>();
+            const auto key = std::find_if(keys.begin(), keys.end(),
+                                          [&](const auto *each) { return each->text() == text; });
+            QVERIFY2(key != keys.end(), qPrintable(text));
+            const QRect place((*key)->mapTo(&desk.window, QPoint()), (*key)->size());
+            QVERIFY2(desk.window.rect().contains(place) && place.height() >= 44, qPrintable(text));
+            desk.click(*key);
+        }
+        QCOMPARE(name->text(), "Ab 1"_s);
+        QVERIFY(name->hasFocus());
+        desk.press(Qt::Key_Tab);
+        QVERIFY(!letters->isVisible());
+        desk.press(Qt::Key_Escape);
     }
 
     void addsAndRemovesTraces()

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The VnaWidgets authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QVector>
+#include <QWidget>
+
+class QLineEdit;
+class QPushButton;
+
+namespace Panel
+{
+
+/// Letters and digits for a line of text, where there is a finger and no keyboard. Shows once the line
+/// is tapped and goes when the line loses the focus, which its keys never take.
+class LetterKeys : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LetterKeys(QLineEdit *line, QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    /// The keys came or went.
+    void shownChanged(bool shown);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QPushButton *addKey(const QString &text, int row, int column);
+    void setShift(bool on);
+    void setShown(bool shown);
+
+    QLineEdit *m_line;
+    QVector<QPushButton *> m_letters;
+    QPushButton *m_shift;
+};
+
+} // namespace Panel
