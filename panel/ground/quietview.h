@@ -23,6 +23,7 @@ protected:
         if (this->hasFocus())
             View::currentChanged(current, previous);
         else
+            // NOLINTNEXTLINE(bugprone-parent-virtual-call): it is what the view adds that is left out
             QAbstractItemView::currentChanged(current, previous);
     }
 

@@ -90,5 +90,6 @@ void ChoiceList::currentChanged(const QModelIndex &current, const QModelIndex &p
     if (hasFocus())
         QListWidget::currentChanged(current, previous);
     else
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): it is what the view adds that is left out
         QAbstractItemView::currentChanged(current, previous);
 }
