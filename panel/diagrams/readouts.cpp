@@ -130,8 +130,10 @@ void ReadOuts::fitOverlay(const QSize &content)
         setProperty("box", box);
         repolish(this);
     }
+    const int hint = m_hint->sizeHint().width();
+    m_hint->setVisible(!box && hint <= m_room.width()); // or it would lie over the axis
     resize(box ? (content + QSize(2, 2)).boundedTo(m_room)
-               : QSize(m_hint->sizeHint().width(), lineHeight()));
+               : QSize(qMin(hint, m_room.width()), lineHeight()));
     Q_EMIT overlaySizeChanged();
 }
 

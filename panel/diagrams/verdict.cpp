@@ -8,6 +8,17 @@
 namespace Panel
 {
 
+namespace
+{
+
+/// Of the word, in pixels: to be read from two metres, and where there is no room for that.
+constexpr int s_large = 24;
+constexpr int s_small = 14;
+/// Of the diagram's width and height, at most.
+constexpr double s_shareOfDiagram = 0.4;
+
+} // namespace
+
 Verdict::Verdict(QWidget *diagram)
     : QLabel(diagram)
 {
@@ -30,14 +41,30 @@ void Verdict::show(bool tested, const QVector<Failure> &failures)
             .arg((failures.isEmpty() ? look.pass : look.fail).name(), look.bar.name());
     if (sheet != styleSheet())
         setStyleSheet(sheet);
-    QString text = QStringLiteral("<span style='font-size:24px'>%1</span>")
-                       .arg(failures.isEmpty() ? tr("PASS") : tr("FAIL"));
+    QString list;
     for (const Failure &failure : failures.mid(0, maximumFailures))
-        text += QLatin1String("<br>")
+        list += QLatin1String("<br>")
             + tr("Tr%1 from %2").arg(QString::number(failure.trace), frequencyText(failure.hertz));
-    setText(text);
-    adjustSize();
-    place();
+    const auto word = [&](int pixels) {
+        return QStringLiteral("<span style='font-size:%1px'>%2</span>")
+            .arg(QString::number(pixels), failures.isEmpty() ? tr("PASS") : tr("FAIL"));
+    };
+    m_texts = QStringList{word(s_large) + list, word(s_large), word(s_small)};
+    fit();
+}
+
+/// Takes the longest text that leaves most of the diagram to what is judged.
+void Verdict::fit()
+{
+    const QSize room = parentWidget()->size();
+    for (const QString &text : qAsConst(m_texts)) {
+        setText(text);
+        adjustSize();
+        if (width() <= room.width() * s_shareOfDiagram
+            && height() <= room.height() * s_shareOfDiagram)
+            break;
+    }
+    move(m_topRight - QPoint(width(), 0));
 }
 
 void Verdict::tell(bool tested, const QVector<Failure> &failures)
@@ -65,12 +92,7 @@ void Verdict::tell(bool tested, const QVector<Failure> &failures)
 void Verdict::setCorner(const QPoint &topRight)
 {
     m_topRight = topRight;
-    place();
-}
-
-void Verdict::place()
-{
-    move(m_topRight - QPoint(width(), 0));
+    fit();
 }
 
 } // namespace Panel

@@ -3,13 +3,14 @@
 #pragma once
 
 #include <QLabel>
+#include <QStringList>
 #include <QVector>
 
 namespace Panel
 {
 
 /// PASS or FAIL over the upper right corner of a diagram, large enough to be read from afar, and the
-/// traces that fail. Hidden while nothing is tested.
+/// traces that fail, where there is room. Hidden while nothing is tested.
 class Verdict : public QLabel
 {
     Q_OBJECT
@@ -39,11 +40,12 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void place();
+    void fit();
     void tell(bool tested, const QVector<Failure> &failures);
 
     QVector<int> m_failing; ///< the traces
     bool m_tested = false;
+    QStringList m_texts; ///< the longest one first
     QPoint m_topRight;
 };
 
