@@ -19,7 +19,7 @@ namespace Panel
 namespace
 {
 
-constexpr int s_margin = 12;
+constexpr int s_pageMargin = 12;
 /// Of the height of a font.
 constexpr double s_lineSpacing = 1.4;
 
@@ -44,7 +44,8 @@ int DiagramPage::lineHeight() const
 QSize DiagramPage::size() const
 {
     const int lines = 2 + int(m_readings.size()); // title and time
-    return m_view->plot()->size() + QSize(2 * s_margin, 2 * s_margin + lines * lineHeight());
+    return m_view->plot()->size()
+        + QSize(2 * s_pageMargin, 2 * s_pageMargin + lines * lineHeight());
 }
 
 void DiagramPage::draw(QCPPainter *painter) const
@@ -59,20 +60,20 @@ void DiagramPage::draw(QCPPainter *painter) const
     painter->fillRect(QRect(QPoint(), size()), Qt::white);
 
     const auto write = [&](int y, Qt::Alignment alignment, const QString &text) {
-        const QRect line(s_margin, y, plot->width(), lineHeight());
+        const QRect line(s_pageMargin, y, plot->width(), lineHeight());
         painter->setFont(m_view->font());
         painter->setPen(Qt::black);
         painter->drawText(line, int(alignment | Qt::AlignVCenter | Qt::TextSingleLine),
                           m_view->fontMetrics().elidedText(text, Qt::ElideRight, line.width()));
     };
-    write(s_margin, Qt::AlignLeft, m_title);
+    write(s_pageMargin, Qt::AlignLeft, m_title);
 
     painter->save();
-    painter->translate(s_margin, s_margin + lineHeight());
+    painter->translate(s_pageMargin, s_pageMargin + lineHeight());
     plot->toPainter(painter, plot->width(), plot->height());
     painter->restore();
 
-    int y = s_margin + lineHeight() + plot->height();
+    int y = s_pageMargin + lineHeight() + plot->height();
     for (const QString &reading : m_readings) {
         write(y, Qt::AlignLeft, reading);
         y += lineHeight();

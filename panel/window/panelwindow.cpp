@@ -42,7 +42,7 @@ namespace
 {
 
 /// In pixels, less what a window manager adds to the smallest screen, of 800 x 480.
-constexpr QSize s_smallest(640, 400);
+constexpr QSize s_smallestContent(640, 400);
 
 /// The panel's sign: a small Smith chart.
 QPixmap mark(int size, const QColor &color, double ratio)
@@ -86,7 +86,7 @@ PanelWindow::PanelWindow(PanelModel *model, QWidget *parent)
     // Parents from the start: a widget that moves to one later is styled anew with all it holds.
     setCentralWidget(m_main);
     // Its layout wants more with every diagram and table: where there is no room, diagrams give way.
-    m_main->setMinimumSize(s_smallest);
+    m_main->setMinimumSize(s_smallestContent);
 
     auto *diagramColumn = new QVBoxLayout;
     diagramColumn->setSpacing(0);
