@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
 #include <complex>
 
@@ -206,14 +207,17 @@ MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format,
 namespace
 {
 
-/// A frequency with as many digits as a span can be read to: a marker between two points would have
-/// ten of them.
+/// A frequency with as many digits as a span can be read to, and those of its unit that are always
+/// written: a marker between two points would have ten of them.
 QString textWithin(double hertz, double span)
 {
     constexpr int digitsOfASpan = 6;
     if (!(span > 0.0) || !std::isfinite(hertz))
         return frequencyText(hertz);
-    const double digit = std::pow(10.0, std::floor(std::log10(span)) - digitsOfASpan + 1);
+    constexpr double decimalsOfAUnit = 3.0;
+    const double unit = 3.0 * std::floor(std::log10(std::max(std::abs(hertz), 1.0)) / 3.0);
+    const double digit = std::pow(
+        10.0, std::min(std::floor(std::log10(span)) - digitsOfASpan + 1, unit - decimalsOfAUnit));
     return frequencyText(std::round(hertz / digit) * digit);
 }
 
