@@ -170,6 +170,33 @@ void addDenseRows(RatioTable &table, unsigned seed)
                       "replot of four, " + data,
                       {"replot of four plain, " + data}});
     }
+
+    for (const double percent : {0.0, 2.0}) {
+        constexpr int points = 1601;
+        constexpr double width = 2.0;
+        const std::string data = (percent == 0.0 ? "clean" : nameOf(percent)) + ", 1601";
+        const auto trace = later(noise(percent, points));
+        for (const double pixels : {0.0, width}) {
+            add((pixels > 0.0 ? "wide, " : "thin, ") + data, [=](benchmark::State &state) {
+                replotFour(state, trace(), Drawn::ByChart, pixels);
+            });
+        }
+        add("wide by a painter, " + data, [=](benchmark::State &state) {
+            replotFour(state, trace(), Drawn::AsPlainCurve, width);
+        });
+        table.addRow({data + ", 4 lines of 2 pixels, to thin ones",
+                      points,
+                      Row::ShareOfTime,
+                      1.5,
+                      "wide, " + data,
+                      {"thin, " + data}});
+        table.addRow({data + ", 4 lines of 2 pixels, to a painter's",
+                      points,
+                      Row::ShareOfTime,
+                      0.3,
+                      "wide, " + data,
+                      {"wide by a painter, " + data}});
+    }
 }
 
 } // namespace Bench

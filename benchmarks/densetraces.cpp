@@ -19,10 +19,12 @@ struct Drawing {
     QVector<double> frequencies;
     QVector<QCPCurve *> plain;
 
-    Drawing(const Trace &trace, int count, Drawn drawn)
+    /// Lines of a width in pixels; 0: as thin as they can be.
+    Drawing(const Trace &trace, int count, Drawn drawn, double width = 0.0)
         : frequencies(indices(static_cast<int>(trace.real.size())))
     {
         layOut(plot);
+        chart.setTraceWidths(width, width);
         for (int id = 1; id <= count; ++id) {
             // The grid is shown where there is a trace, with data or without.
             chart.addCurve(id, QPen(Qt::GlobalColor(Qt::red + id - 1)));
@@ -82,9 +84,9 @@ void stepToPicture(benchmark::State &state, const Trace &trace, double magnifica
     }
 }
 
-void replotFour(benchmark::State &state, const Trace &trace, Drawn drawn)
+void replotFour(benchmark::State &state, const Trace &trace, Drawn drawn, double width)
 {
-    Drawing drawing(trace, 4, drawn);
+    Drawing drawing(trace, 4, drawn, width);
     for (int quarter = 0; quarter < 4; ++quarter)
         drawing.setData(quarter + 1, turned(trace, quarter));
     for (auto _ : state)

@@ -23,7 +23,8 @@ void newDataToPicture(benchmark::State &state, const Trace &trace, Drawn drawn);
 /// same way; draws each time.
 void stepToPicture(benchmark::State &state, const Trace &trace, double magnification);
 
-/// Draws four traces, each turned by another quarter, once more.
-void replotFour(benchmark::State &state, const Trace &trace, Drawn drawn);
+/// Draws four traces, each turned by another quarter, once more; lines of a width in pixels, or, at 0, as
+/// thin as they can be.
+void replotFour(benchmark::State &state, const Trace &trace, Drawn drawn, double width = 0.0);
 
 } // namespace Bench
