@@ -18,7 +18,7 @@ namespace Controls
     Not for what a widget shows all the time: its accessible name and description are read on the way.
 
     \code
-    auto *announcer = new Controls::Announcer(bar);
+    auto *announcer = new Controls::Announcer(diagramArea);
     announcer->announce(tr("Saved antenna.s1p"));
     \endcode */
 class VNAWIDGETS_EXPORT Announcer : public QObject

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <VnaWidgets/AccessiblePlot>
+#include <VnaWidgets/Announcer>
 #include <VnaWidgets/BaseUnitAdapter>
 #include <VnaWidgets/ComboBox>
 #include <VnaWidgets/DisplayPanel>
@@ -35,11 +36,13 @@
 #include <VnaWidgets/TabletComboBox2>
 #include <VnaWidgets/ThemeManager>
 #include <VnaWidgets/TouchNumKeyboard>
+#include <VnaWidgets/TraceGraph>
 #include <VnaWidgets/Translator>
 #include <VnaWidgets/WidgetMouseMoveTool>
 
 #include <platform/placement.h>
 #include <smithchart/tracesummary.h>
+#include <smithchart/tracetone.h>
 #include <smithchart/tracewalk.h>
 #include <utils/formatting.h>
 
