@@ -41,7 +41,7 @@ double shareAt(const QVector<double> &values, double hertz)
     }
     const double found =
         last * last + beforeLast * beforeLast - 2.0 * std::cos(step) * last * beforeLast;
-    return 2.0 * found / values.size() / values.size() / power(values);
+    return 2.0 * found / double(values.size()) / double(values.size()) / power(values);
 }
 
 /// By its zero crossings upwards.
@@ -50,7 +50,7 @@ double pitch(const QVector<double> &values)
     int crossings = 0;
     for (int i = 1; i < values.size(); ++i)
         crossings += values.at(i - 1) < 0.0 && values.at(i) >= 0.0 ? 1 : 0;
-    return crossings * double(rate) / values.size();
+    return crossings * double(rate) / double(values.size());
 }
 
 } // namespace
@@ -103,7 +103,7 @@ void tst_TraceTone::theTraceIsHeardFromEndToEnd()
         imag << 0.0;
     }
     const QVector<qint16> samples = traceSamples(real, imag, 2.0);
-    QVERIFY(qAbs(samples.size() / 2.0 / rate - 2.0) < 0.1);
+    QVERIFY(qAbs(double(samples.size()) / 2.0 / rate - 2.0) < 0.1);
     for (const double at : {0.5, 1.0, 1.5}) {
         const QVector<double> heard = channel(samples, 1, at - 0.05, at + 0.05);
         QVERIFY(qAbs(std::log2(pitch(heard) / 220.0) - 3.0 * at / 2.0) < 0.06);
