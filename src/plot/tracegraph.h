@@ -30,6 +30,7 @@ public:
     ~TraceGraph() override;
 
 protected:
+    /// Draws the line through \a lines, points in pixels of the plot that NaN parts.
     void drawLinePlot(QCPPainter *painter, const QVector<QPointF> &lines) const override;
 };
 
