@@ -84,6 +84,9 @@ void LetterKeys::setShown(bool shown)
         return;
     setVisible(shown);
     setShift(false);
+    // The first letter takes the place of what stands there; the line is done with the tap by then.
+    if (shown)
+        QMetaObject::invokeMethod(m_line, &QLineEdit::selectAll, Qt::QueuedConnection);
     Q_EMIT shownChanged(shown);
 }
 
