@@ -38,7 +38,7 @@ SwitchButton *addSwitch(SoftKeyMenu *menu, const QString &name)
 {
     auto *button = new SwitchButton(menu->begunPage());
     button->setText(name);
-    button->setTextMargins({10, 0, 10, 0});
+    button->setTextMargins({0, 0, 10, 0}); // level with the names of soft keys
     menu->addKey(button);
     return button;
 }

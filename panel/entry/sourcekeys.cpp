@@ -54,9 +54,7 @@ void SourceKeys::showState()
                                     : state.phase == SourceState::Ready ? state.identity
                                                                         : tr("Not there"));
     // What only an instrument has, and what only a simulation.
-    for (QWidget *key :
-         {static_cast<QWidget *>(m_keys.ifBandwidth), static_cast<QWidget *>(m_keys.power),
-          static_cast<QWidget *>(m_keys.averages)})
+    for (SoftKey *key : {m_keys.ifBandwidth, m_keys.power})
         key->setVisible(instrument);
     m_keys.tune->setVisible(!instrument);
     m_keys.timing->setVisible(!instrument);

@@ -10,6 +10,9 @@ namespace Panel
 namespace
 {
 
+/// Of sweeps of a simulated source.
+constexpr double s_maximumAverages = 999.0;
+
 struct SourceText {
     Q_DECLARE_TR_FUNCTIONS(Panel::Source)
 };
@@ -41,6 +44,7 @@ SourceLimits sourceLimits(Source source)
     limits.frequency = {Sweep::limits.start, Sweep::limits.stop};
     limits.smallestSpan = Sweep::smallestSpan;
     limits.points = {double(Sweep::minimumPoints), double(Sweep::maximumPoints)};
+    limits.averages = {1.0, s_maximumAverages};
     if (source == Source::Antenna)
         limits.tuning = {tuningLimits.start, tuningLimits.stop};
     return limits;

@@ -16,6 +16,7 @@ namespace Panel
 
     \code
     ProgressiveSweep sweep(Source::Cable, range, defaultTuning);
+    sweep.setAverages(16);
     sweep.advance(1601);
     show(sweep.frame(), sweep.progress());
     \endcode */
@@ -34,14 +35,21 @@ public:
     /// Begins a sweep over the device as it is now; what was measured stays until it is swept
     /// anew.
     void setTuning(double tuning);
+    /// How many sweeps are averaged, 1 for none; begins anew. The mean of all sweeps until there are
+    /// so many, then each new one counts for its share: what has changed fades in.
+    void setAverages(int averages);
 
 private:
+    void average(Network &frame, const Network &mean) const;
+
     Source m_source;
     Sweep m_sweep;
     SimulatedDevice m_device;
     Network m_frames[2];
     int m_current = 0;
     int m_position = 0; ///< points of the present sweep that are measured
+    int m_averages = 1;
+    int m_sweeps = 0; ///< that the averages have, with the present one
     /// What the frame handed out has and the other one lacks.
     int m_from = 0, m_to = 0;
     quint64 m_moment = 0;

@@ -28,20 +28,23 @@ SweepSource::SweepSource(QObject *parent)
 
 void SweepSource::start(const MeasurementSettings &settings)
 {
-    start(m_device, settings.sweep, settings.tuning);
+    start(m_device, settings.sweep, settings.tuning, settings.acquisition.averages);
 }
 
-void SweepSource::start(Source source, const Sweep &sweep, double tuning)
+void SweepSource::start(Source source, const Sweep &sweep, double tuning, int averages)
 {
     stop();
     m_device = source;
     m_settings = {sweep, {}, tuning};
+    m_settings.acquisition.averages = averages;
     ++m_start;
     m_worker.begin();
     m_measurement = std::make_shared<std::unique_ptr<ProgressiveSweep>>();
-    m_worker.post([measurement = m_measurement, source, sweep, tuning](const Worker::Job &) {
-        *measurement = std::make_unique<ProgressiveSweep>(source, sweep, tuning);
-    });
+    m_worker.post(
+        [measurement = m_measurement, source, sweep, tuning, averages](const Worker::Job &) {
+            *measurement = std::make_unique<ProgressiveSweep>(source, sweep, tuning);
+            (*measurement)->setAverages(averages);
+        });
     m_first = true;
     m_once = false;
     m_clock.start();
@@ -81,12 +84,19 @@ void SweepSource::setSettings(const MeasurementSettings &settings)
 {
     if (settings.sweep != m_settings.sweep) {
         start(settings);
-    } else if (settings.tuning != m_settings.tuning) {
-        m_settings = settings;
-        m_worker.post([measurement = m_measurement, tuning = settings.tuning](const Worker::Job &) {
-            (*measurement)->setTuning(tuning);
-        });
+        return;
     }
+    const bool tuned = settings.tuning != m_settings.tuning;
+    const bool averaged = settings.acquisition.averages != m_settings.acquisition.averages;
+    m_settings = settings;
+    if (!tuned && !averaged)
+        return;
+    m_worker.post([measurement = m_measurement, settings, tuned, averaged](const Worker::Job &) {
+        if (tuned)
+            (*measurement)->setTuning(settings.tuning);
+        if (averaged)
+            (*measurement)->setAverages(settings.acquisition.averages);
+    });
 }
 
 void SweepSource::requestFrame()

@@ -44,12 +44,12 @@ public:
 
     void choose(Source source, const QString &) override { m_device = source; }
     void start(const MeasurementSettings &settings) override;
-    /// Sweeps this device, tuned to so many Hz, from now on.
-    void start(Source source, const Sweep &sweep, double tuning);
+    /// Sweeps this device, tuned to so many Hz, from now on; averages so many sweeps.
+    void start(Source source, const Sweep &sweep, double tuning, int averages = 1);
     void stop() override;
     bool isRunning() const { return m_worker.isBusy(); }
 
-    /// Another sweep is a start; a tuning alone begins the sweep in progress anew.
+    /// Another sweep is a start; a tuning or averages alone begin the sweep in progress anew.
     void setSettings(const MeasurementSettings &settings) override;
     /// A sweep that is held in the middle goes on where it was.
     void setHeld(bool held) override;

@@ -166,6 +166,37 @@ private Q_SLOTS:
         QCOMPARE(before.s(1, 1).real.constData(), place);
     }
 
+    /// Noise goes with the square root; what changes fades in, and another number begins anew.
+    void averagesSweeps()
+    {
+        constexpr int points = 40001,
+                      averages = 16; // so many that neighbours differ by noise alone
+        const auto noise = [](const ProgressiveSweep &sweep) {
+            const QVector<double> &values = sweep.frame().parameters.first().real;
+            double sum = 0.0;
+            for (int i = 0; i + 2 < points; ++i)
+                sum += std::pow(values.at(i) - 2.0 * values.at(i + 1) + values.at(i + 2), 2.0);
+            return std::sqrt(sum / points);
+        };
+        ProgressiveSweep sweep(Source::Cable, defaultSweep(Source::Cable, points), defaultTuning);
+        const auto advance = [&sweep](int sweeps) {
+            for (int part = 0; part < 2 * sweeps; ++part)
+                sweep.advance(part % 2 ? points : 12000);
+        };
+        advance(2);
+        const double single = noise(sweep);
+        sweep.setAverages(averages);
+        advance(1);
+        QVERIFY(qAbs(noise(sweep) / single - 1.0) < 0.1);
+        advance(averages - 1);
+        QVERIFY(noise(sweep) < single / 3.0 && noise(sweep) > single / 5.0);
+        advance(3 * averages);
+        QVERIFY(noise(sweep) < single / 3.0);
+        sweep.setAverages(1);
+        advance(1);
+        QVERIFY(qAbs(noise(sweep) / single - 1.0) < 0.1);
+    }
+
     void sourceSweepsOn()
     {
         SweepSource source;
