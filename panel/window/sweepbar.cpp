@@ -32,7 +32,8 @@ SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, s_lineWidth, 0, 0);
     column->addWidget(m_bar);
-    connect(m_model, &PanelModel::activeTraceChanged, this, &SweepBar::showRange);
+    connect(m_model, &PanelModel::tracesChanged, this, &SweepBar::showRange);
+    connect(m_model, &PanelModel::traceVisibleChanged, this, &SweepBar::showRange);
     connect(m_model, &PanelModel::stimulusChanged, this, &SweepBar::showRange);
     connect(m_model, &PanelModel::networkUpdated, this, &SweepBar::showRange);
     // What was counted was another sweep's.
@@ -57,12 +58,18 @@ SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
     showRange();
 }
 
+/// From the first to the last frequency of all that is on show, as the axes have it.
 void SweepBar::showRange()
 {
-    const Trace *trace = m_model->activeTrace();
-    const double none = qQNaN();
-    m_bar->updateRange(frequencyText(trace ? m_model->stimulus(*trace).start : none),
-                       frequencyText(trace ? m_model->stimulus(*trace).stop : none));
+    double start = qInf(), stop = -qInf();
+    for (const Trace &trace : m_model->traces()) {
+        if (!trace.visible)
+            continue;
+        const Stimulus range = m_model->stimulus(trace);
+        start = qMin(start, range.start);
+        stop = qMax(stop, range.stop);
+    }
+    m_bar->updateRange(frequencyText(start), frequencyText(stop));
 }
 
 void SweepBar::setProgress(double progress)
