@@ -181,19 +181,24 @@ void LimitSheet::setLines(const QVector<LimitLine> &lines)
     m_model->setLimits(m_trace, all + lines);
 }
 
-/// A new line goes on where the last one ends, or over all that is on show.
+/// A new line goes on where the last one ends. After one over all that is on show comes its
+/// counterpart, two divisions away: what must stay below one has a lower end, too, more often than not.
 void LimitSheet::addLine()
 {
     const Trace &trace = *m_model->trace(m_trace);
     const QVector<LimitLine> before = lines();
     const Stimulus shown = m_model->shownRange(trace);
     LimitLine added{m_format, true, shown.start, shown.stop, 0.0, 0.0};
-    added.startValue = added.stopValue = trace.scale.top - 2.0 * trace.scale.perDivision;
+    const double step = 2.0 * trace.scale.perDivision;
+    added.startValue = added.stopValue = trace.scale.top - step;
     if (!before.isEmpty()) {
-        added.upper = before.constLast().upper;
-        added.startValue = added.stopValue = before.constLast().stopValue;
-        if (before.constLast().stop < shown.stop)
-            added.start = qMax(before.constLast().stop, shown.start);
+        const LimitLine &last = before.constLast();
+        const bool goesOn = last.stop < shown.stop;
+        added.upper = goesOn ? last.upper : !last.upper;
+        added.startValue = last.stopValue + (goesOn ? 0.0 : added.upper ? step : -step);
+        added.stopValue = added.startValue;
+        if (goesOn)
+            added.start = qMax(last.stop, shown.start);
     }
     setLines(before + QVector<LimitLine>{added});
 }
