@@ -345,29 +345,6 @@ private Q_SLOTS:
         QVERIFY(turns > 1);
     }
 
-    /// No two traces look alike, whichever file they are of.
-    void tracesOfTwoFilesDiffer()
-    {
-        Desk desk;
-        QVERIFY(desk.openSamples({"amplifier.s2p"_s, "band-pass.s2p"_s}));
-        Desk::settle();
-        QCOMPARE(desk.model.traces().size(), 8);
-        QVector<QColor> colors;
-        for (const Trace &trace : desk.model.traces()) {
-            const QPen pen = currentLook().pen(trace.id, trace.network);
-            QVERIFY(!colors.contains(pen.color()));
-            colors << pen.color();
-            QCOMPARE(pen.style() == Qt::SolidLine, trace.network == 0);
-            const QCPGraph *graph = desk.view()->graph(trace.id);
-            if (!graph)
-                continue;
-            QCOMPARE(graph->pen().color(), pen.color());
-            QCOMPARE(graph->pen().dashPattern(), pen.dashPattern());
-            // Dashes are left to painters, which are slow with wide ones.
-            QCOMPARE(graph->pen().widthF() > 1.0, pen.style() == Qt::SolidLine);
-        }
-    }
-
     void offersToFitWhatIsOutside()
     {
         Desk desk;

@@ -3,6 +3,7 @@
 #include "desk.h"
 
 #include <controls/thememanager.h>
+#include <panel/diagrams/cartesianview.h>
 #include <panel/diagrams/readouts.h>
 #include <panel/entry/tracebar.h>
 #include <panel/ground/languages.h>
@@ -125,6 +126,29 @@ private Q_SLOTS:
         QVERIFY(Controls::ThemeManager::instance()->isDarkTheme());
         QCOMPARE(desk.window.grab().toImage().pixelColor(desk.inWindow(desk.onPlot(0.01, 0.01))),
                  currentLook().background);
+    }
+
+    /// No two traces look alike, whichever file they are of.
+    void tracesOfTwoFilesDiffer()
+    {
+        ChartDesk desk;
+        QVERIFY(desk.openSamples({"amplifier.s2p"_s, "band-pass.s2p"_s}));
+        ChartDesk::settle();
+        QCOMPARE(desk.model.traces().size(), 8);
+        QVector<QColor> colors;
+        for (const Trace &trace : desk.model.traces()) {
+            const QPen pen = currentLook().pen(trace.id, trace.network);
+            QVERIFY(!colors.contains(pen.color()));
+            colors << pen.color();
+            QCOMPARE(pen.style() == Qt::SolidLine, trace.network == 0);
+            const QCPGraph *graph = desk.window.cartesianView()->graph(trace.id);
+            if (!graph)
+                continue;
+            QCOMPARE(graph->pen().color(), pen.color());
+            QCOMPARE(graph->pen().dashPattern(), pen.dashPattern());
+            // Dashes are left to painters, which are slow with wide ones.
+            QCOMPARE(graph->pen().widthF() > 1.0, pen.style() == Qt::SolidLine);
+        }
     }
 
     void activatesAndHidesTraces()
