@@ -421,11 +421,21 @@ STAGES = {
 }
 
 
+def run_stage(name, places):
+    stage, size, _ = STAGES[name]
+    with tempfile.TemporaryDirectory() as home, x_server(*size, "-fbdir", home) as display:
+        os.chmod(home, 0o700)
+        os.environ["DISPLAY"] = display
+        with stage(places, home) as (panel, hide_and_show):
+            take_the_tour(panel, hide_and_show)
+
+
 def inside():
-    """Within a session bus of its own."""
+    """Within a session bus of its own. A stage that fails is tried once more, and says so: servers and viewers
+    start in their own time, and what is broken in the panel fails twice."""
     places, missing = Places(), []
     wanted = sys.argv[3:] or STAGES
-    for name, (stage, size, needed) in STAGES.items():
+    for name, (_, _, needed) in STAGES.items():
         if name not in wanted:
             continue
         if not all(map(shutil.which, needed)):
@@ -433,11 +443,11 @@ def inside():
             continue
         print(name, flush=True)
         begin = time.monotonic()
-        with tempfile.TemporaryDirectory() as home, x_server(*size, "-fbdir", home) as display:
-            os.chmod(home, 0o700)
-            os.environ["DISPLAY"] = display
-            with stage(places, home) as (panel, hide_and_show):
-                take_the_tour(panel, hide_and_show)
+        try:
+            run_stage(name, places)
+        except (Exception, SystemExit) as problem:
+            print(f"{name}: {problem}; once more", flush=True)
+            run_stage(name, places)
         print(f"{name}: well, {time.monotonic() - begin:.1f} s", flush=True)
     if missing:
         print("skipped, for lack of", ", ".join(missing))
