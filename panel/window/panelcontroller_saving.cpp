@@ -94,6 +94,7 @@ void PanelController::onSavePicked(int command)
         tell(exportData(network, folder, DataFormat::Csv));
         break;
     case CopyPicture:
+        m_window->messageBar()->notify({}); // of what was saved before
         QGuiApplication::clipboard()->setPixmap(m_window->grab());
         m_window->messageBar()->notify(tr("Copied the picture"));
         break;
