@@ -231,6 +231,14 @@
         <source>No Touchstone files here</source>
         <translation>Keine Touchstone-Dateien hier</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Show them beside the files on show</source>
+        <translation>Neben den gezeigten Dateien zeigen</translation>
+    </message>
 </context>
 <context>
     <name>Panel::FileNotes</name>
@@ -249,6 +257,14 @@
     <message>
         <source>%1: %2.</source>
         <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not in %2.</source>
+        <translation>%1 ist nicht in %2.</translation>
+    </message>
+    <message>
+        <source>%1 are not in %2.</source>
+        <translation>%1 sind nicht in %2.</translation>
     </message>
 </context>
 <context>

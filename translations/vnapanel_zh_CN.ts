@@ -225,6 +225,14 @@
         <source>No Touchstone files here</source>
         <translation>此处没有 Touchstone 文件</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Show them beside the files on show</source>
+        <translation>与已显示的文件一起显示</translation>
+    </message>
 </context>
 <context>
     <name>Panel::FileNotes</name>
@@ -243,6 +251,14 @@
     <message>
         <source>%1: %2.</source>
         <translation>%1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is not in %2.</source>
+        <translation>%2 中没有 %1。</translation>
+    </message>
+    <message>
+        <source>%1 are not in %2.</source>
+        <translation>%2 中没有 %1。</translation>
     </message>
 </context>
 <context>

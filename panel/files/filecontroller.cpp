@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "filecontroller.h"
 
+#include "arrangement.h"
 #include "filenotes.h"
+#include "samples.h"
 
 #include <panel/model/panelmodel.h>
 
@@ -62,8 +64,7 @@ FileController::FileController(PanelModel *model, QObject *parent)
     connect(&m_loader, &FileLoader::finished, this, &FileController::onFinished);
     connect(&m_watch, &FileWatch::changed, this, &FileController::onChanged);
     connect(&m_watch, &FileWatch::vanished, this, &FileController::onVanished);
-    // A simulation may have hidden files that changed meanwhile.
-    connect(m_model, &PanelModel::networksChanged, this, &FileController::showDiskState);
+    connect(m_model, &PanelModel::networksChanged, this, &FileController::followNetworks);
 }
 
 bool FileController::openFiles(const QStringList &paths)
@@ -72,18 +73,34 @@ bool FileController::openFiles(const QStringList &paths)
     m_patience.stop();
     startReading(paths);
     const ReadFiles files = readFiles(paths);
-    open(files);
+    open(files, Open);
     return files.refusals.isEmpty();
 }
 
 void FileController::loadFiles(const QStringList &paths)
 {
-    load(paths, false);
+    load(paths, Open);
+}
+
+void FileController::addFiles(const QStringList &paths)
+{
+    QStringList all = pathsOf(m_model->files());
+    all.removeAll(QString());
+    for (const QString &path : paths) {
+        if (!all.contains(path))
+            all << path;
+    }
+    load(all, Open);
+}
+
+void FileController::loadFilesAfresh(const QStringList &paths)
+{
+    load(paths, OpenAfresh);
 }
 
 void FileController::reloadFiles(const QStringList &paths)
 {
-    load(paths, true);
+    load(paths, Reload);
 }
 
 void FileController::startReading(const QStringList &paths)
@@ -96,12 +113,12 @@ void FileController::startReading(const QStringList &paths)
     }
 }
 
-void FileController::load(const QStringList &paths, bool again)
+void FileController::load(const QStringList &paths, Purpose purpose)
 {
     if (paths.isEmpty())
         return;
     startReading(paths);
-    m_again = again;
+    m_purpose = purpose;
     m_percent = 0;
     m_reading = paths.size() == 1 ? tr("Reading %1").arg(fileName(paths.first()))
                                   : tr("Reading %n files", nullptr, int(paths.size()));
@@ -121,29 +138,33 @@ void FileController::cancel()
 void FileController::onFinished(const ReadFiles &files)
 {
     m_patience.stop();
-    if (m_again)
+    if (m_purpose == Reload)
         update(files);
     else
-        open(files);
+        open(files, m_purpose);
 }
 
-void FileController::open(const ReadFiles &files)
+void FileController::open(const ReadFiles &files, Purpose purpose)
 {
+    QString note;
     if (!files.networks.isEmpty()) {
         m_folder = QFileInfo(files.networks.last().path).absolutePath();
-        m_model->openNetworks(files.networks);
+        if (purpose == Open)
+            note = missingNote(openArranged(m_model, files.networks), files.networks);
+        else
+            m_model->openNetworks(files.networks);
     }
-    report(files);
+    report(files, note);
 }
 
 void FileController::update(const ReadFiles &files)
 {
     for (const Network &network : files.networks)
         m_model->updateFile(int(pathsOf(m_model->files()).indexOf(network.path)), network);
-    report(files);
+    report(files, QString());
 }
 
-void FileController::report(const ReadFiles &files)
+void FileController::report(const ReadFiles &files, const QString &note)
 {
     m_watch.setPaths(pathsOf(m_model->files()));
     QStringList sentences;
@@ -153,12 +174,36 @@ void FileController::report(const ReadFiles &files)
                      qUtf8Printable(refusal.result.sentence(refusal.path)));
     }
     sentences << fileNotes(files.networks);
+    const bool fine = sentences.isEmpty();
+    if (!fine && !note.isEmpty())
+        sentences << note;
     const int more = int(sentences.size()) - s_maximumSentences;
     if (more > 0) {
         sentences = sentences.mid(0, s_maximumSentences);
         sentences.last() += QLatin1Char(' ') + tr("(%n more)", nullptr, more);
     }
     Q_EMIT reported(sentences.join(QLatin1Char('\n')));
+    if (fine && !note.isEmpty())
+        Q_EMIT noted(note);
+    showDiskState();
+}
+
+/// What is on show may not be what was opened last: a simulation has hidden files that changed
+/// meanwhile, or a step back has brought others.
+void FileController::followNetworks()
+{
+    if (!m_loader.isLoading()) {
+        m_watch.setPaths(pathsOf(m_model->files()));
+        for (const Network &file : m_model->files()) {
+            const QFileInfo info(file.path);
+            if (!file.fileTime.isValid() || isSample(file))
+                continue;
+            if (!info.exists())
+                m_gone.insert(file.path);
+            else if (info.lastModified() != file.fileTime)
+                m_changed.insert(file.path);
+        }
+    }
     showDiskState();
 }
 

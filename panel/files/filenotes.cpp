@@ -63,4 +63,18 @@ QStringList fileNotes(const QVector<Network> &networks)
     return notes;
 }
 
+QString missingNote(const QStringList &parameters, const QVector<Network> &networks)
+{
+    if (parameters.isEmpty())
+        return {};
+    QStringList files;
+    for (const Network &network : networks)
+        files << network.name;
+    const QString text = parameters.size() == 1
+        ? QCoreApplication::translate("Panel::FileNotes", "%1 is not in %2.")
+        : QCoreApplication::translate("Panel::FileNotes", "%1 are not in %2.");
+    const QString comma = QStringLiteral(", ");
+    return text.arg(parameters.join(comma), files.join(comma));
+}
+
 } // namespace Panel

@@ -16,4 +16,7 @@ namespace Panel
 /// without values.
 QStringList fileNotes(const QVector<Network> &networks);
 
+/// A sentence on parameters that were on show and that these files do not have, or nothing.
+QString missingNote(const QStringList &parameters, const QVector<Network> &networks);
+
 } // namespace Panel

@@ -6,8 +6,24 @@
 
 #include <panel/model/panelmodel.h>
 
+#include <QSet>
+
+#include <algorithm>
+
 namespace Panel
 {
+
+bool History::Step::operator==(const Step &other) const
+{
+    if (view != other.view || opening != other.opening || memories.size() != other.memories.size())
+        return false;
+    for (auto memory = memories.begin(); memory != memories.end(); ++memory) {
+        const auto found = other.memories.constFind(memory.key());
+        if (found == other.memories.constEnd() || !sharesData(*memory, *found))
+            return false;
+    }
+    return true;
+}
 
 History::History(PanelModel *model, QObject *parent)
     : QObject(parent)
@@ -17,7 +33,8 @@ History::History(PanelModel *model, QObject *parent)
     m_timer.setInterval(pause);
     connect(&m_timer, &QTimer::timeout, this, &History::record);
     followModel();
-    begin();
+    m_openings = {shownFiles()};
+    m_steps = {shownStep()};
 }
 
 void History::followModel()
@@ -35,12 +52,33 @@ void History::followModel()
     connect(m_model, &PanelModel::traceVisibleChanged, this, note);
     connect(m_model, &PanelModel::zoomChanged, this, note);
     connect(m_model->viewSettings(), &ViewSettings::changed, this, note);
-    // What follows from new networks belongs to them.
-    connect(m_model, &PanelModel::networksChanged, this, [this] {
-        m_states.clear();
-        m_current = 0;
-        noteChange();
+    connect(m_model, &PanelModel::memoryChanged, this, note);
+    connect(m_model, &PanelModel::networksChanged, this, &History::onNetworksChanged);
+    connect(m_model, &PanelModel::networkUpdated, this, [this] {
+        if (!shownFiles().isEmpty())
+            m_openings[m_opening] = shownFiles();
     });
+}
+
+QVector<Network> History::shownFiles() const
+{
+    return m_model->source() == Source::Files ? m_model->networks() : QVector<Network>();
+}
+
+/// Files in the place of others are a step; what is shown of another source belongs to it.
+void History::onNetworksChanged()
+{
+    if (m_restoring)
+        return;
+    const QVector<Network> files = shownFiles();
+    if (files.isEmpty() || m_openings.at(m_opening).isEmpty()) {
+        m_steps.clear();
+        m_openings.clear();
+        m_current = 0;
+    }
+    m_opening = int(m_openings.size());
+    m_openings.append(files);
+    noteChange();
 }
 
 void History::noteChange()
@@ -51,27 +89,60 @@ void History::noteChange()
     Q_EMIT changed();
 }
 
-void History::begin()
+History::Step History::shownStep() const
 {
-    m_states = {viewState(*m_model)};
-    m_current = 0;
+    return {viewState(*m_model), m_model->memories(), m_opening};
 }
 
 /// Ends a step.
 void History::record()
 {
     m_timer.stop();
-    const QJsonObject state = viewState(*m_model);
-    if (m_states.isEmpty()) {
-        begin();
-    } else if (state != m_states.at(m_current)) {
-        m_states.resize(m_current + 1);
-        m_states.append(state);
-        if (m_states.size() > longest + 1)
-            m_states.removeFirst();
-        m_current = int(m_states.size()) - 1;
+    const Step step = shownStep();
+    if (m_steps.isEmpty()) {
+        m_steps = {step};
+    } else if (!(step == m_steps.at(m_current))) {
+        m_steps.resize(m_current + 1);
+        m_steps.append(step);
+        m_current = int(m_steps.size()) - 1;
+        trim();
     }
     Q_EMIT changed();
+}
+
+/// Forgets the oldest steps where there are too many, or their data are too large.
+void History::trim()
+{
+    int previous = m_current;
+    while (previous > 0 && m_steps.at(previous).opening == m_opening)
+        --previous;
+    QSet<int> openings{m_opening, m_steps.at(previous).opening};
+    QSet<const double *> memories;
+    qint64 numbers = 0;
+    int first = m_current;
+    for (; first > 0 && m_current - first < longest; --first) {
+        const Step &step = m_steps.at(first - 1);
+        if (!openings.contains(step.opening)) {
+            for (const Network &network : m_openings.at(step.opening))
+                numbers += qint64(network.points()) * (1 + 2 * network.parameters.size());
+        }
+        openings.insert(step.opening);
+        for (const TraceData &memory : step.memories) {
+            if (!memories.contains(memory.parameter.real.constData()))
+                numbers += 2 * qint64(memory.points());
+            memories.insert(memory.parameter.real.constData());
+        }
+        if (numbers > largest)
+            break;
+    }
+    m_steps.remove(0, first);
+    m_current -= first;
+    for (int i = 0; i < m_openings.size(); ++i) {
+        const bool needed = std::any_of(m_steps.constBegin(), m_steps.constEnd(),
+                                        [i](const Step &step) { return step.opening == i; });
+        if (!needed)
+            m_openings[i].clear();
+    }
 }
 
 void History::undo()
@@ -88,13 +159,19 @@ void History::redo()
     goTo(m_current + 1);
 }
 
-void History::goTo(int step)
+void History::goTo(int index)
 {
-    if (step < 0 || step >= m_states.size())
+    if (index < 0 || index >= m_steps.size())
         return;
-    m_current = step;
+    m_current = index;
     m_restoring = true;
-    restoreViewState(m_model, m_states.at(step));
+    const Step step = m_steps.at(index);
+    if (step.opening != m_opening) {
+        m_opening = step.opening;
+        m_model->openNetworks(QVector<Network>(m_openings.at(m_opening)));
+    }
+    restoreViewSettings(m_model->viewSettings(), step.view);
+    restoreNetworks(m_model, step.view, &step.memories);
     m_restoring = false;
     Q_EMIT changed();
 }

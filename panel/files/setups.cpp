@@ -143,7 +143,7 @@ void Setups::recall(const QString &name)
         if (opened == state.files())
             QMetaObject::invokeMethod(this, restore, Qt::QueuedConnection);
     });
-    m_files->loadFiles(state.files());
+    m_files->loadFilesAfresh(state.files());
 }
 
 void Setups::preset()

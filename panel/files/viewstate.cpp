@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "viewstate.h"
 
+#include "zoomstate.h"
+
 #include <panel/model/panelmodel.h>
 
 #include <QJsonArray>
@@ -42,12 +44,6 @@ bool isTrace(const QJsonObject &trace)
         && trace["top"_key].isDouble() && trace["visible"_key].isBool()
         && isChoice(trace["reference"_key], Markers::perTrace + 1)
         && isChoice(trace["id"_key].toInt(), Trace::maximumCount + 1);
-}
-
-/// What tells a network apart: its file, or what was simulated.
-QString identity(const Network &network)
-{
-    return network.path.isEmpty() ? network.name : network.path;
 }
 
 QJsonObject written(const PanelModel &model, const Trace &trace)
@@ -120,7 +116,7 @@ QJsonArray writtenNetworks(const PanelModel &model)
             correction = model.correction(trace);
             traces.append(written(model, trace));
         }
-        networks.append(QJsonObject{{"identity"_key, identity(model.networks().at(i))},
+        networks.append(QJsonObject{{"identity"_key, networkIdentity(model.networks().at(i))},
                                     {"start"_key, shown.start},
                                     {"stop"_key, shown.stop},
                                     {"delays"_key, writtenDelays(correction)},
@@ -128,18 +124,6 @@ QJsonArray writtenNetworks(const PanelModel &model)
                                     {"traces"_key, traces}});
     }
     return networks;
-}
-
-QJsonArray writtenZooms(const PanelModel &model)
-{
-    QJsonArray zooms;
-    for (const auto &[id, zoom] : model.zooms())
-        zooms.append(QJsonObject{{"smith"_key, id.smith},
-                                 {"place"_key, id.place},
-                                 {"factor"_key, zoom.factor},
-                                 {"x"_key, zoom.x},
-                                 {"y"_key, zoom.y}});
-    return zooms;
 }
 
 /// What cannot be is left out.
@@ -164,9 +148,21 @@ bool holdsMarker(const QJsonObject &trace, int number)
     });
 }
 
-void restoreTrace(PanelModel *model, int id, const QJsonObject &saved)
+/// What was stored of the trace that has this id in a state comes back, and nothing else.
+void restoreMemory(PanelModel *model, int id, const Memories &memories, int savedId)
+{
+    const auto found = memories.constFind(savedId);
+    if (found == memories.constEnd())
+        model->clearMemory(id);
+    else if (!model->memory(id) || !sharesData(*model->memory(id), *found))
+        model->restoreMemory(id, *found);
+}
+
+void restoreTrace(PanelModel *model, int id, const QJsonObject &saved, const Memories *memories)
 {
     model->setTraceParameter(id, saved["to"_key].toInt(), saved["from"_key].toInt());
+    if (memories)
+        restoreMemory(model, id, *memories, saved["id"_key].toInt());
     model->setTraceFormat(id, TraceFormat(saved["format"_key].toInt()));
     // Before the scale, to which it fits the result.
     if (isChoice(saved["math"_key], traceMathCount))
@@ -220,8 +216,25 @@ QVector<int> idsOfNetwork(const PanelModel &model, int network)
     return ids;
 }
 
+/// Removes all traces but one that were not saved of a network: another may have had their ids.
+void freeIds(PanelModel *model, int network, const QJsonObject &saved)
+{
+    const QJsonArray traces = saved["traces"_key].toArray();
+    QVector<int> others = idsOfNetwork(*model, network);
+    const int count = int(others.size());
+    for (const QJsonValue trace : traces)
+        others.removeOne(trace.toObject()["id"_key].toInt());
+    if (traces.isEmpty() || count == 0)
+        return;
+    if (others.size() == count)
+        others.removeFirst();
+    for (const int id : qAsConst(others))
+        model->removeTrace(id);
+}
+
 /// Gives a network the traces that were saved of it, those with their ids where they have one.
-QVector<SavedTrace> restoreTraces(PanelModel *model, int network, const QJsonObject &saved)
+QVector<SavedTrace> restoreTraces(PanelModel *model, int network, const QJsonObject &saved,
+                                  const Memories *memories)
 {
     const QJsonArray traces = saved["traces"_key].toArray();
     QVector<int> present = idsOfNetwork(*model, network);
@@ -249,22 +262,8 @@ QVector<SavedTrace> restoreTraces(PanelModel *model, int network, const QJsonObj
             model->removeTrace(id);
     }
     for (const SavedTrace &trace : qAsConst(restored))
-        restoreTrace(model, trace.first, trace.second);
+        restoreTrace(model, trace.first, trace.second, memories);
     return restored;
-}
-
-/// A diagram that was not saved shows all.
-void restoreZooms(PanelModel *model, const QJsonArray &saved)
-{
-    const std::map<DiagramId, Zoom> before = model->zooms();
-    for (const auto &[id, zoom] : before)
-        model->setZoom(id, Zoom());
-    for (const QJsonValue value : saved) {
-        const QJsonObject zoom = value.toObject();
-        model->setZoom(
-            {zoom["smith"_key].toBool(), zoom["place"_key].toInt()},
-            {zoom["factor"_key].toDouble(), zoom["x"_key].toDouble(), zoom["y"_key].toDouble()});
-    }
 }
 
 } // namespace
@@ -284,6 +283,11 @@ void restoreViewSettings(ViewSettings *view, const QJsonObject &state)
     view->setBandwidthDecibels(state["bandwidth"_key].toDouble());
     view->setReadoutFormat(ReadoutFormat(state["readout"_key].toInt()));
     view->setOnlyActiveTrace(state["onlyActiveTrace"_key].toBool());
+}
+
+QString networkIdentity(const Network &network)
+{
+    return network.path.isEmpty() ? network.name : network.path;
 }
 
 bool isChoice(const QJsonValue &value, int count)
@@ -332,22 +336,22 @@ QJsonObject viewState(const PanelModel &model)
         {"markersDiscrete"_key, model.markersDiscrete()},
         {"markersCoupled"_key, model.markersCoupled()},
         {"networks"_key, writtenNetworks(model)},
-        {"zooms"_key, writtenZooms(model)},
+        {"zooms"_key, zoomState(model)},
     };
 }
 
-void restoreNetworks(PanelModel *model, const QJsonObject &state)
+void restoreNetworks(PanelModel *model, const QJsonObject &state, const Memories *memories)
 {
     const QJsonArray saved = state["networks"_key].toArray();
     QVector<bool> used(saved.size(), false);
     bool same = saved.size() == model->networks().size();
-    QVector<SavedTrace> restored;
+    QVector<std::pair<int, QJsonObject>> known;
     for (int i = 0; i < model->networks().size(); ++i) {
         int found = 0;
         const auto isOurs = [&](int index) {
             return !used.at(index)
                 && saved.at(index).toObject()["identity"_key].toString()
-                == identity(model->networks().at(i));
+                == networkIdentity(model->networks().at(i));
         };
         while (found < saved.size() && !isOurs(found))
             ++found;
@@ -355,16 +359,19 @@ void restoreNetworks(PanelModel *model, const QJsonObject &state)
         if (found == saved.size())
             continue;
         used[found] = true;
-        const QJsonObject network = saved.at(found).toObject();
-        restored += restoreTraces(model, i, network);
+        known.append({i, saved.at(found).toObject()});
+        freeIds(model, i, known.constLast().second);
     }
+    QVector<SavedTrace> restored;
+    for (const auto &[network, traces] : qAsConst(known))
+        restored += restoreTraces(model, network, traces, memories);
     bool selected = false;
     for (const auto &[id, trace] : qAsConst(restored))
         selected = restoreChoices(model, id, trace) || selected;
     if (!selected && !restored.isEmpty())
         model->selectMarker(0, 0);
     if (same)
-        restoreZooms(model, state["zooms"_key].toArray());
+        restoreZoomState(model, state["zooms"_key].toArray());
     // After the markers, or the first would bring the others along.
     model->setMarkersDiscrete(state["markersDiscrete"_key].toBool());
     model->setMarkersCoupled(state["markersCoupled"_key].toBool());

@@ -5,6 +5,9 @@
     part on show, its correction, its traces and their markers. Measured data are not among it. */
 #pragma once
 
+#include <panel/model/tracedata.h>
+
+#include <QHash>
 #include <QJsonObject>
 
 namespace Panel
@@ -23,8 +26,15 @@ void restoreViewSettings(ViewSettings *settings, const QJsonObject &state);
 /// Shows the networks in that way. What belongs to a network comes back with that network and no
 /// other: one that the state does not know stays as it is. The state must be valid.
 void restoreViewState(PanelModel *model, const QJsonObject &state);
-/// What is not in those settings, for networks that came later.
-void restoreNetworks(PanelModel *model, const QJsonObject &state);
+
+/// What was stored of traces, by their ids in a state.
+using Memories = QHash<int, TraceData>;
+/// What is not in those settings, for networks that came later; and, where memories are given, the
+/// memory of each trace that comes back, or none.
+void restoreNetworks(PanelModel *model, const QJsonObject &state,
+                     const Memories *memories = nullptr);
+/// What tells a network apart: its file, or what was measured.
+QString networkIdentity(const Network &network);
 
 /// Whether a value is a whole number from 0 to below a count.
 bool isChoice(const QJsonValue &value, int count);

@@ -138,6 +138,8 @@ public:
     static QString parameterName(const Trace &trace);
     /// What was stored of a trace, or null.
     const TraceData *memory(int traceId) const { return m_traces.memory(traceId); }
+    /// All that was stored, by trace; copies share the data.
+    const QHash<int, TraceData> &memories() const { return m_traces.memories(); }
 
     /// Adds a trace that is like another one, and makes it active; its id, or 0 when there are as
     /// many as there can be. \a wanted is the id it gets if no other trace has it.
@@ -161,6 +163,8 @@ public:
     void fitTrace(int id);
     /// Stores the trace's data on show, as they are without memory and smoothing.
     void storeMemory(int id);
+    /// Stores data of another time, of frequencies of their own.
+    void restoreMemory(int id, const TraceData &memory);
     void clearMemory(int id);
     /// Ignored while nothing is stored. The scale of a trace over the frequency is fitted to a
     /// quotient or a difference, which is nowhere near the data.

@@ -176,12 +176,16 @@ void PanelModel::fitTrace(int id)
 
 void PanelModel::storeMemory(int id)
 {
-    const Trace *trace = this->trace(id);
-    if (trace
-        && m_traces.storeMemory(id, Panel::traceData(network(*trace), trace->to, trace->from))) {
-        Q_EMIT memoryChanged(id);
-        trackMarkers();
-    }
+    if (const Trace *trace = this->trace(id))
+        restoreMemory(id, Panel::traceData(network(*trace), trace->to, trace->from));
+}
+
+void PanelModel::restoreMemory(int id, const TraceData &memory)
+{
+    if (!m_traces.storeMemory(id, memory))
+        return;
+    Q_EMIT memoryChanged(id);
+    trackMarkers();
 }
 
 void PanelModel::clearMemory(int id)

@@ -25,6 +25,12 @@ TraceData traceData(const Network &network, int to, int from)
     return {network.frequencies, network.s(to, from), network.reference(to), 0};
 }
 
+bool sharesData(const TraceData &a, const TraceData &b)
+{
+    return a.frequencies.constData() == b.frequencies.constData()
+        && a.parameter.real.constData() == b.parameter.real.constData();
+}
+
 std::complex<double> impedanceOf(const std::complex<double> &reflection,
                                  const std::complex<double> &reference)
 {

@@ -29,6 +29,9 @@ struct TraceData {
     }
 };
 
+/// Whether both are copies of the same data.
+bool sharesData(const TraceData &a, const TraceData &b);
+
 /// The data of the wave leaving port `to` over the wave entering port `from`.
 TraceData traceData(const Network &network, int to, int from);
 

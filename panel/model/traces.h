@@ -48,6 +48,8 @@ public:
     const Trace *active(const QVector<int> &among) const;
     /// A trace's data as they were stored to compare later ones with, or null.
     const TraceData *memory(int id) const;
+    /// All that was stored, by trace.
+    const QHash<int, TraceData> &memories() const { return m_memories; }
     /// Another number whenever what a trace makes of its network's data is another.
     quint64 revision() const { return m_revision; }
 

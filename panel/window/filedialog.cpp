@@ -83,6 +83,13 @@ FileDialog::FileDialog(QWidget *parent)
     answers->addWidget(m_hint, 1);
     connect(addButton(answers, tr("Cancel"), "cancel"), &QPushButton::clicked, this,
             &QDialog::reject);
+    m_add = addButton(answers, tr("Add"), "add");
+    m_add->setToolTip(tr("Show them beside the files on show"));
+    m_add->hide();
+    connect(m_add, &QPushButton::clicked, this, [this] {
+        m_wasAdded = true;
+        accept();
+    });
     m_open = addButton(answers, tr("Open"), "open");
     connect(m_open, &QPushButton::clicked, this, &QDialog::accept);
     column->addLayout(answers);
@@ -130,6 +137,11 @@ QStringList FileDialog::pickedFiles() const
     return files;
 }
 
+void FileDialog::offerToAdd()
+{
+    m_add->show();
+}
+
 void FileDialog::onItemClicked(QListWidgetItem *item)
 {
     if (item->data(s_folderRole).toBool())
@@ -152,6 +164,7 @@ void FileDialog::updateButtons()
 {
     const int picked = int(pickedFiles().size());
     m_open->setEnabled(picked > 0);
+    m_add->setEnabled(picked > 0);
     if (picked > 0)
         m_hint->setText(tr("Picked: %n", nullptr, picked));
     else if (m_list->count() == 0)

@@ -25,6 +25,10 @@ public:
     void setFolder(const QString &folder);
     /// Full paths of the picked files, in the order of the list.
     QStringList pickedFiles() const;
+    /// Offers to show them beside those that are on show.
+    void offerToAdd();
+    /// Whether that was wanted.
+    bool wasAdded() const { return m_wasAdded; }
 
 private:
     void onItemClicked(QListWidgetItem *item);
@@ -36,7 +40,9 @@ private:
     QLabel *m_hint;
     QListWidget *m_list;
     QPushButton *m_up;
+    QPushButton *m_add;
     QPushButton *m_open;
+    bool m_wasAdded = false;
 };
 
 } // namespace Panel

@@ -134,6 +134,7 @@ void PanelController::connectFiles()
     MessageBar *bar = m_window->messageBar();
     connect(m_window, &PanelWindow::filesDropped, m_files, &FileController::loadFiles);
     connect(m_files, &FileController::reported, bar, &MessageBar::setMessage);
+    connect(m_files, &FileController::noted, bar, &MessageBar::notify);
     connect(m_files, &FileController::changesFound, this,
             [this, bar](const QString &sentences, const QStringList &paths) {
                 bar->offer(sentences, tr("Reload"), m_files,
@@ -228,8 +229,14 @@ void PanelController::showFileDialog()
     auto *dialog = new FileDialog(m_window);
     dialog->setFolder(m_dialogFolder.isEmpty() ? m_files->folder() : m_dialogFolder);
     dialog->resize(640, 560);
-    connect(dialog, &QDialog::accepted, m_files,
-            [this, dialog] { m_files->loadFiles(dialog->pickedFiles()); });
+    if (m_model->source() == Source::Files && !m_model->files().isEmpty())
+        dialog->offerToAdd();
+    connect(dialog, &QDialog::accepted, m_files, [this, dialog] {
+        if (dialog->wasAdded())
+            m_files->addFiles(dialog->pickedFiles());
+        else
+            m_files->loadFiles(dialog->pickedFiles());
+    });
     connect(dialog, &QDialog::finished, this,
             [this, dialog] { m_dialogFolder = dialog->folder(); });
     DialogStage::show(dialog, m_window);

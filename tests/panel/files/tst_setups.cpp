@@ -98,10 +98,90 @@ private Q_SLOTS:
         model.setActiveTrace(1);
         QTest::qWait(History::pause + 50);
         QVERIFY(!history.canRedo());
-        // New networks begin a new history.
-        model.openNetworks(QVector<Network>(model.networks()));
+        // Another source begins a new history.
+        model.setSource(Source::Antenna);
+        model.beginMeasurement(scene.model.networks().first());
         QTest::qWait(History::pause + 50);
         QVERIFY(!history.canUndo());
+    }
+
+    /// Today's file is divided by yesterday's, also where it has other points; and back.
+    void otherFilesKeepTheArrangement()
+    {
+        const QTemporaryDir folder;
+        const auto write = [&folder](const char *name, int ports, int points, double value) {
+            QByteArray text("# GHz S RI\n");
+            for (int i = 0; i < points; ++i) {
+                text += QByteArray::number(1.0 + double(i) / (points - 1));
+                text +=
+                    (' ' + QByteArray::number(value * (1.0 + i)) + " 0").repeated(ports * ports);
+                text += '\n';
+            }
+            return writeFile(folder.filePath(QLatin1String(name)), text);
+        };
+        const auto wait = [] { QTest::qWait(History::pause + 50); };
+        const QString yesterday = write("yesterday.s2p", 2, 11, 0.1);
+        const QString today = write("today.s2p", 2, 21, 0.1);
+        PanelDesk desk;
+        PanelModel &model = desk.model;
+        // Nothing was arranged: all is as at first, and can be gone back from.
+        wait();
+        desk.open({yesterday});
+        QCOMPARE(model.traces().size(), 4);
+        wait();
+        const QJsonObject opened = viewState(model);
+        model.setTraceFormat(3, TraceFormat::LinearMagnitude);
+        const int added = model.addTrace(3);
+        model.setActiveTrace(3);
+        model.storeMemory(3);
+        model.setTraceMath(3, TraceMath::Divided);
+        model.addMarker(3, 4.0); // 1.4 GHz
+        model.setStimulus(*model.trace(3), {1.2e9, 1.8e9});
+        wait();
+        const QJsonObject arranged = viewState(model);
+        desk.open({today});
+        QVERIFY(desk.bar()->isHidden());
+        QVERIFY(model.trace(3)->math == TraceMath::Divided && model.trace(added));
+        QVERIFY(model.trace(3)->format == TraceFormat::LinearMagnitude);
+        QCOMPARE(model.network(*model.trace(3)).points(), 13);
+        // Of 0.1 (1 + i) at double the points, divided by the same at single ones.
+        const TraceData quotient = model.traceData(*model.trace(3));
+        QCOMPARE(quotient.parameter.real.at(1), (1.0 + 5.0) / (1.0 + 2.5));
+        QCOMPARE(desk.index(3, 1), 4.0);
+        wait();
+        // What is not there goes, with a sentence; what is new comes.
+        desk.open({today, write("one.s1p", 1, 3, 0.5)});
+        QCOMPARE(desk.bar()->message(), QString()); // today's stays what it was
+        desk.open({today});
+        desk.open({folder.filePath("one.s1p"_s)});
+        QCOMPARE(desk.bar()->message(), "S12, S21, S22 are not in one.s1p."_s);
+        QVERIFY(desk.bar()->isNotice());
+        QCOMPARE(model.traces().size(), 1);
+        model.setTraceFormat(1, TraceFormat::Phase);
+        desk.open({today});
+        QCOMPARE(model.traces().size(), 4);
+        QVERIFY(model.trace(1)->format == TraceFormat::Phase);
+        wait();
+        desk.click(desk.keys().undo);
+        desk.click(desk.keys().undo);
+        QCOMPARE(model.files().first().path, yesterday);
+        QCOMPARE(viewState(model), arranged);
+        QVERIFY(model.memory(3)
+                && qFuzzyCompare(model.traceData(*model.trace(3)).at(0).real(), 1.0));
+        desk.click(desk.keys().undo);
+        QCOMPARE(viewState(model), opened);
+        QVERIFY(!model.memory(3));
+        desk.click(desk.keys().undo);
+        QVERIFY(isSample(model.files().first()));
+        desk.click(desk.keys().redo);
+        QCOMPARE(viewState(model), opened);
+        // A step back shows what was read, and says what has become of it.
+        desk.click(desk.keys().redo);
+        desk.click(desk.keys().redo);
+        QCOMPARE(model.files().first().path, today);
+        QVERIFY(QFile::remove(yesterday));
+        desk.click(desk.keys().undo);
+        QVERIFY(desk.bar()->message().startsWith("yesterday.s2p is gone"_s));
     }
 
     void keepsUnderNames()
