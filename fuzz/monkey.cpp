@@ -7,6 +7,7 @@
 //                                                 what its failure does not need
 #include "monkeychecks.h"
 #include "monkeypanel.h"
+#include "shownrules.h"
 
 #include <panel/ground/look.h>
 
@@ -115,6 +116,7 @@ int play(const Game &game)
     Files files;
     QDir::setCurrent(files.folder());
     Desk desk(&files);
+    Fuzz::ShownRules shown;
     (void)desk.dropAndCount(); // what is made once is there after the first panel
     Random random(game.seed);
     const bool replays = !game.replayed.isEmpty();
@@ -147,7 +149,7 @@ int play(const Game &game)
             broken << QStringLiteral("an event took %1 ms").arg(took);
         // A replayed log is to tell which event it was.
         if (replays || played % eventsPerCheck == 0 || played == count)
-            broken << brokenRules(desk);
+            broken << brokenRules(desk) << shown.broken(*desk.model(), *desk.window());
         if (played % eventsPerCensus == 0 || played == count) {
             for (const QString &left : desk.dropAndCount())
                 broken << QStringLiteral("not destroyed: ") + left;

@@ -29,8 +29,11 @@ constexpr int maximumWidgets = 3000;
 
 QString nameOf(const QObject *object)
 {
-    return QStringLiteral("%1 \"%2\"")
-        .arg(QString::fromLatin1(object->metaObject()->className()), object->objectName());
+    const QString parent = object->parent()
+        ? QString::fromLatin1(object->parent()->metaObject()->className())
+        : QString();
+    return QStringLiteral("%1 \"%2\" in %3")
+        .arg(QString::fromLatin1(object->metaObject()->className()), object->objectName(), parent);
 }
 
 bool isFinite(const QCPRange &range)
