@@ -111,6 +111,9 @@ void checkLines(const DiagramView &view, QStringList &broken)
 
 void checkDialogs(const PanelWindow &window, QStringList &broken)
 {
+    // The smallest screen that a panel is for.
+    if (window.width() < 640 || window.height() < 480)
+        return;
     for (const auto *stage : window.findChildren<Controls::OverlayContainer *>()) {
         const QDialog *dialog = stage->isVisible() ? stage->activeDialog() : nullptr;
         if (dialog && dialog->isVisible() && !dialog->isWindow()
