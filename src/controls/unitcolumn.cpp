@@ -68,21 +68,27 @@ void UnitColumn::showUnit(QPushButton *button, const KeySpec &unit)
 
 void UnitColumn::showPage()
 {
-    for (QPushButton *button : qAsConst(m_buttons))
-        button->hide();
     m_shown.clear();
-
+    // What stays stays on show: the release of a button that was hidden while it is pressed is lost.
+    QList<QPushButton *> unused = m_buttons;
+    const auto use = [this, &unused](int index) {
+        QPushButton *button = m_buttons.at(index);
+        unused.removeOne(button);
+        return button;
+    };
     const bool isMiddle = isPaging() && page() != 0 && page() != lastPage();
     if (isPaging())
-        showPaging(m_buttons.last(),
+        showPaging(use(int(m_buttons.size()) - 1),
                    isMiddle ? TouchNumKeyboard::tr("PgDn") : TouchNumKeyboard::tr("More"));
     if (isMiddle)
-        showPaging(m_buttons.first(), TouchNumKeyboard::tr("PgUp"));
+        showPaging(use(0), TouchNumKeyboard::tr("PgUp"));
     const int first = isMiddle ? 1 : 0;
     const int room = isMiddle ? 2 : isPaging() ? 3 : int(m_buttons.size());
     const int shown = std::min(room, int(m_units.size()) - m_start);
     for (int i = 0; i < shown; ++i)
-        showUnit(m_buttons.at(first + i), m_units.at(m_start + i));
+        showUnit(use(first + i), m_units.at(m_start + i));
+    for (QPushButton *button : qAsConst(unused))
+        button->hide();
 }
 
 KeySpec UnitColumn::press(QPushButton *button)

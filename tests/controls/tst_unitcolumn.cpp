@@ -96,6 +96,15 @@ private Q_SLOTS:
         f.click("btnUnit2"_s);
         QVERIFY(f.editor->log.isEmpty());
 
+        // A press that takes the keyboard back to the field sets its units anew.
+        const QPushButton *key = f.button("btnUnit1"_s);
+        mousePress(key);
+        f.keypad->setShortcutKeys(units(2));
+        mouseRelease(key);
+        QCOMPARE(f.editor->log.value(0), "+1000004:u0"_s);
+        QVERIFY(!key->isDown());
+        f.editor->log.clear();
+
         // A unit called like a page key is one, but only to pages that are.
         const TouchNumKeyboard::KeySpec up{Qt::Key_Return, "PgUp"_s, "x"_s};
         f.keypad->setShortcutKeys({up});
