@@ -149,7 +149,7 @@ int play(const Game &game)
             broken << QStringLiteral("an event took %1 ms").arg(took);
         // A replayed log is to tell which event it was.
         if (replays || played % eventsPerCheck == 0 || played == count)
-            broken << brokenRules(desk) << shown.broken(*desk.model(), *desk.window());
+            broken << shown.broken(*desk.model(), *desk.window()) << brokenRules(desk);
         if (played % eventsPerCensus == 0 || played == count) {
             for (const QString &left : desk.dropAndCount())
                 broken << QStringLiteral("not destroyed: ") + left;

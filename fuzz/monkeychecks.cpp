@@ -107,6 +107,11 @@ QStringList brokenRules(const Desk &desk)
         if (items > maximumItems)
             broken << QStringLiteral("%1 holds %2 items").arg(nameOf(view)).arg(items);
     }
+    // A zoom, for one, is taken over when the next picture is laid out.
+    for (Panel::DiagramView *view : desk.window()->diagrams()->views()) {
+        if (view->isVisible() && !view->window()->isMinimized())
+            view->plot()->replot();
+    }
     broken << Fuzz::brokenRules(*desk.model(), *desk.window()->diagrams());
     checkButtons(desk, broken);
     checkWidgets(broken);

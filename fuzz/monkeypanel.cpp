@@ -196,6 +196,10 @@ void Desk::host(const Event &event)
         break;
     case Species::Language:
         Panel::setLanguage(Panel::languages().at(event.a).code);
+        settle();
+        // What widgets do not say anew by themselves is of the language of the panel's start.
+        destroyPanel(false);
+        makePanel();
         break;
     case Species::Lock:
         m_window->lockButton()->toggle();

@@ -7,7 +7,7 @@
 #include <panel/diagrams/diagrams.h>
 #include <panel/diagrams/readouts.h>
 #include <panel/diagrams/smithview.h>
-#include <panel/model/preferences.h>
+#include <panel/model/cartesian.h>
 #include <panel/window/panelwindow.h>
 #include <panel/window/timingline.h>
 #include <plot/qcp.h>
@@ -17,9 +17,10 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QRegularExpression>
 
-#include <algorithm>
 #include <cmath>
+#include <complex>
 
 using namespace Panel;
 
@@ -29,32 +30,54 @@ namespace Fuzz
 namespace
 {
 
-/// So many traces have colours of their own.
-constexpr int s_colors = 8;
+/// So many traces, and so many files, differ in what they look like.
+constexpr int s_looks = 8;
 
 /// A number as it is written, and by how much its last digit may be rounded.
 struct Written {
     explicit Written(const QString &text)
     {
-        const QStringList words = text.split(QLatin1Char(' '));
-        QString digits = words.first();
-        digits.replace(QChar(0x2212), QLatin1Char('-'));
-        const QString unit = words.value(1);
-        const auto power = QStringLiteral("kMG").indexOf(unit.left(1));
-        const double factor = unit.endsWith(QLatin1String("Hz")) && power >= 0
-            ? std::pow(1e3, double(power) + 1.0)
-            : 1.0;
-        bool isNumber = false;
-        number = digits.toDouble(&isNumber) * factor;
+        static const QRegularExpression form(
+            QStringLiteral("^(?:VSWR )?(\\+j|-j|)(-?[0-9.]+) ?([fpn\u00b5mkMGT]?)(\\S*)$"));
+        const QRegularExpressionMatch match =
+            form.match(QString(text).replace(QChar(0x2212), QLatin1Char('-')));
+        unit = match.captured(4);
+        const QString digits = match.captured(2), prefix = match.captured(3);
+        static const QString prefixes = QStringLiteral("fpn\u00b5m kMGT");
+        const auto power = prefix.isEmpty() ? 5 : prefixes.indexOf(prefix);
+        const double factor = std::pow(1e3, double(power) - 5.0);
+        number = match.hasMatch() ? digits.toDouble() * factor : qQNaN();
+        isImaginary = !match.captured(1).isEmpty();
+        if (match.captured(1) == QLatin1String("-j"))
+            number = -number;
         const auto point = digits.indexOf(QLatin1Char('.'));
         const double places = point < 0 ? 0.0 : double(digits.size() - 1 - point);
-        rounding = isNumber ? 0.51 * factor * std::pow(10.0, -places) : qQNaN();
+        rounding = 0.51 * factor * std::pow(10.0, -places);
     }
-    bool differsFrom(double value) const { return std::abs(number - value) > rounding; }
 
-    double number;
-    double rounding; ///< NaN: no number, and it differs from none
+    double number; ///< in the unit without its prefix; NaN: no number
+    double rounding;
+    bool isImaginary;
+    QString unit;
 };
+
+/// What a read-out must say of a point: the value that a text with this unit stands for.
+double wantedValue(const Written &written, const Trace &trace, const TraceData &data, double index,
+                   ReadoutFormat format)
+{
+    if (written.unit == QLatin1String("Hz"))
+        return valueAt(data.frequencies, index);
+    if (!trace.onSmithChart()) {
+        // The unit of a delay has a prefix of its own.
+        const double value = formatValueAt(data, index, trace.format);
+        return formatUnit(trace.format) == QLatin1String("ns") ? 1e-9 * value : value;
+    }
+    if (written.unit == QChar(0x03a9) && format != ReadoutFormat::Admittance) {
+        const std::complex<double> ohms = impedanceOf(data.at(index), data.reference);
+        return written.isImaginary ? ohms.imag() : ohms.real();
+    }
+    return qQNaN();
+}
 
 void checkDigits(const PanelModel &model, const DiagramView &view, QStringList &broken)
 {
@@ -66,28 +89,22 @@ void checkDigits(const PanelModel &model, const DiagramView &view, QStringList &
         // Against a reference it is a difference that is read.
         if (!item || index < 0.0 || model.referenceMarker(marker.trace))
             continue;
-        QStringList texts;
-        for (const QLabel *label : item->findChildren<QLabel *>())
-            texts << label->text();
         const Trace &trace = *model.trace(marker.trace);
-        const double hertz = valueAt(model.network(trace).frequencies, index);
-        const double value = trace.format == TraceFormat::LogMagnitude
-            ? formatValueAt(model.traceData(trace), index, trace.format)
-            : qQNaN();
-        for (const QString &text : qAsConst(texts)) {
-            const Written written(text);
-            const double wanted = text.endsWith(QLatin1String("Hz")) ? hertz
-                : text.endsWith(QLatin1String(" dB"))                ? value
-                                                                     : qQNaN();
-            if (std::isfinite(wanted) && written.differsFrom(wanted))
+        for (const QLabel *label : item->findChildren<QLabel *>()) {
+            const Written written(label->text());
+            const double wanted = wantedValue(written, trace, model.traceData(trace), index,
+                                              model.viewSettings()->effectiveReadoutFormat());
+            // Seven digits are more than any value is told to, and less than its sum is exact to.
+            if (std::isfinite(wanted) && std::isfinite(written.number)
+                && std::abs(written.number - wanted) > written.rounding + 1e-7 * std::abs(wanted))
                 broken << QStringLiteral("M%1 of Tr%2 is %3 and reads %4")
                               .arg(QString::number(marker.number), QString::number(marker.trace),
-                                   QString::number(wanted, 'g', 12), text);
+                                   QString::number(wanted, 'g', 12), label->text());
         }
     }
 }
 
-void checkLines(const DiagramView &view, QStringList &broken)
+void checkLines(const PanelModel &model, const DiagramView &view, QStringList &broken)
 {
     const auto *cartesian = qobject_cast<const CartesianView *>(&view);
     const auto *smith = qobject_cast<const SmithView *>(&view);
@@ -102,7 +119,10 @@ void checkLines(const DiagramView &view, QStringList &broken)
         for (int j = 0; j < i; ++j) {
             const QPen a = pen(ids.at(i)), b = pen(ids.at(j));
             const bool areSeen = a.style() != Qt::NoPen && b.style() != Qt::NoPen;
-            if (areSeen && (ids.at(i) - ids.at(j)) % s_colors != 0 && a.color() == b.color()
+            const int traces = ids.at(i) - ids.at(j);
+            const int files = model.trace(ids.at(i))->network - model.trace(ids.at(j))->network;
+            const bool maybeAlike = traces % s_looks == 0 && files % s_looks == 0;
+            if (areSeen && !maybeAlike && a.color() == b.color()
                 && a.dashPattern() == b.dashPattern())
                 broken << QStringLiteral("Tr%1 looks like Tr%2").arg(ids.at(i)).arg(ids.at(j));
         }
@@ -118,8 +138,9 @@ void checkDialogs(const PanelWindow &window, QStringList &broken)
         const QDialog *dialog = stage->isVisible() ? stage->activeDialog() : nullptr;
         if (dialog && dialog->isVisible() && !dialog->isWindow()
             && !stage->rect().contains(dialog->geometry()))
-            broken
-                << QStringLiteral("the dialog \"%1\" leaves the window").arg(dialog->windowTitle());
+            broken << QStringLiteral("the dialog %1 \"%2\" leaves the window")
+                          .arg(QString::fromLatin1(dialog->metaObject()->className()),
+                               dialog->windowTitle());
     }
 }
 
@@ -141,45 +162,36 @@ QStringList ShownRules::broken(const PanelModel &model, PanelWindow &window)
     QStringList broken;
     if (!window.isVisible() || window.isMinimized())
         return broken;
-    checkDialogs(window, broken);
     // What comes of an event may ask for another, as a file that is loaded for a replot.
     for (int round = 0; round < 3; ++round)
         QCoreApplication::processEvents();
+    checkDialogs(window, broken);
     const ViewSettings &settings = *model.viewSettings();
-    // Texts of another language are of another height, and wider or narrower.
-    const double language = double(qHash(model.preferences()->language(), 0) % 65536);
-    QVector<double> conditions{language,
-                               double(window.width()),
-                               double(window.height()),
-                               double(settings.diagramLayout()),
-                               double(settings.markerTable()),
-                               double(!window.timingLine()->isHidden())};
+    // Another panel may be of another language, whose texts are wider.
+    const bool isSame = m_window == &window;
+    m_window = &window;
+    QVector<int> conditions{window.width(), window.height(), int(settings.diagramLayout()),
+                            int(settings.markerTable()), int(!window.timingLine()->isHidden())};
     QVector<QRect> places;
     for (DiagramView *view : window.diagrams()->views()) {
-        conditions << view->id().place << int(!view->isVisible());
+        conditions << view->id().place << int(view->id().smith) << int(!view->isVisible());
         places << QRect(view->mapTo(&window, QPoint()), view->size());
         if (!view->isVisible() || view->visibleRegion().isEmpty())
             continue;
         checkDigits(model, *view, broken);
-        checkLines(*view, broken);
+        checkLines(model, *view, broken);
         if (!model.showsMeasurement())
             checkPicture(*view, broken);
     }
-    if (conditions == m_conditions) {
-        for (int i = 0; i < places.size(); ++i) {
-            const QRect &a = m_places.at(i), &b = places.at(i);
-            // Layouts share out what is left over, to a pixel.
-            const int most =
-                std::max({std::abs(a.x() - b.x()), std::abs(a.y() - b.y()),
-                          std::abs(a.width() - b.width()), std::abs(a.height() - b.height())});
-            if (most > 1)
-                broken << QStringLiteral("diagram %1 has moved by %2, %3 and grown by %4, %5")
-                              .arg(i)
-                              .arg(b.x() - a.x())
-                              .arg(b.y() - a.y())
-                              .arg(b.width() - a.width())
-                              .arg(b.height() - a.height());
-        }
+    for (int i = 0; isSame && conditions == m_conditions && i < places.size(); ++i) {
+        const QRect &a = m_places.at(i), &b = places.at(i);
+        if (a != b)
+            broken << QStringLiteral("diagram %1 has moved by %2, %3 and grown by %4, %5")
+                          .arg(i)
+                          .arg(b.x() - a.x())
+                          .arg(b.y() - a.y())
+                          .arg(b.width() - a.width())
+                          .arg(b.height() - a.height());
     }
     m_conditions = conditions;
     m_places = places;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPointer>
 #include <QRect>
 #include <QStringList>
 #include <QVector>
@@ -27,7 +28,8 @@ public:
     QStringList broken(const Panel::PanelModel &model, Panel::PanelWindow &window);
 
 private:
-    QVector<double> m_conditions; ///< of the places
+    QPointer<const QObject> m_window; ///< the one of the places
+    QVector<int> m_conditions; ///< of the places
     QVector<QRect> m_places; ///< of the diagrams, in the window
 };
 
