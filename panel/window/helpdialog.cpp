@@ -80,19 +80,20 @@ HelpDialog::HelpDialog(bool hasSound, QWidget *parent)
     table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + s_rowGap);
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table->setWordWrap(false);
     QScroller::grabGesture(table->viewport(), QScroller::LeftMouseButtonGesture);
     table->resizeColumnsToContents();
-    table->horizontalHeader()->setStretchLastSection(true);
     table->selectRow(0);
     const QSize whole(table->horizontalHeader()->length() + s_rowGap,
                       table->verticalHeader()->length());
-    const int room =
-        parent ? parent->height() - dialogMargins(2 * s_edge).top() - 2 * s_edge : whole.height();
-    table->setMinimumSize(whole.width() + table->verticalScrollBar()->sizeHint().width(),
-                          qMin(whole.height(), qMax(room, s_edge)));
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(dialogMargins(s_edge));
+    const QMargins margins = dialogMargins(s_edge);
+    column->setContentsMargins(margins);
     column->addWidget(table);
+    resize(whole.width() + table->verticalScrollBar()->sizeHint().width() + margins.left()
+               + margins.right(),
+           whole.height() + margins.top() + margins.bottom());
 }
 
 } // namespace Panel
