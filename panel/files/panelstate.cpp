@@ -177,8 +177,10 @@ bool PanelState::save(const PanelModel &model, const QString &path)
     readState(path, fault);
     if (fault != NoFault && QFileInfo(path).isFile())
         QFile::copy(path, path + QStringLiteral(".damaged"));
+    // A full disk takes a part, and what only commit() writes may be lost untold.
+    const QByteArray text = QJsonDocument(state).toJson();
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(state).toJson()) > 0
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush()
         && file.commit();
 }
 

@@ -63,9 +63,16 @@ QString write(const QFileInfo &info, const Network &network, const SaveOptions &
             writeTouchstone(file, network, version);
         else
             writeCsv(file, network);
+        // What only commit() writes may be lost untold where the disk is full.
+        if (!file.flush())
+            reason = file.errorString();
+        if (!reason.isEmpty())
+            file.cancelWriting();
     }
-    return file.commit() ? QString()
-                         : Text::tr("the file cannot be written (%1)").arg(file.errorString());
+    if (file.commit())
+        return QString();
+    return Text::tr("the file cannot be written (%1)")
+        .arg(reason.isEmpty() ? file.errorString() : reason);
 }
 
 } // namespace

@@ -21,6 +21,9 @@
 #include <QWidget>
 
 #include <functional>
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 namespace Panel
 {
@@ -32,23 +35,33 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(Panel::Exports)
 };
 
-/// Opens a file that was not there before: with a number behind the stem where one was.
-bool openNew(QFile &file, const QString &stem, const QString &suffix)
+/// Gives a file a name that none has yet: with a number behind the stem where one has.
+bool takeNewName(QFile &file, const QString &stem, const QString &suffix)
 {
     constexpr int maximumNames = 1000;
     for (int number = 1; number <= maximumNames; ++number) {
         const QString behind = number == 1 ? QString() : QStringLiteral("-%1").arg(number);
-        file.setFileName(stem + behind + suffix);
-        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        const QString name = stem + behind + suffix;
+        if (file.rename(name))
             return true;
-        if (!file.exists())
+        if (!QFileInfo::exists(name))
             return false;
     }
     return false;
 }
 
+/// Makes sure that what was written outlives a power cut.
+bool sync(QFile &file)
+{
+#ifdef Q_OS_UNIX
+    return file.flush() && fsync(file.handle()) == 0;
+#else
+    return file.flush();
+#endif
+}
+
 /// Writes a new file in a folder, whose stem gets the time behind it. The writer gets the open file
-/// and returns a sentence where it fails.
+/// and returns a sentence where it fails. The file is hidden until it is whole.
 Exported exportFile(const QString &folder, const QString &stem, const QString &suffix,
                     const std::function<QString(QFile &)> &write)
 {
@@ -56,16 +69,22 @@ Exported exportFile(const QString &folder, const QString &stem, const QString &s
     const QString shown = QDir::toNativeSeparators(folder);
     if (!QDir().mkpath(folder))
         return {QString(), Text::tr("The folder %1 cannot be made.").arg(shown)};
-    QFile file;
-    QString error = Text::tr("Nothing can be written to %1 (%2).");
-    if (openNew(file, QDir(folder).filePath(stem + QLatin1Char('-') + time), suffix)) {
+    const QString name = stem + QLatin1Char('-') + time;
+    QFile file(QDir(folder).filePath(
+        QStringLiteral(".%1-%2%3")
+            .arg(name, QString::number(QCoreApplication::applicationPid()), suffix)));
+    const QString error = Text::tr("Nothing can be written to %1 (%2).");
+    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
         const QString sentence = write(file);
-        if (sentence.isEmpty() && file.flush() && file.error() == QFileDevice::NoError)
+        const bool isWhole =
+            sentence.isEmpty() && sync(file) && file.error() == QFileDevice::NoError;
+        const QString reason = file.errorString();
+        file.close();
+        if (isWhole && takeNewName(file, QDir(folder).filePath(name), suffix))
             return {file.fileName(), QString()};
-        // Half a file is of no use, and its name no longer needed.
-        QFile::remove(file.fileName());
-        if (!sentence.isEmpty())
-            return {QString(), sentence};
+        // Half a file is of no use.
+        file.remove();
+        return {QString(), sentence.isEmpty() ? error.arg(shown, reason) : sentence};
     }
     return {QString(), error.arg(shown, file.errorString())};
 }
@@ -146,7 +165,7 @@ Exported exportData(const Network &network, const QString &folder, DataFormat fo
     const QString stem = QFileInfo(network.name).completeBaseName();
     return exportFile(folder, stem.isEmpty() ? QStringLiteral("vnapanel") : stem, suffix,
                       [&](QFile &file) {
-                          // The file holds the name; the network takes its place whole.
+                          // The network takes the place of the empty file.
                           SaveOptions options;
                           options.overwrite = true;
                           return saveNetwork(file.fileName(), network, options);
