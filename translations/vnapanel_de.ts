@@ -185,18 +185,6 @@
         <translation>Touchstone-Dateien öffnen</translation>
     </message>
     <message>
-        <source>↑ Up</source>
-        <translation>↑ Aufwärts</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Persönlich</translation>
-    </message>
-    <message>
-        <source>Samples</source>
-        <translation>Beispiele</translation>
-    </message>
-    <message>
         <source>Folders and Touchstone files</source>
         <translation>Ordner und Touchstone-Dateien</translation>
     </message>
@@ -207,10 +195,6 @@
     <message>
         <source>Open</source>
         <translation>Öffnen</translation>
-    </message>
-    <message>
-        <source>Shipped samples</source>
-        <translation>Mitgelieferte Beispiele</translation>
     </message>
     <message numerus="yes">
         <source>Picked: %n</source>
@@ -280,6 +264,25 @@
     <message>
         <source>%1 lies below: fit</source>
         <translation>%1 liegt darunter: einpassen</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FolderBrowser</name>
+    <message>
+        <source>↑ Up</source>
+        <translation>↑ Aufwärts</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Persönlich</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Beispiele</translation>
+    </message>
+    <message>
+        <source>Shipped samples</source>
+        <translation>Mitgelieferte Beispiele</translation>
     </message>
 </context>
 <context>
@@ -885,6 +888,22 @@
         <source>Select a marker to read it large.</source>
         <translation>Wähle einen Marker, um ihn groß zu lesen.</translation>
     </message>
+    <message>
+        <source>Save as Touchstone</source>
+        <translation>Als Touchstone speichern</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>Als CSV speichern</translation>
+    </message>
+    <message>
+        <source>Save the diagram as PDF</source>
+        <translation>Diagramm als PDF speichern</translation>
+    </message>
+    <message>
+        <source>Save the diagram as SVG</source>
+        <translation>Diagramm als SVG speichern</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelKeys</name>
@@ -1253,6 +1272,37 @@
     </message>
 </context>
 <context>
+    <name>Panel::SaveDialog</name>
+    <message>
+        <source>Folders and files</source>
+        <translation>Ordner und Dateien</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Use this folder</source>
+        <translation>Diesen Ordner nehmen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 gibt es schon.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::SettingsDialog</name>
     <message>
         <source>Settings</source>
@@ -1293,6 +1343,10 @@
     <message>
         <source>Sound along a walk and under the pointer</source>
         <translation>Ton beim Entlanggehen und unter dem Zeiger</translation>
+    </message>
+    <message>
+        <source>Nothing can be written to this folder.</source>
+        <translation>In diesen Ordner kann nichts geschrieben werden.</translation>
     </message>
 </context>
 <context>

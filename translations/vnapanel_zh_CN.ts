@@ -180,18 +180,6 @@
         <translation>打开 Touchstone 文件</translation>
     </message>
     <message>
-        <source>↑ Up</source>
-        <translation>↑ 上级</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>主目录</translation>
-    </message>
-    <message>
-        <source>Samples</source>
-        <translation>示例</translation>
-    </message>
-    <message>
         <source>Folders and Touchstone files</source>
         <translation>文件夹和 Touchstone 文件</translation>
     </message>
@@ -202,10 +190,6 @@
     <message>
         <source>Open</source>
         <translation>打开</translation>
-    </message>
-    <message>
-        <source>Shipped samples</source>
-        <translation>自带示例</translation>
     </message>
     <message numerus="yes">
         <source>Picked: %n</source>
@@ -274,6 +258,25 @@
     <message>
         <source>%1 lies below: fit</source>
         <translation>%1 在下方：调整</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FolderBrowser</name>
+    <message>
+        <source>↑ Up</source>
+        <translation>↑ 上级</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>主目录</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>示例</translation>
+    </message>
+    <message>
+        <source>Shipped samples</source>
+        <translation>自带示例</translation>
     </message>
 </context>
 <context>
@@ -879,6 +882,22 @@
         <source>Select a marker to read it large.</source>
         <translation>请先选择要放大显示的标记。</translation>
     </message>
+    <message>
+        <source>Save as Touchstone</source>
+        <translation>另存为 Touchstone</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>另存为 CSV</translation>
+    </message>
+    <message>
+        <source>Save the diagram as PDF</source>
+        <translation>将图表保存为 PDF</translation>
+    </message>
+    <message>
+        <source>Save the diagram as SVG</source>
+        <translation>将图表保存为 SVG</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelKeys</name>
@@ -1246,6 +1265,37 @@
     </message>
 </context>
 <context>
+    <name>Panel::SaveDialog</name>
+    <message>
+        <source>Folders and files</source>
+        <translation>文件夹和文件</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Use this folder</source>
+        <translation>使用此文件夹</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+</context>
+<context>
     <name>Panel::SettingsDialog</name>
     <message>
         <source>Settings</source>
@@ -1286,6 +1336,10 @@
     <message>
         <source>Sound along a walk and under the pointer</source>
         <translation>沿轨迹行走时和指针处发声</translation>
+    </message>
+    <message>
+        <source>Nothing can be written to this folder.</source>
+        <translation>无法写入此文件夹。</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "setups.h"
 
 #include "filecontroller.h"
+#include "filename.h"
 #include "panelstate.h"
 #include "viewstate.h"
 
@@ -23,17 +24,9 @@ namespace
 
 constexpr char s_suffix[] = ".json";
 
-/// The name without what no file can be called on any system.
 QString fileNameOf(const QString &name)
 {
-    QString result;
-    for (const QChar letter : name.simplified().left(Setups::longestName)) {
-        if (letter.isPrint() && !QStringLiteral("/\\:*?\"<>|").contains(letter))
-            result += letter;
-    }
-    while (result.startsWith(QLatin1Char('.')))
-        result.remove(0, 1);
-    return result.trimmed();
+    return toFileName(name, Setups::longestName);
 }
 
 } // namespace

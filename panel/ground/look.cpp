@@ -58,9 +58,9 @@ Panel--NumericDialog QLabel#range[warning="true"] { color: @warningColor; }
 Panel--ParameterMatrix QScrollArea, Panel--ParameterMatrix QScrollArea > QWidget > QWidget { background: transparent; }
 Panel--HelpDialog QTableView { background: transparent; }
 Panel--HelpDialog QTableView::item:selected { background: @buttonColor; color: @textColor; }
-Panel--MarkerTable QTableView, Panel--HelpDialog QTableView, Panel--FileDialog QListWidget, Panel--SetupDialog QListWidget, Panel--InstrumentDialog QListWidget { border: 2px solid transparent; outline: none; }
-Panel--MarkerTable QTableView:focus, Panel--HelpDialog QTableView:focus, Panel--FileDialog QListWidget:focus, Panel--SetupDialog QListWidget:focus, Panel--InstrumentDialog QListWidget:focus { border-color: @focusColor; }
-Panel--SetupDialog QListWidget::item, Panel--FileDialog QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @buttonColor; }
+Panel--MarkerTable QTableView, Panel--HelpDialog QTableView, Panel--FolderBrowser QListWidget, Panel--SetupDialog QListWidget, Panel--InstrumentDialog QListWidget { border: 2px solid transparent; outline: none; }
+Panel--MarkerTable QTableView:focus, Panel--HelpDialog QTableView:focus, Panel--FolderBrowser QListWidget:focus, Panel--SetupDialog QListWidget:focus, Panel--InstrumentDialog QListWidget:focus { border-color: @focusColor; }
+Panel--SetupDialog QListWidget::item, Panel--FolderBrowser QListWidget::item { padding: 14px 10px; border-bottom: 1px solid @buttonColor; }
 )");
 }
 

@@ -19,7 +19,7 @@ public:
     /// The code of the language that the user wants from the next start on; empty for the present
     /// one.
     QString language() const { return m_language; }
-    /// Where pictures and data go; empty for the default folder.
+    /// Where pictures and data go, and where the last ones went; empty for the default folder.
     QString exportFolder() const { return m_exportFolder; }
 
     /// Addresses of instruments that were linked before, the last one first.

@@ -5,7 +5,6 @@
 #include "diagrampage.h"
 
 #include <panel/model/preferences.h>
-#include <panel/touchstone/saving.h>
 
 #include <plot/qcp.h>
 
@@ -16,11 +15,12 @@
 #include <QPdfWriter>
 #include <QPixmap>
 #include <QPrinter>
+#include <QSaveFile>
 #include <QStandardPaths>
 #include <QSvgGenerator>
+#include <QTemporaryFile>
 #include <QWidget>
 
-#include <functional>
 #ifdef Q_OS_UNIX
 #include <unistd.h>
 #endif
@@ -60,33 +60,10 @@ bool sync(QFile &file)
 #endif
 }
 
-/// Writes a new file in a folder, whose stem gets the time behind it. The writer gets the open file
-/// and returns a sentence where it fails. The file is hidden until it is whole.
-Exported exportFile(const QString &folder, const QString &stem, const QString &suffix,
-                    const std::function<QString(QFile &)> &write)
+QString cannotWrite(const QString &folder, const QString &reason)
 {
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-    const QString shown = QDir::toNativeSeparators(folder);
-    if (!QDir().mkpath(folder))
-        return {QString(), Text::tr("The folder %1 cannot be made.").arg(shown)};
-    const QString name = stem + QLatin1Char('-') + time;
-    QFile file(QDir(folder).filePath(
-        QStringLiteral(".%1-%2%3")
-            .arg(name, QString::number(QCoreApplication::applicationPid()), suffix)));
-    const QString error = Text::tr("Nothing can be written to %1 (%2).");
-    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        const QString sentence = write(file);
-        const bool isWhole =
-            sentence.isEmpty() && sync(file) && file.error() == QFileDevice::NoError;
-        const QString reason = file.errorString();
-        file.close();
-        if (isWhole && takeNewName(file, QDir(folder).filePath(name), suffix))
-            return {file.fileName(), QString()};
-        // Half a file is of no use.
-        file.remove();
-        return {QString(), sentence.isEmpty() ? error.arg(shown, reason) : sentence};
-    }
-    return {QString(), error.arg(shown, file.errorString())};
+    return Text::tr("Nothing can be written to %1 (%2).")
+        .arg(QDir::toNativeSeparators(folder), reason);
 }
 
 QString cannotDraw()
@@ -108,37 +85,74 @@ Exported exportScreenshot(QWidget *window, const QString &folder)
 {
     // Taken first, so that it is the moment that the name tells.
     const QPixmap picture = window->grab();
-    return exportFile(folder, QStringLiteral("vnapanel"), QStringLiteral(".png"), [&](QFile &file) {
-        return picture.save(&file, "PNG") ? QString() : cannotDraw();
-    });
+    const QString name = datedName({QStringLiteral("vnapanel")});
+    if (!QDir().mkpath(folder))
+        return {QString(),
+                Text::tr("The folder %1 cannot be made.").arg(QDir::toNativeSeparators(folder))};
+    // Hidden until it is whole.
+    constexpr char suffix[] = ".png";
+    QFile file(
+        QDir(folder).filePath(QStringLiteral(".%1-%2%3")
+                                  .arg(name, QString::number(QCoreApplication::applicationPid()),
+                                       QLatin1String(suffix))));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return {QString(), cannotWrite(folder, file.errorString())};
+    const bool drawn = picture.save(&file, "PNG");
+    const bool isWhole = drawn && sync(file) && file.error() == QFileDevice::NoError;
+    const bool isFull = file.error() != QFileDevice::NoError;
+    const QString reason = file.errorString();
+    file.close();
+    if (isWhole && takeNewName(file, QDir(folder).filePath(name), QLatin1String(suffix)))
+        return {file.fileName(), QString()};
+    // Half a file is of no use.
+    file.remove();
+    return {QString(), drawn || isFull ? cannotWrite(folder, reason) : cannotDraw()};
 }
 
-Exported exportDiagram(DiagramView *view, const QString &folder, DrawingFormat format)
+QString saveDiagram(DiagramView *view, const QString &path)
 {
-    const bool pdf = format == DrawingFormat::Pdf;
     const DiagramPage page(view);
-    return exportFile(folder, QStringLiteral("vnapanel"),
-                      pdf ? QStringLiteral(".pdf") : QStringLiteral(".svg"), [&](QFile &file) {
-                          QPdfWriter writer(&file);
-                          QSvgGenerator svg;
-                          if (pdf) {
-                              // A point for a pixel.
-                              constexpr int pointsInAnInch = 72;
-                              writer.setResolution(pointsInAnInch);
-                              writer.setPageSize(QPageSize(QSizeF(page.size()), QPageSize::Point,
-                                                           QString(), QPageSize::ExactMatch));
-                              writer.setPageMargins(QMarginsF());
-                          } else {
-                              svg.setOutputDevice(&file);
-                              svg.setSize(page.size());
-                              svg.setViewBox(QRect(QPoint(), page.size()));
-                          }
-                          QCPPainter painter;
-                          if (!painter.begin(pdf ? static_cast<QPaintDevice *>(&writer) : &svg))
-                              return cannotDraw();
-                          page.draw(&painter);
-                          return painter.end() ? QString() : cannotDraw();
-                      });
+    const bool pdf = path.endsWith(QLatin1String(".pdf"));
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly)) {
+        QPdfWriter writer(&file);
+        QSvgGenerator svg;
+        if (pdf) {
+            // A point for a pixel.
+            constexpr int pointsInAnInch = 72;
+            writer.setResolution(pointsInAnInch);
+            writer.setPageSize(
+                QPageSize(QSizeF(page.size()), QPageSize::Point, QString(), QPageSize::ExactMatch));
+            writer.setPageMargins(QMarginsF());
+        } else {
+            svg.setOutputDevice(&file);
+            svg.setSize(page.size());
+            svg.setViewBox(QRect(QPoint(), page.size()));
+        }
+        QCPPainter painter;
+        if (!painter.begin(pdf ? static_cast<QPaintDevice *>(&writer) : &svg))
+            return cannotDraw();
+        page.draw(&painter);
+        if (!painter.end())
+            return cannotDraw();
+        // What only commit() writes may be lost untold where the disk is full.
+        if (!file.flush())
+            return cannotWrite(QFileInfo(path).path(), file.errorString());
+    }
+    return file.commit() ? QString() : cannotWrite(QFileInfo(path).path(), file.errorString());
+}
+
+bool takesFiles(const QString &folder)
+{
+    QTemporaryFile probe(QDir(folder).filePath(QStringLiteral(".vnapanel-XXXXXX")));
+    return QDir().mkpath(folder) && probe.open();
+}
+
+QString datedName(const QStringList &parts)
+{
+    return (parts
+            + QStringList(QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"))))
+        .join(QLatin1Char('-'));
 }
 
 bool printDiagram(DiagramView *view, QPrinter *printer)
@@ -156,20 +170,6 @@ bool printDiagram(DiagramView *view, QPrinter *printer)
     painter.scale(scale, scale);
     page.draw(&painter);
     return painter.end();
-}
-
-Exported exportData(const Network &network, const QString &folder, DataFormat format)
-{
-    const QString suffix = format == DataFormat::Csv ? QStringLiteral(".csv")
-                                                     : QStringLiteral(".s%1p").arg(network.ports);
-    const QString stem = QFileInfo(network.name).completeBaseName();
-    return exportFile(folder, stem.isEmpty() ? QStringLiteral("vnapanel") : stem, suffix,
-                      [&](QFile &file) {
-                          // The network takes the place of the empty file.
-                          SaveOptions options;
-                          options.overwrite = true;
-                          return saveNetwork(file.fileName(), network, options);
-                      });
 }
 
 } // namespace Panel

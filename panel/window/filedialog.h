@@ -5,12 +5,12 @@
 #include <controls/draggableframelessdialog.h>
 
 class QLabel;
-class QListWidget;
-class QListWidgetItem;
 class QPushButton;
 
 namespace Panel
 {
+
+class FolderBrowser;
 
 /*! Picks Touchstone files with a finger: tall rows, one tap for a folder or to pick and unpick a
    file, and the places one goes to most. It only picks; reading the files is for whoever asked. */
@@ -21,7 +21,7 @@ class FileDialog : public Controls::DraggableFramelessDialog
 public:
     explicit FileDialog(QWidget *parent = nullptr);
 
-    QString folder() const { return m_folder; }
+    QString folder() const;
     void setFolder(const QString &folder);
     /// Full paths of the picked files, in the order of the list.
     QStringList pickedFiles() const;
@@ -31,15 +31,10 @@ public:
     bool wasAdded() const { return m_wasAdded; }
 
 private:
-    void onItemClicked(QListWidgetItem *item);
-    void onItemActivated(QListWidgetItem *item);
     void updateButtons();
 
-    QString m_folder;
-    QLabel *m_path;
+    FolderBrowser *m_browser;
     QLabel *m_hint;
-    QListWidget *m_list;
-    QPushButton *m_up;
     QPushButton *m_add;
     QPushButton *m_open;
     bool m_wasAdded = false;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "savedialog.h"
+
 #include <panel/ground/soundoutput.h>
 
 #include <QObject>
@@ -65,6 +67,8 @@ private:
     void connectHistory();
     void tellState();
     void addShortcuts();
+    void saveAs(const QString &title, const QStringList &name, const QString &suffix,
+                const SaveDialog::Writer &write);
 
     PanelModel *m_model;
     PanelWindow *m_window;

@@ -10,11 +10,13 @@
 #include <panel/diagrams/diagramview.h>
 #include <panel/ground/dialogstage.h>
 #include <panel/model/panelmodel.h>
+#include <panel/touchstone/saving.h>
 
 #include <widgets/menubutton.h>
 
 #include <QClipboard>
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -83,15 +85,24 @@ void PanelController::onSavePicked(int command)
     DiagramView *view = m_window->diagrams()->activeView();
     if (!trace || !view)
         return;
-    const QString folder = folderForExports(*m_model->preferences());
-    const Network network =
-        documented(m_model->networks().at(trace->network), m_model->correction(*trace));
+    const Network &measured = m_model->networks().at(trace->network);
+    const Network network = documented(measured, m_model->correction(*trace));
+    const QString stem = QFileInfo(measured.name).completeBaseName();
+    const auto saveData = [network](const QString &path) {
+        SaveOptions options;
+        options.overwrite = true; // the dialog has asked
+        return saveNetwork(path, network, options);
+    };
+    const auto saveDrawing = [view = QPointer<DiagramView>(view)](const QString &path) {
+        return view ? saveDiagram(view, path) : QString();
+    };
     switch (command) {
     case SaveTouchstone:
-        tell(exportData(network, folder, DataFormat::Touchstone));
+        saveAs(tr("Save as Touchstone"), {stem}, QStringLiteral(".s%1p").arg(network.ports),
+               saveData);
         break;
     case SaveCsv:
-        tell(exportData(network, folder, DataFormat::Csv));
+        saveAs(tr("Save as CSV"), {stem}, QStringLiteral(".csv"), saveData);
         break;
     case CopyPicture:
         m_window->messageBar()->notify({}); // of what was saved before
@@ -102,12 +113,29 @@ void PanelController::onSavePicked(int command)
         print(view);
         break;
     case SavePdf:
-        tell(exportDiagram(view, folder, DrawingFormat::Pdf));
+        saveAs(tr("Save the diagram as PDF"), {stem, PanelModel::parameterName(*trace)},
+               QStringLiteral(".pdf"), saveDrawing);
         break;
     case SaveSvg:
-        tell(exportDiagram(view, folder, DrawingFormat::Svg));
+        saveAs(tr("Save the diagram as SVG"), {stem, PanelModel::parameterName(*trace)},
+               QStringLiteral(".svg"), saveDrawing);
         break;
     }
+}
+
+/// Asks where. The next file goes there, too.
+void PanelController::saveAs(const QString &title, const QStringList &name, const QString &suffix,
+                             const SaveDialog::Writer &write)
+{
+    auto *dialog = new SaveDialog(title, suffix, write, m_window);
+    dialog->setFolder(folderForExports(*m_model->preferences()));
+    dialog->setName(datedName(name));
+    dialog->resize(640, 560);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        m_model->preferences()->setExportFolder(dialog->folder());
+        tell({dialog->path(), QString()});
+    });
+    DialogStage::show(dialog, m_window);
 }
 
 void PanelController::print(DiagramView *view)

@@ -3,6 +3,7 @@
 #include "settingsdialog.h"
 
 #include "exports.h"
+#include "savedialog.h"
 
 #include <panel/ground/dialogstage.h>
 #include <panel/ground/languages.h>
@@ -13,7 +14,6 @@
 #include <widgets/switchbutton.h>
 
 #include <QDir>
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -144,13 +144,15 @@ void SettingsDialog::showFolder()
 
 void SettingsDialog::pickFolder()
 {
-    auto *dialog =
-        new QFileDialog(this, tr("Saved files go to"), folderForExports(*m_model->preferences()));
-    dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setFileMode(QFileDialog::Directory);
-    dialog->setOption(QFileDialog::ShowDirsOnly);
-    connect(dialog, &QFileDialog::fileSelected, m_model->preferences(),
-            &Preferences::setExportFolder);
+    const auto use = [preferences = m_model->preferences()](const QString &folder) {
+        if (!takesFiles(folder))
+            return tr("Nothing can be written to this folder.");
+        preferences->setExportFolder(folder);
+        return QString();
+    };
+    auto *dialog = new SaveDialog(tr("Saved files go to"), use, this);
+    dialog->setFolder(folderForExports(*m_model->preferences()));
+    dialog->resize(560, 480);
     DialogStage::show(dialog, this);
 }
 

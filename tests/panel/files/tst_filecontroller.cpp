@@ -7,8 +7,11 @@
 #include <panel/files/filenotes.h>
 #include <panel/touchstone/touchstone.h>
 #include <panel/window/exports.h>
+#include <panel/window/savedialog.h>
 
 #include <widgets/menubutton.h>
+
+#include <QLineEdit>
 
 using namespace VnaTest;
 using namespace Panel;
@@ -338,9 +341,35 @@ private Q_SLOTS:
         const QDir folder(desk.model.preferences()->exportFolder());
         const Network whole = desk.model.networks().first();
         desk.model.setStimulus(*desk.model.activeTrace(), {2.4e9, 2.5e9});
-        for (const int command : {0, 1, 2, 3})
+        const auto dialog = [&desk] { return desk.window.findChild<SaveDialog *>(); };
+        const auto key = [&] { return dialog()->findChild<QPushButton *>("save"_s); };
+        QVERIFY(QDir().mkpath(folder.path()));
+        for (const int command : {0, 1, 2, 3}) {
             Q_EMIT desk.window.keys().save->menuItemClicked(command);
+            desk.click(key());
+            QVERIFY(!dialog());
+        }
         QCOMPARE(folder.entryList(QDir::Files).size(), 4);
+        QCOMPARE(folder.entryList({"band-pass-S11-*.svg"_s}).size(), 1);
+        // What would replace a file says so, and what cannot be written changes nothing.
+        Q_EMIT desk.window.keys().save->menuItemClicked(2);
+        auto *line = dialog()->findChild<QLineEdit *>();
+        line->setText("re/port"_s);
+        QCOMPARE(key()->text(), "Save"_s);
+        QCOMPARE(dialog()->path(), folder.filePath("report.pdf"_s));
+        writeFile(folder.filePath("report.pdf"_s), "old");
+        line->setText("report"_s);
+        QCOMPARE(key()->text(), "Replace"_s);
+        dialog()->setFolder("/proc"_s);
+        desk.click(key());
+        QVERIFY(dialog() && dialog()->path().startsWith("/proc/"_s));
+        const auto labels = dialog()->findChildren<QLabel *>();
+        QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+            return label->text().startsWith("Nothing can be written to /proc ("_s);
+        }));
+        desk.press(Qt::Key_Escape);
+        QVERIFY(QFile::remove(folder.filePath("report.pdf"_s)));
+        QVERIFY(!takesFiles("/proc"_s) && takesFiles(folder.path()));
         const TouchstoneResult read =
             readTouchstone(folder.filePath(folder.entryList({"*.s2p"_s}).value(0)));
         QVERIFY(read.ok());

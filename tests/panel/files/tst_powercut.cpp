@@ -67,20 +67,15 @@ const std::pair<const char *, Write> s_writers[] = {
      [](Scene &scene, int which) { return save(scene, which, "network.ts"_s); }},
     {"a network as CSV",
      [](Scene &scene, int which) { return save(scene, which, "network.csv"_s); }},
-    {"exported data",
-     [](Scene &scene, int which) {
-         return exportData(scene.network(which), scene.folder(), DataFormat::Touchstone)
-             .error.isEmpty();
-     }},
     {"a screenshot",
      [](Scene &scene, int) {
          return exportScreenshot(scene.view.get(), scene.folder()).error.isEmpty();
      }},
     {"a drawing",
      [](Scene &scene, int which) {
-         return exportDiagram(scene.view.get(), scene.folder(),
-                              which ? DrawingFormat::Svg : DrawingFormat::Pdf)
-             .error.isEmpty();
+         QDir().mkpath(scene.folder());
+         const QString path = scene.path(which ? "vnapanel-1.svg"_s : "vnapanel-0.pdf"_s);
+         return saveDiagram(scene.view.get(), path).isEmpty();
      }},
 };
 
