@@ -5,7 +5,7 @@
 
 #include <panel/diagrams/cartesianview.h>
 #include <panel/diagrams/diagrams.h>
-#include <panel/diagrams/smithview.h>
+#include <panel/diagrams/planeview.h>
 #include <plot/qcp.h>
 #include <smithchart/smithchartplot.h>
 
@@ -141,10 +141,11 @@ bool Desk::drawPointOfTrace(Random &random, QPoint &position) const
     if (index < 0 || index >= points)
         return false;
     QPointF pixel;
-    if (qobject_cast<Panel::SmithView *>(view)) {
+    if (const auto *plane = qobject_cast<Panel::PlaneView *>(view)) {
+        const double full = plane->fullScale(*trace);
         const Panel::Parameter data = m_model->traceData(*trace).parameter;
-        pixel = {view->plot()->xAxis->coordToPixel(data.real.at(index)),
-                 view->plot()->yAxis->coordToPixel(data.imag.at(index))};
+        pixel = {view->plot()->xAxis->coordToPixel(data.real.at(index) / full),
+                 view->plot()->yAxis->coordToPixel(data.imag.at(index) / full)};
     } else {
         const QCPGraph *graph = static_cast<Panel::CartesianView *>(view)->graph(id);
         if (!graph)

@@ -4,7 +4,7 @@
 
 #include <panel/diagrams/cartesianview.h>
 #include <panel/diagrams/diagrams.h>
-#include <panel/diagrams/smithview.h>
+#include <panel/diagrams/planeview.h>
 #include <plot/qcp.h>
 #include <smithchart/smithchartplot.h>
 
@@ -42,6 +42,7 @@ public:
         : m_model(model)
         , m_view(view)
         , m_cartesian(qobject_cast<const CartesianView *>(view))
+        , m_plane(qobject_cast<const PlaneView *>(view))
     {
         for (const int id : view->traceIds()) {
             for (const Marker &marker : model.markersOf(id))
@@ -51,8 +52,8 @@ public:
             checkFrequencies();
             checkScale(*view->activeTrace());
         }
-        if (const auto *smith = qobject_cast<const SmithView *>(view))
-            expect(smith->chart()->viewState().zoom, model.zoom(view->id()).factor, "the zoom");
+        if (m_plane)
+            expect(m_plane->chart()->viewState().zoom, model.zoom(view->id()).factor, "the zoom");
     }
 
     const QStringList &broken() const { return m_broken; }
@@ -81,8 +82,9 @@ private:
         if (!trace.visible || index < 0.0)
             return {qQNaN(), qQNaN()};
         const Parameter data = m_model.traceData(trace).parameter;
-        if (!m_cartesian)
-            return {valueAt(data.real, index), valueAt(data.imag, index)};
+        if (m_plane)
+            return QPointF(valueAt(data.real, index), valueAt(data.imag, index))
+                / m_plane->fullScale(trace);
         const double hertz = valueAt(m_model.network(trace).frequencies, index);
         const double value = formatValueAt(m_model.traceData(trace), index, trace.format);
         const QCPRange range = m_cartesian->frequencyAxis().range();
@@ -180,6 +182,7 @@ private:
     const PanelModel &m_model;
     const DiagramView *m_view;
     const CartesianView *m_cartesian;
+    const PlaneView *m_plane;
     QStringList m_broken;
 };
 

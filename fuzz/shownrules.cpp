@@ -5,8 +5,8 @@
 #include <controls/overlaycontainer.h>
 #include <panel/diagrams/cartesianview.h>
 #include <panel/diagrams/diagrams.h>
+#include <panel/diagrams/planeview.h>
 #include <panel/diagrams/readouts.h>
-#include <panel/diagrams/smithview.h>
 #include <panel/model/cartesian.h>
 #include <panel/window/panelwindow.h>
 #include <panel/window/timingline.h>
@@ -67,7 +67,7 @@ double wantedValue(const Written &written, const Trace &trace, const TraceData &
 {
     if (written.unit == QLatin1String("Hz"))
         return valueAt(data.frequencies, index);
-    if (!trace.onSmithChart()) {
+    if (trace.overFrequency()) {
         // The unit of a delay has a prefix of its own.
         const double value = formatValueAt(data, index, trace.format);
         return formatUnit(trace.format) == QLatin1String("ns") ? 1e-9 * value : value;
@@ -92,8 +92,9 @@ void checkDigits(const PanelModel &model, const DiagramView &view, QStringList &
         const Trace &trace = *model.trace(marker.trace);
         for (const QLabel *label : item->findChildren<QLabel *>()) {
             const Written written(label->text());
-            const double wanted = wantedValue(written, trace, model.traceData(trace), index,
-                                              model.viewSettings()->effectiveReadoutFormat());
+            const double wanted =
+                wantedValue(written, trace, model.traceData(trace), index,
+                            model.viewSettings()->effectiveReadoutFormat(trace.kind()));
             // Seven digits are more than any value is told to, and less than its sum is exact to.
             if (std::isfinite(wanted) && std::isfinite(written.number)
                 && std::abs(written.number - wanted) > written.rounding + 1e-7 * std::abs(wanted))
@@ -107,11 +108,11 @@ void checkDigits(const PanelModel &model, const DiagramView &view, QStringList &
 void checkLines(const PanelModel &model, const DiagramView &view, QStringList &broken)
 {
     const auto *cartesian = qobject_cast<const CartesianView *>(&view);
-    const auto *smith = qobject_cast<const SmithView *>(&view);
-    const auto pen = [cartesian, smith](int id) {
+    const auto *plane = qobject_cast<const PlaneView *>(&view);
+    const auto pen = [cartesian, plane](int id) {
         const QCPAbstractPlottable *line = cartesian
             ? static_cast<QCPAbstractPlottable *>(cartesian->graph(id))
-            : smith->chart()->getCurve(id);
+            : plane->chart()->getCurve(id);
         return line && line->visible() ? line->pen() : QPen(Qt::NoPen);
     };
     const QVector<int> ids = view.traceIds();
@@ -174,7 +175,7 @@ QStringList ShownRules::broken(const PanelModel &model, PanelWindow &window)
                             int(settings.markerTable()), int(!window.timingLine()->isHidden())};
     QVector<QRect> places;
     for (DiagramView *view : window.diagrams()->views()) {
-        conditions << view->id().place << int(view->id().smith) << int(!view->isVisible());
+        conditions << view->id().place << int(view->id().kind) << int(!view->isVisible());
         places << QRect(view->mapTo(&window, QPoint()), view->size());
         if (!view->isVisible() || view->visibleRegion().isEmpty())
             continue;

@@ -11,10 +11,6 @@
         <source>ref %1</source>
         <translation>Ref %1</translation>
     </message>
-    <message>
-        <source>own scale: %1</source>
-        <translation>eigene Skala: %1</translation>
-    </message>
 </context>
 <context>
     <name>Panel::DiagramReader</name>
@@ -59,6 +55,10 @@
     <message>
         <source>smoothed %1 %</source>
         <translation>%1 % geglättet</translation>
+    </message>
+    <message>
+        <source>own scale: %1</source>
+        <translation>eigene Skala: %1</translation>
     </message>
 </context>
 <context>
@@ -1261,6 +1261,17 @@
     </message>
 </context>
 <context>
+    <name>Panel::PolarView</name>
+    <message>
+        <source>Polar diagram</source>
+        <translation>Polardiagramm</translation>
+    </message>
+    <message>
+        <source>full scale %1</source>
+        <translation>Vollausschlag %1</translation>
+    </message>
+</context>
+<context>
     <name>Panel::ReadOuts</name>
     <message>
         <source>Markers</source>
@@ -1875,6 +1886,10 @@
     <message>
         <source>Delay</source>
         <translation>Laufzeit</translation>
+    </message>
+    <message>
+        <source>Polar</source>
+        <translation>Polar</translation>
     </message>
 </context>
 <context>

@@ -11,10 +11,6 @@
         <source>ref %1</source>
         <translation>参考 %1</translation>
     </message>
-    <message>
-        <source>own scale: %1</source>
-        <translation>独立刻度：%1</translation>
-    </message>
 </context>
 <context>
     <name>Panel::DiagramReader</name>
@@ -58,6 +54,10 @@
     <message>
         <source>smoothed %1 %</source>
         <translation>平滑 %1 %</translation>
+    </message>
+    <message>
+        <source>own scale: %1</source>
+        <translation>独立刻度：%1</translation>
     </message>
 </context>
 <context>
@@ -1254,6 +1254,17 @@
     </message>
 </context>
 <context>
+    <name>Panel::PolarView</name>
+    <message>
+        <source>Polar diagram</source>
+        <translation>极坐标图</translation>
+    </message>
+    <message>
+        <source>full scale %1</source>
+        <translation>满刻度 %1</translation>
+    </message>
+</context>
+<context>
     <name>Panel::ReadOuts</name>
     <message>
         <source>Markers</source>
@@ -1868,6 +1879,10 @@
     <message>
         <source>Delay</source>
         <translation>群时延</translation>
+    </message>
+    <message>
+        <source>Polar</source>
+        <translation>极坐标</translation>
     </message>
 </context>
 <context>

@@ -347,18 +347,10 @@ QStringList CartesianView::titleParts() const
     const Trace *active = activeTrace();
     if (!active)
         return {};
-    QStringList parts{
-        formatName(active->format), divisionText(active->format, active->scale.perDivision),
-        tr("ref %1").arg(cartesianReferenceText(active->scale.reference(), active->format))};
-    // The numbers beside the axis are the active trace's.
-    QStringList others;
-    for (const Trace &trace : traces()) {
-        if (trace.visible && (trace.format != active->format || trace.scale != active->scale))
-            others << QStringLiteral("Tr%1").arg(trace.id);
-    }
-    if (!others.isEmpty())
-        parts << tr("own scale: %1").arg(others.join(QLatin1String(", ")));
-    return parts;
+    return QStringList{
+               formatName(active->format), divisionText(active->format, active->scale.perDivision),
+               tr("ref %1").arg(cartesianReferenceText(active->scale.reference(), active->format))}
+    + otherScales(*active);
 }
 
 int CartesianView::drawnPoints() const

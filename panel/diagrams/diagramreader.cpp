@@ -101,7 +101,7 @@ QString DiagramReader::summary() const
                 data.frequencies, [](double hertz) { return SmithChart::hertzText(hertz, 5); });
             continue;
         }
-        const TraceFormat format = trace.onSmithChart() ? TraceFormat::LogMagnitude : trace.format;
+        const TraceFormat format = trace.overFrequency() ? trace.format : TraceFormat::LogMagnitude;
         const QVector<double> values = formatValues(data, format);
         const Extremes found = extremesOf(values);
         if (found.lowest < 0)

@@ -6,6 +6,7 @@
 #include "chartgestures.h"
 #include "diagramreader.h"
 #include "largereading.h"
+#include "polarview.h"
 #include "smithview.h"
 #include "tracewalker.h"
 
@@ -68,8 +69,8 @@ Diagrams::Diagrams(PanelModel *model, QWidget *parent)
 {
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_grid->setSpacing(0);
-    view({true, 0});
-    view({false, 0});
+    view({DiagramKind::Smith, 0});
+    view({DiagramKind::Cartesian, 0});
     connect(m_model, &PanelModel::tracesChanged, this, [this] { arrange(true); });
     connect(m_model, &PanelModel::activeTraceChanged, this, [this] { arrange(false); });
     connect(m_model->viewSettings(), &ViewSettings::changed, this, [this] { arrange(false); });
@@ -98,12 +99,12 @@ DiagramView *Diagrams::activeView() const
 
 SmithView *Diagrams::smithView() const
 {
-    return static_cast<SmithView *>(m_views.at({true, 0}));
+    return static_cast<SmithView *>(m_views.at({DiagramKind::Smith, 0}));
 }
 
 CartesianView *Diagrams::cartesianView() const
 {
-    return static_cast<CartesianView *>(m_views.at({false, 0}));
+    return static_cast<CartesianView *>(m_views.at({DiagramKind::Cartesian, 0}));
 }
 
 /// The view of a diagram, made when it is first needed.
@@ -112,8 +113,10 @@ DiagramView *Diagrams::view(const DiagramId &id)
     DiagramView *&view = m_views[id];
     if (view)
         return view;
-    if (id.smith)
+    if (id.kind == DiagramKind::Smith)
         view = new SmithView(m_model, id);
+    else if (id.kind == DiagramKind::Polar)
+        view = new PolarView(m_model, id);
     else
         view = new CartesianView(m_model, id);
     (new DiagramFrame(view, this))->hide();
@@ -186,7 +189,8 @@ void Diagrams::place(const QVector<DiagramView *> &views)
         const bool wide = columns == 2 && views.size() == 3 && i == 2;
         m_grid->addWidget(views.at(i)->parentWidget(), i / columns, i % columns, 1, wide ? 2 : 1);
     }
-    for (int i = 0; i < 2; ++i) {
+    constexpr int maximumLines = 3; // of diagrams below each other
+    for (int i = 0; i < maximumLines; ++i) {
         m_grid->setColumnStretch(i, i < columns ? 1 : 0);
         m_grid->setRowStretch(i, i * columns < views.size() ? 1 : 0);
     }

@@ -46,7 +46,7 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
     column->addWidget(m_title);
     column->addLayout(m_body, 1);
     m_body->addWidget(m_plot, 1);
-    if (m_id.smith)
+    if (m_id.kind != DiagramKind::Cartesian)
         m_body->addWidget(m_readOuts, s_readOutsFirst);
     else
         m_readOuts->setParent(m_plot);
@@ -267,6 +267,18 @@ void DiagramView::updateTitle()
     m_title->setText(parts.join(QStringLiteral(" \u00b7 ")));
 }
 
+QStringList DiagramView::otherScales(const Trace &written) const
+{
+    QStringList others;
+    for (const Trace &trace : traces()) {
+        if (trace.visible && (trace.format != written.format || trace.scale != written.scale))
+            others << QStringLiteral("Tr%1").arg(trace.id);
+    }
+    if (!others.isEmpty())
+        return {tr("own scale: %1").arg(others.join(QLatin1String(", ")))};
+    return {};
+}
+
 /// What is done to the data of the active trace, as long as it holds.
 QStringList DiagramView::processingTexts() const
 {
@@ -296,7 +308,7 @@ void DiagramView::replotLater()
 void DiagramView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    if (!m_id.smith)
+    if (m_id.kind == DiagramKind::Cartesian)
         return;
     // A square diagram leaves room beside it where it is much wider than high.
     const int side = width() - height();

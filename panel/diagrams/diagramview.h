@@ -125,6 +125,8 @@ protected:
     bool reaches(const Trace &trace) const;
     /// Places all markers of a trace.
     void placeMarkers(const Trace &trace);
+    /// Which traces have another scale than the one whose numbers are written; empty for none.
+    QStringList otherScales(const Trace &written) const;
     void updateTitle();
     void replotLater();
 

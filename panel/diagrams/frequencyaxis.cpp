@@ -170,7 +170,8 @@ bool FrequencyAxis::show(const QCPRange &whole, const Zoom &zoom, FrequencyScale
 Zoom FrequencyAxis::zoomFor(double centre, double factor) const
 {
     const QCPRange axis = along(m_whole);
-    return bounded({factor, (centre - axis.center()) / (axis.size() / 2.0), 0.0}, false);
+    return bounded({factor, (centre - axis.center()) / (axis.size() / 2.0), 0.0},
+                   DiagramKind::Cartesian);
 }
 
 Zoom FrequencyAxis::zoomedAt(double hertz, const Zoom &before, double factor) const

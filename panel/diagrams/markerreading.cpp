@@ -230,12 +230,12 @@ MarkerReading readPoint(const PanelModel &model, const Marker &marker)
     const auto point = [&](const Marker &marked) {
         return MarkedPoint{model.traceData(trace), model.indexOf(marked)};
     };
-    const ReadoutFormat format = model.viewSettings()->effectiveReadoutFormat();
+    const ReadoutFormat format = model.viewSettings()->effectiveReadoutFormat(trace.kind());
     if (point(marker).index < 0.0 || (reference && point(*reference).index < 0.0)) {
         const double hertz = model.hertzOf(marker) - (reference ? model.hertzOf(*reference) : 0.0);
         return {hertz, frequencyText(hertz), {nothingText()}, {qQNaN()}};
     }
-    if (trace.onSmithChart())
+    if (!trace.overFrequency())
         return reference ? readOnSmithChart(point(marker), format, point(*reference))
                          : readOnSmithChart(point(marker), format);
     return reference ? readOnCartesian(point(marker), trace.format, point(*reference))

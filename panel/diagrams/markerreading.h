@@ -35,7 +35,7 @@ inline bool reflects(const Trace &trace)
     return trace.to == trace.from;
 }
 
-/*! Reads a point on the Smith chart.
+/*! Reads a point on the Smith chart or in a polar diagram.
 
     Impedance and admittance are those of impedanceOf() and admittanceOf(), and the standing wave
     ratio is (1 + |Γ|) / (1 - |Γ|).

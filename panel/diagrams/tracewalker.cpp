@@ -4,6 +4,7 @@
 
 #include "cartesianview.h"
 #include "markerreading.h"
+#include "planeview.h"
 
 #include <panel/ground/look.h>
 #include <panel/model/limitline.h>
@@ -141,7 +142,7 @@ void TraceWalker::prepare(const Trace &trace)
     m_walk.setMarkers(places);
     // Limits are tested once for each measurement, and not at each step.
     Tested tested{data.parameter.real, trace.limits, trace.format};
-    if (trace.onSmithChart())
+    if (!trace.overFrequency())
         tested.limits.clear();
     if (tested == m_tested)
         return;
@@ -153,7 +154,7 @@ void TraceWalker::prepare(const Trace &trace)
 double TraceWalker::nextPlace(const Trace &trace, const SmithChart::WalkStep &step)
 {
     prepare(trace);
-    if (step.unit == SmithChart::WalkUnit::View && !trace.onSmithChart() && isWalking()) {
+    if (step.unit == SmithChart::WalkUnit::View && trace.overFrequency() && isWalking()) {
         const int columns = m_view->plot()->axisRect()->width();
         const int points = qRound(s_viewStep * columns * m_view->pointsPerStep(trace.id));
         // A column may hold less than a point: no step is longer than a tenth of the trace.
@@ -225,7 +226,7 @@ void TraceWalker::setMarker()
 
 QVector<double> TraceWalker::limitEdges(const Trace &trace) const
 {
-    if (trace.onSmithChart() || trace.limits.isEmpty())
+    if (!trace.overFrequency() || trace.limits.isEmpty())
         return {};
     const QVector<int> failing =
         testLimits(m_model->traceData(trace), trace.format, trace.limits).failing;
@@ -247,7 +248,7 @@ QString TraceWalker::textAt(const Trace &trace, double before) const
     const bool compared = before >= 0.0 && before <= data.points() - 1 && before != m_index;
     const SmithChart::TraceFeatures features = m_walk.featuresAt(m_index);
     const QString name = PanelModel::parameterName(trace) + QLatin1Char(' ');
-    if (trace.onSmithChart() && reflects(trace)) {
+    if (!trace.overFrequency() && reflects(trace)) {
         const std::complex<double> gamma = data.at(m_index);
         const SmithChart::PointValues point{valueAt(data.frequencies, m_index), gamma,
                                             impedanceOf(gamma, data.reference),
@@ -258,10 +259,10 @@ QString TraceWalker::textAt(const Trace &trace, double before) const
                    [](double hertz) { return SmithChart::hertzText(hertz); },
                    compared ? std::optional(data.at(before)) : std::nullopt);
     }
-    const bool smith = trace.onSmithChart();
+    const bool plane = !trace.overFrequency();
     const ReadoutFormat format = ReadoutFormat::Decibels;
     const MarkerReading reading =
-        smith ? readOnSmithChart(here, format) : readOnCartesian(here, trace.format);
+        plane ? readOnSmithChart(here, format) : readOnCartesian(here, trace.format);
     QString text = SmithChart::featureText(features, m_walk.vswr());
     if (!text.isEmpty())
         text += QStringLiteral(": ");
@@ -270,7 +271,7 @@ QString TraceWalker::textAt(const Trace &trace, double before) const
             .join(QStringLiteral(", "));
     if (compared) {
         const MarkedPoint there{data, before};
-        const MarkerReading change = smith ? readOnSmithChart(here, format, there)
+        const MarkerReading change = plane ? readOnSmithChart(here, format, there)
                                            : readOnCartesian(here, trace.format, there);
         text += QStringLiteral(", ") + tr("changed by %1").arg(change.values.first());
     }
@@ -296,7 +297,8 @@ void TraceWalker::showRing(const Trace &trace)
         m_ring->position->setCoords(valueAt(data.frequencies, m_index),
                                     formatValueAt(data, m_index, trace.format));
     } else {
-        const std::complex<double> gamma = data.at(m_index);
+        const auto *plane = qobject_cast<const PlaneView *>(m_view);
+        const std::complex<double> gamma = data.at(m_index) / plane->fullScale(trace);
         m_ring->position->setAxes(plot->xAxis, plot->yAxis);
         m_ring->position->setCoords(gamma.real(), gamma.imag());
     }

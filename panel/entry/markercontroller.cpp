@@ -216,8 +216,8 @@ void MarkerController::editTarget(int direction)
     const Marker *marker = m_model->selectedMarker();
     const double last = m_model->network(trace).points() - 1;
     const double from = marker ? qMax(0.0, m_model->indexOf(*marker)) : direction > 0 ? 0.0 : last;
-    // On a Smith chart it is the magnitude.
-    const TraceFormat format = trace.onSmithChart() ? TraceFormat::LinearMagnitude : trace.format;
+    // In a plane it is the magnitude.
+    const TraceFormat format = trace.overFrequency() ? trace.format : TraceFormat::LinearMagnitude;
     if (searchTarget(m_model->traceData(trace), trace.format, m_target, from, direction) >= 0.0)
         goToTarget(m_target, from, direction);
     m_numbers->editValue(m_keys.search, tr("Value, %1").arg(formatName(format)), format, m_target,
@@ -271,7 +271,7 @@ void MarkerController::onMarkerToPicked(int command)
         const double value = formatValueAt(m_model->traceData(trace), index, trace.format);
         if (command == ToDelay)
             moveToZeroDelay(trace, index);
-        else if (!trace.onSmithChart())
+        else if (trace.overFrequency())
             m_model->setTraceScale(trace.id, trace.scale.withReference(value));
         return;
     }

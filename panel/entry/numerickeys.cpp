@@ -265,7 +265,9 @@ void NumericKeys::editSmithScale(QWidget *anchor)
 void NumericKeys::editReference()
 {
     const Trace *trace = m_model->activeTrace();
-    if (!trace || trace->onSmithChart())
+    if (trace && trace->kind() == DiagramKind::Polar)
+        editFullScale();
+    if (!trace || !trace->overFrequency())
         return;
     UnitAdapter *adapter = valueAdapter(trace->format);
     const double farthest = farthestValue(trace->format);
@@ -275,6 +277,21 @@ void NumericKeys::editReference()
     edit(m_keys.reference, adapter, {before.perDivision, before.perDivision / 10.0},
          [this, before, id = trace->id](double value) {
              m_model->setTraceScale(id, before.withReference(value));
+         });
+}
+
+/// The reference of a polar diagram is its outermost circle.
+void NumericKeys::editFullScale()
+{
+    const Trace *trace = m_model->activeTrace();
+    const FormatTraits &format = traits(trace->format);
+    UnitAdapter *adapter = valueAdapter(trace->format);
+    adapter->setRange(format.divisions * format.smallestDivision,
+                      format.divisions * format.largestDivision);
+    adapter->setRealValue(trace->scale.top);
+    edit(m_keys.reference, adapter, {NumericDialog::Step125},
+         [this, before = trace->scale, divisions = format.divisions, id = trace->id](double value) {
+             m_model->setTraceScale(id, before.withDivision(value / divisions));
          });
 }
 
@@ -329,16 +346,18 @@ void NumericKeys::showMarkerStimulus()
 void NumericKeys::showScale()
 {
     const Trace *trace = m_model->activeTrace();
-    const bool cartesian = trace && !trace->onSmithChart();
+    const bool scaled = trace && !trace->onSmithChart();
     const Zoom zoom = trace ? m_model->zoom(m_model->diagramOf(trace->id)) : Zoom();
-    m_keys.scale->setValue(!trace          ? nothingText()
-                               : cartesian ? divisionText(trace->format, trace->scale.perDivision)
-                                           : zoomText(zoom.factor));
+    m_keys.scale->setValue(!trace       ? nothingText()
+                               : scaled ? divisionText(trace->format, trace->scale.perDivision)
+                                        : zoomText(zoom.factor));
     m_keys.scale->setEnabled(trace);
-    m_keys.reference->setValue(cartesian
-                                   ? cartesianReferenceText(trace->scale.reference(), trace->format)
-                                   : nothingText());
-    m_keys.reference->setEnabled(cartesian);
+    const bool polar = scaled && trace->kind() == DiagramKind::Polar;
+    m_keys.reference->setValue(
+        scaled ? cartesianReferenceText(polar ? trace->scale.top : trace->scale.reference(),
+                                        trace->format)
+               : nothingText());
+    m_keys.reference->setEnabled(scaled);
     m_keys.zoom->setEnabled(trace);
     m_keys.zoom->setValue(trace ? QStringLiteral("%1 \u00d7").arg(zoom.factor, 0, 'f', 2)
                                 : nothingText());

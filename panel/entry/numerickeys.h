@@ -60,6 +60,7 @@ private:
     void editSmithScale(QWidget *anchor);
     void editZoom();
     void editReference();
+    void editFullScale();
     void editTuning();
     void editBandwidth();
     void editPower();

@@ -89,7 +89,7 @@ void TraceController::connectKeys()
         const Trace *trace = m_model->activeTrace();
         if (m_limitSheet)
             m_limitSheet->leave();
-        else if (trace && !trace->onSmithChart())
+        else if (trace && trace->overFrequency())
             m_limitSheet = new LimitSheet(m_model, trace->id, m_numbers, m_host);
     });
     connect(keys.addTrace, &SoftKey::clicked, this, &TraceController::addTrace);
@@ -170,7 +170,7 @@ void TraceController::choose(QWidget *anchor, const QRect &place, const QStringL
 void TraceController::showReferencePosition(const Trace *active)
 {
     QStringList places{tr("Top")};
-    const bool cartesian = active && !active->onSmithChart();
+    const bool cartesian = active && active->overFrequency();
     for (int i = 1; cartesian && i < traits(active->format).divisions; ++i)
         places << QString::number(i);
     places << tr("Bottom");
@@ -200,7 +200,7 @@ void TraceController::showTrace()
     };
     const auto count =
         active ? std::count_if(active->limits.begin(), active->limits.end(), isPresent) : 0;
-    keys.limitLines->setEnabled(active && !active->onSmithChart());
+    keys.limitLines->setEnabled(active && active->overFrequency());
     keys.limitLines->setValue(count == 0 ? tr("None") : QString::number(count));
     keys.addTrace->setEnabled(active && m_model->traces().size() < Trace::maximumCount);
     keys.removeTrace->setEnabled(m_model->traces().size() > 1);

@@ -9,11 +9,24 @@
 namespace Panel
 {
 
+namespace
+{
+
+/// Earlier files told a Smith chart from the others only.
+DiagramKind savedKind(const QJsonObject &zoom)
+{
+    if (zoom["kind"_key].isDouble())
+        return DiagramKind(qBound(0, zoom["kind"_key].toInt(), int(DiagramKind::Cartesian)));
+    return zoom["smith"_key].toBool() ? DiagramKind::Smith : DiagramKind::Cartesian;
+}
+
+} // namespace
+
 QJsonArray zoomState(const PanelModel &model)
 {
     QJsonArray zooms;
     for (const auto &[id, zoom] : model.zooms())
-        zooms.append(QJsonObject{{"smith"_key, id.smith},
+        zooms.append(QJsonObject{{"kind"_key, int(id.kind)},
                                  {"place"_key, id.place},
                                  {"factor"_key, zoom.factor},
                                  {"x"_key, zoom.x},
@@ -29,7 +42,7 @@ void restoreZoomState(PanelModel *model, const QJsonArray &saved)
     for (const QJsonValue value : saved) {
         const QJsonObject zoom = value.toObject();
         model->setZoom(
-            {zoom["smith"_key].toBool(), zoom["place"_key].toInt()},
+            {savedKind(zoom), zoom["place"_key].toInt()},
             {zoom["factor"_key].toDouble(), zoom["x"_key].toDouble(), zoom["y"_key].toDouble()});
     }
 }

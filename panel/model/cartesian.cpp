@@ -149,6 +149,7 @@ constexpr std::array<Formula, traceFormatCount> s_formulas{{
     {Formula::OfItsOwn, resistance, nullptr},
     {Formula::OfItsOwn, reactance, nullptr},
     {Formula::OfItsOwn, quality, nullptr},
+    {Formula::Magnitude, magnitude, nullptr},
 }};
 
 /// Whether values are angles that go on beyond a turn, or begin anew there.

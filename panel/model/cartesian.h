@@ -33,7 +33,8 @@ ValueRange valueRange(const TraceData &data, TraceFormat format);
 /// where the format needs them.
 double formatValue(const std::complex<double> &s, const std::complex<double> &reference,
                    TraceFormat format);
-/*! The values of all points of a trace in a format; of the Smith chart, the magnitude. NaN where
+/*! The values of all points of a trace in a format; of the Smith chart and of a polar diagram,
+    the magnitude. NaN where
     there is none: of a NaN, of the VSWR of a full reflection or more, and of the resistance of an
     open circuit. A magnitude of zero counts as -300 dB. */
 QVector<double> formatValues(const TraceData &data, TraceFormat format);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 namespace Panel
 {
@@ -14,7 +15,7 @@ QVector<PlannedDiagram> planDiagrams(Graph::LayoutType layout, const QVector<Tra
     /// What has to be the same for two traces to share a diagram.
     const auto shareDiagram = [layout](const Trace &a, const Trace &b) {
         if (layout != Graph::LayoutType::Quad)
-            return a.onSmithChart() == b.onSmithChart();
+            return a.kind() == b.kind();
         return a.format == b.format && a.to == b.to && a.from == b.from;
     };
     QVector<Trace> firsts; // of each diagram
@@ -26,7 +27,7 @@ QVector<PlannedDiagram> planDiagrams(Graph::LayoutType layout, const QVector<Tra
             ++diagram;
         if (diagram == firsts.size()) {
             firsts.append(trace);
-            diagrams.append(PlannedDiagram{{trace.onSmithChart(), 0}, {}});
+            diagrams.append(PlannedDiagram{{trace.kind(), 0}, {}});
         }
         diagrams[diagram].traces.append(trace.id);
         if (trace.id == activeTrace)
@@ -36,24 +37,26 @@ QVector<PlannedDiagram> planDiagrams(Graph::LayoutType layout, const QVector<Tra
         diagrams = diagrams.mid(active, 1);
     else if (layout == Graph::LayoutType::Quad)
         diagrams = diagrams.mid(active / 4 * 4, 4);
-    else if (diagrams.size() == 2 && !firsts.first().onSmithChart())
-        std::swap(diagrams[0], diagrams[1]);
-    int smiths = 0, cartesians = 0;
+    else
+        std::sort(diagrams.begin(), diagrams.end(),
+                  [](const PlannedDiagram &a, const PlannedDiagram &b) { return a.id < b.id; });
+    std::map<DiagramKind, int> places;
     for (PlannedDiagram &diagram : diagrams)
-        diagram.id.place = diagram.id.smith ? smiths++ : cartesians++;
+        diagram.id.place = places[diagram.id.kind]++;
     return diagrams;
 }
 
-Zoom bounded(Zoom zoom, bool smith)
+Zoom bounded(Zoom zoom, DiagramKind kind)
 {
     if (!std::isfinite(zoom.factor) || !std::isfinite(zoom.x) || !std::isfinite(zoom.y)
         || zoom.factor <= 1.0)
         return {};
     zoom.factor = std::min(zoom.factor, Zoom::maximum);
-    // A Smith chart bounds its centre by the shape of its widget.
-    const double room = smith ? 1.0 : 1.0 - 1.0 / zoom.factor;
+    // A plane bounds its centre by the shape of its widget.
+    const bool plane = kind != DiagramKind::Cartesian;
+    const double room = plane ? 1.0 : 1.0 - 1.0 / zoom.factor;
     zoom.x = std::clamp(zoom.x, -room, room);
-    zoom.y = smith ? std::clamp(zoom.y, -room, room) : 0.0;
+    zoom.y = plane ? std::clamp(zoom.y, -room, room) : 0.0;
     return zoom;
 }
 

@@ -13,17 +13,17 @@ namespace Panel
 
 /// A diagram by its kind and its place among those of its kind, from 0.
 struct DiagramId {
-    bool smith = true;
+    DiagramKind kind = DiagramKind::Smith;
     int place = 0;
 
     friend bool operator==(const DiagramId &a, const DiagramId &b)
     {
-        return a.smith == b.smith && a.place == b.place;
+        return a.kind == b.kind && a.place == b.place;
     }
     friend bool operator!=(const DiagramId &a, const DiagramId &b) { return !(a == b); }
     friend bool operator<(const DiagramId &a, const DiagramId &b)
     {
-        return a.smith != b.smith ? a.smith : a.place < b.place;
+        return a.kind != b.kind ? a.kind < b.kind : a.place < b.place;
     }
 };
 
@@ -36,8 +36,9 @@ struct PlannedDiagram {
 /*! The diagrams of a layout in reading order.
 
     One diagram shows all traces of the active one's kind; two have the Smith chart first and the
-    Cartesian diagram second; four are for a parameter and format each, and of more the four with
-    the active trace. A diagram without traces is left out. */
+    Cartesian diagram second, with a polar one between them where there are such traces; four are for
+    a parameter and format each, and of more the four with the active trace. A diagram without traces
+    is left out. */
 QVector<PlannedDiagram> planDiagrams(Graph::LayoutType layout, const QVector<Trace> &traces,
                                      int activeTrace);
 
@@ -46,7 +47,7 @@ struct Zoom {
     static constexpr double maximum = 200.0;
 
     double factor = 1.0; ///< 1 shows the whole diagram; up to maximum
-    /// The centre of what is seen: on a Smith chart in units of the reflection coefficient, over
+    /// The centre of what is seen: in a plane in units of its outermost circle's radius, over
     /// the frequency as a share of half the span, from -1 at the left edge to 1 at the right one.
     double x = 0.0;
     double y = 0.0;
@@ -61,6 +62,6 @@ struct Zoom {
 
 /// The zoom brought inside its limits: finite, a factor from 1 to the maximum, and over the
 /// frequency nothing beyond the edges.
-Zoom bounded(Zoom zoom, bool smith);
+Zoom bounded(Zoom zoom, DiagramKind kind);
 
 } // namespace Panel

@@ -18,8 +18,9 @@ double LimitLine::valueAt(double hertz) const
 
 bool LimitLine::isValid() const
 {
-    return format != TraceFormat::Smith && std::isfinite(start) && std::isfinite(stop)
-        && start >= 0.0 && start <= stop && std::isfinite(startValue) && std::isfinite(stopValue);
+    return diagramKind(format) == DiagramKind::Cartesian && std::isfinite(start)
+        && std::isfinite(stop) && start >= 0.0 && start <= stop && std::isfinite(startValue)
+        && std::isfinite(stopValue);
 }
 
 LimitVerdict testLimits(const TraceData &data, TraceFormat format, const QVector<LimitLine> &limits)

@@ -231,7 +231,7 @@ DiagramId PanelModel::diagramOf(int traceId) const
             return diagram.id;
     }
     const Trace *trace = this->trace(traceId);
-    return {!trace || trace->onSmithChart(), 0};
+    return {trace ? trace->kind() : DiagramKind::Smith, 0};
 }
 
 Zoom PanelModel::zoom(const DiagramId &diagram) const
@@ -242,7 +242,7 @@ Zoom PanelModel::zoom(const DiagramId &diagram) const
 
 void PanelModel::setZoom(const DiagramId &diagram, const Zoom &zoom)
 {
-    const Zoom wanted = bounded(zoom, diagram.smith);
+    const Zoom wanted = bounded(zoom, diagram.kind);
     if (wanted == this->zoom(diagram))
         return;
     if (wanted.isWhole())

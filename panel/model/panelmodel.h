@@ -132,8 +132,8 @@ public:
     const Trace *activeTrace() const { return m_traces.active(); }
     /// The one of these traces that is active or was last, or null when there is none.
     const Trace *activeTrace(const QVector<int> &among) const { return m_traces.active(among); }
-    /// The same among the traces on the Smith chart, or among the others.
-    const Trace *activeTrace(bool onSmithChart) const;
+    /// The same among the traces that a kind of diagram shows.
+    const Trace *activeTrace(DiagramKind kind) const;
     /// "S11".
     static QString parameterName(const Trace &trace);
     /// What was stored of a trace, or null.
@@ -159,7 +159,8 @@ public:
     /// What is not finite, not above zero a division, or has its reference outside the diagram, is
     /// ignored.
     void setTraceScale(int id, const Scale &scale);
-    /// Gives a trace over the frequency a scale at which all of its data on show are seen.
+    /// Gives a trace a scale at which all of its data on show are seen; nothing happens on a Smith
+    /// chart.
     void fitTrace(int id);
     /// Stores the trace's data on show, as they are without memory and smoothing.
     void storeMemory(int id);

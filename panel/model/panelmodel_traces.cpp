@@ -19,12 +19,12 @@ int averagedPoints(const Trace &trace, int points)
     return trace.smoothing > 0.0 ? 2 * int(std::lround(trace.smoothing / 200.0 * points)) + 1 : 0;
 }
 
-/// Smoothed as it is drawn: a line over the frequency has its values averaged, a Smith chart both
-/// parts of the reflection.
+/// Smoothed as it is drawn: a line over the frequency has its values averaged, one in the plane both
+/// parts of the parameter.
 TraceData smoothedAs(const Trace &trace, TraceData data)
 {
     const int points = averagedPoints(trace, data.points());
-    if (!trace.onSmithChart())
+    if (trace.overFrequency())
         data.averagedPoints = points;
     else if (points > 1)
         data.parameter = {smoothed(data.parameter.real, points),
@@ -61,11 +61,11 @@ std::optional<TraceData> PanelModel::drawnMemory(const Trace &trace) const
     return smoothedAs(trace, *stored);
 }
 
-const Trace *PanelModel::activeTrace(bool onSmithChart) const
+const Trace *PanelModel::activeTrace(DiagramKind kind) const
 {
     QVector<int> among;
     for (const Trace &trace : traces()) {
-        if (trace.onSmithChart() == onSmithChart)
+        if (trace.kind() == kind)
             among.append(trace.id);
     }
     return activeTrace(among);
@@ -170,7 +170,8 @@ void PanelModel::fitTrace(int id)
         return;
     const ValueRange range = valueRange(traceData(*trace), trace->format);
     Scale scale = fittingScale(trace->format, range.lowest, range.highest);
-    scale.position = trace->scale.position;
+    if (trace->overFrequency())
+        scale.position = trace->scale.position;
     setTraceScale(id, scale);
 }
 

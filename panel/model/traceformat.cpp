@@ -33,6 +33,7 @@ constexpr std::array<FormatTraits, traceFormatCount> s_formats{{
     {"\u03a9", 2, 10, {10.0, 100.0}, 1e-4, 200.0, true, 1.0},
     {"\u03a9", 2, 10, {20.0, 100.0}, 1e-4, 200.0, true, 1.0},
     {"", 2, 10, {1.0, 10.0}, 1e-4, 100.0, true, 0.1},
+    {"", 4, 5, {0.2, 1.0, 5}, 1e-6, 100.0, true, 0.02},
 }};
 
 /// The next division of 1, 2 or 5 times a power of ten that is not below a value above 0.
@@ -47,6 +48,13 @@ double roundedUp(double value)
 }
 
 } // namespace
+
+DiagramKind diagramKind(TraceFormat format)
+{
+    return format == TraceFormat::Smith ? DiagramKind::Smith
+        : format == TraceFormat::Polar  ? DiagramKind::Polar
+                                        : DiagramKind::Cartesian;
+}
 
 const FormatTraits &traits(TraceFormat format)
 {
@@ -66,6 +74,11 @@ Scale fittingScale(TraceFormat format, double lowest, double highest)
     const FormatTraits &row = traits(format);
     if (!std::isfinite(lowest) || !std::isfinite(highest))
         return row.defaultScale;
+    if (format == TraceFormat::Polar) {
+        const double needed = highest / row.divisions;
+        return row.defaultScale.withDivision(
+            roundedUp(std::clamp(needed, row.smallestDivision, row.largestDivision)));
+    }
     // What is beyond the largest scale, such as the resistance of an open end, has no say.
     const double limit = row.divisions / 2.0 * row.largestDivision;
     lowest = std::clamp(lowest, -limit, limit);
@@ -121,6 +134,8 @@ QString formatName(TraceFormat format)
         return QStringLiteral("X");
     case TraceFormat::Quality:
         return QStringLiteral("Q");
+    case TraceFormat::Polar:
+        return Text::tr("Polar");
     }
     return {};
 }

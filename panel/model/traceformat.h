@@ -23,12 +23,25 @@ enum class TraceFormat {
     Resistance, ///< in ohms
     Reactance, ///< in ohms
     Quality, ///< |X| / R
+    Polar, ///< in the plane of the parameter: magnitude from the centre, angle around it
 };
-constexpr int traceFormatCount = 12;
+constexpr int traceFormatCount = 13;
 
-/// What a marker reads of a point on the Smith chart.
+/// What a diagram has for axes.
+enum class DiagramKind {
+    Smith, ///< the plane of the reflection coefficient
+    Polar, ///< the same plane, of any parameter
+    Cartesian, ///< values over the frequency
+};
+
+/// The kind of diagram that shows a format.
+DiagramKind diagramKind(TraceFormat format);
+
+/// What a marker reads of a point on the Smith chart or in a polar diagram.
 enum class ReadoutFormat {
-    Automatic, ///< what the grid shows: admittance on its grid, impedance otherwise
+    /// What the grid shows: admittance on its grid, magnitude and phase on a polar one, impedance
+    /// otherwise.
+    Automatic,
     Impedance, ///< R + jX, with the inductance or capacitance in series
     Admittance, ///< G + jB, with the inductance or capacitance in parallel
     MagnitudePhase, ///< magnitude and phase of the reflection coefficient
@@ -37,7 +50,8 @@ enum class ReadoutFormat {
 };
 constexpr int readoutFormatCount = 6;
 
-/// The part of a trace's values that a Cartesian diagram shows.
+/*! The part of a trace's values that a Cartesian diagram shows.
+    A polar diagram has its lower end in the centre and its upper one on the outermost circle. */
 struct Scale {
     double perDivision = 1.0;
     double top = 0.0; ///< the value at the diagram's upper edge
@@ -72,7 +86,7 @@ struct Scale {
 struct FormatTraits {
     const char *unit; ///< "dB", "°" or nothing
     int decimals; ///< of a value in a read-out
-    int divisions; ///< of a Cartesian diagram from top to bottom
+    int divisions; ///< of a Cartesian diagram from top to bottom, of a polar one to its centre
     Scale defaultScale;
     double smallestDivision; ///< that can be set
     double largestDivision;
@@ -85,7 +99,8 @@ const FormatTraits &traits(TraceFormat format);
 /// The scale that a trace of this format begins with; for decibels its highest value decides.
 Scale defaultScale(TraceFormat format, double highest);
 /// A scale at which values from the lowest to the highest fill most of the diagram: divisions of 1,
-/// 2 or 5, and 45 or 90 degrees. The default scale for values that are not finite.
+/// 2 or 5, and 45 or 90 degrees. The default scale for values that are not finite. A polar diagram
+/// goes from 0 to the highest value.
 Scale fittingScale(TraceFormat format, double lowest, double highest);
 /// The value at the diagram's lower edge.
 double bottom(TraceFormat format, const Scale &scale);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace Panel
 {
@@ -83,7 +84,7 @@ void Traces::rebuild(const Networks &networks)
     }
     const Scale decibels = startScale(TraceFormat::LogMagnitude, networks);
     for (Trace &trace : m_all)
-        trace.scale = trace.onSmithChart() ? defaultScale(trace.format, 0.0) : decibels;
+        trace.scale = trace.overFrequency() ? decibels : defaultScale(trace.format, 0.0);
     m_recent.clear();
     if (!m_all.isEmpty())
         m_recent.append(m_all.first().id);
@@ -193,12 +194,14 @@ bool Traces::setParameter(int id, int to, int from, const Networks &networks)
 bool Traces::setScale(int id, const Scale &scale)
 {
     Trace *trace = edit(id);
-    if (!trace || trace->scale == scale || !std::isfinite(scale.top)
-        || !std::isfinite(scale.perDivision) || !(scale.perDivision > 0.0) || scale.position < 0
+    if (!trace || !std::isfinite(scale.top) || !std::isfinite(scale.perDivision)
+        || !(scale.perDivision > 0.0) || scale.position < 0
         || scale.position > traits(trace->format).divisions)
         return false;
-    trace->scale = scale;
-    return true;
+    const Scale wanted = trace->kind() == DiagramKind::Polar
+        ? traits(trace->format).defaultScale.withDivision(scale.perDivision)
+        : scale;
+    return std::exchange(trace->scale, wanted) != wanted;
 }
 
 bool Traces::storeMemory(int id, const TraceData &memory)

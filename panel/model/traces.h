@@ -20,7 +20,7 @@ struct Trace {
     int to = 1; ///< port that the wave leaves
     int from = 1; ///< port that the wave enters
     TraceFormat format = TraceFormat::Smith; ///< decides which diagram shows it
-    Scale scale; ///< of a Cartesian diagram; a Smith chart has a zoom
+    Scale scale; ///< of a Cartesian or polar diagram; a Smith chart has a zoom
     bool visible = true;
     TraceMath math = TraceMath::DataAndMemory; ///< with what was stored, where anything is
     QVector<LimitLine> limits; ///< of all formats; those of the present one hold
@@ -31,7 +31,9 @@ struct Trace {
     /// Largest share of the points that can be averaged, in percent.
     static constexpr double maximumSmoothing = 20.0;
 
-    bool onSmithChart() const { return format == TraceFormat::Smith; }
+    DiagramKind kind() const { return diagramKind(format); }
+    bool onSmithChart() const { return kind() == DiagramKind::Smith; }
+    bool overFrequency() const { return kind() == DiagramKind::Cartesian; }
 };
 
 /// The traces made of the networks, which of them is active, and what was stored of each.
@@ -73,7 +75,7 @@ public:
     /// is nothing to compare with.
     bool setParameter(int id, int to, int from, const Networks &networks);
     /// False for a scale that is not finite, not above zero a division, or with its reference outside
-    /// the diagram.
+    /// the diagram. Of a polar diagram, only the division counts.
     bool setScale(int id, const Scale &scale);
     bool storeMemory(int id, const TraceData &memory);
     /// The trace shows its data again.

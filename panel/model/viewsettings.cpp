@@ -22,10 +22,12 @@ void ViewSettings::toggleSingleDiagram()
                                                             : Graph::LayoutType::Single);
 }
 
-ReadoutFormat ViewSettings::effectiveReadoutFormat() const
+ReadoutFormat ViewSettings::effectiveReadoutFormat(DiagramKind kind) const
 {
     if (m_readoutFormat != ReadoutFormat::Automatic)
         return m_readoutFormat;
+    if (kind == DiagramKind::Polar)
+        return ReadoutFormat::MagnitudePhase;
     return m_gridMode == SmithChartPlot::Admittance ? ReadoutFormat::Admittance
                                                     : ReadoutFormat::Impedance;
 }

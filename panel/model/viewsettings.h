@@ -49,8 +49,8 @@ public:
     double vswrLimit() const { return m_vswrLimit; }
     /// As it was chosen.
     ReadoutFormat readoutFormat() const { return m_readoutFormat; }
-    /// What that means on the present grid: never Automatic.
-    ReadoutFormat effectiveReadoutFormat() const;
+    /// What that means on the present grid of a Smith chart or a polar diagram: never Automatic.
+    ReadoutFormat effectiveReadoutFormat(DiagramKind kind) const;
     /// Whether taps and drags reach the active trace only, and not the one under the pointer.
     bool onlyActiveTrace() const { return m_onlyActiveTrace; }
 

@@ -91,7 +91,7 @@ QByteArray PanelCommands::written(const QVector<double> &values)
     return block(bytes);
 }
 
-/// Complex values (SDATa), or those of the trace's format (FDATa); of a Smith chart, complex ones.
+/// Complex values (SDATa), or those of the trace's format (FDATa); of a Smith chart or a polar diagram, complex ones.
 QByteArray PanelCommands::askData(const Call &call)
 {
     const QByteArray kind = call.command->words.value(0).toUpper();
@@ -103,7 +103,7 @@ QByteArray PanelCommands::askData(const Call &call)
     const Trace *trace = selected();
     if (!trace)
         return {};
-    if (!complex && !trace->onSmithChart())
+    if (!complex && trace->overFrequency())
         return written(formatValues(m_model->traceData(*trace), trace->format));
     const Parameter data = complex ? m_model->network(*trace).s(trace->to, trace->from)
                                    : m_model->traceData(*trace).parameter;
@@ -201,7 +201,7 @@ QByteArray PanelCommands::setMarkerX(const Call &call)
     return {};
 }
 
-/// What the trace is at a marker: complex on a Smith chart, elsewhere its value and 0.
+/// What the trace is at a marker: complex on a Smith chart or in a polar diagram, elsewhere its value and 0.
 QByteArray PanelCommands::askMarkerY(const Call &call)
 {
     const Trace *trace = selected();
@@ -212,7 +212,7 @@ QByteArray PanelCommands::askMarkerY(const Call &call)
     if (index < 0.0)
         return {};
     const TraceData data = m_model->traceData(*trace);
-    if (!trace->onSmithChart())
+    if (trace->overFrequency())
         return number(formatValueAt(data, index, trace->format)) + ",0";
     const std::complex<double> value = data.at(index);
     return number(value.real()) + ',' + number(value.imag());

@@ -97,7 +97,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
         const int third = last / 3;
         const int half = last / 2;
         const int id = trace->id;
-        if (const Trace *transmission = model->activeTrace(false)) {
+        if (const Trace *transmission = model->activeTrace(DiagramKind::Cartesian)) {
             model->addMarker(transmission->id, third);
             model->addMarker(transmission->id, half);
         }

@@ -55,7 +55,7 @@ private Q_SLOTS:
         desk.model.removeMarker(2, 1);
         desk.model.setReferenceMarker(2, 2);
         m_place = desk.model.marker(2, 2)->place;
-        desk.model.setZoom({true, 1}, {3.0, 0.25, -0.5});
+        desk.model.setZoom({DiagramKind::Smith, 1}, {3.0, 0.25, -0.5});
         desk.model.setStimulus(*desk.model.trace(2), {1e9, 5e9});
         desk.model.preferences()->setExportFolder(path("pictures"));
         desk.model.preferences()->setTraceDashes(true);
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(desk.model.markers().size(), 2);
         QCOMPARE(desk.model.marker(2, 2)->place, m_place);
         QCOMPARE(desk.model.selectedMarker(), desk.model.marker(2, 2));
-        QCOMPARE(desk.model.zoom({true, 1}), (Zoom{3.0, 0.25, -0.5}));
+        QCOMPARE(desk.model.zoom({DiagramKind::Smith, 1}), (Zoom{3.0, 0.25, -0.5}));
         QCOMPARE(desk.model.stimulus(*trace), (Stimulus{1e9, 5e9}));
         QCOMPARE(desk.model.referenceMarker(2), desk.model.marker(2, 2));
         QCOMPARE(desk.model.preferences()->exportFolder(), path("pictures"));
@@ -181,7 +181,7 @@ private Q_SLOTS:
             QCOMPARE(PanelState(kept).note(), QString());
         };
         saves([&] { desk.model.addMarker(1, 3.0); });
-        saves([&] { desk.model.setZoom({true, 0}, {2.0, 0.0, 0.0}); });
+        saves([&] { desk.model.setZoom({DiagramKind::Smith, 0}, {2.0, 0.0, 0.0}); });
         saves([&] { desk.model.viewSettings()->setDensity(GridDensity::Basic); });
         saves([&] { desk.model.preferences()->setLanguage("de"_s); });
         saves([&] { desk.model.setStimulus(*desk.model.trace(1), {2.4e9, 2.5e9}); });

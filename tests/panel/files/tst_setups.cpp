@@ -77,7 +77,7 @@ private Q_SLOTS:
         settle();
         // A drag is one step, and undone while it still goes on.
         for (int i = 0; i < 5; ++i)
-            model.setZoom({true, 0}, {2.0 + i, 0.1, 0.1});
+            model.setZoom({DiagramKind::Smith, 0}, {2.0 + i, 0.1, 0.1});
         for (int step = 3; step >= 0; --step) {
             QVERIFY(history.canUndo());
             history.undo();
@@ -91,7 +91,7 @@ private Q_SLOTS:
             QCOMPARE(viewState(model), states.at(step));
         }
         history.redo();
-        QCOMPARE(model.zoom({true, 0}).factor, 6.0);
+        QCOMPARE(model.zoom({DiagramKind::Smith, 0}).factor, 6.0);
         // After another change there is nothing to do again.
         history.undo();
         model.selectMarker(0, 0);

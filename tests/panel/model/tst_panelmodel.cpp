@@ -55,21 +55,21 @@ private Q_SLOTS:
         QCOMPARE(names(model),
                  (QStringList{"1 S11"_s, "2 S11"_s, "3 S11"_s, "4 S22"_s, "5 S21"_s, "6 S12"_s}));
         QCOMPARE(model.traceData(*model.trace(5)).parameter.real, QVector<double>{1.0});
-        QCOMPARE(model.activeTrace(false), model.trace(2));
+        QCOMPARE(model.activeTrace(DiagramKind::Cartesian), model.trace(2));
         QCOMPARE(model.traceData(*model.trace(4)).parameter.real, QVector<double>{3.0});
         QCOMPARE(model.network(*model.trace(4)).ports, 2);
         QCOMPARE(model.activeTrace(), model.trace(1));
 
         model.setActiveTrace(5);
         model.setActiveTrace(3);
-        QCOMPARE(model.activeTrace(false), model.trace(5));
-        QCOMPARE(model.activeTrace(true), model.trace(3));
+        QCOMPARE(model.activeTrace(DiagramKind::Cartesian), model.trace(5));
+        QCOMPARE(model.activeTrace(DiagramKind::Smith), model.trace(3));
         model.setTraceVisible(3, false);
         model.openNetworks({network(1)});
         QCOMPARE(names(model), (QStringList{"1 S11"_s, "2 S11"_s}));
         QCOMPARE(model.activeTrace()->id, 1);
         QVERIFY(model.activeTrace()->visible);
-        QCOMPARE(model.activeTrace(false)->format, TraceFormat::LogMagnitude);
+        QCOMPARE(model.activeTrace(DiagramKind::Cartesian)->format, TraceFormat::LogMagnitude);
 
         model.openNetworks({});
         QVERIFY(!model.activeTrace());

@@ -165,16 +165,16 @@ private Q_SLOTS:
         QVERIFY(help && help->isVisible());
         // It is in the window, and the keys are its own.
         QCOMPARE(help->window(), &desk.window);
-        const Zoom before = desk.model.zoom({true, 0});
+        const Zoom before = desk.model.zoom({DiagramKind::Smith, 0});
         for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Tab, Qt::Key_F1, Qt::Key_Plus})
             desk.press(key);
-        QVERIFY(desk.model.zoom({true, 0}) == before);
+        QVERIFY(desk.model.zoom({DiagramKind::Smith, 0}) == before);
         QCOMPARE(desk.window.findChildren<HelpDialog *>().size(), 1);
         QTest::keyClick(help.data(), Qt::Key_Escape);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!help && desk.window.focusWidget());
         desk.press(Qt::Key_Plus);
-        QVERIFY(desk.model.zoom({true, 0}) != before);
+        QVERIFY(desk.model.zoom({DiagramKind::Smith, 0}) != before);
         desk.press(Qt::Key_0);
 
         desk.model.addMarker(1, 10.5);
