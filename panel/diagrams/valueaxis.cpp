@@ -13,13 +13,14 @@ namespace
 /// How long and wide the arrow is, in pixels.
 constexpr double s_arrow = 8.0;
 
-/// Numbers with true minus signs.
+/// Numbers with true minus signs, and with a point in every language as all that the panel writes.
 class Ticker : public QCPAxisTickerFixed
 {
 protected:
-    QString getTickLabel(double tick, const QLocale &locale, QChar format, int precision) override
+    QString getTickLabel(double tick, const QLocale &, QChar format, int precision) override
     {
-        return withMinusSigns(QCPAxisTickerFixed::getTickLabel(tick, locale, format, precision));
+        return withMinusSigns(
+            QCPAxisTickerFixed::getTickLabel(tick, QLocale::c(), format, precision));
     }
 };
 

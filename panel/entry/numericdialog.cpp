@@ -21,6 +21,14 @@
 namespace Panel
 {
 
+namespace
+{
+
+/// In pixels.
+constexpr int s_finger = 44;
+
+} // namespace
+
 NumericDialog::NumericDialog(const QString &title, UnitAdapter *adapter, QWidget *parent)
     : TouchNumKeyboard(parent)
     , m_adapter(adapter)
@@ -53,6 +61,7 @@ NumericDialog::NumericDialog(const QString &title, UnitAdapter *adapter, QWidget
     m_stepKey->setLayoutType(InfoButton::LeftRight);
     m_stepKey->setFocusPolicy(Qt::TabFocus); // a tap leaves the cursor in the editor
     m_stepKey->setAccessibleName(tr("Step"));
+    m_stepKey->setMinimumHeight(s_finger);
     m_stepKey->hide();
     setExtraWidget(m_stepKey);
     connect(m_stepKey, &LabelButton::clicked, this,

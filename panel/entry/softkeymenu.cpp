@@ -22,6 +22,10 @@ namespace Panel
 namespace
 {
 
+/// Between keys, in pixels, and from which height of the menu on there is room for the large one.
+constexpr int s_gap = 6;
+constexpr int s_smallGap = 3;
+constexpr int s_highScreen = 560;
 /// In pixels: a finger's width and height, and what a caption of ten letters takes.
 constexpr int s_tabWidth = 68;
 constexpr int s_lowestTab = 44;
@@ -128,12 +132,26 @@ SoftKeyMenu::SoftKeyMenu(QWidget *parent)
             });
 }
 
+/// On a low screen keys come closer, so that each is a finger high.
+void SoftKeyMenu::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    for (int page = 0; page < pageCount(); ++page)
+        setGap(m_pages->widget(page)->layout());
+}
+
+void SoftKeyMenu::setGap(QLayout *column) const
+{
+    const int gap = height() < s_highScreen ? s_smallGap : s_gap;
+    column->setContentsMargins(0, gap, 0, gap);
+    column->setSpacing(gap);
+}
+
 void SoftKeyMenu::addPage(const QString &name, Glyph glyph)
 {
     auto *page = new QWidget(m_pages);
     m_column = new QVBoxLayout(page);
-    m_column->setContentsMargins(0, 6, 0, 6);
-    m_column->setSpacing(6);
+    setGap(m_column);
     m_column->addStretch(1);
     const int index = m_pages->addWidget(page);
     auto *tab = new PageTab(name, this);

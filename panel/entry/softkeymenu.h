@@ -47,8 +47,10 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void setGap(QLayout *column) const;
     void appendKey(QWidget *key, int smallestHeight);
     void recolor(int page);
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogstage.h"
 
+#include <controls/draggableframelessdialog.h>
+
 #include <QAbstractItemView>
 #include <QDialog>
 #include <QKeyEvent>
@@ -24,6 +26,8 @@ DialogStage::DialogStage(QDialog *dialog, QWidget *window)
     , m_focusBefore(window->focusWidget())
 {
     const QPointer<QWidget> first(dialog->focusWidget());
+    if (auto *title = dialog->findChild<Controls::DraggableDialogTitleBar *>())
+        title->setTitleHeight(dialogTitleHeight);
     dialog->setWindowFlags(Qt::Widget);
     dialog->setAttribute(Qt::WA_StyledBackground);
     // The layer ends all connections between the two when the dialog is finished.

@@ -9,11 +9,13 @@
 namespace Panel
 {
 
+/// The height of a dialog's title, in pixels: a finger presses the key that closes it.
+constexpr int dialogTitleHeight = 44;
+
 /// What the layout of a frameless dialog keeps free: a margin on all sides, and its title above.
 inline QMargins dialogMargins(int margin)
 {
-    constexpr int titleHeight = 35;
-    return {margin, titleHeight + margin, margin, margin};
+    return {margin, dialogTitleHeight + margin, margin, margin};
 }
 
 /*! Shows a dialog within a window, over all of it, which is dimmed: so it moves and closes alike

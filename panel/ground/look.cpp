@@ -45,6 +45,8 @@ Panel--MarkerTable QTableView::item:selected { background: @buttonColor; }
 Panel--MarkerTable QHeaderView::section { background: @backgroundColor; color: @dimTextColor; border: none; border-bottom: 1px solid @borderColor; padding: 0px 10px; }
 Panel--TraceBar, Panel--TraceBar > QWidget > QWidget { background: transparent; border: none; }
 SwitchButton QPushButton#btnOff:checked:enabled { background-color: @disabledCheckedColor; border-color: @borderColor; color: @textColor; }
+SwitchButton QPushButton#btnOn, SwitchButton QPushButton#btnOff { min-width: 28px; }
+DisplayPanel QComboBox { min-height: 42px; }
 PopupWidget QListWidget#ListModeView::item, PopupWidget QListWidget#IconModeView::item { min-height: 44px; }
 QToolButton#pageTab { border: none; border-left: 3px solid transparent; border-radius: 0px; padding: 2px 0px; background: transparent; color: @dimTextColor; font-size: 11px; }
 QToolButton#pageTab:checked { border-left-color: @focusColor; color: @textColor; background: @buttonColor; }
@@ -52,6 +54,8 @@ QToolButton#pageTab:focus { border: 2px solid @focusColor; padding: 1px 0px; }
 Panel--SoftKey[editing="true"] { border-color: @focusColor; }
 Panel--SoftKey QLabel#valueLabel { padding: 0px; }
 Panel--SoftKey QLabel#valueLabel:disabled { color: @dimTextColor; }
+Panel--NumericDialog QPushButton { padding: 11px 2px 10px 2px; }
+Panel--NumericDialog QPushButton:focus { padding: 10px 1px 9px 1px; }
 Panel--NumericDialog QLabel#range { color: @dimTextColor; font-size: 12px; padding-right: 6px; }
 Panel--NumericDialog LabelButton QLabel#nameLabel { font-weight: normal; padding: 0px 10px; }
 Panel--NumericDialog QLabel#range[warning="true"] { color: @warningColor; }

@@ -78,6 +78,20 @@ private Q_SLOTS:
     }
 
     /// Numbers beside the axis hold for all traces of a format, or the title says for which not.
+    /// In every language, as everywhere on the panel.
+    void theAxisWritesPoints()
+    {
+        Desk desk;
+        QCPAxis *axis = desk.plot()->yAxis;
+        QVector<double> ticks;
+        QVector<QString> labels;
+        desk.model.setTraceScale(3, {0.5, 0.0});
+        Desk::settle();
+        axis->ticker()->generate({-1.0, 0.0}, QLocale(QLocale::German), QLatin1Char('g'), 4, ticks,
+                                 nullptr, &labels);
+        QVERIFY2(labels.contains("\u22120.5"_s), qPrintable(labels.value(0)));
+    }
+
     void filesShareTheirScale()
     {
         Desk desk;
