@@ -38,7 +38,7 @@ struct Scene {
                 readTouchstone(sampleFolder() + QLatin1Char('/') + samples[i]);
             models[i].openNetworks({read.network});
         }
-        view = std::make_unique<CartesianView>(&models[0], DiagramId{false, 0});
+        view = std::make_unique<CartesianView>(&models[0], DiagramId{DiagramKind::Cartesian, 0});
         view->setTraces({models[0].traces().first().id});
         view->resize(300, 200);
     }
