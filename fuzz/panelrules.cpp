@@ -78,15 +78,15 @@ private:
     /// Where a marker belongs in the coordinates of the plot; NaN where it cannot be seen.
     QPointF place(const Trace &trace, const Marker &marker) const
     {
-        const double index = m_model.indexOf(marker);
+        const MarkedPoint point = m_model.markedPoint(marker);
+        const double index = point.index;
         if (!trace.visible || index < 0.0)
             return {qQNaN(), qQNaN()};
-        const Parameter data = m_model.traceData(trace).parameter;
+        const std::complex<double> s = point.data.at(index);
         if (m_plane)
-            return QPointF(valueAt(data.real, index), valueAt(data.imag, index))
-                / m_plane->fullScale(trace);
-        const double hertz = valueAt(m_model.network(trace).frequencies, index);
-        const double value = formatValueAt(m_model.traceData(trace), index, trace.format);
+            return QPointF(s.real(), s.imag()) / m_plane->fullScale(trace);
+        const double hertz = valueAt(point.data.frequencies, index);
+        const double value = point.value(trace.format);
         const QCPRange range = m_cartesian->frequencyAxis().range();
         if (!range.contains(hertz) || !std::isfinite(value))
             return {qQNaN(), qQNaN()};

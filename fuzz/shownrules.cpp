@@ -86,8 +86,8 @@ void checkDigits(const PanelModel &model, const DiagramView &view, QStringList &
         const Marker &marker = markers.at(row);
         const double index = model.indexOf(marker);
         const QWidget *item = view.readOuts()->item(row);
-        // Against a reference it is a difference that is read.
-        if (!item || index < 0.0 || model.referenceMarker(marker.trace))
+        // Against a reference it is a difference that is read, and fixed a value of before.
+        if (!item || index < 0.0 || marker.isFixed() || model.referenceMarker(marker.trace))
             continue;
         const Trace &trace = *model.trace(marker.trace);
         for (const QLabel *label : item->findChildren<QLabel *>()) {

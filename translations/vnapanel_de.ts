@@ -696,6 +696,10 @@
         <source>On</source>
         <translation>Ein</translation>
     </message>
+    <message>
+        <source>Fixed</source>
+        <translation>Fest</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MarkerReading</name>

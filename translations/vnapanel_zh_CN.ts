@@ -690,6 +690,10 @@
         <source>On</source>
         <translation>开</translation>
     </message>
+    <message>
+        <source>Fixed</source>
+        <translation>固定</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MarkerReading</name>

@@ -24,6 +24,13 @@ void bringToFront(QCPLayerable *item)
 
 } // namespace
 
+void showSign(Plot::Marker &drawn, const Marker &marker)
+{
+    drawn.setShape(marker.isFixed() ? Plot::Narrow : Plot::Equilateral);
+    drawn.getLabel()->setText(QString::number(marker.number)
+                              + QLatin1String(marker.isFixed() ? "F" : ""));
+}
+
 CartesianMarkers::CartesianMarkers(const PanelModel *model, QCustomPlot *plot)
     : m_model(model)
     , m_plot(plot)
@@ -44,13 +51,12 @@ bool CartesianMarkers::place(const Trace &trace, const Marker &placed, QCPGraph 
     if (isNew) {
         found =
             m_markers.emplace(key, Plot::Marker(m_plot, placed.number, Plot::PointingDown)).first;
-        found->second.getLabel()->setText(QString::number(placed.number));
     }
     Plot::Marker &marker = found->second;
-    const double index = m_model->indexOf(placed);
+    showSign(marker, placed);
+    const MarkedPoint point = m_model->markedPoint(placed);
     const double hertz = m_model->hertzOf(placed);
-    const double value =
-        index < 0.0 ? qQNaN() : formatValueAt(m_model->traceData(trace), index, trace.format);
+    const double value = point.index < 0.0 ? qQNaN() : point.value(trace.format);
     const bool shown =
         line && trace.visible && std::isfinite(value) && line->keyAxis()->range().contains(hertz);
     if (shown) {

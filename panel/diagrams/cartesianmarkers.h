@@ -12,6 +12,9 @@
 namespace Panel
 {
 
+/// Gives a marker its number, and one that is fixed a sign of its own.
+void showSign(Plot::Marker &drawn, const Marker &marker);
+
 /// The markers that a Cartesian diagram draws: one for each of the model's on its traces.
 class CartesianMarkers
 {

@@ -124,7 +124,8 @@ void MarkerReading::add(double number, const QString &text)
 
 QString markerName(const PanelModel &model, const Marker &marker)
 {
-    QString name = QStringLiteral("M%1").arg(marker.number);
+    const QString name =
+        QStringLiteral("M%1").arg(marker.number) + QLatin1String(marker.isFixed() ? "F" : "");
     const Marker *reference = model.referenceMarker(marker.trace);
     if (!reference)
         return name;
@@ -187,15 +188,14 @@ MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format)
 {
     const double hertz = frequency(point);
     MarkerReading reading{hertz, frequencyText(hertz), {}, {}};
-    addAs(reading, formatValueAt(point.data, point.index, format), format);
+    addAs(reading, point.value(format), format);
     return reading;
 }
 
 MarkerReading readOnCartesian(const MarkedPoint &point, TraceFormat format,
                               const MarkedPoint &reference)
 {
-    double difference = formatValueAt(point.data, point.index, format)
-        - formatValueAt(reference.data, reference.index, format);
+    double difference = point.value(format) - reference.value(format);
     if (format == TraceFormat::Phase)
         difference = wrapped(difference);
     const double hertz = frequency(point) - frequency(reference);
@@ -227,9 +227,7 @@ MarkerReading readPoint(const PanelModel &model, const Marker &marker)
     if (reference && reference->number == marker.number)
         reference = nullptr;
     const Trace &trace = *model.trace(marker.trace);
-    const auto point = [&](const Marker &marked) {
-        return MarkedPoint{model.traceData(trace), model.indexOf(marked)};
-    };
+    const auto point = [&](const Marker &marked) { return model.markedPoint(marked); };
     const ReadoutFormat format = model.viewSettings()->effectiveReadoutFormat(trace.kind());
     if (point(marker).index < 0.0 || (reference && point(*reference).index < 0.0)) {
         const double hertz = model.hertzOf(marker) - (reference ? model.hertzOf(*reference) : 0.0);

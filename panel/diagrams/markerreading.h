@@ -23,12 +23,6 @@ struct MarkerReading {
     void add(double number, const QString &text);
 };
 
-/// A point of a trace at a fractional index, which must lie within the data.
-struct MarkedPoint {
-    TraceData data;
-    double index = 0.0;
-};
-
 /// Whether a trace has an impedance to read.
 inline bool reflects(const Trace &trace)
 {
@@ -48,7 +42,7 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
 /// Reads a marker in the format of its trace, as the difference from the trace's reference marker if
 /// there is another one. While one of them is parked there are dashes but for the frequency.
 MarkerReading readMarker(const PanelModel &model, const Marker &marker);
-/// "M2", or with a sign where it is a reference or read against one: "M1R", "\u0394M2".
+/// "M2", or with a sign where it is fixed, a reference or read against one: "M1F", "M1R", "\u0394M2".
 QString markerName(const PanelModel &model, const Marker &marker);
 /// What is read of the band around the selected marker; empty while it is not asked for.
 QString bandwidthText(const PanelModel &model);

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planeview.h"
 
+#include "cartesianmarkers.h"
+
 #include <panel/ground/look.h>
 
+#include <plot/markerselection.h>
 #include <plot/qcp.h>
 
 #include <algorithm>
@@ -58,6 +61,7 @@ PlaneView::PlaneView(const PanelModel *model, const DiagramId &id, const QMargin
 void PlaneView::makeChart(SmithChart::Preset preset)
 {
     delete m_chart;
+    m_fixed.clear();
     // A chart leaves its grid on the plot.
     plot()->clearItems();
     plot()->clearPlottables();
@@ -76,6 +80,7 @@ void PlaneView::makeChart(SmithChart::Preset preset)
 void PlaneView::loadTraces()
 {
     m_chart->clearAllCurves();
+    m_fixed.clear();
     const Look look = currentLook();
     for (const Trace &trace : traces()) {
         m_chart->addCurve(trace.id, look.pen(trace.id, trace.network));
@@ -128,11 +133,35 @@ void PlaneView::beginDrag(int traceId, int number)
 
 const Plot::Marker *PlaneView::drawnMarker(int traceId, int number) const
 {
-    return m_chart->getMarker(traceId, number);
+    const auto fixed = m_fixed.find({traceId, number});
+    return fixed == m_fixed.end() ? m_chart->getMarker(traceId, number) : &fixed->second;
+}
+
+/// The chart keeps its markers on their traces: one that is fixed is drawn beside it.
+void PlaneView::placeFixed(const Trace &trace, const Marker &placed)
+{
+    m_chart->removeMarkerVisual(trace.id, placed.number);
+    const auto found =
+        m_fixed.try_emplace({trace.id, placed.number}, plot(), placed.number, Plot::PointingDown);
+    Plot::Marker &marker = found.first->second;
+    showSign(marker, placed);
+    const std::complex<double> place = placed.fixed.s / fullScale(trace);
+    QCPCurve *curve = m_chart->getCurve(trace.id);
+    const bool shown =
+        curve && trace.visible && marker.setPositionCoordinates(curve, place.real(), place.imag());
+    marker.setVisible(shown);
+    if (found.second)
+        showSelectedMarker();
+    replotLater();
 }
 
 void PlaneView::placeMarker(const Trace &trace, const Marker &placed)
 {
+    if (placed.isFixed()) {
+        placeFixed(trace, placed);
+        return;
+    }
+    m_fixed.erase({trace.id, placed.number});
     const double index = m_model->indexOf(placed);
     const bool shown = trace.visible && index >= 0.0;
     if (!m_chart->getMarker(trace.id, placed.number)) {
@@ -176,7 +205,9 @@ void PlaneView::setTraceVisible(const Trace &trace)
 
 void PlaneView::removeMarker(int traceId, int number)
 {
+    m_fixed.erase({traceId, number});
     m_chart->removeMarkerVisual(traceId, number);
+    replotLater();
 }
 
 void PlaneView::showSelectedMarker()
@@ -184,6 +215,12 @@ void PlaneView::showSelectedMarker()
     const Marker *selected = m_model->selectedMarker();
     if (!selected || !m_chart->selectMarker(selected->trace, selected->number))
         m_chart->clearMarkerSelection();
+    for (auto &[key, marker] : m_fixed) {
+        const bool isSelected =
+            selected && selected->trace == key.first && selected->number == key.second;
+        Plot::drawMarker(marker, QPen(currentLook().trace(key.first)), isSelected);
+    }
+    replotLater();
 }
 
 void PlaneView::showActiveTrace()
@@ -202,6 +239,7 @@ void PlaneView::recolor()
         m_chart->setCurvePen(trace.id, look.pen(trace.id, trace.network));
         m_chart->setCurvePen(memoryId(trace.id), look.memoryPen(trace.id, trace.network));
     }
+    showSelectedMarker();
 }
 
 SmithChart::HalfRanges PlaneView::halfRanges() const

@@ -4,7 +4,11 @@
 
 #include "diagramview.h"
 
+#include <plot/marker.h>
 #include <smithchart/smithchartplot.h>
+
+#include <map>
+#include <utility>
 
 namespace Panel
 {
@@ -56,10 +60,12 @@ private:
     static constexpr int s_firstMemoryId = 1000;
 
     void showData(const Trace &trace, int curve, const TraceData &shown);
+    void placeFixed(const Trace &trace, const Marker &marker);
     SmithChart::HalfRanges halfRanges() const;
     SmithChart::ViewState wantedView() const;
 
     SmithChartPlot *m_chart = nullptr;
+    std::map<std::pair<int, int>, Plot::Marker> m_fixed; ///< by trace and number
     bool m_laidOut = false;
 };
 

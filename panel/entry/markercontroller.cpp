@@ -104,10 +104,11 @@ MarkerController::MarkerController(PanelModel *model, const PanelKeys &keys, Num
         m_model->viewSettings()->setBandwidthDecibels(bandwidths().valueOf(index));
     });
 
-    keys.track->setChoices({tr("Off"), tr("Maximum"), tr("Minimum")});
+    keys.track->setChoices({tr("Off"), tr("Maximum"), tr("Minimum"), tr("Fixed")});
     connect(keys.track, &SoftKey::choicePicked, this, [this](int index) {
         if (const Marker *marker = m_model->selectedMarker())
             m_model->setMarkerTracking(marker->trace, marker->number, Tracking(index));
+        showMarkers();
     });
     keys.couple->setChoices({tr("Off"), tr("On")});
     connect(keys.couple, &SoftKey::choicePicked, this,
@@ -268,7 +269,7 @@ void MarkerController::onMarkerToPicked(int command)
     if (command == ToReference || command == ToDelay) {
         if (index < 0.0)
             return;
-        const double value = formatValueAt(m_model->traceData(trace), index, trace.format);
+        const double value = m_model->markedPoint(*marker).value(trace.format);
         if (command == ToDelay)
             moveToZeroDelay(trace, index);
         else if (trace.overFrequency())
@@ -319,7 +320,7 @@ void MarkerController::showMarkers()
     keys.couple->setChoice(m_model->markersCoupled() ? 1 : 0);
     keys.markerTable->setStatus(m_model->viewSettings()->markerTable());
     keys.marker->setEnabled(trace);
-    keys.search->setEnabled(trace);
+    keys.search->setEnabled(trace && !(selected && selected->isFixed()));
     keys.markerTo->setEnabled(selected);
     keys.referenceMarker->setEnabled(references.size() > 1);
 }

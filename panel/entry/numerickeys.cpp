@@ -338,7 +338,7 @@ void NumericKeys::showStimulus()
 void NumericKeys::showMarkerStimulus()
 {
     const Marker *marker = m_model->selectedMarker();
-    m_keys.markerStimulus->setEnabled(marker);
+    m_keys.markerStimulus->setEnabled(marker && !marker->isFixed());
     m_keys.markerStimulus->setValue(marker ? frequencyText(m_model->hertzOf(*marker))
                                            : nothingText());
 }

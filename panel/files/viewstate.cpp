@@ -46,6 +46,35 @@ bool isTrace(const QJsonObject &trace)
         && isChoice(trace["id"_key].toInt(), Trace::maximumCount + 1);
 }
 
+/// What a fixed marker keeps; nothing of others.
+QJsonObject writtenPoint(const Marker &marker)
+{
+    if (!marker.isFixed())
+        return {};
+    QJsonObject point{{"re"_key, marker.fixed.s.real()},
+                      {"im"_key, marker.fixed.s.imag()},
+                      {"ohms"_key, marker.fixed.reference.real()},
+                      {"reactance"_key, marker.fixed.reference.imag()},
+                      {"format"_key, int(marker.fixed.format)}};
+    // A number that is none has no place in a file.
+    if (std::isfinite(marker.fixed.value))
+        point["value"_key] = marker.fixed.value;
+    return point;
+}
+
+void restorePoint(PanelModel *model, int id, int number, const QJsonObject &point)
+{
+    const double ohms = point["ohms"_key].toDouble();
+    if (!point["re"_key].isDouble() || !point["im"_key].isDouble() || !(ohms > 0.0)
+        || !isChoice(point["format"_key], traceFormatCount))
+        return;
+    model->restoreFixedMarker(id, number,
+                              {{point["re"_key].toDouble(), point["im"_key].toDouble()},
+                               {ohms, point["reactance"_key].toDouble()},
+                               TraceFormat(point["format"_key].toInt()),
+                               point["value"_key].toDouble(qQNaN())});
+}
+
 QJsonObject written(const PanelModel &model, const Trace &trace)
 {
     QJsonArray markers;
@@ -54,6 +83,7 @@ QJsonObject written(const PanelModel &model, const Trace &trace)
                                    {"hertz"_key, marker.place.hertz},
                                    {"repeat"_key, marker.place.repeat},
                                    {"tracking"_key, int(marker.tracking)},
+                                   {"fixed"_key, writtenPoint(marker)},
                                    {"selected"_key, model.isSelected(marker)}});
     QJsonArray limits;
     for (const LimitLine &limit : trace.limits)
@@ -174,11 +204,17 @@ void restoreTrace(PanelModel *model, int id, const QJsonObject &saved, const Mem
     model->setTraceVisible(id, saved["visible"_key].toBool());
     for (const QJsonValue value : saved["markers"_key].toArray()) {
         const QJsonObject marker = value.toObject();
-        model->restoreMarker(id, marker["number"_key].toInt(),
+        const int number = marker["number"_key].toInt();
+        const auto tracking =
+            Tracking(qBound(0, marker["tracking"_key].toInt(), trackingCount - 1));
+        const bool fixed = tracking == Tracking::Fixed;
+        model->setMarkerTracking(id, number, Tracking::Off); // or it would not go there
+        model->restoreMarker(id, number,
                              {marker["hertz"_key].toDouble(), marker["repeat"_key].toInt()});
-        const int tracking = marker["tracking"_key].toInt();
-        model->setMarkerTracking(id, marker["number"_key].toInt(),
-                                 Tracking(qBound(0, tracking, trackingCount - 1)));
+        if (fixed)
+            restorePoint(model, id, number, marker["fixed"_key].toObject());
+        else
+            model->setMarkerTracking(id, number, tracking);
     }
     const QVector<Marker> markers = model->markersOf(id);
     for (const Marker &marker : markers) {

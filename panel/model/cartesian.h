@@ -10,6 +10,9 @@
 
 #include <QtNumeric>
 
+#include <optional>
+#include <utility>
+
 namespace Panel
 {
 
@@ -40,6 +43,19 @@ double formatValue(const std::complex<double> &s, const std::complex<double> &re
 QVector<double> formatValues(const TraceData &data, TraceFormat format);
 /// The value at a fractional index into the data, which must not be empty.
 double formatValueAt(const TraceData &data, double index, TraceFormat format);
+
+/// A point of a trace at a fractional index, which must lie within the data.
+struct MarkedPoint {
+    TraceData data;
+    double index = 0.0;
+    /// A value that was read before among the neighbours, which are not in the data.
+    std::optional<std::pair<TraceFormat, double>> kept = {};
+
+    double value(TraceFormat format) const
+    {
+        return kept && kept->first == format ? kept->second : formatValueAt(data, index, format);
+    }
+};
 
 /// How a diagram spreads frequencies over its columns; a logarithm wants them above zero.
 enum class FrequencyScale {

@@ -67,9 +67,9 @@ Markers::Changes Markers::place(int trace, int number, const StimulusPlace &plac
     for (const int each : reach(trace)) {
         const Marker *marker = find(each, number);
         if (!marker) {
-            m_all.append({each, number, place, Tracking::Off});
+            m_all.append({each, number, place, Tracking::Off, {}});
             changes.append({MarkerChange::Added, each, number});
-        } else if (marker->place != place) {
+        } else if (marker->place != place && !marker->isFixed()) {
             m_all[int(marker - m_all.constData())].place = place;
             changes.append({MarkerChange::Moved, each, number});
         }
@@ -93,9 +93,20 @@ Markers::Changes Markers::remove(int trace, int number)
 bool Markers::setTracking(int trace, int number, Tracking tracking)
 {
     const Marker *marker = find(trace, number);
-    if (!marker || marker->tracking == tracking)
+    if (!marker || marker->tracking == tracking || tracking == Tracking::Fixed)
         return false;
     m_all[int(marker - m_all.constData())].tracking = tracking;
+    return true;
+}
+
+bool Markers::fix(int trace, int number, const FixedPoint &point)
+{
+    const Marker *marker = find(trace, number);
+    if (!marker)
+        return false;
+    Marker &fixed = m_all[int(marker - m_all.constData())];
+    fixed.tracking = Tracking::Fixed;
+    fixed.fixed = point;
     return true;
 }
 

@@ -3,8 +3,11 @@
 #pragma once
 
 #include "network.h"
+#include "traceformat.h"
 
 #include <QHash>
+
+#include <complex>
 
 namespace Panel
 {
@@ -14,8 +17,17 @@ enum class Tracking {
     Off,
     Maximum,
     Minimum,
+    Fixed, ///< nowhere: it keeps its place and its value, whatever becomes of the trace
 };
-constexpr int trackingCount = 3;
+constexpr int trackingCount = 4;
+
+/// What a fixed marker keeps of its trace.
+struct FixedPoint {
+    std::complex<double> s;
+    std::complex<double> reference = 50.0; ///< in ohms
+    TraceFormat format = TraceFormat::Smith; ///< that the trace had
+    double value = 0.0; ///< in that format
+};
 
 /// A marked frequency of a trace. Where it stands in the data on show is derived from it.
 struct Marker {
@@ -23,6 +35,9 @@ struct Marker {
     int number = 0; ///< from 1 within the trace
     StimulusPlace place; ///< where the user set it, or where it has gone
     Tracking tracking = Tracking::Off;
+    FixedPoint fixed; ///< what it keeps while it is Tracking::Fixed
+
+    bool isFixed() const { return tracking == Tracking::Fixed; }
 };
 
 /// What became of a marker.
@@ -70,11 +85,14 @@ public:
     /// Markers can be set on these traces; those of others go. Returns what has changed. Where they
     /// are coupled, a trace that is new gets what the others have.
     Changes setTraces(const QVector<int> &traces);
-    /// Sets a marker, or moves the one of this number.
+    /// Sets a marker, or moves the one of this number; one that is fixed stays.
     Changes place(int trace, int number, const StimulusPlace &place);
     Changes remove(int trace, int number);
-    /// False for a marker that does not exist, and for what it does already.
+    /// False for a marker that does not exist, and for what it does already; a fixed one is fixed by
+    /// fix().
     bool setTracking(int trace, int number, Tracking tracking);
+    /// False for a marker that does not exist.
+    bool fix(int trace, int number, const FixedPoint &point);
     /// A marker that does not exist, such as number 0, leaves none selected. True if another one is
     /// selected than before.
     bool select(int trace, int number);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cartesian.h"
 #include "diagramplan.h"
 #include "markers.h"
 #include "measurementsource.h"
@@ -208,6 +209,9 @@ public:
     /// Where a marker stands in its trace's data on show; a fraction lies between two points. -1
     /// while it is parked, because its stimulus is not on show.
     double indexOf(const Marker &marker) const;
+    /// What a marker reads: its point of the trace's data on show, or the one that it keeps. Its
+    /// index is -1 while it is parked.
+    MarkedPoint markedPoint(const Marker &marker) const;
     /// The frequency in Hz that a marker stands at; a parked one, that it would stand at.
     double hertzOf(const Marker &marker) const;
     /// Whether markers stand on measured points only, and not between them.
@@ -221,7 +225,7 @@ public:
     /// Sets a marker of a certain number at a place on show or not, without selecting it; nothing
     /// happens for an unknown trace or a number that no marker can have.
     void restoreMarker(int traceId, int number, const StimulusPlace &place);
-    /// An index outside the trace's data on show is ignored, like an unknown marker.
+    /// An index outside the trace's data on show is ignored, like an unknown marker and a fixed one.
     void moveMarker(int traceId, int number, double index);
     void removeMarker(int traceId, int number);
     /// Also makes its trace active. A marker that does not exist, such as number 0, leaves none
@@ -229,8 +233,11 @@ public:
     void selectMarker(int traceId, int number);
     /// A marker that does not exist, such as number 0, leaves the trace without a reference.
     void setReferenceMarker(int traceId, int number);
-    /// The marker goes there at once, and again with other data, until it is moved.
+    /// The marker goes there at once, and again with other data, until it is moved. One that is
+    /// fixed keeps what it reads now, until it is told otherwise; a parked one cannot be fixed.
     void setMarkerTracking(int traceId, int number, Tracking tracking);
+    /// Fixes a marker at a value of before.
+    void restoreFixedMarker(int traceId, int number, const FixedPoint &point);
     void setMarkersDiscrete(bool discrete);
     /// Gives all traces the same markers, those of the active one first.
     void setMarkersCoupled(bool coupled);

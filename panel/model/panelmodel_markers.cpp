@@ -31,7 +31,7 @@ double PanelModel::indexOf(const Marker &marker) const
 double PanelModel::hertzOf(const Marker &marker) const
 {
     const double index = indexOf(marker);
-    return index < 0.0 || !markersDiscrete()
+    return index < 0.0 || !markersDiscrete() || marker.isFixed()
         ? marker.place.hertz
         : valueAt(network(*trace(marker.trace)).frequencies, index);
 }
@@ -64,7 +64,8 @@ void PanelModel::restoreMarker(int traceId, int number, const StimulusPlace &pla
 
 void PanelModel::moveMarker(int traceId, int number, double index)
 {
-    if (!holdsIndex(traceId, index) || !marker(traceId, number))
+    const Marker *moved = marker(traceId, number);
+    if (!holdsIndex(traceId, index) || !moved || moved->isFixed())
         return;
     if (m_markers.setTracking(traceId, number, Tracking::Off))
         Q_EMIT markerTrackingChanged(traceId);
@@ -73,10 +74,45 @@ void PanelModel::moveMarker(int traceId, int number, double index)
 
 void PanelModel::setMarkerTracking(int traceId, int number, Tracking tracking)
 {
-    if (!m_markers.setTracking(traceId, number, tracking))
+    const Marker *set = marker(traceId, number);
+    if (!set || set->tracking == tracking)
+        return;
+    const bool wasFixed = set->isFixed();
+    if (tracking == Tracking::Fixed) {
+        const MarkedPoint point = markedPoint(*set);
+        const TraceFormat format = trace(traceId)->format;
+        if (point.index >= 0.0)
+            restoreFixedMarker(
+                traceId, number,
+                {point.data.at(point.index), point.data.reference, format, point.value(format)});
+        return;
+    }
+    m_markers.setTracking(traceId, number, tracking);
+    Q_EMIT markerTrackingChanged(traceId);
+    if (wasFixed && marker(traceId, number))
+        Q_EMIT markerMoved(traceId, number);
+    trackMarkers();
+}
+
+void PanelModel::restoreFixedMarker(int traceId, int number, const FixedPoint &point)
+{
+    if (!m_markers.fix(traceId, number, point))
         return;
     Q_EMIT markerTrackingChanged(traceId);
-    trackMarkers();
+    if (marker(traceId, number))
+        Q_EMIT markerMoved(traceId, number);
+}
+
+MarkedPoint PanelModel::markedPoint(const Marker &marker) const
+{
+    if (!marker.isFixed())
+        return {traceData(*trace(marker.trace)), indexOf(marker)};
+    MarkedPoint point;
+    point.data.frequencies = {marker.place.hertz};
+    point.data.parameter = {{marker.fixed.s.real()}, {marker.fixed.s.imag()}};
+    point.data.reference = marker.fixed.reference;
+    point.kept = std::pair(marker.fixed.format, marker.fixed.value);
+    return point;
 }
 
 /// Moves the markers that follow a value to where it is now.
@@ -84,7 +120,7 @@ void PanelModel::trackMarkers()
 {
     for (const Marker &marker : QVector<Marker>(m_markers.all())) {
         const Trace *owner = trace(marker.trace);
-        if (marker.tracking == Tracking::Off || !owner)
+        if (marker.tracking == Tracking::Off || marker.isFixed() || !owner)
             continue;
         const Search search =
             marker.tracking == Tracking::Maximum ? Search::Maximum : Search::Minimum;

@@ -206,15 +206,15 @@ QByteArray PanelCommands::askMarkerY(const Call &call)
 {
     const Trace *trace = selected();
     const Marker *marker = trace ? m_model->marker(trace->id, call.number) : nullptr;
-    const double index = marker ? m_model->indexOf(*marker) : -1.0;
+    const MarkedPoint point = marker ? m_model->markedPoint(*marker) : MarkedPoint{{}, -1.0};
+    const double index = point.index;
     if (trace && index < 0.0)
         noteError(marker ? NoData : SettingsConflict);
     if (index < 0.0)
         return {};
-    const TraceData data = m_model->traceData(*trace);
     if (trace->overFrequency())
-        return number(formatValueAt(data, index, trace->format)) + ",0";
-    const std::complex<double> value = data.at(index);
+        return number(point.value(trace->format)) + ",0";
+    const std::complex<double> value = point.data.at(index);
     return number(value.real()) + ',' + number(value.imag());
 }
 

@@ -3,6 +3,9 @@
 #include "desk.h"
 #include "slope.h"
 
+#include <panel/diagrams/markerreading.h>
+#include <panel/files/viewstate.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -397,6 +400,61 @@ private Q_SLOTS:
             QCOMPARE(desk.model.selectedMarker(), desk.model.marker(active, 1));
             desk.model.selectMarker(0, 0);
         }
+    }
+
+    /// Whatever becomes of its trace, in every format, and after a restart.
+    void aFixedMarkerKeepsItsValue()
+    {
+        Desk desk;
+        desk.openSamples({"amplifier.s2p"_s});
+        desk.model.setActiveTrace(3);
+        desk.model.addMarker(3, 200.0);
+        desk.model.addMarker(3, 100.0);
+        const std::complex<double> kept = desk.model.traceData(*desk.model.trace(3)).at(100);
+        desk.model.setMarkerTracking(3, 2, Tracking::Fixed);
+        desk.model.setReferenceMarker(3, 2);
+        const auto read = [&](int number) {
+            return readMarker(desk.model, *desk.model.marker(3, number)).numbers.first();
+        };
+        const double apart = read(1);
+
+        Network halved = desk.model.networks().first();
+        for (Parameter &parameter : halved.parameters) {
+            for (int i = 0; i < halved.points(); ++i) {
+                parameter.real[i] /= 2.0;
+                parameter.imag[i] /= 2.0;
+            }
+        }
+        QVERIFY(desk.model.updateNetwork(0, halved));
+        desk.model.moveMarker(3, 2, 300.0);
+        desk.settle();
+        const double decibels = 20.0 * std::log10(std::abs(kept));
+        QVERIFY(std::abs(read(2) - decibels) < 1e-9);
+        QVERIFY(std::abs(read(1) - (apart - 20.0 * std::log10(2.0))) < 1e-9);
+        QVERIFY(std::abs(desk.drawn(3, 2).y() - decibels) < 1e-9);
+        QCOMPARE(markerName(desk.model, *desk.model.marker(3, 2)), "M2FR"_s);
+
+        const QJsonObject state = viewState(desk.model);
+        desk.model.setMarkerTracking(3, 2, Tracking::Off);
+        QVERIFY(std::abs(read(2) - (decibels - 20.0 * std::log10(2.0))) < 1e-9);
+        desk.model.moveMarker(3, 2, 300.0);
+        restoreViewState(&desk.model, state);
+        QVERIFY(std::abs(read(2) - decibels) < 1e-9);
+        QCOMPARE(desk.model.indexOf(*desk.model.marker(3, 2)), 100.0);
+
+        for (const TraceFormat format : {TraceFormat::Smith, TraceFormat::Polar}) {
+            desk.model.setTraceFormat(3, format);
+            desk.settle();
+            const DiagramView *view = desk.window.diagrams()->activeView();
+            const double full = format == TraceFormat::Polar ? desk.model.trace(3)->scale.top : 1.0;
+            const QPointF place = view->drawnMarker(3, 2)->getTracer()->position->coords();
+            QVERIFY(std::abs(place.x() - kept.real() / full) < 1e-9);
+            QVERIFY(std::abs(place.y() - kept.imag() / full) < 1e-9);
+            desk.checkRules();
+        }
+        // What the neighbours decide is not known of a single point.
+        desk.model.setTraceFormat(3, TraceFormat::GroupDelay);
+        QVERIFY(std::isnan(read(2)));
     }
 };
 
