@@ -39,6 +39,7 @@ CartesianView::CartesianView(const PanelModel *model, const DiagramId &id, QWidg
     connect(m_model, &PanelModel::limitsChanged, this, [this](int traceId) {
         if (m_lines.count(traceId) > 0)
             fillLine(*m_model->trace(traceId));
+        placeReadOuts();
         replotLater();
     });
     connect(m_model, &PanelModel::traceScaleChanged, this, [this](int traceId) {
@@ -238,7 +239,10 @@ void CartesianView::showWrittenScale()
     if (!active || m_laidOut.isEmpty())
         return;
     m_values.write(*active, m_laidOut.height());
-    m_values.setArrowColor(currentLook().trace(active->id));
+    // Where traces have scales of their own, the numbers are in the colour of theirs.
+    const Look look = currentLook();
+    m_values.setColors(look.trace(active->id),
+                       otherScales(*active).isEmpty() ? look.dimText : look.trace(active->id));
 }
 
 /// Offers to fit a visible trace that cannot be seen, the active one before all others.
@@ -265,6 +269,7 @@ void CartesianView::setTraceVisible(const Trace &trace)
         line.memory->setVisible(trace.visible);
     fillLine(trace);
     showOffScale();
+    showWrittenScale();
     replotLater();
 }
 

@@ -89,6 +89,7 @@ private:
     CartesianLimits m_limits;
     FitOffer *m_fitButton;
     Qt::Corner m_readOutCorner = Qt::TopRightCorner;
+    Qt::Corner m_verdictCorner = Qt::TopRightCorner;
     QSize m_laidOut; ///< of the axis rectangle; empty before the first layout
 };
 

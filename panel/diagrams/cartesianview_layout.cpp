@@ -31,7 +31,6 @@ void CartesianView::onLayout()
     m_laidOut = rect->size();
     m_frequencies.fit();
     const QPoint corner = rect->rect().topRight() + QPoint(-8, 8);
-    m_limits.verdict()->setCorner(corner);
     m_fitButton->setCorner(corner);
     if (!changed)
         return;
@@ -40,26 +39,35 @@ void CartesianView::onLayout()
     placeReadOuts();
 }
 
-/// Puts the read-outs where they hide the least, and what is said in place of them above the
-/// diagram.
+/// Puts the verdict and the read-outs where they hide the least, and what is said in place of these
+/// above the diagram.
 void CartesianView::placeReadOuts()
 {
+    constexpr int margin = 8;
     const QRect rect = plot()->axisRect()->rect();
+    QRect room = rect.adjusted(margin, margin, -margin, -margin);
+    const auto leave = [&room](const QWidget *box, Qt::Corner corner) {
+        if (corner == Qt::TopLeftCorner || corner == Qt::TopRightCorner)
+            room.setTop(qMax(room.top(), box->geometry().bottom() + margin));
+        else
+            room.setBottom(qMin(room.bottom(), box->geometry().top() - margin));
+    };
+    if (!m_fitButton->isHidden())
+        leave(m_fitButton, Qt::TopRightCorner);
+    QVector<QCPGraph *> lines;
+    for (const auto &[id, line] : m_lines)
+        lines.append(line.graph);
+    if (!verdict()->isHidden()) {
+        m_verdictCorner = freestCorner(room, verdict()->size(), lines, m_verdictCorner);
+        const QRect box = boxIn(room, verdict()->size(), m_verdictCorner);
+        m_limits.verdict()->setCorner({box.left() + box.width(), box.top()});
+        leave(verdict(), m_verdictCorner);
+    }
     if (readOuts()->markers().isEmpty()) {
         const int left = qMin(rect.left(), plot()->width() - readOuts()->width());
         readOuts()->move(qMax(0, left), qMax(0, rect.top() - readOuts()->height()));
         return;
     }
-    constexpr int margin = 8;
-    QRect room = rect.adjusted(margin, margin, -margin, -margin);
-    for (const QWidget *above :
-         {static_cast<const QWidget *>(verdict()), static_cast<const QWidget *>(m_fitButton)}) {
-        if (!above->isHidden())
-            room.setTop(qMax(room.top(), above->geometry().bottom() + margin));
-    }
-    QVector<QCPGraph *> lines;
-    for (const auto &[id, line] : m_lines)
-        lines.append(line.graph);
     m_readOutCorner = freestCorner(room, readOuts()->size(), lines, m_readOutCorner);
     readOuts()->move(boxIn(room, readOuts()->size(), m_readOutCorner).topLeft());
 }

@@ -148,21 +148,32 @@ void ReadOuts::refreshTrace(int traceId)
         refresh();
 }
 
-void ReadOuts::refresh()
+/// The markers of the traces that are visible.
+QVector<Marker> ReadOuts::visibleMarkers() const
 {
-    m_markers.clear();
-    for (const int id : qAsConst(m_traces)) {
+    QVector<Marker> markers;
+    for (const int id : m_traces) {
         const Trace *trace = m_model->trace(id);
         if (trace && trace->visible)
-            m_markers += m_model->markersOf(id);
+            markers += m_model->markersOf(id);
     }
+    return markers;
+}
+
+void ReadOuts::refresh()
+{
+    // In the table's place nobody sees them, and a live sweep need not fill them.
+    const bool wanted = !m_model->viewSettings()->markerTable();
+    if (!wanted && isHidden() && m_markers.isEmpty())
+        return;
+    m_markers = wanted ? visibleMarkers() : QVector<Marker>();
     m_texts.clear();
     for (const Marker &marker : qAsConst(m_markers)) {
         m_texts.append(textsOf(marker));
         widenColumns(m_texts.last());
     }
-    m_bandwidth->setText(bandwidthText());
-    setVisible(!m_model->viewSettings()->markerTable());
+    m_bandwidth->setText(wanted ? bandwidthText() : QString());
+    setVisible(wanted);
     arrange();
     showSelected();
 }
@@ -212,15 +223,14 @@ QStringList ReadOuts::textsOf(const Marker &marker) const
 QStringList ReadOuts::readings() const
 {
     QStringList lines;
-    for (int row = 0; row < m_markers.size(); ++row) {
-        const Marker &marker = m_markers.at(row);
+    for (const Marker &marker : visibleMarkers())
         lines << QStringLiteral("Tr%1 ").arg(marker.trace)
                 + PanelModel::parameterName(*m_model->trace(marker.trace)) + QLatin1Char(' ')
                 + markerName(*m_model, marker) + QStringLiteral(": ")
-                + m_texts.at(row).join(QStringLiteral(" \u00b7 "));
-    }
-    if (!m_bandwidth->text().isEmpty())
-        lines << m_bandwidth->text();
+                + textsOf(marker).join(QStringLiteral(" \u00b7 "));
+    const QString band = bandwidthText();
+    if (!band.isEmpty())
+        lines << band;
     return lines;
 }
 

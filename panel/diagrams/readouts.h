@@ -59,6 +59,7 @@ private:
         int marker = -1; ///< its place in m_markers; -1 while the line is hidden
     };
 
+    QVector<Marker> visibleMarkers() const;
     void refresh();
     void refreshTrace(int traceId);
     QString bandwidthText() const;

@@ -59,9 +59,10 @@ void ValueAxis::write(const Trace &trace, int height)
     m_arrow->end->setCoords(0.0, trace.scale.reference());
 }
 
-void ValueAxis::setArrowColor(const QColor &color)
+void ValueAxis::setColors(const QColor &arrow, const QColor &numbers)
 {
-    m_arrow->setPen(color);
+    m_arrow->setPen(arrow);
+    m_axis->setTickLabelColor(numbers);
 }
 
 } // namespace Panel

@@ -19,7 +19,7 @@ public:
 
     /// Writes the scale of a trace beside an axis rectangle of so many pixels.
     void write(const Trace &trace, int height);
-    void setArrowColor(const QColor &color);
+    void setColors(const QColor &arrow, const QColor &numbers);
 
 private:
     QCPAxis *m_axis;

@@ -83,14 +83,14 @@ Scale fittingScale(TraceFormat format, double lowest, double highest)
     const double limit = row.divisions / 2.0 * row.largestDivision;
     lowest = std::clamp(lowest, -limit, limit);
     highest = std::clamp(highest, -limit, limit);
-    // A division of room above and below; the standing wave ratio stands on its 1.
+    // Up to a division of room, and never the edges; the standing wave ratio stands on its 1.
     const bool standing = format == TraceFormat::Vswr;
     if (standing)
         lowest = 1.0;
-    const double needed = (highest - lowest) / (row.divisions - 2);
+    const double needed = (highest - lowest) / (row.divisions - 1);
     double division = roundedUp(std::clamp(needed, row.smallestDivision, row.largestDivision));
     if (format == TraceFormat::Phase && division > 20.0)
-        division = division > 45.0 ? 90.0 : 45.0;
+        division = 45.0; // from -180 to 180, where all phases are
     division = std::min(division, row.largestDivision);
     if (standing)
         return {division, 1.0 + row.divisions * division};

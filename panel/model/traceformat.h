@@ -99,7 +99,7 @@ const FormatTraits &traits(TraceFormat format);
 /// The scale that a trace of this format begins with; for decibels its highest value decides.
 Scale defaultScale(TraceFormat format, double highest);
 /// A scale at which values from the lowest to the highest fill most of the diagram: divisions of 1,
-/// 2 or 5, and 45 or 90 degrees. The default scale for values that are not finite. A polar diagram
+/// 2 or 5, and 45 degrees. The default scale for values that are not finite. A polar diagram
 /// goes from 0 to the highest value.
 Scale fittingScale(TraceFormat format, double lowest, double highest);
 /// The value at the diagram's lower edge.

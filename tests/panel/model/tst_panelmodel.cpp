@@ -286,7 +286,8 @@ private Q_SLOTS:
         const std::tuple<TraceFormat, double, double, Scale> rows[] = {
             {TraceFormat::LogMagnitude, -3.2, -1.1, {0.5, 0.0}},
             {TraceFormat::LogMagnitude, -95.0, 12.0, {20.0, 60.0}},
-            {TraceFormat::Phase, -170.0, 170.0, {90.0, 360.0}},
+            {TraceFormat::Phase, -170.0, 170.0, {45.0, 180.0}},
+            {TraceFormat::LogMagnitude, -46.0, -2.0, {5.0, 0.0}},
             {TraceFormat::Vswr, 1.2, 8.0, {1.0, 11.0}},
             {TraceFormat::Vswr, 5.0, qInf(), {1.0, 11.0}},
         };
@@ -296,6 +297,15 @@ private Q_SLOTS:
             QVERIFY2(scale == expected,
                      qPrintable("%1 %2"_s.arg(scale.perDivision).arg(scale.top)));
             QVERIFY(bottom(format, scale) <= lowest);
+        }
+        // As large as steps of 1, 2 and 5 allow, and within the edges.
+        for (int i = 0; i < 2000; ++i) {
+            const double lowest = -50.0 + 0.037 * i, span = 1.5 + 0.0131 * i;
+            const Scale scale = fittingScale(TraceFormat::LogMagnitude, lowest, lowest + span);
+            const double filled = span / (10.0 * scale.perDivision);
+            QVERIFY2(filled > 0.36 && filled <= 0.9 + 1e-9, qPrintable(QString::number(filled)));
+            QVERIFY(scale.top >= lowest + span - 1e-9);
+            QVERIFY(bottom(TraceFormat::LogMagnitude, scale) <= lowest + 1e-9);
         }
         PanelModel model;
         Network amplifier = network(1, {1e9, 2e9});
