@@ -3,7 +3,9 @@
 #include "slope.h"
 #include "vnatest.h"
 
+#include <panel/files/samples.h>
 #include <panel/model/cartesian.h>
+#include <panel/touchstone/touchstone.h>
 
 #include <QRandomGenerator>
 
@@ -116,6 +118,40 @@ private Q_SLOTS:
         }
         QVERIFY(line.frequencies.contains(5e3) && line.frequencies.contains(777777e3));
         QCOMPARE(std::count(line.values.begin(), line.values.end(), 1.0), 2);
+    }
+
+    /// Every format of a filter, against values that another program has computed of the file by other
+    /// ways: R and X from 1 - |S|^2, phases from the quotients of neighbours.
+    void agreesWithOthers()
+    {
+        const Network filter = readTouchstone(sampleFolder() + "/band-pass.s2p"_s).network;
+        struct {
+            TraceFormat format;
+            double s11; // at 2.35 GHz
+            double s21; // at 2.475 GHz, beyond a turn
+        } const rows[] = {
+            {TraceFormat::LogMagnitude, -0.32215, -1.32463},
+            {TraceFormat::Phase, 83.9968, -145.7443},
+            {TraceFormat::Vswr, 53.93068631, 13.139846388},
+            {TraceFormat::LinearMagnitude, 0.963590478577, 0.858555747699},
+            {TraceFormat::RealPart, 0.100776154017, -0.709625306093},
+            {TraceFormat::ImaginaryPart, 0.958306202205, -0.483270004096},
+            {TraceFormat::UnwrappedPhase, 83.9968, -505.7443},
+            {TraceFormat::GroupDelay, 2.59111111111, 9.47277777778},
+            {TraceFormat::Resistance, 2.06992708198, 4.16431131362},
+            {TraceFormat::Reactance, 55.4911152478, -15.3109496315},
+            {TraceFormat::Quality, 26.808246402, 3.6767062975},
+            {TraceFormat::Polar, 0.963590478577, 0.858555747699},
+        };
+        const TraceData s11 = traceData(filter, 1, 1), s21 = traceData(filter, 2, 1);
+        for (const auto &row : rows) {
+            const Row shown(formatName(row.format));
+            const auto isNear = [](double found, double wanted) {
+                return std::abs(found - wanted) <= 1e-9 * std::max(1.0, std::abs(wanted));
+            };
+            QVERIFY(isNear(formatValues(s11, row.format).at(200), row.s11));
+            QVERIFY(isNear(formatValueAt(s21, 700, row.format), row.s21));
+        }
     }
 };
 
