@@ -26,8 +26,7 @@ DialogStage::DialogStage(QDialog *dialog, QWidget *window)
     , m_focusBefore(window->focusWidget())
 {
     const QPointer<QWidget> first(dialog->focusWidget());
-    if (auto *title = dialog->findChild<Controls::DraggableDialogTitleBar *>())
-        title->setTitleHeight(dialogTitleHeight);
+    setTitleHeight(dialog);
     dialog->setWindowFlags(Qt::Widget);
     dialog->setAttribute(Qt::WA_StyledBackground);
     // The layer ends all connections between the two when the dialog is finished.
@@ -57,6 +56,12 @@ DialogStage::DialogStage(QDialog *dialog, QWidget *window)
 void DialogStage::show(QDialog *dialog, QWidget *window)
 {
     new DialogStage(dialog, window->window());
+}
+
+void DialogStage::setTitleHeight(QDialog *dialog)
+{
+    if (auto *title = dialog->findChild<Controls::DraggableDialogTitleBar *>())
+        title->setTitleHeight(dialogTitleHeight);
 }
 
 bool DialogStage::isOccupied(const QWidget *window)

@@ -31,6 +31,8 @@ public:
     /// Shows a dialog that was not shown yet, no larger than the window allows. It is deleted when it
     /// is finished.
     static void show(QDialog *dialog, QWidget *window);
+    /// Gives a frameless dialog a title of dialogTitleHeight, as show() does.
+    static void setTitleHeight(QDialog *dialog);
     /// Whether a dialog is on show in this window.
     static bool isOccupied(const QWidget *window);
 

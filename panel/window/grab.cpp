@@ -15,6 +15,7 @@
 #include <panel/entry/softkey.h>
 #include <panel/entry/softkeymenu.h>
 #include <panel/files/samples.h>
+#include <panel/ground/dialogstage.h>
 #include <panel/model/panelmodel.h>
 #include <panel/touchstone/touchstone.h>
 
@@ -168,6 +169,7 @@ bool grabScreens(PanelModel *model, PanelWindow *window, const QString &folder)
 
     const auto grabDialog = [&](QDialog *dialog, const char *name) {
         dialog->setAttribute(Qt::WA_DontShowOnScreen);
+        DialogStage::setTitleHeight(dialog);
         dialog->show();
         grabber.grab(name, dialog);
     };
