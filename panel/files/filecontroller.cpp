@@ -192,6 +192,7 @@ void FileController::report(const ReadFiles &files, const QString &note)
 /// meanwhile, or a step back has brought others.
 void FileController::followNetworks()
 {
+    Q_EMIT noted(QString()); // of files before
     if (!m_loader.isLoading()) {
         m_watch.setPaths(pathsOf(m_model->files()));
         for (const Network &file : m_model->files()) {

@@ -47,7 +47,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Sentences for the user; none when all went well.
     void reported(const QString &sentences);
-    /// A sentence that needs no answer.
+    /// A sentence that needs no answer; an empty one takes the last one back.
     void noted(const QString &sentence);
     /// Files have changed on disk: the user may want reloadFiles().
     void changesFound(const QString &sentences, const QStringList &paths);

@@ -165,6 +165,7 @@ private Q_SLOTS:
         desk.click(desk.keys().undo);
         desk.click(desk.keys().undo);
         QCOMPARE(model.files().first().path, yesterday);
+        QVERIFY(desk.bar()->isHidden());
         QCOMPARE(viewState(model), arranged);
         QVERIFY(model.memory(3)
                 && qFuzzyCompare(model.traceData(*model.trace(3)).at(0).real(), 1.0));
