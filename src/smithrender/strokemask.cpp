@@ -271,8 +271,9 @@ bool StrokeMask::cut(Segment &s) const
     if (!(first < last))
         return false;
     const Segment whole = s;
+    // Also where the other end is so far away that the sum has no digits left, or is none.
     const auto onto = [](double at, double low, double high) {
-        return at - low < rounding ? low : high - at < rounding ? high : at;
+        return !(at - low >= rounding) ? low : !(high - at >= rounding) ? high : at;
     };
     const auto place = [&](double share, Point &p, int &cap) {
         p.x =

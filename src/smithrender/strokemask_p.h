@@ -102,12 +102,14 @@ private:
     {
         return static_cast<int>(at * stepsPerPixel) + border * stepsPerPixel;
     }
-    /// A bit for each side of what is seen that a point is beyond; 0: it is seen.
+    /// A bit for each side of what is seen that a point is beyond; 0: it is seen. NaN is beyond both
+    /// sides of an axis.
     unsigned sidesOf(const Point &p) const
     {
-        return unsigned(p.x < m_seen.left) | unsigned(p.x > m_seen.right) << 1
-            | unsigned(p.y < m_seen.top) << 2 | unsigned(p.y > m_seen.bottom) << 3;
+        return unsigned(!(p.x >= m_seen.left)) | unsigned(!(p.x <= m_seen.right)) << 1
+            | unsigned(!(p.y >= m_seen.top)) << 2 | unsigned(!(p.y <= m_seen.bottom)) << 3;
     }
+    static bool isNowhere(unsigned sides) { return (sides & (sides >> 1) & 5U) != 0; }
     bool cut(Segment &segment) const;
     void add(int fromX, int fromY, int toX, int toY, int startCap, int endCap)
     {
@@ -173,7 +175,7 @@ void StrokeMask::addLine(const PointAt &pointAt, int count, double shift)
         if ((fromSides | toSides) == 0) {
             add(fromX, fromY, toX, toY, startCap, endCap);
             startCap = 0;
-        } else if ((fromSides & toSides) != 0) {
+        } else if ((fromSides & toSides) != 0 || isNowhere(fromSides) || isNowhere(toSides)) {
             // Where a part is left out, those next to it end as lines do.
             startCap = isWithin(m_bounds, to) ? half : 0;
         } else {
