@@ -30,6 +30,9 @@ bool readErrorEntry(const QByteArray &line, int &number, QByteArray &text)
 
 qint64 blockSize(const QByteArray &digits)
 {
+    constexpr int mostDigits = 18; // of what a qint64 can hold; a head has nine at most
+    if (digits.size() > mostDigits)
+        return -1;
     qint64 size = digits.isEmpty() ? -1 : 0;
     for (const char digit : digits) {
         if (digit < '0' || digit > '9')

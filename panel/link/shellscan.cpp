@@ -96,6 +96,10 @@ int announcedPoints(const QByteArray &head)
 Scan parseBinaryScan(const QByteArray &body, int points)
 {
     Scan scan;
+    if (body.size() < shellBytes(points)) {
+        scan.fault = ScanFault::OtherPoints;
+        return scan;
+    }
     const char *at = body.constData();
     const auto number = [&at] {
         const auto value = double(qFromLittleEndian<float>(at));
