@@ -44,7 +44,8 @@ private:
     void setUp()
     {
         m_plot = new QCustomPlot;
-        m_plot->resize(160, 160);
+        // Small, as its buffers cost more than the calls.
+        m_plot->resize(64, 64);
         m_chart =
             new SmithChartPlot(m_plot, static_cast<SmithChart::Preset>(m_input.integer(-1, 3)));
         m_chart->setOnlyHandleActiveTrace(m_input.flag());
@@ -248,7 +249,7 @@ private:
         acts[m_input.integer(0, int(std::size(acts)) - 1)](call);
     }
 
-    QPoint point() { return {m_input.integer(-20, 180), m_input.integer(-20, 180)}; }
+    QPoint point() { return {m_input.integer(-8, 72), m_input.integer(-8, 72)}; }
 
     void press(const Plot::Marker *marker, bool byMouse)
     {
@@ -268,7 +269,7 @@ private:
     {
         if (m_depth > 0 || !m_plot)
             return;
-        m_plot->resize(m_input.integer(1, 200), m_input.integer(1, 200));
+        m_plot->resize(m_input.integer(1, 80), m_input.integer(1, 80));
         QResizeEvent resize(m_plot->size(), {});
         sendToPlot(resize);
         m_inPlotEvent = true;

@@ -63,6 +63,31 @@ GridValues gridValues(Preset preset)
     return {};
 }
 
+namespace
+{
+
+/// Points around the unit circle, from 0 to 2 pi; the last ones that were asked for are kept.
+struct UnitCircle {
+    QVector<double> x, y;
+
+    static UnitCircle of(int samples)
+    {
+        static thread_local UnitCircle last;
+        if (last.x.size() != samples + 1) {
+            last.x.resize(samples + 1);
+            last.y.resize(samples + 1);
+            for (int i = 0; i <= samples; ++i) {
+                const double angle = twoPi * i / samples;
+                last.x[i] = std::cos(angle);
+                last.y[i] = std::sin(angle);
+            }
+        }
+        return last;
+    }
+};
+
+} // namespace
+
 void appendCircleInsideUnitDisk(double centerX, double centerY, double radius, int samples,
                                 Runs &runs)
 {
@@ -78,10 +103,10 @@ void appendCircleInsideUnitDisk(double centerX, double centerY, double radius, i
         runX.clear();
         runY.clear();
     };
+    const UnitCircle circle = UnitCircle::of(samples);
     for (int i = 0; i <= samples; ++i) {
-        const double angle = twoPi * i / samples;
-        const double x = centerX + radius * std::cos(angle);
-        const double y = centerY + radius * std::sin(angle);
+        const double x = centerX + radius * circle.x.at(i);
+        const double y = centerY + radius * circle.y.at(i);
         if (x * x + y * y <= insideLimit) {
             runX.append(x);
             runY.append(y);
@@ -99,13 +124,9 @@ Grid gridGeometry(const QVector<double> &resistances, const QVector<double> &rea
     grid.impedance = chartGrid(1.0, resistances, reactances, samples);
     grid.admittance = chartGrid(-1.0, resistances, reactances, samples);
     if (samples >= 1) {
-        grid.boundaryX.reserve(samples + 1);
-        grid.boundaryY.reserve(samples + 1);
-        for (int i = 0; i <= samples; ++i) {
-            const double angle = twoPi * i / samples;
-            grid.boundaryX.append(std::cos(angle));
-            grid.boundaryY.append(std::sin(angle));
-        }
+        const UnitCircle boundary = UnitCircle::of(samples);
+        grid.boundaryX = boundary.x;
+        grid.boundaryY = boundary.y;
     }
     grid.realAxisX = {-1.0, 1.0};
     grid.realAxisY = {0.0, 0.0};
