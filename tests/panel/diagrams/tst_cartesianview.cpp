@@ -68,9 +68,10 @@ private Q_SLOTS:
     void markersNearTheTopAreDrawn()
     {
         Desk desk;
-        desk.model.setTraceScale(3, {10.0, 0.0});
         desk.model.addMarker(3, 600.0);
         for (int height = 480; height < 800; height += 7) {
+            // Near the top, and beyond it.
+            desk.model.setTraceScale(3, {10.0, height % 2 ? 0.0 : -20.0});
             desk.window.resize(1280, height);
             Desk::settle();
             const Plot::Marker *marker = desk.view()->drawnMarker(3, 1);
