@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "viewstate.h"
 
+#include "correctionstate.h"
 #include "zoomstate.h"
 
 #include <panel/model/panelmodel.h>
@@ -111,27 +112,6 @@ QJsonObject written(const PanelModel &model, const Trace &trace)
             {"markers"_key, markers}};
 }
 
-QJsonArray writtenDelays(const Correction &correction)
-{
-    QJsonArray delays;
-    for (const double delay : correction.delays)
-        delays.append(delay);
-    return delays;
-}
-
-/// What cannot be is left out.
-Correction restoredCorrection(const QJsonObject &network)
-{
-    Correction correction;
-    int port = 0;
-    for (const QJsonValue delay : network["delays"_key].toArray())
-        correction.setDelay(++port, delay.toDouble());
-    const double ohms = network["referenceOhms"_key].toDouble();
-    if (ohms >= Correction::smallestReference && ohms <= Correction::largestReference)
-        correction.referenceOhms = ohms;
-    return correction;
-}
-
 QJsonArray writtenNetworks(const PanelModel &model)
 {
     QJsonArray networks;
@@ -149,7 +129,7 @@ QJsonArray writtenNetworks(const PanelModel &model)
         networks.append(QJsonObject{{"identity"_key, networkIdentity(model.networks().at(i))},
                                     {"start"_key, shown.start},
                                     {"stop"_key, shown.stop},
-                                    {"delays"_key, writtenDelays(correction)},
+                                    {"delays"_key, delayState(correction)},
                                     {"referenceOhms"_key, correction.referenceOhms},
                                     {"traces"_key, traces}});
     }
@@ -319,11 +299,6 @@ void restoreViewSettings(ViewSettings *view, const QJsonObject &state)
     view->setBandwidthDecibels(state["bandwidth"_key].toDouble());
     view->setReadoutFormat(ReadoutFormat(state["readout"_key].toInt()));
     view->setOnlyActiveTrace(state["onlyActiveTrace"_key].toBool());
-}
-
-QString networkIdentity(const Network &network)
-{
-    return network.path.isEmpty() ? network.name : network.path;
 }
 
 bool isChoice(const QJsonValue &value, int count)

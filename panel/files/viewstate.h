@@ -34,7 +34,10 @@ using Memories = QHash<int, TraceData>;
 void restoreNetworks(PanelModel *model, const QJsonObject &state,
                      const Memories *memories = nullptr);
 /// What tells a network apart: its file, or what was measured.
-QString networkIdentity(const Network &network);
+inline QString networkIdentity(const Network &network)
+{
+    return network.path.isEmpty() ? network.name : network.path;
+}
 
 /// Whether a value is a whole number from 0 to below a count.
 bool isChoice(const QJsonValue &value, int count);
