@@ -185,12 +185,15 @@ def use(panel, points, resistance, home):
     close_to("10 dB bandwidth in Hz", high - low, high_expected - low_expected,
              0.01 * (high_expected - low_expected))
 
-    # Save: the key opens a list, whose first entry is Touchstone.
+    # Save: the key opens a list, whose first entry is Touchstone, and then asks for a name.
     key = wait_for("the save key", lambda: panel.find_key("Save"))
     action = key.queryAction()
     action.doAction(0)
     wait_for("the list", lambda: panel.find("list item", "Touchstone"))
     panel.press("Down", "Return")
+    name = wait_for("the question for a name", lambda: panel.find("text", "Name"))
+    wait_for("the focus", lambda: name.getState().contains(panel.atspi.STATE_FOCUSED))
+    panel.press("Return")
     saved = wait_for("the file", lambda: [os.path.join(folder, name)
                                           for folder, _, names in os.walk(home)
                                           for name in names if re.search(r"\.s\dp$", name)])
