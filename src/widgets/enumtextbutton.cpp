@@ -128,12 +128,12 @@ int EnumTextButton::itemCountPerRow() const
 
 void EnumTextButton::setItemEnabled(const QString &text, bool enabled)
 {
-    d->list.popup()->setItemEnabled(text, enabled);
+    d->list.setEntryEnabled(d->list.indexOf(text), enabled);
 }
 
 void EnumTextButton::setItemEnabled(int index, bool enabled)
 {
-    d->list.popup()->setItemEnabled(index, enabled);
+    d->list.setEntryEnabled(index, enabled);
 }
 
 void EnumTextButton::setTitleText(const QString &text)

@@ -5,6 +5,7 @@
 #include <vnawidgets_export.h>
 
 #include <widgets/labelbutton.h>
+#include <widgets/popupwidget.h>
 
 #include <QList>
 #include <QListView>
@@ -113,11 +114,6 @@ Q_SIGNALS:
     void currentItemToggled(int value);
 
 protected:
-    /// When the list comes to be, which costs more than the button.
-    enum class ListCreation {
-        AtOnce, ///< with the button, as for every button made with the public constructor
-        WhenOpened, ///< or when one of its settings is asked for: for a screen of many buttons
-    };
     /// A button without choices whose list is made at \a creation.
     EnumTextButton(ListCreation creation, QWidget *parent);
 

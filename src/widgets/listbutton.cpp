@@ -34,6 +34,8 @@ PopupWidget *ListButton::popup()
     QObject::connect(m_popup, &PopupWidget::currentItemChanged, m_button, m_pick);
     if (!isEmpty())
         fill();
+    for (const int index : qAsConst(m_disabled))
+        m_popup->setItemEnabled(index, false);
     return m_popup;
 }
 
@@ -66,12 +68,24 @@ void ListButton::append(int value, const QString &text)
         m_popup->popup();
 }
 
+void ListButton::setEntryEnabled(int index, bool enabled)
+{
+    if (m_popup) {
+        m_popup->setItemEnabled(index, enabled);
+        return;
+    }
+    m_disabled.removeAll(index);
+    if (!enabled && index >= 0 && index < m_texts.size())
+        m_disabled << index;
+}
+
 void ListButton::clear()
 {
     if (m_popup && m_popup->isVisible())
         m_popup->close();
     m_values.clear();
     m_texts.clear();
+    m_disabled.clear();
     if (m_popup)
         m_popup->clear();
 }

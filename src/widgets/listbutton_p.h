@@ -43,6 +43,8 @@ public:
         fill();
     }
     void append(int value, const QString &text);
+    /// Enables or disables the entry at an index; new entries are enabled.
+    void setEntryEnabled(int index, bool enabled);
     void clear();
 
     /// The place of the first entry of a value or a text, or -1.
@@ -72,4 +74,5 @@ private:
     QTimer *m_reopenGuard;
     QList<int> m_values;
     QStringList m_texts;
+    QList<int> m_disabled; ///< entries, for a list that does not exist yet
 };

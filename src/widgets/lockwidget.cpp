@@ -30,8 +30,7 @@ struct LockWidgetPrivate {
     Utils::WidgetMouseMoveTool *mouseMoveTool = nullptr;
     QGraphicsOpacityEffect *opacityEffect = nullptr;
     QSequentialAnimationGroup *blinkGroup = nullptr;
-    QPixmap unlockedPixmap;
-    QPixmap lockedPixmap;
+    QPixmap pixmaps[2]; ///< open and closed; null until first on show
 };
 
 /// To a screen reader the padlock is a check box, checked while locked.
@@ -164,7 +163,7 @@ void LockWidget::paintEvent(QPaintEvent *event)
 
 void LockWidget::onClick()
 {
-    d->ui.label->setPixmap(d->locked ? d->lockedPixmap : d->unlockedPixmap);
+    showPixmap();
     d->mouseMoveTool->setMovable(!d->locked);
     if (!d->locked)
         stopBlinking();
@@ -205,9 +204,17 @@ void LockWidget::scheduleDefaultPosition()
 
 void LockWidget::loadPixmaps()
 {
-    d->unlockedPixmap = QPixmap(ThemeManager::instance()->getIconPath(4));
-    d->lockedPixmap = QPixmap(ThemeManager::instance()->getIconPath(3));
-    d->ui.label->setPixmap(d->locked ? d->lockedPixmap : d->unlockedPixmap);
+    for (QPixmap &pixmap : d->pixmaps)
+        pixmap = QPixmap();
+    showPixmap();
+}
+
+void LockWidget::showPixmap()
+{
+    QPixmap &pixmap = d->pixmaps[d->locked];
+    if (pixmap.isNull())
+        pixmap = QPixmap(ThemeManager::instance()->getIconPath(d->locked ? 3 : 4));
+    d->ui.label->setPixmap(pixmap);
 }
 
 void LockWidget::setKey(QWidget *key)

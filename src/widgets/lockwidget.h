@@ -75,6 +75,7 @@ private:
     void addAnimation();
     void scheduleDefaultPosition();
     void loadPixmaps();
+    void showPixmap();
     void stopBlinking();
     bool mustPass(QObject *watched, QEvent *event) const;
 

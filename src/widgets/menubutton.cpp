@@ -41,13 +41,19 @@ MenuButton::MenuButton(const QString &text, QWidget *parent)
 }
 
 MenuButton::MenuButton(QWidget *parent)
+    : MenuButton(ListCreation::AtOnce, parent)
+{
+}
+
+MenuButton::MenuButton(ListCreation creation, QWidget *parent)
     : QPushButton(parent)
     , d(std::make_unique<Private>(this))
 {
     ButtonAccessible::install<MenuButton, MenuButtonAccessible>();
     setCheckable(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    d->list.popup();
+    if (creation == ListCreation::AtOnce)
+        d->list.popup();
     connect(d->list.reopenGuard(), &QTimer::timeout, this, [this] {
         setChecked(false);
         setDown(false);
@@ -126,12 +132,12 @@ int MenuButton::itemCountPerRow() const
 
 void MenuButton::setItemEnabled(const QString &text, bool enabled)
 {
-    d->list.popup()->setItemEnabled(text, enabled);
+    d->list.setEntryEnabled(d->list.indexOf(text), enabled);
 }
 
 void MenuButton::setItemEnabled(int index, bool enabled)
 {
-    d->list.popup()->setItemEnabled(index, enabled);
+    d->list.setEntryEnabled(index, enabled);
 }
 
 void MenuButton::setTitleText(const QString &text)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <vnawidgets_export.h>
+#include <widgets/popupwidget.h>
 
 #include <QList>
 #include <QListView>
@@ -105,6 +106,9 @@ Q_SIGNALS:
     void menuItemClicked(const QString &text);
 
 protected:
+    /// A button without entries whose list is made at \a creation.
+    MenuButton(ListCreation creation, QWidget *parent);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
 

@@ -11,6 +11,13 @@
 
 class PopupWidgetPrivate;
 
+/// When the list of a button comes to be, which costs more than the button: for classes of a host
+/// that derive from MenuButton or EnumTextButton.
+enum class ListCreation {
+    AtOnce, ///< with the button, as for every button made with a public constructor
+    WhenOpened, ///< or when one of its settings is asked for: for a screen of many buttons
+};
+
 /*! The list of choices that opens from a button: one column (list mode) or a grid of tiles (icon
     mode), with an optional title by which it can be dragged. A tap on an enabled item reports its
     text and closes the list; a tap on a disabled one changes nothing. Return, Enter and Space pick
