@@ -81,8 +81,11 @@ void TabletComboBox2::showCurrent()
 
 void TabletComboBox2::applyIcons()
 {
-    for (int index = 0; index < count(); ++index)
-        setItemIcon(index, QIcon(d->icons.value(index)));
+    for (int index = 0; index < count(); ++index) {
+        // For a path that is none, Qt would load all its readers of pictures and ask each.
+        const QString path = d->icons.value(index);
+        setItemIcon(index, path.isEmpty() ? QIcon() : QIcon(path));
+    }
 }
 
 void TabletComboBox2::writeBack(int index)
