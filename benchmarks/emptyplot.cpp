@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
-    A window with an empty plot that ends as soon as it is shown: the minimum that a program with a
-    plot costs. */
+    A window with an empty plot that says when it is shown, and ends: the minimum that a program with
+    a plot costs. */
 #include <plot/qcp.h>
 
 #include <QApplication>
 #include <QMainWindow>
 #include <QWindow>
+
+#include <cstdio>
 
 int main(int argc, char **argv)
 {
@@ -19,5 +21,7 @@ int main(int argc, char **argv)
     while (!window.windowHandle()->isExposed())
         QApplication::processEvents();
     QApplication::processEvents();
+    std::puts("Shown");
+    std::fflush(stdout);
     return 0;
 }

@@ -143,12 +143,14 @@ void startProgram(benchmark::State &state, const char *program, const QStringLis
         const auto begin = std::chrono::steady_clock::now();
         QProcess child;
         child.start(QString::fromLocal8Bit(program), arguments);
-        if (!child.waitForFinished() || child.exitCode() != 0) {
+        // Its first word says that it is shown.
+        const bool shown = child.waitForReadyRead();
+        const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
+        if (!shown || !child.waitForFinished() || child.exitCode() != 0) {
             state.SkipWithError("the program failed");
             return;
         }
-        state.SetIterationTime(
-            std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
+        state.SetIterationTime(time.count());
         // "Peak memory: 71234 kB"
         kibibytes = child.readAllStandardOutput().split(' ').value(2).toDouble();
     }

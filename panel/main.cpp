@@ -75,6 +75,7 @@ void printPeakMemory()
         if (line.startsWith("VmHWM:"))
             std::printf("Peak memory: %s\n", line.mid(6).trimmed().constData());
     }
+    std::fflush(stdout); // at once, for who waits for the first picture
 }
 
 /// Opens the files that were asked for, or else those of the last time, or else a sample; false if

@@ -121,6 +121,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::EmptyPage</name>
+    <message>
+        <source>Open file…</source>
+        <translation>Datei öffnen…</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>Keine Daten</translation>
+    </message>
+    <message>
+        <source>Open a Touchstone file (.s1p, .s2p, .ts) to see it.</source>
+        <translation>Eine Touchstone-Datei (.s1p, .s2p, .ts) öffnen, um sie zu sehen.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::Exports</name>
     <message>
         <source>The folder %1 cannot be made.</source>
@@ -1193,14 +1208,6 @@
         <source>Lock</source>
         <translation>Sperre</translation>
     </message>
-    <message>
-        <source>No data</source>
-        <translation>Keine Daten</translation>
-    </message>
-    <message>
-        <source>Open file…</source>
-        <translation>Datei öffnen…</translation>
-    </message>
     <message numerus="yes">
         <source>%n files</source>
         <translation>
@@ -1227,10 +1234,6 @@
     <message>
         <source>This is a sample. Open your own files with System, File.</source>
         <translation>Dies ist ein Beispiel. Eigene Dateien öffnet System, Datei.</translation>
-    </message>
-    <message>
-        <source>Open a Touchstone file (.s1p, .s2p, .ts) to see it.</source>
-        <translation>Eine Touchstone-Datei (.s1p, .s2p, .ts) öffnen, um sie zu sehen.</translation>
     </message>
     <message>
         <source>What you set cannot be kept: %1 cannot be written.</source>

@@ -120,6 +120,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::EmptyPage</name>
+    <message>
+        <source>Open file…</source>
+        <translation>打开文件…</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>无数据</translation>
+    </message>
+    <message>
+        <source>Open a Touchstone file (.s1p, .s2p, .ts) to see it.</source>
+        <translation>打开 Touchstone 文件（.s1p、.s2p、.ts）即可查看。</translation>
+    </message>
+</context>
+<context>
     <name>Panel::Exports</name>
     <message>
         <source>The folder %1 cannot be made.</source>
@@ -1187,14 +1202,6 @@
         <source>Lock</source>
         <translation>锁定</translation>
     </message>
-    <message>
-        <source>No data</source>
-        <translation>无数据</translation>
-    </message>
-    <message>
-        <source>Open file…</source>
-        <translation>打开文件…</translation>
-    </message>
     <message numerus="yes">
         <source>%n files</source>
         <translation>
@@ -1220,10 +1227,6 @@
     <message>
         <source>This is a sample. Open your own files with System, File.</source>
         <translation>这是示例。用“系统”“文件”打开您的文件。</translation>
-    </message>
-    <message>
-        <source>Open a Touchstone file (.s1p, .s2p, .ts) to see it.</source>
-        <translation>打开 Touchstone 文件（.s1p、.s2p、.ts）即可查看。</translation>
     </message>
     <message>
         <source>What you set cannot be kept: %1 cannot be written.</source>

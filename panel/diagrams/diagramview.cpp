@@ -10,6 +10,7 @@
 #include <controls/thememanager.h>
 #include <plot/markerselection.h>
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QVBoxLayout>
 
@@ -57,6 +58,7 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
         onLayout();
         fanOutNumbers();
     });
+    m_plot->installEventFilter(this);
     followModel();
     followMarkers();
 }
@@ -228,6 +230,9 @@ bool DiagramView::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_title && event->type() == QEvent::MouseButtonDblClick)
         Q_EMIT titleDoubleTapped();
+    // A plot draws itself at once when it is resized: what was to be drawn later is drawn with it.
+    if (watched == m_plot && event->type() == QEvent::Resize)
+        QCoreApplication::removePostedEvents(m_plot, QEvent::MetaCall);
     return QWidget::eventFilter(watched, event);
 }
 

@@ -26,9 +26,19 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(Panel::PanelKeys)
 };
 
+class MenuKey : public MenuButton
+{
+public:
+    explicit MenuKey(QWidget *parent)
+        : MenuButton(ListCreation::WhenOpened, parent)
+    {
+    }
+};
+
 MenuButton *addMenu(SoftKeyMenu *menu, const QString &name)
 {
-    auto *button = new MenuButton(name + QStringLiteral(" \u25be"), menu->begunPage());
+    auto *button = new MenuKey(menu->begunPage());
+    button->setText(name + QStringLiteral(" \u25be"));
     button->setAccessibleName(name);
     menu->addKey(button);
     return button;
@@ -112,8 +122,9 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.vswrLimit = menu->addKey(Text::tr("VSWR limit"));
 
     menu->addPage(Text::tr("Display"), Glyph::Display);
-    keys.layout = new DisplayPanel(model->viewSettings()->layoutProfile(), menu->begunPage());
-    menu->addWidget(keys.layout);
+    menu->addWidget([profile = model->viewSettings()->layoutProfile()](QWidget *page) {
+        return new DisplayPanel(profile, page);
+    });
     keys.grid = menu->addKey(Text::tr("Grid"));
     keys.density = menu->addKey(Text::tr("Density"));
     keys.gridLabels = menu->addKey(Text::tr("Labels"));

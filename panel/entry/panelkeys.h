@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-class DisplayPanel;
 class MenuButton;
 class SwitchButton;
 
@@ -56,8 +55,7 @@ struct PanelKeys {
     SoftKey *limitLines; ///< that the active trace must stay above or below
     SoftKey *vswrCircle; ///< a circle on the Smith charts, to read against
     SoftKey *vswrLimit; ///< an area that traces on the Smith charts must stay in
-    // Display
-    DisplayPanel *layout;
+    // Display, below the choice of the layout, which the library brings
     SoftKey *grid;
     SoftKey *density;
     SoftKey *gridLabels; ///< normalised, or in ohms and siemens

@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -32,6 +33,11 @@ constexpr int s_lowestTab = 44;
 constexpr int s_iconSide = 20;
 /// So much more room for the tabs than for what is below them.
 constexpr int s_tabStretch = 1000;
+/// In letters: what the widest page takes in any language, so that none makes the menu wider when it
+/// joins.
+constexpr int s_pageLetters = 28;
+/// In ms, from the menu's first showing: the first picture comes before.
+constexpr int s_joinDelay = 200;
 
 } // namespace
 
@@ -110,7 +116,7 @@ SoftKeyMenu::SoftKeyMenu(QWidget *parent)
     : QWidget(parent)
     , m_tabs(new QButtonGroup(this))
     , m_tabColumn(new QVBoxLayout)
-    , m_pages(new PageStack(this))
+    , m_stack(new PageStack(this))
 {
     setObjectName(QStringLiteral("softKeys"));
     setAttribute(Qt::WA_StyledBackground);
@@ -120,10 +126,14 @@ SoftKeyMenu::SoftKeyMenu(QWidget *parent)
     m_tabColumn->setSpacing(0);
     m_tabColumn->addStretch(1);
     row->addLayout(m_tabColumn);
-    row->addWidget(m_pages, 1);
+    row->addWidget(m_stack, 1);
+    m_stack->setMinimumWidth(fontMetrics().averageCharWidth() * s_pageLetters);
     connect(m_tabs, &QButtonGroup::idToggled, this, [this](int page, bool checked) {
-        if (checked)
-            m_pages->setCurrentIndex(page);
+        if (!checked)
+            return;
+        if (page > 0)
+            joinAll();
+        m_stack->setCurrentIndex(page);
     });
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
             [this] {
@@ -132,12 +142,20 @@ SoftKeyMenu::SoftKeyMenu(QWidget *parent)
             });
 }
 
+SoftKeyMenu::~SoftKeyMenu()
+{
+    for (const Page &page : qAsConst(m_pages)) {
+        if (!page.widget->parent())
+            delete page.widget;
+    }
+}
+
 /// On a low screen keys come closer, so that each is a finger high.
 void SoftKeyMenu::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     for (int page = 0; page < pageCount(); ++page)
-        setGap(m_pages->widget(page)->layout());
+        setGap(m_pages.at(page).widget->layout());
 }
 
 void SoftKeyMenu::setGap(QLayout *column) const
@@ -149,11 +167,14 @@ void SoftKeyMenu::setGap(QLayout *column) const
 
 void SoftKeyMenu::addPage(const QString &name, Glyph glyph)
 {
-    auto *page = new QWidget(m_pages);
+    const int index = pageCount();
+    auto *page = new QWidget(index == 0 ? m_stack : nullptr);
+    m_pages.append(Page{page, {}, {}});
     m_column = new QVBoxLayout(page);
     setGap(m_column);
     m_column->addStretch(1);
-    const int index = m_pages->addWidget(page);
+    if (index == 0)
+        m_stack->addWidget(page);
     auto *tab = new PageTab(name, this);
     // Above the stretch, which takes nothing before the tabs are as high as they like.
     m_tabColumn->insertWidget(index, tab, s_tabStretch);
@@ -180,19 +201,20 @@ SoftKey *SoftKeyMenu::addKey(const QString &name)
     // All are alike, and measuring one is not cheap.
     if (m_keyHeights.isEmpty())
         m_keyHeights = {key->minimumSizeHint().height(), key->sizeHint().height()};
-    appendKey(key, m_keyHeights.first());
+    appendKey(key);
     return key;
 }
 
 void SoftKeyMenu::addKey(QWidget *key)
 {
-    appendKey(key, qMax(m_keyHeights.value(0), key->minimumSizeHint().height()));
+    appendKey(key);
 }
 
-void SoftKeyMenu::appendKey(QWidget *key, int smallestHeight)
+void SoftKeyMenu::appendKey(QWidget *key)
 {
+    m_pages.last().keys.append(key);
     // All keys are equally high, whatever they hold: as a soft key likes it, or as there is room.
-    key->setMinimumHeight(smallestHeight);
+    key->setMinimumHeight(m_keyHeights.value(0));
     key->setMaximumHeight(m_keyHeights.value(1, QWIDGETSIZE_MAX));
     key->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     m_column->insertWidget(m_column->count() - 1, key, 1);
@@ -200,6 +222,33 @@ void SoftKeyMenu::appendKey(QWidget *key, int smallestHeight)
     const auto parts = key->findChildren<QWidget *>();
     for (QWidget *part : parts)
         part->installEventFilter(this);
+}
+
+void SoftKeyMenu::join(Page &page)
+{
+    if (page.widget->parent())
+        return;
+    m_stack->addWidget(page.widget);
+    for (const auto &make : qAsConst(page.toMake))
+        make();
+    for (QWidget *key : page.keys) {
+        if (!qobject_cast<SoftKey *>(key)) // measured once for all
+            key->setMinimumHeight(qMax(m_keyHeights.value(0), key->minimumSizeHint().height()));
+    }
+}
+
+void SoftKeyMenu::joinAll()
+{
+    for (Page &page : m_pages)
+        join(page);
+}
+
+void SoftKeyMenu::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    // Qt posts with every new widget that it is to be styled, shown or not. What is shown has been.
+    QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
+    QTimer::singleShot(s_joinDelay, this, &SoftKeyMenu::joinAll);
 }
 
 bool SoftKeyMenu::eventFilter(QObject *watched, QEvent *event)
@@ -212,19 +261,25 @@ bool SoftKeyMenu::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void SoftKeyMenu::addWidget(QWidget *widget)
+void SoftKeyMenu::addWidget(const std::function<QWidget *(QWidget *)> &make)
 {
-    m_column->insertWidget(m_column->count() - 1, widget);
+    const auto insert = [make, column = m_column, place = m_column->count() - 1] {
+        column->insertWidget(place, make(column->parentWidget()));
+    };
+    if (m_column->parentWidget()->parent())
+        insert();
+    else
+        m_pages.last().toMake.append(insert);
 }
 
 int SoftKeyMenu::page() const
 {
-    return m_pages->currentIndex();
+    return m_stack->currentIndex();
 }
 
 int SoftKeyMenu::pageCount() const
 {
-    return m_pages->count();
+    return int(m_pages.size());
 }
 
 void SoftKeyMenu::setPage(int page)
@@ -241,7 +296,7 @@ void SoftKeyMenu::turnPage(int step)
 void SoftKeyMenu::showKey(const QWidget *key)
 {
     for (int page = 0; page < pageCount(); ++page) {
-        if (m_pages->widget(page)->isAncestorOf(key))
+        if (m_pages.at(page).widget->isAncestorOf(key))
             setPage(page);
     }
 }

@@ -73,6 +73,11 @@ QPainterPath outline(Glyph glyph)
             path.addEllipse(QPointF(knob, y), 2, 2);
         }
         break;
+    case Glyph::Screenshot: // a camera
+        path.addRoundedRect(QRectF(3, 7, 18, 13), 2, 2);
+        addLine(path, {{8, 7}, {9.5, 4}, {14.5, 4}, {16, 7}});
+        path.addEllipse(QPointF(12, 13.5), 3.5, 3.5);
+        break;
     }
     return path;
 }

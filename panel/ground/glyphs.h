@@ -8,7 +8,7 @@
 namespace Panel
 {
 
-/// Small line drawings that stand for the pages of the soft keys.
+/// Small line drawings that stand for the pages of the soft keys, and for a key of the bar.
 enum class Glyph {
     Stimulus,
     Trace,
@@ -19,6 +19,7 @@ enum class Glyph {
     Display,
     Sweep,
     System,
+    Screenshot,
 };
 
 /// A glyph in two colours: while its button is off, and while it is on.

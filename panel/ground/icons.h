@@ -15,4 +15,7 @@ void registerIcons();
 /// themeChanged().
 QIcon icon(const char *name);
 
+/// The panel's sign, a small Smith chart, \a side pixels wide on a screen of a device pixel ratio.
+QPixmap mark(int side, const QColor &color, double ratio);
+
 } // namespace Panel

@@ -2,93 +2,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "soundoutput.h"
 
-#include <QBuffer>
-
-#if __has_include(<QAudioSink>)
-#include <QAudioDevice>
-#include <QAudioSink>
-#include <QMediaDevices>
-#else
-#include <QAudioOutput>
-#endif
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibrary>
 
 namespace Panel
 {
 
-namespace
-{
-
-#if __has_include(<QAudioSink>)
-using Device = QAudioDevice;
-using Stream = QAudioSink;
-
-Device defaultDevice()
-{
-    return QMediaDevices::defaultAudioOutput();
-}
-#else
-using Device = QAudioDeviceInfo;
-using Stream = QAudioOutput;
-
-Device defaultDevice()
-{
-    return QAudioDeviceInfo::defaultOutputDevice();
-}
-#endif
-
-QAudioFormat makeFormat()
-{
-    QAudioFormat format;
-    format.setSampleRate(SoundOutput::rate);
-    format.setChannelCount(2);
-#if __has_include(<QAudioSink>)
-    format.setSampleFormat(QAudioFormat::Int16);
-#else
-    format.setSampleSize(16);
-    format.setSampleType(QAudioFormat::SignedInt);
-    format.setByteOrder(QAudioFormat::Endian(QSysInfo::ByteOrder));
-    format.setCodec(QStringLiteral("audio/pcm"));
-#endif
-    return format;
-}
-
-class DeviceOutput : public SoundOutput
-{
-public:
-    explicit DeviceOutput(const Device &device)
-        : m_stream(device, makeFormat())
-    {
-    }
-    ~DeviceOutput() override { m_stream.stop(); }
-
-    void play(const QVector<qint16> &samples) override
-    {
-        stop();
-        m_samples.setData(reinterpret_cast<const char *>(samples.constData()),
-                          int(samples.size() * qsizetype(sizeof(qint16))));
-        m_samples.open(QIODevice::ReadOnly);
-        m_stream.start(&m_samples);
-    }
-    void stop() override
-    {
-        m_stream.stop();
-        m_samples.close();
-    }
-    bool isPlaying() const override { return m_stream.state() == QAudio::ActiveState; }
-
-private:
-    QBuffer m_samples;
-    Stream m_stream; ///< goes before what it reads
-};
-
-} // namespace
-
 std::unique_ptr<SoundOutput> makeSoundOutput()
 {
-    const Device device = defaultDevice();
-    if (device.isNull() || !device.isFormatSupported(makeFormat()))
-        return nullptr;
-    return std::make_unique<DeviceOutput>(device);
+    using Make = SoundOutput *(*)();
+    QLibrary module(
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("vnapanel-sound")));
+    const auto make = reinterpret_cast<Make>(module.resolve("vnapanelMakeSoundOutput"));
+    return std::unique_ptr<SoundOutput>(make ? make() : nullptr);
 }
 
 } // namespace Panel

@@ -31,7 +31,8 @@ private:
 
 using SoundOutputMaker = std::function<std::unique_ptr<SoundOutput>()>;
 
-/// The computer's own; null where it has none, or where the program was built without Qt Multimedia.
+/// The computer's own; null where it has none, or where the module "vnapanel-sound" does not lie
+/// beside the program, because it was built without Qt Multimedia.
 std::unique_ptr<SoundOutput> makeSoundOutput();
 
 } // namespace Panel

@@ -100,8 +100,7 @@ void PanelController::connectKeys()
 {
     const PanelKeys &keys = m_window->keys();
     connect(keys.file, &SoftKey::clicked, this, &PanelController::showFileDialog);
-    connect(m_window->emptyPageButton(), &QAbstractButton::clicked, this,
-            &PanelController::showFileDialog);
+    connect(m_window, &PanelWindow::openRequested, this, &PanelController::showFileDialog);
     connect(keys.settings, &SoftKey::clicked, this, &PanelController::showSettings);
     connect(keys.help, &SoftKey::clicked, this, &PanelController::showHelp);
     connect(keys.screenshot, &SoftKey::clicked, this, &PanelController::takeScreenshot);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panelwindow.h"
 
+#include "emptypage.h"
 #include "messagebar.h"
 #include "panellock.h"
 #include "sweepbar.h"
@@ -14,13 +15,13 @@
 #include <panel/entry/tracebar.h>
 #include <panel/files/samples.h>
 #include <panel/ground/elidedlabel.h>
+#include <panel/ground/glyphs.h>
 #include <panel/ground/icons.h>
 #include <panel/ground/look.h>
 #include <panel/ground/pagestack.h>
 #include <panel/model/panelmodel.h>
 
 #include <controls/thememanager.h>
-#include <widgets/displaypanel.h>
 #include <widgets/lockwidget.h>
 
 #include <QApplication>
@@ -28,9 +29,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMimeData>
-#include <QPainter>
-#include <QPainterPath>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -43,28 +41,6 @@ namespace
 
 /// In pixels, less what a window manager adds to the smallest screen, of 800 x 480.
 constexpr QSize s_smallestContent(640, 400);
-
-/// The panel's sign: a small Smith chart.
-QPixmap mark(int size, const QColor &color, double ratio)
-{
-    QPixmap pixmap(qRound(size * ratio), qRound(size * ratio));
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, qMax(1.2, size / 60.0)));
-    const double radius = size / 2.0 - 2.0;
-    painter.translate(size / 2.0, size / 2.0);
-    QPainterPath edge;
-    edge.addEllipse(QPointF(0.0, 0.0), radius, radius);
-    painter.drawPath(edge);
-    painter.setClipPath(edge);
-    painter.drawLine(QPointF(-radius, 0.0), QPointF(radius, 0.0));
-    painter.drawEllipse(QPointF(radius / 2.0, 0.0), radius / 2.0, radius / 2.0);
-    painter.drawEllipse(QPointF(radius, radius), radius, radius);
-    painter.drawEllipse(QPointF(radius, -radius), radius, radius);
-    return pixmap;
-}
 
 } // namespace
 
@@ -183,43 +159,18 @@ void PanelWindow::fillPages()
 {
     m_pages->setObjectName(QStringLiteral("diagrams"));
     m_pages->addWidget(m_diagrams);
-    m_pages->addWidget(makeEmptyPage());
-}
-
-QWidget *PanelWindow::makeEmptyPage()
-{
-    auto *page = new QWidget(m_pages);
-    page->setObjectName(QStringLiteral("emptyPage"));
-    page->setAttribute(Qt::WA_StyledBackground);
-    // While it is not on show, the diagrams may be lower than it is.
-    page->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
-    auto *column = new QVBoxLayout(page);
-    column->setSpacing(12);
-    column->addStretch();
-    m_emptyMark = new QLabel;
-    column->addWidget(m_emptyMark, 0, Qt::AlignHCenter);
-    auto *title = new QLabel(tr("No data"));
-    QFont large = title->font();
-    large.setPixelSize(QFontInfo(large).pixelSize() * 3 / 2);
-    title->setFont(large);
-    column->addWidget(title, 0, Qt::AlignHCenter);
-    auto *hint = new QLabel(tr("Open a Touchstone file (.s1p, .s2p, .ts) to see it."));
-    hint->setObjectName(QStringLiteral("dim"));
-    hint->setWordWrap(true);
-    hint->setAlignment(Qt::AlignHCenter);
-    column->addWidget(hint);
-    auto *button = new QPushButton(tr("Open file\u2026"));
-    button->setMinimumSize(160, 44);
-    m_emptyPageButton = button;
-    column->addWidget(button, 0, Qt::AlignHCenter);
-    column->addStretch();
-    return page;
 }
 
 void PanelWindow::showModel()
 {
     const QVector<Network> &networks = m_model->networks();
-    m_pages->setCurrentIndex(networks.isEmpty() ? 1 : 0);
+    if (networks.isEmpty() && !m_emptyPage && isVisible()) {
+        m_emptyPage = new EmptyPage(m_pages);
+        connect(m_emptyPage->openButton(), &QAbstractButton::clicked, this,
+                &PanelWindow::openRequested);
+        m_pages->addWidget(m_emptyPage);
+    }
+    m_pages->setCurrentIndex(networks.isEmpty() && m_emptyPage ? 1 : 0);
     const int files = int(networks.size());
     const QString name = files == 0 ? QString()
         : files == 1                ? networks.first().name
@@ -252,6 +203,7 @@ void PanelWindow::showLock()
 void PanelWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
+    showModel(); // which may be nothing
     // Else the first button would have it.
     DiagramView *view = m_diagrams->activeView();
     if (view && !focusWidget())
@@ -297,15 +249,11 @@ void PanelWindow::dropEvent(QDropEvent *event)
 
 void PanelWindow::recolor()
 {
-    const Look look = currentLook();
-    const double ratio = devicePixelRatioF();
-    m_mark->setPixmap(mark(24, look.text, ratio));
-    m_emptyMark->setPixmap(mark(120, look.border, ratio));
+    const QColor text = currentLook().text;
+    m_mark->setPixmap(mark(24, text, devicePixelRatioF()));
     m_themeButton->setIcon(icon("theme"));
-    const auto *theme = Controls::ThemeManager::instance();
-    m_screenshotButton->setIcon(theme->icon(5));
+    m_screenshotButton->setIcon(glyphIcon(Glyph::Screenshot, text, text));
     showLock();
-    m_keys.layout->updateThemeIcons(theme->isDarkTheme());
 }
 
 } // namespace Panel

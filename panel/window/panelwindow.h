@@ -23,6 +23,7 @@ class SmithView;
 class CartesianView;
 class Diagrams;
 class ElidedLabel;
+class EmptyPage;
 class SoftKeyMenu;
 class SweepBar;
 class TimingLine;
@@ -56,11 +57,13 @@ public:
     /// Checked while the panel is locked.
     QToolButton *lockButton() const { return m_lockButton; }
     PanelLock *lock() const { return m_lock; }
-    /// The button of the page that stands where there is nothing to show.
-    QAbstractButton *emptyPageButton() const { return m_emptyPageButton; }
+    /// What stands there without data; null where there always was some.
+    EmptyPage *emptyPage() const { return m_emptyPage; }
 
 Q_SIGNALS:
     void filesDropped(const QStringList &paths);
+    /// The user, who sees nothing, wants to open a file.
+    void openRequested();
 
 protected:
     bool event(QEvent *event) override;
@@ -73,7 +76,6 @@ protected:
 private:
     void fillTopBar();
     void fillPages();
-    QWidget *makeEmptyPage();
     QToolButton *addBarButton(QHBoxLayout *row, const QString &name);
     void showModel();
     void showLock();
@@ -94,11 +96,10 @@ private:
     PanelLock *m_lock;
     QLabel *m_mark;
     ElidedLabel *m_fileName;
-    QLabel *m_emptyMark;
     QToolButton *m_themeButton;
     QToolButton *m_screenshotButton;
     QToolButton *m_lockButton;
-    QAbstractButton *m_emptyPageButton;
+    EmptyPage *m_emptyPage = nullptr; ///< once there was nothing to show
 };
 
 } // namespace Panel

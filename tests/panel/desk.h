@@ -20,7 +20,10 @@
 #include <panel/window/panelcontroller.h>
 #include <panel/window/panelwindow.h>
 #include <plot/qcp.h>
+#include <widgets/displaypanel.h>
 #include <widgets/switchbutton.h>
+
+#include <QComboBox>
 
 /// The panel as main() makes it, on screen with a sample of 2.3 to 2.6 GHz, and a finger to tap it.
 /// What must hold of its diagrams is checked as it goes.
@@ -84,6 +87,11 @@ struct PanelDesk {
     QCustomPlot *plot() const { return view()->plot(); }
     const Panel::PanelKeys &keys() const { return window.keys(); }
     Panel::MessageBar *bar() const { return window.messageBar(); }
+    QComboBox *layoutChoice() const
+    {
+        window.softKeys()->showKey(keys().grid); // on its page, which may only now join the window
+        return window.findChild<DisplayPanel *>()->findChild<QComboBox *>();
+    }
 
     /// Also lets a closed dialog go.
     static void settle()
@@ -120,10 +128,8 @@ struct PanelDesk {
     /// Taps a widget; a key is looked up on its page first.
     void click(const QWidget *widget)
     {
-        if (window.softKeys()->isAncestorOf(widget)) {
-            window.softKeys()->showKey(widget);
-            settle();
-        }
+        window.softKeys()->showKey(widget);
+        settle();
         VnaTest::mouseClick(widget);
         settle();
     }

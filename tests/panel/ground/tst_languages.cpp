@@ -56,14 +56,18 @@ private Q_SLOTS:
             desk.openSamples({"amplifier.s2p"_s, "band-pass.s2p"_s});
             desk.model.setActiveTrace(3);
             const PanelKeys &keys = desk.keys();
+            const int width = desk.window.softKeys()->width();
             const QStringList shown{keys.center->name(),
                                     keys.format->value().section(QLatin1Char(' '), 0, 0),
-                                    keys.layout->findChild<QComboBox *>()->currentText(),
+                                    desk.layoutChoice()->currentText(),
                                     sourceName(Source::Antenna),
                                     keys.file->value(),
                                     captions(desk),
                                     parseTouchstone("", 1).sentence("x.s1p"_s)};
             QCOMPARE(shown.join(QLatin1Char('|')), texts);
+            // The other pages have joined the window by now, and moved no diagram.
+            PanelDesk::settle();
+            QCOMPARE(desk.window.softKeys()->width(), width);
         }
     }
 

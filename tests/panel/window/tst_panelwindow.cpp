@@ -7,6 +7,7 @@
 #include <panel/diagrams/readouts.h>
 #include <panel/entry/tracebar.h>
 #include <panel/ground/languages.h>
+#include <panel/window/emptypage.h>
 #include <panel/window/exports.h>
 #include <panel/window/filedialog.h>
 #include <panel/window/timingline.h>
@@ -259,9 +260,9 @@ private Q_SLOTS:
         ChartDesk desk;
         desk.show({});
         QVERIFY(!desk.view()->isVisible());
-        QVERIFY(desk.window.emptyPageButton()->isVisible());
+        QVERIFY(desk.window.emptyPage()->openButton()->isVisible());
         QVERIFY(!desk.keys().grid->isEnabled());
-        desk.click(desk.window.emptyPageButton());
+        desk.click(desk.window.emptyPage()->openButton());
         QPointer<FileDialog> dialog = desk.window.findChild<FileDialog *>();
         QVERIFY(dialog);
         dialog->reject();

@@ -195,7 +195,7 @@ private Q_SLOTS:
         for (const Trace &trace : desk.model.traces())
             QCOMPARE(desk.index(trace.id, 1), 11.0);
 
-        const auto *layout = desk.keys().layout->findChild<QComboBox *>();
+        const QComboBox *layout = desk.layoutChoice();
         desk.window.softKeys()->showKey(layout);
         mouseClick(layout);
         Desk::settle();
