@@ -19,7 +19,7 @@ constexpr double s_room = 50.0;
 /// Fine rays end towards the centre where they are so near to each other.
 constexpr double s_nearest = 24.0;
 /// Between a label and its line.
-constexpr double s_gap = 4.0;
+constexpr double s_labelGap = 4.0;
 
 /// A division in equal parts at round values.
 double circleStep(int divisions, double radius)
@@ -71,7 +71,7 @@ double reachOf(const QSizeF &label, double degrees)
 {
     const double angle = qDegreesToRadians(degrees);
     return std::abs(std::cos(angle)) * label.width() / 2.0
-        + std::abs(std::sin(angle)) * label.height() / 2.0 + s_gap;
+        + std::abs(std::sin(angle)) * label.height() / 2.0 + s_labelGap;
 }
 
 double degreesOf(const QPointF &point, const QPointF &from)
@@ -144,7 +144,8 @@ PolarLines polarLines(const PolarPlace &place, int divisions, const QSizeF &labe
             break;
         QPointF middle = place.at(share, direction);
         if (besideCentre)
-            middle += QPointF(-label.width() / 2.0 - s_gap, label.height() / 2.0 + s_gap / 2.0);
+            middle +=
+                QPointF(-label.width() / 2.0 - s_labelGap, label.height() / 2.0 + s_labelGap / 2.0);
         lines.circles.append({share, seen, middle, i % labelEvery == 0 && inner.contains(middle)});
     }
 

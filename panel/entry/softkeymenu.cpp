@@ -24,8 +24,8 @@ namespace
 {
 
 /// Between keys, in pixels, and from which height of the menu on there is room for the large one.
-constexpr int s_gap = 6;
-constexpr int s_smallGap = 3;
+constexpr int s_keyGap = 6;
+constexpr int s_smallKeyGap = 3;
 constexpr int s_highScreen = 560;
 /// In pixels: a finger's width and height, and what a caption of ten letters takes.
 constexpr int s_tabWidth = 68;
@@ -160,7 +160,7 @@ void SoftKeyMenu::resizeEvent(QResizeEvent *event)
 
 void SoftKeyMenu::setGap(QLayout *column) const
 {
-    const int gap = height() < s_highScreen ? s_smallGap : s_gap;
+    const int gap = height() < s_highScreen ? s_smallKeyGap : s_keyGap;
     column->setContentsMargins(0, gap, 0, gap);
     column->setSpacing(gap);
 }
