@@ -124,7 +124,7 @@ void MarkerReading::add(double number, const QString &text)
 
 QString markerName(const PanelModel &model, const Marker &marker)
 {
-    const QString name =
+    QString name =
         QStringLiteral("M%1").arg(marker.number) + QLatin1String(marker.isFixed() ? "F" : "");
     const Marker *reference = model.referenceMarker(marker.trace);
     if (!reference)
