@@ -34,7 +34,11 @@ public:
     /// The model must outlive it.
     explicit History(PanelModel *model, QObject *parent = nullptr);
 
-    bool canUndo() const { return m_current > 0 || m_timer.isActive(); }
+    /// False while what a source begins with is still coming: there is nothing before it.
+    bool canUndo() const
+    {
+        return m_current > 0 || (m_timer.isActive() && !m_steps.isEmpty());
+    }
     bool canRedo() const { return m_current + 1 < m_steps.size() && !m_timer.isActive(); }
 
 public Q_SLOTS:
