@@ -6,6 +6,7 @@
 #include <panel/diagrams/diagrams.h>
 #include <panel/diagrams/diagramview.h>
 #include <panel/files/samples.h>
+#include <panel/files/viewstate.h>
 #include <panel/ground/look.h>
 #include <panel/model/panelmodel.h>
 #include <panel/source/simulateddevice.h>
@@ -18,6 +19,7 @@
 #include <QProcess>
 
 #include <chrono>
+#include <functional>
 
 namespace Bench
 {
@@ -101,6 +103,79 @@ void sameReplot(benchmark::State &state, int points)
             view->plot()->replot(QCustomPlot::rpQueuedReplot);
         QApplication::processEvents();
     }
+}
+
+namespace
+{
+
+/// Times the way to what is asked for; the way back, and what plots need at first, do not count.
+void timeSwitch(benchmark::State &state, const std::function<void(bool there)> &change)
+{
+    const auto show = [&](bool there) {
+        change(there);
+        LivePanel::settle();
+    };
+    show(true);
+    show(false);
+    for (auto _ : state) {
+        show(true);
+        state.PauseTiming();
+        show(false);
+        state.ResumeTiming();
+    }
+}
+
+} // namespace
+
+void switchFormat(benchmark::State &state, int points, Panel::TraceFormat format)
+{
+    setUpOnce();
+    LivePanel panel(points);
+    const Panel::Trace trace = panel.model.traces().last();
+    timeSwitch(state, [&](bool there) {
+        panel.model.setTraceFormat(trace.id, there ? format : trace.format);
+    });
+}
+
+void switchLimit(benchmark::State &state, int points)
+{
+    setUpOnce();
+    LivePanel panel(points);
+    const Panel::Trace trace = panel.model.traces().last();
+    Panel::LimitLine limit;
+    limit.format = trace.format;
+    limit.start = panel.frames[0].frequencies.constFirst();
+    limit.stop = panel.frames[0].frequencies.constLast();
+    limit.startValue = limit.stopValue = -20.0;
+    timeSwitch(state, [&](bool there) {
+        panel.model.setLimits(trace.id, there ? QVector<Panel::LimitLine>{limit} : trace.limits);
+    });
+}
+
+void switchSetup(benchmark::State &state, int points)
+{
+    using Panel::TraceFormat;
+    setUpOnce();
+    LivePanel panel(points);
+    const QVector<Panel::Trace> traces = panel.model.traces();
+    const QVector<double> &frequencies = panel.frames[0].frequencies;
+    const QJsonObject before = Panel::viewState(panel.model);
+    const TraceFormat formats[] = {TraceFormat::Phase, TraceFormat::Vswr, TraceFormat::Smith,
+                                   TraceFormat::Polar};
+    for (int i = 0; i < traces.size(); ++i) {
+        panel.model.setTraceFormat(traces.at(i).id, formats[i % 4]);
+        panel.model.fitTrace(traces.at(i).id);
+    }
+    Panel::LimitLine limit;
+    limit.format = formats[0];
+    limit.start = frequencies.at(points / 4);
+    limit.stop = frequencies.at(points / 2);
+    limit.startValue = limit.stopValue = 90.0;
+    panel.model.setLimits(traces.first().id, {limit});
+    panel.model.setStimulus(traces.first(), {limit.start, limit.stop});
+    const QJsonObject setup = Panel::viewState(panel.model);
+    timeSwitch(state,
+               [&](bool there) { Panel::restoreViewState(&panel.model, there ? setup : before); });
 }
 
 void changeTheme(benchmark::State &state)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <panel/model/traceformat.h>
+
 #include <QStringList>
 
 #include <benchmark/benchmark.h>
@@ -13,6 +15,15 @@ namespace Bench
 /// A new measurement of a filter with so many points: four traces, with markers and read-outs,
 /// until they are painted.
 void liveFrame(benchmark::State &state, int points);
+
+/// \name A change to one of four traces of so many points each, until it is painted
+///@{
+void switchFormat(benchmark::State &state, int points, Panel::TraceFormat format);
+/// A limit line over all frequencies.
+void switchLimit(benchmark::State &state, int points);
+/// A set-up: the formats of all four, a scale, a limit, and a part of the frequencies.
+void switchSetup(benchmark::State &state, int points);
+///@}
 
 /// The same plots with the same data, drawn once more and no more than that.
 void sameReplot(benchmark::State &state, int points);

@@ -33,6 +33,27 @@ void addPanelRows(RatioTable &table)
                   "live frame, 1000001",
                   {"live frame, 1601"}});
 
+    // Of each kind of format one: extremes of columns, values of all points, and other diagrams.
+    using Panel::TraceFormat;
+    const std::pair<TraceFormat, const char *> formats[] = {
+        {TraceFormat::Phase, "phase"},
+        {TraceFormat::UnwrappedPhase, "unwrapped phase"},
+        {TraceFormat::GroupDelay, "group delay"},
+        {TraceFormat::Reactance, "reactance"},
+        {TraceFormat::Smith, "Smith chart"},
+        {TraceFormat::Polar, "polar"},
+    };
+    const auto addSwitch = [&table](const std::string &name, auto run) {
+        add(name, run);
+        table.addRow({"panel: 4 traces, " + name, million, Row::Milliseconds, 50.0, name, {}});
+    };
+    for (const auto &[format, name] : formats)
+        addSwitch(std::string("to ") + name, [format = format](benchmark::State &state) {
+            switchFormat(state, million, format);
+        });
+    addSwitch("a limit", [](benchmark::State &state) { switchLimit(state, million); });
+    addSwitch("a set-up", [](benchmark::State &state) { switchSetup(state, million); });
+
     add("theme", changeTheme);
     add("style sheet", changeSheet);
     table.addRow({"panel: change of theme, to one style sheet",

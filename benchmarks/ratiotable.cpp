@@ -55,6 +55,9 @@ std::string target(const RatioTable::Row &row)
     case RatioTable::Row::Frame:
         std::snprintf(text, sizeof text, "< %g ms", row.target);
         break;
+    case RatioTable::Row::Milliseconds:
+        std::snprintf(text, sizeof text, "<= %g ms", row.target);
+        break;
     case RatioTable::Row::BytesAPoint:
         std::snprintf(text, sizeof text, "<= %g B/point", row.target);
         break;
@@ -133,6 +136,9 @@ std::vector<RatioTable::Outcome> RatioTable::outcomes() const
             outcomes.push_back({&row, ours->milliseconds,
                                 ours->milliseconds < row.target || fastest >= row.target});
             break;
+        case Row::Milliseconds:
+            outcomes.push_back({&row, ours->milliseconds, ours->milliseconds <= row.target});
+            break;
         case Row::BytesAPoint:
         case Row::Mebibytes: {
             const bool ofPoint = row.kind == Row::BytesAPoint;
@@ -161,10 +167,10 @@ void RatioTable::print() const
             times += text;
         }
         std::snprintf(text, sizeof text, "%.4g %s", outcome.value,
-                      row.kind == Row::Frame             ? "ms"
-                          : timed                        ? "x"
-                          : row.kind == Row::BytesAPoint ? "B/point"
-                                                         : "MiB");
+                      row.kind == Row::Frame || row.kind == Row::Milliseconds ? "ms"
+                          : timed                                             ? "x"
+                          : row.kind == Row::BytesAPoint                      ? "B/point"
+                                                                              : "MiB");
         const std::string points = row.points ? std::to_string(row.points) : std::string();
         std::printf("%-42s %10s  %-36s %14s %15s  %s\n", row.work.c_str(), points.c_str(),
                     times.c_str(), text, target(row).c_str(), outcome.reached ? "yes" : "no");

@@ -26,6 +26,7 @@ public:
             ShareOfTime, ///< ours over the fastest of the others must be at most \c target
             ShareOfRest, ///< the same, less what \c base and \c otherBase take
             Frame, ///< ours must be below \c target milliseconds wherever the fastest other is
+            Milliseconds, ///< ours must be at most \c target milliseconds
             BytesAPoint, ///< the counter "bytes_a_point" of ours must be at most \c target
             Mebibytes, ///< the same with the counter "mebibytes"
         };

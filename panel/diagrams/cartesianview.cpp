@@ -37,13 +37,14 @@ CartesianView::CartesianView(const PanelModel *model, const DiagramId &id, QWidg
     connect(m_fitButton, &QPushButton::clicked, this,
             [this] { Q_EMIT fitRequested(m_fitButton->trace()); });
     connect(m_model, &PanelModel::limitsChanged, this, [this](int traceId) {
-        if (m_lines.count(traceId) > 0)
-            fillLine(*m_model->trace(traceId));
+        if (!follows(traceId))
+            return;
+        fillLine(*m_model->trace(traceId));
         placeReadOuts();
         replotLater();
     });
     connect(m_model, &PanelModel::traceScaleChanged, this, [this](int traceId) {
-        if (m_lines.count(traceId) == 0)
+        if (!follows(traceId))
             return;
         showScale(traceId);
         showWrittenScale();
@@ -109,7 +110,7 @@ void CartesianView::loadTraces()
     fitFrequencies();
     for (const Trace &trace : traces()) {
         showScale(trace.id);
-        showMemory(trace);
+        addMemory(trace);
     }
     fillLines();
     showActiveTrace();
@@ -175,6 +176,14 @@ void CartesianView::fillLine(const Trace &trace)
 
 void CartesianView::showMemory(const Trace &trace)
 {
+    addMemory(trace);
+    fillLine(trace);
+    replotLater();
+}
+
+/// Gives a trace a line for its memory, or none, as it is set; the line is empty.
+void CartesianView::addMemory(const Trace &trace)
+{
     Line &line = m_lines.at(trace.id);
     const bool stored = m_model->drawnMemory(trace).has_value();
     if (!stored && line.memory) {
@@ -187,8 +196,6 @@ void CartesianView::showMemory(const Trace &trace)
         showPens();
         line.memory->setVisible(trace.visible);
     }
-    fillLine(trace);
-    replotLater();
 }
 
 /// Takes in all frequencies of the traces; true if there are others to show than before.

@@ -72,6 +72,7 @@ private:
     double nearestIndex(int traceId, const QPointF &position) const;
     void clearLines();
     void addLine(const Trace &trace);
+    void addMemory(const Trace &trace);
     void fillLine(const Trace &trace);
     void fillLines();
     bool fitFrequencies();

@@ -71,12 +71,12 @@ Diagrams::Diagrams(PanelModel *model, QWidget *parent)
     m_grid->setSpacing(0);
     view({DiagramKind::Smith, 0});
     view({DiagramKind::Cartesian, 0});
-    connect(m_model, &PanelModel::tracesChanged, this, [this] { arrange(true); });
-    connect(m_model, &PanelModel::activeTraceChanged, this, [this] { arrange(false); });
-    connect(m_model->viewSettings(), &ViewSettings::changed, this, [this] { arrange(false); });
+    for (const auto signal : {&PanelModel::tracesChanged, &PanelModel::activeTraceChanged})
+        connect(m_model, signal, this, &Diagrams::arrange);
+    connect(m_model->viewSettings(), &ViewSettings::changed, this, &Diagrams::arrange);
     connect(Controls::ThemeManager::instance(), &Controls::ThemeManager::themeChanged, this,
             &Diagrams::recolor);
-    arrange(true);
+    arrange();
 }
 
 QVector<DiagramView *> Diagrams::allViews() const
@@ -156,18 +156,19 @@ bool Diagrams::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void Diagrams::arrange(bool reload)
+void Diagrams::arrange()
 {
+    if (m_model->isChanging())
+        return;
     const QVector<PlannedDiagram> planned = m_model->diagrams();
     QVector<DiagramView *> shown;
     for (const PlannedDiagram &diagram : planned) {
         DiagramView *view = this->view(diagram.id);
-        if (reload || view->traceIds() != diagram.traces)
-            view->setTraces(diagram.traces);
+        view->setTraces(diagram.traces);
         shown.append(view);
     }
     for (DiagramView *view : allViews()) {
-        if (!shown.contains(view) && (reload || !view->traceIds().isEmpty()))
+        if (!shown.contains(view))
             view->setTraces({});
     }
     place(shown);

@@ -55,7 +55,7 @@ protected:
 
 private:
     DiagramView *view(const DiagramId &id);
-    void arrange(bool reload);
+    void arrange();
     void place(const QVector<DiagramView *> &views);
     void recolor();
     void tellPointer(const DiagramView *view, const QMouseEvent *event);

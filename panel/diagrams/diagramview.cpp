@@ -65,7 +65,7 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
 
 void DiagramView::followModel()
 {
-    connect(m_model, &PanelModel::stimulusChanged, this, [this] { loadTraces(); });
+    connect(m_model, &PanelModel::stimulusChanged, this, &DiagramView::reload);
     connect(m_model, &PanelModel::networkUpdated, this, [this](int network) {
         // A diagram that nobody sees catches up when it is shown.
         m_stale = !isVisible() || window()->isMinimized();
@@ -74,6 +74,7 @@ void DiagramView::followModel()
         QElapsedTimer timer;
         timer.start();
         updateTraces(network);
+        m_loaded = revisions();
         m_dataMilliseconds = double(timer.nsecsElapsed()) / 1e6;
     });
     connect(m_model, &PanelModel::activeTraceChanged, this, [this] {
@@ -82,12 +83,12 @@ void DiagramView::followModel()
     });
     connect(m_model, &PanelModel::traceScaleChanged, this, &DiagramView::updateTitle);
     connect(m_model, &PanelModel::traceVisibleChanged, this, [this](int id) {
-        if (m_traceIds.contains(id) && m_model->trace(id))
+        if (follows(id))
             setTraceVisible(*m_model->trace(id));
         updateTitle();
     });
     connect(m_model, &PanelModel::memoryChanged, this, [this](int id) {
-        if (m_traceIds.contains(id) && m_model->trace(id))
+        if (follows(id))
             showMemory(*m_model->trace(id));
     });
     connect(m_model, &PanelModel::zoomChanged, this, [this](const DiagramId &changed) {
@@ -104,7 +105,7 @@ void DiagramView::followMarkers()
 {
     const auto place = [this](int traceId, int number) {
         const Marker *marker = m_model->marker(traceId, number);
-        if (m_traceIds.contains(traceId) && marker)
+        if (follows(traceId) && marker)
             placeMarker(*m_model->trace(traceId), *marker);
     };
     connect(m_model, &PanelModel::markerAdded, this, place);
@@ -122,10 +123,38 @@ void DiagramView::followMarkers()
 
 void DiagramView::setTraces(const QVector<int> &ids)
 {
+    if (ids != m_traceIds)
+        m_loaded.reset();
     m_traceIds = ids;
+    reload();
+}
+
+/// Loads the traces if they have changed since they were loaded.
+void DiagramView::reload()
+{
+    if (m_model->isChanging())
+        return;
+    const QVector<TraceRevision> current = revisions();
+    if (m_loaded == current)
+        return;
+    m_loaded = current;
     loadTraces();
-    m_readOuts->setTraces(ids);
+    m_readOuts->setTraces(m_traceIds);
     updateTitle();
+}
+
+bool DiagramView::follows(int traceId) const
+{
+    return m_traceIds.contains(traceId) && m_model->trace(traceId)
+        && !(m_model->isChanging() && m_loaded != revisions());
+}
+
+QVector<TraceRevision> DiagramView::revisions() const
+{
+    QVector<TraceRevision> result;
+    for (const Trace &trace : traces())
+        result.append(m_model->revision(trace));
+    return result;
 }
 
 QVector<Trace> DiagramView::traces() const
@@ -330,7 +359,7 @@ void DiagramView::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     if (m_stale)
-        loadTraces();
+        reload();
     m_stale = false;
 }
 

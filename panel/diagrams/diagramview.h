@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QBoxLayout;
 class QCustomPlot;
 
@@ -55,6 +57,7 @@ public:
 
     /// The ids of the traces on show, which must be traces for this kind of diagram.
     QVector<int> traceIds() const { return m_traceIds; }
+    /// Loads what they show, unless it is on show already.
     void setTraces(const QVector<int> &ids);
     /// The one of them that is active or was last, or null.
     const Trace *activeTrace() const { return m_model->activeTrace(m_traceIds); }
@@ -121,6 +124,9 @@ protected:
 
     /// The traces on show.
     QVector<Trace> traces() const;
+    /// Whether a change of a trace is to be shown now: it is among those on show, and they are not
+    /// to be loaded anyway.
+    bool follows(int traceId) const;
     /// Whether the pointer may act on a trace.
     bool reaches(const Trace &trace) const;
     /// Places all markers of a trace.
@@ -140,6 +146,8 @@ protected:
 private:
     void followModel();
     void followMarkers();
+    void reload();
+    QVector<TraceRevision> revisions() const;
     Hit hitMarker(const QPointF &position) const;
     void fanOutNumbers();
     QStringList processingTexts() const;
@@ -150,6 +158,7 @@ private:
     QCustomPlot *m_plot;
     QBoxLayout *m_body; ///< of read-outs and plot
     QVector<int> m_traceIds;
+    std::optional<QVector<TraceRevision>> m_loaded; ///< none before the first load
     double m_dataMilliseconds = 0.0;
     bool m_stale = false; ///< data came while the view was hidden
 };

@@ -30,7 +30,7 @@ PolarView::PolarView(const PanelModel *model, const DiagramId &id, QWidget *pare
     loadTraces();
     recolor();
     connect(m_model, &PanelModel::traceScaleChanged, this, [this](int traceId) {
-        if (!traceIds().contains(traceId))
+        if (!follows(traceId))
             return;
         updateTraces(m_model->trace(traceId)->network);
         if (m_model->drawnMemory(*m_model->trace(traceId)))

@@ -390,6 +390,7 @@ void restoreNetworks(PanelModel *model, const QJsonObject &state, const Memories
 
 void restoreViewState(PanelModel *model, const QJsonObject &state)
 {
+    const TraceChanges changes(model);
     restoreViewSettings(model->viewSettings(), state);
     restoreNetworks(model, state);
 }

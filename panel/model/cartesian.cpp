@@ -3,6 +3,7 @@
 #include "cartesian.h"
 
 #include "tracemath.h"
+#include "valueorder.h"
 
 #include <smithchart/columnextremes.h>
 
@@ -95,35 +96,6 @@ double groupDelay(const TraceData &data, int index)
     return step > 0.0 ? -turned / (2.0 * s_pi * step) * 1e9 : qQNaN();
 }
 
-/// How many whole turns a step adds to the phase: it passes the negative real axis, or it does not.
-int turnsOfStep(const Complex &from, const Complex &to)
-{
-    const double turned = to.imag() * from.real() - to.real() * from.imag();
-    // As atan2() has it, for which -0 lies below the axis.
-    const bool below = std::signbit(from.imag()), nowBelow = std::signbit(to.imag());
-    if (below == nowBelow)
-        return 0;
-    return nowBelow ? (turned > 0.0 ? 1 : 0) : (turned < 0.0 ? -1 : 0);
-}
-
-/// Whole turns from the first point to each one; a point without a value keeps those before it.
-QVector<int> turns(const TraceData &data, int count)
-{
-    QVector<int> result(count);
-    Complex last(qQNaN(), qQNaN());
-    int sum = 0;
-    for (int i = 0; i < count; ++i) {
-        const Complex here = data.at(i);
-        if (!std::isnan(here.real()) && !std::isnan(here.imag())) {
-            if (!std::isnan(last.real()))
-                sum += turnsOfStep(last, here);
-            last = here;
-        }
-        result[i] = sum;
-    }
-    return result;
-}
-
 /// How the values of a format come about: one row for each, in the order of TraceFormat.
 struct Formula {
     enum Order {
@@ -134,22 +106,24 @@ struct Formula {
     Order order;
     double (*ofPoint)(const Complex &s, const Complex &reference);
     double (*amongNeighbours)(const TraceData &data, int index);
+    /// Of a format of its own, cheaper than all values; null if nothing is.
+    QVector<double> (*valueOrder)(const TraceData &data);
 };
 
 constexpr std::array<Formula, traceFormatCount> s_formulas{{
-    {Formula::Magnitude, magnitude, nullptr},
-    {Formula::Magnitude, decibels, nullptr},
-    {Formula::Phase, phase, nullptr},
-    {Formula::Magnitude, vswr, nullptr},
-    {Formula::Magnitude, magnitude, nullptr},
-    {Formula::OfItsOwn, realPart, nullptr},
-    {Formula::OfItsOwn, imaginaryPart, nullptr},
-    {Formula::OfItsOwn, phase, nullptr}, // and whole turns
-    {Formula::OfItsOwn, nullptr, groupDelay},
-    {Formula::OfItsOwn, resistance, nullptr},
-    {Formula::OfItsOwn, reactance, nullptr},
-    {Formula::OfItsOwn, quality, nullptr},
-    {Formula::Magnitude, magnitude, nullptr},
+    {Formula::Magnitude, magnitude, nullptr, nullptr},
+    {Formula::Magnitude, decibels, nullptr, nullptr},
+    {Formula::Phase, phase, nullptr, nullptr},
+    {Formula::Magnitude, vswr, nullptr, nullptr},
+    {Formula::Magnitude, magnitude, nullptr, nullptr},
+    {Formula::OfItsOwn, realPart, nullptr, realOrder},
+    {Formula::OfItsOwn, imaginaryPart, nullptr, imaginaryOrder},
+    {Formula::OfItsOwn, phase, nullptr, unwrappedOrder}, // and whole turns
+    {Formula::OfItsOwn, nullptr, groupDelay, delayOrder},
+    {Formula::OfItsOwn, resistance, nullptr, resistanceOrder},
+    {Formula::OfItsOwn, reactance, nullptr, reactanceOrder},
+    {Formula::OfItsOwn, quality, nullptr, qualityOrder},
+    {Formula::Magnitude, magnitude, nullptr, nullptr},
 }};
 
 /// Whether values are angles that go on beyond a turn, or begin anew there.
@@ -333,13 +307,29 @@ CartesianLine cartesianLine(const TraceData &data, TraceFormat format, int colum
     const Stretch all{first, count, qMax(1, columns)};
     const Formula &row = formula(format);
 
-    // Where each value is needed, all are computed; else those of the points that are kept.
-    const bool dense = all.isDense();
-    QVector<double> values;
+    // An average needs the values of all points; else those that are kept get one.
     const bool averaged = data.averagedPoints > 1;
+    const QVector<double> averages = averaged ? formatValues(data, format) : QVector<double>();
     const bool unordered = averaged || row.order == Formula::OfItsOwn;
-    if (averaged || format == TraceFormat::UnwrappedPhase || (dense && unordered))
-        values = formatValues(data, format);
+    QVector<double> order;
+    if (all.isDense() && unordered)
+        order = averaged     ? averages
+            : row.valueOrder ? row.valueOrder(data)
+                             : formatValues(data, format);
+    const QVector<int> whole = format == TraceFormat::UnwrappedPhase && order.isEmpty()
+        ? turns(data, data.points())
+        : QVector<int>();
+    const auto valueOf = [&](int index) {
+        if (averaged)
+            return averages.at(index);
+        const double value = valueOfPoint(data, index, format);
+        if (format != TraceFormat::UnwrappedPhase)
+            return value;
+        return value
+            + 360.0
+            * (order.isEmpty() ? whole.at(index)
+                               : std::round((order.at(index) * s_degrees - value) / 360.0));
+    };
     QVector<int> kept;
     for (const Stretch &part : stretches(data.frequencies, all, from, to, scale)) {
         if (!part.isDense()) {
@@ -347,7 +337,7 @@ CartesianLine cartesianLine(const TraceData &data, TraceFormat format, int colum
             kept.resize(before + qMax(0, part.count));
             std::iota(kept.begin() + before, kept.end(), part.first);
         } else if (unordered) {
-            kept += extremesOf(values, part.first, part.count, part.columns);
+            kept += extremesOf(order, part.first, part.count, part.columns);
         } else {
             kept += SmithRender::columnExtremes(
                 data.parameter.real, data.parameter.imag, part.first, part.count, part.columns,
@@ -361,8 +351,7 @@ CartesianLine cartesianLine(const TraceData &data, TraceFormat format, int colum
     line.values.reserve(kept.size());
     int before = -1;
     for (const int index : qAsConst(kept)) {
-        const double value =
-            values.isEmpty() ? valueOfPoint(data, index, format) : values.at(index);
+        const double value = valueOf(index);
         if (row.order == Formula::Phase && before >= 0 && index == before + 1
             && std::abs(value - line.values.constLast()) > 180.0) {
             line.frequencies.append((data.frequencies.at(index) + data.frequencies.at(before))

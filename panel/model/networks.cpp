@@ -58,8 +58,8 @@ Stimulus Networks::shownRange(int index) const
 
 void Networks::replace(const QVector<Network> &networks)
 {
-    ++m_revision;
     m_all = networks;
+    m_revisions.fill(++m_revision, count());
     m_shown = networks;
     m_corrections.fill(Correction(), count());
     m_stimuli.clear();
@@ -108,7 +108,7 @@ bool Networks::setCorrection(int index, const Correction &correction)
 /// Cuts out of a network what its stimulus leaves, and corrects it.
 void Networks::cutOut(int index)
 {
-    ++m_revision;
+    m_revisions[index] = ++m_revision;
     const auto [from, to] = shownPoints(m_all.at(index).frequencies, m_stimuli.at(index));
     m_shown[index] = corrected(part(m_all.at(index), from, to), m_corrections.at(index));
 }

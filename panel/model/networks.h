@@ -24,8 +24,8 @@ public:
     /// The frequencies that the whole network has.
     Stimulus limits(int index) const;
 
-    /// Another number whenever something else is on show.
-    quint64 revision() const { return m_revision; }
+    /// Another number whenever something else of a network is on show.
+    quint64 revision(int index) const { return m_revisions.at(index); }
     const Correction &correction(int index) const { return m_corrections.at(index); }
 
     /// All of each network is on show, and nothing is done to any.
@@ -46,7 +46,8 @@ private:
     QVector<Network> m_shown;
     QVector<Stimulus> m_stimuli;
     QVector<Correction> m_corrections;
-    quint64 m_revision = 0;
+    QVector<quint64> m_revisions;
+    quint64 m_revision = 0; ///< that of the network that changed last
 };
 
 } // namespace Panel

@@ -19,6 +19,9 @@
 namespace Panel
 {
 
+/// The id of a trace, and numbers of what it shows: equal ones show the same.
+using TraceRevision = std::tuple<int, quint64, quint64>;
+
 /*! What the panel shows: the one door to networks, traces, markers, zooms and the source.
 
     Each value has one home behind this door: the part on show in Networks, what is drawn in Traces,
@@ -49,6 +52,14 @@ public:
     /// What the trace draws and its markers read: with its memory and smoothed, as it is set. There
     /// are as many points as in its network.
     TraceData traceData(const Trace &trace) const;
+    /// Whether many changes are under way, after which tracesChanged() comes: see TraceChanges.
+    bool isChanging() const { return m_changing > 0; }
+    /// Another one whenever the trace's data or the way that it shows them are others; visibility,
+    /// scale and limits do not count.
+    TraceRevision revision(const Trace &trace) const
+    {
+        return {trace.id, trace.revision, m_networks.revision(trace.network)};
+    }
     /// What is drawn beside it of a trace whose memory is on show, or null.
     std::optional<TraceData> drawnMemory(const Trace &trace) const;
     const Correction &correction(const Trace &trace) const
@@ -282,6 +293,8 @@ Q_SIGNALS:
     void markerModeChanged();
 
 private:
+    friend class TraceChanges;
+
     bool sweeps() const;
     void replaceNetworks(const QVector<Network> &networks);
     bool holdsIndex(int traceId, double index) const;
@@ -306,10 +319,30 @@ private:
     Acquisition m_acquisition;
     double m_tuning = defaultTuning;
     bool m_sweeping = true;
-    /// What traces made of their data, by trace, and the revisions of networks and traces that it
-    /// was made of.
-    mutable QHash<int, TraceData> m_processed;
-    mutable std::pair<quint64, quint64> m_processedOf;
+    int m_changing = 0; ///< how many TraceChanges there are
+    /// What traces made of their data, by trace, and the revision that it was made at.
+    mutable QHash<int, std::pair<TraceRevision, TraceData>> m_processed;
+};
+
+/*! Many changes of traces in one go: while one lives, diagrams do not load, and what a change makes
+    of the traces is told once, by the tracesChanged() at its end. The model must outlive it. */
+class TraceChanges
+{
+public:
+    explicit TraceChanges(PanelModel *model)
+        : m_model(model)
+    {
+        ++m_model->m_changing;
+    }
+    ~TraceChanges()
+    {
+        if (--m_model->m_changing == 0)
+            m_model->tellTraces();
+    }
+    Q_DISABLE_COPY(TraceChanges)
+
+private:
+    PanelModel *m_model;
 };
 
 } // namespace Panel

@@ -37,19 +37,20 @@ TraceData smoothedAs(const Trace &trace, TraceData data)
 TraceData PanelModel::traceData(const Trace &trace) const
 {
     TraceData measured = Panel::traceData(network(trace), trace.to, trace.from);
-    if (trace.math == TraceMath::DataAndMemory && trace.smoothing == 0.0)
+    if (trace.math == TraceMath::DataAndMemory && trace.smoothing == 0.0) {
+        m_processed.remove(trace.id);
         return measured;
-    const std::pair<quint64, quint64> revisions{m_networks.revision(), m_traces.revision()};
-    if (m_processedOf != revisions)
-        m_processed.clear();
-    m_processedOf = revisions;
+    }
+    const TraceRevision current = revision(trace);
     const auto found = m_processed.constFind(trace.id);
-    if (found != m_processed.constEnd())
-        return *found;
+    if (found != m_processed.constEnd() && found->first == current)
+        return found->second;
     const TraceData *stored = memory(trace.id);
     TraceData result =
         smoothedAs(trace, stored ? combined(measured, *stored, trace.math) : measured);
-    m_processed.insert(trace.id, result);
+    if (m_processed.size() > traces().size())
+        m_processed.clear(); // of traces that are gone
+    m_processed.insert(trace.id, {current, result});
     return result;
 }
 
@@ -79,6 +80,8 @@ QString PanelModel::parameterName(const Trace &trace)
 /// Traces show something else, and what follows their values goes along.
 void PanelModel::tellTraces()
 {
+    if (isChanging())
+        return;
     Q_EMIT tracesChanged();
     trackMarkers();
 }

@@ -60,7 +60,6 @@ void Traces::rebuild(const Networks &networks)
 {
     m_all.clear();
     m_memories.clear();
-    ++m_revision;
     const auto add = [this](int network, int to, int from, TraceFormat format) {
         Trace trace;
         trace.id = int(m_all.size()) + 1;
@@ -68,6 +67,7 @@ void Traces::rebuild(const Networks &networks)
         trace.to = to;
         trace.from = from;
         trace.format = format;
+        renew(&trace);
         m_all.append(trace);
     };
     for (int i = 0; i < networks.count(); ++i) {
@@ -118,8 +118,8 @@ int Traces::addLike(int id, int wanted)
     added.math = TraceMath::DataAndMemory;
     const auto after = std::find_if(m_all.begin(), m_all.end(),
                                     [&](const Trace &trace) { return trace.id > added.id; });
+    renew(&added);
     m_all.insert(after, added);
-    ++m_revision;
     return added.id;
 }
 
@@ -133,7 +133,6 @@ bool Traces::remove(int id)
     m_recent.removeOne(id);
     if (m_recent.isEmpty())
         m_recent.append(m_all.first().id);
-    ++m_revision;
     return true;
 }
 
@@ -173,7 +172,7 @@ bool Traces::setFormat(int id, TraceFormat format, const Networks &networks)
         return false;
     trace->format = format;
     trace->scale = startScale(format, networks);
-    ++m_revision;
+    renew(trace);
     return true;
 }
 
@@ -187,7 +186,7 @@ bool Traces::setParameter(int id, int to, int from, const Networks &networks)
     trace->to = to;
     trace->from = from;
     clearMemory(id);
-    ++m_revision;
+    renew(trace);
     return true;
 }
 
@@ -209,7 +208,7 @@ bool Traces::storeMemory(int id, const TraceData &memory)
     if (!find(id))
         return false;
     m_memories.insert(id, memory);
-    ++m_revision;
+    renew(edit(id));
     return true;
 }
 
@@ -217,8 +216,9 @@ bool Traces::clearMemory(int id)
 {
     if (m_memories.remove(id) == 0)
         return false;
-    edit(id)->math = TraceMath::DataAndMemory;
-    ++m_revision;
+    Trace *trace = edit(id);
+    trace->math = TraceMath::DataAndMemory;
+    renew(trace);
     return true;
 }
 
@@ -228,7 +228,7 @@ bool Traces::setMath(int id, TraceMath math)
     if (!trace || trace->math == math || !memory(id))
         return false;
     trace->math = math;
-    ++m_revision;
+    renew(trace);
     return true;
 }
 
@@ -239,7 +239,7 @@ bool Traces::setSmoothing(int id, double percent)
     if (!trace || !std::isfinite(percent) || trace->smoothing == bounded)
         return false;
     trace->smoothing = bounded;
-    ++m_revision;
+    renew(trace);
     return true;
 }
 

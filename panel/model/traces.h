@@ -25,6 +25,7 @@ struct Trace {
     TraceMath math = TraceMath::DataAndMemory; ///< with what was stored, where anything is
     QVector<LimitLine> limits; ///< of all formats; those of the present one hold
     double smoothing = 0.0; ///< share of the points that are averaged, in percent
+    quint64 revision = 0; ///< another one whenever what it makes of its network's data is another
 
     /// How many traces there can be, beyond those that networks begin with.
     static constexpr int maximumCount = 32;
@@ -52,8 +53,6 @@ public:
     const TraceData *memory(int id) const;
     /// All that was stored, by trace.
     const QHash<int, TraceData> &memories() const { return m_memories; }
-    /// Another number whenever what a trace makes of its network's data is another.
-    quint64 revision() const { return m_revision; }
 
     /// Makes new traces, of which the first is active: the reflections of up to four ports on the
     /// Smith chart, then what they get from port 1 in dB, of a two-port also the way back; of a
@@ -90,12 +89,13 @@ public:
 
 private:
     Trace *edit(int id);
+    void renew(Trace *trace) { trace->revision = ++m_revision; }
     Scale startScale(TraceFormat format, const Networks &networks) const;
 
     QVector<Trace> m_all;
     QVector<int> m_recent; ///< ids, the active one in front and the one before behind it
     QHash<int, TraceData> m_memories; ///< by trace
-    quint64 m_revision = 0;
+    quint64 m_revision = 0; ///< that of the trace that changed last
 };
 
 } // namespace Panel
