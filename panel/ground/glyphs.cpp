@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "glyphs.h"
 
-#include <QIconEngine>
+#include <controls/drawnicon.h>
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -73,6 +74,14 @@ QPainterPath outline(Glyph glyph)
             path.addEllipse(QPointF(knob, y), 2, 2);
         }
         break;
+    case Glyph::Open: // a folder
+        addLine(path, {{3, 19}, {3, 5}, {9, 5}, {11, 8}, {21, 8}, {21, 19}, {3, 19}});
+        break;
+    case Glyph::Save: // into a tray
+        addLine(path, {{12, 3}, {12, 14}});
+        addLine(path, {{7.5, 9.5}, {12, 14}, {16.5, 9.5}});
+        addLine(path, {{3, 14}, {3, 20}, {21, 20}, {21, 14}});
+        break;
     case Glyph::Screenshot: // a camera
         path.addRoundedRect(QRectF(3, 7, 18, 13), 2, 2);
         addLine(path, {{8, 7}, {9.5, 4}, {14.5, 4}, {16, 7}});
@@ -82,51 +91,16 @@ QPainterPath outline(Glyph glyph)
     return path;
 }
 
-/// Draws the glyph when it is asked for, so that it is sharp on every screen and costs nothing before.
-class GlyphEngine : public QIconEngine
-{
-public:
-    GlyphEngine(Glyph glyph, const QColor &off, const QColor &on)
-        : m_glyph(glyph)
-        , m_off(off)
-        , m_on(on)
-    {
-    }
-
-    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State state) override
-    {
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(state == QIcon::On ? m_on : m_off, 1.8, Qt::SolidLine, Qt::RoundCap,
-                             Qt::RoundJoin));
-        painter->translate(rect.topLeft());
-        painter->scale(rect.width() / s_side, rect.height() / s_side);
-        painter->drawPath(outline(m_glyph));
-        painter->restore();
-    }
-
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
-    }
-
-    QIconEngine *clone() const override { return new GlyphEngine(m_glyph, m_off, m_on); }
-
-private:
-    Glyph m_glyph;
-    QColor m_off;
-    QColor m_on;
-};
-
 } // namespace
 
 QIcon glyphIcon(Glyph glyph, const QColor &off, const QColor &on)
 {
-    return QIcon(new GlyphEngine(glyph, off, on));
+    return Controls::drawnIcon(
+        s_side, [glyph, off, on](QPainter *painter, QIcon::Mode, QIcon::State state) {
+            painter->strokePath(outline(glyph),
+                                QPen(state == QIcon::On ? on : off, 1.8, Qt::SolidLine,
+                                     Qt::RoundCap, Qt::RoundJoin));
+        });
 }
 
 } // namespace Panel

@@ -8,7 +8,7 @@
 namespace Panel
 {
 
-/// Small line drawings that stand for the pages of the soft keys, and for a key of the bar.
+/// Small line drawings that stand for the pages of the soft keys, and for keys of the bar.
 enum class Glyph {
     Stimulus,
     Trace,
@@ -19,6 +19,8 @@ enum class Glyph {
     Display,
     Sweep,
     System,
+    Open,
+    Save,
     Screenshot,
 };
 

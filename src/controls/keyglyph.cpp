@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "keyglyph_p.h"
 
-#include <QIconEngine>
+#include "drawnicon.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
@@ -13,6 +14,9 @@ namespace Controls
 
 namespace
 {
+
+/// The square of a glyph, about its middle.
+constexpr double s_side = 2.2;
 
 /// Within a square of 2 x 2 about the middle, pointing to the right.
 QPainterPath arrow()
@@ -36,57 +40,28 @@ QPainterPath backspace()
     return path;
 }
 
-class Engine : public QIconEngine
-{
-public:
-    Engine(KeyGlyph glyph, const QWidget *key)
-        : m_glyph(glyph)
-        , m_key(key)
-    {
-    }
-
-    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
-    {
-        const QPalette palette = m_key ? m_key->palette() : QPalette();
-        const QColor &color = palette.color(
-            mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active, QPalette::ButtonText);
-        const double unit = qMin(rect.width(), rect.height()) / 2.2;
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(QRectF(rect).center());
-        painter->scale(unit, unit);
-        if (m_glyph == KeyGlyph::Backspace) {
-            painter->strokePath(backspace(),
-                                QPen(color, 0.17, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        } else {
-            const double turns[] = {90.0, -90.0, 180.0, 0.0}; // down, up, left, right
-            painter->rotate(turns[int(m_glyph) - int(KeyGlyph::Down)]);
-            painter->fillPath(arrow(), color);
-        }
-        painter->restore();
-    }
-
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
-    }
-
-    QIconEngine *clone() const override { return new Engine(*this); }
-
-private:
-    KeyGlyph m_glyph;
-    QPointer<const QWidget> m_key;
-};
-
 } // namespace
 
 QIcon keyGlyphIcon(KeyGlyph glyph, const QWidget *key)
 {
-    return QIcon(new Engine(glyph, key));
+    return drawnIcon(
+        s_side,
+        [glyph, key = QPointer<const QWidget>(key)](QPainter *painter, QIcon::Mode mode,
+                                                    QIcon::State) {
+            const QPalette palette = key ? key->palette() : QPalette();
+            const QColor &color =
+                palette.color(mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active,
+                              QPalette::ButtonText);
+            painter->translate(s_side / 2.0, s_side / 2.0);
+            if (glyph == KeyGlyph::Backspace) {
+                painter->strokePath(backspace(),
+                                    QPen(color, 0.17, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            } else {
+                const double turns[] = {90.0, -90.0, 180.0, 0.0}; // down, up, left, right
+                painter->rotate(turns[int(glyph) - int(KeyGlyph::Down)]);
+                painter->fillPath(arrow(), color);
+            }
+        });
 }
 
 } // namespace Controls
