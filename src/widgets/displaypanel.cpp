@@ -29,6 +29,8 @@ DisplayPanel::DisplayPanel(LayoutManagerProifle *profile, QWidget *parent)
     d->profile = profile;
     d->ui.setupUi(this);
     d->ui.layoutSelectEdit->setIconSize({24, 24});
+    // Also when another language has longer names.
+    d->ui.layoutSelectEdit->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     // A combo box goes by what is chosen, unless a label names it; then it has to be told.
     connect(d->ui.layoutSelectEdit, &QComboBox::currentTextChanged, d->ui.layoutSelectEdit,
             &QWidget::setAccessibleDescription);

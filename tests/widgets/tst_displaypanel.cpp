@@ -7,6 +7,8 @@
 
 #include <vnatest.h>
 
+#include <QTranslator>
+
 using namespace VnaTest;
 using Graph::LayoutManagerProifle;
 using Graph::LayoutType;
@@ -18,6 +20,17 @@ QComboBox *boxOf(const QWidget &panel)
 {
     return panel.findChild<Profile::TabletComboBox2 *>("layoutSelectEdit"_s);
 }
+
+/// A language whose texts are longer.
+class LongTexts : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QLatin1String(text) + " and then some"_s;
+    }
+};
 
 } // namespace
 
@@ -48,6 +61,18 @@ private Q_SLOTS:
         profile.setLayoutType(LayoutType::Single);
         QCOMPARE(box->currentIndex(), 0);
         QCOMPARE(told, (QVector<int>{int(LayoutType::Quad), int(LayoutType::Single)}));
+    }
+
+    void widthFollowsTheLanguage()
+    {
+        DisplayPanel panel(nullptr);
+        panel.show();
+        const int width = boxOf(panel)->sizeHint().width();
+        LongTexts language;
+        QCoreApplication::installTranslator(&language);
+        QCoreApplication::processEvents();
+        QVERIFY(boxOf(panel)->sizeHint().width() > width);
+        QCoreApplication::removeTranslator(&language);
     }
 
     void iconsFollowTheThemeAndTheChoiceStays()
