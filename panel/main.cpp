@@ -233,7 +233,7 @@ int main(int argc, char **argv)
     else if (commandLine.files.isEmpty() && state.files().isEmpty() && !commandLine.simulate
              && commandLine.instrument.isEmpty())
         window.messageBar()->notify(QCoreApplication::translate(
-            "Panel::PanelWindow", "This is a sample. Open your own files with System, File."));
+            "Panel::PanelWindow", "This is a sample. The folder above opens your own files."));
     // No larger than what it is shown on.
     window.resize(commandLine.size.boundedTo(window.screen()->availableSize()));
     window.show();

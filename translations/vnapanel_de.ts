@@ -734,6 +734,10 @@
         <source>marker %1</source>
         <translation>Marker %1</translation>
     </message>
+    <message>
+        <source>loss %1</source>
+        <translation>Dämpfung %1</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MarkerRows</name>
@@ -754,12 +758,8 @@
         <translation>Wert</translation>
     </message>
     <message>
-        <source>Value 2</source>
-        <translation>Wert 2</translation>
-    </message>
-    <message>
-        <source>Value 3</source>
-        <translation>Wert 3</translation>
+        <source>Value %1</source>
+        <translation>Wert %1</translation>
     </message>
 </context>
 <context>
@@ -922,6 +922,10 @@
     <message>
         <source>Save the diagram as SVG</source>
         <translation>Diagramm als SVG speichern</translation>
+    </message>
+    <message>
+        <source>Save, remove…</source>
+        <translation>Speichern, entfernen…</translation>
     </message>
 </context>
 <context>
@@ -1232,8 +1236,8 @@
         <translation>Nur Dateien dieses Rechners lassen sich öffnen.</translation>
     </message>
     <message>
-        <source>This is a sample. Open your own files with System, File.</source>
-        <translation>Dies ist ein Beispiel. Eigene Dateien öffnet System, Datei.</translation>
+        <source>This is a sample. The folder above opens your own files.</source>
+        <translation>Das ist ein Beispiel. Der Ordner oben öffnet eigene Dateien.</translation>
     </message>
     <message>
         <source>What you set cannot be kept: %1 cannot be written.</source>
@@ -1254,6 +1258,14 @@
     <message>
         <source>The panel is locked: tap the padlock or press Ctrl + L.</source>
         <translation>Die Bedienfläche ist gesperrt: auf das Schloss tippen oder Strg + L drücken.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Load a file</source>
+        <translation>Datei laden</translation>
     </message>
 </context>
 <context>
@@ -1452,16 +1464,16 @@
         <translation>Smith-Diagramm</translation>
     </message>
     <message>
-        <source>Z %1</source>
-        <translation>Z %1</translation>
-    </message>
-    <message>
         <source>VSWR %1</source>
         <translation>VSWR %1</translation>
     </message>
     <message>
         <source>normalised, Tr%1 to %2</source>
         <translation>normiert, Tr%1 auf %2</translation>
+    </message>
+    <message>
+        <source>Z₀ %1</source>
+        <translation>Z₀ %1</translation>
     </message>
 </context>
 <context>

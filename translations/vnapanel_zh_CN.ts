@@ -728,6 +728,10 @@
         <source>marker %1</source>
         <translation>标记 %1</translation>
     </message>
+    <message>
+        <source>loss %1</source>
+        <translation>损耗 %1</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MarkerRows</name>
@@ -748,12 +752,8 @@
         <translation>数值</translation>
     </message>
     <message>
-        <source>Value 2</source>
-        <translation>数值 2</translation>
-    </message>
-    <message>
-        <source>Value 3</source>
-        <translation>数值 3</translation>
+        <source>Value %1</source>
+        <translation>值 %1</translation>
     </message>
 </context>
 <context>
@@ -916,6 +916,10 @@
     <message>
         <source>Save the diagram as SVG</source>
         <translation>将图表保存为 SVG</translation>
+    </message>
+    <message>
+        <source>Save, remove…</source>
+        <translation>保存、移除…</translation>
     </message>
 </context>
 <context>
@@ -1225,8 +1229,8 @@
         <translation>只能打开本机上的文件。</translation>
     </message>
     <message>
-        <source>This is a sample. Open your own files with System, File.</source>
-        <translation>这是示例。用“系统”“文件”打开您的文件。</translation>
+        <source>This is a sample. The folder above opens your own files.</source>
+        <translation>这是示例。点上方的文件夹打开自己的文件。</translation>
     </message>
     <message>
         <source>What you set cannot be kept: %1 cannot be written.</source>
@@ -1247,6 +1251,14 @@
     <message>
         <source>The panel is locked: tap the padlock or press Ctrl + L.</source>
         <translation>面板已锁定：轻触挂锁或按 Ctrl + L。</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Load a file</source>
+        <translation>打开文件</translation>
     </message>
 </context>
 <context>
@@ -1445,16 +1457,16 @@
         <translation>史密斯圆图</translation>
     </message>
     <message>
-        <source>Z %1</source>
-        <translation>Z %1</translation>
-    </message>
-    <message>
         <source>VSWR %1</source>
         <translation>驻波比 %1</translation>
     </message>
     <message>
         <source>normalised, Tr%1 to %2</source>
         <translation>归一化，Tr%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Z₀ %1</source>
+        <translation>Z₀ %1</translation>
     </message>
 </context>
 <context>

@@ -250,6 +250,41 @@ MarkerReading readMarker(const PanelModel &model, const Marker &marker)
     return reading;
 }
 
+QStringList valueNames(const PanelModel &model, const Trace &trace)
+{
+    if (trace.overFrequency())
+        return {formatName(trace.format)};
+    const QString element = QStringLiteral("L / C"), phase = formatName(TraceFormat::Phase);
+    switch (model.viewSettings()->effectiveReadoutFormat(trace.kind())) {
+    case ReadoutFormat::Automatic:
+    case ReadoutFormat::Impedance:
+        return {QStringLiteral("R"), QStringLiteral("X"), element};
+    case ReadoutFormat::Admittance:
+        return {QStringLiteral("G"), QStringLiteral("B"), element};
+    case ReadoutFormat::MagnitudePhase:
+        return {formatName(TraceFormat::LinearMagnitude), phase};
+    case ReadoutFormat::Decibels:
+        return {formatName(TraceFormat::LogMagnitude), phase};
+    case ReadoutFormat::Vswr:
+        return {formatName(TraceFormat::Vswr)};
+    }
+    return {};
+}
+
+double vswrAt(const PanelModel &model, const Marker &marker)
+{
+    const Trace &trace = *model.trace(marker.trace);
+    const Marker *reference = model.referenceMarker(marker.trace);
+    const bool difference = reference && reference->number != marker.number;
+    const bool read = trace.overFrequency()
+        ? trace.format == TraceFormat::Vswr
+        : model.viewSettings()->effectiveReadoutFormat(trace.kind()) == ReadoutFormat::Vswr;
+    if (!reflects(trace) || trace.math > TraceMath::Memory || difference || read)
+        return qQNaN();
+    const MarkedPoint point = model.markedPoint(marker);
+    return point.index < 0.0 ? qQNaN() : vswr(point.data.at(point.index));
+}
+
 QString bandwidthText(const PanelModel &model)
 {
     const double step = model.viewSettings()->bandwidthDecibels();
@@ -266,7 +301,9 @@ QString bandwidthText(const PanelModel &model)
         name + QLatin1Char(' ') + textWithin(band->width(), span),
         Text::tr("centre %1").arg(textWithin(band->centre(), span)),
         QStringLiteral("Q %1").arg(band->quality(), 0, 'g', 4),
-        Text::tr("marker %1").arg(cartesianText(band->decibels, TraceFormat::LogMagnitude))}
+        band->notch || band->decibels > 0.0
+            ? Text::tr("marker %1").arg(cartesianText(band->decibels, TraceFormat::LogMagnitude))
+            : Text::tr("loss %1").arg(cartesianText(-band->decibels, TraceFormat::LogMagnitude))}
         .join(QStringLiteral(" \u00b7 "));
 }
 

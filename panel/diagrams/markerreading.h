@@ -42,6 +42,11 @@ MarkerReading readOnSmithChart(const MarkedPoint &point, ReadoutFormat format,
 /// Reads a marker in the format of its trace, as the difference from the trace's reference marker if
 /// there is another one. While one of them is parked there are dashes but for the frequency.
 MarkerReading readMarker(const PanelModel &model, const Marker &marker);
+/// What the values of a trace's markers are called: "R", "X", "L / C".
+QStringList valueNames(const PanelModel &model, const Trace &trace);
+/// The standing wave ratio at a marker, whatever it reads; NaN where its trace reflects nothing or shows
+/// something made of its data, while it reads differences, and where it reads the ratio itself.
+double vswrAt(const PanelModel &model, const Marker &marker);
 /// "M2", or with a sign where it is fixed, a reference or read against one: "M1F", "M1R", "\u0394M2".
 QString markerName(const PanelModel &model, const Marker &marker);
 /// What is read of the band around the selected marker; empty while it is not asked for.

@@ -6,6 +6,7 @@
 
 #include <panel/ground/look.h>
 #include <panel/ground/quietview.h>
+#include <panel/model/cartesian.h>
 
 #include <controls/thememanager.h>
 
@@ -17,6 +18,8 @@
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <cmath>
 
 namespace Panel
 {
@@ -37,7 +40,8 @@ enum Column {
     Line,
     Frequency,
     FirstValue,
-    ColumnCount = FirstValue + 3,
+    Vswr = FirstValue + 3,
+    ColumnCount,
 };
 
 } // namespace
@@ -61,7 +65,7 @@ public:
         for (const Trace &trace : m_model->traces()) {
             const QVector<Marker> markers = m_model->markersOf(trace.id);
             for (const Marker &marker : markers)
-                rows.append({marker, readMarker(*m_model, marker)});
+                rows.append({marker, readMarker(*m_model, marker), vswrAt(*m_model, marker)});
         }
         const bool same = rows.size() == m_rows.size();
         if (!same)
@@ -71,6 +75,7 @@ public:
             endResetModel();
         else if (!m_rows.isEmpty())
             Q_EMIT dataChanged(index(0, 0), index(int(m_rows.size()) - 1, ColumnCount - 1));
+        Q_EMIT headerDataChanged(Qt::Horizontal, FirstValue, Vswr);
     }
 
     const Marker &marker(int row) const { return m_rows.at(row).marker; }
@@ -115,15 +120,34 @@ public:
             return int(Qt::AlignVCenter | (section < Frequency ? Qt::AlignLeft : Qt::AlignRight));
         if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
             return {};
-        const QString names[] = {tr("Marker"), tr("Trace"),   tr("Frequency"),
-                                 tr("Value"),  tr("Value 2"), tr("Value 3")};
+        if (section >= FirstValue && section < Vswr)
+            return valueName(section - FirstValue);
+        const QString names[] = {tr("Marker"), tr("Trace"), tr("Frequency")};
+        if (section == Vswr)
+            return QStringLiteral("VSWR");
         return names[section];
     }
 
 private:
+    /// What all rows have there, if they do.
+    QString valueName(int value) const
+    {
+        QStringList names;
+        for (const Row &row : m_rows) {
+            const Trace *trace = m_model->trace(row.marker.trace);
+            if (trace && value < row.reading.values.size())
+                names << valueNames(*m_model, *trace).value(value);
+        }
+        names.removeDuplicates();
+        if (names.size() == 1)
+            return names.first();
+        return value == 0 ? tr("Value") : tr("Value %1").arg(value + 1);
+    }
+
     struct Row {
         Marker marker;
         MarkerReading reading;
+        double vswr;
     };
 
     QString text(const Row &row, const Trace &trace, int column) const
@@ -132,6 +156,8 @@ private:
             return QStringLiteral("Tr%1 ").arg(trace.id) + markerName(*m_model, row.marker);
         if (column == Line)
             return PanelModel::parameterName(trace) + QLatin1Char(' ') + formatName(trace.format);
+        if (column == Vswr)
+            return std::isnan(row.vswr) ? QString() : cartesianText(row.vswr, TraceFormat::Vswr);
         return column == Frequency ? row.reading.frequency
                                    : row.reading.values.value(column - FirstValue);
     }
@@ -140,6 +166,8 @@ private:
     {
         if (column == Frequency)
             return row.reading.hertz;
+        if (column == Vswr)
+            return row.vswr;
         if (column >= FirstValue)
             return row.reading.numbers.value(column - FirstValue, qQNaN());
         return row.marker.trace * (Markers::perTrace + 1) + row.marker.number;
@@ -161,8 +189,11 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
-        option->state &= ~QStyle::State_HasFocus; // the row shows it, not a cell
+        // The style would write what is selected in its own colour.
+        if (option->state & QStyle::State_Selected)
+            option->backgroundBrush = currentLook().button;
+        // The row shows the focus, not a cell.
+        option->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
     }
 };
 

@@ -17,7 +17,8 @@ namespace Panel
 class MarkerRows;
 
 /*! The markers of all traces in one table, each in its trace's colour, sorted by the column whose head
-    was tapped; below it the bandwidth around the selected one. A tap on a row asks for its marker to
+    was tapped; those of reflections tell the standing wave ratio, too. Below it stands the bandwidth
+    around the selected one. A tap on a row asks for its marker to
     be selected.
 
     It takes a share of its host's height, so that no marker that comes or goes moves a diagram. */

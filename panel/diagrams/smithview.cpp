@@ -184,7 +184,7 @@ QStringList SmithView::titleParts() const
         return {};
     const QString reference = ohmsText(m_model->traceData(*active).reference);
     return {hasOneReference()
-                ? tr("Z %1").arg(reference)
+                ? tr("Z\u2080 %1").arg(reference)
                 : tr("normalised, Tr%1 to %2").arg(QString::number(active->id), reference)};
 }
 

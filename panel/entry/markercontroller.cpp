@@ -101,7 +101,10 @@ MarkerController::MarkerController(PanelModel *model, const PanelKeys &keys, Num
 
     keys.bandwidth->setChoices(bandwidths().names(tr("Off"), QStringLiteral("%1 dB")));
     connect(keys.bandwidth, &SoftKey::choicePicked, this, [this](int index) {
-        m_model->viewSettings()->setBandwidthDecibels(bandwidths().valueOf(index));
+        const double decibels = bandwidths().valueOf(index);
+        if (decibels > 0.0 && !m_model->selectedMarker())
+            markResonance();
+        m_model->viewSettings()->setBandwidthDecibels(decibels);
     });
 
     keys.track->setChoices({tr("Off"), tr("Maximum"), tr("Minimum"), tr("Fixed")});
@@ -207,6 +210,20 @@ void MarkerController::markPeaks(const Trace &trace)
             m_model->addMarker(id, peaks.at(number - 1));
     }
     m_model->selectMarker(id, 1);
+}
+
+/// Sets a marker in the middle of the band that is to be read: where the most passes, or the least is
+/// reflected.
+void MarkerController::markResonance()
+{
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
+        return;
+    const int found =
+        searchMarker(m_model->traceData(*trace), TraceFormat::LogMagnitude,
+                     trace->to == trace->from ? Search::Minimum : Search::Maximum, 0.0);
+    if (found >= 0)
+        m_model->addMarker(trace->id, found);
 }
 
 /// Sends the selected marker where the trace has the value of the last search, and asks for another

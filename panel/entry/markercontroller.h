@@ -31,6 +31,7 @@ private:
     void onSearchPicked(int command);
     void tellNoPeak(const Trace &trace);
     void markPeaks(const Trace &trace);
+    void markResonance();
     void onMarkerToPicked(int command);
     void editTarget(int direction);
     void goToTarget(double target, double from, int direction);

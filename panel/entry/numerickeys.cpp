@@ -81,7 +81,8 @@ void NumericKeys::followModel()
         connect(m_model, signal, this, &NumericKeys::showStimulus);
     for (const auto signal : {&PanelModel::stimulusChanged, &PanelModel::networkUpdated})
         connect(m_model, signal, this, &NumericKeys::showStimulus);
-    for (const auto signal : {&PanelModel::selectedMarkerChanged, &PanelModel::markerModeChanged})
+    for (const auto signal : {&PanelModel::selectedMarkerChanged, &PanelModel::markerModeChanged,
+                              &PanelModel::activeTraceChanged})
         connect(m_model, signal, this, &NumericKeys::showMarkerStimulus);
     connect(m_model, &PanelModel::markerMoved, this, &NumericKeys::showMarkerStimulus);
     for (const auto signal : {&PanelModel::activeTraceChanged, &PanelModel::tracesChanged})
@@ -209,6 +210,11 @@ void NumericKeys::editPoints()
 
 void NumericKeys::editMarkerStimulus()
 {
+    const Trace *active = m_model->activeTrace();
+    if (active && !m_model->selectedMarker())
+        m_model->addMarker(active->id,
+                           indexOfFrequency(m_model->network(*active).frequencies,
+                                            m_model->shownRange(*active).center()));
     const Marker *marker = m_model->selectedMarker();
     if (!marker)
         return;
@@ -338,7 +344,7 @@ void NumericKeys::showStimulus()
 void NumericKeys::showMarkerStimulus()
 {
     const Marker *marker = m_model->selectedMarker();
-    m_keys.markerStimulus->setEnabled(marker && !marker->isFixed());
+    m_keys.markerStimulus->setEnabled(marker ? !marker->isFixed() : bool(m_model->activeTrace()));
     m_keys.markerStimulus->setValue(marker ? frequencyText(m_model->hertzOf(*marker))
                                            : nothingText());
 }

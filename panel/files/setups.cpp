@@ -83,14 +83,17 @@ QString Setups::save(const QString &name)
         return tr("A set-up needs a name.");
     if (!PanelState::save(*m_model, path(name)))
         return tr("The set-up cannot be written to %1.").arg(QDir::toNativeSeparators(m_folder));
+    Q_EMIT namesChanged();
     Q_EMIT told(tr("Saved the set-up %1").arg(fileNameOf(name)));
     return QString();
 }
 
 bool Setups::remove(const QString &name)
 {
-    if (QFile::remove(path(name)))
+    if (QFile::remove(path(name))) {
+        Q_EMIT namesChanged();
         return true;
+    }
     Q_EMIT failed(tr("The set-up %1 cannot be removed.").arg(name));
     return false;
 }

@@ -46,6 +46,8 @@ public Q_SLOTS:
     void preset();
 
 Q_SIGNALS:
+    /// One was saved or removed.
+    void namesChanged();
     /// A sentence for the user.
     void told(const QString &sentence);
     /// What went wrong.

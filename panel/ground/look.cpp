@@ -37,6 +37,7 @@ Panel--MessageBar[notice="true"] { border-color: @focusColor; }
 Panel--ReadOuts, Panel--ReadOuts > QWidget > QWidget { background: transparent; border: none; }
 Panel--ReadOuts[box="true"] { background: @veilColor; border: 1px solid @borderColor; border-radius: 4px; }
 QLabel#more { padding: 0px 6px; background: @barColor; border: 1px solid @borderColor; border-radius: 4px; color: @textColor; }
+QPushButton#barKey, QPushButton#barKey:focus { padding: 2px; }
 QPushButton#fitTrace { min-height: 36px; padding: 2px 12px; background: @barColor; border: 1px solid @warningColor; border-radius: 4px; color: @textColor; }
 Panel--MarkerTable { background: @backgroundColor; border-top: 1px solid @borderColor; }
 Panel--MarkerTable QTableView { background: @backgroundColor; selection-background-color: @buttonColor; }

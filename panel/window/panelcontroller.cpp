@@ -100,6 +100,8 @@ void PanelController::connectKeys()
 {
     const PanelKeys &keys = m_window->keys();
     connect(keys.file, &SoftKey::clicked, this, &PanelController::showFileDialog);
+    connect(m_window->openButton(), &QAbstractButton::clicked, this,
+            &PanelController::showFileDialog);
     connect(m_window, &PanelWindow::openRequested, this, &PanelController::showFileDialog);
     connect(keys.settings, &SoftKey::clicked, this, &PanelController::showSettings);
     connect(keys.help, &SoftKey::clicked, this, &PanelController::showHelp);
@@ -163,8 +165,18 @@ void PanelController::connectHistory()
     MessageBar *bar = m_window->messageBar();
     connect(m_setups, &Setups::told, bar, &MessageBar::notify);
     connect(m_setups, &Setups::failed, bar, &MessageBar::setMessage);
-    connect(keys.setups, &SoftKey::clicked, this, &PanelController::showSetups);
-    keys.setups->setValue(QStringLiteral("\u2026"));
+    connect(keys.setups, &SoftKey::clicked, this, [this] {
+        if (m_listedSetups.isEmpty())
+            showSetups();
+    });
+    connect(keys.setups, &SoftKey::choicePicked, this, [this](int index) {
+        if (index == 0)
+            showSetups();
+        else
+            m_setups->recall(m_listedSetups.value(index - 1));
+    });
+    connect(m_setups, &Setups::namesChanged, this, &PanelController::listSetups);
+    listSetups();
     connect(keys.undo, &SoftKey::clicked, m_history, &History::undo);
     connect(keys.redo, &SoftKey::clicked, m_history, &History::redo);
     keys.undo->setValue(QStringLiteral("\u21b6"));
@@ -251,6 +263,18 @@ void PanelController::showSetups()
 {
     auto *dialog = new SetupDialog(m_setups, m_window);
     DialogStage::show(dialog, m_window);
+}
+
+/// Lists what can be recalled on the key, below what else is done with set-ups.
+void PanelController::listSetups()
+{
+    m_listedSetups = m_setups->names();
+    QStringList choices = m_listedSetups;
+    if (!choices.isEmpty())
+        choices.prepend(tr("Save, remove\u2026"));
+    SoftKey *key = m_window->keys().setups;
+    key->setChoices(choices);
+    key->setChoice(-1, QStringLiteral("\u2026"));
 }
 
 void PanelController::showHelp()

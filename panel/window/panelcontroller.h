@@ -49,6 +49,7 @@ public Q_SLOTS:
     /// Lets the user choose an instrument, and shows how it stands with it.
     void showInstruments();
     void takeScreenshot();
+    void listSetups();
     void onSavePicked(int command);
     void addSaving();
     void print(DiagramView *view);
@@ -77,6 +78,7 @@ private:
     Setups *m_setups;
     LinkSource *m_link;
     TraceSound *m_sound;
+    QStringList m_listedSetups; ///< below the key
     QString m_trouble; ///< that was told last
     QString m_dialogFolder; ///< where the file dialog was left
 };

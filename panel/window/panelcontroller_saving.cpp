@@ -59,16 +59,20 @@ Network documented(const Network &measured, const Correction &correction)
 
 void PanelController::addSaving()
 {
-    const PanelKeys &keys = m_window->keys();
-    keys.save->setMenuItems({{SaveTouchstone, QStringLiteral("Touchstone")},
-                             {SaveCsv, QStringLiteral("CSV")},
-                             {SavePdf, tr("Diagram as PDF")},
-                             {SaveSvg, tr("Diagram as SVG")},
-                             {CopyPicture, tr("Picture to clipboard")},
-                             {Print, tr("Print the diagram\u2026")}});
-    connect(keys.save, qOverload<int>(&MenuButton::menuItemClicked), this,
-            &PanelController::onSavePicked);
-    const auto showSave = [this] { m_window->keys().save->setEnabled(m_model->activeTrace()); };
+    for (MenuButton *key : {m_window->keys().save, m_window->saveButton()}) {
+        key->setMenuItems({{SaveTouchstone, QStringLiteral("Touchstone")},
+                           {SaveCsv, QStringLiteral("CSV")},
+                           {SavePdf, tr("Diagram as PDF")},
+                           {SaveSvg, tr("Diagram as SVG")},
+                           {CopyPicture, tr("Picture to clipboard")},
+                           {Print, tr("Print the diagram\u2026")}});
+        connect(key, qOverload<int>(&MenuButton::menuItemClicked), this,
+                &PanelController::onSavePicked);
+    }
+    const auto showSave = [this] {
+        m_window->keys().save->setEnabled(m_model->activeTrace());
+        m_window->saveButton()->setEnabled(m_model->activeTrace());
+    };
     connect(m_model, &PanelModel::tracesChanged, this, showSave);
     showSave();
 }

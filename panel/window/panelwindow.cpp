@@ -23,6 +23,7 @@
 
 #include <controls/thememanager.h>
 #include <widgets/lockwidget.h>
+#include <widgets/menubutton.h>
 
 #include <QApplication>
 #include <QDropEvent>
@@ -41,6 +42,16 @@ namespace
 
 /// In pixels, less what a window manager adds to the smallest screen, of 800 x 480.
 constexpr QSize s_smallestContent(640, 400);
+/// A key of the top bar and its icon, in pixels.
+constexpr int s_barKey = 44;
+constexpr QSize s_barIcon(20, 20);
+/// What the top bar offers to save: in letters and pixels.
+constexpr int s_tileLetters = 28;
+constexpr int s_tileHeight = 48;
+/// Widths of the window, in pixels, from which the top bar has room for more than traces and keys.
+constexpr int s_roomForMark = 900;
+constexpr int s_roomForFile = 1000;
+constexpr int s_roomForName = 1400;
 
 } // namespace
 
@@ -126,11 +137,11 @@ void PanelWindow::fillTopBar()
     row->setSpacing(8);
     m_mark = new QLabel(m_topBar);
     row->addWidget(m_mark);
-    auto *name = new QLabel(tr("VNA"), m_topBar);
-    QFont bold = name->font();
+    m_name = new QLabel(tr("VNA"), m_topBar);
+    QFont bold = m_name->font();
     bold.setBold(true);
-    name->setFont(bold);
-    row->addWidget(name);
+    m_name->setFont(bold);
+    row->addWidget(m_name);
     row->addWidget(m_traceBar, 1);
     m_fileName = new ElidedLabel(Qt::ElideMiddle);
     m_fileName->setObjectName(QStringLiteral("dim"));
@@ -138,8 +149,20 @@ void PanelWindow::fillTopBar()
     m_fileName->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     m_fileName->setFixedWidth(fontMetrics().averageCharWidth() * 24);
     row->addWidget(m_fileName);
-    m_themeButton = addBarButton(row, tr("Dark or light"));
+    m_openButton = addBarButton(row, tr("Load a file"));
+    m_saveButton = new MenuButton(m_topBar);
+    m_saveButton->setObjectName(QStringLiteral("barKey"));
+    m_saveButton->setAccessibleName(tr("Save"));
+    m_saveButton->setToolTip(tr("Save"));
+    m_saveButton->setFixedSize(s_barKey, s_barKey);
+    m_saveButton->QAbstractButton::setIconSize(s_barIcon);
+    // One column of tiles: the rows of a list would be little wider than the key.
+    m_saveButton->setViewMode(QListView::IconMode);
+    m_saveButton->setItemCountPerRow(1);
+    m_saveButton->setIconSize(fontMetrics().averageCharWidth() * s_tileLetters, s_tileHeight);
+    row->addWidget(m_saveButton);
     m_screenshotButton = addBarButton(row, tr("Screenshot"));
+    m_themeButton = addBarButton(row, tr("Dark or light"));
     m_lockButton = addBarButton(row, tr("Lock"));
     m_lockButton->setCheckable(true);
 }
@@ -149,8 +172,8 @@ QToolButton *PanelWindow::addBarButton(QHBoxLayout *row, const QString &name)
     auto *button = new QToolButton(m_topBar);
     button->setAccessibleName(name);
     button->setToolTip(name);
-    button->setMinimumSize(44, 44);
-    button->setIconSize(QSize(20, 20));
+    button->setMinimumSize(s_barKey, s_barKey);
+    button->setIconSize(s_barIcon);
     row->addWidget(button);
     return button;
 }
@@ -189,7 +212,9 @@ void PanelWindow::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
     // Traces first; the diagrams name the file too.
-    m_fileName->setVisible(width() > 900);
+    m_mark->setVisible(width() > s_roomForMark);
+    m_fileName->setVisible(width() > s_roomForFile);
+    m_name->setVisible(width() > s_roomForName);
     m_markerTable->setRoom(height());
 }
 
@@ -252,6 +277,8 @@ void PanelWindow::recolor()
     const QColor text = currentLook().text;
     m_mark->setPixmap(mark(24, text, devicePixelRatioF()));
     m_themeButton->setIcon(icon("theme"));
+    m_openButton->setIcon(glyphIcon(Glyph::Open, text, text));
+    m_saveButton->setIcon(glyphIcon(Glyph::Save, text, text));
     m_screenshotButton->setIcon(glyphIcon(Glyph::Screenshot, text, text));
     showLock();
 }

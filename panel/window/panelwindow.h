@@ -10,6 +10,7 @@ class QAbstractButton;
 class QHBoxLayout;
 class QLabel;
 class QStackedWidget;
+class MenuButton;
 class QToolButton;
 
 namespace Panel
@@ -52,6 +53,10 @@ public:
     const PanelKeys &keys() const { return m_keys; }
     SweepBar *sweepBar() const { return m_sweepBar; }
     TimingLine *timingLine() const { return m_timingLine; }
+    /// Opens a file, as the key on page System does.
+    QToolButton *openButton() const { return m_openButton; }
+    /// Offers what the key on page System does.
+    MenuButton *saveButton() const { return m_saveButton; }
     QToolButton *themeButton() const { return m_themeButton; }
     QToolButton *screenshotButton() const { return m_screenshotButton; }
     /// Checked while the panel is locked.
@@ -95,7 +100,10 @@ private:
     MessageBar *m_messageBar;
     PanelLock *m_lock;
     QLabel *m_mark;
+    QLabel *m_name;
     ElidedLabel *m_fileName;
+    QToolButton *m_openButton;
+    MenuButton *m_saveButton;
     QToolButton *m_themeButton;
     QToolButton *m_screenshotButton;
     QToolButton *m_lockButton;

@@ -86,11 +86,8 @@ SetupDialog::SetupDialog(Setups *setups, QWidget *parent)
         close();
     });
     list(QString());
-    // Return saves a new one, or recalls one of the list.
-    if (m_list->count() == 0)
-        m_name->setFocus();
-    else
-        m_list->setFocus();
+    // Return saves a new one. A list that has the focus would offer to replace its first.
+    m_name->setFocus();
     setMinimumSize(
         QSize(500, 420).boundedTo(parent ? parent->size() - QSize(40, 40) : QSize(500, 420)));
 }

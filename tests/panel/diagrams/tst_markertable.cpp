@@ -5,6 +5,7 @@
 #include "slope.h"
 
 #include <panel/diagrams/freecorner.h>
+#include <panel/diagrams/markerreading.h>
 #include <panel/diagrams/markertable.h>
 #include <panel/diagrams/readouts.h>
 #include <panel/files/viewstate.h>
@@ -14,6 +15,8 @@
 
 #include <QHeaderView>
 #include <QTableView>
+
+#include <cmath>
 
 using namespace VnaTest;
 using namespace Panel;
@@ -75,6 +78,15 @@ private Q_SLOTS:
         QCOMPARE(desk.names(), (QStringList{"Tr1 M1"_s, "Tr3 M1"_s, "Tr3 M2"_s}));
         QCOMPARE(desk.table()->rowTexts(0).at(2), "2.525031 GHz"_s); // no more than the span tells
         QCOMPARE(desk.table()->rowTexts(1).mid(1, 2), (QStringList{"S21 LogM"_s, "2.475 GHz"_s}));
+        // (1 + |S11|) / (1 - |S11|), which what passes the filter does not have.
+        const Parameter &s11 = desk.model.networks().first().parameters.first();
+        const auto part = [](const QVector<double> &values) {
+            return values.at(900) + 0.123456 * (values.at(901) - values.at(900));
+        };
+        const double gamma = std::hypot(part(s11.real), part(s11.imag));
+        QCOMPARE(desk.table()->rowTexts(0).last(),
+                 QString::number((1.0 + gamma) / (1.0 - gamma), 'f', 2));
+        QVERIFY(desk.table()->rowTexts(1).last().isEmpty());
         desk.table()->table()->sortByColumn(2, Qt::AscendingOrder); // as a tap on "Frequency" does
         QCOMPARE(desk.names(), (QStringList{"Tr3 M2"_s, "Tr3 M1"_s, "Tr1 M1"_s}));
         desk.tapRow(2);
@@ -91,6 +103,17 @@ private Q_SLOTS:
         QVERIFY(desk.table()->table()->selectionModel()->hasSelection());
         desk.model.viewSettings()->setMarkerTable(false);
         QVERIFY(desk.table()->isHidden() && desk.cartesian()->readOuts()->isVisible());
+    }
+
+    /// Without a marker to measure from.
+    void bandwidthFindsItsBand()
+    {
+        TableDesk desk(QSize(1280, 800));
+        desk.show({peaked(40)});
+        desk.model.setActiveTrace(3);
+        desk.pick(desk.keys().bandwidth, 2);
+        QCOMPARE(desk.index(3, 1), 40.0);
+        QVERIFY(bandwidthText(desk.model).contains("Q "_s));
     }
 
     void fitsASmallScreen()
