@@ -359,10 +359,17 @@ QStringList CartesianView::titleParts() const
     const Trace *active = activeTrace();
     if (!active)
         return {};
-    return QStringList{
-               formatName(active->format), divisionText(active->format, active->scale.perDivision),
-               tr("ref %1").arg(cartesianReferenceText(active->scale.reference(), active->format))}
-    + otherScales(*active);
+    return QStringList{formatName(active->format),
+                       divisionText(active->format, active->scale.perDivision)}
+    + writtenBesideAxis() + otherScales(*active);
+}
+
+QStringList CartesianView::writtenBesideAxis() const
+{
+    const Trace *active = activeTrace();
+    if (!active)
+        return {};
+    return {tr("ref %1").arg(cartesianReferenceText(active->scale.reference(), active->format))};
 }
 
 int CartesianView::drawnPoints() const

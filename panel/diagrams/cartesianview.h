@@ -56,6 +56,7 @@ protected:
     void showSelectedMarker() override;
     void showMemory(const Trace &trace) override;
     QStringList titleParts() const override;
+    QStringList writtenBesideAxis() const override;
     void onLayout() override;
     Hit hitLine(const QPointF &position) const override;
 

@@ -32,7 +32,9 @@ public:
         : QWidget(parent)
     {
         auto *inside = new QHBoxLayout(this);
-        inside->setContentsMargins(s_width, s_width, s_width, s_width);
+        // At 125 % a plot paints up to a pixel of the screen beyond its rectangle.
+        constexpr int margin = s_width + 1;
+        inside->setContentsMargins(margin, margin, margin, margin);
         inside->addWidget(view);
     }
 

@@ -3,8 +3,8 @@
 #include "diagramview.h"
 
 #include "readouts.h"
+#include "titlelabel.h"
 
-#include <panel/ground/elidedlabel.h>
 #include <panel/ground/numbertext.h>
 
 #include <controls/thememanager.h>
@@ -33,7 +33,7 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
     : QWidget(parent)
     , m_model(model)
     , m_id(id)
-    , m_title(new ElidedLabel(Qt::ElideRight, this))
+    , m_title(new TitleLabel(this))
     , m_readOuts(new ReadOuts(model, this))
     , m_plot(new QCustomPlot(this))
     , m_body(new QBoxLayout(QBoxLayout::TopToBottom))
@@ -294,11 +294,12 @@ void DiagramView::updateTitle()
     else if (!m_traceIds.isEmpty())
         parts << tr("All traces are hidden");
     parts << titleParts() << processingTexts();
-    if (networks.size() > 2)
-        parts << tr("%n files", nullptr, int(networks.size()));
-    else if (!networks.isEmpty())
-        parts << networks.join(QStringLiteral(", "));
-    m_title->setText(parts.join(QStringLiteral(" \u00b7 ")));
+    QStringList spare;
+    if (!networks.isEmpty())
+        spare << (networks.size() > 2 ? tr("%n files", nullptr, int(networks.size()))
+                                      : networks.join(QStringLiteral(", ")));
+    parts << spare;
+    m_title->setParts(parts, spare + writtenBesideAxis());
 }
 
 QStringList DiagramView::otherScales(const Trace &written) const

@@ -19,7 +19,7 @@ class Marker;
 namespace Panel
 {
 
-class ElidedLabel;
+class TitleLabel;
 class ReadOuts;
 
 /// What lies under a finger.
@@ -117,6 +117,8 @@ protected:
     virtual void showMemory(const Trace &trace) = 0;
     /// What the title says between the names of the traces and those of their networks.
     virtual QStringList titleParts() const = 0;
+    /// What of that the diagram shows beside its axes, too: a narrow title leaves it out.
+    virtual QStringList writtenBesideAxis() const { return {}; }
     /// The plot has been laid out: what depends on its pixels is computed here and nowhere else.
     virtual void onLayout() = 0;
     /// The nearest trace within reach, as a Hit that is a Line or Nothing.
@@ -153,7 +155,7 @@ private:
     QStringList processingTexts() const;
 
     DiagramId m_id;
-    ElidedLabel *m_title;
+    TitleLabel *m_title;
     ReadOuts *m_readOuts;
     QCustomPlot *m_plot;
     QBoxLayout *m_body; ///< of read-outs and plot

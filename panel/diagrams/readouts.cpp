@@ -99,8 +99,8 @@ void ReadOuts::showBelow(const QSize &diagram)
     // A reading of several values that has no room on one line takes two.
     const int fewest = diagram.width() < s_widthOfThreeValues ? 2 : 1;
     const int lines = qBound(fewest, diagram.height() / s_heightForARow, s_maximumRows);
-    // The labels above and below the chart want a line each.
-    const int left = diagram.height() - diagram.width() - 2 * fontMetrics().height();
+    // A chart with its labels is as high as wide.
+    const int left = diagram.height() - diagram.width();
     setMinimumHeight(fewest * lineHeight());
     setMaximumHeight(qMax(lines * lineHeight(), left));
 }
@@ -199,10 +199,15 @@ void ReadOuts::showMore()
             && !hidden.contains(line.marker))
             hidden.append(line.marker);
     }
-    m_more->setVisible(!hidden.isEmpty());
     m_more->setText(QStringLiteral("+%1").arg(hidden.size()));
     m_more->adjustSize();
-    m_more->move(width() - m_more->width() - s_margin, height() - m_more->height());
+    // Above the readings, or at the end of a column beside the diagram, which is higher.
+    const bool beside = m_room.isEmpty() && height() > parentWidget()->height() / 2;
+    m_more->setParent(parentWidget());
+    m_more->move(x() + width() - m_more->width() - s_margin,
+                 y() + (beside ? height() - m_more->height() : -m_more->height() - 1));
+    m_more->setVisible(!hidden.isEmpty());
+    m_more->raise();
 }
 
 /// What is read of the band around the selected marker, if it is one of these.
@@ -358,6 +363,12 @@ MarkerStatusItem *ReadOuts::item(int row) const
             return line.item;
     }
     return nullptr;
+}
+
+void ReadOuts::moveEvent(QMoveEvent *event)
+{
+    QScrollArea::moveEvent(event);
+    showMore();
 }
 
 void ReadOuts::resizeEvent(QResizeEvent *event)

@@ -49,6 +49,7 @@ Q_SIGNALS:
     void overlaySizeChanged();
 
 protected:
+    void moveEvent(QMoveEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -78,7 +79,7 @@ private:
     const PanelModel *m_model;
     QLabel *m_hint; ///< in place of the rows while there are none
     QLabel *m_bandwidth; ///< below the rows, where it is asked for
-    QLabel *m_more; ///< over the last line, while there are more than fit
+    QLabel *m_more; ///< above the readings, while there are more than fit
     QVector<int> m_traces;
     QVector<Marker> m_markers;
     QVector<QStringList> m_texts; ///< of the markers

@@ -181,7 +181,7 @@ private:
         const QFontMetrics metrics(m_small);
         return m_fileName.isEmpty() ? 0
                                     : 2 * s_padding + s_sample + 4
-                + qMin(metrics.horizontalAdvance(m_fileName), 10 * metrics.averageCharWidth());
+                + qMin(metrics.horizontalAdvance(m_fileName), 13 * metrics.averageCharWidth());
     }
 
     int fileHeight() const { return m_fileName.isEmpty() ? 0 : QFontMetrics(m_small).height(); }

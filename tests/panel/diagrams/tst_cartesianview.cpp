@@ -4,6 +4,7 @@
 #include "slope.h"
 
 #include <panel/diagrams/markerreading.h>
+#include <panel/diagrams/titlelabel.h>
 #include <panel/files/viewstate.h>
 
 #include <algorithm>
@@ -47,6 +48,25 @@ class CartesianViewTest : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    /// What holds of the data is never left out, what is written elsewhere first.
+    void narrowTitlesLeaveOut()
+    {
+        const QStringList parts{"S21"_s, "LogM"_s, "ref 0 dB"_s, "Port 1: 105 ps"_s, "file.s2p"_s};
+        TitleLabel title;
+        title.setParts(parts, {"file.s2p"_s, "ref 0 dB"_s});
+        const auto wide = [&title](const QString &text) {
+            title.resize(title.fontMetrics().horizontalAdvance(text), 20);
+            return title.grab().isNull() ? QStringList() : title.lines();
+        };
+        const QString all = title.text(), whole = "S21 \u00b7 LogM \u00b7 Port 1: 105 ps"_s;
+        QCOMPARE(wide(all), QStringList(all));
+        QCOMPARE(wide(all.chopped(1)), QStringList(all.chopped(11)));
+        QCOMPARE(wide(whole), QStringList(whole));
+        const int height = title.sizeHint().height();
+        QCOMPARE(wide(whole.chopped(1)), (QStringList{"S21 \u00b7 LogM"_s, "Port 1: 105 ps"_s}));
+        QVERIFY(title.sizeHint().height() > height);
+    }
+
     /// As a window finds when it is moved there.
     void anotherScreenHasAnotherPixelRatio()
     {
