@@ -159,9 +159,20 @@ void FileController::open(const ReadFiles &files, Purpose purpose)
 
 void FileController::update(const ReadFiles &files)
 {
-    for (const Network &network : files.networks)
-        m_model->updateFile(int(pathsOf(m_model->files()).indexOf(network.path)), network);
-    report(files, QString());
+    QString note;
+    for (const Network &network : files.networks) {
+        QVector<Network> all = m_model->files();
+        const int index = int(pathsOf(all).indexOf(network.path));
+        // A file with other ports than before needs other traces.
+        const bool fits = index < 0 || all.at(index).ports == network.ports;
+        if (fits || m_model->source() != Source::Files) {
+            m_model->updateFile(index, network);
+        } else {
+            all[index] = network;
+            note = missingNote(openArranged(m_model, all), {network});
+        }
+    }
+    report(files, note);
 }
 
 void FileController::report(const ReadFiles &files, const QString &note)

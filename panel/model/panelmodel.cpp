@@ -16,19 +16,71 @@ PanelModel::PanelModel(QObject *parent)
 
 // Networks and the part of them on show
 
-void PanelModel::replaceNetworks(const QVector<Network> &networks)
+namespace
 {
+
+QVector<int> portsOf(const QVector<Network> &networks)
+{
+    QVector<int> ports;
+    for (const Network &network : networks)
+        ports << network.ports;
+    return ports;
+}
+
+} // namespace
+
+/// Shows networks, if asked for in the arrangement in which their source was left.
+void PanelModel::replaceNetworks(const QVector<Network> &networks, bool arranged)
+{
+    m_arrangements[m_shown] = shownArrangement();
+    m_shown = m_showsMeasurement ? m_source : Source::Files;
     m_networks.replace(networks);
     m_traces.rebuild(m_networks);
     m_markers.reset(m_traces.ids());
     m_zooms.clear();
+    const auto found = m_arrangements.find(m_shown);
+    if (arranged && found != m_arrangements.end() && found->second.ports == portsOf(networks))
+        arrangeAs(found->second);
     Q_EMIT networksChanged();
-    Q_EMIT tracesChanged();
+    tellTraces();
     Q_EMIT activeTraceChanged();
     Q_EMIT selectedMarkerChanged();
 }
 
+PanelModel::Arrangement PanelModel::shownArrangement() const
+{
+    Arrangement shown{portsOf(networks()), {}, {}, m_traces, m_markers, m_zooms};
+    for (int i = 0; i < m_networks.count(); ++i) {
+        const Stimulus &stimulus = m_networks.stimulus(i);
+        const Stimulus all{0.0, qInf()}; // also of a file that has grown
+        shown.stimuli << (stimulus == m_networks.limits(i) ? all : stimulus);
+        shown.corrections << m_networks.correction(i);
+    }
+    return shown;
+}
+
+void PanelModel::arrangeAs(const Arrangement &arrangement)
+{
+    for (int i = 0; i < m_networks.count(); ++i) {
+        m_networks.setCorrection(i, arrangement.corrections.at(i));
+        if (m_shown == Source::Files) // devices measure what is to be shown
+            m_networks.setStimulus(i, arrangement.stimuli.at(i));
+    }
+    // How markers behave is a matter of all sources.
+    const bool discrete = markersDiscrete(), coupled = markersCoupled();
+    m_traces = arrangement.traces;
+    m_markers = arrangement.markers;
+    m_markers.setDiscrete(discrete);
+    m_markers.setCoupled(coupled, m_traces.active() ? m_traces.active()->id : 0);
+    m_zooms = arrangement.zooms;
+}
+
 void PanelModel::openNetworks(const QVector<Network> &networks)
+{
+    openFiles(networks, false);
+}
+
+void PanelModel::openFiles(const QVector<Network> &networks, bool arranged)
 {
     const bool measured = m_source != Source::Files;
     m_source = Source::Files;
@@ -36,7 +88,7 @@ void PanelModel::openNetworks(const QVector<Network> &networks)
     m_sourceState = {};
     m_showsMeasurement = false;
     m_files = networks;
-    replaceNetworks(networks);
+    replaceNetworks(networks, arranged);
     if (measured)
         Q_EMIT sourceChanged();
 }
@@ -46,7 +98,7 @@ void PanelModel::beginMeasurement(const Network &network)
     if (m_source == Source::Files)
         return;
     m_showsMeasurement = true;
-    replaceNetworks({network});
+    replaceNetworks({network}, true);
 }
 
 bool PanelModel::updateNetwork(int index, const Network &network)
@@ -118,7 +170,7 @@ void PanelModel::setSource(Source source)
 {
     if (source == Source::Files) {
         if (m_source != Source::Files)
-            openNetworks(QVector<Network>(m_files));
+            openFiles(QVector<Network>(m_files), true);
         return;
     }
     const bool wasSimulated = isSimulated(m_source);
@@ -128,7 +180,7 @@ void PanelModel::setSource(Source source)
     // The first data of an instrument may take long, and nobody shall take a simulation for them.
     if (source == Source::Instrument && wasSimulated) {
         m_showsMeasurement = false;
-        replaceNetworks(QVector<Network>(m_files));
+        replaceNetworks(QVector<Network>(m_files), true);
     }
     const Sweep sweep = isSimulated(source)
         ? defaultSweep(source, qMin(m_sweep.points, Sweep::maximumPoints))

@@ -117,6 +117,7 @@ public:
 
     /// A simulated source begins with its default sweep, an instrument with its own; the data
     /// replace the networks when the first come. Going back to files shows those of before at once.
+    /// Each source comes back as it was arranged (traces, markers, zooms), if it has the same ports.
     void setSource(Source source);
     /// Goes to the instrument at this address, also to the one that is the source already.
     void setInstrument(const QString &address);
@@ -295,8 +296,21 @@ Q_SIGNALS:
 private:
     friend class TraceChanges;
 
+    /// How networks are shown: all that they do not hold themselves.
+    struct Arrangement {
+        QVector<int> ports; ///< of the networks, in their order
+        QVector<Stimulus> stimuli;
+        QVector<Correction> corrections;
+        Traces traces;
+        Markers markers;
+        std::map<DiagramId, Zoom> zooms;
+    };
+
     bool sweeps() const;
-    void replaceNetworks(const QVector<Network> &networks);
+    void openFiles(const QVector<Network> &networks, bool arranged);
+    void replaceNetworks(const QVector<Network> &networks, bool arranged);
+    Arrangement shownArrangement() const;
+    void arrangeAs(const Arrangement &arrangement);
     bool holdsIndex(int traceId, double index) const;
     void placeMarker(int traceId, int number, double index);
     void tell(const Markers::Changes &changes);
@@ -314,6 +328,8 @@ private:
     SourceLimits m_sourceLimits;
     SourceState m_sourceState;
     bool m_showsMeasurement = false;
+    Source m_shown = Source::Files; ///< whose networks are on show; a new source has none at first
+    std::map<Source, Arrangement> m_arrangements; ///< of the sources that were on show before
     QVector<Network> m_files; ///< kept while a measurement is on show
     Sweep m_sweep;
     Acquisition m_acquisition;

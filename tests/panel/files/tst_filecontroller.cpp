@@ -180,6 +180,23 @@ private Q_SLOTS:
         QTRY_COMPARE(desk.model.networks().last().points(), 4);
         QCOMPARE(desk.model.networks().first().points(), 1);
         QCOMPARE(desk.model.traces().size(), 6);
+
+        // What was arranged of the other file stays.
+        const QString data = "[Version] 2.0\n# Hz S RI R 50\n[Number of Ports] %1\n"
+                             "%2[Number of Frequencies] 1\n[Network Data]\n%3\n[End]\n"_s;
+        const QString c = desk.write("c.ts", data.arg("1"_s, QString(), "1 1 0"_s).toUtf8());
+        QVERIFY(desk.open({c, b}));
+        desk.model.setTraceFormat(3, TraceFormat::GroupDelay);
+        desk.write(
+            "c.ts",
+            data.arg("2"_s, "[Two-Port Data Order] 12_21\n"_s, "1 1 0 .2 0 .2 0 1 0"_s).toUtf8());
+        QTRY_COMPARE(desk.bar()->message(), "c.ts has changed on disk."_s);
+        desk.click(desk.action());
+        QTRY_COMPARE(desk.model.networks().first().ports, 2);
+        const QVector<Trace> traces = desk.model.traces();
+        QVERIFY(std::any_of(traces.begin(), traces.end(), [](const Trace &trace) {
+            return trace.network == 1 && trace.format == TraceFormat::GroupDelay;
+        }));
     }
 
     void tellsOfChangesWhileSimulating()

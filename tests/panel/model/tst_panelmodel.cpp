@@ -320,6 +320,53 @@ private Q_SLOTS:
         QCOMPARE(model.trace(2)->scale, traits(TraceFormat::LogMagnitude).defaultScale);
     }
 
+    /// What was arranged of files is there again after a measurement, and the other way round.
+    void sourcesKeepTheirArrangement()
+    {
+        const Network twoPort = network(2, {1e9, 2e9, 3e9});
+        PanelModel model;
+        const auto arrange = [&model](TraceFormat format, double hertz) {
+            model.setTraceFormat(1, format);
+            model.storeMemory(2);
+            model.addMarker(2, 1.0);
+            model.setZoom({DiagramKind::Cartesian, 0}, {hertz / 1e9, 0.5, 0.5});
+        };
+        const auto check = [&model](TraceFormat format, double hertz) {
+            QCOMPARE(model.trace(1)->format, format);
+            QVERIFY(model.memory(2) && !model.memory(1));
+            QCOMPARE(model.markersOf(2).size(), 1);
+            QCOMPARE(model.zoom({DiagramKind::Cartesian, 0}).factor, hertz / 1e9);
+        };
+        model.openNetworks({twoPort});
+        arrange(TraceFormat::Phase, 2e9);
+        model.setStimulus(*model.trace(1), {1.5e9, 3e9});
+        model.setSource(Source::Filter);
+        check(TraceFormat::Phase, 2e9); // until there is something to show
+        model.beginMeasurement(twoPort);
+        QCOMPARE(model.trace(1)->format, TraceFormat::Smith);
+        QVERIFY(model.markers().isEmpty() && model.memories().isEmpty());
+        arrange(TraceFormat::GroupDelay, 3e9);
+        model.setMarkersDiscrete(true);
+
+        model.setSource(Source::Files);
+        check(TraceFormat::Phase, 2e9);
+        QCOMPARE(model.stimulus(*model.trace(1)).start, 1.5e9);
+        QVERIFY(model.markersDiscrete());
+        model.setSource(Source::Antenna);
+        model.beginMeasurement(network(1));
+        model.setSource(Source::Filter);
+        model.beginMeasurement(twoPort);
+        check(TraceFormat::GroupDelay, 3e9);
+        // Read again with other ports, and opened anew: all is as at first.
+        model.updateFile(0, network(1));
+        model.setSource(Source::Files);
+        QCOMPARE(model.trace(1)->format, TraceFormat::Smith);
+        model.setSource(Source::Filter);
+        model.beginMeasurement(twoPort);
+        model.openNetworks({twoPort});
+        QCOMPARE(model.trace(1)->format, TraceFormat::Smith);
+    }
+
     void sourcesTakeTurns()
     {
         PanelModel model;
