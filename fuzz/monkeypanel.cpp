@@ -262,9 +262,15 @@ void Desk::countChanges()
         };
     };
     QObject::connect(model, &PanelModel::networksChanged, model, [this] { ++m_loads; });
-    for (const auto signal :
-         {&PanelModel::markerAdded, &PanelModel::markerMoved, &PanelModel::markerRemoved})
+    for (const auto signal : {&PanelModel::markerAdded, &PanelModel::markerRemoved})
         QObject::connect(model, signal, model, count("a marker"));
+    QObject::connect(model, &PanelModel::markerMoved, model,
+                     [model, moved = count("a marker")](int trace, int number) {
+                         // One that tracks a maximum goes where the next sweep has it.
+                         const Panel::Marker *marker = model->marker(trace, number);
+                         if (marker && marker->tracking == Panel::Tracking::Off)
+                             moved();
+                     });
     QObject::connect(model, &PanelModel::zoomChanged, model, count("a zoom"));
     QObject::connect(model, &PanelModel::traceScaleChanged, model, count("a scale"));
     QObject::connect(model, &PanelModel::traceVisibleChanged, model, count("a visible trace"));
