@@ -534,6 +534,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::LimitKeys</name>
+    <message>
+        <source>Two taps on a free place of the diagram add a limit line.</source>
+        <translation>Zweimal auf eine freie Stelle des Diagramms tippen fügt eine Grenzlinie hinzu.</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>unter</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>über</translation>
+    </message>
+</context>
+<context>
     <name>Panel::LimitSheet</name>
     <message>
         <source>A limit line is what the trace must stay below, or above.</source>
@@ -586,6 +601,20 @@
     <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LineEditor</name>
+    <message numerus="yes">
+        <source>A trace can have %n limit line(s).</source>
+        <translation>
+            <numerusform>Eine Messkurve kann %n Grenzlinie haben.</numerusform>
+            <numerusform>Eine Messkurve kann %n Grenzlinien haben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3</source>
+        <translation>%1 bis %2: %3</translation>
     </message>
 </context>
 <context>
@@ -1173,6 +1202,14 @@
     <message>
         <source>Table</source>
         <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>Seite</translation>
     </message>
 </context>
 <context>

@@ -53,6 +53,16 @@
     </message>
 </context>
 <context>
+    <name>Panel::LineEditor</name>
+    <message numerus="yes">
+        <source>A trace can have %n limit line(s).</source>
+        <translation>
+            <numerusform>A trace can have %n limit line.</numerusform>
+            <numerusform>A trace can have %n limit lines.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Panel::PanelWindow</name>
     <message numerus="yes">
         <source>%n files</source>

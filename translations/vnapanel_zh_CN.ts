@@ -528,6 +528,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::LimitKeys</name>
+    <message>
+        <source>Two taps on a free place of the diagram add a limit line.</source>
+        <translation>在图中空白处双击可添加一条限制线。</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>低于</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>高于</translation>
+    </message>
+</context>
+<context>
     <name>Panel::LimitSheet</name>
     <message>
         <source>A limit line is what the trace must stay below, or above.</source>
@@ -580,6 +595,19 @@
     <message>
         <source>Remove</source>
         <translation>移除</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LineEditor</name>
+    <message numerus="yes">
+        <source>A trace can have %n limit line(s).</source>
+        <translation>
+            <numerusform>一条轨迹最多可有 %n 条限制线。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3</source>
+        <translation>%1 至 %2：%3</translation>
     </message>
 </context>
 <context>
@@ -1167,6 +1195,14 @@
     <message>
         <source>Table</source>
         <translation>表格</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>方向</translation>
     </message>
 </context>
 <context>

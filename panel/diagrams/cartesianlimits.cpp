@@ -59,11 +59,12 @@ void CartesianLimits::show(const Trace &trace, const TraceData &data, QCPAxis *v
     }
     Drawn &drawn = m_drawn[trace.id];
     if (!drawn.lines) {
-        drawn.lines = addGraph(m_plot, values);
+        drawn.lines = new QCPCurve(m_plot->xAxis, values);
+        drawn.lines->setSelectable(QCP::stNone);
         drawn.failures = addGraph(m_plot, values);
         setLook(drawn);
     }
-    drawn.lines->setData(frequencies, bounds, true);
+    drawn.lines->setData(frequencies, bounds);
     drawn.verdict = testLimits(data, trace.format, trace.limits);
     const QVector<int> &failing = drawn.verdict.failing;
     drawn.firstFailure = failing.isEmpty() ? 0.0 : data.frequencies.at(failing.constFirst());
@@ -87,13 +88,15 @@ void CartesianLimits::remove(int traceId)
     const auto found = m_drawn.find(traceId);
     if (found == m_drawn.end())
         return;
-    m_plot->removeGraph(found->second.lines);
+    m_plot->removePlottable(found->second.lines);
     m_plot->removeGraph(found->second.failures);
     m_drawn.erase(found);
 }
 
 void CartesianLimits::forget()
 {
+    for (const auto &[id, drawn] : m_drawn)
+        m_plot->removePlottable(drawn.lines);
     m_drawn.clear();
     showVerdict();
 }

@@ -24,15 +24,15 @@ public:
     /// Tests a trace, and draws its limits against its values in a diagram of so many columns.
     /// Without limits, or hidden, it has neither lines nor a part in the verdict.
     void show(const Trace &trace, const TraceData &data, QCPAxis *values, int columns);
-    /// To be called when the graphs of the plot are gone.
+    /// Ends it for all traces; to be called when the graphs of the plot are gone.
     void forget();
     void recolor();
     void showVerdict();
 
 private:
-    /// What there is of a trace; graphs of the plot.
+    /// What there is of a trace; owned by the plot.
     struct Drawn {
-        QCPGraph *lines = nullptr;
+        QCPCurve *lines = nullptr; ///< which may lie over each other
         QCPGraph *failures = nullptr;
         LimitVerdict verdict;
         double firstFailure = 0.0; ///< in Hz

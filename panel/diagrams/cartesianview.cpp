@@ -37,9 +37,11 @@ CartesianView::CartesianView(const PanelModel *model, const DiagramId &id, QWidg
     connect(m_fitButton, &QPushButton::clicked, this,
             [this] { Q_EMIT fitRequested(m_fitButton->trace()); });
     connect(m_model, &PanelModel::limitsChanged, this, [this](int traceId) {
-        if (!follows(traceId))
+        if (!follows(traceId) || m_laidOut.isEmpty())
             return;
-        fillLine(*m_model->trace(traceId));
+        const Trace &trace = *m_model->trace(traceId);
+        m_limits.show(trace, m_model->traceData(trace), m_lines.at(traceId).values,
+                      m_laidOut.width());
         placeReadOuts();
         replotLater();
     });

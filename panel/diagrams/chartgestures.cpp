@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chartgestures.h"
 
+#include "limiteditor.h"
 #include "tracewalker.h"
 
 #include <panel/ground/pointerevent.h>
@@ -49,12 +50,19 @@ TraceWalker *walkerOf(const DiagramView *view)
     return view->findChild<TraceWalker *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
+/// Null where traces cannot have limits.
+LimitEditor *limitEditorOf(const DiagramView *view)
+{
+    return view->findChild<LimitEditor *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
 } // namespace
 
 ChartGestures::ChartGestures(PanelModel *model, DiagramView *view)
     : QObject(view)
     , m_model(model)
     , m_view(view)
+    , m_limits(limitEditorOf(view))
 {
     QCustomPlot *plot = view->plot();
     connect(plot, &QCustomPlot::mouseWheel, this, &ChartGestures::onWheel);
@@ -92,7 +100,7 @@ bool ChartGestures::eventFilter(QObject *watched, QEvent *event)
     case QEvent::WindowDeactivate:
     case QEvent::TouchCancel:
         // The release may never come.
-        m_drag = Drag::None;
+        endDrag();
         break;
     default:
         break;
@@ -129,6 +137,10 @@ void ChartGestures::onPress(QMouseEvent *event)
     if (event->button() != Qt::LeftButton)
         return;
     m_pressed = pointerPosition(event);
+    if (m_limits && m_limits->press(m_pressed)) {
+        m_drag = Drag::Limit;
+        return;
+    }
     m_hit = m_view->hit(m_pressed);
     m_drag = m_hit.kind == Hit::MarkerBody ? Drag::Marker : Drag::Pressed;
     if (m_drag != Drag::Marker)
@@ -141,8 +153,10 @@ void ChartGestures::onMove(QMouseEvent *event)
 {
     // A release that was lost ends the drag here.
     if (!event->buttons().testFlag(Qt::LeftButton))
-        m_drag = Drag::None;
+        endDrag();
     const QPointF position = pointerPosition(event);
+    if (m_drag == Drag::Limit)
+        m_limits->dragTo(position);
     if (m_drag == Drag::Marker && m_model->marker(m_hit.trace, m_hit.marker))
         m_view->dragTo(m_hit.trace, m_hit.marker, position);
     if (m_drag == Drag::Pressed) {
@@ -166,15 +180,24 @@ void ChartGestures::onRelease()
         else
             activate();
     }
+    endDrag();
+}
+
+void ChartGestures::endDrag()
+{
+    if (m_drag == Drag::Limit)
+        m_limits->release();
     m_drag = Drag::None;
 }
 
 void ChartGestures::onDoubleClick(QMouseEvent *event)
 {
-    m_drag = Drag::None;
+    endDrag();
     if (event->button() != Qt::LeftButton)
         return;
     const Hit hit = m_view->hit(pointerPosition(event));
+    if (hit.kind == Hit::Nothing && m_limits)
+        m_limits->addAt(pointerPosition(event));
     if (hit.kind != Hit::Line)
         return;
     m_model->setActiveTrace(hit.trace);
@@ -187,6 +210,8 @@ bool ChartGestures::onGesture(QGestureEvent *event)
     if (!pinch)
         return false;
     // The first finger of the two came as a mouse press.
+    if (m_drag == Drag::Limit)
+        m_limits->giveUp();
     m_drag = Drag::None;
     const QPointF centre = m_view->plot()->mapFromGlobal(pinch->centerPoint().toPoint());
     if (pinch->state() == Qt::GestureStarted) {
@@ -200,7 +225,8 @@ bool ChartGestures::onGesture(QGestureEvent *event)
 
 bool ChartGestures::handleKey(PanelModel *model, DiagramView *view, const QKeyEvent *event)
 {
-    if (walkerOf(view)->handleKey(event))
+    LimitEditor *limits = limitEditorOf(view);
+    if ((limits && limits->handleKey(event)) || walkerOf(view)->handleKey(event))
         return true;
     const Marker *selected = model->selectedMarker();
     const auto zoom = [=](double factor) {

@@ -15,11 +15,13 @@ class QWheelEvent;
 namespace Panel
 {
 
+class LimitEditor;
+
 /*! Answers pointer, touch and keys on a diagram.
 
     Diagrams report what lies under a finger and never act; this is where the panel decides what a
     gesture does. The wheel and two fingers zoom about their point; a drag moves the marker under it
-    or else a magnified view; a tap selects a marker, or activates a trace; a double tap on a trace
+    or else a magnified view; while limits are edited, first of all a limit; a tap selects a marker, or activates a trace; a double tap on a trace
     marks it. Keys on the diagram: + and -, 0, the arrows, of which left and right move a selected
     marker by a step of the screen or, with Ctrl, by a point; Escape and Delete. */
 class ChartGestures : public QObject
@@ -41,6 +43,7 @@ private:
     void onRelease();
     void onDoubleClick(QMouseEvent *event);
     bool onGesture(QGestureEvent *event);
+    void endDrag();
     void activate();
 
     /// What the pressed pointer is doing.
@@ -48,11 +51,13 @@ private:
         None, ///< nothing of ours: no button, two fingers
         Pressed, ///< not yet far enough to tell a drag from a tap
         Marker,
+        Limit,
         Panning,
     };
 
     PanelModel *m_model;
     DiagramView *m_view;
+    LimitEditor *m_limits; ///< or null
     Drag m_drag = Drag::None;
     Hit m_hit; ///< what lay under the press
     QPointF m_pressed;

@@ -6,6 +6,7 @@
 #include "chartgestures.h"
 #include "diagramreader.h"
 #include "largereading.h"
+#include "limiteditor.h"
 #include "polarview.h"
 #include "smithview.h"
 #include "tracewalker.h"
@@ -130,6 +131,10 @@ DiagramView *Diagrams::view(const DiagramId &id)
     connect(view->plot(), &QCustomPlot::mouseMove, this,
             [this, view = view](const QMouseEvent *event) { tellPointer(view, event); });
     (new LargeReading(m_model, view))->setWanted(m_largeReading);
+    if (const LimitEditor *limits = makeLimitEditor(m_model, view)) {
+        connect(limits, &LimitEditor::said, reader, &DiagramReader::announce);
+        connect(limits, &LimitEditor::said, this, &Diagrams::said);
+    }
     new ChartGestures(m_model, view);
     view->plot()->installEventFilter(this);
     return view;

@@ -118,6 +118,9 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
 
     menu->addPage(Text::tr("Limits"), Glyph::Limits);
     keys.limitLines = menu->addKey(Text::tr("Limit lines"));
+    keys.editLimits = addSwitch(menu, Text::tr("Edit"));
+    std::tie(keys.limitSide, keys.removeLimit) =
+        addPair(menu, Text::tr("Side"), Text::tr("Remove"));
     keys.vswrCircle = menu->addKey(Text::tr("VSWR circle"));
     keys.vswrLimit = menu->addKey(Text::tr("VSWR limit"));
 

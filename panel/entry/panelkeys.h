@@ -53,6 +53,9 @@ struct PanelKeys {
     SwitchButton *markerTable;
     // Limits
     SoftKey *limitLines; ///< that the active trace must stay above or below
+    SwitchButton *editLimits; ///< in the diagram
+    SoftKey *limitSide; ///< of the selected limit
+    SoftKey *removeLimit;
     SoftKey *vswrCircle; ///< a circle on the Smith charts, to read against
     SoftKey *vswrLimit; ///< an area that traces on the Smith charts must stay in
     // Display, below the choice of the layout, which the library brings

@@ -6,6 +6,7 @@
 
 #include <panel/model/panelmodel.h>
 
+#include <QGuiApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -31,7 +32,13 @@ History::History(PanelModel *model, QObject *parent)
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(pause);
-    connect(&m_timer, &QTimer::timeout, this, &History::record);
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        // A finger that rests goes on with its drag.
+        if (QGuiApplication::mouseButtons() == Qt::NoButton)
+            record();
+        else
+            m_timer.start();
+    });
     followModel();
     m_openings = {shownFiles()};
     m_steps = {shownStep()};

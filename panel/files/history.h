@@ -15,9 +15,9 @@ class PanelModel;
 /*! Takes back what the user changes of the view, the traces, the limits and the markers, step by
     step, and does it again; also which files are on show, and what was stored of traces.
 
-    A step is whatever has changed until nothing does for a moment: a drag is one step. Steps share
-    the data of files and memories with the panel. The data of a measurement are no part of them: a
-    history begins and ends with a source. */
+    A step is whatever has changed until nothing does for a moment and no finger is down: a drag is
+    one step. Steps share the data of files and memories with the panel. The data of a measurement
+    are no part of them: a history begins and ends with a source. */
 class History : public QObject
 {
     Q_OBJECT
@@ -35,10 +35,7 @@ public:
     explicit History(PanelModel *model, QObject *parent = nullptr);
 
     /// False while what a source begins with is still coming: there is nothing before it.
-    bool canUndo() const
-    {
-        return m_current > 0 || (m_timer.isActive() && !m_steps.isEmpty());
-    }
+    bool canUndo() const { return m_current > 0 || (m_timer.isActive() && !m_steps.isEmpty()); }
     bool canRedo() const { return m_current + 1 < m_steps.size() && !m_timer.isActive(); }
 
 public Q_SLOTS:

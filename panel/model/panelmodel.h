@@ -4,6 +4,7 @@
 
 #include "cartesian.h"
 #include "diagramplan.h"
+#include "limitediting.h"
 #include "markers.h"
 #include "measurementsource.h"
 #include "networks.h"
@@ -194,6 +195,7 @@ public:
         @{ */
     ViewSettings *viewSettings() { return &m_viewSettings; }
     const ViewSettings *viewSettings() const { return &m_viewSettings; }
+    LimitEditing *limitEditing() { return &m_limitEditing; }
     /// The diagrams of the present layout in reading order.
     QVector<PlannedDiagram> diagrams() const;
     /// The diagram that shows a trace, or would if it were in the layout.
@@ -322,6 +324,7 @@ private:
     Markers m_markers;
     std::map<DiagramId, Zoom> m_zooms; ///< of diagrams that do not show all
     ViewSettings m_viewSettings;
+    LimitEditing m_limitEditing;
     Preferences m_preferences;
     Source m_source = Source::Files;
     QString m_instrument;

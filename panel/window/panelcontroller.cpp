@@ -17,6 +17,7 @@
 #include <panel/diagrams/markertable.h>
 #include <panel/diagrams/tracesound.h>
 #include <panel/entry/displaykeys.h>
+#include <panel/entry/limitkeys.h>
 #include <panel/entry/markercontroller.h>
 #include <panel/entry/mathkeys.h>
 #include <panel/entry/numerickeys.h>
@@ -88,6 +89,8 @@ void PanelController::makeEntry()
     connect(numbers, &NumericKeys::said, bar, &MessageBar::notify);
     new DisplayKeys(m_model, keys, this);
     new TraceController(m_model, keys, m_window->traceBar(), numbers, m_window, this);
+    auto *limits = new LimitKeys(m_model, keys, this);
+    connect(limits, &LimitKeys::said, bar, &MessageBar::notify);
     new MathKeys(m_model, keys, numbers, this);
     auto *markers = new MarkerController(m_model, keys, numbers, this);
     connect(markers, &MarkerController::said, bar, &MessageBar::notify);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desk.h"
 
+#include <panel/entry/limitsheet.h>
+#include <panel/entry/parametermatrix.h>
 #include <widgets/menubutton.h>
 
 #include <QAbstractSpinBox>
@@ -99,6 +101,25 @@ private Q_SLOTS:
         }
         desk.click(keys.start);
         look("keypad"_s);
+        desk.press(Qt::Key_Escape);
+        // On a trace over the frequency, with a parameter to choose and limits to enter.
+        desk.openSamples({"band-pass.s2p"_s});
+        desk.model.setActiveTrace(3);
+        desk.click(keys.parameter);
+        QVERIFY(desk.window.findChild<ParameterMatrix *>());
+        look("parameters"_s);
+        desk.press(Qt::Key_Escape);
+        desk.click(keys.limitLines);
+        auto *sheet = desk.window.findChild<LimitSheet *>();
+        QVERIFY(sheet);
+        for (int line = 0; line < 2; ++line) {
+            QPushButton *add = nullptr;
+            const auto buttons = sheet->findChildren<QPushButton *>();
+            for (QPushButton *button : buttons)
+                add = button->text() == "Add a line"_s ? button : add;
+            desk.click(add);
+        }
+        look("limit lines"_s);
         desk.press(Qt::Key_Escape);
         QVERIFY2(small.isEmpty(), qPrintable(small.join(QLatin1Char('\n'))));
     }
