@@ -13,6 +13,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::CircleEditor</name>
+    <message>
+        <source>There is one limit circle for all Smith charts.</source>
+        <translation>Für alle Smith-Diagramme gibt es einen Grenzkreis.</translation>
+    </message>
+    <message>
+        <source>VSWR %1</source>
+        <translation>VSWR %1</translation>
+    </message>
+    <message>
+        <source>Γ %1 ∠ %2°, radius %3</source>
+        <translation>Γ %1 ∠ %2°, Radius %3</translation>
+    </message>
+</context>
+<context>
     <name>Panel::DiagramReader</name>
     <message>
         <source>%1 from %2 to %3: highest %4 at %5, lowest %6 at %7.</source>
@@ -118,6 +133,10 @@
     <message>
         <source>Logarithmic</source>
         <translation>Logarithmisch</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Kreis</translation>
     </message>
 </context>
 <context>
@@ -536,16 +555,28 @@
 <context>
     <name>Panel::LimitKeys</name>
     <message>
-        <source>Two taps on a free place of the diagram add a limit line.</source>
-        <translation>Zweimal auf eine freie Stelle des Diagramms tippen fügt eine Grenzlinie hinzu.</translation>
-    </message>
-    <message>
         <source>below</source>
         <translation>unter</translation>
     </message>
     <message>
         <source>above</source>
         <translation>über</translation>
+    </message>
+    <message>
+        <source>A polar diagram has no limits.</source>
+        <translation>Ein Polardiagramm hat keine Grenzen.</translation>
+    </message>
+    <message>
+        <source>Two taps on a free place of the diagram add a limit.</source>
+        <translation>Zweimal auf eine freie Stelle des Diagramms tippen fügt eine Grenze hinzu.</translation>
+    </message>
+    <message>
+        <source>outside</source>
+        <translation>außerhalb</translation>
+    </message>
+    <message>
+        <source>inside</source>
+        <translation>innerhalb</translation>
     </message>
 </context>
 <context>
@@ -613,8 +644,10 @@
         </translation>
     </message>
     <message>
-        <source>%1 to %2: %3</source>
-        <translation>%1 bis %2: %3</translation>
+        <source>%1 to %2
+%3</source>
+        <translation>%1 bis %2
+%3</translation>
     </message>
 </context>
 <context>

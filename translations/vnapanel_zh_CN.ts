@@ -13,6 +13,21 @@
     </message>
 </context>
 <context>
+    <name>Panel::CircleEditor</name>
+    <message>
+        <source>There is one limit circle for all Smith charts.</source>
+        <translation>所有史密斯圆图共用一个限制圆。</translation>
+    </message>
+    <message>
+        <source>VSWR %1</source>
+        <translation>VSWR %1</translation>
+    </message>
+    <message>
+        <source>Γ %1 ∠ %2°, radius %3</source>
+        <translation>Γ %1 ∠ %2°，半径 %3</translation>
+    </message>
+</context>
+<context>
     <name>Panel::DiagramReader</name>
     <message>
         <source>%1 from %2 to %3: highest %4 at %5, lowest %6 at %7.</source>
@@ -117,6 +132,10 @@
     <message>
         <source>Logarithmic</source>
         <translation>对数</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>圆</translation>
     </message>
 </context>
 <context>
@@ -530,16 +549,28 @@
 <context>
     <name>Panel::LimitKeys</name>
     <message>
-        <source>Two taps on a free place of the diagram add a limit line.</source>
-        <translation>在图中空白处双击可添加一条限制线。</translation>
-    </message>
-    <message>
         <source>below</source>
         <translation>低于</translation>
     </message>
     <message>
         <source>above</source>
         <translation>高于</translation>
+    </message>
+    <message>
+        <source>A polar diagram has no limits.</source>
+        <translation>极坐标图没有限制。</translation>
+    </message>
+    <message>
+        <source>Two taps on a free place of the diagram add a limit.</source>
+        <translation>在图中空白处双击可添加限制。</translation>
+    </message>
+    <message>
+        <source>outside</source>
+        <translation>圆外</translation>
+    </message>
+    <message>
+        <source>inside</source>
+        <translation>圆内</translation>
     </message>
 </context>
 <context>
@@ -606,8 +637,10 @@
         </translation>
     </message>
     <message>
-        <source>%1 to %2: %3</source>
-        <translation>%1 至 %2：%3</translation>
+        <source>%1 to %2
+%3</source>
+        <translation>%1 至 %2
+%3</translation>
     </message>
 </context>
 <context>

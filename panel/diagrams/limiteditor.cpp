@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "limiteditor.h"
 
+#include "circleeditor.h"
 #include "lineeditor.h"
 #include "readouts.h"
 
@@ -108,7 +109,8 @@ void LimitEditor::follow()
 {
     QCustomPlot *plot = m_view->plot();
     // A handle may lie under the read-outs.
-    m_view->readOuts()->setAttribute(Qt::WA_TransparentForMouseEvents, edited());
+    if (m_view->id().kind == DiagramKind::Cartesian)
+        m_view->readOuts()->setAttribute(Qt::WA_TransparentForMouseEvents, edited());
     if (!edited()) {
         m_pressed = false;
         if (m_item) {
@@ -347,6 +349,8 @@ LimitEditor *makeLimitEditor(PanelModel *model, DiagramView *view)
 {
     if (auto *cartesian = qobject_cast<CartesianView *>(view))
         return new LineEditor(model, cartesian);
+    if (auto *smith = qobject_cast<SmithView *>(view))
+        return new CircleEditor(model, smith);
     return nullptr;
 }
 

@@ -242,7 +242,7 @@ QString LineEditor::text(const Grip &grip) const
         return atStart;
     if (grip.part == LimitPart::Stop)
         return atStop;
-    return start == stop ? tr("%1 to %2: %3").arg(from, to, start)
+    return start == stop ? tr("%1 to %2\n%3").arg(from, to, start)
                          : atStart + QLatin1Char('\n') + atStop;
 }
 

@@ -16,12 +16,6 @@ namespace Panel
 namespace
 {
 
-/// The magnitude of reflection of a standing wave ratio S: (S - 1) / (S + 1).
-double reflectionOf(double ratio)
-{
-    return (ratio - 1.0) / (ratio + 1.0);
-}
-
 SmithChart::Preset presetOf(GridDensity density)
 {
     return density == GridDensity::Basic   ? SmithChart::Basic
@@ -98,14 +92,16 @@ void SmithView::showGrid()
 /// Gives each trace the area that it must stay in; one of them draws it.
 void SmithView::showLimit()
 {
-    const double ratio = m_model->viewSettings()->vswrLimit();
+    const LimitCircle &circle = m_model->viewSettings()->limitCircle();
     for (const auto &[id, limit] : m_limits)
         delete limit;
     m_limits.clear();
     const Look look = currentLook();
-    if (ratio > 1.0) {
+    if (!circle.isNone()) {
         SmithChart::LimitArea area;
-        area.setCircle({0.0, 0.0}, reflectionOf(ratio), SmithChart::LimitArea::StayInside);
+        area.setCircle(circle.centre, circle.radius,
+                       circle.keepOut ? SmithChart::LimitArea::KeepOut
+                                      : SmithChart::LimitArea::StayInside);
         for (const Trace &trace : traces()) {
             auto *limit = new SmithLimit(chart());
             limit->setArea(area);

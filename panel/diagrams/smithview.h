@@ -16,7 +16,7 @@ namespace Panel
 {
 
 /*! Traces on a Smith chart, with a circle of constant standing wave ratio to read against, and one
-    that traces must stay in.
+    that traces must stay in, or keep out of.
 
     The chart is a new object after every change of density, which is fixed when a chart is made. */
 class SmithView : public PlaneView

@@ -61,6 +61,19 @@ DisplayKeys::DisplayKeys(PanelModel *model, const PanelKeys &keys, QObject *pare
     showSettings();
 }
 
+/// A circle that was dragged may have any ratio, or none.
+void DisplayKeys::showVswrLimit()
+{
+    const ViewSettings *settings = m_model->viewSettings();
+    const double ratio = settings->vswrLimit();
+    const int choice = ratios().choiceOf(ratio);
+    if (settings->limitCircle().isNone() || choice > 0)
+        m_keys.vswrLimit->setChoice(choice);
+    else
+        m_keys.vswrLimit->setChoice(-1,
+                                    ratio > 1.0 ? QString::number(ratio, 'g', 4) : tr("Circle"));
+}
+
 void DisplayKeys::showSettings()
 {
     const ViewSettings *settings = m_model->viewSettings();
@@ -71,7 +84,7 @@ void DisplayKeys::showSettings()
     const bool automatic = settings->density() == GridDensity::Automatic;
     m_keys.gridLabels->setChoice(int(automatic ? settings->gridLabels() : GridLabels::Normalised));
     m_keys.vswrCircle->setChoice(ratios().choiceOf(settings->vswrCircle()));
-    m_keys.vswrLimit->setChoice(ratios().choiceOf(settings->vswrLimit()));
+    showVswrLimit();
     m_keys.pointer->setChoice(settings->onlyActiveTrace());
     const Trace *active = m_model->activeTrace();
     for (SoftKey *key : {m_keys.grid, m_keys.density, m_keys.pointer, m_keys.vswrCircle,

@@ -21,6 +21,7 @@ public:
 
 private:
     void showSettings();
+    void showVswrLimit();
 
     PanelModel *m_model;
     PanelKeys m_keys;

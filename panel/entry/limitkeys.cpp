@@ -22,6 +22,7 @@ LimitKeys::LimitKeys(PanelModel *model, const PanelKeys &keys, QObject *parent)
     connect(keys.removeLimit, &SoftKey::clicked, this, &LimitKeys::remove);
     connect(model->limitEditing(), &LimitEditing::changed, this, &LimitKeys::show);
     connect(model, &PanelModel::limitsChanged, this, &LimitKeys::show);
+    connect(model->viewSettings(), &ViewSettings::changed, this, &LimitKeys::show);
     connect(model, &PanelModel::tracesChanged, this, &LimitKeys::show);
     // What was selected is another trace's.
     connect(model, &PanelModel::activeTraceChanged, this, [this] {
@@ -31,47 +32,75 @@ LimitKeys::LimitKeys(PanelModel *model, const PanelKeys &keys, QObject *parent)
     show();
 }
 
+/// The trace whose limit line is selected, or null.
+const Trace *LimitKeys::lineOwner() const
+{
+    const Trace *active = m_model->activeTrace();
+    return active && isLimitOf(*active, m_model->limitEditing()->limit()) ? active : nullptr;
+}
+
+bool LimitKeys::isCircleSelected() const
+{
+    const Trace *active = m_model->activeTrace();
+    return active && active->onSmithChart() && m_model->limitEditing()->limit() == 0
+        && !m_model->viewSettings()->limitCircle().isNone();
+}
+
 void LimitKeys::setOn(bool on)
 {
     m_model->limitEditing()->setOn(on);
     const Trace *active = m_model->activeTrace();
-    bool any = false;
-    for (int i = 0; active && i < active->limits.size(); ++i)
+    if (!on || !active)
+        return;
+    bool any = active->onSmithChart() && !m_model->viewSettings()->limitCircle().isNone();
+    for (int i = 0; i < active->limits.size(); ++i)
         any = any || isLimitOf(*active, i);
-    if (on && active && active->overFrequency() && !any)
-        Q_EMIT said(tr("Two taps on a free place of the diagram add a limit line."));
+    if (!any)
+        Q_EMIT said(active->kind() == DiagramKind::Polar
+                        ? tr("A polar diagram has no limits.")
+                        : tr("Two taps on a free place of the diagram add a limit."));
 }
 
 void LimitKeys::turnSide()
 {
-    const Trace &active = *m_model->activeTrace();
-    QVector<LimitLine> limits = active.limits;
-    LimitLine &line = limits[m_model->limitEditing()->limit()];
-    line.upper = !line.upper;
-    m_model->setLimits(active.id, limits);
+    if (const Trace *trace = lineOwner()) {
+        QVector<LimitLine> limits = trace->limits;
+        LimitLine &line = limits[m_model->limitEditing()->limit()];
+        line.upper = !line.upper;
+        m_model->setLimits(trace->id, limits);
+    } else if (isCircleSelected()) {
+        LimitCircle circle = m_model->viewSettings()->limitCircle();
+        circle.keepOut = !circle.keepOut;
+        m_model->viewSettings()->setLimitCircle(circle);
+    }
 }
 
 void LimitKeys::remove()
 {
-    const Trace &active = *m_model->activeTrace();
-    QVector<LimitLine> limits = active.limits;
-    limits.remove(m_model->limitEditing()->limit());
-    m_model->limitEditing()->deselect();
-    m_model->setLimits(active.id, limits);
+    if (const Trace *trace = lineOwner()) {
+        QVector<LimitLine> limits = trace->limits;
+        limits.remove(m_model->limitEditing()->limit());
+        m_model->limitEditing()->deselect();
+        m_model->setLimits(trace->id, limits);
+    } else if (isCircleSelected()) {
+        m_model->limitEditing()->deselect();
+        m_model->viewSettings()->setLimitCircle({});
+    }
 }
 
 void LimitKeys::show()
 {
-    const LimitEditing *editing = m_model->limitEditing();
-    const Trace *active = m_model->activeTrace();
-    m_keys.editLimits->setStatus(editing->isOn());
-    m_keys.editLimits->setEnabled(active);
-    const bool selected = active && isLimitOf(*active, editing->limit());
+    m_keys.editLimits->setStatus(m_model->limitEditing()->isOn());
+    m_keys.editLimits->setEnabled(m_model->activeTrace());
+    QString side = nothingText();
+    if (const Trace *trace = lineOwner())
+        side = trace->limits.at(m_model->limitEditing()->limit()).upper ? tr("below") : tr("above");
+    else if (isCircleSelected())
+        side = m_model->viewSettings()->limitCircle().keepOut ? tr("outside") : tr("inside");
+    const bool selected = lineOwner() || isCircleSelected();
     for (SoftKey *key : {m_keys.limitSide, m_keys.removeLimit})
         key->setEnabled(selected);
-    m_keys.limitSide->setValue(!selected                                       ? nothingText()
-                                   : active->limits.at(editing->limit()).upper ? tr("below")
-                                                                               : tr("above"));
+    m_keys.limitSide->setValue(side);
     m_keys.removeLimit->setValue(selected ? QStringLiteral("\u00d7") : nothingText());
 }
 

@@ -10,6 +10,7 @@ namespace Panel
 {
 
 class PanelModel;
+struct Trace;
 
 /// Answers the keys by which limits are changed in the diagram.
 class LimitKeys : public QObject
@@ -24,6 +25,8 @@ Q_SIGNALS:
     void said(const QString &sentence);
 
 private:
+    const Trace *lineOwner() const;
+    bool isCircleSelected() const;
     void setOn(bool on);
     void turnSide();
     void remove();

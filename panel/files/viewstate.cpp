@@ -136,6 +136,21 @@ QJsonArray writtenNetworks(const PanelModel &model)
     return networks;
 }
 
+QJsonObject written(const LimitCircle &circle)
+{
+    return {{"x"_key, circle.centre.x()},
+            {"y"_key, circle.centre.y()},
+            {"radius"_key, circle.radius},
+            {"keepOut"_key, circle.keepOut}};
+}
+
+LimitCircle restoredCircle(const QJsonObject &saved)
+{
+    return {{saved["x"_key].toDouble(), saved["y"_key].toDouble()},
+            saved["radius"_key].toDouble(),
+            saved["keepOut"_key].toBool()};
+}
+
 /// What cannot be is left out.
 QVector<LimitLine> restoredLimits(const QJsonArray &saved)
 {
@@ -292,7 +307,11 @@ void restoreViewSettings(ViewSettings *view, const QJsonObject &state)
     if (isChoice(state["gridLabels"_key], gridLabelsCount))
         view->setGridLabels(GridLabels(state["gridLabels"_key].toInt()));
     view->setVswrCircle(state["vswrCircle"_key].toDouble());
-    view->setVswrLimit(state["vswrLimit"_key].toDouble());
+    // A circle around the centre was all that there was before.
+    if (state.contains("limitCircle"_key))
+        view->setLimitCircle(restoredCircle(state["limitCircle"_key].toObject()));
+    else
+        view->setVswrLimit(state["vswrLimit"_key].toDouble());
     view->setFrequencyScale(state["logarithmic"_key].toBool() ? FrequencyScale::Logarithmic
                                                               : FrequencyScale::Linear);
     view->setMarkerTable(state["markerTable"_key].toBool());
@@ -338,7 +357,7 @@ QJsonObject viewState(const PanelModel &model)
         {"density"_key, int(view->density())},
         {"gridLabels"_key, int(view->gridLabels())},
         {"vswrCircle"_key, view->vswrCircle()},
-        {"vswrLimit"_key, view->vswrLimit()},
+        {"limitCircle"_key, written(view->limitCircle())},
         {"logarithmic"_key, view->frequencyScale() == FrequencyScale::Logarithmic},
         {"markerTable"_key, view->markerTable()},
         {"bandwidth"_key, view->bandwidthDecibels()},

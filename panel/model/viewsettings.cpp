@@ -13,6 +13,29 @@ ViewSettings::ViewSettings(QObject *parent)
             &ViewSettings::changed);
 }
 
+double ViewSettings::vswrRadius() const
+{
+    const double radius = m_limitCircle.radius;
+    if (m_limitCircle.isNone() || !m_limitCircle.centre.isNull() || radius >= 1.0)
+        return 0.0;
+    // As it was entered, without the rounding of a radius.
+    constexpr double digits = 1e9;
+    return std::round((1.0 + radius) / (1.0 - radius) * digits) / digits;
+}
+
+void ViewSettings::setVswrLimit(double ratio)
+{
+    const double wanted = ratioOrNone(ratio);
+    setLimitCircle({{}, wanted > 1.0 ? (wanted - 1.0) / (wanted + 1.0) : 0.0, false});
+}
+
+void ViewSettings::setLimitCircle(const LimitCircle &circle)
+{
+    const bool valid = std::isfinite(circle.centre.x()) && std::isfinite(circle.centre.y())
+        && std::isfinite(circle.radius) && circle.radius > 0.0;
+    set(m_limitCircle, valid ? circle : LimitCircle());
+}
+
 void ViewSettings::toggleSingleDiagram()
 {
     const Graph::LayoutType now = diagramLayout();

@@ -7,6 +7,8 @@
 #include <platform/layoutmanagerprofile.h>
 #include <smithchart/smithchartplot.h>
 
+#include <QPointF>
+
 #include <cmath>
 
 namespace Panel
@@ -29,6 +31,19 @@ enum class GridLabels {
 };
 constexpr int gridLabelsCount = 2;
 
+/// A circle on the Smith chart, in units of reflection, that traces must stay in or keep out of.
+struct LimitCircle {
+    QPointF centre;
+    double radius = 0.0; ///< 0: there is none
+    bool keepOut = false;
+
+    bool isNone() const { return !(radius > 0.0); }
+    friend bool operator==(const LimitCircle &a, const LimitCircle &b)
+    {
+        return a.centre == b.centre && a.radius == b.radius && a.keepOut == b.keepOut;
+    }
+};
+
 /// How the user wants to see the traces, whatever they are: the same for all diagrams.
 class ViewSettings : public QObject
 {
@@ -45,8 +60,12 @@ public:
     GridLabels gridLabels() const { return m_gridLabels; }
     /// The standing wave ratio whose circle is drawn, or 0.
     double vswrCircle() const { return m_vswrCircle; }
+    /// What traces on a Smith chart are judged by.
+    const LimitCircle &limitCircle() const { return m_limitCircle; }
+    /// The standing wave ratio all along the circle, or 0 of one that is not around the centre.
+    double vswrRadius() const;
     /// The standing wave ratio that traces on a Smith chart must not exceed, or 0.
-    double vswrLimit() const { return m_vswrLimit; }
+    double vswrLimit() const { return m_limitCircle.keepOut ? 0.0 : vswrRadius(); }
     /// As it was chosen.
     ReadoutFormat readoutFormat() const { return m_readoutFormat; }
     /// What that means on the present grid of a Smith chart or a polar diagram: never Automatic.
@@ -76,7 +95,9 @@ public:
     void setGridLabels(GridLabels labels) { set(m_gridLabels, labels); }
     /// Anything but a finite ratio above 1 takes the circle, or the limit, away.
     void setVswrCircle(double ratio) { set(m_vswrCircle, ratioOrNone(ratio)); }
-    void setVswrLimit(double ratio) { set(m_vswrLimit, ratioOrNone(ratio)); }
+    void setVswrLimit(double ratio);
+    /// One that is not finite, or has no radius above 0, takes the limit away.
+    void setLimitCircle(const LimitCircle &circle);
     void setReadoutFormat(ReadoutFormat format) { set(m_readoutFormat, format); }
     void setOnlyActiveTrace(bool only) { set(m_onlyActiveTrace, only); }
 
@@ -105,7 +126,7 @@ private:
     GridDensity m_density = GridDensity::Automatic;
     GridLabels m_gridLabels = GridLabels::Ohms;
     double m_vswrCircle = 0.0;
-    double m_vswrLimit = 0.0;
+    LimitCircle m_limitCircle;
     double m_bandwidthDecibels = 0.0;
     ReadoutFormat m_readoutFormat = ReadoutFormat::Automatic;
     bool m_onlyActiveTrace = false;

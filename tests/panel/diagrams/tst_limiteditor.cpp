@@ -242,6 +242,53 @@ private Q_SLOTS:
         mouseDoubleClick(desk.plot(), desk.at(2.45e9, -60.0));
         QVERIFY(desk.limits().isEmpty());
     }
+
+    /// The limit of a Smith chart: as large as it is pulled, wherever it is put.
+    void circlesAreMovedAndSized()
+    {
+        LimitDesk desk;
+        desk.model.setActiveTrace(1);
+        ViewSettings *settings = desk.model.viewSettings();
+        settings->setVswrLimit(2.0);
+        desk.settle();
+        const QCustomPlot *plot = desk.view()->plot();
+        const auto at = [plot](double real, double imag) {
+            return plot->mapTo(plot->window(),
+                               QPoint(qRound(plot->xAxis->coordToPixel(real)),
+                                      qRound(plot->yAxis->coordToPixel(imag))));
+        };
+        const auto drag = [&](const QPoint &from, const QPoint &to) {
+            mouseDrag(desk.window.windowHandle(), from, to, 10);
+            desk.settle();
+        };
+        // By its lower border, where no handle is, to a reflection of one half.
+        drag(at(0.0, -1.0 / 3.0), at(0.0, -0.5));
+        const double ratio = settings->vswrLimit();
+        QVERIFY2(std::abs(ratio - 3.0) < 0.05, qPrintable(QString::number(ratio)));
+        QCOMPARE(std::round(ratio * 100.0), ratio * 100.0);
+        QTest::qWait(History::pause + 100);
+        drag(at(0.0, 0.0), at(0.0, -0.7));
+        QCOMPARE(settings->vswrLimit(), 0.0);
+        QCOMPARE(desk.keys().vswrLimit->value(), "Circle"_s);
+        QVERIFY(std::abs(settings->limitCircle().centre.y() + 0.7) < 0.01);
+        QVERIFY(desk.view()->verdict()->text().contains("FAIL"_s));
+        desk.click(desk.keys().limitSide);
+        QVERIFY(settings->limitCircle().keepOut);
+        desk.click(desk.keys().limitSide);
+        QTest::qWait(History::pause + 100);
+        // Beyond the chart it stops at the rim; near the centre it is one of constant VSWR again.
+        drag(at(0.0, -0.7), at(0.0, -1.02) + QPoint(300, 0));
+        QVERIFY(std::hypot(settings->limitCircle().centre.x(), settings->limitCircle().centre.y())
+                < 1.0 + 1e-9);
+        const QPointF rim = settings->limitCircle().centre;
+        drag(at(rim.x(), rim.y()), at(0.0, 0.0) + QPoint(3, -4));
+        QCOMPARE(settings->vswrLimit(), ratio);
+        desk.press(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(std::abs(settings->limitCircle().centre.y() + 0.7) < 0.01);
+        desk.click(desk.keys().removeLimit);
+        QVERIFY(settings->limitCircle().isNone());
+        QVERIFY(!desk.view()->verdict()->isVisible());
+    }
 };
 
 QTEST_MAIN(LimitEditorTest)
