@@ -11,11 +11,11 @@ namespace Panel
 namespace
 {
 
-/// Of the word, in pixels: to be read from two metres, and where there is no room for that.
-constexpr int s_large = 24;
-constexpr int s_small = 14;
+/// Of the word, in pixels. On a panel of seven inches the capitals of the largest are 6.7 mm high, 11
+/// minutes of arc from two metres; smaller ones are for diagrams without the room.
+constexpr int s_words[] = {48, 40, 32, 24, 14};
 /// Of the diagram's width and height, at most.
-constexpr double s_shareOfDiagram = 0.4;
+constexpr double s_shareOfDiagram = 0.5;
 
 } // namespace
 
@@ -35,10 +35,13 @@ void Verdict::show(bool tested, const QVector<Failure> &failures)
     if (!tested)
         return;
     const Look look = currentLook();
+    // What fails is filled: the difference is seen from afar, and without colours.
+    const QString border = (failures.isEmpty() ? look.pass : look.fail).name();
     const QString sheet =
         QStringLiteral("padding: 3px 10px; border: 1px solid %1; border-radius: 4px; "
-                       "background: %2; color: %1; font-weight: bold;")
-            .arg((failures.isEmpty() ? look.pass : look.fail).name(), look.bar.name());
+                       "background: %2; color: %3; font-weight: bold;")
+            .arg(border, failures.isEmpty() ? look.bar.name() : border,
+                 failures.isEmpty() ? border : look.background.name());
     if (sheet != styleSheet())
         setStyleSheet(sheet);
     QString list;
@@ -49,7 +52,12 @@ void Verdict::show(bool tested, const QVector<Failure> &failures)
         return QStringLiteral("<span style='font-size:%1px'>%2</span>")
             .arg(QString::number(pixels), failures.isEmpty() ? tr("PASS") : tr("FAIL"));
     };
-    m_texts = QStringList{word(s_large) + list, word(s_large), word(s_small)};
+    m_texts.clear();
+    for (const int pixels : s_words) {
+        if (!list.isEmpty() && pixels == s_words[0])
+            m_texts << word(pixels) + list;
+        m_texts << word(pixels);
+    }
     fit();
 }
 
