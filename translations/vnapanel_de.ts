@@ -481,6 +481,14 @@
         <source>hear the active trace, or stop</source>
         <translation>die aktive Messkurve hören, oder anhalten</translation>
     </message>
+    <message>
+        <source>editing limits: Tab</source>
+        <translation>Grenzen ändern: Tab</translation>
+    </message>
+    <message>
+        <source>from handle to handle, which arrows move; Del removes the limit</source>
+        <translation>von Griff zu Griff, den Pfeile bewegen; Entf entfernt die Grenze</translation>
+    </message>
 </context>
 <context>
     <name>Panel::InstrumentDialog</name>

@@ -475,6 +475,14 @@
         <source>hear the active trace, or stop</source>
         <translation>听当前轨迹，或停止</translation>
     </message>
+    <message>
+        <source>editing limits: Tab</source>
+        <translation>编辑限制时：Tab</translation>
+    </message>
+    <message>
+        <source>from handle to handle, which arrows move; Del removes the limit</source>
+        <translation>在手柄间切换，方向键移动手柄；Del 删除限制</translation>
+    </message>
 </context>
 <context>
     <name>Panel::InstrumentDialog</name>

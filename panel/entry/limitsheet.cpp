@@ -6,6 +6,7 @@
 
 #include <panel/ground/numbertext.h>
 #include <panel/model/cartesian.h>
+#include <panel/model/panelmodel.h>
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -178,6 +179,8 @@ void LimitSheet::setLines(const QVector<LimitLine> &lines)
         if (limit.format != m_format)
             all.append(limit);
     }
+    // Their order may be another one, and so what the selected one is.
+    m_model->limitEditing()->deselect();
     m_model->setLimits(m_trace, all + lines);
 }
 

@@ -41,6 +41,8 @@ HelpDialog::HelpDialog(bool hasSound, QWidget *parent)
          tr("by a point, with Ctrl to the next feature, as the wheel does")},
         {tr("PgUp, PgDn"), tr("by a tenth of the view; \u2191 \u2193 to another trace")},
         {tr("Return"), tr("set a marker there; Esc ends the walk")},
+        {tr("editing limits: Tab"),
+         tr("from handle to handle, which arrows move; Del removes the limit")},
         {tr("G, M, k"), tr("finish a typed number in GHz, MHz or kHz")},
         {tr("Del"), tr("remove the selected marker")},
         {tr("Esc"), tr("select none; leave an entry without changing it")},

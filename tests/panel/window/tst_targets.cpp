@@ -119,6 +119,7 @@ private Q_SLOTS:
                 add = button->text() == "Add a line"_s ? button : add;
             desk.click(add);
         }
+        QCOMPARE(desk.model.trace(3)->limits.size(), 2);
         look("limit lines"_s);
         desk.press(Qt::Key_Escape);
         QVERIFY2(small.isEmpty(), qPrintable(small.join(QLatin1Char('\n'))));
