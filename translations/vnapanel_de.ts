@@ -2102,11 +2102,11 @@
     <name>Panel::Verdict</name>
     <message>
         <source>PASS</source>
-        <translation>BESTANDEN</translation>
+        <translation>PASS</translation>
     </message>
     <message>
         <source>FAIL</source>
-        <translation>VERLETZT</translation>
+        <translation>FAIL</translation>
     </message>
     <message>
         <source>Tr%1 from %2</source>

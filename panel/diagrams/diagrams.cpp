@@ -133,7 +133,7 @@ DiagramView *Diagrams::view(const DiagramId &id)
     (new LargeReading(m_model, view))->setWanted(m_largeReading);
     if (const LimitEditor *limits = makeLimitEditor(m_model, view)) {
         connect(limits, &LimitEditor::said, reader, &DiagramReader::announce);
-        connect(limits, &LimitEditor::said, this, &Diagrams::said);
+        connect(limits, &LimitEditor::refused, this, &Diagrams::said);
     }
     new ChartGestures(m_model, view);
     view->plot()->installEventFilter(this);

@@ -232,7 +232,7 @@ bool LimitEditor::addAt(const QPointF &position)
         return false;
     const QString obstacle = add(position);
     if (!obstacle.isEmpty())
-        Q_EMIT said(obstacle);
+        Q_EMIT refused(obstacle);
     return true;
 }
 

@@ -50,8 +50,10 @@ public:
     void draw(QCPPainter *painter) const;
 
 Q_SIGNALS:
-    /// What was selected or moved by a key, or why nothing was added.
+    /// What was selected or moved by a key, which is drawn beside it.
     void said(const QString &text);
+    /// Why nothing was added.
+    void refused(const QString &text);
 
 protected:
     /// The trace whose limits can be changed now, or null.
