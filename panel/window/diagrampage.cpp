@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diagrampage.h"
 
+#include "thinnedline.h"
+
 #include <panel/diagrams/diagramview.h>
 #include <panel/diagrams/readouts.h>
 #include <panel/diagrams/verdict.h>
@@ -13,6 +15,8 @@
 #include <QDateTime>
 #include <QLocale>
 
+#include <vector>
+
 namespace Panel
 {
 
@@ -22,6 +26,66 @@ namespace
 constexpr int s_pageMargin = 12;
 /// Of the height of a font.
 constexpr double s_lineSpacing = 1.4;
+/// A line of more points is thinned.
+constexpr int s_longLine = 4000;
+
+/// While it lives, thinned lines stand in for the long ones of a plot.
+class ThinnedCurves
+{
+public:
+    explicit ThinnedCurves(QCustomPlot *plot)
+        : m_plot(plot)
+    {
+        for (int i = plot->plottableCount() - 1; i >= 0; --i) {
+            auto *curve = qobject_cast<QCPCurve *>(plot->plottable(i));
+            if (curve && curve->realVisibility() && curve->dataCount() > s_longLine)
+                thin(curve);
+        }
+    }
+    ~ThinnedCurves()
+    {
+        for (const Pair &pair : m_pairs) {
+            m_plot->removePlottable(pair.thinned);
+            pair.whole->setVisible(true);
+        }
+    }
+    Q_DISABLE_COPY(ThinnedCurves)
+
+private:
+    struct Pair {
+        QCPCurve *whole;
+        QCPCurve *thinned;
+    };
+
+    void thin(QCPCurve *curve)
+    {
+        const QCPAxis *x = curve->keyAxis(), *y = curve->valueAxis();
+        QPolygonF line;
+        line.reserve(curve->dataCount());
+        for (const QCPCurveData &point : *curve->data())
+            line << QPointF(x->coordToPixel(point.key), y->coordToPixel(point.value));
+        QVector<double> order, keys, values;
+        const auto add = [&](double key, double value) {
+            order << double(order.size());
+            keys << key;
+            values << value;
+        };
+        for (const QPolygonF &stretch : thinnedLine(line, x->axisRect()->rect())) {
+            for (const QPointF &point : stretch)
+                add(x->pixelToCoord(point.x()), y->pixelToCoord(point.y()));
+            add(qQNaN(), qQNaN());
+        }
+        auto *thinned = new QCPCurve(curve->keyAxis(), curve->valueAxis());
+        thinned->setData(order, keys, values, true);
+        thinned->setPen(curve->pen());
+        thinned->setLayer(curve->layer());
+        curve->setVisible(false);
+        m_pairs.push_back({curve, thinned});
+    }
+
+    QCustomPlot *m_plot;
+    std::vector<Pair> m_pairs;
+};
 
 } // namespace
 
@@ -70,7 +134,10 @@ void DiagramPage::draw(QCPPainter *painter) const
 
     painter->save();
     painter->translate(s_pageMargin, s_pageMargin + lineHeight());
-    plot->toPainter(painter, plot->width(), plot->height());
+    {
+        const ThinnedCurves thinned(plot);
+        plot->toPainter(painter, plot->width(), plot->height());
+    }
     painter->restore();
 
     int y = s_pageMargin + lineHeight() + plot->height();
