@@ -40,6 +40,7 @@
 #include <VnaWidgets/Translator>
 #include <VnaWidgets/WidgetMouseMoveTool>
 
+#include <controls/drawnicon.h>
 #include <platform/placement.h>
 #include <smithchart/tracesummary.h>
 #include <smithchart/tracetone.h>
