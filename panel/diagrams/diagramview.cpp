@@ -359,9 +359,18 @@ void DiagramView::resizeEvent(QResizeEvent *event)
 void DiagramView::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
+    clearEdges();
     if (m_stale)
         reload();
     m_stale = false;
+}
+
+/// A plot says that it fills its rectangle, but at 1.25 or 1.5 device pixels a pixel it leaves the
+/// last one of a row as it was.
+void DiagramView::clearEdges()
+{
+    const double ratio = devicePixelRatioF();
+    m_plot->setAttribute(Qt::WA_OpaquePaintEvent, ratio == std::floor(ratio));
 }
 
 bool DiagramView::event(QEvent *event)
@@ -370,6 +379,7 @@ bool DiagramView::event(QEvent *event)
     // A plot reads the pixel ratio once, and the window may move to a screen with another one. Its
     // new buffers hold nothing until they are painted.
     if (event->type() == QEvent::ScreenChangeInternal) {
+        clearEdges();
         m_plot->setBufferDevicePixelRatio(devicePixelRatioF());
         m_plot->replot();
     }

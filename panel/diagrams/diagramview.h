@@ -147,6 +147,7 @@ protected:
 
 private:
     void followModel();
+    void clearEdges();
     void followMarkers();
     void reload();
     QVector<TraceRevision> revisions() const;
