@@ -1252,6 +1252,18 @@
         <source>Side</source>
         <translation>Seite</translation>
     </message>
+    <message>
+        <source>Limit radius</source>
+        <translation>Grenzradius</translation>
+    </message>
+    <message>
+        <source>Center Re</source>
+        <translation>Mitte Re</translation>
+    </message>
+    <message>
+        <source>Center Im</source>
+        <translation>Mitte Im</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>

@@ -1245,6 +1245,18 @@
         <source>Side</source>
         <translation>方向</translation>
     </message>
+    <message>
+        <source>Limit radius</source>
+        <translation>限值半径</translation>
+    </message>
+    <message>
+        <source>Center Re</source>
+        <translation>圆心实部</translation>
+    </message>
+    <message>
+        <source>Center Im</source>
+        <translation>圆心虚部</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PanelState</name>

@@ -236,8 +236,8 @@ QString LineEditor::text(const Grip &grip) const
     const QString start = sideText(line.upper) + cartesianText(line.startValue, line.format);
     const QString stop = sideText(line.upper) + cartesianText(line.stopValue, line.format);
     const QString from = frequencyText(line.start), to = frequencyText(line.stop);
-    const QString atStart = QStringLiteral("%1: %2").arg(from, start);
-    const QString atStop = QStringLiteral("%1: %2").arg(to, stop);
+    QString atStart = QStringLiteral("%1: %2").arg(from, start);
+    QString atStop = QStringLiteral("%1: %2").arg(to, stop);
     if (grip.part == LimitPart::Start)
         return atStart;
     if (grip.part == LimitPart::Stop)

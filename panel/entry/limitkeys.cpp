@@ -2,24 +2,52 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "limitkeys.h"
 
+#include "numerickeys.h"
 #include "softkey.h"
+#include "units.h"
 
 #include <panel/ground/numbertext.h>
 #include <panel/model/panelmodel.h>
 
 #include <widgets/switchbutton.h>
 
+#include <utility>
+
 namespace Panel
 {
 
-LimitKeys::LimitKeys(PanelModel *model, const PanelKeys &keys, QObject *parent)
+namespace
+{
+
+/// Of the numbers of a circle, in units of reflection.
+constexpr int s_circleDecimals = 3;
+constexpr double s_smallestRadius = 0.001;
+constexpr double s_farthestFromCentre = 2.0;
+
+} // namespace
+
+LimitKeys::LimitKeys(PanelModel *model, const PanelKeys &keys, NumericKeys *numbers,
+                     QObject *parent)
     : QObject(parent)
     , m_model(model)
     , m_keys(keys)
+    , m_numbers(numbers)
 {
     connect(keys.editLimits, &SwitchButton::statusChanged, this, &LimitKeys::setOn);
     connect(keys.limitSide, &SoftKey::clicked, this, &LimitKeys::turnSide);
     connect(keys.removeLimit, &SoftKey::clicked, this, &LimitKeys::remove);
+    connect(keys.limitRadius, &SoftKey::clicked, this, [this] {
+        editCircle(m_keys.limitRadius, s_smallestRadius,
+                   [](LimitCircle &circle) -> double & { return circle.radius; });
+    });
+    connect(keys.limitReal, &SoftKey::clicked, this, [this] {
+        editCircle(m_keys.limitReal, -s_farthestFromCentre,
+                   [](LimitCircle &circle) -> double & { return circle.centre.rx(); });
+    });
+    connect(keys.limitImag, &SoftKey::clicked, this, [this] {
+        editCircle(m_keys.limitImag, -s_farthestFromCentre,
+                   [](LimitCircle &circle) -> double & { return circle.centre.ry(); });
+    });
     connect(model->limitEditing(), &LimitEditing::changed, this, &LimitKeys::show);
     connect(model, &PanelModel::limitsChanged, this, &LimitKeys::show);
     connect(model->viewSettings(), &ViewSettings::changed, this, &LimitKeys::show);
@@ -88,8 +116,40 @@ void LimitKeys::remove()
     }
 }
 
+void LimitKeys::editCircle(SoftKey *key, double lowest, double &(*number)(LimitCircle &))
+{
+    LimitCircle circle = m_model->viewSettings()->limitCircle();
+    auto *adapter = new NumberAdapter(s_circleDecimals);
+    adapter->setRange(lowest, s_farthestFromCentre);
+    adapter->setRealValue(number(circle));
+    m_numbers->edit(key, adapter, {0.1, 0.01, 0.001}, [this, number](double value) {
+        LimitCircle changed = m_model->viewSettings()->limitCircle();
+        number(changed) = value;
+        m_model->viewSettings()->setLimitCircle(changed);
+    });
+}
+
+/// The numbers of the circle stand on the page of a trace that it is a limit of.
+void LimitKeys::showCircle()
+{
+    const Trace *active = m_model->activeTrace();
+    const LimitCircle &circle = m_model->viewSettings()->limitCircle();
+    const std::pair<SoftKey *, double> numbers[] = {{m_keys.limitRadius, circle.radius},
+                                                    {m_keys.limitReal, circle.centre.x()},
+                                                    {m_keys.limitImag, circle.centre.y()}};
+    for (const auto &[key, number] : numbers) {
+        key->setVisible(active && active->onSmithChart());
+        // Without a circle there is no centre, and its radius makes one.
+        key->setEnabled(key == m_keys.limitRadius || !circle.isNone());
+        key->setValue(circle.isNone()
+                          ? nothingText()
+                          : withMinusSigns(QString::number(number, 'f', s_circleDecimals)));
+    }
+}
+
 void LimitKeys::show()
 {
+    showCircle();
     m_keys.editLimits->setStatus(m_model->limitEditing()->isOn());
     m_keys.editLimits->setEnabled(m_model->activeTrace());
     QString side = nothingText();

@@ -123,6 +123,9 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
         addPair(menu, Text::tr("Side"), Text::tr("Remove"));
     keys.vswrCircle = menu->addKey(Text::tr("VSWR circle"));
     keys.vswrLimit = menu->addKey(Text::tr("VSWR limit"));
+    keys.limitRadius = menu->addKey(Text::tr("Limit radius"));
+    std::tie(keys.limitReal, keys.limitImag) =
+        addPair(menu, Text::tr("Center Re"), Text::tr("Center Im"));
 
     menu->addPage(Text::tr("Display"), Glyph::Display);
     menu->addWidget([profile = model->viewSettings()->layoutProfile()](QWidget *page) {

@@ -58,6 +58,9 @@ struct PanelKeys {
     SoftKey *removeLimit;
     SoftKey *vswrCircle; ///< a circle on the Smith charts, to read against
     SoftKey *vswrLimit; ///< an area that traces on the Smith charts must stay in
+    SoftKey *limitRadius; ///< of that area, wherever it is, in units of reflection
+    SoftKey *limitReal; ///< its centre
+    SoftKey *limitImag;
     // Display, below the choice of the layout, which the library brings
     SoftKey *grid;
     SoftKey *density;

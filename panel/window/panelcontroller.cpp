@@ -89,7 +89,7 @@ void PanelController::makeEntry()
     connect(numbers, &NumericKeys::said, bar, &MessageBar::notify);
     new DisplayKeys(m_model, keys, this);
     new TraceController(m_model, keys, m_window->traceBar(), numbers, m_window, this);
-    auto *limits = new LimitKeys(m_model, keys, this);
+    auto *limits = new LimitKeys(m_model, keys, numbers, this);
     connect(limits, &LimitKeys::said, bar, &MessageBar::notify);
     new MathKeys(m_model, keys, numbers, this);
     auto *markers = new MarkerController(m_model, keys, numbers, this);

@@ -287,7 +287,19 @@ private Q_SLOTS:
         QCOMPARE(settings->vswrLimit(), ratio);
         desk.press(Qt::Key_Z, Qt::ControlModifier);
         QVERIFY(std::abs(settings->limitCircle().centre.y() + 0.7) < 0.01);
+        // By numbers, too, where the trace is one of a Smith chart.
+        desk.click(desk.keys().limitReal);
+        desk.type("0 . 2 5 Ok"_s);
+        QCOMPARE(settings->limitCircle().centre.x(), 0.25);
+        QVERIFY(std::abs(settings->limitCircle().centre.y() + 0.7) < 0.01);
         desk.click(desk.keys().removeLimit);
+        QVERIFY(!desk.keys().limitReal->isEnabled());
+        desk.click(desk.keys().limitRadius);
+        desk.type("0 . 5 Ok"_s);
+        QCOMPARE(settings->vswrLimit(), 3.0);
+        desk.model.setActiveTrace(3);
+        QVERIFY(desk.keys().limitReal->isHidden());
+        settings->setVswrLimit(0.0);
         QVERIFY(settings->limitCircle().isNone());
         QVERIFY(!desk.view()->verdict()->isVisible());
     }
