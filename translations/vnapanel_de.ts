@@ -288,10 +288,6 @@
 <context>
     <name>Panel::FitOffer</name>
     <message>
-        <source>Tr%1 %2</source>
-        <translation>Tr%1 %2</translation>
-    </message>
-    <message>
         <source>%1 lies above: fit</source>
         <translation>%1 liegt darüber: einpassen</translation>
     </message>
@@ -606,10 +602,6 @@
         <translation>Schließen</translation>
     </message>
     <message>
-        <source>Limit lines of Tr%1 %2, %3</source>
-        <translation>Grenzlinien von Tr%1 %2, %3</translation>
-    </message>
-    <message>
         <source>below</source>
         <translation>unter</translation>
     </message>
@@ -640,6 +632,10 @@
     <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Limit lines of %1 %2, %3</source>
+        <translation>Grenzlinien von %1 %2, %3</translation>
     </message>
 </context>
 <context>
@@ -865,12 +861,31 @@
         <source>Port %1</source>
         <translation>Tor %1</translation>
     </message>
+    <message>
+        <source>Normalize to data</source>
+        <translation>Auf Daten normieren</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageBar</name>
     <message>
         <source>Close message</source>
         <translation>Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::NameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>No name</source>
+        <translation>Kein Name</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -1263,6 +1278,18 @@
     <message>
         <source>Center Im</source>
         <translation>Mitte Im</translation>
+    </message>
+    <message>
+        <source>From file</source>
+        <translation>Aus Datei</translation>
+    </message>
+    <message>
+        <source>Diagram</source>
+        <translation>Diagramm</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
     </message>
 </context>
 <context>
@@ -1907,20 +1934,12 @@
         <translation>Kurven</translation>
     </message>
     <message>
-        <source>Tr%1</source>
-        <translation>Tr%1</translation>
-    </message>
-    <message>
         <source>Add a trace</source>
         <translation>Kurve hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>Panel::TraceController</name>
-    <message>
-        <source>Tr%1 %2</source>
-        <translation>Tr%1 %2</translation>
-    </message>
     <message>
         <source>This trace</source>
         <translation>Diese Kurve</translation>
@@ -1934,16 +1953,24 @@
         <translation>Keine</translation>
     </message>
     <message>
-        <source>Tr%1</source>
-        <translation>Tr%1</translation>
-    </message>
-    <message>
         <source>Top</source>
         <translation>Oben</translation>
     </message>
     <message>
         <source>Bottom</source>
         <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Name of Tr%1</source>
+        <translation>Name von Tr%1</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
     </message>
 </context>
 <context>
@@ -2121,16 +2148,16 @@
         <translation>FAIL</translation>
     </message>
     <message>
-        <source>Tr%1 from %2</source>
-        <translation>Tr%1 ab %2</translation>
-    </message>
-    <message>
         <source>Limits: pass</source>
         <translation>Grenzen: bestanden</translation>
     </message>
     <message>
         <source>Limits: fail, %1</source>
         <translation>Grenzen: nicht bestanden, %1</translation>
+    </message>
+    <message>
+        <source>%1 from %2</source>
+        <translation>%1 ab %2</translation>
     </message>
 </context>
 </TS>

@@ -282,10 +282,6 @@
 <context>
     <name>Panel::FitOffer</name>
     <message>
-        <source>Tr%1 %2</source>
-        <translation>Tr%1 %2</translation>
-    </message>
-    <message>
         <source>%1 lies above: fit</source>
         <translation>%1 在上方：调整</translation>
     </message>
@@ -600,10 +596,6 @@
         <translation>关闭</translation>
     </message>
     <message>
-        <source>Limit lines of Tr%1 %2, %3</source>
-        <translation>Tr%1 %2 的限制线，%3</translation>
-    </message>
-    <message>
         <source>below</source>
         <translation>低于</translation>
     </message>
@@ -634,6 +626,10 @@
     <message>
         <source>Remove</source>
         <translation>移除</translation>
+    </message>
+    <message>
+        <source>Limit lines of %1 %2, %3</source>
+        <translation>%1 %2 的限制线，%3</translation>
     </message>
 </context>
 <context>
@@ -858,12 +854,31 @@
         <source>Port %1</source>
         <translation>端口 %1</translation>
     </message>
+    <message>
+        <source>Normalize to data</source>
+        <translation>以当前数据归一化</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageBar</name>
     <message>
         <source>Close message</source>
         <translation>关闭消息</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::NameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>No name</source>
+        <translation>无名称</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
     </message>
 </context>
 <context>
@@ -1256,6 +1271,18 @@
     <message>
         <source>Center Im</source>
         <translation>圆心虚部</translation>
+    </message>
+    <message>
+        <source>From file</source>
+        <translation>所属文件</translation>
+    </message>
+    <message>
+        <source>Diagram</source>
+        <translation>图表</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
     </message>
 </context>
 <context>
@@ -1899,20 +1926,12 @@
         <translation>轨迹</translation>
     </message>
     <message>
-        <source>Tr%1</source>
-        <translation>Tr%1</translation>
-    </message>
-    <message>
         <source>Add a trace</source>
         <translation>添加轨迹</translation>
     </message>
 </context>
 <context>
     <name>Panel::TraceController</name>
-    <message>
-        <source>Tr%1 %2</source>
-        <translation>Tr%1 %2</translation>
-    </message>
     <message>
         <source>This trace</source>
         <translation>当前轨迹</translation>
@@ -1926,16 +1945,24 @@
         <translation>无</translation>
     </message>
     <message>
-        <source>Tr%1</source>
-        <translation>Tr%1</translation>
-    </message>
-    <message>
         <source>Top</source>
         <translation>顶部</translation>
     </message>
     <message>
         <source>Bottom</source>
         <translation>底部</translation>
+    </message>
+    <message>
+        <source>Name of Tr%1</source>
+        <translation>Tr%1 的名称</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
     </message>
 </context>
 <context>
@@ -2113,16 +2140,16 @@
         <translation>不合格</translation>
     </message>
     <message>
-        <source>Tr%1 from %2</source>
-        <translation>Tr%1 自 %2</translation>
-    </message>
-    <message>
         <source>Limits: pass</source>
         <translation>限制线：合格</translation>
     </message>
     <message>
         <source>Limits: fail, %1</source>
         <translation>限制线：不合格，%1</translation>
+    </message>
+    <message>
+        <source>%1 from %2</source>
+        <translation>%1 自 %2</translation>
     </message>
 </context>
 </TS>

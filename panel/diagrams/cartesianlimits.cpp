@@ -67,6 +67,7 @@ void CartesianLimits::show(const Trace &trace, const TraceData &data, QCPAxis *v
     drawn.lines->setData(frequencies, bounds);
     drawn.verdict = testLimits(data, trace.format, trace.limits);
     const QVector<int> &failing = drawn.verdict.failing;
+    drawn.label = trace.label();
     drawn.firstFailure = failing.isEmpty() ? 0.0 : data.frequencies.at(failing.constFirst());
     // One point in each column shows where the trace fails.
     const int step = std::max(1, data.points() / std::max(1, columns));
@@ -124,7 +125,7 @@ void CartesianLimits::showVerdict()
     for (const auto &[id, drawn] : m_drawn) {
         tested = tested || drawn.verdict.tested > 0;
         if (!drawn.verdict.passed())
-            failures.append({id, drawn.firstFailure});
+            failures.append({id, drawn.label, drawn.firstFailure});
     }
     m_verdict->show(tested, failures);
 }

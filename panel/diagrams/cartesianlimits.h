@@ -36,6 +36,7 @@ private:
         QCPGraph *failures = nullptr;
         LimitVerdict verdict;
         double firstFailure = 0.0; ///< in Hz
+        QString label; ///< what the trace is called
     };
 
     void remove(int traceId);

@@ -128,8 +128,10 @@ QVector<int> DiagramReader::traces() const
 QString DiagramReader::traceName(int trace) const
 {
     const Trace *found = m_model->trace(trace);
-    return found ? PanelModel::parameterName(*found) + QLatin1Char(' ') + formatName(found->format)
-                 : QString();
+    if (!found)
+        return {};
+    const QString name = found->name.isEmpty() ? QString() : found->name + QLatin1Char(' ');
+    return name + PanelModel::parameterName(*found) + QLatin1Char(' ') + formatName(found->format);
 }
 
 int DiagramReader::rows(int trace) const

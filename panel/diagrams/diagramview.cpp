@@ -281,7 +281,7 @@ void DiagramView::updateTitle()
     for (const Trace &trace : traces()) {
         if (trace.visible) {
             const QString math = mathText(trace.math);
-            names << PanelModel::parameterName(trace)
+            names << (trace.name.isEmpty() ? PanelModel::parameterName(trace) : trace.name)
                     + (math.isEmpty() ? QString() : QLatin1Char(' ') + math);
             networks << m_model->network(trace).name;
         }
@@ -307,7 +307,7 @@ QStringList DiagramView::otherScales(const Trace &written) const
     QStringList others;
     for (const Trace &trace : traces()) {
         if (trace.visible && (trace.format != written.format || trace.scale != written.scale))
-            others << QStringLiteral("Tr%1").arg(trace.id);
+            others << trace.label();
     }
     if (!others.isEmpty())
         return {tr("own scale: %1").arg(others.join(QLatin1String(", ")))};

@@ -22,8 +22,7 @@ void FitOffer::offer(const QVector<Candidate> &candidates)
         if (!above && !below)
             continue;
         m_trace = trace.id;
-        const QString name =
-            tr("Tr%1 %2").arg(QString::number(trace.id), parameterName(trace.to, trace.from));
+        const QString name = trace.label() + QLatin1Char(' ') + parameterName(trace.to, trace.from);
         setText(above ? tr("%1 lies above: fit").arg(name) : tr("%1 lies below: fit").arg(name));
         adjustSize();
         place();

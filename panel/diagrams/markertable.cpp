@@ -153,7 +153,7 @@ private:
     QString text(const Row &row, const Trace &trace, int column) const
     {
         if (column == Name)
-            return QStringLiteral("Tr%1 ").arg(trace.id) + markerName(*m_model, row.marker);
+            return trace.label() + QLatin1Char(' ') + markerName(*m_model, row.marker);
         if (column == Line)
             return PanelModel::parameterName(trace) + QLatin1Char(' ') + formatName(trace.format);
         if (column == Vswr)

@@ -229,7 +229,7 @@ QStringList ReadOuts::readings() const
 {
     QStringList lines;
     for (const Marker &marker : visibleMarkers())
-        lines << QStringLiteral("Tr%1 ").arg(marker.trace)
+        lines << m_model->trace(marker.trace)->label() + QLatin1Char(' ')
                 + PanelModel::parameterName(*m_model->trace(marker.trace)) + QLatin1Char(' ')
                 + markerName(*m_model, marker) + QStringLiteral(": ")
                 + textsOf(marker).join(QStringLiteral(" \u00b7 "));

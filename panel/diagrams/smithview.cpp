@@ -126,7 +126,8 @@ void SmithView::testTraces()
         tested = tested || result.tested > 0;
         // A hidden chart may still have the points of before.
         if (!result.passed() && result.firstFailing < m_model->network(*trace).points())
-            failures.append({id, m_model->network(*trace).frequencies.at(result.firstFailing)});
+            failures.append(
+                {id, trace->label(), m_model->network(*trace).frequencies.at(result.firstFailing)});
     }
     m_verdict->show(tested, failures);
     replotLater();

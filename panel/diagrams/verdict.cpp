@@ -47,7 +47,7 @@ void Verdict::show(bool tested, const QVector<Failure> &failures)
     QString list;
     for (const Failure &failure : failures.mid(0, maximumFailures))
         list += QLatin1String("<br>")
-            + tr("Tr%1 from %2").arg(QString::number(failure.trace), frequencyText(failure.hertz));
+            + tr("%1 from %2").arg(failure.label.toHtmlEscaped(), frequencyText(failure.hertz));
     const auto word = [&](int pixels) {
         return QStringLiteral("<span style='font-size:%1px'>%2</span>")
             .arg(QString::number(pixels), failures.isEmpty() ? tr("PASS") : tr("FAIL"));
@@ -82,8 +82,7 @@ void Verdict::tell(bool tested, const QVector<Failure> &failures)
     for (const Failure &failure : failures) {
         failing << failure.trace;
         if (texts.size() < maximumFailures)
-            texts << tr("Tr%1 from %2")
-                         .arg(QString::number(failure.trace), frequencyText(failure.hertz));
+            texts << tr("%1 from %2").arg(failure.label, frequencyText(failure.hertz));
     }
     setAccessibleName(!tested ? QString()
                           : texts.isEmpty()

@@ -22,6 +22,7 @@ public:
     /// A trace that fails, and the lowest frequency in Hz at which it does.
     struct Failure {
         int trace = 0;
+        QString label; ///< what the trace is called
         double hertz = 0.0;
     };
 

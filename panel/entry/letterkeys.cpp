@@ -78,9 +78,15 @@ void LetterKeys::setShift(bool on)
         key->setText(on ? key->text().toUpper() : key->text().toLower());
 }
 
+void LetterKeys::setStaying(bool staying)
+{
+    m_staying = staying;
+    setVisible(staying);
+}
+
 void LetterKeys::setShown(bool shown)
 {
-    if (shown == !isHidden())
+    if (shown == !isHidden() || m_staying)
         return;
     setVisible(shown);
     setShift(false);

@@ -20,6 +20,9 @@ class LetterKeys : public QWidget
 public:
     explicit LetterKeys(QLineEdit *line, QWidget *parent = nullptr);
 
+    /// Whether they show at once and stay, for a line that nothing else shares its place with.
+    void setStaying(bool staying);
+
 Q_SIGNALS:
     /// The keys came or went.
     void shownChanged(bool shown);
@@ -35,6 +38,7 @@ private:
     QLineEdit *m_line;
     QVector<QPushButton *> m_letters;
     QPushButton *m_shift;
+    bool m_staying = false;
 };
 
 } // namespace Panel

@@ -113,8 +113,8 @@ LimitSheet::LimitSheet(PanelModel *model, int traceId, NumericKeys *numbers, QWi
 
 QString LimitSheet::title() const
 {
-    return tr("Limit lines of Tr%1 %2, %3")
-        .arg(QString::number(m_trace), PanelModel::parameterName(*m_model->trace(m_trace)),
+    return tr("Limit lines of %1 %2, %3")
+        .arg(m_model->trace(m_trace)->label(), PanelModel::parameterName(*m_model->trace(m_trace)),
              formatName(m_format));
 }
 

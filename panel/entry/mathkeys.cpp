@@ -21,6 +21,7 @@ namespace
 /// The commands of the memory key.
 enum MemoryCommand {
     Store,
+    Normalize,
     Clear,
 };
 
@@ -49,6 +50,7 @@ MathKeys::MathKeys(PanelModel *model, const PanelKeys &keys, NumericKeys *number
 void MathKeys::connectKeys()
 {
     m_keys.memory->addMenuItem(Store, tr("Data to memory"));
+    m_keys.memory->addMenuItem(Normalize, tr("Normalize to data"));
     m_keys.memory->addMenuItem(Clear, tr("Clear memory"));
     connect(m_keys.memory, qOverload<int>(&MenuButton::menuItemClicked), this,
             &MathKeys::onMemoryPicked);
@@ -80,10 +82,13 @@ void MathKeys::onMemoryPicked(int command)
     const Trace *trace = m_model->activeTrace();
     if (!trace)
         return;
-    if (command == Store)
-        m_model->storeMemory(trace->id);
+    const int id = trace->id;
+    if (command != Clear)
+        m_model->storeMemory(id);
+    if (command == Normalize)
+        m_model->setTraceMath(id, TraceMath::Divided);
     else if (command == Clear)
-        m_model->clearMemory(trace->id);
+        m_model->clearMemory(id);
 }
 
 QVector<int> MathKeys::extendedPorts() const

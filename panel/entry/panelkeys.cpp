@@ -88,6 +88,9 @@ PanelKeys makePanelKeys(SoftKeyMenu *menu, PanelModel *model)
     keys.trace = menu->addKey(Text::tr("Trace"));
     keys.parameter = menu->addKey(Text::tr("Parameter"));
     keys.format = menu->addKey(Text::tr("Format"));
+    keys.network = menu->addKey(Text::tr("From file"));
+    keys.diagram = menu->addKey(Text::tr("Diagram"));
+    keys.name = menu->addKey(Text::tr("Name"));
     keys.visible = addSwitch(menu, Text::tr("Visible"));
     std::tie(keys.addTrace, keys.removeTrace) = addPair(menu, Text::tr("Add"), Text::tr("Remove"));
 

@@ -25,6 +25,9 @@ struct PanelKeys {
     SoftKey *trace; ///< which is active
     SoftKey *parameter; ///< that it shows, of its network
     SoftKey *format;
+    SoftKey *network; ///< the file that it is of, while there are several
+    SoftKey *diagram; ///< that it is in: as its format says, or as the user does
+    SoftKey *name;
     SwitchButton *visible;
     SoftKey *addTrace;
     SoftKey *removeTrace;

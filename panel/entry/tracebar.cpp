@@ -38,16 +38,18 @@ public:
 
     int traceId() const { return m_traceId; }
 
-    /// The name is followed by the fields.
-    void setTexts(const QString &name, const QStringList &fields, bool shown)
+    /// What the trace is called is followed by the fields.
+    void setTexts(const QString &label, const QStringList &fields, bool shown)
     {
+        const QString name = fontMetrics().elidedText(
+            label, Qt::ElideRight, s_labelCharacters * fontMetrics().averageCharWidth());
         m_shown = shown;
         if (name != text() || fields != m_fields) {
             setText(name);
             m_fields = fields;
             updateGeometry();
         }
-        const QString all = name + QLatin1Char(' ') + fields.join(QLatin1Char(' '));
+        const QString all = label + QLatin1Char(' ') + fields.join(QLatin1Char(' '));
         setAccessibleName(shown ? all : TraceBar::tr("%1 (hidden)").arg(all));
         update();
     }
@@ -156,6 +158,7 @@ protected:
 private:
     static constexpr int s_height = 44;
     static constexpr int s_padding = 12;
+    static constexpr int s_labelCharacters = 12; ///< as wide as a long name can be
     static constexpr float s_tint = 0.22F; ///< of the active one
     static constexpr int s_sample = 18; ///< the length of the piece of line
 
@@ -328,7 +331,7 @@ void TraceBar::refresh()
         if (!trace)
             continue;
         button->setToolTip(m_model->network(*trace).name);
-        button->setTexts(tr("Tr%1").arg(trace->id),
+        button->setTexts(trace->label(),
                          {PanelModel::parameterName(*trace), formatName(trace->format),
                           trace->onSmithChart()
                               ? zoomText(m_model->zoom(m_model->diagramOf(trace->id)).factor)

@@ -3,6 +3,7 @@
 #include "tracecontroller.h"
 
 #include "limitsheet.h"
+#include "namedialog.h"
 #include "numerickeys.h"
 #include "parametermatrix.h"
 #include "softkey.h"
@@ -57,6 +58,7 @@ TraceController::TraceController(PanelModel *model, const PanelKeys &keys, Trace
         connect(model, signal, this, &TraceController::showTrace);
     connect(model, &PanelModel::limitsChanged, this, &TraceController::showTrace);
     connect(model, &PanelModel::traceVisibleChanged, this, &TraceController::showTrace);
+    connect(model->viewSettings(), &ViewSettings::changed, this, &TraceController::showTrace);
     showTrace();
 }
 
@@ -77,6 +79,12 @@ void TraceController::connectKeys()
             m_model->setTraceFormat(trace->id, TraceFormat(index));
         showTrace();
     });
+    connect(keys.network, &SoftKey::choicePicked, this, [this](int network) {
+        if (const Trace *trace = m_model->activeTrace())
+            m_model->setTraceNetwork(trace->id, network);
+    });
+    connect(keys.diagram, &SoftKey::choicePicked, this, &TraceController::putIntoDiagram);
+    connect(keys.name, &SoftKey::clicked, this, &TraceController::editName);
     keys.autoScale->addMenuItem(FitActive, tr("This trace"));
     keys.autoScale->addMenuItem(FitAll, tr("All traces"));
     connect(keys.autoScale, qOverload<int>(&MenuButton::menuItemClicked), this,
@@ -149,6 +157,28 @@ void TraceController::editParameter(int traceId)
     DialogStage::show(matrix, m_host);
 }
 
+void TraceController::editName()
+{
+    const Trace *trace = m_model->activeTrace();
+    if (!trace)
+        return;
+    auto *dialog =
+        new NameDialog(tr("Name of Tr%1").arg(trace->id), trace->name, Trace::longestName, m_host);
+    connect(dialog, &NameDialog::named, m_model,
+            [this, id = trace->id](const QString &name) { m_model->setTraceName(id, name); });
+    DialogStage::show(dialog, m_host);
+}
+
+void TraceController::putIntoDiagram(int choice)
+{
+    const Trace *trace = m_model->activeTrace();
+    const int number = m_diagramNumbers.value(choice);
+    if (trace && number > 0)
+        m_model->setTraceDiagram(trace->id, number);
+    else
+        m_model->setDiagramsAutomatic();
+}
+
 void TraceController::choose(QWidget *anchor, const QRect &place, const QStringList &choices,
                              int current, const std::function<void(int)> &picked)
 {
@@ -179,6 +209,50 @@ void TraceController::showReferencePosition(const Trace *active)
     m_keys.referencePosition->setEnabled(cartesian);
 }
 
+void TraceController::showNetwork(const Trace *active)
+{
+    QStringList names;
+    for (const Network &network : m_model->networks())
+        names << network.name;
+    m_keys.network->setChoices(names);
+    m_keys.network->setChoice(active ? active->network : -1);
+    m_keys.network->setEnabled(active && names.size() > 1);
+}
+
+/// Lists the diagrams that can show the active trace, and a new one where it shares its own.
+void TraceController::showDiagram(const Trace *active)
+{
+    QStringList names{tr("Automatic")};
+    m_diagramNumbers = {0};
+    int choice = active ? 0 : -1;
+    const QVector<PlannedDiagram> diagrams = m_model->allDiagrams();
+    bool alone = false;
+    for (int i = 0; active && i < diagrams.size(); ++i) {
+        const PlannedDiagram &diagram = diagrams.at(i);
+        if (diagram.id.kind != active->kind())
+            continue;
+        QStringList lines;
+        for (const int id : diagram.traces)
+            lines << m_model->trace(id)->label();
+        if (diagram.traces.contains(active->id)) {
+            alone = lines.size() == 1;
+            if (active->diagram > 0)
+                choice = int(names.size());
+        }
+        names << QStringLiteral("%1: %2").arg(i + 1).arg(lines.join(QStringLiteral(", ")));
+        m_diagramNumbers << i + 1;
+    }
+    if (active && !alone) {
+        names << tr("New");
+        m_diagramNumbers << int(diagrams.size()) + 1;
+    }
+    m_keys.diagram->setChoices(names);
+    m_keys.diagram->setChoice(choice);
+    if (choice > 0)
+        m_keys.diagram->setValue(QString::number(m_diagramNumbers.at(choice)));
+    m_keys.diagram->setEnabled(active);
+}
+
 void TraceController::showTrace()
 {
     const PanelKeys &keys = m_keys;
@@ -188,13 +262,17 @@ void TraceController::showTrace()
     for (const Trace &trace : m_model->traces()) {
         if (active && trace.id == active->id)
             index = int(names.size());
-        names << tr("Tr%1 %2").arg(QString::number(trace.id), PanelModel::parameterName(trace));
+        names << trace.label() + QLatin1Char(' ') + PanelModel::parameterName(trace);
     }
     keys.trace->setChoices(names);
     keys.trace->setChoice(index);
     keys.format->setChoice(active ? int(active->format) : -1);
     keys.visible->setStatus(active && active->visible);
     showReferencePosition(active);
+    showNetwork(active);
+    showDiagram(active);
+    keys.name->setValue(active && !active->name.isEmpty() ? active->name : nothingText());
+    keys.name->setEnabled(active);
     const auto isPresent = [active](const LimitLine &limit) {
         return limit.format == active->format;
     };
@@ -205,7 +283,7 @@ void TraceController::showTrace()
     keys.addTrace->setEnabled(active && m_model->traces().size() < Trace::maximumCount);
     keys.removeTrace->setEnabled(m_model->traces().size() > 1);
     keys.addTrace->setValue(QStringLiteral("+"));
-    keys.removeTrace->setValue(active ? tr("Tr%1").arg(active->id) : nothingText());
+    keys.removeTrace->setValue(active ? QStringLiteral("Tr%1").arg(active->id) : nothingText());
     keys.parameter->setValue(active ? PanelModel::parameterName(*active) : nothingText());
     keys.parameter->setEnabled(active && m_model->network(*active).ports > 1);
     for (QWidget *key : {static_cast<QWidget *>(keys.trace), static_cast<QWidget *>(keys.format),

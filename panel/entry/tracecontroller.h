@@ -38,11 +38,16 @@ private:
                 const std::function<void(int)> &picked);
     void showTrace();
     void showReferencePosition(const Trace *active);
+    void showNetwork(const Trace *active);
+    void showDiagram(const Trace *active);
+    void putIntoDiagram(int choice);
+    void editName();
 
     PanelModel *m_model;
     PanelKeys m_keys;
     TraceBar *m_bar;
     NumericKeys *m_numbers;
+    QVector<int> m_diagramNumbers; ///< of the diagram key's choices; 0 leaves it to the format
     QWidget *m_host;
     QPointer<LimitSheet> m_limitSheet; ///< while it is open
 };

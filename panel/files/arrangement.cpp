@@ -81,7 +81,7 @@ QJsonObject arranged(QJsonObject saved, const Network &before, const QJsonObject
         else
             missing << parameterName(trace["to"_key].toInt(), trace["from"_key].toInt());
     }
-    const bool nothingLeft = traces.isEmpty();
+    const bool nothingLeft = traces.isEmpty() && !saved["traces"_key].toArray().isEmpty();
     for (const QJsonValue value : first["traces"_key].toArray()) {
         QJsonObject trace = value.toObject();
         if (highestPort(trace) <= before.ports && !nothingLeft)

@@ -33,12 +33,15 @@ struct PlannedDiagram {
     QVector<int> traces;
 };
 
-/*! The diagrams of a layout in reading order.
+/*! All diagrams that the traces make in a layout, in reading order.
 
-    One diagram shows all traces of the active one's kind; two have the Smith chart first and the
-    Cartesian diagram second, with a polar one between them where there are such traces; four are for
-    a parameter and format each, and of more the four with the active trace. A diagram without traces
-    is left out. */
+    Traces share one by their kind: the Smith chart first and the Cartesian diagram last, with a polar
+    one between them; in a layout of four, by parameter and format. Where the user has put traces into
+    diagrams, those come first, by their numbers, and hold traces of one kind each. */
+QVector<PlannedDiagram> allDiagrams(Graph::LayoutType layout, const QVector<Trace> &traces);
+
+/*! Those of them that the layout shows: the one of the active trace, or up to four, of more the four
+    with the active trace. */
 QVector<PlannedDiagram> planDiagrams(Graph::LayoutType layout, const QVector<Trace> &traces,
                                      int activeTrace);
 

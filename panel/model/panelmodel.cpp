@@ -126,9 +126,9 @@ bool PanelModel::sweeps() const
     return isSimulated(m_source) || (m_source == Source::Instrument && m_showsMeasurement);
 }
 
-Stimulus PanelModel::stimulus(const Trace &trace) const
+Stimulus PanelModel::stimulus(int network) const
 {
-    return sweeps() ? m_sweep.stimulus() : m_networks.stimulus(trace.network);
+    return sweeps() ? m_sweep.stimulus() : m_networks.stimulus(network);
 }
 
 Stimulus PanelModel::limits(const Trace &trace) const
@@ -142,9 +142,8 @@ double PanelModel::smallestSpan() const
     return sweeps() ? m_sourceLimits.smallestSpan : 0.0;
 }
 
-void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
+void PanelModel::setStimulus(int network, const Stimulus &stimulus)
 {
-    const int network = trace.network;
     if (!sweeps()) {
         if (m_networks.setStimulus(network, stimulus)) {
             Q_EMIT stimulusChanged(network);
@@ -155,9 +154,8 @@ void PanelModel::setStimulus(const Trace &trace, const Stimulus &stimulus)
     setSweep({stimulus.start, stimulus.stop, m_sweep.points});
 }
 
-void PanelModel::setCorrection(const Trace &trace, const Correction &correction)
+void PanelModel::setCorrection(int network, const Correction &correction)
 {
-    const int network = trace.network;
     if (!m_networks.setCorrection(network, correction))
         return;
     Q_EMIT correctionChanged(network);
@@ -269,6 +267,11 @@ void PanelModel::setTuning(double hertz)
 }
 
 // Diagrams
+
+QVector<PlannedDiagram> PanelModel::allDiagrams() const
+{
+    return Panel::allDiagrams(m_viewSettings.diagramLayout(), traces());
+}
 
 QVector<PlannedDiagram> PanelModel::diagrams() const
 {

@@ -63,12 +63,11 @@ public:
     }
     /// What is drawn beside it of a trace whose memory is on show, or null.
     std::optional<TraceData> drawnMemory(const Trace &trace) const;
-    const Correction &correction(const Trace &trace) const
-    {
-        return m_networks.correction(trace.network);
-    }
-    /// What the trace's source is to sweep: the sweep of a device, or the part of a file on show.
-    Stimulus stimulus(const Trace &trace) const;
+    const Correction &correction(int network) const { return m_networks.correction(network); }
+    const Correction &correction(const Trace &trace) const { return correction(trace.network); }
+    /// What the source of a network is to sweep: the sweep of a device, or the part of a file on show.
+    Stimulus stimulus(int network) const;
+    Stimulus stimulus(const Trace &trace) const { return stimulus(trace.network); }
     /// The frequencies that a diagram of the trace shows while it is not magnified.
     Stimulus shownRange(const Trace &trace) const { return m_networks.shownRange(trace.network); }
     /// What the stimulus can go to: the limits of the device, or all that the file has.
@@ -84,13 +83,21 @@ public:
     /// Replaces the data of one network by a new measurement of it; traces and markers stay. False,
     /// without a change, for an index without a network, another number of ports, or no points.
     bool updateNetwork(int index, const Network &network);
-    /// What is done to the whole network of a trace from now on.
-    void setCorrection(const Trace &trace, const Correction &correction);
+    /// What is done to a whole network from now on.
+    void setCorrection(int network, const Correction &correction);
+    void setCorrection(const Trace &trace, const Correction &correction)
+    {
+        setCorrection(trace.network, correction);
+    }
     /// Takes a file that was read again. Traces and markers stay unless it has other ports than
     /// before.
     void updateFile(int index, const Network &network);
     /// What a device cannot sweep is ignored; the part of a file is bounded by its limits.
-    void setStimulus(const Trace &trace, const Stimulus &stimulus);
+    void setStimulus(int network, const Stimulus &stimulus);
+    void setStimulus(const Trace &trace, const Stimulus &stimulus)
+    {
+        setStimulus(trace.network, stimulus);
+    }
     /*! @} */
 
     /*! \name Source
@@ -166,6 +173,18 @@ public:
     /// same number is selected. An unknown id is ignored.
     void setActiveTrace(int id);
     void setTraceVisible(int id, bool visible);
+    /// Bounded to the length that a name can have, without blanks around it; an empty one ends it.
+    void setTraceName(int id, const QString &name);
+    /// Shows the trace's parameter of another network, or as far as that has ports; markers stay at
+    /// their frequencies, and the memory stays to compare with. Ignored where there is none.
+    void setTraceNetwork(int id, int network);
+    /// Puts a trace into the diagram of this number, from 1 in the order of allDiagrams(), or a new
+    /// one after them; the other traces stay in the diagrams that they are in from now on.
+    void setTraceDiagram(int id, int number);
+    /// Format and layout decide again which diagrams there are.
+    void setDiagramsAutomatic();
+    /// Gives a trace the diagram that was saved of it (Trace::diagram), whatever becomes of the others.
+    void restoreTraceDiagram(int id, int number);
     /// The trace's diagram changes with its format, and the scale becomes the default one.
     void setTraceFormat(int id, TraceFormat format);
     /// A parameter that the trace's network does not have is ignored.
@@ -196,7 +215,9 @@ public:
     ViewSettings *viewSettings() { return &m_viewSettings; }
     const ViewSettings *viewSettings() const { return &m_viewSettings; }
     LimitEditing *limitEditing() { return &m_limitEditing; }
-    /// The diagrams of the present layout in reading order.
+    /// The diagrams that the traces make in the present layout in reading order, on show or not.
+    QVector<PlannedDiagram> allDiagrams() const;
+    /// Those of them on show.
     QVector<PlannedDiagram> diagrams() const;
     /// The diagram that shows a trace, or would if it were in the layout.
     DiagramId diagramOf(int traceId) const;

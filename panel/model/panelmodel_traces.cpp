@@ -144,6 +144,42 @@ void PanelModel::setTraceVisible(int id, bool visible)
         Q_EMIT traceVisibleChanged(id, visible);
 }
 
+void PanelModel::setTraceName(int id, const QString &name)
+{
+    if (m_traces.setName(id, name))
+        tellTraces();
+}
+
+void PanelModel::setTraceNetwork(int id, int network)
+{
+    if (m_traces.setNetwork(id, network, m_networks))
+        tellTraces();
+}
+
+void PanelModel::setTraceDiagram(int id, int number)
+{
+    const TraceChanges changes(this);
+    const QVector<PlannedDiagram> diagrams = allDiagrams();
+    for (int i = 0; i < diagrams.size(); ++i) {
+        for (const int member : diagrams.at(i).traces)
+            m_traces.setDiagram(member, i + 1);
+    }
+    m_traces.setDiagram(id, qBound(1, number, int(diagrams.size()) + 1));
+}
+
+void PanelModel::setDiagramsAutomatic()
+{
+    const TraceChanges changes(this);
+    for (const int id : m_traces.ids())
+        m_traces.setDiagram(id, 0);
+}
+
+void PanelModel::restoreTraceDiagram(int id, int number)
+{
+    if (m_traces.setDiagram(id, number))
+        tellTraces();
+}
+
 void PanelModel::setTraceFormat(int id, TraceFormat format)
 {
     if (m_traces.setFormat(id, format, m_networks))

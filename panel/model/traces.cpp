@@ -116,6 +116,7 @@ int Traces::addLike(int id, int wanted)
     while (find(added.id))
         ++added.id;
     added.math = TraceMath::DataAndMemory;
+    added.name.clear();
     const auto after = std::find_if(m_all.begin(), m_all.end(),
                                     [&](const Trace &trace) { return trace.id > added.id; });
     renew(&added);
@@ -162,6 +163,36 @@ bool Traces::setVisible(int id, bool visible)
     if (!trace || trace->visible == visible)
         return false;
     trace->visible = visible;
+    return true;
+}
+
+bool Traces::setName(int id, const QString &name)
+{
+    Trace *trace = edit(id);
+    const QString wanted = name.simplified().left(Trace::longestName).trimmed();
+    if (!trace || trace->name == wanted)
+        return false;
+    trace->name = wanted;
+    renew(trace);
+    return true;
+}
+
+bool Traces::setDiagram(int id, int number)
+{
+    Trace *trace = edit(id);
+    return trace && number >= 0 && std::exchange(trace->diagram, number) != number;
+}
+
+bool Traces::setNetwork(int id, int network, const Networks &networks)
+{
+    Trace *trace = edit(id);
+    if (!trace || network < 0 || network >= networks.count() || trace->network == network)
+        return false;
+    trace->network = network;
+    const int ports = networks.all().at(network).ports;
+    trace->to = std::min(trace->to, ports);
+    trace->from = std::min(trace->from, ports);
+    renew(trace);
     return true;
 }
 

@@ -22,6 +22,10 @@ struct Trace {
     TraceFormat format = TraceFormat::Smith; ///< decides which diagram shows it
     Scale scale; ///< of a Cartesian or polar diagram; a Smith chart has a zoom
     bool visible = true;
+    QString name; ///< that the user gave it; empty without one
+    /// The diagram that the user has put it in, from 1, which it shares with those of its kind that
+    /// have the same number; 0: format and layout decide.
+    int diagram = 0;
     TraceMath math = TraceMath::DataAndMemory; ///< with what was stored, where anything is
     QVector<LimitLine> limits; ///< of all formats; those of the present one hold
     double smoothing = 0.0; ///< share of the points that are averaged, in percent
@@ -31,7 +35,11 @@ struct Trace {
     static constexpr int maximumCount = 32;
     /// Largest share of the points that can be averaged, in percent.
     static constexpr double maximumSmoothing = 20.0;
+    /// Characters that a name can have.
+    static constexpr int longestName = 24;
 
+    /// What it is called on the panel: its name, or "Tr1".
+    QString label() const { return name.isEmpty() ? QStringLiteral("Tr%1").arg(id) : name; }
     DiagramKind kind() const { return diagramKind(format); }
     bool onSmithChart() const { return kind() == DiagramKind::Smith; }
     bool overFrequency() const { return kind() == DiagramKind::Cartesian; }
@@ -60,7 +68,7 @@ public:
     void rebuild(const Networks &networks);
     /// Adds a trace that is like another one, under the lowest free id or, where that is free, the
     /// wanted one; its id, or 0 when there are as many traces as there can be. Memories are not
-    /// shared.
+    /// shared, nor is the name.
     int addLike(int id, int wanted = 0);
     /// \name Each returns whether anything changed
     ///@{
@@ -68,6 +76,13 @@ public:
     bool remove(int id);
     bool setActive(int id);
     bool setVisible(int id, bool visible);
+    /// Blanks around it go, and what is longer than a name can be; an empty one ends it.
+    bool setName(int id, const QString &name);
+    /// False for a number below 0.
+    bool setDiagram(int id, int number);
+    /// Shows the same parameter of another network, or that of its highest port. What was stored
+    /// stays, to compare with. False for a network that is not there.
+    bool setNetwork(int id, int network, const Networks &networks);
     /// The scale becomes the default one.
     bool setFormat(int id, TraceFormat format, const Networks &networks);
     /// False for a parameter that the trace's network does not have. What was stored is dropped: it

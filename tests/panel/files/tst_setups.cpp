@@ -291,6 +291,80 @@ private Q_SLOTS:
         QCOMPARE(model.traces().size(), Trace::maximumCount);
     }
 
+    /// What a user arranges by hand comes back with Undo, with a set-up, and with another start.
+    void arrangesTracesByHand()
+    {
+        PanelModel model;
+        Network first = Scene().model.networks().first();
+        Network second = first;
+        second.name = "load.s1p"_s;
+        second.ports = 1;
+        second.parameters.resize(1);
+        model.openNetworks({first, second}); // 1 to 4, and 5 and 6
+        const QJsonObject untouched = viewState(model);
+        History history(&model);
+        const auto settle = [] { QTest::qWait(History::pause + 50); };
+
+        // All diagrams keep their numbers when one trace leaves for a new one.
+        model.setTraceDiagram(4, 3);
+        QCOMPARE(model.diagrams().size(), 3);
+        QCOMPARE(model.diagrams().at(0).traces, QVector<int>({1, 2, 5}));
+        QCOMPARE(model.diagrams().at(1).traces, QVector<int>({3, 6}));
+        QCOMPARE(model.diagrams().at(2).traces, QVector<int>{4});
+        model.setTraceFormat(4, TraceFormat::Phase);
+        model.setTraceDiagram(4, 2);
+        QCOMPARE(model.diagrams().at(1).traces, QVector<int>({3, 4, 6}));
+        // A number holds one diagram of each kind.
+        model.setTraceFormat(4, TraceFormat::Smith);
+        QCOMPARE(model.diagrams().size(), 3);
+        settle();
+
+        model.setTraceName(3, "  a\tlong name that does not end "_s);
+        QCOMPARE(model.trace(3)->name, "a long name that does no"_s);
+        QCOMPARE(model.trace(3)->label(), model.trace(3)->name);
+        QCOMPARE(model.trace(4)->label(), "Tr4"_s);
+        QVERIFY(model.trace(model.addTrace(3))->name.isEmpty());
+        // What is stored stays, to compare another file with.
+        model.storeMemory(3);
+        model.setTraceNetwork(3, 1);
+        QCOMPARE(PanelModel::parameterName(*model.trace(3)), "S11"_s);
+        QVERIFY(model.memory(3));
+        model.setTraceNetwork(3, 2);
+        QCOMPARE(model.trace(3)->network, 1);
+        settle();
+
+        // A file can be without a trace.
+        for (const int id : {1, 2, 4, 7})
+            model.removeTrace(id);
+        QCOMPARE(model.traces().size(), 3);
+        settle();
+        const QJsonObject arranged = viewState(model);
+        PanelModel another;
+        another.openNetworks({first, second});
+        restoreViewState(&another, arranged);
+        QCOMPARE(viewState(another), arranged);
+
+        history.undo();
+        QCOMPARE(model.traces().size(), 7);
+        QCOMPARE(model.trace(3)->network, 1);
+        history.undo();
+        QVERIFY(model.trace(3)->name.isEmpty());
+        QCOMPARE(model.trace(3)->network, 0);
+        QCOMPARE(PanelModel::parameterName(*model.trace(3)), "S21"_s);
+        QVERIFY(!model.memory(3));
+        QCOMPARE(model.diagrams().size(), 3);
+        history.redo();
+        history.redo();
+        QCOMPARE(viewState(model), arranged);
+        history.undo();
+        history.undo();
+        model.setDiagramsAutomatic();
+        QCOMPARE(model.diagrams().size(), 2);
+        history.undo();
+        history.undo();
+        QCOMPARE(viewState(model), untouched);
+    }
+
     void testsAgainstLines()
     {
         Scene scene;
