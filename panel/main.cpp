@@ -193,6 +193,8 @@ int main(int argc, char **argv)
     PanelWindow window(&model);
     PanelController controller(&model, &window);
     controller.setSoundOutput(makeSoundOutput);
+    if (keepsState)
+        controller.keepSetupsBeside(state.path());
     window.resize(commandLine.size);
     const bool opened = openFiles(controller.fileController(), commandLine.files, state.files());
     if (grabs) {

@@ -13,6 +13,13 @@
     </message>
 </context>
 <context>
+    <name>Panel::ChartGestures</name>
+    <message>
+        <source>Two taps on the title, or Esc, show all diagrams again.</source>
+        <translation>Zweimal auf den Titel tippen oder Esc zeigt wieder alle Diagramme.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::CircleEditor</name>
     <message>
         <source>There is one limit circle for all Smith charts.</source>
@@ -358,10 +365,6 @@
         <translation>Esc</translation>
     </message>
     <message>
-        <source>select none; leave an entry without changing it</source>
-        <translation>Auswahl aufheben; Eingabe ohne Änderung verlassen</translation>
-    </message>
-    <message>
         <source>Ctrl + O</source>
         <translation>Strg + O</translation>
     </message>
@@ -484,6 +487,10 @@
     <message>
         <source>from handle to handle, which arrows move; Del removes the limit</source>
         <translation>von Griff zu Griff, den Pfeile bewegen; Entf entfernt die Grenze</translation>
+    </message>
+    <message>
+        <source>select none, then show all diagrams; leave an entry without changing it</source>
+        <translation>nichts auswählen, dann alle Diagramme zeigen; eine Eingabe unverändert verlassen</translation>
     </message>
 </context>
 <context>
@@ -804,6 +811,18 @@
         <source>loss %1</source>
         <translation>Dämpfung %1</translation>
     </message>
+    <message>
+        <source>Bandwidth %1 dB (absorbed power)</source>
+        <translation>Bandbreite %1 dB (aufgenommene Leistung)</translation>
+    </message>
+    <message>
+        <source>%1: only its upper edge is in the data, %2</source>
+        <translation>%1: nur die obere Kante liegt in den Daten, %2</translation>
+    </message>
+    <message>
+        <source>%1: only its lower edge is in the data, %2</source>
+        <translation>%1: nur die untere Kante liegt in den Daten, %2</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MarkerRows</name>
@@ -865,6 +884,10 @@
         <source>Normalize to data</source>
         <translation>Auf Daten normieren</translation>
     </message>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageBar</name>
@@ -878,10 +901,6 @@
     <message>
         <source>Name</source>
         <translation>Name</translation>
-    </message>
-    <message>
-        <source>No name</source>
-        <translation>Kein Name</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1213,11 +1232,11 @@
     </message>
     <message>
         <source>Undo</source>
-        <translation>Zurück</translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>Wieder</translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Instrument</source>
@@ -1863,10 +1882,6 @@
         <translation>es sind mehr als die %1 angekündigten Frequenzen</translation>
     </message>
     <message>
-        <source>the references are the port impedances in its comments, and not what is shown</source>
-        <translation>der Bezug sind die Torimpedanzen in den Kommentaren und nicht, was angezeigt wird</translation>
-    </message>
-    <message>
         <source>only the first %1 MB of its comments are kept</source>
         <translation>nur die ersten %1 MB der Kommentare bleiben erhalten</translation>
     </message>
@@ -1921,6 +1936,10 @@
     <message>
         <source>%1 has no finite value at %2 Hz</source>
         <translation>%1 hat bei %2 Hz keinen endlichen Wert</translation>
+    </message>
+    <message>
+        <source>its data refer to the port impedances in its comments, but are shown as if to %1 Ω: impedances read from them are not true</source>
+        <translation>die Daten beziehen sich auf die Torimpedanzen in den Kommentaren, werden aber wie zu %1 Ω gezeigt: abgelesene Impedanzen stimmen nicht</translation>
     </message>
 </context>
 <context>
@@ -2031,10 +2050,6 @@
 <context>
     <name>Panel::TraceMath</name>
     <message>
-        <source>Data</source>
-        <translation>Daten</translation>
-    </message>
-    <message>
         <source>Memory</source>
         <translation>Speicher</translation>
     </message>
@@ -2049,6 +2064,10 @@
     <message>
         <source>Data + memory</source>
         <translation>Daten + Speicher</translation>
+    </message>
+    <message>
+        <source>Data and memory</source>
+        <translation>Daten und Speicher</translation>
     </message>
 </context>
 <context>

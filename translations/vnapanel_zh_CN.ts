@@ -13,6 +13,13 @@
     </message>
 </context>
 <context>
+    <name>Panel::ChartGestures</name>
+    <message>
+        <source>Two taps on the title, or Esc, show all diagrams again.</source>
+        <translation>双击标题或按 Esc 可重新显示所有图表。</translation>
+    </message>
+</context>
+<context>
     <name>Panel::CircleEditor</name>
     <message>
         <source>There is one limit circle for all Smith charts.</source>
@@ -352,10 +359,6 @@
         <translation>Esc</translation>
     </message>
     <message>
-        <source>select none; leave an entry without changing it</source>
-        <translation>取消选择；放弃输入，不作更改</translation>
-    </message>
-    <message>
         <source>Ctrl + O</source>
         <translation>Ctrl + O</translation>
     </message>
@@ -478,6 +481,10 @@
     <message>
         <source>from handle to handle, which arrows move; Del removes the limit</source>
         <translation>在手柄间切换，方向键移动手柄；Del 删除限制</translation>
+    </message>
+    <message>
+        <source>select none, then show all diagrams; leave an entry without changing it</source>
+        <translation>取消选择，再显示所有图表；放弃输入，不作更改</translation>
     </message>
 </context>
 <context>
@@ -797,6 +804,18 @@
         <source>loss %1</source>
         <translation>损耗 %1</translation>
     </message>
+    <message>
+        <source>Bandwidth %1 dB (absorbed power)</source>
+        <translation>带宽 %1 dB（吸收功率）</translation>
+    </message>
+    <message>
+        <source>%1: only its upper edge is in the data, %2</source>
+        <translation>%1：数据中只有上边沿，%2</translation>
+    </message>
+    <message>
+        <source>%1: only its lower edge is in the data, %2</source>
+        <translation>%1：数据中只有下边沿，%2</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MarkerRows</name>
@@ -858,6 +877,10 @@
         <source>Normalize to data</source>
         <translation>以当前数据归一化</translation>
     </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageBar</name>
@@ -871,10 +894,6 @@
     <message>
         <source>Name</source>
         <translation>名称</translation>
-    </message>
-    <message>
-        <source>No name</source>
-        <translation>无名称</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1855,10 +1874,6 @@
         <translation>频率多于所声明的 %1 个</translation>
     </message>
     <message>
-        <source>the references are the port impedances in its comments, and not what is shown</source>
-        <translation>参考阻抗是注释中的端口阻抗，而不是所显示的值</translation>
-    </message>
-    <message>
         <source>only the first %1 MB of its comments are kept</source>
         <translation>注释仅保留前 %1 MB</translation>
     </message>
@@ -1913,6 +1928,10 @@
     <message>
         <source>%1 has no finite value at %2 Hz</source>
         <translation>%1 在 %2 Hz 处没有有限数值</translation>
+    </message>
+    <message>
+        <source>its data refer to the port impedances in its comments, but are shown as if to %1 Ω: impedances read from them are not true</source>
+        <translation>数据以注释中的端口阻抗为参考，但按 %1 Ω 显示：由此读出的阻抗不准确</translation>
     </message>
 </context>
 <context>
@@ -2023,10 +2042,6 @@
 <context>
     <name>Panel::TraceMath</name>
     <message>
-        <source>Data</source>
-        <translation>数据</translation>
-    </message>
-    <message>
         <source>Memory</source>
         <translation>存储</translation>
     </message>
@@ -2041,6 +2056,10 @@
     <message>
         <source>Data + memory</source>
         <translation>数据 + 存储</translation>
+    </message>
+    <message>
+        <source>Data and memory</source>
+        <translation>数据和存储</translation>
     </message>
 </context>
 <context>

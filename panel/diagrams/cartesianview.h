@@ -6,6 +6,7 @@
 #include "cartesianmarkers.h"
 #include "diagramview.h"
 #include "fitoffer.h"
+#include "freeplace.h"
 #include "frequencyaxis.h"
 #include "valueaxis.h"
 
@@ -90,8 +91,8 @@ private:
     CartesianMarkers m_markers;
     CartesianLimits m_limits;
     FitOffer *m_fitButton;
-    Qt::Corner m_readOutCorner = Qt::TopRightCorner;
-    Qt::Corner m_verdictCorner = Qt::TopRightCorner;
+    BoxPlace m_readOutPlace;
+    BoxPlace m_verdictPlace;
     QSize m_laidOut; ///< of the axis rectangle; empty before the first layout
 };
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Where the parts of a Cartesian diagram are.
 #include "cartesianview.h"
-#include "freecorner.h"
+#include "freeplace.h"
 #include "readouts.h"
 
 namespace Panel
@@ -46,30 +46,31 @@ void CartesianView::placeReadOuts()
     constexpr int margin = 8;
     const QRect rect = plot()->axisRect()->rect();
     QRect room = rect.adjusted(margin, margin, -margin, -margin);
-    const auto leave = [&room](const QWidget *box, Qt::Corner corner) {
-        if (corner == Qt::TopLeftCorner || corner == Qt::TopRightCorner)
+    const auto leave = [&room](const QWidget *box, const BoxPlace &place) {
+        if (place.row == 0)
             room.setTop(qMax(room.top(), box->geometry().bottom() + margin));
         else
             room.setBottom(qMin(room.bottom(), box->geometry().top() - margin));
     };
     if (!m_fitButton->isHidden())
-        leave(m_fitButton, Qt::TopRightCorner);
+        leave(m_fitButton, {2, 0});
     QVector<QCPGraph *> lines;
     for (const auto &[id, line] : m_lines)
         lines.append(line.graph);
     if (!verdict()->isHidden()) {
-        m_verdictCorner = freestCorner(room, verdict()->size(), lines, m_verdictCorner);
-        const QRect box = boxIn(room, verdict()->size(), m_verdictCorner);
+        m_verdictPlace =
+            freestPlace(room, verdict()->size(), lines, m_verdictPlace, BoxPlaces::Corners);
+        const QRect box = boxIn(room, verdict()->size(), m_verdictPlace);
         m_limits.verdict()->setCorner({box.left() + box.width(), box.top()});
-        leave(verdict(), m_verdictCorner);
+        leave(verdict(), m_verdictPlace);
     }
     if (readOuts()->markers().isEmpty()) {
         const int left = qMin(rect.left(), plot()->width() - readOuts()->width());
         readOuts()->move(qMax(0, left), qMax(0, rect.top() - readOuts()->height()));
         return;
     }
-    m_readOutCorner = freestCorner(room, readOuts()->size(), lines, m_readOutCorner);
-    readOuts()->move(boxIn(room, readOuts()->size(), m_readOutCorner).topLeft());
+    m_readOutPlace = freestPlace(room, readOuts()->size(), lines, m_readOutPlace, BoxPlaces::All);
+    readOuts()->move(boxIn(room, readOuts()->size(), m_readOutPlace).topLeft());
 }
 
 } // namespace Panel

@@ -79,6 +79,8 @@ ChartGestures::ChartGestures(PanelModel *model, DiagramView *view)
     connect(view, &DiagramView::titleDoubleTapped, this, [this] {
         activate();
         m_model->viewSettings()->toggleSingleDiagram();
+        if (m_model->viewSettings()->isMaximized())
+            Q_EMIT said(tr("Two taps on the title, or Esc, show all diagrams again."));
     });
     connect(view, &DiagramView::fitRequested, model, &PanelModel::fitTrace);
 }
@@ -269,6 +271,8 @@ bool ChartGestures::handleKey(PanelModel *model, DiagramView *view, const QKeyEv
         pan(0.0, -s_panStep);
         return true;
     case Qt::Key_Escape:
+        if (!selected && model->viewSettings()->isMaximized())
+            model->viewSettings()->toggleSingleDiagram();
         model->selectMarker(0, 0);
         return true;
     case Qt::Key_Delete:

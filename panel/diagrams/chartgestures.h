@@ -36,6 +36,10 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+Q_SIGNALS:
+    /// A sentence about what a gesture has done.
+    void said(const QString &sentence);
+
 private:
     void onWheel(QWheelEvent *event);
     void onPress(QMouseEvent *event);

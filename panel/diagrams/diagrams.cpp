@@ -135,7 +135,8 @@ DiagramView *Diagrams::view(const DiagramId &id)
         connect(limits, &LimitEditor::said, reader, &DiagramReader::announce);
         connect(limits, &LimitEditor::refused, this, &Diagrams::said);
     }
-    new ChartGestures(m_model, view);
+    const auto *gestures = new ChartGestures(m_model, view);
+    connect(gestures, &ChartGestures::said, this, &Diagrams::said);
     view->plot()->installEventFilter(this);
     return view;
 }

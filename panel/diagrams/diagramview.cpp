@@ -5,6 +5,7 @@
 #include "readouts.h"
 #include "titlelabel.h"
 
+#include <panel/ground/look.h>
 #include <panel/ground/numbertext.h>
 
 #include <controls/thememanager.h>
@@ -211,9 +212,13 @@ Hit DiagramView::hitMarker(const QPointF &position) const
     return nearest < 0 ? Hit() : hits.at(nearest);
 }
 
-/// Sets the numbers of markers whose tips all but coincide side by side, in the order of their tips.
+/// Sets the numbers of markers whose tips all but coincide side by side, in the order of their tips,
+/// each on a ground on which it can be read before lines.
 void DiagramView::fanOutNumbers()
 {
+    constexpr int groundOpacity = 190; // of 255
+    QColor ground = currentLook().background;
+    ground.setAlpha(groundOpacity);
     struct Tip {
         QPointF place;
         QCPItemText *number;
@@ -222,8 +227,10 @@ void DiagramView::fanOutNumbers()
     for (const Trace &trace : traces()) {
         for (const Marker &marker : m_model->markersOf(trace.id)) {
             const Plot::Marker *drawn = drawnMarker(trace.id, marker.number);
-            if (drawn && drawn->isVisible())
-                tips.push_back({drawn->getTracer()->position->pixelPosition(), drawn->getLabel()});
+            if (!drawn || !drawn->isVisible())
+                continue;
+            drawn->getLabel()->setBrush(ground);
+            tips.push_back({drawn->getTracer()->position->pixelPosition(), drawn->getLabel()});
         }
     }
     std::stable_sort(tips.begin(), tips.end(),

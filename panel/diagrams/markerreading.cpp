@@ -291,17 +291,25 @@ QString bandwidthText(const PanelModel &model)
     const Marker *selected = model.selectedMarker();
     if (step == 0.0 || !selected)
         return {};
+    const Trace &trace = *model.trace(selected->trace);
     const std::optional<Bandwidth> band =
-        bandwidthAt(model.traceData(*model.trace(selected->trace)), model.indexOf(*selected), step);
-    const QString name = Text::tr("Bandwidth %1 dB").arg(step);
+        bandwidthAt(model.traceData(trace), model.indexOf(*selected), step, reflects(trace));
+    const QString name = band && band->kind == BandKind::Absorption
+        ? Text::tr("Bandwidth %1 dB (absorbed power)").arg(step)
+        : Text::tr("Bandwidth %1 dB").arg(step);
     if (!band)
         return Text::tr("%1: its edges are not in the data").arg(name);
-    const double span = model.shownRange(*model.trace(selected->trace)).span();
+    const double span = model.shownRange(trace).span();
+    if (!band->hasBothEdges())
+        return std::isnan(band->low) ? Text::tr("%1: only its upper edge is in the data, %2")
+                                           .arg(name, textWithin(band->high, span))
+                                     : Text::tr("%1: only its lower edge is in the data, %2")
+                                           .arg(name, textWithin(band->low, span));
     return QStringList{
         name + QLatin1Char(' ') + textWithin(band->width(), span),
         Text::tr("centre %1").arg(textWithin(band->centre(), span)),
         QStringLiteral("Q %1").arg(band->quality(), 0, 'g', 4),
-        band->notch || band->decibels > 0.0
+        band->kind != BandKind::Peak || band->decibels > 0.0
             ? Text::tr("marker %1").arg(cartesianText(band->decibels, TraceFormat::LogMagnitude))
             : Text::tr("loss %1").arg(cartesianText(-band->decibels, TraceFormat::LogMagnitude))}
         .join(QStringLiteral(" \u00b7 "));

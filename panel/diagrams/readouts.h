@@ -41,6 +41,8 @@ public:
     const QVector<Marker> &markers() const { return m_markers; }
     /// What is read, a line for each marker and one for the bandwidth.
     QStringList readings() const;
+    /// The part of it that readings fill, in pixels of its parent.
+    QRect contentGeometry() const { return {pos(), widget()->size().boundedTo(size())}; }
     /// The first line of a marker's reading, or null.
     MarkerStatusItem *item(int row) const;
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smithview.h"
 
+#include "readouts.h"
+
 #include <panel/ground/look.h>
 #include <panel/ground/numbertext.h>
 
@@ -28,7 +30,7 @@ SmithChart::Preset presetOf(GridDensity density)
 SmithView::SmithView(const PanelModel *model, const DiagramId &id, QWidget *parent)
     : PlaneView(model, id, QMargins(8, 4, 8, 8), parent)
     , m_density(model->viewSettings()->density())
-    , m_verdict(new Verdict(plot()))
+    , m_verdict(new Verdict(this))
 {
     plot()->setAccessibleName(tr("Smith chart"));
     showDensity();
@@ -188,7 +190,14 @@ QStringList SmithView::titleParts() const
 void SmithView::onLayout()
 {
     PlaneView::onLayout();
-    m_verdict->setCorner({plot()->width() - 8, 8});
+    constexpr int margin = 8;
+    const QRect clip = plot()->geometry();
+    const QPointF centre(plot()->xAxis->coordToPixel(0.0), plot()->yAxis->coordToPixel(0.0));
+    const QRect whole(0, clip.top(), width(), height() - clip.top());
+    m_verdict->setRoom(whole.adjusted(margin, margin, -margin, -margin),
+                       {centre + clip.topLeft(), plot()->xAxis->coordToPixel(1.0) - centre.x(),
+                        clip, readOuts()->contentGeometry()});
+    m_verdict->raise();
 }
 
 } // namespace Panel

@@ -2,8 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "verdict.h"
 
+#include "freeplace.h"
+
 #include <panel/ground/look.h>
 #include <panel/ground/numbertext.h>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Panel
 {
@@ -61,18 +66,53 @@ void Verdict::show(bool tested, const QVector<Failure> &failures)
     fit();
 }
 
+bool Verdict::fitsShare() const
+{
+    const QSize room = parentWidget()->size();
+    return width() <= room.width() * s_shareOfDiagram
+        && height() <= room.height() * s_shareOfDiagram;
+}
+
 /// Takes the longest text that leaves most of the diagram to what is judged.
 void Verdict::fit()
 {
-    const QSize room = parentWidget()->size();
-    for (const QString &text : qAsConst(m_texts)) {
-        setText(text);
-        adjustSize();
-        if (width() <= room.width() * s_shareOfDiagram
-            && height() <= room.height() * s_shareOfDiagram)
-            break;
-    }
+    const auto longest = [this](const auto &isFit) {
+        for (const QString &text : qAsConst(m_texts)) {
+            setText(text);
+            adjustSize();
+            if (isFit())
+                return true;
+        }
+        return false;
+    };
+    if (!m_room.isEmpty() && longest([this] { return fitsShare() && moveBesideChart(); }))
+        return;
+    longest([this] { return fitsShare(); });
     move(m_topRight - QPoint(width(), 0));
+}
+
+bool Verdict::Chart::isHiddenBy(const QRect &box) const
+{
+    if (box.intersects(readings))
+        return true;
+    const QRectF part = box & clip;
+    if (part.isEmpty())
+        return false;
+    const QPointF nearest(std::clamp(centre.x(), part.left(), part.right()),
+                          std::clamp(centre.y(), part.top(), part.bottom()));
+    return std::hypot(nearest.x() - centre.x(), nearest.y() - centre.y()) < radius;
+}
+
+bool Verdict::moveBesideChart()
+{
+    for (const BoxPlace &place : {BoxPlace{2, 0}, BoxPlace{2, 2}, BoxPlace{0, 2}, BoxPlace{0, 0}}) {
+        const QRect box = boxIn(m_room, size(), place);
+        if (m_room.contains(box) && !m_chart.isHiddenBy(box)) {
+            move(box.topLeft());
+            return true;
+        }
+    }
+    return false;
 }
 
 void Verdict::tell(bool tested, const QVector<Failure> &failures)
@@ -100,6 +140,15 @@ void Verdict::setCorner(const QPoint &topRight)
 {
     m_topRight = topRight;
     fit();
+}
+
+void Verdict::setRoom(const QRect &room, const Chart &chart)
+{
+    if (room == m_room && chart == m_chart)
+        return;
+    m_room = room;
+    m_chart = chart;
+    setCorner(room.topRight() + QPoint(1, 0));
 }
 
 } // namespace Panel

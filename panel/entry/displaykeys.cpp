@@ -16,7 +16,7 @@ namespace
 /// Standing wave ratios to choose from.
 const ValueChoices &ratios()
 {
-    static const ValueChoices choices{{1.1, 1.2, 1.5, 2.0, 3.0, 5.0, 10.0}};
+    static const ValueChoices choices{{1.1, 1.2, 1.3, 1.5, 1.7, 2.0, 2.5, 3.0, 5.0, 10.0}};
     return choices;
 }
 

@@ -152,17 +152,19 @@ void MathKeys::showState()
     const bool stored = active && m_model->memory(active->id);
     m_keys.memory->setEnabled(active);
     m_keys.memory->setItemEnabled(Clear, stored);
-    m_keys.math->setChoice(active ? int(active->math) : -1);
+    m_keys.math->setChoice(stored ? int(active->math) : -1, active ? tr("Data") : QString());
     m_keys.math->setEnabled(stored);
     m_keys.smoothing->setChoice(active ? smoothings().choiceOf(active->smoothing) : -1);
     const int ports = active ? m_model->network(*active).ports : 0;
-    QStringList names{tr("All ports")};
+    QStringList names;
+    if (ports != 1)
+        names << tr("All ports");
     for (int port = 1; port <= ports; ++port)
         names << tr("Port %1").arg(port);
     if (m_port > ports && active)
         m_port = 1;
     m_keys.extensionPort->setChoices(names);
-    m_keys.extensionPort->setChoice(active ? m_port : -1);
+    m_keys.extensionPort->setChoice(!active ? -1 : ports == 1 ? 0 : m_port);
     const double delay = active ? m_model->correction(*active).delay(extendedPorts().first()) : 0.0;
     m_keys.extension->setValue(!active            ? nothingText()
                                    : delay == 0.0 ? tr("Off")

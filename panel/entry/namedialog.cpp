@@ -42,7 +42,6 @@ NameDialog::NameDialog(const QString &title, const QString &name, int longest, Q
     auto *naming = new QHBoxLayout;
     m_name->setObjectName(QStringLiteral("name"));
     m_name->setAccessibleName(tr("Name"));
-    m_name->setPlaceholderText(tr("No name"));
     m_name->setMinimumHeight(s_nameKeyHeight);
     m_name->setMaxLength(longest);
     m_name->setClearButtonEnabled(true);

@@ -38,6 +38,13 @@ QStringList formatNames()
     return names;
 }
 
+/// As much of a name as a key has room for, from its beginning.
+QString shortened(const QString &name)
+{
+    constexpr int longest = 14;
+    return name.size() > longest ? name.left(longest - 1) + QChar(0x2026) : name;
+}
+
 } // namespace
 
 TraceController::TraceController(PanelModel *model, const PanelKeys &keys, TraceBar *bar,
@@ -262,7 +269,7 @@ void TraceController::showTrace()
     for (const Trace &trace : m_model->traces()) {
         if (active && trace.id == active->id)
             index = int(names.size());
-        names << trace.label() + QLatin1Char(' ') + PanelModel::parameterName(trace);
+        names << shortened(trace.label()) + QLatin1Char(' ') + PanelModel::parameterName(trace);
     }
     keys.trace->setChoices(names);
     keys.trace->setChoice(index);
@@ -271,7 +278,8 @@ void TraceController::showTrace()
     showReferencePosition(active);
     showNetwork(active);
     showDiagram(active);
-    keys.name->setValue(active && !active->name.isEmpty() ? active->name : nothingText());
+    keys.name->setValue(active && !active->name.isEmpty() ? shortened(active->name)
+                                                          : nothingText());
     keys.name->setEnabled(active);
     const auto isPresent = [active](const LimitLine &limit) {
         return limit.format == active->format;

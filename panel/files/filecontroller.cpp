@@ -185,17 +185,19 @@ void FileController::report(const ReadFiles &files, const QString &note)
                      qUtf8Printable(refusal.result.sentence(refusal.path)));
     }
     sentences << fileNotes(files.networks);
-    const bool fine = sentences.isEmpty();
-    if (!fine && !note.isEmpty())
+    if (!note.isEmpty())
         sentences << note;
     const int more = int(sentences.size()) - s_maximumSentences;
     if (more > 0) {
         sentences = sentences.mid(0, s_maximumSentences);
         sentences.last() += QLatin1Char(' ') + tr("(%n more)", nullptr, more);
     }
-    Q_EMIT reported(sentences.join(QLatin1Char('\n')));
-    if (fine && !note.isEmpty())
-        Q_EMIT noted(note);
+    const QString text = sentences.join(QLatin1Char('\n'));
+    // What was refused is told until somebody has seen it.
+    const bool refused = !files.refusals.isEmpty();
+    Q_EMIT reported(refused ? text : QString());
+    if (!refused && !text.isEmpty())
+        Q_EMIT noted(text);
     showDiskState();
 }
 

@@ -33,7 +33,12 @@ QString fileNameOf(const QString &name)
 
 QString Setups::defaultFolder()
 {
-    return QFileInfo(PanelState::defaultPath()).absolutePath() + QStringLiteral("/setups");
+    return folderBeside(PanelState::defaultPath());
+}
+
+QString Setups::folderBeside(const QString &stateFile)
+{
+    return QFileInfo(stateFile).absolutePath() + QStringLiteral("/setups");
 }
 
 Setups::Setups(PanelModel *model, FileController *files, const QString &folder, QObject *parent)

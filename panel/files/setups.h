@@ -23,6 +23,10 @@ public:
 
     /// Beside the state of the last time.
     static QString defaultFolder();
+    /// That of panels which keep their state in this file.
+    static QString folderBeside(const QString &stateFile);
+    /// Keeps them in another folder from now on.
+    void setFolder(const QString &folder) { m_folder = folder; }
 
     Setups(PanelModel *model, FileController *files, const QString &folder,
            QObject *parent = nullptr);

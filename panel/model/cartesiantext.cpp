@@ -23,6 +23,9 @@ QString withUnit(const QString &number, TraceFormat format)
 
 QString cartesianText(double value, TraceFormat format)
 {
+    // From a cable's nanoseconds to the fractions of a picosecond of what is made for 100 GHz.
+    if (format == TraceFormat::GroupDelay)
+        return engineeringText(value * 1e-9, QStringLiteral("s"));
     return std::isfinite(value) ? withUnit(numberText(value, traits(format).decimals), format)
                                 : nothingText();
 }

@@ -338,6 +338,7 @@ private:
     void placeMarker(int traceId, int number, double index);
     void tell(const Markers::Changes &changes);
     void tellTraces();
+    void fitTraceBy(int id, double smallestDivision);
     void trackMarkers();
 
     Networks m_networks;

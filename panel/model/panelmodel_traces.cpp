@@ -204,10 +204,22 @@ void PanelModel::setTraceScale(int id, const Scale &scale)
 
 void PanelModel::fitTrace(int id)
 {
+    fitTraceBy(id, 0.0);
+}
+
+/// The same with divisions of at least this size.
+void PanelModel::fitTraceBy(int id, double smallestDivision)
+{
     const Trace *trace = this->trace(id);
     if (!trace || trace->onSmithChart())
         return;
-    const ValueRange range = valueRange(traceData(*trace), trace->format);
+    ValueRange range = valueRange(traceData(*trace), trace->format);
+    const double missing =
+        smallestDivision * (traits(trace->format).divisions - 1) - (range.highest - range.lowest);
+    if (missing > 0.0) {
+        range.lowest -= missing / 2.0;
+        range.highest += missing / 2.0;
+    }
     Scale scale = fittingScale(trace->format, range.lowest, range.highest);
     if (trace->overFrequency())
         scale.position = trace->scale.position;
@@ -242,8 +254,11 @@ void PanelModel::setTraceMath(int id, TraceMath math)
 {
     if (!m_traces.setMath(id, math))
         return;
+    // The result is nowhere near the data, and right after these were stored there is nothing of it
+    // but noise.
+    constexpr double smallest = 0.1;
     if (math == TraceMath::Divided || math == TraceMath::Subtracted)
-        fitTrace(id); // the result is nowhere near the data
+        fitTraceBy(id, smallest * traits(trace(id)->format).defaultScale.perDivision);
     tellTraces();
 }
 

@@ -44,7 +44,7 @@ QString mathName(TraceMath math)
 {
     switch (math) {
     case TraceMath::DataAndMemory:
-        return MathText::tr("Data");
+        return MathText::tr("Data and memory");
     case TraceMath::Memory:
         return MathText::tr("Memory");
     case TraceMath::Divided:

@@ -9,8 +9,10 @@ ViewSettings::ViewSettings(QObject *parent)
     : QObject(parent)
 {
     m_layout.setLayoutType(Graph::LayoutType::SideBySide);
-    connect(&m_layout, &Graph::LayoutManagerProifle::layoutTypeChanged, this,
-            &ViewSettings::changed);
+    connect(&m_layout, &Graph::LayoutManagerProifle::layoutTypeChanged, this, [this] {
+        m_maximized = m_maximized && diagramLayout() == Graph::LayoutType::Single;
+        Q_EMIT changed();
+    });
 }
 
 double ViewSettings::vswrRadius() const
@@ -41,6 +43,7 @@ void ViewSettings::toggleSingleDiagram()
     const Graph::LayoutType now = diagramLayout();
     if (now != Graph::LayoutType::Single)
         m_layoutBefore = now;
+    m_maximized = now != Graph::LayoutType::Single;
     m_layout.setLayoutType(now == Graph::LayoutType::Single ? m_layoutBefore
                                                             : Graph::LayoutType::Single);
 }

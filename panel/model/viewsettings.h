@@ -90,6 +90,8 @@ public:
     }
     /// Shows one diagram alone, or those of before again.
     void toggleSingleDiagram();
+    /// Whether that has hidden the others, and not the choice of a layout.
+    bool isMaximized() const { return m_maximized; }
     void setGridMode(SmithChartPlot::GridMode mode) { set(m_gridMode, mode); }
     void setDensity(GridDensity density) { set(m_density, density); }
     void setGridLabels(GridLabels labels) { set(m_gridLabels, labels); }
@@ -122,6 +124,7 @@ private:
 
     Graph::LayoutManagerProifle m_layout;
     Graph::LayoutType m_layoutBefore = Graph::LayoutType::SideBySide; ///< one diagram alone
+    bool m_maximized = false;
     SmithChartPlot::GridMode m_gridMode = SmithChartPlot::Impedance;
     GridDensity m_density = GridDensity::Automatic;
     GridLabels m_gridLabels = GridLabels::Ohms;

@@ -379,8 +379,10 @@ bool Parser::finish()
     }
     network.remarks = m_header.remarks();
     if (m_portImpedances && (m_notRenormalized || m_header.lacksReference()))
-        network.remarks << Text::tr(
-            "the references are the port impedances in its comments, and not what is shown");
+        network.remarks
+            << Text::tr("its data refer to the port impedances in its comments, but are shown "
+                        "as if to %1 \u03a9: impedances read from them are not true")
+                   .arg(network.referenceOhms);
     if (m_commentBytes > s_maximumComments)
         network.remarks << Text::tr("only the first %1 MB of its comments are kept")
                                .arg(s_maximumComments >> 20);

@@ -45,7 +45,7 @@ HelpDialog::HelpDialog(bool hasSound, QWidget *parent)
          tr("from handle to handle, which arrows move; Del removes the limit")},
         {tr("G, M, k"), tr("finish a typed number in GHz, MHz or kHz")},
         {tr("Del"), tr("remove the selected marker")},
-        {tr("Esc"), tr("select none; leave an entry without changing it")},
+        {tr("Esc"), tr("select none, then show all diagrams; leave an entry without changing it")},
         {tr("Ctrl + Z"), tr("undo; with Shift, do it again")},
         {tr("Ctrl + O"), tr("open files")},
         {tr("Ctrl + P"), tr("take a screenshot")},

@@ -61,7 +61,6 @@ MessageBar::MessageBar(QWidget *parent)
             recolor);
     recolor();
     m_leave.setSingleShot(true);
-    m_leave.setInterval(noticeTime);
     connect(&m_leave, &QTimer::timeout, this, [this] { setMessage(QString()); });
     parent->installEventFilter(this);
     setMessage(QString());
@@ -111,7 +110,7 @@ void MessageBar::showText(const QString &message, bool notice)
     m_label->setText(message);
     setAccessibleName(message);
     if (notice)
-        m_leave.start();
+        m_leave.start(qMax(noticeTime, readingTime * int(message.size())));
     else
         m_leave.stop();
     setProperty("notice", notice);

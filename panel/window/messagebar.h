@@ -34,8 +34,9 @@ class MessageBar : public QFrame
     Q_OBJECT
 
 public:
-    /// How long a notice stays, in milliseconds.
+    /// How long a notice stays at least, in milliseconds, and what a long one has for each character.
     static constexpr int noticeTime = 6000;
+    static constexpr int readingTime = 60;
 
     explicit MessageBar(QWidget *parent);
 

@@ -262,6 +262,12 @@ void PanelController::showSettings()
     DialogStage::show(dialog, m_window);
 }
 
+void PanelController::keepSetupsBeside(const QString &stateFile)
+{
+    m_setups->setFolder(Setups::folderBeside(stateFile));
+    listSetups();
+}
+
 void PanelController::showSetups()
 {
     auto *dialog = new SetupDialog(m_setups, m_window);

@@ -32,6 +32,8 @@ public:
     PanelController(PanelModel *model, PanelWindow *window, QObject *parent = nullptr);
 
     FileController *fileController() const { return m_files; }
+    /// Keeps set-ups beside the file in which the panel keeps its state.
+    void keepSetupsBeside(const QString &stateFile);
     /// Where traces are heard; without, nothing offers to.
     void setSoundOutput(const SoundOutputMaker &makeOutput);
     /// Writes what goes over the cable to a file, before anything does; false if it cannot.

@@ -102,14 +102,49 @@ private Q_SLOTS:
                 data.parameter.imag << value.imag();
             }
             const auto band = bandwidthAt(data, 450.0, notch ? 37.0 : 10.0 * std::log10(2.0));
-            QVERIFY(band && band->notch == notch);
+            QVERIFY(band && band->kind == (notch ? BandKind::Notch : BandKind::Peak));
             QVERIFY(std::abs(band->decibels - (notch ? -40.0 : 0.0)) < 1e-6);
             QVERIFY(std::abs(band->width() * quality / centre - 1.0) < (notch ? 0.02 : 1e-3));
             QVERIFY(std::abs(band->centre() / centre - 1.0) < 1e-3);
             // The flank falls on one side only; the data end.
             QVERIFY(!bandwidthAt(data, 400.0, 0.5) && !bandwidthAt(data, 450.0, 50.0));
+            TraceData half = data;
+            half.frequencies = data.frequencies.mid(440);
+            half.parameter = {data.parameter.real.mid(440), data.parameter.imag.mid(440)};
+            const auto open = bandwidthAt(half, 10.0, notch ? 37.0 : 10.0 * std::log10(2.0));
+            QVERIFY(open && !open->hasBothEdges() && std::isnan(open->low));
+            QCOMPARE(open->high, band->high);
         }
         QVERIFY(!bandwidthAt({}, 0.0, 3.0));
+    }
+
+    /// A resonator behind a coupling: 1 - S = 2k / (1 + k) / (1 + jQ (f / f0 - f0 / f)) with the
+    /// loaded Q, at whatever depth of its dip.
+    void readsTheLoadedQOfReflections()
+    {
+        constexpr double centre = 2.45e9, quality = 25.0;
+        for (const double coupling : {0.1, 0.5, 0.99, 3.0}) {
+            TraceData data;
+            for (double hertz = 2e9; hertz < 3e9; hertz += 1e6) {
+                const std::complex<double> value = 1.0
+                    - 2.0 * coupling / (1.0 + coupling)
+                        / std::complex<double>(1.0, quality * (hertz / centre - centre / hertz));
+                data.frequencies << hertz;
+                data.parameter.real << value.real();
+                data.parameter.imag << value.imag();
+            }
+            const auto band = bandwidthAt(data, 450.0, 10.0 * std::log10(2.0), true);
+            QVERIFY(band && band->kind == BandKind::Absorption);
+            QVERIFY(std::abs(band->width() * quality / centre - 1.0) < 1e-3);
+            // What is more than reflected is a peak of its magnitude.
+            for (int i = 0; i < data.points(); ++i) {
+                const std::complex<double> value = 2.0 - data.at(i);
+                data.parameter.real[i] = value.real();
+                data.parameter.imag[i] = value.imag();
+            }
+            const auto gain = bandwidthAt(data, 450.0, 0.5, true);
+            QVERIFY(gain && gain->kind == BandKind::Peak);
+        }
     }
 
     void searchesForValues()

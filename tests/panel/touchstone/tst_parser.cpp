@@ -17,8 +17,9 @@ private Q_SLOTS:
     void remarks()
     {
         const QByteArray two = "2 11 0 21 0 12 0 22 0\n";
-        const QString impedances =
-            "the references are the port impedances in its comments, and not what is shown"_s;
+        const QString impedances = "its data refer to the port impedances in its comments, but are "
+                                   "shown as if to 50 \u03a9: "
+                                   "impedances read from them are not true"_s;
         const std::pair<QByteArray, QStringList> rows[] = {
             {file(2, "", two), {"[Two-Port Data Order] is missing, and 21_12 is assumed"_s}},
             {"# Hz S RI R\n" + two, {"R has no number, and 50 ohms are assumed"_s}},

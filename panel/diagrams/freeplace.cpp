@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "freecorner.h"
+#include "freeplace.h"
+
+#include <iterator>
 
 namespace Panel
 {
@@ -10,7 +12,7 @@ namespace
 
 /// How many pixel columns of a box are looked at.
 constexpr int s_triedColumns = 32;
-/// Another corner must be freer by so many of them.
+/// Another place must be freer by so many of them.
 constexpr int s_much = 4;
 
 /// The height of a line at a column of the plot, in pixels; NaN where it does not go.
@@ -44,27 +46,27 @@ int hiddenColumns(const QRect &box, const QVector<QCPGraph *> &lines)
 
 } // namespace
 
-QRect boxIn(const QRect &room, const QSize &size, Qt::Corner corner)
+QRect boxIn(const QRect &room, const QSize &size, const BoxPlace &place)
 {
-    QRect box(room.topLeft(), size);
-    if (corner == Qt::TopRightCorner || corner == Qt::BottomRightCorner)
-        box.moveRight(room.right());
-    if (corner == Qt::BottomLeftCorner || corner == Qt::BottomRightCorner)
-        box.moveBottom(room.bottom());
-    return box;
+    const QSize left = room.size() - size;
+    return {room.topLeft() + QPoint(left.width() * place.column / 2, left.height() * place.row / 2),
+            size};
 }
 
-Qt::Corner freestCorner(const QRect &room, const QSize &size, const QVector<QCPGraph *> &lines,
-                        Qt::Corner present)
+BoxPlace freestPlace(const QRect &room, const QSize &size, const QVector<QCPGraph *> &lines,
+                     const BoxPlace &present, BoxPlaces among)
 {
-    Qt::Corner best = present;
+    constexpr BoxPlace places[] = {{2, 0}, {2, 2}, {0, 0}, {0, 2}, {1, 0},
+                                   {1, 2}, {2, 1}, {0, 1}, {1, 1}};
+    constexpr int corners = 4;
+    const int count = among == BoxPlaces::Corners ? corners : int(std::size(places));
+    BoxPlace best = present;
     int fewest = hiddenColumns(boxIn(room, size, present), lines) - s_much;
-    for (const Qt::Corner corner :
-         {Qt::TopRightCorner, Qt::BottomRightCorner, Qt::TopLeftCorner, Qt::BottomLeftCorner}) {
-        const int hidden = hiddenColumns(boxIn(room, size, corner), lines);
+    for (int i = 0; i < count; ++i) {
+        const int hidden = hiddenColumns(boxIn(room, size, places[i]), lines);
         if (hidden < fewest) {
             fewest = hidden;
-            best = corner;
+            best = places[i];
         }
     }
     return best;
