@@ -93,28 +93,33 @@ void appendCircleInsideUnitDisk(double centerX, double centerY, double radius, i
 {
     if (samples < 1)
         return;
-    QVector<double> runX;
-    QVector<double> runY;
-    const auto closeRun = [&] {
-        if (runX.isEmpty())
-            return;
-        runs.x.append(runX);
-        runs.y.append(runY);
-        runX.clear();
-        runY.clear();
-    };
+    // Through pointers: whatever else is asked at each of some hundred points costs more than the point.
     const UnitCircle circle = UnitCircle::of(samples);
-    for (int i = 0; i <= samples; ++i) {
-        const double x = centerX + radius * circle.x.at(i);
-        const double y = centerY + radius * circle.y.at(i);
-        if (x * x + y * y <= insideLimit) {
-            runX.append(x);
-            runY.append(y);
-        } else {
-            closeRun();
+    const double *const unitX = circle.x.constData();
+    const double *const unitY = circle.y.constData();
+    int begin = 0; // of the run that the point in question may belong to
+    const auto closeRun = [&](int end) {
+        if (begin < end) {
+            QVector<double> runX(end - begin);
+            QVector<double> runY(end - begin);
+            double *const x = runX.data();
+            double *const y = runY.data();
+            for (int i = begin; i < end; ++i) {
+                x[i - begin] = centerX + radius * unitX[i];
+                y[i - begin] = centerY + radius * unitY[i];
+            }
+            runs.x.append(runX);
+            runs.y.append(runY);
         }
+        begin = end + 1;
+    };
+    for (int i = 0; i <= samples; ++i) {
+        const double x = centerX + radius * unitX[i];
+        const double y = centerY + radius * unitY[i];
+        if (!(x * x + y * y <= insideLimit))
+            closeRun(i);
     }
-    closeRun();
+    closeRun(samples + 1);
 }
 
 Grid gridGeometry(const QVector<double> &resistances, const QVector<double> &reactances,

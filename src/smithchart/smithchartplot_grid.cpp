@@ -90,7 +90,6 @@ public:
         curve->setLayer(SmithLayers::grid());
         curve->setData(x, y); // the parameter of each point is its index
         curve->setPen(m_pen);
-        curve->removeFromLegend();
         curve->setSelectable(QCP::stNone);
     }
 
@@ -211,6 +210,9 @@ void SmithChartPlotPrivate::addPresetGrid()
         SmithChart::gridGeometry(values.resistances, values.reactances, samplesPerCircle);
     const bool both = m_showImpedanceGrid && m_showAdmittanceGrid;
     GridBuilder builder(q, plot(), m_xAxis, m_yAxis, m_gridLook);
+    // A grid is in no legend, and to take each of its lines out again costs as much as the line.
+    const bool addsToLegend = plot()->autoAddPlottableToLegend();
+    plot()->setAutoAddPlottableToLegend(false);
 
     builder.setPen(m_gridLook.linePen);
     if (m_showImpedanceGrid)
@@ -223,6 +225,7 @@ void SmithChartPlotPrivate::addPresetGrid()
     }
     builder.addCircle(0.0, 1.0, m_gridLook.boundaryPen, boundaryLayer());
     builder.addLine(grid.realAxisX, grid.realAxisY);
+    plot()->setAutoAddPlottableToLegend(addsToLegend);
     if (m_showImpedanceGrid)
         builder.addLabels(grid.impedance.labels, false);
     if (m_showAdmittanceGrid)
