@@ -38,7 +38,9 @@ bool splitHost(const QString &text, QString &host, int &port)
         if (host.contains(QLatin1Char(':')))
             return false;
     }
-    if (host.isEmpty() || host.contains(QLatin1Char(' ')))
+    // A bracket within would be taken for one around when the address is read again.
+    const auto has = [&host](char character) { return host.contains(QLatin1Char(character)); };
+    if (host.isEmpty() || has(' ') || has('[') || has(']'))
         return false;
     if (rest.isEmpty())
         return true;

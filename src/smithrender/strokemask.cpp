@@ -256,6 +256,9 @@ bool StrokeMask::cut(Segment &s) const
     };
     if (isBeyondOneSide())
         return false;
+    // Where a stroke from or to infinity crosses an edge is unknown.
+    if (!std::isfinite(s.to.x - s.from.x) || !std::isfinite(s.to.y - s.from.y))
+        return false;
     double first = 0.0;
     double last = 1.0;
     const auto limit = [&](double from, double to, double low, double high) {
