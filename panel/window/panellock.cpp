@@ -83,7 +83,10 @@ bool PanelLock::isBlocked(QEvent *event) const
         const bool travels = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
         // A modifier by itself does nothing.
         const bool modifier = key->key() >= Qt::Key_Shift && key->key() <= Qt::Key_ScrollLock;
-        const bool onKey = m_padlock
+        // Those that press a key alone: what a padlock does not want goes on to its window.
+        const bool presses = key->key() == Qt::Key_Space || key->key() == Qt::Key_Select
+            || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        const bool onKey = presses && m_padlock
             && (m_padlock->hasFocus() || (m_padlock->key() && m_padlock->key()->hasFocus()));
         return !unlocks && !travels && !modifier && !onKey;
     }

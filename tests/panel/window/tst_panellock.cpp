@@ -44,6 +44,12 @@ private Q_SLOTS:
             QVERIFY(blocks([&] { desk.press(key, Qt::ControlModifier); }));
         for (const Qt::Key key : {Qt::Key_F1, Qt::Key_Plus, Qt::Key_Right, Qt::Key_Delete})
             QVERIFY(blocks([&] { desk.press(key); }));
+        // Nor past the padlock, to which Tab may lead and which leaves most keys to its window.
+        auto *padlock = desk.window.findChild<LockWidget *>();
+        padlock->setFocus(Qt::TabFocusReason);
+        QVERIFY(padlock->hasFocus());
+        QVERIFY(blocks([&] { desk.press(Qt::Key_Delete); }));
+        desk.plot()->setFocus();
         QVERIFY(blocks([&] { desk.turnWheel(desk.onPlot(0.5, 0.5), 3); }));
         QVERIFY(blocks([&] { mouseClick(desk.plot(), desk.onPlot(0.1, 0.1)); }));
         QVERIFY(blocks([&] { mouseClick(desk.window.themeButton()); }));
