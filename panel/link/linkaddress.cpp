@@ -58,7 +58,7 @@ QString LinkAddress::text() const
         return QStringLiteral("%1:%2").arg(scheme, place);
     const QString host =
         place.contains(QLatin1Char(':')) ? QStringLiteral("[%1]").arg(place) : place;
-    return QStringLiteral("%1:%2:%3").arg(scheme, host).arg(port);
+    return QStringLiteral("%1:%2:%3").arg(scheme, host, QString::number(port));
 }
 
 bool parseLinkAddress(const QString &text, LinkAddress &address, QString &error)
