@@ -148,6 +148,8 @@ void checkDialogs(const PanelWindow &window, QStringList &broken)
 /// What is on show against what the same data look like when they are drawn now.
 void checkPicture(const DiagramView &view, QStringList &broken)
 {
+    // A replot that was asked for and has not come yet, of a file that has just been loaded, say.
+    QCoreApplication::sendPostedEvents(view.plot(), QEvent::MetaCall);
     const QImage shown = view.plot()->grab().toImage();
     view.plot()->replot();
     const QImage drawn = view.plot()->grab().toImage();

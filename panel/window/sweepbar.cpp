@@ -33,7 +33,7 @@ SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
     column->setContentsMargins(0, s_lineWidth, 0, 0);
     column->addWidget(m_bar);
     connect(m_model, &PanelModel::tracesChanged, this, &SweepBar::showRange);
-    connect(m_model, &PanelModel::traceVisibleChanged, this, &SweepBar::showRange);
+    connect(m_model, &PanelModel::activeTraceChanged, this, &SweepBar::showRange);
     connect(m_model, &PanelModel::stimulusChanged, this, &SweepBar::showRange);
     connect(m_model, &PanelModel::networkUpdated, this, &SweepBar::showRange);
     // What was counted was another sweep's.
@@ -58,18 +58,12 @@ SweepBar::SweepBar(const PanelModel *model, QWidget *parent)
     showRange();
 }
 
-/// From the first to the last frequency of all that is on show, as the axes have it.
+/// That of the active trace, as the keys of page Stimulus have it.
 void SweepBar::showRange()
 {
-    double start = qInf(), stop = -qInf();
-    for (const Trace &trace : m_model->traces()) {
-        if (!trace.visible)
-            continue;
-        const Stimulus range = m_model->stimulus(trace);
-        start = qMin(start, range.start);
-        stop = qMax(stop, range.stop);
-    }
-    m_bar->updateRange(frequencyText(start), frequencyText(stop));
+    const Trace *active = m_model->activeTrace();
+    const Stimulus range = active ? m_model->stimulus(*active) : Stimulus{qQNaN(), qQNaN()};
+    m_bar->updateRange(frequencyText(range.start), frequencyText(range.stop));
 }
 
 void SweepBar::setProgress(double progress)

@@ -4,7 +4,6 @@
 #include "desk.h"
 #include "slope.h"
 
-#include <panel/diagrams/freecorner.h>
 #include <panel/diagrams/markerreading.h>
 #include <panel/diagrams/markertable.h>
 #include <panel/diagrams/readouts.h>
