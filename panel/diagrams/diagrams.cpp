@@ -198,7 +198,7 @@ void Diagrams::place(const QVector<DiagramView *> &views)
         const bool wide = columns == 2 && views.size() == 3 && i == 2;
         m_grid->addWidget(views.at(i)->parentWidget(), i / columns, i % columns, 1, wide ? 2 : 1);
     }
-    constexpr int maximumLines = 3; // of diagrams below each other
+    constexpr int maximumLines = 4; // of diagrams below each other
     for (int i = 0; i < maximumLines; ++i) {
         m_grid->setColumnStretch(i, i < columns ? 1 : 0);
         m_grid->setRowStretch(i, i * columns < views.size() ? 1 : 0);

@@ -158,6 +158,8 @@ void PanelModel::setTraceNetwork(int id, int network)
 
 void PanelModel::setTraceDiagram(int id, int number)
 {
+    if (!trace(id))
+        return;
     const TraceChanges changes(this);
     const QVector<PlannedDiagram> diagrams = allDiagrams();
     for (int i = 0; i < diagrams.size(); ++i) {
