@@ -1236,7 +1236,7 @@
     </message>
     <message>
         <source>Redo</source>
-        <translation>Wiederholen</translation>
+        <translation>Erneut</translation>
     </message>
     <message>
         <source>Instrument</source>
