@@ -12,8 +12,8 @@
 #include <panel/ground/look.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QPixmapCache>
@@ -60,8 +60,9 @@ void watchMessages(QtMsgType type, const QMessageLogContext &, const QString &me
     s_warnings << message;
 }
 
-/*! Turns away what waits in a loop of its own as it opens: Qt's menu of a scroll bar, and its file
-    dialog, which could also rename and delete what is not the monkey's. */
+/*! Turns away what waits in a loop of its own as it opens: Qt's menu of a scroll bar, and its dialogs
+    in windows of their own, as the print dialog opens them. That of files could also rename and delete
+    what is not the monkey's. The panel's dialogs lie within its window. */
 class Doorkeeper : public QObject
 {
 public:
@@ -69,7 +70,8 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::Show && qobject_cast<QFileDialog *>(watched))
+        const auto *dialog = qobject_cast<QDialog *>(watched);
+        if (event->type() == QEvent::Show && dialog && dialog->isWindow())
             QMetaObject::invokeMethod(watched, "reject", Qt::QueuedConnection);
         if (event->type() == QEvent::Show && qobject_cast<QMenu *>(watched))
             QMetaObject::invokeMethod(watched, "close", Qt::QueuedConnection);
