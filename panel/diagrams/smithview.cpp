@@ -197,7 +197,6 @@ void SmithView::onLayout()
     m_verdict->setRoom(whole.adjusted(margin, margin, -margin, -margin),
                        {centre + clip.topLeft(), plot()->xAxis->coordToPixel(1.0) - centre.x(),
                         clip, readOuts()->contentGeometry()});
-    m_verdict->raise();
 }
 
 } // namespace Panel
