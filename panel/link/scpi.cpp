@@ -45,6 +45,8 @@ qint64 blockSize(const QByteArray &digits)
 QVector<double> parseDoubles(const QByteArray &block, bool bigEndian)
 {
     QVector<double> values(block.size() / int(sizeof(double)));
+    if (values.isEmpty())
+        return values; // without data there is nothing to point to
     if (bigEndian)
         qFromBigEndian<quint64>(block.constData(), values.size(), values.data());
     else

@@ -77,6 +77,8 @@ QByteArray PanelCommands::select(const Call &call)
 QByteArray PanelCommands::written(const QVector<double> &values)
 {
     QByteArray bytes;
+    if (values.isEmpty())
+        return m_binary ? block(bytes) : bytes; // without data there is nothing to point to
     if (!m_binary) {
         bytes.reserve(int(values.size()) * 20);
         for (const double value : values)

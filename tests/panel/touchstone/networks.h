@@ -6,6 +6,7 @@
 
 #include <panel/model/network.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <random>
@@ -97,8 +98,8 @@ inline Panel::Network random(Doubles &random, int ports, bool sameReferences)
 
 inline bool sameBits(const QVector<double> &a, const QVector<double> &b)
 {
-    return a.size() == b.size()
-        && std::memcmp(a.constData(), b.constData(), std::size_t(a.size()) * sizeof(double)) == 0;
+    const auto same = [](double x, double y) { return std::memcmp(&x, &y, sizeof x) == 0; };
+    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(), same);
 }
 
 /// What two networks differ in, to the last bit; empty where in nothing that a file holds.
