@@ -22,6 +22,10 @@ if(VNAWIDGETS_SANITIZE)
     target_compile_options(vna_build_flags INTERFACE
         -fsanitize=${VNAWIDGETS_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
     target_link_options(vna_build_flags INTERFACE -fsanitize=${VNAWIDGETS_SANITIZE})
+    if(VNAWIDGETS_SANITIZE MATCHES thread)
+        # Between the calls that it puts in, GCC 12 no longer sees that a loop has filled what it fills.
+        target_compile_options(vna_build_flags INTERFACE -Wno-maybe-uninitialized)
+    endif()
 endif()
 
 # What two packages beside each other are told apart by: nothing for Qt 5, the version for any other.

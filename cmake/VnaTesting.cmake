@@ -15,6 +15,7 @@ set(VNA_TEST_ENVIRONMENT
     "XDG_RUNTIME_DIR=${VNA_TEST_RUNTIME_DIR}"
     "QTEST_FUNCTION_TIMEOUT=240000"
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/shared/lsan.supp:print_suppressions=0"
+    "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/shared/tsan.supp"
     "UBSAN_OPTIONS=print_stacktrace=1")
 
 # What every test program runs in: no display, the same hash order and locale everywhere.
