@@ -20,7 +20,7 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 /// distances to them, far less than matters.
 constexpr double margin = 1e-13;
 /// Runs of up to this many chords are searched by chords alone.
-constexpr int fewChords = 16;
+constexpr int fewChords = 32;
 /// Chords whose points deviate by less than this share of the leaf's extent say where its points
 /// lie.
 constexpr double smallDeviation = 0.015;
@@ -69,6 +69,7 @@ void BoundingVolumeHierarchy::build(const double *x, const double *y, int count)
     std::fill_n(m_chordX.begin() + chords + 1, VectorKernels::widest, 0.0);
     std::fill_n(m_chordY.begin() + chords + 1, VectorKernels::widest, 0.0);
     m_deviation.resize(static_cast<size_t>(chords));
+    m_isAscending.resize(static_cast<size_t>(chords));
 
     const int leaves = partsOf(leafShift);
     m_finite.assign(static_cast<size_t>(leaves), true);
@@ -136,14 +137,14 @@ void BoundingVolumeHierarchy::buildLeaf(int leaf)
         const auto at = static_cast<size_t>(chord);
         const int i = chord << chordShift;
         const int end = std::min(i + (1 << chordShift), last);
-        const Segment segment(m_x[i], m_y[i], m_x[end], m_y[end]);
-        const double deviation =
-            std::sqrt(kernels.squaredDeviation(m_x, m_y, i, end + 1, segment)) + smallestBounded;
+        const ChordBounds bounds = kernels.boundsOfChord(m_x, m_y, i, end);
+        const double deviation = std::sqrt(bounds.squaredDeviation) + smallestBounded;
         m_chordX[at] = m_x[i];
         m_chordY[at] = m_y[i];
         m_chordX[at + 1] = m_x[end];
         m_chordY[at + 1] = m_y[end];
         m_deviation[at] = deviation;
+        m_isAscending[at] = bounds.isAscending;
         largestDeviation = std::max(largestDeviation, deviation);
     }
 
@@ -191,8 +192,8 @@ size_t BoundingVolumeHierarchy::memoryUsed() const
 {
     size_t bytes =
         (m_chordX.capacity() + m_chordY.capacity() + m_deviation.capacity()) * sizeof(double)
-        + m_finite.capacity() / 8 + m_repeats.capacity() * sizeof(Repeat)
-        + m_stack.capacity() * sizeof(Candidate);
+        + (m_isAscending.capacity() + m_finite.capacity()) / 8
+        + m_repeats.capacity() * sizeof(Repeat) + m_stack.capacity() * sizeof(Candidate);
     for (const std::vector<Kdop> &level : m_levels)
         bytes += sizeof(std::vector<Kdop>) + level.capacity() * sizeof(Kdop);
     return bytes;
@@ -216,9 +217,10 @@ void BoundingVolumeHierarchy::push(int level, int firstNode, int lastNode, const
     }
 }
 
-Farthest BoundingVolumeHierarchy::farthest(int first, int end, const Segment &segment)
+Farthest BoundingVolumeHierarchy::farthest(int first, int end, const Segment &segment,
+                                           double enough)
 {
-    Farthest best;
+    Search found{{enough, -1}, -1.0};
     for (const Repeat &repeat : m_repeats) {
         if (repeat.end <= first)
             continue;
@@ -226,36 +228,40 @@ Farthest BoundingVolumeHierarchy::farthest(int first, int end, const Segment &se
             break;
         // Of points that are equal the first is the one to find: those of the first period.
         const int from = std::max(first, repeat.begin);
-        search(first, from, segment, best);
-        vectorKernels().farthest(m_x, m_y, from, std::min({from + repeat.period, repeat.end, end}),
-                                 m_count, segment, best);
+        search(first, from, segment, found);
+        found.scan(*this, from, std::min({from + repeat.period, repeat.end, end}), segment);
         first = std::min(repeat.end, end);
     }
-    search(first, end, segment, best);
-    return best;
+    search(first, end, segment, found);
+    return found.best.index >= 0 ? found.best : Farthest{found.squaredBound, -1};
 }
 
-/// Offers \a best the farthest of the points \a first to \a end - 1, of which there may be none.
-void BoundingVolumeHierarchy::search(int first, int end, const Segment &segment, Farthest &best)
+/// Offers the farthest of the points \a first to \a end - 1, of which there may be none.
+void BoundingVolumeHierarchy::search(int first, int end, const Segment &segment, Search &search)
 {
     if (first >= end)
         return;
     const VectorKernels &kernels = vectorKernels();
     if (end - first <= 2 << chordShift) {
-        kernels.farthest(m_x, m_y, first, end, m_count, segment, best);
+        search.scan(*this, first, end, segment);
         return;
     }
     if (end - first <= fewChords << chordShift) {
-        farthestByChords(first, end, segment, best);
+        farthestByChords(first, end, segment, search);
         return;
     }
 
     // Behind the best so far, a node must promise more than the k-DOPs' room: where values repeat,
     // most nodes hold a point as far as the best, and the first of them is the one to find.
     double tie = -1.0;
+    const Farthest &best = search.best;
     const auto canWin = [&](const Candidate &candidate) {
-        const bool isBehind = (candidate.node << shiftOf(candidate.level)) > best.index;
-        return candidate.bound > (isBehind ? tie : best.squaredDistance);
+        const bool isBehind =
+            best.index >= 0 && (candidate.node << shiftOf(candidate.level)) > best.index;
+        if (candidate.bound > (isBehind ? tie : best.squaredDistance))
+            return true;
+        search.squaredBound = std::max(search.squaredBound, candidate.bound);
+        return false;
     };
     const auto pushOverlapping = [&](int level, int from, int to) {
         const int shift = shiftOf(level);
@@ -280,7 +286,7 @@ void BoundingVolumeHierarchy::search(int first, int end, const Segment &segment,
         if (top.level == 0) {
             const int from = top.node << leafShift;
             farthestByChords(std::max(first, from), std::min(end, from + (1 << leafShift)), segment,
-                             best);
+                             search);
             const double distance = std::sqrt(best.squaredDistance) + 2.0 * m_room;
             tie = distance * distance;
         } else {
@@ -291,28 +297,60 @@ void BoundingVolumeHierarchy::search(int first, int end, const Segment &segment,
 }
 
 void BoundingVolumeHierarchy::farthestByChords(int first, int end, const Segment &segment,
-                                               Farthest &best) const
+                                               Search &search) const
 {
-    const VectorKernels &kernels = vectorKernels();
     const int firstChord = first >> chordShift;
     const int chords = ((end - 1) >> chordShift) - firstChord + 1;
     std::array<double, fewChords + 2 + VectorKernels::widest> distances;
     const auto at = static_cast<size_t>(firstChord);
-    kernels.squaredDistances(&m_chordX[at], &m_chordY[at], chords + 1, segment, distances.data());
+    vectorKernels().squaredDistances(&m_chordX[at], &m_chordY[at], chords + 1, segment,
+                                     distances.data());
     for (int k = 1; k < chords; ++k)
-        best.offer(distances[static_cast<size_t>(k)], (firstChord + k) << chordShift);
+        search.best.offer(distances[static_cast<size_t>(k)], (firstChord + k) << chordShift);
+    // Of the outer chords only a part may be asked for.
+    shorten(firstChord, first, 1, segment, distances[0]);
+    shorten(firstChord + chords - 1, end - 1, -1, segment, distances[static_cast<size_t>(chords)]);
 
-    double farthest = std::sqrt(std::max(best.squaredDistance, 0.0));
+    double farthest = std::sqrt(std::max(search.best.squaredDistance, 0.0));
     for (int k = 0; k < chords; ++k) {
-        const auto ends = distances.begin() + k;
-        const double needed = farthest - m_deviation[at + static_cast<size_t>(k)];
-        if (needed > 0.0 && std::max(ends[0], ends[1]) <= needed * needed)
+        const double deviation = m_deviation[at + static_cast<size_t>(k)];
+        const double toEnds =
+            std::max(distances[static_cast<size_t>(k)], distances[static_cast<size_t>(k) + 1]);
+        const double needed = farthest - deviation;
+        if (needed > 0.0 && toEnds <= needed * needed) {
+            if (search.best.index < 0)
+                search.raiseBound(std::sqrt(toEnds) + deviation);
             continue;
+        }
         const int from = (firstChord + k) << chordShift;
-        kernels.farthest(m_x, m_y, std::max(first, from), std::min(end, from + (1 << chordShift)),
-                         m_count, segment, best);
-        farthest = std::sqrt(std::max(best.squaredDistance, 0.0));
+        search.scan(*this, std::max(first, from), std::min(end, from + (1 << chordShift)), segment);
+        farthest = std::sqrt(std::max(search.best.squaredDistance, 0.0));
     }
+}
+
+/// Puts the end of a part of a chord in place of the chord's own: of the part that begins
+/// (\a direction 1) or ends (-1) at a point. \a squaredDistance is that of the end to \a segment.
+void BoundingVolumeHierarchy::shorten(int chord, int point, int direction, const Segment &segment,
+                                      double &squaredDistance) const
+{
+    const auto at = static_cast<size_t>(chord);
+    const int first = chord << chordShift;
+    const int last = std::min(first + (1 << chordShift), m_count - 1);
+    if (!m_isAscending[at] || point <= first || point + 1 >= last)
+        return;
+    const double fromX = m_chordX[at];
+    const double fromY = m_chordY[at];
+    const ChordAxis axis(Segment(fromX, fromY, m_chordX[at + 1], m_chordY[at + 1]));
+    double outermost = axis.along(m_x[point] - fromX, m_y[point] - fromY) * direction;
+    for (int i = 1; i < VectorKernels::widest; ++i) {
+        const int next = std::clamp(point + i * direction, first, last);
+        outermost =
+            std::min(outermost, axis.along(m_x[next] - fromX, m_y[next] - fromY) * direction);
+    }
+    outermost *= direction;
+    squaredDistance =
+        squaredDistanceToSegment(fromX + axis.x * outermost, fromY + axis.y * outermost, segment.ax,
+                                 segment.ay, segment.ax + segment.dx, segment.ay + segment.dy);
 }
 
 void BoundingVolumeHierarchy::nearest(NearestScan &scan)

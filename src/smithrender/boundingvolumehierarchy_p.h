@@ -4,6 +4,7 @@
 
 #include "vectorkernels_p.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
@@ -33,8 +34,10 @@ public:
     /// Builds the bounds of \a count points, at least 1, which must stay where they are.
     void build(const double *x, const double *y, int count);
 
-    /// The farthest from \a segment of the points \a first to \a end - 1, all finite.
-    Farthest farthest(int first, int end, const Segment &segment);
+    /// The farthest from \a segment of the points \a first to \a end - 1, all finite. If none is
+    /// farther than \a enough, squared, it may be left open which one it is: then the index is -1,
+    /// and none is farther than the distance.
+    Farthest farthest(int first, int end, const Segment &segment, double enough);
     /// Shows \a scan every point and line that can matter to it.
     void nearest(NearestScan &scan);
 
@@ -75,8 +78,35 @@ private:
     void buildLevels();
     void findRepeats();
     Repeat repeatAt(int sample, int begin) const;
-    void search(int first, int end, const Segment &segment, Farthest &best);
-    void farthestByChords(int first, int end, const Segment &segment, Farthest &best) const;
+    /// The farthest point so far, which begins as what is enough; and as long as there is none, how
+    /// far others may be.
+    struct Search {
+        Farthest best;
+        double squaredBound;
+
+        void raiseBound(double distance)
+        {
+            squaredBound = std::max(squaredBound, distance * distance);
+        }
+
+        /// Looks at each of these points.
+        void scan(const BoundingVolumeHierarchy &volumes, int first, int end,
+                  const Segment &segment)
+        {
+            Farthest here;
+            Farthest &farthest = best.index < 0 ? here : best;
+            vectorKernels().farthest(volumes.m_x, volumes.m_y, first, end, volumes.m_count, segment,
+                                     farthest);
+            if (best.index < 0) {
+                best.offer(here.squaredDistance, here.index);
+                squaredBound = std::max(squaredBound, here.squaredDistance);
+            }
+        }
+    };
+    void search(int first, int end, const Segment &segment, Search &search);
+    void farthestByChords(int first, int end, const Segment &segment, Search &search) const;
+    void shorten(int chord, int point, int direction, const Segment &segment,
+                 double &squaredDistance) const;
     void nearestByChords(int leaf, double x, double y, double scale, double slack,
                          NearestScan &scan) const;
     template<typename Promise>
@@ -91,6 +121,7 @@ private:
     std::vector<double> m_chordX;
     std::vector<double> m_chordY;
     std::vector<double> m_deviation;
+    std::vector<bool> m_isAscending;
     std::vector<bool> m_finite; ///< by leaf
     std::vector<std::vector<Kdop>> m_levels;
     std::vector<Repeat> m_repeats; ///< in ascending order, apart from each other

@@ -67,59 +67,44 @@ VNA_INLINE double farthestOfBody(const Kdop &kdop, const Segment &segment)
     return result;
 }
 
-/// The supports along \a Axes axes from the one numbered \a from, both ways.
-template<int Width, int From, int Axes>
-VNA_INLINE void encloseAlong(const double *x, const double *y, int first, int end, Kdop &kdop)
+/// Puts the range of a sum into \a kdop, as the supports along an axis, both ways; \a scale makes it
+/// a scalar product.
+template<typename R>
+VNA_INLINE void put(const R &ranges, int sum, size_t axis, double scale, Kdop &kdop)
 {
-    using Doubles = typename Vector<Width>::Doubles;
-    constexpr double infinity = std::numeric_limits<double>::infinity();
-    Doubles low[Axes];
-    Doubles high[Axes];
-    for (int k = 0; k < Axes; ++k) {
-        low[k] = Doubles() + infinity;
-        high[k] = Doubles() - infinity;
-    }
-    Doubles px;
-    Doubles py;
-    int i = first;
-    const auto takeIn = [&]() __attribute__((always_inline))
-    {
-        for (int k = 0; k < Axes; ++k) {
-            const auto axis = static_cast<size_t>(From + k);
-            const Doubles p = px * cosines[axis] + py * sines[axis];
-            low[k] = p < low[k] ? p : low[k];
-            high[k] = p > high[k] ? p : high[k];
-        }
-    };
-    for (; i + Width <= end; i += Width) {
-        load<Width>(x + i, px);
-        load<Width>(y + i, py);
-        takeIn();
-    }
-    for (; i < end; ++i) {
-        px = Doubles() + x[i];
-        py = Doubles() + y[i];
-        takeIn();
-    }
-    for (int k = 0; k < Axes; ++k) {
-        double lowest = lane(low[k], 0);
-        double highest = lane(high[k], 0);
-        for (int l = 1; l < Width; ++l) {
-            lowest = std::min(lowest, lane(low[k], l));
-            highest = std::max(highest, lane(high[k], l));
-        }
-        kdop.support[static_cast<size_t>(From + k)] = highest;
-        kdop.support[static_cast<size_t>(From + k + Kdop::directions / 2)] = -lowest;
-    }
+    kdop.support[axis] = ranges.largest(sum) * scale;
+    kdop.support[axis + Kdop::directions / 2] = -ranges.least(sum) * scale;
 }
 
 template<int Width>
 VNA_INLINE void encloseBody(const double *x, const double *y, int first, int end, Kdop &kdop)
 {
-    // Two halves, so that the running extremes stay in registers.
-    constexpr int axes = Kdop::directions / 4;
-    encloseAlong<Width, 0, axes>(x, y, first, end, kdop);
-    encloseAlong<Width, axes, axes>(x, y, first, end, kdop);
+    using Doubles = typename Vector<Width>::Doubles;
+    // Sums stand in for scalar products, which are multiples of them; in two goes, so that the
+    // running extremes stay in registers.
+    Ranges<Width, 4> even;
+    forEachVector<Width>(
+        x, y, first, end, [&](const Doubles &px, const Doubles &py) __attribute__((always_inline)) {
+            even.template takeIn<0>(px);
+            even.template takeIn<1>(px + py);
+            even.template takeIn<2>(py);
+            even.template takeIn<3>(py - px);
+        });
+    put(even, 0, 0, 1.0, kdop);
+    put(even, 1, 2, cos2, kdop);
+    put(even, 2, 4, 1.0, kdop);
+    put(even, 3, 6, cos2, kdop);
+    constexpr double tan1 = cos3 / cos1;
+    Ranges<Width, 4> odd;
+    forEachVector<Width>(
+        x, y, first, end, [&](const Doubles &px, const Doubles &py) __attribute__((always_inline)) {
+            odd.template takeIn<0>(px + tan1 * py);
+            odd.template takeIn<1>(tan1 * px + py);
+            odd.template takeIn<2>(py - tan1 * px);
+            odd.template takeIn<3>(tan1 * py - px);
+        });
+    for (int k = 0; k < 4; ++k)
+        put(odd, k, static_cast<size_t>(2 * k + 1), cos1, kdop);
     kdop.support[Kdop::directions] = kdop.support[0];
 }
 

@@ -126,19 +126,18 @@ bool LineGeneralisationTree::fits(const Projection &projection, double tolerance
         && scale > 1e-100 && scale < 1e100 && extent < 1e140 && tolerance < 1e100;
 }
 
-Farthest LineGeneralisationTree::search(int first, int last)
+/// The farthest point of a part; if that surely does not split it, the index may be -1.
+Farthest LineGeneralisationTree::splitOf(const Part &part, const View &view)
 {
-    return m_volumes->farthest(first + 1, last,
-                               Segment(m_x[first], m_y[first], m_x[last], m_y[last]));
-}
-
-Farthest LineGeneralisationTree::splitOf(const Part &part)
-{
+    const auto search = [&] {
+        const Segment segment(m_x[part.first], m_y[part.first], m_x[part.last], m_y[part.last]);
+        return m_volumes->farthest(part.first + 1, part.last, segment, view.surelyNot);
+    };
     if (part.last - part.first <= shortRun)
-        return search(part.first, part.last);
+        return search();
     Node &node = m_nodes[static_cast<size_t>(part.entry)];
-    if (node.split < 0) {
-        const Farthest farthest = search(part.first, part.last);
+    if (node.split < 0 && !(node.squaredDeviation < view.surelyNot)) {
+        const Farthest farthest = search();
         node.squaredDeviation = farthest.squaredDistance;
         node.split = farthest.index;
     }
@@ -148,10 +147,10 @@ Farthest LineGeneralisationTree::splitOf(const Part &part)
 bool LineGeneralisationTree::isSplit(const Part &part, const Farthest &farthest,
                                      const View &view) const
 {
+    if (farthest.index < 0 || farthest.squaredDistance < view.surelyNot)
+        return false;
     if (farthest.squaredDistance > view.surely)
         return true;
-    if (farthest.squaredDistance < view.surelyNot)
-        return false;
     // So near the tolerance, decide as the plain routine does.
     const auto x = [&](int i) { return view.projection.x(m_x[i]); };
     const auto y = [&](int i) { return view.projection.y(m_y[i]); };
@@ -250,7 +249,7 @@ void LineGeneralisationTree::simplify(const Run &run, const View &view, QVector<
         const bool isShort = part.last - part.first <= shortRun;
         if (isShort && simplifyShort(part, view, kept))
             continue;
-        const Farthest farthest = splitOf(part);
+        const Farthest farthest = splitOf(part, view);
         if (!isSplit(part, farthest, view)) {
             kept.append(part.last);
             continue;

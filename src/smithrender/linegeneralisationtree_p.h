@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -47,8 +48,9 @@ private:
     /// Where a run splits, and what is known of its two parts: the index of a node if a part is
     /// long, of the limits if it is short; -1: nothing yet, or too short for either.
     struct Node {
-        double squaredDeviation = -1.0;
-        int split = -1; ///< -1: not searched yet
+        double squaredDeviation =
+            std::numeric_limits<double>::infinity(); ///< at the most, as long as no split is known
+        int split = -1; ///< -1: no view has asked for it yet
         int left = -1;
         int right = -1;
     };
@@ -89,8 +91,7 @@ private:
     void findRuns();
     int entryFor(int first, int last);
     std::pair<int, int> entriesOf(const Part &part, int split);
-    Farthest search(int first, int last);
-    Farthest splitOf(const Part &part);
+    Farthest splitOf(const Part &part, const View &view);
     bool isSplit(const Part &part, const Farthest &farthest, const View &view) const;
     bool simplifyShort(const Part &part, const View &view, QVector<int> &kept);
     int appendLimits(const Part &part);

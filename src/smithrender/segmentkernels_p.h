@@ -16,6 +16,10 @@
 namespace SmithRender
 {
 
+/// Where points lie beyond a chord's ends by no more than this share of its length, how far they are
+/// from its axis, and how far beyond, bound their distances well enough.
+constexpr double sidewaysEnough = 0.1;
+
 /// To one segment, or lane by lane to the Segments.
 template<typename V, typename S>
 VNA_INLINE void squaredDistances(const V &x, const V &y, const S &s, V &result)
@@ -126,50 +130,122 @@ VNA_INLINE void squaredDistancesBody(const double *x, const double *y, int count
     }
 }
 
+/// The least and the largest of some values of points, each in lanes.
+template<int Width, int Values>
+struct Ranges {
+    using Doubles = typename Vector<Width>::Doubles;
+
+    VNA_INLINE Ranges()
+    {
+        constexpr double infinity = std::numeric_limits<double>::infinity();
+        for (int k = 0; k < Values; ++k) {
+            low[k] = Doubles() + infinity;
+            high[k] = Doubles() - infinity;
+        }
+    }
+
+    template<int Value>
+    VNA_INLINE void takeIn(const Doubles &value)
+    {
+        low[Value] = value < low[Value] ? value : low[Value];
+        high[Value] = value > high[Value] ? value : high[Value];
+    }
+
+    VNA_INLINE double least(int value) const
+    {
+        double least = lane(low[value], 0);
+        for (int l = 1; l < Width; ++l)
+            least = std::min(least, lane(low[value], l));
+        return least;
+    }
+    VNA_INLINE double largest(int value) const
+    {
+        double largest = lane(high[value], 0);
+        for (int l = 1; l < Width; ++l)
+            largest = std::max(largest, lane(high[value], l));
+        return largest;
+    }
+
+    Doubles low[Values];
+    Doubles high[Values];
+};
+
+/// Calls \a takeIn with the coordinates of all points, in vectors; those that do not fill one come
+/// one by one, in all lanes.
+template<int Width, typename TakeIn>
+VNA_INLINE void forEachVector(const double *x, const double *y, int first, int end,
+                              const TakeIn &takeIn)
+{
+    typename Vector<Width>::Doubles px, py;
+    int i = first;
+    for (; i + Width <= end; i += Width) {
+        load<Width>(x + i, px);
+        load<Width>(y + i, py);
+        takeIn(px, py);
+    }
+    for (; i < end; ++i) {
+        px = typename Vector<Width>::Doubles() + x[i];
+        py = typename Vector<Width>::Doubles() + y[i];
+        takeIn(px, py);
+    }
+}
+
 template<int Width>
 VNA_INLINE double squaredDeviationBody(const double *x, const double *y, int first, int end,
                                        const Segment &s)
 {
     using Doubles = typename Vector<Width>::Doubles;
-    const double scaledX = s.dx * s.inverse;
-    const double scaledY = s.dy * s.inverse;
-    const Doubles zero = Doubles() + 0.0;
-    const Doubles one = Doubles() + 1.0;
     Doubles farthest = Doubles();
-    Doubles sum = Doubles(); // not finite if any distance is not
-    Doubles px;
-    Doubles py;
-    const auto takeIn = [&]() __attribute__((always_inline))
-    {
-        px -= s.ax;
-        py -= s.ay;
-        Doubles u = px * scaledX + py * scaledY;
-        u = u > zero ? u : zero;
-        u = u < one ? u : one;
-        px -= u * s.dx;
-        py -= u * s.dy;
-        const Doubles distance = px * px + py * py;
-        farthest = distance > farthest ? distance : farthest;
-        sum += distance;
-    };
-    int i = first;
-    for (; i + Width <= end; i += Width) {
-        load<Width>(x + i, px);
-        load<Width>(y + i, py);
-        takeIn();
-    }
-    for (; i < end; ++i) {
-        px = Doubles() + x[i];
-        py = Doubles() + y[i];
-        takeIn();
-    }
-    double result = 0.0;
-    double total = 0.0;
-    for (int k = 0; k < Width; ++k) {
+    forEachVector<Width>(
+        x, y, first, end, [&](const Doubles &px, const Doubles &py) __attribute__((always_inline)) {
+            Doubles distance;
+            squaredDistances(px, py, s, distance);
+            farthest = distance > farthest ? distance : farthest;
+        });
+    double result = lane(farthest, 0);
+    for (int k = 1; k < Width; ++k)
         result = std::max(result, lane(farthest, k));
+    return result;
+}
+
+template<int Width>
+VNA_INLINE ChordBounds boundsOfChordBody(const double *x, const double *y, int first, int last)
+{
+    using Doubles = typename Vector<Width>::Doubles;
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const Segment chord(x[first], y[first], x[last], y[last]);
+    const ChordAxis axis(chord);
+    Ranges<Width, 2> ranges; // along the axis, and across it
+    Doubles sum = Doubles(); // not finite if any coordinate is not
+    Doubles before = Doubles() - infinity;
+    Doubles shortestStep = Doubles() + infinity;
+    forEachVector<Width>(
+        x, y, first,
+        last + 1, [&](const Doubles &px, const Doubles &py) __attribute__((always_inline)) {
+            const Doubles along = px * axis.x + py * axis.y;
+            ranges.template takeIn<0>(along);
+            ranges.template takeIn<1>(py * axis.x - px * axis.y);
+            sum += along;
+            const Doubles step = along - before;
+            shortestStep = step < shortestStep ? step : shortestStep;
+            before = along;
+        });
+    double total = 0.0;
+    bool isAscending = true;
+    for (int k = 0; k < Width; ++k) {
         total += lane(sum, k);
+        isAscending = isAscending && lane(shortestStep, k) >= 0.0;
     }
-    return total - total == 0.0 ? result : std::numeric_limits<double>::infinity();
+    if (total - total != 0.0)
+        return {infinity, false};
+    const double start = axis.along(chord.ax, chord.ay);
+    const double length = chord.dx * axis.x + chord.dy * axis.y;
+    const double across = chord.ay * axis.x - chord.ax * axis.y;
+    const double beside = std::max(across - ranges.least(1), ranges.largest(1) - across);
+    const double beyond = std::max(start - ranges.least(0), ranges.largest(0) - (start + length));
+    if (beyond > sidewaysEnough * length)
+        return {squaredDeviationBody<Width>(x, y, first, last + 1, chord), isAscending};
+    return {beside * beside + std::max(beyond, 0.0) * std::max(beyond, 0.0), isAscending};
 }
 
 } // namespace SmithRender

@@ -28,10 +28,10 @@ namespace
     {                                                                                              \
         return farthestOfBody<Width>(kdop, segment);                                               \
     }                                                                                              \
-    Attribute double squaredDeviation##Name(const double *x, const double *y, int first, int end,  \
-                                            const Segment &segment)                                \
+    Attribute ChordBounds boundsOfChord##Name(const double *x, const double *y, int first,         \
+                                              int last)                                            \
     {                                                                                              \
-        return squaredDeviationBody<Width>(x, y, first, end, segment);                             \
+        return boundsOfChordBody<Width>(x, y, first, last);                                        \
     }                                                                                              \
     Attribute void enclose##Name(const double *x, const double *y, int first, int end, Kdop &kdop) \
     {                                                                                              \
@@ -53,7 +53,7 @@ namespace
         prepareStrokesBody(batch);                                                                 \
     }                                                                                              \
     constexpr VectorKernels kernels##Name{                                                         \
-        farthest##Name, squaredDistances##Name, farthestOf##Name,    squaredDeviation##Name,       \
+        farthest##Name, squaredDistances##Name, farthestOf##Name,    boundsOfChord##Name,          \
         enclose##Name,  simplifyShort##Name,    limitsOfShort##Name, prepareStrokes##Name};
 
 VNA_KERNELS(Plain, 1, )

@@ -9,6 +9,7 @@
 #include <base/testexport_p.h>
 
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 
@@ -41,6 +42,33 @@ struct Segment {
 };
 
 /// The point farthest from a segment so far; of several equally far, the one of lowest index.
+/// The direction of a chord, of length 1; along x if the chord is too short to have one.
+struct ChordAxis {
+    explicit ChordAxis(const Segment &chord)
+    {
+        const double inverseLength = std::sqrt(chord.inverse);
+        if (chord.inverse > 0.0) {
+            x = chord.dx * inverseLength;
+            y = chord.dy * inverseLength;
+        }
+    }
+
+    /// Where a point's foot lies along the axis, from that of the origin.
+    double along(double px, double py) const { return px * x + py * y; }
+
+    double x = 1.0;
+    double y = 0.0;
+};
+
+struct ChordBounds {
+    /// No point lies farther from the chord, to within rounding, nor from its axis. Infinite if a
+    /// point is not finite, or so far away that squares overflow.
+    double squaredDeviation;
+    /// Each point's foot on the axis lies no less far along it than that of the point
+    /// VectorKernels::widest before it. Narrower vectors find that of fewer chords.
+    bool isAscending;
+};
+
 struct Farthest {
     double squaredDistance = -1.0;
     int index = -1;
@@ -79,11 +107,8 @@ struct VectorKernels {
                              double *result);
     /// The largest squared distance to \a segment of any point in \a kdop.
     double (*farthestOf)(const Kdop &kdop, const Segment &segment);
-    /// The squared deviation from \a segment: the largest squared distance of the points \a first
-    /// to \a end - 1, to within rounding; infinite if a point is not finite, or so far away that
-    /// squares overflow.
-    double (*squaredDeviation)(const double *x, const double *y, int first, int end,
-                               const Segment &segment);
+    /// What bounds the points \a first to \a last with the chord that joins these two.
+    ChordBounds (*boundsOfChord)(const double *x, const double *y, int first, int last);
     /// The k-DOP around the points \a first to \a end - 1, which must be finite.
     void (*enclose)(const double *x, const double *y, int first, int end, Kdop &kdop);
 
