@@ -312,20 +312,23 @@ void BoundingVolumeHierarchy::farthestByChords(int first, int end, const Segment
     shorten(firstChord + chords - 1, end - 1, -1, segment, distances[static_cast<size_t>(chords)]);
 
     double farthest = std::sqrt(std::max(search.best.squaredDistance, 0.0));
+    double farthestEnd = 0.0; // of those left out
+    double largestDeviation = 0.0;
     for (int k = 0; k < chords; ++k) {
         const double deviation = m_deviation[at + static_cast<size_t>(k)];
         const double toEnds =
             std::max(distances[static_cast<size_t>(k)], distances[static_cast<size_t>(k) + 1]);
         const double needed = farthest - deviation;
         if (needed > 0.0 && toEnds <= needed * needed) {
-            if (search.best.index < 0)
-                search.raiseBound(std::sqrt(toEnds) + deviation);
+            farthestEnd = std::max(farthestEnd, toEnds);
+            largestDeviation = std::max(largestDeviation, deviation);
             continue;
         }
         const int from = (firstChord + k) << chordShift;
         search.scan(*this, std::max(first, from), std::min(end, from + (1 << chordShift)), segment);
         farthest = std::sqrt(std::max(search.best.squaredDistance, 0.0));
     }
+    search.raiseBound(std::min(std::sqrt(farthestEnd) + largestDeviation, farthest));
 }
 
 /// Puts the end of a part of a chord in place of the chord's own: of the part that begins
