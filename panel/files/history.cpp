@@ -53,9 +53,14 @@ void History::followModel()
     for (const auto signal : {&PanelModel::stimulusChanged, &PanelModel::traceScaleChanged,
                               &PanelModel::limitsChanged, &PanelModel::referenceMarkerChanged})
         connect(m_model, signal, this, note);
-    for (const auto signal :
-         {&PanelModel::markerAdded, &PanelModel::markerMoved, &PanelModel::markerRemoved})
+    for (const auto signal : {&PanelModel::markerAdded, &PanelModel::markerRemoved})
         connect(m_model, signal, this, note);
+    connect(m_model, &PanelModel::markerTrackingChanged, this, note);
+    // Where sweeps take a marker that tracks something is nothing that the user did.
+    connect(m_model, &PanelModel::markerMoved, this, [this] {
+        if (!m_model->isTracking())
+            noteChange();
+    });
     connect(m_model, &PanelModel::traceVisibleChanged, this, note);
     connect(m_model, &PanelModel::zoomChanged, this, note);
     connect(m_model->viewSettings(), &ViewSettings::changed, this, note);

@@ -33,9 +33,14 @@ void StateKeeper::followModel()
     for (const auto signal : {&PanelModel::stimulusChanged, &PanelModel::traceScaleChanged,
                               &PanelModel::limitsChanged, &PanelModel::referenceMarkerChanged})
         connect(m_model, signal, this, changed);
-    for (const auto signal :
-         {&PanelModel::markerAdded, &PanelModel::markerMoved, &PanelModel::markerRemoved})
+    for (const auto signal : {&PanelModel::markerAdded, &PanelModel::markerRemoved})
         connect(m_model, signal, this, changed);
+    connect(m_model, &PanelModel::markerTrackingChanged, this, changed);
+    // Where sweeps take a marker that tracks something is nothing that the user did.
+    connect(m_model, &PanelModel::markerMoved, this, [this] {
+        if (!m_model->isTracking())
+            noteChange();
+    });
     connect(m_model, &PanelModel::traceVisibleChanged, this, changed);
     connect(m_model, &PanelModel::zoomChanged, this, changed);
     connect(m_model->viewSettings(), &ViewSettings::changed, this, changed);

@@ -253,6 +253,8 @@ public:
     bool markersDiscrete() const { return m_markers.isDiscrete(); }
     /// Whether markers of the same number stand at the same frequency on all traces.
     bool markersCoupled() const { return m_markers.isCoupled(); }
+    /// Whether markers are being moved by what they track, and not by the user.
+    bool isTracking() const { return m_tracking; }
 
     /// Marks a point with the lowest free number and selects the marker. Returns the number, or 0
     /// for an unknown trace, an index outside its data, or a trace that has all its markers.
@@ -360,6 +362,7 @@ private:
     Acquisition m_acquisition;
     double m_tuning = defaultTuning;
     bool m_sweeping = true;
+    bool m_tracking = false;
     int m_changing = 0; ///< how many TraceChanges there are
     /// What traces made of their data, by trace, and the revision that it was made at.
     mutable QHash<int, std::pair<TraceRevision, TraceData>> m_processed;

@@ -5,6 +5,8 @@
 
 #include "markersearch.h"
 
+#include <QScopedValueRollback>
+
 #include <cmath>
 
 namespace Panel
@@ -118,6 +120,7 @@ MarkedPoint PanelModel::markedPoint(const Marker &marker) const
 /// Moves the markers that follow a value to where it is now.
 void PanelModel::trackMarkers()
 {
+    const QScopedValueRollback<bool> tracking(m_tracking, true);
     for (const Marker &marker : QVector<Marker>(m_markers.all())) {
         const Trace *owner = trace(marker.trace);
         if (marker.tracking == Tracking::Off || marker.isFixed() || !owner)

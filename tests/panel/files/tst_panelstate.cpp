@@ -3,6 +3,7 @@
 #include "desk.h"
 
 #include <controls/thememanager.h>
+#include <panel/files/history.h>
 #include <panel/files/panelstate.h>
 #include <panel/files/statekeeper.h>
 
@@ -202,6 +203,39 @@ private Q_SLOTS:
             QVERIFY(!homeless.save());
         }
         QCOMPARE(failed.count(), 1);
+    }
+
+    /// A marker that goes where sweeps have their maximum is nothing to be written, nor undone.
+    void leavesOutWhatMarkersTrack()
+    {
+        PanelDesk desk;
+        PanelModel &model = desk.model;
+        const QString kept = path("tracked.json");
+        History history(&model);
+        StateKeeper keeper(&model, kept);
+        const auto isWritten = [&kept] {
+            return QTest::qWaitFor([&] { return QFile::exists(kept); }, 2 * StateKeeper::interval);
+        };
+        const int number = model.addMarker(1, 20.0);
+        model.setMarkerTracking(1, number, Tracking::Maximum);
+        QVERIFY(isWritten());
+        QVERIFY(QFile::remove(kept));
+
+        Network swept = model.networks().first();
+        swept.parameters[0].real.fill(0.1);
+        swept.parameters[0].imag.fill(0.1);
+        swept.parameters[0].real[7] = 0.9;
+        QVERIFY(model.updateNetwork(0, swept));
+        QCOMPARE(model.indexOf(*model.marker(1, number)), 7.0);
+        QVERIFY(!isWritten());
+        history.undo();
+        QVERIFY(!model.marker(1, number));
+
+        history.redo();
+        QVERIFY(isWritten());
+        QVERIFY(QFile::remove(kept));
+        model.setMarkerTracking(1, number, Tracking::Off);
+        QVERIFY(isWritten());
     }
 
 private:
