@@ -89,3 +89,9 @@ QStringList Fuzz::Census::grown() const
     }
     return grown;
 }
+
+int Fuzz::Census::allObjects()
+{
+    const QMutexLocker lock(&living().mutex);
+    return int(living().objects.size());
+}

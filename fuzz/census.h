@@ -21,6 +21,9 @@ public:
     /// well. What lives as long as the process is left out.
     QStringList grown() const;
 
+    /// How many objects there are of all classes, Qt's own among them.
+    static int allObjects();
+
 private:
     QMap<QString, int> m_counts;
 };

@@ -7,22 +7,18 @@
 //                                                 what its failure does not need
 #include "monkeychecks.h"
 #include "monkeypanel.h"
+#include "process.h"
 #include "shownrules.h"
 
 #include <panel/ground/look.h>
 
 #include <QApplication>
-#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
-#include <QMenu>
-#include <QPixmapCache>
 #include <QStandardPaths>
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
-#include <malloc.h>
 
 using namespace Monkey;
 
@@ -42,63 +38,10 @@ constexpr double usualLimit = 200.0;
 constexpr double usualLimit = 0.0;
 #endif
 
-QStringList s_warnings;
-
-void watchMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
-{
-    if (type == QtDebugMsg
-        || type == QtInfoMsg
-        // What a platform without a display cannot do is no fault of the panel, nor is a pointer
-        // beside a pop-up, nor a pinch beyond the edge of the screen, which is smaller than the
-        // panel there, nor a finger whose window has gone, which Qt 6 remarks on.
-        || message.startsWith(QLatin1String("This plugin does not support"))
-        || message.startsWith(QLatin1String("skipping QEventPoint"))
-        || message.startsWith(QLatin1String("Mouse event at "))
-        || message.startsWith(QLatin1String("QGestureManager::deliverEvent: could not find")))
-        return;
-    std::fprintf(stderr, "monkey: warning: %s\n", qUtf8Printable(message));
-    s_warnings << message;
-}
-
-/*! Turns away what waits in a loop of its own as it opens: Qt's menu of a scroll bar, and its dialogs
-    in windows of their own, as the print dialog opens them. That of files could also rename and delete
-    what is not the monkey's. The panel's dialogs lie within its window. */
-class Doorkeeper : public QObject
-{
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        const auto *dialog = qobject_cast<QDialog *>(watched);
-        if (event->type() == QEvent::Show && dialog && dialog->isWindow())
-            QMetaObject::invokeMethod(watched, "reject", Qt::QueuedConnection);
-        if (event->type() == QEvent::Show && qobject_cast<QMenu *>(watched))
-            QMetaObject::invokeMethod(watched, "close", Qt::QueuedConnection);
-        return QObject::eventFilter(watched, event);
-    }
-};
-
-/// Of this thread alone, so that what else the machine does counts little.
-double cpuMilliseconds()
-{
-    timespec time = {};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-}
-
 QByteArray readAll(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// In use, without the cache of pictures; 0 under a sanitizer, which has an allocator of its own.
-double heapKiB()
-{
-    QPixmapCache::clear();
-    const struct mallinfo2 info = mallinfo2();
-    return double(info.uordblks + info.hblkhd) / 1024.0;
 }
 
 struct Game {
@@ -138,9 +81,9 @@ int play(const Game &game)
             log.write(toLine(event));
             log.flush();
         }
-        const double start = cpuMilliseconds();
+        const double start = Fuzz::cpuMilliseconds();
         desk.perform(event);
-        const double took = cpuMilliseconds() - start;
+        const double took = Fuzz::cpuMilliseconds() - start;
         ++played;
         // A new panel is not an event of the old one.
         const bool anew = event.species == Species::DropPanel || event.species == Species::Restart;
@@ -157,14 +100,13 @@ int play(const Game &game)
         if (played % eventsPerCensus == 0 || played == count) {
             for (const QString &left : desk.dropAndCount())
                 broken << QStringLiteral("not destroyed: ") + left;
-            const double heap = heapKiB();
+            const double heap = Fuzz::heapKiB();
             growth = atFirst > 0.0 ? heap - atFirst : 0.0;
             atFirst = atFirst > 0.0 ? atFirst : heap;
             if (game.limit > 0.0 && growth > maximumGrowthKiB)
                 broken << QStringLiteral("memory has grown by %1 KiB").arg(growth);
         }
-        broken << desk.takeBroken() << s_warnings;
-        s_warnings.clear();
+        broken << desk.takeBroken() << Fuzz::takeWarnings();
     }
     std::printf("monkey: seed %llu, %d events, grown by %.0f KiB, the longest took %.0f ms of "
                 "processor time: %s",
@@ -216,8 +158,8 @@ int main(int argc, char **argv)
             return refuse(name);
         }
     }
-    qInstallMessageHandler(watchMessages);
-    Doorkeeper doorkeeper;
+    Fuzz::watchWarnings();
+    Fuzz::Doorkeeper doorkeeper;
     application.installEventFilter(&doorkeeper);
     return play(game);
 }

@@ -31,6 +31,8 @@ public:
 
     Panel::PanelWindow *window() const { return m_window.get(); }
     const Panel::PanelModel *model() const { return m_model.get(); }
+    Panel::PanelModel *model() { return m_model.get(); }
+    Panel::PanelController *controller() const { return m_controller.get(); }
     bool isPointerDown() const { return m_pressed || m_touchScreen.fingers() > 0; }
     /// What has gone wrong since this was last asked and cannot be seen in the panel.
     QStringList takeBroken();
