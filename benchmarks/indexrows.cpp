@@ -176,7 +176,7 @@ void addIndexRows(RatioTable &table)
     const std::vector<std::string> smoothPeers = addPeers("smooth spiral", smooth);
     table.addRow({"zoom step, in and out, smooth spiral", million, Row::TimesFaster, 1000.0,
                   addZoomSteps("smooth spiral", smooth), smoothPeers});
-    table.addRow({"zoom step, never seen, smooth spiral", million, Row::TimesFaster, 1000.0,
+    table.addRow({"zoom step, never seen, smooth spiral", million, Row::TimesFaster, 500.0,
                   addFirstZoomStep("smooth spiral", smooth), smoothPeers});
     table.addRow({"first view, smooth spiral", million, Row::TimesFaster, 5.0,
                   addFirstView("smooth spiral", smooth), smoothPeers});
