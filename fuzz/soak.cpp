@@ -75,9 +75,9 @@ int main(int argc, char **argv)
     day.restart(); // what each language makes once is there
     std::unique_ptr<Fuzz::Census> census; // after the hours that fill caches
     for (int hour = 1; hour <= hours && broken.isEmpty(); ++hour) {
-        day.playHour();
-        if (hour % hoursOfADay == 0)
+        if (hour > 1 && hour % hoursOfADay == 1)
             day.restart();
+        day.playHour();
         figures << Soak::Figures::now();
         figures.last().frameMs = Soak::median(day.costs());
         if (hour == 1 || hour % every == 0 || hour == hours)

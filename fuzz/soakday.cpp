@@ -79,9 +79,12 @@ void Day::expect(bool holds, const char *what)
 {
     if (holds)
         return;
-    m_broken << QStringLiteral("hour %1, %2: missing: %3")
+    const SourceState &state = model()->sourceState();
+    m_broken << QStringLiteral("hour %1, %2: missing: %3 (source in phase %4, %5)")
                     .arg(m_hour)
-                    .arg(QLatin1String(m_deed), QLatin1String(what));
+                    .arg(QLatin1String(m_deed), QLatin1String(what))
+                    .arg(state.phase)
+                    .arg(state.trouble.isEmpty() ? m_address : state.trouble);
     std::fprintf(stderr, "soak: %s\n", qUtf8Printable(m_broken.last()));
 }
 
