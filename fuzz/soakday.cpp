@@ -133,11 +133,13 @@ void Day::playHour()
     m_costs.clear();
     m_drawn = m_delivered = 0;
     const int count = int(std::size(deeds));
-    for (int i = 0; i < count; ++i) {
-        m_deed = deeds[i].name;
-        (this->*deeds[i].begin)();
-        playFrames(m_frames / count + (i < m_frames % count ? 1 : 0));
-        (this->*deeds[i].end)();
+    int played = 0;
+    for (const Deed &deed : deeds) {
+        m_deed = deed.name;
+        (this->*deed.begin)();
+        playFrames(m_frames / count + (played < m_frames % count ? 1 : 0));
+        (this->*deed.end)();
+        ++played;
     }
     m_deed = "end of the hour";
     makeStandard();
