@@ -18,6 +18,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QRegularExpression>
+#include <QResizeEvent>
 
 #include <cmath>
 #include <complex>
@@ -158,6 +159,31 @@ void checkPicture(const DiagramView &view, QStringList &broken)
             << QStringLiteral("diagram %1 does not show what it would draw").arg(view.id().place);
 }
 
+/// Where the parts of a diagram lie against where a resize would put them now.
+void checkLayout(DiagramView &view, QStringList &broken)
+{
+    const QList<QWidget *> parts =
+        view.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    QVector<QRect> places;
+    for (const QWidget *part : parts)
+        places << part->geometry();
+    QResizeEvent resize(view.size(), view.size());
+    QCoreApplication::sendEvent(&view, &resize);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    for (int i = 0; i < places.size(); ++i) {
+        const QRect &a = places.at(i), b = parts.at(i)->geometry();
+        if (parts.at(i)->isVisible() && a != b)
+            broken << QStringLiteral("a resize would put %1 of diagram %2 by %3, %4 elsewhere, "
+                                     "larger by %5, %6")
+                          .arg(QString::fromLatin1(parts.at(i)->metaObject()->className()))
+                          .arg(view.id().place)
+                          .arg(b.x() - a.x())
+                          .arg(b.y() - a.y())
+                          .arg(b.width() - a.width())
+                          .arg(b.height() - a.height());
+    }
+}
+
 } // namespace
 
 QStringList ShownRules::broken(const PanelModel &model, PanelWindow &window)
@@ -183,6 +209,7 @@ QStringList ShownRules::broken(const PanelModel &model, PanelWindow &window)
             continue;
         checkDigits(model, *view, broken);
         checkLines(model, *view, broken);
+        checkLayout(*view, broken);
         if (!model.showsMeasurement())
             checkPicture(*view, broken);
     }

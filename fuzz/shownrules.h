@@ -18,7 +18,8 @@ namespace Fuzz
 
 /*! What must hold of what a panel shows, besides markers and axes (panelrules.h): read-outs have the
     digits of their values, two lines differ in colour or dash, dialogs lie within the window, what is
-    on show is what would be drawn anew, and nothing but a resize or another layout moves a diagram.
+    on show is what would be drawn anew, diagrams lie as they would be laid out anew, and nothing but a
+    resize or another layout moves one.
 
     One object judges one panel after another: it remembers where the diagrams were. */
 class ShownRules

@@ -350,6 +350,12 @@ void DiagramView::replotLater()
 void DiagramView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    placeReadOuts();
+}
+
+/// Below the plot, or beside it; those of a Cartesian diagram lie over it.
+void DiagramView::placeReadOuts()
+{
     if (m_id.kind == DiagramKind::Cartesian)
         return;
     // A square diagram leaves room beside it where it is much wider than high.
@@ -390,6 +396,9 @@ bool DiagramView::event(QEvent *event)
         m_plot->setBufferDevicePixelRatio(devicePixelRatioF());
         m_plot->replot();
     }
+    // The title takes its lines by the width that it gets, after this has been resized.
+    if (event->type() == QEvent::LayoutRequest)
+        placeReadOuts();
     return handled;
 }
 

@@ -148,6 +148,7 @@ protected:
 private:
     void followModel();
     void clearEdges();
+    void placeReadOuts();
     void followMarkers();
     void reload();
     QVector<TraceRevision> revisions() const;

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """One tour of the panel in real windows, by pointer and keys: under X11 with openbox, under weston's desktop
-and kiosk shells, and over VNC with a viewer.
+and kiosk shells, and over VNC with a viewer. Before it, starts on a screen are held against ones without.
 
     tour.py PANEL SAMPLES [STAGE...]
 
@@ -70,7 +70,8 @@ def read_png(data, rows=HEIGHT):
 class Script:
     """A connection to the panel's own port for scripts."""
 
-    def __init__(self, place):
+    def __init__(self, process):
+        place = process.stdout.readline().rsplit(" ", 1)[1].strip()
         host, port = place.rsplit(":", 1)
         self.socket = socket.create_connection((host, int(port)), 30)
         self.file = self.socket.makefile("rb")
@@ -98,7 +99,7 @@ class Panel:
 
     def __init__(self, process, frames, places, home):
         self.process, self.frames, self.places, self.home = process, frames, places, home
-        self.script = Script(process.stdout.readline().rsplit(" ", 1)[1].strip())
+        self.script = Script(process)
         self.left, self.top = 0, 0
 
     def locate(self):
@@ -335,8 +336,8 @@ def take_the_tour(panel, hide_and_show):
 # The stages: each yields the panel and what hides and shows it, where there is such a thing
 
 
-@contextlib.contextmanager
-def panel_on(platform, places, home, **environment):
+def started(platform, home, *files, **environment):
+    """A panel whose state is in a folder, as is what it opens."""
     program, samples = sys.argv[1:3]
     for name in ("antenna.s1p", "band-pass.s2p"):
         shutil.copy(os.path.join(samples, name), home)
@@ -345,9 +346,14 @@ def panel_on(platform, places, home, **environment):
              "QT_FONT_DPI": "96",
              # What a screen's libraries keep is not the panel's.
              "ASAN_OPTIONS": "detect_leaks=0", **environment}
-    command = [program, "-platform", platform, "--lang", "en", "--size", f"{WIDTH}x{HEIGHT}", "--serve", "0",
-               "--state", home + "/state.ini", home + "/antenna.s1p"]
-    with running(command, env=given, stdout=subprocess.PIPE, text=True) as process:
+    command = [program, "-platform", platform, "--size", f"{WIDTH}x{HEIGHT}", "--serve", "0",
+               "--state", home + "/state.ini", *(os.path.join(home, name) for name in files)]
+    return running(command, env=given, stdout=subprocess.PIPE, text=True)
+
+
+@contextlib.contextmanager
+def panel_on(platform, places, home, **environment):
+    with started(platform, home, "antenna.s1p", **environment) as process:
         yield Panel(process, FrameBuffer(home), places, home)
 
 
@@ -421,6 +427,74 @@ STAGES = {
 }
 
 
+# Starts
+
+
+STARTS = [
+    {},
+    {"layout": 3, "look": 1, "language": "de"},
+    {"layout": 2, "markerTable": True},
+    {"layout": 0, "language": "zh_CN", "gridLabels": 1},
+    {"logarithmic": True, "highContrast": True, "traceDashes": True},
+]
+
+
+def compare_starts():
+    """A start on a screen, where sizes and pictures come as the system has them, ends with what one without a
+    screen draws, which lays out first. Two files make titles too long for their line."""
+    with tempfile.TemporaryDirectory() as home:
+        with started("offscreen", home, "antenna.s1p", "band-pass.s2p") as process:
+            script = Script(process)
+            names = script.ask("CALC:PAR:CAT?").strip('"').split(",")[::2]
+            for name, frequency in zip(names, (2.45e9, 2.5e9)):
+                script.ask(f"CALC:PAR:SEL '{name}';:CALC:MARK1:X {frequency};*OPC?")
+            process.terminate()
+            process.wait(30)
+        with open(home + "/state.ini") as file:
+            left = json.load(file)
+        if not left["networks"][0]["traces"][0]["markers"]:
+            fail("no marker was set")
+        for start in STARTS:
+            with open(home + "/state.ini", "w") as file:
+                json.dump({**left, **start}, file)
+            compare_start(home, start)
+
+
+def final_size(script):
+    sizes = []
+    for pause in (1, 0):
+        sizes.append(struct.unpack(">II", script.picture()[16:24]))
+        time.sleep(pause)
+    return sizes[0] == sizes[1] and sizes[0]
+
+
+def compare_start(home, start):
+    difference = []
+
+    def alike():
+        picture = read_png(script.picture())
+        shown = frames.picture()
+        difference[:] = [len(shown.data) == len(picture.data) and shown.changes(picture)]
+        return difference == [None]
+
+    with started("offscreen", home) as process:
+        script = Script(process)
+        # The other's screen is as large as the window is here once it has been fitted to its screen.
+        size = wait_for("a size", lambda: final_size(script))
+        with x_server(*size, "-nocursor", "-fbdir", home) as os.environ["DISPLAY"]:
+            frames = FrameBuffer(home)
+            shutil.copytree(home, home + "/live", ignore=shutil.ignore_patterns("Xvfb*", "live"))
+            with started("xcb", home + "/live"):
+                search = ["xdotool", "search", "--sync", "--onlyvisible", "--class", "vnapanel"]
+                window = subprocess.check_output(search, text=True)
+                xdotool("windowfocus", window.split()[-1], "mousemove", 0, frames.height - 1)
+                try:
+                    wait_for("", alike)
+                except SystemExit:
+                    fail(f"a start with {start} differs on the screen within {difference}")
+            shutil.rmtree(home + "/live")
+
+
 def run_stage(name, places):
     stage, size, _ = STAGES[name]
     with tempfile.TemporaryDirectory() as home, x_server(*size, "-fbdir", home) as display:
@@ -434,7 +508,11 @@ def inside():
     """Within a session bus of its own. A stage that fails is tried once more, and says so: servers and viewers
     start in their own time, and what is broken in the panel fails twice."""
     places, missing = Places(), []
-    wanted = sys.argv[3:] or STAGES
+    wanted = sys.argv[3:] or ["starts", *STAGES]
+    if "starts" in wanted:
+        begin = time.monotonic()
+        compare_starts()
+        print(f"starts: well, {time.monotonic() - begin:.1f} s", flush=True)
     for name, (_, _, needed) in STAGES.items():
         if name not in wanted:
             continue
