@@ -254,6 +254,7 @@ void MarkerTable::makeTable()
     m_table->horizontalHeader()->setFixedHeight(s_rowHeight);
     m_table->horizontalHeader()->setHighlightSections(false);
     QScroller::grabGesture(m_table->viewport(), QScroller::LeftMouseButtonGesture);
+    m_table->viewport()->installEventFilter(this);
     for (QLabel *label : {m_hint, m_bandwidth}) {
         label->setObjectName(QStringLiteral("dim"));
         label->setContentsMargins(10, 4, 10, 4);
@@ -325,11 +326,12 @@ void MarkerTable::fitColumns()
         header->resizeSection(column, m_widths.at(column) + spare);
 }
 
-void MarkerTable::resizeEvent(QResizeEvent *event)
+/// The scroll bar, which comes after the rows, takes its room from the columns.
+bool MarkerTable::eventFilter(QObject *watched, QEvent *event)
 {
-    QWidget::resizeEvent(event);
-    if (isVisible())
+    if (event->type() == QEvent::Resize)
         fitColumns();
+    return QWidget::eventFilter(watched, event);
 }
 
 void MarkerTable::onRowPicked(const QModelIndex &index)

@@ -40,7 +40,7 @@ Q_SIGNALS:
     void selectionRequested(int traceId, int number);
 
 protected:
-    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void makeTable();

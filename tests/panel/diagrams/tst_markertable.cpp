@@ -13,6 +13,7 @@
 #include <widgets/menubutton.h>
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QTableView>
 
 #include <cmath>
@@ -122,6 +123,23 @@ private Q_SLOTS:
         desk.model.viewSettings()->setMarkerTable(true);
         TableDesk::waitForTable();
         QCOMPARE(desk.window.size(), QSize(798, 455));
+    }
+
+    /// More rows than have room bring their scroll bar when the columns have long been fitted.
+    void columnsLeaveRoomForTheScrollBar()
+    {
+        TableDesk desk(QSize(1280, 800));
+        for (int number = 1; number <= 9; ++number)
+            desk.model.addMarker(1, 100 * number);
+        desk.model.viewSettings()->setMarkerTable(true);
+        TableDesk::waitForTable();
+        const QTableView *table = desk.table()->table();
+        QVERIFY(table->verticalScrollBar()->isVisible());
+        QVERIFY2(table->horizontalHeader()->length() <= table->viewport()->width(),
+                 qPrintable(QString::number(table->horizontalHeader()->length())));
+        desk.window.resize(1180, 800);
+        TableDesk::waitForTable();
+        QVERIFY(table->horizontalHeader()->length() <= table->viewport()->width());
     }
 
     void markersFollowTheirExtreme()
