@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diagramview.h"
 
+#include "markernumbers.h"
 #include "readouts.h"
 #include "titlelabel.h"
 
@@ -15,9 +16,7 @@
 #include <QElapsedTimer>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <cmath>
-#include <vector>
 
 namespace Panel
 {
@@ -55,13 +54,24 @@ DiagramView::DiagramView(const PanelModel *model, const DiagramId &id, QWidget *
     m_plot->setFocusPolicy(Qt::WheelFocus);
     connect(m_readOuts, &ReadOuts::selectionRequested, this,
             &DiagramView::markerSelectionRequested);
-    connect(m_plot, &QCustomPlot::afterLayout, this, [this] {
-        onLayout();
-        fanOutNumbers();
-    });
+    followLayout();
     m_plot->installEventFilter(this);
     followModel();
     followMarkers();
+}
+
+void DiagramView::followLayout()
+{
+    disconnect(m_layout);
+    m_layout = connect(m_plot, &QCustomPlot::afterLayout, this, [this] {
+        onLayout();
+        QVector<const Plot::Marker *> drawn;
+        for (const Trace &trace : traces()) {
+            for (const Marker &marker : m_model->markersOf(trace.id))
+                drawn << drawnMarker(trace.id, marker.number);
+        }
+        fanOutNumbers(drawn, currentLook().background);
+    });
 }
 
 void DiagramView::followModel()
@@ -210,56 +220,6 @@ Hit DiagramView::hitMarker(const QPointF &position) const
     collect([](const Trace &, const Marker &) { return true; });
     const int nearest = Plot::markerInReach(drawn, position, reach);
     return nearest < 0 ? Hit() : hits.at(nearest);
-}
-
-/// Sets the numbers of markers whose tips all but coincide side by side, in the order of their tips,
-/// each on a ground on which it can be read before lines.
-void DiagramView::fanOutNumbers()
-{
-    constexpr int groundOpacity = 190; // of 255
-    QColor ground = currentLook().background;
-    ground.setAlpha(groundOpacity);
-    struct Tip {
-        QPointF place;
-        QCPItemText *number;
-    };
-    std::vector<Tip> tips;
-    for (const Trace &trace : traces()) {
-        for (const Marker &marker : m_model->markersOf(trace.id)) {
-            const Plot::Marker *drawn = drawnMarker(trace.id, marker.number);
-            if (!drawn || !drawn->isVisible())
-                continue;
-            drawn->getLabel()->setBrush(ground);
-            tips.push_back({drawn->getTracer()->position->pixelPosition(), drawn->getLabel()});
-        }
-    }
-    std::stable_sort(tips.begin(), tips.end(),
-                     [](const Tip &a, const Tip &b) { return a.place.x() < b.place.x(); });
-    const double width = 1.4 * m_plot->fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    const double height = m_plot->fontMetrics().height();
-    std::vector<bool> placed(tips.size(), false);
-    for (size_t first = 0; first < tips.size(); ++first) {
-        if (placed[first])
-            continue;
-        // A group grows by whichever number would stand in the way of its last one.
-        std::vector<size_t> group{first};
-        for (size_t next = first + 1; next < tips.size(); ++next) {
-            const QPointF apart = tips[next].place - tips[group.back()].place;
-            if (!placed[next] && apart.x() < width && std::abs(apart.y()) < height)
-                group.push_back(next);
-        }
-        double middle = 0.0;
-        for (const size_t member : group)
-            middle += tips[member].place.x() / double(group.size());
-        for (size_t i = 0; i < group.size(); ++i) {
-            const Tip &tip = tips[group[i]];
-            const double x = middle + (double(i) - double(group.size() - 1) / 2.0) * width;
-            const QPointF before = tip.number->position->coords();
-            tip.number->position->setCoords(group.size() == 1 ? 0.0 : x - tip.place.x(),
-                                            before.y());
-            placed[group[i]] = true;
-        }
-    }
 }
 
 bool DiagramView::eventFilter(QObject *watched, QEvent *event)

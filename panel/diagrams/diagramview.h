@@ -137,6 +137,8 @@ protected:
     QStringList otherScales(const Trace &written) const;
     void updateTitle();
     void replotLater();
+    /// Places what lies over the plot after all that have followed its layout until now.
+    void followLayout();
 
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -153,10 +155,10 @@ private:
     void reload();
     QVector<TraceRevision> revisions() const;
     Hit hitMarker(const QPointF &position) const;
-    void fanOutNumbers();
     QStringList processingTexts() const;
 
     DiagramId m_id;
+    QMetaObject::Connection m_layout; ///< of the plot
     TitleLabel *m_title;
     ReadOuts *m_readOuts;
     QCustomPlot *m_plot;

@@ -66,6 +66,7 @@ void PlaneView::makeChart(SmithChart::Preset preset)
     plot()->clearItems();
     plot()->clearPlottables();
     m_chart = new SmithChartPlot(plot(), preset, this);
+    followLayout(); // the chart makes the view round first
     m_chart->setMaximumZoom(Zoom::maximum);
     m_chart->setTraceWidths(Look::traceWidth, Look::activeTraceWidth);
     m_chart->setMarkerDragJumpPx(s_jump);

@@ -64,6 +64,16 @@ private Q_SLOTS:
             const Plot::Marker *gone = view->drawnMarker(trace, 3);
             QCOMPARE(gone->getLabel()->position->coords().x(), 0.0);
         }
+        // The picture that a resize draws has them where the next one does.
+        const int trace = desk.view()->traceIds().first();
+        const auto shift = [&] {
+            return desk.view()->drawnMarker(trace, 1)->getLabel()->position->coords().x();
+        };
+        desk.plot()->resize(desk.plot()->width(), desk.plot()->width() / 2);
+        const double resized = shift();
+        QVERIFY(resized != 0.0);
+        desk.plot()->replot();
+        QCOMPARE(resized, shift());
     }
 
     void markersFollowTheirPointer()
