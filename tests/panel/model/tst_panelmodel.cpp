@@ -109,6 +109,26 @@ private Q_SLOTS:
         QCOMPARE(told.count("selected"_s), 4);
     }
 
+    void takesOnlySoundLimits()
+    {
+        PanelModel model;
+        model.openNetworks({network(2)});
+        QStringList told;
+        note(told, "limits", &model, &PanelModel::limitsChanged);
+        const LimitLine limit{TraceFormat::LogMagnitude, true, 1e9, 2e9, -3.0, -3.0};
+        LimitLine backwards = limit;
+        backwards.stop = 0.5e9;
+        model.setLimits(7, {limit});
+        model.setLimits(1, {limit, backwards});
+        model.setLimits(1, QVector<LimitLine>(LimitLine::perTrace + 1, limit));
+        QVERIFY(told.isEmpty() && model.trace(1)->limits.isEmpty());
+        model.setLimits(1, {limit});
+        model.setLimits(1, {limit});
+        QCOMPARE(told, QStringList{"limits 1"_s});
+        model.setLimits(1, QVector<LimitLine>(LimitLine::perTrace, limit));
+        QCOMPARE(model.trace(1)->limits.size(), int(LimitLine::perTrace));
+    }
+
     void numbersMarkers()
     {
         PanelModel model;
@@ -373,11 +393,16 @@ private Q_SLOTS:
         QStringList told;
         note(told, "networks", &model, &PanelModel::networksChanged);
         note(told, "tuning", &model, &PanelModel::tuningChanged);
+        note(told, "state", &model, &PanelModel::sourceStateChanged);
         model.openNetworks({network(2)});
+        model.setSourceState({}, {}); // files have none
         model.beginMeasurement(network(1)); // late, of a simulation that has ended
         QCOMPARE(model.networks().first().ports, 2);
         model.setSource(Source::Antenna);
         QCOMPARE(model.networks().first().ports, 2); // until there is something to show
+        QVERIFY(!told.contains("state"_s));
+        model.setSourceState({}, {});
+        QCOMPARE(told.takeLast(), "state"_s);
         model.beginMeasurement(network(1));
         QCOMPARE(model.networks().first().ports, 1);
         model.updateFile(0, network(2, {1e9, 3e9})); // read again behind the simulation
