@@ -1,12 +1,14 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Plants small faults in src/, one at a time, and tells which ones the tests notice.
+"""Plants small faults, one at a time, and tells which ones the tests notice.
 
-   script/mutants.py [COUNT [SEED]]     120 faults by default, drawn evenly from all files
+   script/mutants.py [COUNT [SEED [FOLDER...]]]     120 faults by default, drawn evenly from all files of
+                                                    src/ and platform/; panel/ is another folder to name
 
-Builds the library from a copy of the sources in build/mutants and runs the tests of build/dev with it in
-place of theirs. The last table goes to build/mutants/result.txt."""
+Builds the sources from a copy in build/mutants. The tests of the library are those of build/dev, with the library
+from there in place of theirs; the panel is linked into its tests, which are built there, too. The last table goes to
+build/mutants/result.txt."""
 import collections
 import os
 import pathlib
@@ -54,7 +56,14 @@ TESTS = [
      "button|tst_rectangular|tst_stylesheets"),
     (r"widgets/marker", "tst_markerstatusitem"),
     (r"widgets/(lock|display)", "tst_lockwidget|tst_displaypanel"),
+    (r"platform/", "tst_guicontext|tst_placement|tst_popupplacement|tst_roundlabel|tst_stylehelper|tst_tabletcombobox2"
+     "|tst_widgetmousemovetool|tst_panelmodel"),
 ]
+
+# What a room of the panel is tested by beside its own tests, and what takes too long for the other rooms.
+NEIGHBOURS = {"diagrams": ["tst_panelwindow"], "entry": ["tst_keyboard"], "files": ["tst_exports"],
+              "link": ["tst_serve"], "model": ["tst_setups"], "window": ["tst_filecontroller"]}
+SLOW = {"tst_link", "tst_powercut"}
 
 UNFIT = ["^nothing$"] # tests that fail for another reason than a fault
 
@@ -89,7 +98,9 @@ def prepare():
         shutil.copy(ROOT / name, target) # newer than what the last run built with a fault in it
     configure = ["cmake", "-S", str(SOURCE), "-B", str(BUILD), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
                  "-DCMAKE_CXX_FLAGS=-g0", "-DVNAWIDGETS_TESTS=ON", # which exports what tests reach
-                 "-DVNAWIDGETS_PANEL=OFF", "-DVNAWIDGETS_EXAMPLES=OFF"]
+                 "-DVNAWIDGETS_EXAMPLES=OFF"]
+    if shutil.which("ld.lld"):
+        configure.append("-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld")
     if shutil.which("ccache"):
         configure.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
     for step in (configure, ["cmake", "--build", str(BUILD), "--target", "vnawidgets"]):
@@ -104,24 +115,49 @@ def judge(path=None):
         return "not compiled"
     names = next((tests for pattern, tests in TESTS if path and re.search(pattern, str(path))),
                  "|".join(tests for _, tests in TESTS))
-    done = run(["ctest", "--test-dir", str(ROOT / "build" / "dev"), "-R", names, "-E", "|".join(UNFIT),
-                "-j2", "--timeout", "300"] + (["--stop-on-failure"] if path else []),
-               timeout=1200, env=dict(os.environ, LD_LIBRARY_PATH=LIBRARIES))
-    if done is None:
-        return "noticed"
+    done = test(ROOT / "build" / "dev", names, bool(path))
     if not path:
         UNFIT.extend(re.findall(r"\d+ - (\w+) \(", done.stdout))
-    return "survived" if done.returncode == 0 else "noticed"
+    return "survived" if done and done.returncode == 0 else "noticed"
+
+
+def judge_panel(path=None):
+    """The same of a fault in the panel: the tests of its room first, and the others where they notice nothing."""
+    room = path.parts[1] if path else ""
+    tests = {file.stem: file.parent.name for file in (ROOT / "tests" / "panel").rglob("tst_*.cpp")}
+    near = {name for name, place in tests.items() if place == room} | set(NEIGHBOURS.get(room, []))
+    for names in (near, set(tests) - near - SLOW):
+        if not names:
+            continue
+        if run(["cmake", "--build", str(BUILD), "--target", *sorted(names)]).returncode:
+            return "not compiled"
+        done = test(BUILD, "|".join(f"{name}$" for name in sorted(names)), bool(path))
+        if not path:
+            UNFIT.extend(re.findall(r"\d+ - (\w+) \(", done.stdout))
+        elif not done or done.returncode:
+            return "noticed"
+    return "survived"
+
+
+def test(folder, names, stops):
+    """What ctest says of the tests with these names; None if they do not end."""
+    return run(["ctest", "--test-dir", str(folder), "-R", names, "-E", "|".join(UNFIT), "-j2", "--timeout", "300"]
+               + (["--stop-on-failure"] if stops else []),
+               timeout=1200, env=dict(os.environ, LD_LIBRARY_PATH=LIBRARIES))
 
 
 def main():
     count = int(sys.argv[1]) if len(sys.argv) > 1 else 120
     seed = int(sys.argv[2]) if len(sys.argv) > 2 else 1
+    folders = sys.argv[3:] or ["src", "platform"]
     prepare()
-    judge()
-    print("left out, as they fail without a fault:", UNFIT[1:])
+    if folders != ["panel"]:
+        judge()
+    if "panel" in folders:
+        judge_panel()
+    print("left out, as they fail without a fault:", UNFIT[1:], flush=True)
     chance = random.Random(seed)
-    sources = sorted((SOURCE / "src").rglob("*.cpp"))
+    sources = sorted(file for folder in folders for file in (SOURCE / folder).rglob("*.cpp"))
     weighted = [(path, place) for path in sources for place in places(path)]
     chance.shuffle(weighted)
     counts = collections.Counter()
@@ -131,12 +167,13 @@ def main():
                 break
             text = path.read_text()
             path.write_text(text[:start] + replacement + text[end:])
-            verdict = judge(path.relative_to(SOURCE))
+            name = path.relative_to(SOURCE)
+            verdict = (judge_panel if name.parts[0] == "panel" else judge)(name)
             path.write_text(text)
             counts[verdict] += 1
             line = text.count("\n", 0, start) + 1
             shown = " ".join(text[start:end].split())[:40]
-            print(f"{verdict:12} {path.relative_to(SOURCE)}:{line}: '{shown}' -> '{replacement.strip()}'",
+            print(f"{verdict:12} {name}:{line}: '{shown}' -> '{replacement.strip()}'",
                   file=table, flush=True)
         total = counts["noticed"] + counts["survived"]
         summary = f"{counts['noticed']} of {total} faults noticed ({100 * counts['noticed'] // total} %)"

@@ -145,6 +145,12 @@ private Q_SLOTS:
         QCOMPARE(desk.limit().startValue, desk.limit().stopValue);
         QCOMPARE(desk.limit(1), flat(2.5e9, 2.55e9, -80.0));
 
+        // Between its handles a line is taken, too.
+        desk.model.setLimits(s_trace, {flat(2.4e9, 2.5e9, -50.0)});
+        desk.drag(desk.at(2.425e9, -50.0), desk.at(2.425e9, -70.0));
+        QVERIFY(desk.limit().startValue < -60.0);
+        QCOMPARE(desk.limit().startValue, desk.limit().stopValue);
+
         Network wide;
         wide.ports = 1;
         wide.parameters.resize(1);
