@@ -391,6 +391,14 @@ private Q_SLOTS:
         desk.model.setTraceScale(4, {10.0, -200.0});
         QVERIFY(desk.view()->fitButton()->isVisible());
         QCOMPARE(desk.view()->fitButton()->text(), "Tr4 S12 lies above: fit"_s);
+        // Of several the active one.
+        const Scale sound = desk.model.trace(3)->scale;
+        desk.model.setTraceScale(3, {10.0, -200.0});
+        for (const int active : {4, 3}) {
+            desk.model.setActiveTrace(active);
+            QVERIFY(desk.view()->fitButton()->text().startsWith("Tr%1 "_s.arg(active)));
+        }
+        desk.model.setTraceScale(3, sound);
         desk.model.setTraceVisible(4, false);
         QVERIFY(!desk.view()->fitButton()->isVisible());
         desk.model.setTraceVisible(4, true);
