@@ -194,6 +194,8 @@ QStringList ShownRules::broken(const PanelModel &model, PanelWindow &window)
     // What comes of an event may ask for another, as a file that is loaded for a replot.
     for (int round = 0; round < 3; ++round)
         QCoreApplication::processEvents();
+    // Also what came last, as the layout of a file that a thread handed over in the last of these rounds.
+    QCoreApplication::sendPostedEvents();
     checkDialogs(window, broken);
     const ViewSettings &settings = *model.viewSettings();
     // Another panel may be of another language, whose texts are wider.
