@@ -19,6 +19,7 @@ constexpr int s_letterSide = 44;
 constexpr int s_letterGap = 4;
 constexpr int s_columns = 10;
 constexpr const char *s_lines[] = {"1234567890", "qwertyuiop", "asdfghjkl-", " zxcvbnm"};
+constexpr const char *s_shiftedLines[] = {".,;+=()#%!", "QWERTYUIOP", "ASDFGHJKL_", " ZXCVBNM"};
 constexpr int s_lastLine = 3;
 
 } // namespace
@@ -41,8 +42,7 @@ LetterKeys::LetterKeys(QLineEdit *line, QWidget *parent)
                 m_line->insert(key->text());
                 setShift(false);
             });
-            if (text.isLetter())
-                m_letters.append(key);
+            m_keys.append({key, text, QLatin1Char(s_shiftedLines[row][column])});
         }
     }
     m_shift = addKey(QStringLiteral("\u21e7"), s_lastLine, 0);
@@ -70,12 +70,12 @@ QPushButton *LetterKeys::addKey(const QString &text, int row, int column)
     return key;
 }
 
-/// For one letter.
+/// For one letter or sign.
 void LetterKeys::setShift(bool on)
 {
     m_shift->setChecked(on);
-    for (QPushButton *key : qAsConst(m_letters))
-        key->setText(on ? key->text().toUpper() : key->text().toLower());
+    for (const Key &key : qAsConst(m_keys))
+        key.button->setText(on ? key.shifted : key.plain);
 }
 
 void LetterKeys::setStaying(bool staying)

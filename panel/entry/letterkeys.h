@@ -31,12 +31,18 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    struct Key {
+        QPushButton *button;
+        QChar plain;
+        QChar shifted;
+    };
+
     QPushButton *addKey(const QString &text, int row, int column);
     void setShift(bool on);
     void setShown(bool shown);
 
     QLineEdit *m_line;
-    QVector<QPushButton *> m_letters;
+    QVector<Key> m_keys; ///< those that write what stands on them, but for the space
     QPushButton *m_shift;
     bool m_staying = false;
 };
