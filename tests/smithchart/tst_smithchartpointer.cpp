@@ -42,6 +42,11 @@ private Q_SLOTS:
         f.chart->endMarkerDragAt({});
         // The host did not move it, so it finishes where it was.
         QCOMPARE(f.told(), "request 1 1|start 1 1|move 1 1 2|finish 1 1 5"_s);
+        // By its number; one that is not there is not asked for, either.
+        QVERIFY(!f.chart->beginMarkerDrag(1, 2) && !f.chart->beginMarkerDrag(0, 1));
+        QVERIFY(f.chart->beginMarkerDrag(1, 1));
+        f.chart->endMarkerDragAt({});
+        QCOMPARE(f.told(), "request 1 1|start 1 1|finish 1 1 5"_s);
     }
 
     void dragsOfOtherTracesAreConfined()

@@ -78,6 +78,15 @@ private Q_SLOTS:
         f.chart->zoomAt({0.5, 0.5}, 10.0);
         QVERIFY(f.isRed({0.5, 0.5}));
 
+        // Another one is drawn without being asked to, and none is not.
+        QCoreApplication::processEvents();
+        QSignalSpy replots(f.plot.get(), &QCustomPlot::afterReplot);
+        QVERIFY(!circle->setResistance(-1.0));
+        QCoreApplication::processEvents();
+        QCOMPARE(replots.size(), 0);
+        QVERIFY(circle->setResistance(2.0) && circle->setResistance(1.0));
+        QTRY_COMPARE(replots.size(), 1);
+
         // Over the grid, under the traces, and never in the way of a click.
         QVERIFY(circle->layer()->index() > f.plot->layer("smithGrid"_s)->index());
         QVERIFY(circle->layer()->index() < f.plot->layer("tracers"_s)->index());
