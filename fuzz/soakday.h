@@ -43,7 +43,7 @@ private:
     };
     static const Deed deeds[];
     /// How long anything may take, in milliseconds.
-    static constexpr int patience = 8000;
+    static constexpr int patience = 30000;
 
     void none() { }
     void openFiles();
