@@ -268,6 +268,10 @@ private Q_SLOTS:
             press(&adapter, Qt::Key_Up);
             QCOMPARE(steps.count(), handles ? 0 : 1);
         }
+        // One that handles a key has it, as far as its sender is told, too.
+        adapter.setKeyCallback(Qt::Key_Up, [](QKeyEvent *) { return true; });
+        QKeyEvent up(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
+        QVERIFY(QCoreApplication::sendEvent(&adapter, &up) && up.isAccepted());
         // A callback may take itself away.
         adapter.setKeyCallback(Qt::Key_Up, [&](QKeyEvent *) {
             adapter.setKeyCallback(Qt::Key_Up, {});

@@ -163,6 +163,8 @@ void tst_TraceWalk::noiseIsNoFeature()
 void tst_TraceWalk::stepsByPointsAndByDistance()
 {
     TraceWalk walk;
+    QVERIFY(!walk.setVswr(1.0) && !walk.setVswr(qInf()) && walk.setVswr(1.5));
+    QVERIFY(!walk.setExcursion(0.0) && !walk.setExcursion(qQNaN()) && walk.setExcursion(0.1));
     QCOMPARE(walk.byPoints(0.0, 1), -1.0);
     QCOMPARE(walk.byDistance(0.0, 1, 0.1), -1.0);
     walk.setData({qQNaN(), 0.0, 0.1, qQNaN(), 0.3, 0.35, qInf()}, QVector<double>(7, 0.0));
