@@ -191,6 +191,55 @@ private Q_SLOTS:
         QCOMPARE(field.value(), 0.0);
     }
 
+    void refusesWhatIsNoRangeOrStep()
+    {
+        Scene f;
+        f.field->setRange(qQNaN(), 1.0);
+        f.field->setRange(0.0, qQNaN());
+        f.field->setRange(1.0, 0.5);
+        QCOMPARE(f.field->minimum(), 1e-12);
+        QCOMPARE(f.field->maximum(), 1e-4);
+        f.field->setSingleStep(1e-9);
+        f.field->setSingleStep(qInf());
+        f.field->setSingleStep(qQNaN());
+        QCOMPARE(f.field->singleStep(), 1e-9);
+        f.editor()->setFocus();
+        QTest::keyClick(f.page->windowHandle(), Qt::Key_Up);
+        QCOMPARE(f.field->value(), 5.7e-9);
+        // Without a lower bound, and without any.
+        f.field->setRange(-qInf(), 1e-9);
+        QCOMPARE(f.field->value(), 1e-9);
+        f.field->setRange(-qInf(), qInf());
+        f.field->setValue(-1.0);
+        QCOMPARE(f.field->value(), -1.0);
+    }
+
+    void keypadStaysAwayWhereNothingCanBeEntered()
+    {
+        Scene f;
+        const auto opens = [&f](Qt::MouseButton button = Qt::LeftButton) {
+            QTest::mouseClick(f.editor(), button);
+            const bool opened = f.field->keypad()->isVisible();
+            f.field->keypad()->hide();
+            return opened;
+        };
+        f.field->setKeypadEnabled(false);
+        QVERIFY(!opens());
+        f.field->openKeypad(); // asked for by the host
+        QVERIFY(f.field->keypad()->isVisible());
+        f.field->keypad()->hide();
+        f.field->setKeypadEnabled(true);
+        QVERIFY(!opens(Qt::MiddleButton));
+        f.editor()->setReadOnly(true);
+        QVERIFY(!opens());
+        f.editor()->setReadOnly(false);
+        f.field->setEnabled(false);
+        f.field->openKeypad();
+        QVERIFY(!f.field->keypad()->isVisible());
+        f.field->setEnabled(true);
+        QVERIFY(opens());
+    }
+
     // A keypad for a soft key in a window that is none of the main windows.
     void keypadOpensWhereItsAnchorIs()
     {

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void keysWalkTheTrace();
     void oneAnnouncementASecondTheNewestWins();
     void twoChartsShareAPlot();
+    void whateverAToolAsks();
     void anyOrderOfDestruction();
 };
 
@@ -223,6 +224,42 @@ void tst_SmithReader::twoChartsShareAPlot()
     delete second;
     QCOMPARE(QAccessible::accessibleInterface(id), nullptr);
     QCOMPARE(scene.tree()->childCount(), 3);
+}
+
+/// Tools go up and down the tree and ask each part for all that there may be.
+void tst_SmithReader::whateverAToolAsks()
+{
+    const ReaderScene scene;
+    scene.plot->show();
+    AccessiblePlot::on(scene.plot.get())->announce(QStringLiteral("1"));
+    QVector<QAccessibleInterface *> all{scene.tree()}, shown;
+    for (int i = 0; i < all.size(); ++i) {
+        QAccessibleInterface *part = all.at(i);
+        for (int child = 0; child < qMin(part->childCount(), 8); ++child)
+            all.append(part->child(child));
+        QVERIFY(!part->child(-1) && !part->child(part->childCount()));
+        QCOMPARE(part->indexOfChild(scene.tree()), -1);
+        QVERIFY(part->isValid());
+        for (const auto kind : {QAccessible::Value, QAccessible::Help, QAccessible::Accelerator})
+            QCOMPARE(part->text(kind), QString());
+        QVERIFY(scene.tree()->rect().contains(part->rect()));
+        QVERIFY(!part->state().invisible);
+        // What is announced is heard wherever it stands.
+        if (part->role() != QAccessible::StatusBar && part->role() != QAccessible::Notification) {
+            QCOMPARE(part->window(), scene.tree()->window());
+            shown.append(part);
+        }
+        if (i > 0) {
+            QVERIFY(part->parent());
+            QCOMPARE(part->parent()->child(part->parent()->indexOfChild(part)), part);
+        }
+    }
+    QVERIFY(all.size() > 10);
+    QAccessibleTableInterface *cells = scene.part(QAccessible::Table)->tableInterface();
+    QVERIFY(!cells->cellAt(-1, 0) && !cells->cellAt(0, -1) && !cells->cellAt(0, 6));
+    scene.plot->hide();
+    for (const QAccessibleInterface *part : qAsConst(shown))
+        QVERIFY(part->state().invisible);
 }
 
 void tst_SmithReader::anyOrderOfDestruction()
