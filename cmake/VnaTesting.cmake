@@ -18,7 +18,8 @@ set(VNA_TEST_ENVIRONMENT
     "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/shared/tsan.supp"
     "UBSAN_OPTIONS=print_stacktrace=1")
 
-# What every test program runs in: no display, the same hash order and locale everywhere.
+# What every test program runs in: no display, the same hash order and locale everywhere. Tests that take longer than 20 s
+# have a COST, by which they start first, so that no processor waits for the last one.
 function(vna_set_test_environment name)
     set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "${VNA_TEST_ENVIRONMENT}")
 endfunction()

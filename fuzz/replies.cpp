@@ -7,7 +7,7 @@
 #include <panel/link/programdata.h>
 #include <panel/link/scpi.h>
 #include <panel/link/shellscan.h>
-#include <panel/serve/scpiheader.h>
+#include <panel/serve/scpimessage.h>
 
 #include <cmath>
 

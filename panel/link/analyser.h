@@ -49,6 +49,11 @@ public:
     const MeasurementSettings &settings() const { return m_settings; }
 
 protected:
+    /// Beyond the time that a sweep takes, in milliseconds.
+    static constexpr int sweepGrace = 4500;
+    /// In the order of a network.
+    static constexpr const char *parameters[] = {"S11", "S21", "S12", "S22"};
+
     /// Makes the network one of the present sweep, without values but those it has.
     void prepare(Network &network, int ports) const;
 

@@ -10,7 +10,7 @@ namespace Panel
 namespace
 {
 
-struct Text {
+struct AddressText {
     Q_DECLARE_TR_FUNCTIONS(Panel::LinkAddress)
 };
 
@@ -74,8 +74,8 @@ bool parseLinkAddress(const QString &text, LinkAddress &address, QString &error)
                                        : splitHost(place, address.place, address.port))
             return true;
     }
-    error = Text::tr("An instrument is written as nanovna:PORT, librevna:HOST or scpi:HOST, "
-                     "not \"%1\".")
+    error = AddressText::tr("An instrument is written as nanovna:PORT, librevna:HOST or scpi:HOST, "
+                            "not \"%1\".")
                 .arg(text.left(s_longest));
     return false;
 }

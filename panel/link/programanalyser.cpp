@@ -20,18 +20,13 @@ namespace
 {
 
 /// What an optional answer may take before it is given up, in milliseconds.
-constexpr int s_optionalTime = 300;
+constexpr int s_optionalReplyTime = 300;
 /// Versions that answer every command tell the end of the sweep before for so long, in milliseconds.
 constexpr int s_settleTime = 500;
 constexpr int s_pollTime = 20;
 /// After which a version that tells the end of a sweep by itself is asked whether it lives.
 constexpr int s_operationTime = 1000;
-/// Beyond the time that a sweep takes, in milliseconds.
-constexpr int s_sweepGrace = 4500;
-constexpr int s_maximumPoints = 1000001;
 constexpr qint64 s_longestPoint = 96;
-/// In the order of a network.
-constexpr const char *s_parameters[] = {"S11", "S21", "S12", "S22"};
 
 bool isIdentity(const QByteArray &line)
 {
@@ -63,7 +58,7 @@ QByteArray ProgramAnalyser::askOptional(const QByteArray &query)
 {
     m_wire.send(query + '\n');
     QByteArray reply;
-    if (!m_wire.tryLine(reply, s_optionalTime)) {
+    if (!m_wire.tryLine(reply, s_optionalReplyTime)) {
         // Late is not never: what comes before the identity is the query's.
         m_wire.send("*IDN?\n");
         for (QByteArray line = m_wire.line(); m_wire.ok() && !isIdentity(line);
@@ -93,7 +88,7 @@ bool ProgramAnalyser::begin()
     // A version that answers commands gives itself away by a line more than was asked for.
     m_wire.send(":DEV:MODE VNA\n");
     QByteArray line;
-    m_answersCommands = m_wire.tryLine(line, s_optionalTime);
+    m_answersCommands = m_wire.tryLine(line, s_optionalReplyTime);
     if (!m_answersCommands) {
         m_wire.send("*IDN?\n");
         for (line = m_wire.line(); m_wire.ok() && !isIdentity(line); line = m_wire.line())
@@ -119,7 +114,7 @@ bool ProgramAnalyser::findDevice()
     m_limits.frequency = {askNumber(":DEV:INF:LIM:MINF?", 100e3),
                           askNumber(":DEV:INF:LIM:MAXF?", 6e9)};
     m_limits.points = {
-        2.0, qBound(2.0, askNumber(":DEV:INF:LIM:MAXP?", 65535.0), double(s_maximumPoints))};
+        2.0, qBound(2.0, askNumber(":DEV:INF:LIM:MAXP?", 65535.0), double(Sweep::maximumPoints))};
     m_limits.bandwidth = {askNumber(":DEV:INF:LIM:MINIFBW?", 10.0),
                           askNumber(":DEV:INF:LIM:MAXIFBW?", 50e3)};
     m_limits.power = {-60.0, 20.0};
@@ -138,8 +133,8 @@ bool ProgramAnalyser::readSettings()
         if (m_wire.ok() && (!readNumber(reply, value) || !std::isfinite(value)))
             m_wire.fail(Trouble::unreadable(m_wire.peer(), reply));
     }
-    if (m_wire.ok() && !(numbers[2] >= 1.0 && numbers[2] <= s_maximumPoints))
-        m_wire.fail(Trouble::otherPoints(m_wire.peer(), qint64(numbers[2]), s_maximumPoints));
+    if (m_wire.ok() && !(numbers[2] >= 1.0 && numbers[2] <= Sweep::maximumPoints))
+        m_wire.fail(Trouble::otherPoints(m_wire.peer(), qint64(numbers[2]), Sweep::maximumPoints));
     if (!m_wire.ok())
         return false;
     m_settings.sweep = {numbers[0], numbers[1], int(numbers[2])};
@@ -185,7 +180,7 @@ bool ProgramAnalyser::findTraces()
             return false;
         const QByteArray shown = askOptional(":VNA:TRAC:PARAM? " + name.trimmed()).toUpper();
         for (int i = 0; i < m_traces.size(); ++i) {
-            if (shown == s_parameters[i] && m_traces.at(i).isEmpty())
+            if (shown == parameters[i] && m_traces.at(i).isEmpty())
                 m_traces[i] = name.trimmed();
         }
     }
@@ -217,7 +212,7 @@ bool ProgramAnalyser::awaitOperation()
         finished += line.toUpper() == "TRUE" ? 1 : 0;
         if (finished == 2)
             return true; // it does not know the question
-        if (double(clock.elapsed()) > expectedTime() + s_sweepGrace)
+        if (double(clock.elapsed()) > expectedTime() + sweepGrace)
             m_wire.fail(Trouble::neverEnds(m_wire.peer()));
     }
     while (asked-- > 0 && m_wire.ok())
@@ -250,7 +245,7 @@ bool ProgramAnalyser::awaitSweep(const Network &network, const Progress &progres
         sawRunning = sawRunning || !finished || clock.elapsed() > s_settleTime;
         if (finished && sawRunning)
             return m_wire.ok();
-        if (double(clock.elapsed()) > expected + s_sweepGrace)
+        if (double(clock.elapsed()) > expected + sweepGrace)
             m_wire.fail(Trouble::neverEnds(m_wire.peer()));
         else if (m_wire.isCancelled())
             m_wire.fail(QString());

@@ -19,16 +19,11 @@ namespace
 
 /// What frequencies may take to come where they are known, in milliseconds.
 constexpr int s_frequencyTime = 500;
-/// Beyond the time that a sweep takes, in milliseconds.
-constexpr int s_sweepGrace = 4500;
-constexpr int s_maximumPoints = 1000001;
 /// Where limits are not told.
 constexpr NumberRange s_anyFrequency{1.0, 1.1e12};
 constexpr NumberRange s_anyBandwidth{1.0, 15e6};
 constexpr NumberRange s_anyPower{-90.0, 30.0};
 constexpr int s_maximumAverages = 1024;
-/// In the order of a network.
-constexpr const char *s_parameters[] = {"S11", "S21", "S12", "S22"};
 
 QByteArray number(double value)
 {
@@ -96,10 +91,11 @@ void ScpiAnalyser::readLimits()
     m_limits.frequency.lowest = qMin(m_limits.frequency.lowest, sweep.start);
     m_limits.frequency.highest = qMax(m_limits.frequency.highest, sweep.stop);
     m_limits.smallestSpan = 1.0;
-    m_limits.points = m_port.askRange(channel("SENS%c:SWE:POIN"), {2.0, double(s_maximumPoints)});
+    m_limits.points =
+        m_port.askRange(channel("SENS%c:SWE:POIN"), {2.0, double(Sweep::maximumPoints)});
     m_limits.points.lowest = qMax(2.0, m_limits.points.lowest);
     m_limits.points.highest =
-        qBound(double(sweep.points), m_limits.points.highest, double(s_maximumPoints));
+        qBound(double(sweep.points), m_limits.points.highest, double(Sweep::maximumPoints));
     if (!std::isnan(m_settings.acquisition.bandwidth))
         m_limits.bandwidth = m_port.askRange(channel("SENS%c:BWID"), s_anyBandwidth);
     if (!std::isnan(m_settings.acquisition.power))
@@ -112,8 +108,8 @@ bool ScpiAnalyser::readSettings()
     const double start = m_port.askNumber(channel("SENS%c:FREQ:STAR?"));
     const double stop = m_port.askNumber(channel("SENS%c:FREQ:STOP?"));
     const double points = m_port.askNumber(channel("SENS%c:SWE:POIN?"));
-    if (m_wire.ok() && !(points >= 1.0 && points <= s_maximumPoints))
-        m_wire.fail(Trouble::otherPoints(m_wire.peer(), qint64(points), s_maximumPoints));
+    if (m_wire.ok() && !(points >= 1.0 && points <= Sweep::maximumPoints))
+        m_wire.fail(Trouble::otherPoints(m_wire.peer(), qint64(points), Sweep::maximumPoints));
     if (!m_wire.ok())
         return false;
     m_settings.sweep = {start, stop, int(points)};
@@ -174,7 +170,7 @@ bool ScpiAnalyser::findTraces()
         }
     }
     m_traces.clear();
-    for (const char *const parameter : s_parameters) {
+    for (const char *const parameter : parameters) {
         QByteArray source;
         for (const NamedTrace &trace : qAsConst(present)) {
             if (trace.parameter == parameter && source.isEmpty())
@@ -226,7 +222,7 @@ bool ScpiAnalyser::awaitSweep(double sweeps)
 {
     m_port.send("*OPC?");
     const QByteArray reply =
-        m_wire.line(s_sweepGrace + int(qMin(1e9, 2000.0 * m_sweepTime * sweeps)));
+        m_wire.line(sweepGrace + int(qMin(1e9, 2000.0 * m_sweepTime * sweeps)));
     int code = 0;
     QByteArray text;
     if (readErrorEntry(reply, code, text))

@@ -16,7 +16,7 @@ namespace Panel
 namespace
 {
 
-struct Text {
+struct WireText {
     Q_DECLARE_TR_FUNCTIONS(Panel::TcpWire)
 };
 
@@ -28,11 +28,11 @@ QString reason(const QTcpSocket &socket)
 {
     switch (socket.error()) {
     case QAbstractSocket::ConnectionRefusedError:
-        return Text::tr("nothing answers at this port");
+        return WireText::tr("nothing answers at this port");
     case QAbstractSocket::HostNotFoundError:
-        return Text::tr("there is no host of this name");
+        return WireText::tr("there is no host of this name");
     default:
-        return Text::tr("there is no way to this host");
+        return WireText::tr("there is no way to this host");
     }
 }
 

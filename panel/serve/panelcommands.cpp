@@ -37,11 +37,6 @@ constexpr int s_commandBit = 32;
 constexpr int s_executionBit = 16;
 constexpr int s_completeBit = 1;
 
-QByteArray number(double value)
-{
-    return std::isnan(value) ? QByteArray("9.91E37") : QByteArray::number(value, 'E', 12);
-}
-
 /// "1 GHz" as instruments take it.
 bool parseNumber(const QByteArray &word, double &value)
 {
@@ -232,7 +227,7 @@ QByteArray PanelCommands::setSweep(const Sweep &sweep)
 QByteArray PanelCommands::askStart(const Call &)
 {
     const Trace *trace = selected();
-    return trace ? number(m_model->stimulus(*trace).start) : QByteArray();
+    return trace ? scpiNumber(m_model->stimulus(*trace).start) : QByteArray();
 }
 
 QByteArray PanelCommands::setStart(const Call &call)
@@ -249,7 +244,7 @@ QByteArray PanelCommands::setStart(const Call &call)
 QByteArray PanelCommands::askStop(const Call &)
 {
     const Trace *trace = selected();
-    return trace ? number(m_model->stimulus(*trace).stop) : QByteArray();
+    return trace ? scpiNumber(m_model->stimulus(*trace).stop) : QByteArray();
 }
 
 QByteArray PanelCommands::setStop(const Call &call)
@@ -280,7 +275,7 @@ QByteArray PanelCommands::setPoints(const Call &call)
 
 QByteArray PanelCommands::askBandwidth(const Call &)
 {
-    return number(m_model->acquisition().bandwidth);
+    return scpiNumber(m_model->acquisition().bandwidth);
 }
 
 QByteArray PanelCommands::setBandwidth(const Call &call)
@@ -297,7 +292,7 @@ QByteArray PanelCommands::setBandwidth(const Call &call)
 
 QByteArray PanelCommands::askPower(const Call &)
 {
-    return number(m_model->acquisition().power);
+    return scpiNumber(m_model->acquisition().power);
 }
 
 QByteArray PanelCommands::setPower(const Call &call)

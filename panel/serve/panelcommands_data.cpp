@@ -9,18 +9,11 @@
 
 #include <QtEndian>
 
-#include <cmath>
-
 namespace Panel
 {
 
 namespace
 {
-
-QByteArray number(double value)
-{
-    return std::isnan(value) ? QByteArray("9.91E37") : QByteArray::number(value, 'E', 12);
-}
 
 QByteArray block(const QByteArray &bytes)
 {
@@ -82,7 +75,7 @@ QByteArray PanelCommands::written(const QVector<double> &values)
     if (!m_binary) {
         bytes.reserve(int(values.size()) * 20);
         for (const double value : values)
-            bytes += (bytes.isEmpty() ? "" : ",") + number(value);
+            bytes += (bytes.isEmpty() ? "" : ",") + scpiNumber(value);
         return bytes;
     }
     bytes.resize(int(values.size()) * int(sizeof(double)));
@@ -185,7 +178,7 @@ QByteArray PanelCommands::askMarkerX(const Call &call)
     const Marker *marker = trace ? m_model->marker(trace->id, call.number) : nullptr;
     if (trace && !marker)
         noteError(SettingsConflict);
-    return marker ? number(m_model->hertzOf(*marker)) : QByteArray();
+    return marker ? scpiNumber(m_model->hertzOf(*marker)) : QByteArray();
 }
 
 QByteArray PanelCommands::setMarkerX(const Call &call)
@@ -215,9 +208,9 @@ QByteArray PanelCommands::askMarkerY(const Call &call)
     if (index < 0.0)
         return {};
     if (trace->overFrequency())
-        return number(point.value(trace->format)) + ",0";
+        return scpiNumber(point.value(trace->format)) + ",0";
     const std::complex<double> value = point.data.at(index);
-    return number(value.real()) + ',' + number(value.imag());
+    return scpiNumber(value.real()) + ',' + scpiNumber(value.imag());
 }
 
 QByteArray PanelCommands::askScreenshot(const Call &)

@@ -1,13 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 /*! \file
-    Program messages of SCPI, taken apart: lines into commands, and headers against patterns. */
+    Messages of SCPI: lines taken apart into commands, headers against patterns, and numbers of answers. */
 #pragma once
 
 #include <QByteArrayList>
 
 namespace Panel
 {
+
+/// A number as an answer has it; 9.91E37 stands for one that is none.
+QByteArray scpiNumber(double value);
 
 /// One command of a line.
 struct ScpiCommand {

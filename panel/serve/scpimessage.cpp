@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "scpiheader.h"
+#include "scpimessage.h"
+
+#include <cmath>
 
 namespace Panel
 {
@@ -63,6 +65,11 @@ bool nodeMatches(QByteArray node, QByteArray spelled, int &number)
 }
 
 } // namespace
+
+QByteArray scpiNumber(double value)
+{
+    return std::isnan(value) ? QByteArray("9.91E37") : QByteArray::number(value, 'E', 12);
+}
 
 QList<ScpiCommand> parseCommands(const QByteArray &line)
 {
