@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 
 using SmithRender::StrokeMask;
 
@@ -78,8 +79,19 @@ void LineMask::paint()
             image = QImage(width, height, QImage::Format_ARGB32_Premultiplied);
         for (int row = 0; row < height; ++row) {
             auto *const line = reinterpret_cast<QRgb *>(image.scanLine(row));
-            for (int i = 0; i < width; ++i)
-                line[i] = pixels[clear[std::ptrdiff_t(row) * stride + i]];
+            const std::uint8_t *const from = clear + std::ptrdiff_t(row) * stride;
+            // Of a thin line most pixels are clear.
+            constexpr int step = sizeof(std::uint64_t);
+            static_assert(StrokeMask::tile % step == 0);
+            for (int i = 0; i < width; i += step) {
+                std::uint64_t some;
+                std::memcpy(&some, from + i, sizeof some);
+                if (some == ~std::uint64_t(0))
+                    std::fill_n(line + i, step, QRgb(0));
+                else
+                    std::transform(from + i, from + i + step, line + i,
+                                   [&pixels](std::uint8_t value) { return pixels[value]; });
+            }
         }
         m_painter->drawImage(m_corner + QPoint(x, y), image, QRect(0, 0, width, height));
     });

@@ -237,7 +237,7 @@ void StrokeMask::drawInPieces(std::size_t segment, W walk)
     while (walk.column() < last) {
         const int end = std::min(last, walk.column() + m_pieceLength);
         if (comesTo(end - 1))
-            walk.drawTo(end);
+            walk.drawFarTo(end);
         else
             walk.skipTo(end);
     }

@@ -57,16 +57,17 @@ public:
     template<typename PointAt>
     void addLine(const PointAt &pointAt, int count, double shift = 0.0);
 
-    /*! Calls \a visit(x, y, width, height, first, stride) for rectangles that cover all that has
-        been drawn: \c first points to the top-left byte of one, and rows are \c stride bytes apart.
-        Empties the mask. */
+    /// Side of the squares that are known to be touched or not.
+    static constexpr int tileShift = 5;
+    static constexpr int tile = 1 << tileShift;
+
+    /*! Calls \a visit(x, y, width, height, first, stride) for rectangles of whole tiles that cover
+        all that has been drawn: \c first points to the top-left byte of one, and rows are \c stride
+        bytes apart. Empties the mask. */
     template<typename Visit>
     void take(const Visit &visit);
 
 private:
-    /// Side of the squares that are known to be touched or not.
-    static constexpr int tileShift = 5;
-    static constexpr int tile = 1 << tileShift;
     /// Side of the squares that are known to be full or not: no stroke changes full ones any more.
     static constexpr int cellShift = 2;
     static constexpr int cell = 1 << cellShift;
