@@ -51,6 +51,8 @@ PopupWidget::PopupWidget(QWidget *parent)
 
 PopupWidget::~PopupWidget()
 {
+    // An open pop-up is closed after this class has ended, which may give its list the focus.
+    d->list->disconnect(this);
     // A slot may delete the pop-up while the list is still handling the tap: the list stays until
     // it has returned.
     if (d->picking) {

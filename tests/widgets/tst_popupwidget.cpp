@@ -183,6 +183,19 @@ private Q_SLOTS:
         QCOMPARE(f.picked.count(), 2);
     }
 
+    void goesWhileItIsOpen()
+    {
+        // Qt closes it then and gives its list the focus, which makes the first item the current one.
+        Fixture fixture;
+        QVERIFY(fixture.open());
+        QApplication::setActiveWindow(fixture.popup);
+        fixture.list()->setCurrentItem(nullptr);
+        fixture.picked.clear();
+        delete fixture.popup;
+        QCOMPARE(fixture.picked, QStringList());
+        QVERIFY(!QApplication::activePopupWidget());
+    }
+
     void titleTakesPartAndDrags()
     {
         Fixture f;
