@@ -63,6 +63,8 @@ private Q_SLOTS:
     void bothDirectionsMeetTheSamePlaces();
     void noiseIsNoFeature();
     void stepsByPointsAndByDistance();
+    void settingsAreRefusedOrCount();
+    void keys();
     void summaries();
 };
 
@@ -180,6 +182,82 @@ void tst_TraceWalk::stepsByPointsAndByDistance()
     QCOMPARE(walk.byDistance(1.0, 1, 0.25), 4.0);
     QCOMPARE(walk.byDistance(5.0, -1, 0.04), 4.0);
     QCOMPARE(walk.byDistance(1.0, 1, 9.0), 5.0);
+}
+
+void tst_TraceWalk::settingsAreRefusedOrCount()
+{
+    // Twice around, from a magnitude of 0.1 to one of 0.6, with a dent of 0.05 halfway.
+    QVector<double> real, imag;
+    for (int i = 0; i <= 200; ++i) {
+        const double angle = 4.0 * M_PI * i / 200.0 + 0.01;
+        const double magnitude = 0.1 + i / 400.0 - (i > 95 && i < 105 ? 0.05 : 0.0);
+        real << magnitude * std::cos(angle);
+        imag << magnitude * std::sin(angle);
+    }
+    TraceWalk walk;
+    walk.setData(real, imag);
+    const auto found = [&](TraceFeature feature) {
+        int count = 0;
+        for (const TraceStop &stop : walk.dataFeatures())
+            count += stop.features.testFlag(feature) ? 1 : 0;
+        return count;
+    };
+    const int extremes = found(Minimum) + found(Maximum);
+    QVERIFY(extremes >= 2);
+    for (const double wrong : {0.0, -1.0, qInf(), qQNaN()})
+        QVERIFY(!walk.setExcursion(wrong));
+    for (const double wrong : {1.0, 0.5, qInf(), qQNaN()})
+        QVERIFY(!walk.setVswr(wrong));
+    QCOMPARE(walk.excursion(), 0.02);
+    QCOMPARE(walk.vswr(), 2.0);
+    QVERIFY(walk.setExcursion(0.02) && walk.setVswr(2.0));
+    QCOMPARE(found(Minimum) + found(Maximum), extremes);
+    QVERIFY(walk.setExcursion(0.2));
+    QVERIFY(found(Minimum) + found(Maximum) < extremes);
+    QCOMPARE(found(VswrCircle), 1);
+    QVERIFY(walk.setVswr(9.0)); // a magnitude of 0.8
+    QCOMPARE(found(VswrCircle), 0);
+    walk.setFeatures(RealAxis);
+    walk.setFeatures(RealAxis);
+    QVERIFY(found(RealAxis) > 0 && found(Resonance) == 0);
+    walk.setFeatures(Resonance);
+    QVERIFY(found(RealAxis) == 0 && found(Resonance) > 0);
+    // Other data of the same length, and the same memory seen at another length.
+    walk.setData(real, QVector<double>(imag.size(), 0.1));
+    QCOMPARE(found(Resonance), 0);
+    walk.setData(real, {});
+    QCOMPARE(walk.start(), -1.0);
+    QVERIFY(!walk.walked(0.0, {WalkUnit::Feature, 1}, 0.1));
+    QCOMPARE(walk.byDistance(0.0, 1, 0.1), -1.0);
+    // Off the trace: the first step goes to the first feature from that side, or else the first point.
+    walk.setData({0.1, 0.2, 0.3}, {0.1, 0.1, 0.1});
+    QCOMPARE(walk.walked(7.0, {WalkUnit::Feature, -1}, 0.1), std::optional<double>(0.0));
+    walk.setMarkers({1.0});
+    QCOMPARE(walk.walked(7.0, {WalkUnit::Feature, -1}, 0.1), std::optional<double>(1.0));
+    QCOMPARE(walk.byDistance(2.0, -1, 9.0), 0.0);
+}
+
+void tst_TraceWalk::keys()
+{
+    const auto name = [](int key, Qt::KeyboardModifiers modifiers) {
+        const std::optional<WalkStep> step = SmithChart::walkStepOf(key, modifiers);
+        return step ? 10 * int(step->unit) + step->direction : -100;
+    };
+    const int point = 10 * int(WalkUnit::Point), view = 10 * int(WalkUnit::View),
+              feature = 10 * int(WalkUnit::Feature), end = 10 * int(WalkUnit::End), none = -100;
+    const std::tuple<int, int, int> table[] = {{Qt::Key_Left, point - 1, feature - 1},
+                                               {Qt::Key_Right, point + 1, feature + 1},
+                                               {Qt::Key_PageUp, view - 1, none},
+                                               {Qt::Key_PageDown, view + 1, none},
+                                               {Qt::Key_Home, end - 1, none},
+                                               {Qt::Key_End, end + 1, none},
+                                               {Qt::Key_Up, none, none}};
+    for (const auto &[key, plain, withCtrl] : table) {
+        QCOMPARE(name(key, Qt::NoModifier), plain);
+        QCOMPARE(name(key, Qt::KeypadModifier), plain);
+        QCOMPARE(name(key, Qt::ControlModifier), withCtrl);
+        QCOMPARE(name(key, Qt::AltModifier), none);
+    }
 }
 
 void tst_TraceWalk::summaries()
