@@ -21,8 +21,7 @@ LineMask::LineMask(QCPPainter *painter, const QPen &pen)
 
 bool LineMask::suits(const QCPPainter *painter, const QPen &pen)
 {
-    const bool isRaster =
-        painter->paintEngine() && painter->paintEngine()->type() == QPaintEngine::Raster;
+    const bool isRaster = painter->paintEngine()->type() == QPaintEngine::Raster;
     const bool isPlainPainter = painter->antialiasing() && painter->opacity() == 1.0
         && painter->compositionMode() == QPainter::CompositionMode_SourceOver
         && !painter->modes().testFlag(QCPPainter::pmVectorized)

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include <base/testexport_p.h>
 #include <plot/qcp.h>
 #include <smithrender/strokemask_p.h>
 
 /*! Draws the lines of a plottable on a raster image: all of them are gathered in a mask, which then is
     painted once. Noisy lines draw over the same pixels many times, and wide ones take painters 20
     times as long as thin ones. */
-class LineMask
+class VNAWIDGETS_TEST_EXPORT LineMask
 {
 public:
     /// For a painter and a pen that suit().

@@ -165,7 +165,7 @@ bool Marker::placeAtIndex(Plottable *plottable, double index)
     const auto point = data->at(i);
     double x = point->key;
     double y = point->value;
-    if (f > snapFraction && i < n - 1) {
+    if (f > snapFraction) {
         const auto next = data->at(i + 1);
         x = x * (1.0 - f) + f * next->key;
         y = y * (1.0 - f) + f * next->value;

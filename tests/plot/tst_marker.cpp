@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <plot/marker.h>
+#include <plot/markerselection.h>
 
 #include <vnatest.h>
 
@@ -108,6 +109,30 @@ private Q_SLOTS:
         QCOMPARE(m_plot->itemCount(), 0);
     }
 
+    void survivesItsTracerOrLabel()
+    {
+        Marker label(m_plot.get(), 1, Plot::PointingDown);
+        m_plot->removeItem(label.getTracer());
+        QVERIFY(!label.isVisible());
+        QVERIFY(!label.setPositionCoordinates(m_graph, 1.0, 2.0));
+        label.setPosition(m_curve, 1.0);
+        label.setType(Plot::PointingUp);
+        Marker tracer(m_plot.get(), 2, Plot::PointingDown);
+        QVERIFY(tracer.setPosition(m_graph, 1.5));
+        QCOMPARE(tracer.getTracer()->position->coords(), QPointF(1.5, 30));
+        tracer.getLabel()->setVisible(false);
+        QVERIFY(!tracer.isVisible());
+        m_plot->removeItem(tracer.getLabel());
+        QVERIFY(!tracer.isVisible());
+        tracer.setPosition(m_graph, 7.0);
+        QCOMPARE(tracer.getTracer()->position->coords(), QPointF(3, 80)); // the last point
+        Marker &same = tracer;
+        tracer = std::move(same);
+        QVERIFY(tracer.getTracer());
+        Plot::drawMarker(tracer, QPen(Qt::red), false);
+        QCOMPARE(tracer.getTracer()->pen().color(), QColor(Qt::red));
+    }
+
     void survivesItemsAndPlotGoneFirst()
     {
         Marker orphan(m_plot.get(), 1, Plot::PointingDown);
@@ -124,6 +149,10 @@ private Q_SLOTS:
             marker->setShape(Plot::Narrow);
             QVERIFY(!marker->isVisible());
             QVERIFY(!marker->setPositionCoordinates(static_cast<QCPCurve *>(nullptr), 0, 0));
+            QVERIFY(!marker->setPosition(static_cast<QCPGraph *>(nullptr), 0));
+            Plot::drawMarker(*marker, QPen(Qt::red), true);
+            QCOMPARE(Plot::markerAt({marker}, {0.0, 0.0}, 1e9), -1);
+            QCOMPARE(Plot::markerInReach({marker, nullptr}, {0.0, 0.0}, 1e9), -1);
         }
         QCOMPARE(withoutPlot.getId(), 5);
     }
