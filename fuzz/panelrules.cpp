@@ -48,7 +48,8 @@ public:
             for (const Marker &marker : model.markersOf(id))
                 checkMarker(*model.trace(id), marker);
         }
-        if (m_cartesian && view->activeTrace()) {
+        // In a window too low for a diagram there is no room to write anything.
+        if (m_cartesian && view->activeTrace() && !view->plot()->axisRect()->rect().isEmpty()) {
             checkFrequencies();
             checkScale(*view->activeTrace());
         }

@@ -142,9 +142,12 @@ bool SmithReader::walk(const WalkStep &step)
 {
     if (!d->chart || !d->step(step))
         return false;
+    const QString text = d->text;
+    const QPointer<SmithReader> self(this);
     if (d->accessible)
-        d->accessible->announce(d->text);
-    Q_EMIT said(d->text);
+        d->accessible->announce(text);
+    if (self)
+        Q_EMIT said(text);
     return true;
 }
 

@@ -215,6 +215,15 @@ private Q_SLOTS:
             QVERIFY(!scene.chart);
         }
     }
+
+    void chartGoesWhenAStepIsAnnounced()
+    {
+        ReaderScene scene;
+        connect(AccessiblePlot::on(scene.plot.get()), &AccessiblePlot::announced, this,
+                [&] { delete scene.chart; });
+        QVERIFY(scene.reader->walk({WalkUnit::Point, 1}));
+        QVERIFY(!scene.reader && !scene.chart);
+    }
 };
 
 QTEST_MAIN(tst_ReaderParts)
