@@ -117,7 +117,7 @@ void Announcer::say()
 {
     m_text = std::exchange(m_waiting, {});
     m_pause.start();
-    if (QAccessible::isActive() && m_place) {
+    if (m_place) {
         QAccessibleInterface *const note = line()->child(0);
         for (const auto type : {QAccessible::ObjectShow, QAccessible::Alert}) {
             QAccessibleEvent event(note, type);

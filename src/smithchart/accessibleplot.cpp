@@ -150,9 +150,11 @@ public:
     }
     int indexOfChild(const QAccessibleInterface *child) const override
     {
-        if (child && child == line())
+        if (!m_owner || !child)
+            return QAccessibleWidget::indexOfChild(child);
+        if (child == line())
             return partCount() + widgetCount();
-        const auto all = m_owner ? parts().all() : QVector<PlotParts::Part>();
+        const auto all = parts().all();
         const auto found = std::find_if(all.begin(), all.end(), [&](const PlotParts::Part &part) {
             return parts().knownObject(part) == child;
         });
@@ -175,10 +177,7 @@ private:
     PlotParts &parts() const { return *m_owner->m_parts; }
     int partCount() const { return m_owner ? static_cast<int>(parts().all().size()) : 0; }
     int widgetCount() const { return QAccessibleWidget::childCount(); }
-    QAccessibleInterface *line() const
-    {
-        return m_owner && m_owner->m_announcer ? m_owner->m_announcer->line() : nullptr;
-    }
+    QAccessibleInterface *line() const { return m_owner ? m_owner->m_announcer->line() : nullptr; }
 
     const QPointer<AccessiblePlot> m_owner;
 };
@@ -191,11 +190,12 @@ PlotParts::~PlotParts()
 
 void PlotParts::remove(PlotDescription *description)
 {
-    m_descriptions.removeOne(description);
+    // First the objects: one that can be asked has its description.
     for (int i = static_cast<int>(m_known.size()) - 1; i >= 0; --i) {
         if (m_known.at(i).part.description == description)
             QAccessible::deleteAccessibleInterface(m_known.takeAt(i).id);
     }
+    m_descriptions.removeOne(description);
 }
 
 QVector<PlotParts::Part> PlotParts::all() const
@@ -214,22 +214,14 @@ QVector<PlotParts::Part> PlotParts::all() const
 
 bool PlotParts::holds(const Part &part) const
 {
-    if (!m_descriptions.contains(part.description))
-        return false;
-    switch (part.kind) {
-    case Table:
+    if (part.kind == Table)
         return part.description->traces().contains(part.trace);
-    case Marker: {
-        const auto markers = part.description->markers();
-        return std::any_of(markers.begin(), markers.end(),
-                           [&](const PlotDescription::MarkerId &id) {
-                               return id.trace == part.trace && id.number == part.number;
-                           });
-    }
-    case Verdict:
+    if (part.kind == Verdict)
         return part.number < part.description->verdicts().size();
-    }
-    return false;
+    const auto markers = part.description->markers();
+    return std::any_of(markers.begin(), markers.end(), [&](const PlotDescription::MarkerId &id) {
+        return id.trace == part.trace && id.number == part.number;
+    });
 }
 
 QAccessibleInterface *PlotParts::knownObject(const Part &part) const
@@ -237,6 +229,16 @@ QAccessibleInterface *PlotParts::knownObject(const Part &part) const
     const auto found = std::find_if(m_known.begin(), m_known.end(),
                                     [&](const Known &known) { return known.part == part; });
     return found == m_known.end() ? nullptr : QAccessible::accessibleInterface(found->id);
+}
+
+QVector<QAccessibleInterface *> PlotParts::knownTables() const
+{
+    QVector<QAccessibleInterface *> tables;
+    for (const Known &known : m_known) {
+        if (known.part.kind == Table && holds(known.part))
+            tables << QAccessible::accessibleInterface(known.id);
+    }
+    return tables;
 }
 
 QAccessibleInterface *PlotParts::object(const Part &part)
@@ -267,6 +269,7 @@ AccessiblePlot::AccessiblePlot(QCustomPlot *plot)
     , m_parts(std::make_unique<PlotParts>(plot))
     , m_announcer(new Controls::Announcer(plot))
 {
+    m_announcer->setParent(this);
     QAccessible::installFactory(&PlotAccessible::make);
     // One that was asked for before would be kept, as that of a plain widget.
     if (QAccessibleInterface *const before = QAccessible::queryAccessibleInterface(plot)) {
@@ -294,8 +297,7 @@ void AccessiblePlot::remove(PlotDescription *description)
 
 void AccessiblePlot::announce(const QString &text)
 {
-    if (m_announcer)
-        m_announcer->announce(text);
+    m_announcer->announce(text);
 }
 
 void AccessiblePlot::tellMarkerMoved(PlotDescription *description,
@@ -303,7 +305,7 @@ void AccessiblePlot::tellMarkerMoved(PlotDescription *description,
 {
     const PlotParts::Part part{description, PlotParts::Marker, id.trace, id.number};
     QAccessibleInterface *const marker = m_parts->knownObject(part);
-    if (!QAccessible::isActive() || !marker || !marker->isValid())
+    if (!marker || !marker->isValid())
         return;
     QAccessibleValueChangeEvent event(marker, description->markerValue(id).value);
     QAccessible::updateAccessibility(&event);
@@ -311,17 +313,14 @@ void AccessiblePlot::tellMarkerMoved(PlotDescription *description,
 
 void AccessiblePlot::tellDataChanged()
 {
-    if (QAccessible::isActive() && !m_dataPause.isActive())
+    if (!m_dataPause.isActive())
         m_dataPause.start();
 }
 
 void AccessiblePlot::resetTables()
 {
-    for (const PlotParts::Part &part : m_parts->all()) {
-        QAccessibleInterface *const table =
-            part.kind == PlotParts::Table ? m_parts->knownObject(part) : nullptr;
-        if (!table)
-            continue;
+    const auto tables = m_parts->knownTables();
+    for (QAccessibleInterface *const table : tables) {
         QAccessibleTableModelChangeEvent event(table, QAccessibleTableModelChangeEvent::ModelReset);
         table->tableInterface()->modelChange(&event);
         QAccessible::updateAccessibility(&event);

@@ -116,6 +116,6 @@ private:
     void resetTables();
 
     const std::unique_ptr<PlotParts> m_parts;
-    QPointer<Controls::Announcer> m_announcer; ///< the plot's
+    Controls::Announcer *const m_announcer; ///< speaks from the plot
     QTimer m_dataPause; ///< until the tables are read anew
 };

@@ -52,12 +52,14 @@ public:
 
     /// All parts in the order in which they are read.
     QVector<Part> all() const;
-    /// Whether a part is there.
+    /// Whether a part is there; its description is.
     bool holds(const Part &part) const;
     /// The object of a part, made when it is first asked for.
     QAccessibleInterface *object(const Part &part);
     /// The same, or null while nobody has asked for it.
     QAccessibleInterface *knownObject(const Part &part) const;
+    /// Those of the tables that are there, as far as anybody has asked for them.
+    QVector<QAccessibleInterface *> knownTables() const;
 
 private:
     struct Known {

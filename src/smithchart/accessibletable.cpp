@@ -13,7 +13,7 @@ constexpr int keptCells = 4096;
 class CellAccessible : public PlotPartAccessible, public QAccessibleTableCellInterface
 {
 public:
-    CellAccessible(PlotParts *parts, QAccessible::Id table, int row, int column)
+    CellAccessible(PlotParts *parts, const TraceTableAccessible *table, int row, int column)
         : PlotPartAccessible(parts)
         , m_table(table)
         , m_row(row)
@@ -21,16 +21,16 @@ public:
     {
     }
 
-    bool isValid() const override { return trace() && trace()->holds(m_row, m_column); }
-    QAccessibleInterface *parent() const override { return trace(); }
+    bool isValid() const override { return m_table->holds(m_row, m_column); }
+    QAccessibleInterface *parent() const override { return table(); }
     QAccessible::Role role() const override { return QAccessible::Cell; }
     QString text(QAccessible::Text kind) const override
     {
         if (!isValid())
             return {};
         if (kind == QAccessible::Name)
-            return trace()->cellText(m_row, m_column);
-        return kind == QAccessible::Description ? trace()->columnDescription(m_column) : QString();
+            return m_table->cellText(m_row, m_column);
+        return kind == QAccessible::Description ? m_table->columnDescription(m_column) : QString();
     }
     void *interface_cast(QAccessible::InterfaceType type) override
     {
@@ -46,15 +46,13 @@ public:
     int rowIndex() const override { return m_row; }
     int columnExtent() const override { return 1; }
     int rowExtent() const override { return 1; }
-    QAccessibleInterface *table() const override { return trace(); }
-
-private:
-    TraceTableAccessible *trace() const
+    QAccessibleInterface *table() const override
     {
-        return static_cast<TraceTableAccessible *>(QAccessible::accessibleInterface(m_table));
+        return const_cast<TraceTableAccessible *>(m_table);
     }
 
-    const QAccessible::Id m_table;
+private:
+    const TraceTableAccessible *const m_table; ///< lives longer
     const int m_row;
     const int m_column;
 };
@@ -109,6 +107,8 @@ QAccessibleInterface *TraceTableAccessible::child(int index) const
 
 int TraceTableAccessible::indexOfChild(const QAccessibleInterface *child) const
 {
+    if (!child)
+        return -1;
     auto *const cell = const_cast<QAccessibleInterface *>(child)->tableCellInterface();
     return cell ? cell->rowIndex() * columnCount() + cell->columnIndex() : -1;
 }
@@ -137,8 +137,7 @@ QAccessibleInterface *TraceTableAccessible::cellAt(int row, int column) const
         QAccessible::deleteAccessibleInterface(m_cells.take(m_order.front()));
         m_order.pop_front();
     }
-    const QAccessible::Id self = QAccessible::uniqueId(const_cast<TraceTableAccessible *>(this));
-    auto *const cell = new CellAccessible(m_parts, self, row, column);
+    auto *const cell = new CellAccessible(m_parts, this, row, column);
     m_cells.insert(place, QAccessible::registerAccessibleInterface(cell));
     m_order.push_back(place);
     return cell;
