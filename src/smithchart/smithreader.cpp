@@ -43,8 +43,8 @@ bool SmithReader::Private::step(const WalkStep &step)
     }
     walk.setMarkers(places);
     walk.setLimitEdges(limitEdges(trace));
-    const std::optional<double> reached = walk.walked(
-        of.holds(index) ? index : -1.0, step, 0.2 / (chart ? chart->viewState().zoom : 1.0));
+    const std::optional<double> reached =
+        walk.walked(of.holds(index) ? index : -1.0, step, 0.2 / chart->viewState().zoom);
     if (!reached)
         return false;
     const bool moved = *reached != index;
@@ -58,9 +58,9 @@ bool SmithReader::Private::step(const WalkStep &step)
 
 void SmithReader::Private::showRing(const QPointF &place)
 {
-    QCustomPlot *const plot = chart ? chart->getPlot() : nullptr;
-    if (!plot || !chart->xAxis() || !chart->yAxis())
+    if (!chart->xAxis() || !chart->yAxis())
         return;
+    QCustomPlot *const plot = chart->getPlot(); // there, since a trace is
     if (!ring) {
         Plot::raiseMarkersLayer(plot);
         ring = new QCPItemTracer(plot);
@@ -174,7 +174,7 @@ double SmithReader::walkedIndex() const
 
 bool SmithReader::eventFilter(QObject *, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress || !d->takesKeys || !d->chart)
+    if (event->type() != QEvent::KeyPress || !d->takesKeys)
         return false;
     const auto *const key = static_cast<QKeyEvent *>(event);
     if (const auto step = walkStepOf(key->key(), key->modifiers())) {

@@ -8,6 +8,7 @@
 
 using namespace SmithChart;
 
+/// None when the chart has gone; who asks for one of them, or its parts, need not look again.
 QVector<int> SmithReader::Private::traces() const
 {
     QVector<int> shown;
@@ -34,7 +35,7 @@ PointValues SmithReader::Private::point(const ReadTrace &of, double at) const
     const std::optional<QPointF> place = tracePoint(of.real, of.imag, at);
     const std::complex<double> gamma =
         place ? std::complex<double>(place->x(), place->y()) : nothing;
-    const double reference = chart ? chart->gridReference().value_or(1.0) : 1.0;
+    const double reference = chart->gridReference().value_or(1.0);
     return {of.stimulusAt(at), gamma, normalisedImpedance(gamma) * reference, unit()};
 }
 
@@ -52,8 +53,6 @@ QString SmithReader::Private::summary() const
 QString SmithReader::Private::cell(int trace, int row, int column) const
 {
     const ReadTrace of = data(trace);
-    if (row < 0 || row >= of.size())
-        return {};
     return column == StimulusColumn ? stimulusText(of.stimulus.at(row))
                                     : pointValue(point(of, row), PointColumn(column));
 }
@@ -75,7 +74,7 @@ QVector<PlotDescription::MarkerId> SmithReader::Private::markers() const
 PlotDescription::MarkerValue SmithReader::Private::markerValue(const MarkerId &id) const
 {
     const ReadTrace of = data(id.trace);
-    const double at = chart ? chart->markerIndex(id.trace, id.number) : -1.0;
+    const double at = chart->markerIndex(id.trace, id.number);
     if (!of.holds(at))
         return {qQNaN(), qQNaN(), qQNaN()};
     return {of.stimulusAt(at), of.stimulus.first(), of.stimulus.last()};
@@ -85,7 +84,7 @@ QString SmithReader::Private::markerText(const MarkerId &id) const
 {
     const QString which = tr("Marker %1 on %2").arg(id.number).arg(traceName(id.trace));
     const ReadTrace of = data(id.trace);
-    const double at = chart ? chart->markerIndex(id.trace, id.number) : -1.0;
+    const double at = chart->markerIndex(id.trace, id.number);
     return of.holds(at)
         ? which + QStringLiteral(": ") + placeText({}, walk.vswr(), point(of, at), stimulusText)
         : which;
@@ -95,16 +94,15 @@ QString SmithReader::Private::markerText(const MarkerId &id) const
 void SmithReader::Private::requestMarkerValue(const MarkerId &id, double value)
 {
     const ReadTrace of = data(id.trace);
-    const QPointer<SmithChartPlot> guard(chart);
-    if (of.size() == 0 || !guard)
+    if (of.size() == 0)
         return;
+    const QPointer<SmithChartPlot> guard(chart);
     Q_EMIT guard->markerDragStarted(id.trace, id.number);
     if (guard)
         Q_EMIT guard->markerPositionChanged(id.trace, id.number, std::round(of.indexOf(value)));
-    if (!guard)
-        return;
-    const double reached = guard->markerIndex(id.trace, id.number);
-    Q_EMIT guard->markerDragFinished(id.trace, id.number, reached);
+    if (guard)
+        Q_EMIT guard->markerDragFinished(id.trace, id.number,
+                                         guard->markerIndex(id.trace, id.number));
 }
 
 QStringList SmithReader::Private::verdicts() const
@@ -116,7 +114,9 @@ QStringList SmithReader::Private::verdicts() const
         const LimitResult result = known.limit->result();
         const ReadTrace of = data(known.trace);
         const QString name = traceName(known.trace);
-        texts << (result.passed() || !of.holds(result.firstFailing)
+        if (!result.passed() && !of.holds(result.firstFailing))
+            continue; // what failed has gone
+        texts << (result.passed()
                       ? tr("%1 keeps within its limit.").arg(name)
                       : tr("%1 fails its limit from %2 on.")
                             .arg(name, stimulusText(of.stimulus.at(result.firstFailing))));

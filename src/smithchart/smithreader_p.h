@@ -34,8 +34,10 @@ struct ReadTrace {
     double indexOf(double wanted) const
     {
         const auto above = std::lower_bound(stimulus.begin(), stimulus.end(), wanted);
-        if (above == stimulus.begin() || above == stimulus.end())
-            return above == stimulus.begin() ? 0.0 : size() - 1.0;
+        if (above == stimulus.begin())
+            return 0.0;
+        if (above == stimulus.end())
+            return size() - 1.0;
         const double index = static_cast<double>(above - stimulus.begin());
         return index - (*above - wanted) / (*above - *(above - 1));
     }
@@ -69,10 +71,7 @@ public:
     QStringList verdicts() const override;
 
     ReadTrace data(int trace) const;
-    QString unit() const
-    {
-        return chart && chart->gridReference() ? QStringLiteral("\u03a9") : QString();
-    }
+    QString unit() const { return chart->gridReference() ? QStringLiteral("\u03a9") : QString(); }
     PointValues point(const ReadTrace &of, double at) const;
     int traceToWalk() const;
     QVector<double> limitEdges(int trace) const;

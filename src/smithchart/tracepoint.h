@@ -13,7 +13,8 @@ namespace SmithChart
 {
 
 /*! The point of a trace at a fractional index, interpolated linearly between two points.
-    Nothing for an index outside 0 to n - 1 or a result that is not finite; n is the shorter length.
+    Nothing for an index outside 0 to n - 1 or beside a point that is not finite; n is the shorter
+    length.
  */
 [[nodiscard]] inline std::optional<QPointF> tracePoint(const QVector<double> &real,
                                                        const QVector<double> &imag, double index)
@@ -28,7 +29,7 @@ namespace SmithChart
         return std::nullopt;
     if (fraction == 0.0)
         return QPointF(real.at(i), imag.at(i));
-    if (i + 1 >= n || !finite(real.at(i + 1), imag.at(i + 1)))
+    if (!finite(real.at(i + 1), imag.at(i + 1)))
         return std::nullopt;
     const auto between = [fraction](double p, double q) {
         const double difference = q - p;
@@ -36,9 +37,7 @@ namespace SmithChart
         return std::isfinite(difference) ? p + difference * fraction
                                          : p * (1.0 - fraction) + q * fraction;
     };
-    const double x = between(real.at(i), real.at(i + 1));
-    const double y = between(imag.at(i), imag.at(i + 1));
-    return finite(x, y) ? std::optional<QPointF>(QPointF(x, y)) : std::nullopt;
+    return QPointF(between(real.at(i), real.at(i + 1)), between(imag.at(i), imag.at(i + 1)));
 }
 
 } // namespace SmithChart

@@ -195,8 +195,7 @@ std::optional<WalkStep> walkStepOf(int key, Qt::KeyboardModifiers modifiers)
 void TraceWalk::setData(const QVector<double> &real, const QVector<double> &imag)
 {
     // Both are shared: the same address means the same values.
-    if (real.constData() == m_real.constData() && real.size() == m_real.size()
-        && imag.constData() == m_imag.constData() && imag.size() == m_imag.size())
+    if (real.constData() == m_real.constData() && imag.constData() == m_imag.constData())
         return;
     m_real = real;
     m_imag = imag;
@@ -207,7 +206,8 @@ bool TraceWalk::setVswr(double ratio)
 {
     if (!std::isfinite(ratio) || ratio <= 1.0)
         return false;
-    m_found = m_found && ratio == m_vswr;
+    if (ratio != m_vswr)
+        m_found = false;
     m_vswr = ratio;
     return true;
 }
@@ -216,14 +216,16 @@ bool TraceWalk::setExcursion(double magnitude)
 {
     if (!std::isfinite(magnitude) || magnitude <= 0.0)
         return false;
-    m_found = m_found && magnitude == m_excursion;
+    if (magnitude != m_excursion)
+        m_found = false;
     m_excursion = magnitude;
     return true;
 }
 
 void TraceWalk::setFeatures(TraceFeatures features)
 {
-    m_found = m_found && features == m_wanted;
+    if (features != m_wanted)
+        m_found = false;
     m_wanted = features;
 }
 
@@ -363,20 +365,17 @@ std::optional<double> TraceWalk::walked(double from, const WalkStep &step, doubl
     if (first < 0.0)
         return std::nullopt;
     const bool begins = !(from >= 0.0 && from <= size() - 1.0);
-    switch (step.unit) {
-    case WalkUnit::End:
+    if (step.unit == WalkUnit::End)
         return step.direction > 0 ? end() : first;
-    case WalkUnit::Feature: {
+    if (step.unit == WalkUnit::Feature) {
         const double origin = !begins ? from : step.direction > 0 ? -1.0 : double(size());
         const std::optional<TraceStop> stop = nextFeature(origin, step.direction);
         return stop ? stop->index : begins ? first : from;
     }
-    case WalkUnit::View:
-        return begins ? first : byDistance(from, step.direction, distance);
-    case WalkUnit::Point:
-        break;
-    }
-    return begins ? first : byPoints(from, step.direction);
+    if (begins)
+        return first;
+    return step.unit == WalkUnit::View ? byDistance(from, step.direction, distance)
+                                       : byPoints(from, step.direction);
 }
 
 TraceFeatures TraceWalk::featuresAt(double index) const

@@ -29,7 +29,7 @@ QString number(double value, int digits)
 QString vswrText(const std::complex<double> &reflection)
 {
     const double magnitude = std::abs(reflection);
-    return number(magnitude < 1.0 ? (1.0 + magnitude) / (1.0 - magnitude) : qInf(), 3);
+    return number(magnitude >= 1.0 ? qInf() : (1.0 + magnitude) / (1.0 - magnitude), 3);
 }
 
 QString impedanceText(const PointValues &point)

@@ -35,6 +35,16 @@ struct ReaderScene : ChartScene {
         }
         return nullptr;
     }
+    /// What all parts of a kind are called.
+    QStringList names(QAccessible::Role role) const
+    {
+        QStringList found;
+        for (int i = 0; i < tree()->childCount(); ++i) {
+            if (tree()->child(i)->role() == role)
+                found << tree()->child(i)->text(QAccessible::Name);
+        }
+        return found;
+    }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
         QTest::keyClick(plot.get(), key, modifiers);

@@ -7,14 +7,10 @@
 
 #include <QSignalSpy>
 
-#include <cmath>
-
-using SmithChart::WalkStep;
+using namespace VnaTest;
 using SmithChart::WalkUnit;
 
-using VnaTest::ReaderScene;
-
-class tst_SmithReader : public VnaTest::TestCase
+class tst_SmithReader : public TestCase
 {
     Q_OBJECT
 
@@ -22,10 +18,12 @@ private Q_SLOTS:
     void describesTheChart();
     void tableOfAnyLength();
     void aMarkerIsAskedForAndNotMoved();
-    void keysWalkTheTrace();
     void oneAnnouncementASecondTheNewestWins();
     void twoChartsShareAPlot();
     void whateverAToolAsks();
+    void markersThatAreRead();
+    void limitsThatAreRead();
+    void aChartMayGoWhenAskedForAMarker();
     void anyOrderOfDestruction();
 };
 
@@ -104,45 +102,6 @@ void tst_SmithReader::aMarkerIsAskedForAndNotMoved()
     QCOMPARE(value->currentValue().toDouble(), 5e9);
     scene.chart->removeMarkerVisual(1, 1);
     QVERIFY(!marker->isValid());
-}
-
-void tst_SmithReader::keysWalkTheTrace()
-{
-    const ReaderScene scene;
-    QSignalSpy said(scene.reader, &SmithReader::said);
-    const auto last = [&] { return said.isEmpty() ? QString() : said.last().first().toString(); };
-    scene.press(Qt::Key_Right, Qt::ControlModifier);
-    QVERIFY2(last().startsWith(QLatin1String("Marker: 1 GHz")), qPrintable(last()));
-    scene.press(Qt::Key_Right, Qt::ControlModifier);
-    QVERIFY2(last().startsWith(QLatin1String("VSWR of 2: 1.880992 GHz")), qPrintable(last()));
-    scene.press(Qt::Key_Right, Qt::ControlModifier);
-    QVERIFY2(last().startsWith(QLatin1String("Minimum: 2 GHz")), qPrintable(last()));
-    scene.press(Qt::Key_Right, Qt::ControlModifier);
-    QCOMPARE(
-        last(),
-        QStringLiteral("Resonance: 2.5 GHz, 75 + j0 \u03a9, VSWR 1.5, 3.0 dB less reflection"));
-    QCOMPARE(scene.reader->walkedIndex(), 1.5);
-    scene.press(Qt::Key_Left);
-    QVERIFY2(last().startsWith(QLatin1String("Minimum: 2 GHz, ")), qPrintable(last()));
-    scene.press(Qt::Key_End);
-    QCOMPARE(scene.reader->walkedIndex(), 4.0);
-    const int steps = int(said.size());
-    scene.press(Qt::Key_End); // nothing new
-    scene.press(Qt::Key_Right);
-    QCOMPARE(said.size(), steps);
-    scene.press(Qt::Key_PageUp);
-    QCOMPARE(scene.reader->walkedIndex(), 3.0);
-
-    QSignalSpy clicked(scene.chart, &SmithChartPlot::activeTraceDoubleClicked);
-    scene.press(Qt::Key_Return);
-    QCOMPARE(clicked.takeFirst().at(1).toDouble(), 4e9);
-    scene.press(Qt::Key_Escape);
-    QCOMPARE(scene.reader->walkedTrace(), -1);
-    scene.press(Qt::Key_Return);
-    QVERIFY(clicked.isEmpty());
-
-    scene.chart->setCurveVisible(1, false);
-    QVERIFY(!scene.reader->walk({WalkUnit::Point, 1}));
 }
 
 void tst_SmithReader::oneAnnouncementASecondTheNewestWins()
@@ -225,14 +184,133 @@ void tst_SmithReader::whateverAToolAsks()
         QVERIFY(part->state().invisible);
 }
 
+void tst_SmithReader::markersThatAreRead()
+{
+    const ReaderScene scene;
+    SmithChartPlot *chart = scene.chart;
+    const auto texts = [&] {
+        return scene.names(QAccessible::Slider).replaceInStrings(QRegularExpression(": .*"_s), {});
+    };
+    chart->addCurve(2, QPen());
+    chart->setCurveData(2, {1.0, 2.0, 3.0}, {1.0, 0.0, qQNaN()}, {0.0, 0.0, 0.0});
+    chart->addMarkerVisual(2, 3, 1.0, Plot::PointingDown);
+    QCOMPARE(texts(), QStringList({"Marker 1 on S11"_s, "Marker 3 on Trace 2"_s}));
+    chart->setMarkerVisible(1, 1, false);
+    QCOMPARE(texts(), QStringList("Marker 3 on Trace 2"_s));
+
+    // One that stands nowhere has a name, but neither a value nor a place.
+    QAccessibleInterface *marker = scene.part(QAccessible::Slider);
+    QSignalSpy asked(chart, &SmithChartPlot::markerPositionChanged);
+    marker->valueInterface()->setCurrentValue(0.25);
+    QCOMPARE(asked.takeFirst(), (QVariantList{2, 3, 0.0}));
+    chart->setCurveData(2, {1.0}, {1.0}, {0.0});
+    chart->setMarkerVisible(2, 3, true);
+    QCOMPARE(marker->text(QAccessible::Name), QStringLiteral("Marker 3 on Trace 2"));
+    QVERIFY(qIsNaN(marker->valueInterface()->currentValue().toDouble()));
+    chart->setCurveData(2, {}, {}, {});
+    chart->setMarkerVisible(2, 3, true);
+    marker->valueInterface()->setCurrentValue(0.25);
+    QVERIFY(asked.isEmpty());
+
+    // An open end, a gap, and a chart without a reference.
+    chart->setCurveData(2, {1.0, 2.0, 3.0}, {1.0, 0.0, qQNaN()}, {0.0, 0.0, 0.0});
+    chart->setGridReference({});
+    QAccessibleTableInterface *table = scene.tree()->child(1)->tableInterface();
+    QCOMPARE(table->columnDescription(1), QStringLiteral("Resistance"));
+    QStringList cells;
+    for (int row = 0; row < 3; ++row)
+        cells << table->cellAt(row, 0)->text(QAccessible::Name)
+              << table->cellAt(row, 1)->text(QAccessible::Name);
+    QCOMPARE(cells.join(QLatin1Char(' ')), QStringLiteral("1 Hz infinite 2 Hz 1 3 Hz \u2013"));
+    scene.reader->setStimulusText([](double value) { return QString::number(value) + u's'; });
+    QCOMPARE(table->cellAt(1, 0)->text(QAccessible::Name), QStringLiteral("2s"));
+    scene.reader->setStimulusText({});
+    QCOMPARE(table->cellAt(1, 0)->text(QAccessible::Name), QStringLiteral("2 Hz"));
+
+    // As many as a user can tell apart.
+    for (int number = 1; number <= 60; ++number) {
+        for (const int trace : {1, 2}) {
+            chart->addMarkerVisual(trace, number, 0.0, Plot::PointingDown);
+            chart->setMarkerVisible(trace, number, true);
+        }
+    }
+    QCOMPARE(texts().size(), 99);
+}
+
+void tst_SmithReader::limitsThatAreRead()
+{
+    const ReaderScene scene;
+    scene.chart->addCurve(2, QPen());
+    scene.chart->setCurveData(2, {1.0, 2.0}, {0.0, 0.9}, {0.0, 0.0});
+    QPointer<SmithLimit> limits[] = {new SmithLimit(scene.chart), new SmithLimit(scene.chart)};
+    SmithChart::LimitArea area;
+    area.setCircle({0.0, 0.0}, 0.6, SmithChart::LimitArea::StayInside);
+    for (const int trace : {1, 2}) {
+        limits[trace - 1]->setArea(area);
+        limits[trace - 1]->test(trace);
+        scene.reader->addLimit(limits[trace - 1], trace);
+    }
+    const auto texts = [&] { return scene.names(QAccessible::StaticText); };
+    const QString first = QStringLiteral("S11 fails its limit from 1 GHz on.");
+    QCOMPARE(texts(), QStringList({first, "Trace 2 fails its limit from 2 Hz on."_s}));
+    // A walk stops at the edges of its own trace's limit: 0 and 0, and 3 to 4.
+    QVector<double> stops;
+    QSignalSpy said(scene.reader, &SmithReader::said);
+    while (scene.reader->walk({WalkUnit::Feature, 1})) {
+        if (said.last().first().toString().contains(QLatin1String("dge of the limit")))
+            stops << scene.reader->walkedIndex();
+    }
+    QCOMPARE(stops, (QVector<double>{0.0, 3.0, 4.0}));
+
+    // Nothing is said of what failed and is gone, nor by a limit that is.
+    scene.chart->setCurveData(2, {1.0}, {0.0}, {0.0});
+    QCOMPARE(texts(), QStringList(first));
+    limits[1]->test(2);
+    QCOMPARE(texts(), QStringList({first, "Trace 2 keeps within its limit."_s}));
+    delete limits[0];
+    QCOMPARE(texts(), QStringList("Trace 2 keeps within its limit."_s));
+    scene.reader->endWalk();
+    scene.reader->walk({WalkUnit::Feature, 1});
+    QVERIFY(!said.last().first().toString().contains(QLatin1String("limit")));
+}
+
+void tst_SmithReader::aChartMayGoWhenAskedForAMarker()
+{
+    for (const bool atOnce : {true, false}) {
+        const ReaderScene scene;
+        QStringList told;
+        note(told, "started", scene.chart.data(), &SmithChartPlot::markerDragStarted);
+        note(told, "moved", scene.chart.data(), &SmithChartPlot::markerPositionChanged);
+        note(told, "finished", scene.chart.data(), &SmithChartPlot::markerDragFinished);
+        const auto go = [&scene] { delete scene.chart; };
+        if (atOnce)
+            connect(scene.chart, &SmithChartPlot::markerDragStarted, this, go);
+        else
+            connect(scene.chart, &SmithChartPlot::markerPositionChanged, this, go);
+        scene.part(QAccessible::Slider)->valueInterface()->setCurrentValue(3e9);
+        QCOMPARE(told, QStringList({"started 1 1"_s, "moved 1 1 2"_s}).mid(0, atOnce ? 1 : 2));
+        QCOMPARE(scene.names(QAccessible::Slider), QStringList());
+    }
+}
+
 void tst_SmithReader::anyOrderOfDestruction()
 {
+    SmithReader ofNothing(nullptr);
+    QCOMPARE(ofNothing.summary(), QStringLiteral("No traces."));
+    QVERIFY(!ofNothing.walk({WalkUnit::End, 1}));
+    ofNothing.endWalk();
     for (int order = 0; order < 3; ++order) {
         ReaderScene scene;
         scene.press(Qt::Key_Home); // with a ring
         for (int i = 0; i < scene.tree()->childCount(); ++i)
             QVERIFY(scene.tree()->child(i)->isValid());
         scene.part(QAccessible::Table)->tableInterface()->cellAt(0, 0);
+        scene.reader->addLimit(new SmithLimit(scene.chart), 1);
+        // Whoever hears of the chart's end finds no more than the limit, and the line that is last.
+        connect(scene.chart, &QObject::destroyed, this, [&scene] {
+            if (scene.reader && scene.plot)
+                QCOMPARE(scene.tree()->childCount(), 2);
+        });
         if (order == 0)
             delete scene.reader;
         else if (order == 1)

@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <smithchart/tracenoise_p.h>
+#include <smithchart/tracepoint.h>
 #include <smithchart/tracesummary.h>
 #include <smithchart/tracewalk.h>
+#include <smithchart/tracewords.h>
 
 #include <vnatest.h>
 
@@ -62,9 +65,12 @@ private Q_SLOTS:
     void axisAndGaps();
     void bothDirectionsMeetTheSamePlaces();
     void noiseIsNoFeature();
+    void noiseIsMeasuredBetweenGaps();
+    void whatCountsMayChange();
+    void keysThatWalk();
     void stepsByPointsAndByDistance();
-    void settingsAreRefusedOrCount();
-    void keys();
+    void stepsFromNowhere();
+    void pointsBetweenPoints();
     void summaries();
 };
 
@@ -162,6 +168,75 @@ void tst_TraceWalk::noiseIsNoFeature()
     QCOMPARE(summarise(line.real, line.imag).loops, 3);
 }
 
+void tst_TraceWalk::noiseIsMeasuredBetweenGaps()
+{
+    std::mt19937 random(5);
+    std::normal_distribution<double> noise(0.0, 0.01);
+    QVector<double> real(12000), imag(12000);
+    for (int i = 0; i < real.size(); ++i) {
+        real[i] = i % 7 < 3 ? qQNaN() : std::cos(i * 1e-4) + noise(random);
+        imag[i] = std::sin(i * 1e-4) + noise(random);
+    }
+    QVERIFY(qAbs(noiseOf(real, imag, 12000) - 0.01) < 0.002);
+    QCOMPARE(noiseOf(real, imag, 9999), 0.0); // too short to tell
+    const QVector<double> gap(12000, qQNaN());
+    QCOMPARE(noiseOf(gap, gap, 12000), 0.0);
+}
+
+void tst_TraceWalk::whatCountsMayChange()
+{
+    TraceWalk walk;
+    const QVector<double> real{0.5, 0.2, 0.32, 0.2, 0.5};
+    walk.setData(real, QVector<double>(5, 0.0));
+    const auto found = [&walk] {
+        QString text;
+        for (const TraceStop &stop : walk.dataFeatures()) {
+            const QString kind = featureText(stop.features, 2.0).left(2);
+            text += QStringLiteral("%1@%2 ").arg(kind).arg(stop.index, 0, 'g', 3);
+        }
+        return text.trimmed();
+    };
+    walk.setFeatures(VswrCircle);
+    QCOMPARE(found(), QStringLiteral("VS@0.556 VS@3.44"));
+    walk.setFeatures(VswrCircle); // as they were
+    QVERIFY(walk.setVswr(2.0) && walk.setExcursion(0.01) && walk.setExcursion(0.01));
+    QCOMPARE(found(), QStringLiteral("VS@0.556 VS@3.44"));
+    QVERIFY(walk.setVswr(1.6));
+    QCOMPARE(found(), QStringLiteral("VS@0.897 VS@1.26 VS@2.74 VS@3.1"));
+    walk.setFeatures(Minimum | Maximum);
+    QCOMPARE(found(), QStringLiteral("Mi@1 Ma@2 Mi@3"));
+    QVERIFY(walk.setExcursion(0.2));
+    QCOMPARE(found(), QStringLiteral("Mi@1"));
+    walk.setData(real, {0.0, 0.5, 0.0, 0.5, 0.0}); // one of the two is new
+    QCOMPARE(found(), QStringLiteral("Mi@2"));
+}
+
+void tst_TraceWalk::keysThatWalk()
+{
+    const struct {
+        int key;
+        WalkUnit unit;
+        int direction;
+    } rows[] = {
+        {Qt::Key_Left, WalkUnit::Point, -1},  {Qt::Key_Right, WalkUnit::Point, 1},
+        {Qt::Key_PageUp, WalkUnit::View, -1}, {Qt::Key_PageDown, WalkUnit::View, 1},
+        {Qt::Key_Home, WalkUnit::End, -1},    {Qt::Key_End, WalkUnit::End, 1},
+    };
+    for (const auto &row : rows) {
+        for (const Qt::KeyboardModifier pad : {Qt::NoModifier, Qt::KeypadModifier}) {
+            const auto plain = walkStepOf(row.key, pad);
+            QVERIFY(plain && plain->unit == row.unit && plain->direction == row.direction);
+            const auto byControl = walkStepOf(row.key, Qt::ControlModifier | pad);
+            QCOMPARE(bool(byControl), row.unit == WalkUnit::Point);
+            if (byControl)
+                QVERIFY(byControl->unit == WalkUnit::Feature
+                        && byControl->direction == row.direction);
+            QVERIFY(!walkStepOf(row.key, Qt::ShiftModifier | pad));
+        }
+    }
+    QVERIFY(!walkStepOf(Qt::Key_Up, Qt::NoModifier));
+}
+
 void tst_TraceWalk::stepsByPointsAndByDistance()
 {
     TraceWalk walk;
@@ -182,82 +257,37 @@ void tst_TraceWalk::stepsByPointsAndByDistance()
     QCOMPARE(walk.byDistance(1.0, 1, 0.25), 4.0);
     QCOMPARE(walk.byDistance(5.0, -1, 0.04), 4.0);
     QCOMPARE(walk.byDistance(1.0, 1, 9.0), 5.0);
+    QCOMPARE(walk.byDistance(5.0, -1, 9.0), 1.0);
+    QCOMPARE(walk.byDistance(0.4, 1, 9.0), 1.0); // out of a gap, to the first point
 }
 
-void tst_TraceWalk::settingsAreRefusedOrCount()
+void tst_TraceWalk::stepsFromNowhere()
 {
-    // Twice around, from a magnitude of 0.1 to one of 0.6, with a dent of 0.05 halfway.
-    QVector<double> real, imag;
-    for (int i = 0; i <= 200; ++i) {
-        const double angle = 4.0 * M_PI * i / 200.0 + 0.01;
-        const double magnitude = 0.1 + i / 400.0 - (i > 95 && i < 105 ? 0.05 : 0.0);
-        real << magnitude * std::cos(angle);
-        imag << magnitude * std::sin(angle);
-    }
     TraceWalk walk;
-    walk.setData(real, imag);
-    const auto found = [&](TraceFeature feature) {
-        int count = 0;
-        for (const TraceStop &stop : walk.dataFeatures())
-            count += stop.features.testFlag(feature) ? 1 : 0;
-        return count;
-    };
-    const int extremes = found(Minimum) + found(Maximum);
-    QVERIFY(extremes >= 2);
-    for (const double wrong : {0.0, -1.0, qInf(), qQNaN()})
-        QVERIFY(!walk.setExcursion(wrong));
-    for (const double wrong : {1.0, 0.5, qInf(), qQNaN()})
-        QVERIFY(!walk.setVswr(wrong));
-    QCOMPARE(walk.excursion(), 0.02);
-    QCOMPARE(walk.vswr(), 2.0);
-    QVERIFY(walk.setExcursion(0.02) && walk.setVswr(2.0));
-    QCOMPARE(found(Minimum) + found(Maximum), extremes);
-    QVERIFY(walk.setExcursion(0.2));
-    QVERIFY(found(Minimum) + found(Maximum) < extremes);
-    QCOMPARE(found(VswrCircle), 1);
-    QVERIFY(walk.setVswr(9.0)); // a magnitude of 0.8
-    QCOMPARE(found(VswrCircle), 0);
-    walk.setFeatures(RealAxis);
-    walk.setFeatures(RealAxis);
-    QVERIFY(found(RealAxis) > 0 && found(Resonance) == 0);
-    walk.setFeatures(Resonance);
-    QVERIFY(found(RealAxis) == 0 && found(Resonance) > 0);
-    // Other data of the same length, and the same memory seen at another length.
-    walk.setData(real, QVector<double>(imag.size(), 0.1));
-    QCOMPARE(found(Resonance), 0);
-    walk.setData(real, {});
-    QCOMPARE(walk.start(), -1.0);
-    QVERIFY(!walk.walked(0.0, {WalkUnit::Feature, 1}, 0.1));
-    QCOMPARE(walk.byDistance(0.0, 1, 0.1), -1.0);
-    // Off the trace: the first step goes to the first feature from that side, or else the first point.
-    walk.setData({0.1, 0.2, 0.3}, {0.1, 0.1, 0.1});
-    QCOMPARE(walk.walked(7.0, {WalkUnit::Feature, -1}, 0.1), std::optional<double>(0.0));
-    walk.setMarkers({1.0});
-    QCOMPARE(walk.walked(7.0, {WalkUnit::Feature, -1}, 0.1), std::optional<double>(1.0));
-    QCOMPARE(walk.byDistance(2.0, -1, 9.0), 0.0);
+    walk.setFeatures(Minimum);
+    walk.setData({0.1, 0.1, 0.1}, QVector<double>(3, 0.0));
+    for (const double nowhere : {-1.0, 7.0}) {
+        for (const WalkUnit unit : {WalkUnit::Point, WalkUnit::View, WalkUnit::Feature})
+            QCOMPARE(walk.walked(nowhere, {unit, 1}, 0.1), std::optional(0.0));
+    }
+    QCOMPARE(walk.walked(1.0, {WalkUnit::Feature, 1}, 0.1), std::optional(1.0)); // there is none
+    walk.setMarkers({0.5, 1.5});
+    QCOMPARE(walk.walked(-1.0, {WalkUnit::Feature, 1}, 0.1), std::optional(0.5));
+    QCOMPARE(walk.walked(-1.0, {WalkUnit::Feature, -1}, 0.1), std::optional(1.5));
 }
 
-void tst_TraceWalk::keys()
+void tst_TraceWalk::pointsBetweenPoints()
 {
-    const auto name = [](int key, Qt::KeyboardModifiers modifiers) {
-        const std::optional<WalkStep> step = SmithChart::walkStepOf(key, modifiers);
-        return step ? 10 * int(step->unit) + step->direction : -100;
-    };
-    const int point = 10 * int(WalkUnit::Point), view = 10 * int(WalkUnit::View),
-              feature = 10 * int(WalkUnit::Feature), end = 10 * int(WalkUnit::End), none = -100;
-    const std::tuple<int, int, int> table[] = {{Qt::Key_Left, point - 1, feature - 1},
-                                               {Qt::Key_Right, point + 1, feature + 1},
-                                               {Qt::Key_PageUp, view - 1, none},
-                                               {Qt::Key_PageDown, view + 1, none},
-                                               {Qt::Key_Home, end - 1, none},
-                                               {Qt::Key_End, end + 1, none},
-                                               {Qt::Key_Up, none, none}};
-    for (const auto &[key, plain, withCtrl] : table) {
-        QCOMPARE(name(key, Qt::NoModifier), plain);
-        QCOMPARE(name(key, Qt::KeypadModifier), plain);
-        QCOMPARE(name(key, Qt::ControlModifier), withCtrl);
-        QCOMPARE(name(key, Qt::AltModifier), none);
-    }
+    const QVector<double> real{0.0, 1.0, qQNaN(), 1.0}, imag{0.0, 0.5, 0.0, qInf(), 9.0};
+    QCOMPARE(tracePoint(real, imag, 0.5), std::optional(QPointF(0.5, 0.25)));
+    QCOMPARE(tracePoint(real, imag, 1.0), std::optional(QPointF(1.0, 0.5)));
+    for (const double index : {-0.1, 1.5, 2.0, 2.5, 3.0, 3.5, double(qQNaN())})
+        QVERIFY2(!tracePoint(real, imag, index), qPrintable(QString::number(index)));
+    QVERIFY(!tracePoint({}, imag, 0.0));
+    // From one end of all numbers to the other.
+    const double most = std::numeric_limits<double>::max();
+    QCOMPARE(tracePoint({-most, most}, {most, most}, 0.75),
+             std::optional(QPointF(most / 2.0, most)));
 }
 
 void tst_TraceWalk::summaries()
@@ -277,6 +307,7 @@ void tst_TraceWalk::summaries()
     const TraceSummary cut = summarise({0.9, qQNaN(), 0.1, 0.0, 0.1}, QVector<double>(5, 0.0));
     QCOMPARE(cut.bandLow, 2.0);
     QCOMPARE(cut.bandHigh, 4.0);
+    QCOMPARE(summarise({0.1, 0.0, 0.1}, QVector<double>(3, 0.0)).bandLow, 0.0);
     QVERIFY(std::isinf(summarise({1.5}, {0.0}).vswr()));
 }
 
