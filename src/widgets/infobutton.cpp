@@ -110,16 +110,12 @@ void InfoButton::setLayoutType(LayoutType type)
 
 void InfoButton::setTextAlignment(Qt::Alignment alignment)
 {
-    if (d->textAlignment == alignment)
-        return;
     d->textAlignment = alignment;
     d->nameLabel->setAlignment(alignment);
 }
 
 void InfoButton::setTextMargins(QMargins margins)
 {
-    if (d->textMargins == margins)
-        return;
     d->textMargins = margins;
     d->nameLabel->setContentsMargins(margins);
 }

@@ -168,12 +168,11 @@ QSize LabelButton::sizeHint() const
         return hint;
     // Ask for the whole value, whatever is shown of it now, and for the pixel that keeps it whole.
     const QFontMetrics metrics = value->fontMetrics();
-    const int missing =
-        metrics.horizontalAdvance(d->labelText) + 1 - metrics.horizontalAdvance(value->text());
+    const int missing = qMax(
+        0, metrics.horizontalAdvance(d->labelText) + 1 - metrics.horizontalAdvance(value->text()));
     const bool sideBySide = layoutType() == LeftRight || layoutType() == RightLeft;
-    if (missing > 0)
-        hint.setWidth(sideBySide ? hint.width() + missing
-                                 : qMax(hint.width(), value->sizeHint().width() + missing));
+    hint.setWidth(sideBySide ? hint.width() + missing
+                             : qMax(hint.width(), value->sizeHint().width() + missing));
     return hint;
 }
 

@@ -346,8 +346,6 @@ QStringList MarkerStatusItem::readings() const
 
 QString MarkerStatusItem::wrapTextToWidth(const QString &text, int maxWidth) const
 {
-    if (text.isEmpty() || maxWidth < 1)
-        return text;
     const QFontMetrics metrics = d->ui.keyLabel->fontMetrics();
     QStringList lines;
     QString line;

@@ -51,6 +51,34 @@ private Q_SLOTS:
         QCOMPARE(accessible->role(), QAccessible::ComboBox);
         QCOMPARE(accessible->text(QAccessible::Value), "Argument"_s);
         QVERIFY(accessible->state().hasPopup);
+        f.button->onPopupWidgetItemChanged("none of them"_s);
+        QCOMPARE(f.told.count(), 3);
+    }
+
+    void assistiveToolsReadTheOpenList()
+    {
+        Scene f;
+        auto *const tree = QAccessible::queryAccessibleInterface(f.button);
+        const int closed = tree->childCount();
+        tree->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+        QVERIFY(f.isOpen());
+        QCOMPARE(tree->childCount(), closed + 1);
+        QCOMPARE(tree->child(closed)->object(), f.popup());
+        for (int i = 0; i <= closed; ++i)
+            QCOMPARE(tree->indexOfChild(tree->child(i)), i);
+        f.popup()->close();
+        QCOMPARE(tree->childCount(), closed);
+        QCOMPARE(tree->indexOfChild(nullptr), -1);
+        f.button->setEnabled(false);
+        QVERIFY(tree->actionInterface()->actionNames().isEmpty());
+    }
+
+    void buttonMayGoWhenClicked()
+    {
+        Scene f;
+        connect(f.button, &EnumTextButton::clicked, &f.window, [&f] { delete f.button; });
+        mouseClick(f.button);
+        QVERIFY(!f.button && !QApplication::activePopupWidget());
     }
 
     void replacesTheChoices()
@@ -113,6 +141,8 @@ private Q_SLOTS:
         f.button->setViewMode(QListView::IconMode);
         f.button->setIconSize(80, 70);
         f.button->setItemCountPerRow(2);
+        f.button->setListScrollsInside(true); // also of a list that is there already
+        QVERIFY(f.popup()->scrollsInside());
         mouseClick(f.button);
         QCOMPARE(f.popup()->width(), 161);
         const QPoint middle = f.window.mapToGlobal(f.window.rect().center());
@@ -136,6 +166,19 @@ private Q_SLOTS:
             f.button->setEnabled(true);
             f.window.show();
         }
+        // A button that is back at once keeps it, and one that is closed already stays closed.
+        f.waitForGuard();
+        f.button->setEnums(Formats);
+        mouseClick(f.button);
+        f.button->setEnabled(false);
+        f.button->setEnabled(true);
+        QTest::qWait(50);
+        QVERIFY(f.isOpen());
+        QSignalSpy closed(f.popup(), &PopupWidget::widgetClosed);
+        f.button->setEnabled(false);
+        f.popup()->close();
+        QTest::qWait(50);
+        QCOMPARE(closed.count(), 1);
     }
 };
 

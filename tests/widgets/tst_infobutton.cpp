@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <widgets/infobutton.h>
+#include <widgets/popupwidget.h>
 
 #include <pointer.h>
 #include <vnatest.h>
@@ -86,6 +87,10 @@ private Q_SLOTS:
         QCOMPARE(childPressed.count(), 4);
         QCOMPARE(parentClicked.count(), 3);
         QVERIFY(!parent.isDown());
+        child->setClickable(false);
+        typeKey(&parent, Qt::Key_Select);
+        QCOMPARE(childClicked.count(), 3);
+        QCOMPARE(parentClicked.count(), 4);
     }
 
     void drawsItsState()
@@ -106,6 +111,19 @@ private Q_SLOTS:
             QCOMPARE(button.grab().toImage().pixelColor(2, 2).blue(), state++);
         }
         QVERIFY(button.sizeHint().width() > button.fontMetrics().horizontalAdvance(button.text()));
+        QCOMPARE(button.minimumSizeHint(), button.sizeHint()); // the text is all that it has
+
+        // A check box to assistive tools; a pop-up of something else in it is none of its own.
+        PopupWidget popup(&button);
+        auto *const accessible = QAccessible::queryAccessibleInterface(&button);
+        QCOMPARE(accessible->actionInterface()->actionNames(), QStringList());
+        button.setEnabled(true);
+        QCOMPARE(accessible->role(), QAccessible::CheckBox);
+        QVERIFY(accessible->state().checked);
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(!button.isChecked());
+        button.setCheckable(false);
+        QVERIFY(accessible->role() == QAccessible::Button && !accessible->state().hasPopup);
     }
 
     void laysOutTheCells()
@@ -187,6 +205,12 @@ private Q_SLOTS:
         QCOMPARE(accessible->text(QAccessible::Name), "Start frequency"_s);
         QSignalSpy clicked(&button, &InfoButton::clicked);
         accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(clicked.count(), 1);
+        button.show();
+        QVERIFY(QTest::qWaitForWindowActive(&button));
+        button.setFocusPolicy(Qt::StrongFocus);
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+        QVERIFY(button.hasFocus());
         QCOMPARE(clicked.count(), 1);
     }
 };

@@ -87,11 +87,14 @@ private Q_SLOTS:
         QVERIFY(!f.button->label()->wordWrap());
         QCOMPARE(f.button->label()->maximumWidth(), QWIDGETSIZE_MAX);
         QVERIFY(f.shown() != LongValue);
+        f.button->setProperty("multilineLabel", true);
+        QVERIFY(f.button->sizeHint().width() <= f.button->label()->sizeHint().width());
     }
 
     void layoutGivesTheWholeValueItsRoom()
     {
-        for (const InfoButton::LayoutType type : {InfoButton::TopBottom, InfoButton::LeftRight}) {
+        for (const InfoButton::LayoutType type :
+             {InfoButton::TopBottom, InfoButton::LeftRight, InfoButton::RightLeft}) {
             QWidget window;
             QHBoxLayout box(&window);
             LabelButton button;
@@ -125,10 +128,34 @@ private Q_SLOTS:
         f.button->setLabelText(LongValue + LongValue);
         f.button->setLabelFont(QFont("Sans"_s, 20));
         f.button->setLabelMargins({1, 1, 1, 1});
+        f.button->setLabelAlignment(Qt::AlignLeft);
         f.button->resize(80, 80);
         QVERIFY(f.button->sizeHint().isValid());
         f.button->setLabel(new QLabel);
         QVERIFY(f.shown().endsWith("GHz"_s));
+
+        // What it brings along stays until something else is set.
+        QFont bold;
+        bold.setBold(true);
+        f.button->label()->setFont(bold);
+        f.button->setLabelFont(f.button->labelFont());
+        f.button->setLabelMargins(f.button->labelMargins());
+        f.button->setLabelAlignment(f.button->labelAlignment());
+        QVERIFY(f.button->label()->font().bold());
+        QCOMPARE(f.button->label()->contentsMargins(), QMargins());
+        QVERIFY(f.button->label()->alignment() != f.button->labelAlignment());
+
+        // Nothing, and the button's own name, are refused.
+        QLabel *const kept = f.button->label();
+        for (QLabel *const bad :
+             {static_cast<QLabel *>(nullptr), f.button->findChild<QLabel *>("nameLabel"_s)}) {
+            QString text;
+            QDebug(&text) << "InfoButton::setInfoWidget: cannot show"
+                          << static_cast<QWidget *>(bad);
+            expectWarning(text.trimmed());
+            f.button->setLabel(bad);
+            QCOMPARE(f.button->label(), kept);
+        }
 
         // A label that another button took over is no longer ours to write into.
         LabelButton other;
@@ -136,6 +163,9 @@ private Q_SLOTS:
         other.setLabel(taken);
         f.button->setLabelText("1 Hz"_s);
         QVERIFY(taken->text() != "1 Hz"_s);
+        taken->setText("2 Hz"_s);
+        taken->setFont(QFont("Sans"_s, 22)); // the old button sees that, too
+        QCOMPARE(taken->text(), QString()); // fitted by the new one, which shows nothing
         f.button->setInfoWidget(new QWidget);
         QCOMPARE(other.label(), taken);
     }

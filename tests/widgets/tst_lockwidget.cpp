@@ -202,6 +202,32 @@ private Q_SLOTS:
         QVERIFY(scene.showsIcon(LockedIcon) && accessible->state().checked);
         accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         QVERIFY(scene.showsIcon(UnlockedIcon) && !accessible->state().checked);
+        scene.button.setFocus();
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+        QVERIFY(scene.lock->hasFocus() && !accessible->state().checked);
+
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Select, Qt::Key_Space}) {
+            QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+            const bool locked = scene.lock->isLocked();
+            sendKey(scene.lock.get(), key);
+            QCoreApplication::sendEvent(scene.lock.get(), &held); // held down it counts once
+            QCOMPARE(scene.lock->isLocked(), !locked);
+        }
+        QVERIFY(!scene.lock->isLocked());
+        QKeyEvent other(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+        QVERIFY(!isTaken(scene.lock.get(), other) && !scene.lock->isLocked());
+    }
+
+    void keyIsReachedWhileItIsSeen()
+    {
+        Scene scene;
+        scene.lock->setKey(&scene.button);
+        scene.tapLock();
+        QCOMPARE(scene.pressButton(), 1);
+        QVERIFY(!scene.blinks());
+        scene.button.hide();
+        mouseClick(&scene.window, scene.button.geometry().center());
+        QVERIFY(scene.blinks());
     }
 
     void secondFingerLeavesTheFirstItsRelease()

@@ -130,7 +130,13 @@ private Q_SLOTS:
             QCOMPARE(block->minimumWidth(), 20);
             item.setText("M1R:"_s, key, QString(), QString(), QString());
             QCOMPARE(QString(block->text()).remove(QLatin1Char('\n')), key);
+            item.setLayoutWidth(200);
+            item.setText("M1R:"_s, QString(), "1dB"_s, "2dB"_s, QString());
+            QCOMPARE(block->text(), "\n1dB 2dB"_s); // the place of the stimulus stays
         }
+        Readout item; // no width is not a narrow one
+        item.setLayoutWidth(0);
+        QVERIFY(!item.isFolded());
     }
 
     void unchangedTextsCostNothing()
@@ -146,6 +152,18 @@ private Q_SLOTS:
         QCOMPARE(accessible->text(QAccessible::Value), "2.412GHz -1.32dB 2"_s);
         item.setSelectedStatus(true);
         QVERIFY(accessible->state().selected);
+
+        // A tool may press it, and give it the focus.
+        item.show();
+        item.setAccessibleDescription("drag it"_s);
+        QCOMPARE(accessible->text(QAccessible::Description), "drag it"_s);
+        QVERIFY(QTest::qWaitForWindowActive(&item));
+        item.clearFocus();
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+        QVERIFY(item.hasFocus());
+        QCOMPARE(item.clicks.count(), 0);
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(item.clicks.count(), 1);
     }
 
     void dotColourAndWeight()
@@ -186,6 +204,10 @@ private Q_SLOTS:
         for (Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_A})
             QTest::keyClick(window.windowHandle(), key);
         QCOMPARE(item.clicks.count(), 6);
+        sendKey(&item, Qt::Key_Select);
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Select, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(&item, &held); // held down it counts once
+        QCOMPARE(item.clicks.count(), 7);
     }
 
     void routerTakesThePressAndWhatFollows()
@@ -229,6 +251,16 @@ private Q_SLOTS:
         mouseMove(&item, Key);
         mouseRelease(&item, Key);
         QCOMPARE(routed.count(), 4);
+
+        // What follows a routed press is no click, also where the router has gone meanwhile.
+        const int clicks = int(item.clicks.count());
+        mousePress(&item, Name);
+        item.setMouseEventRouter({});
+        mouseRelease(&item, Name);
+        QCOMPARE(item.clicks.count(), clicks);
+        mouseClick(&item, Name);
+        QCOMPARE(item.clicks.count(), clicks + 1);
+        QCOMPARE(routed.count(), 5);
     }
 
     void itemMayGoInItsOwnEvents()

@@ -30,8 +30,14 @@ private Q_SLOTS:
     {
         Scene f;
         f.button->setItemEnabled("Maximum"_s, false);
-        f.button->setMenuItems(f.button->menuItems()); // the same: nothing is rebuilt
+        f.button->setMenuItems(
+            {{5, "Maximum"_s}, {6, "Minimum"_s}}); // the same: nothing is rebuilt
         QVERIFY(!f.isEnabled(0));
+        for (const QString &second : {"Minimum"_s, "Lowest"_s}) { // another value, another text
+            f.button->setMenuItems({{5, "Maximum"_s}, {7, second}});
+            QCOMPARE(f.list()->item(1)->text(), second);
+            QCOMPARE(f.button->getValueByDisplayName(second), 7);
+        }
         f.button->addMenuItem(7, "Maximum"_s);
         QCOMPARE(f.list()->count(), 3);
         QCOMPARE(f.button->getValueByDisplayName("Maximum"_s), 5);
@@ -87,6 +93,46 @@ private Q_SLOTS:
         QVERIFY(f.button->isDown());
         QTRY_VERIFY_WITH_TIMEOUT(!f.button->isDown(), 2000);
         QVERIFY(!f.button->isChecked());
+    }
+
+    void listThatLosesTheFocusCountsAsClosed()
+    {
+        Scene f;
+        f.window.installEventFilter(f.button); // what others lose does not count
+        for (const QEvent::Type type : {QEvent::FocusOut, QEvent::WindowDeactivate}) {
+            const Row row(QString::number(type));
+            QEvent event(type);
+            QCoreApplication::sendEvent(f.popup(), &event);
+            f.button->click();
+            QVERIFY(!f.isOpen() && !f.button->isChecked());
+            f.waitForGuard();
+            QCoreApplication::sendEvent(&f.window, &event);
+            f.button->click();
+            QVERIFY(f.isOpen());
+            f.popup()->close();
+            f.waitForGuard();
+        }
+    }
+
+    void listToComeKnowsWhatIsDisabled()
+    {
+        struct LateButton : MenuButton {
+            LateButton()
+                : MenuButton(ListCreation::WhenOpened, nullptr)
+            {
+            }
+        } button;
+        button.setMenuItems({{5, "Maximum"_s}, {6, "Minimum"_s}, {7, "Peak"_s}});
+        for (const int index : {-1, 0, 1, 3})
+            button.setItemEnabled(index, false);
+        button.setItemEnabled(1, true);
+        QVERIFY(!button.findChild<PopupWidget *>());
+        button.click();
+        const auto *const list = button.findChild<QListWidget *>();
+        QString enabled;
+        for (int row = 0; row < list->count(); ++row)
+            enabled += list->item(row)->flags() & Qt::ItemIsEnabled ? u'+' : u'-';
+        QCOMPARE(enabled, "-++"_s);
     }
 
     void opensByKeyAndByClick()

@@ -159,7 +159,8 @@ private Q_SLOTS:
         f.popup->setItemEnabled(1, false);
         for (const auto &[arrow, picks, text, row] :
              {std::tuple(Qt::Key_Down, Qt::Key_Return, "\r"_s, 2), // over the disabled one
-              {Qt::Key_Up, Qt::Key_Space, " "_s, 0}}) {
+              {Qt::Key_Up, Qt::Key_Space, " "_s, 0},
+              {Qt::Key_End, Qt::Key_Select, QString(), 2}}) {
             QVERIFY(f.open());
             typeKey(f.popup, arrow);
             QCOMPARE(f.list()->currentRow(), row);
@@ -167,20 +168,20 @@ private Q_SLOTS:
             typeKey(f.popup, picks, text);
             QVERIFY(!f.isOpen());
         }
-        QCOMPARE(f.picked, QStringList({"Smith"_s, "LogM"_s}));
+        QCOMPARE(f.picked, QStringList({"Smith"_s, "LogM"_s, "Smith"_s}));
 
         QVERIFY(f.open());
         typeKey(f.popup, Qt::Key_Escape);
         QVERIFY(!f.isOpen());
-        QCOMPARE(f.closed.count(), 3);
+        QCOMPARE(f.closed.count(), 4);
         QWidget window;
         window.setGeometry(0, 0, 600, 600);
         showExposed(&window);
         QVERIFY(f.open());
         mouseClick(&window, {10, 10});
         QVERIFY(!f.isOpen());
-        QCOMPARE(f.closed.count(), 4);
-        QCOMPARE(f.picked.count(), 2);
+        QCOMPARE(f.closed.count(), 5);
+        QCOMPARE(f.picked.count(), 3);
     }
 
     void goesWhileItIsOpen()
@@ -216,9 +217,21 @@ private Q_SLOTS:
         mouseRelease(f.title(), {20, 10});
         mouseMove(f.title(), {60, 12});
         QCOMPARE(f.popup->pos(), QPoint(220, 235));
+        // A quick second press drags as well; moves without one do not.
+        const auto send = [&f](QEvent::Type type, const QPoint &at) {
+            QMouseEvent event(type, f.title()->mapFromGlobal(at), at, Qt::LeftButton,
+                              Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(f.title(), &event);
+            return f.popup->pos();
+        };
+        send(QEvent::MouseButtonDblClick, {230, 240});
+        QCOMPARE(send(QEvent::MouseMove, {250, 245}), QPoint(240, 240));
+        send(QEvent::MouseButtonRelease, {250, 245});
+        QCOMPARE(send(QEvent::MouseMove, {300, 300}), QPoint(240, 240));
         QVERIFY(f.isOpen());
 
         f.popup->setTitleVisible(false);
+        f.popup->setTitleText("Format"_s); // the same does not bring it back
         f.popup->popup();
         QCOMPARE(f.popup->height(), untitled);
     }
@@ -280,6 +293,18 @@ private Q_SLOTS:
         QCOMPARE(f.list()->currentRow(), 3);
         f.clickItem(12);
         QCOMPARE(f.picked, QStringList("12"_s));
+    }
+
+    void scrollsInsideOnDemand()
+    {
+        Fixture f(numbered(500));
+        for (const bool inside : {true, false, true}) {
+            f.popup->setScrollsInside(inside);
+            QCOMPARE(f.popup->scrollsInside(), inside);
+            QVERIFY(f.open());
+            QCOMPARE(f.popup->height() < f.popup->screen()->availableGeometry().height(), inside);
+            f.popup->close();
+        }
     }
 
     void touch()

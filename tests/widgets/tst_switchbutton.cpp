@@ -73,7 +73,11 @@ private Q_SLOTS:
         QVERIFY(!accessible->state().checked);
         accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         QVERIFY(f.button->status() && accessible->state().checked);
+        QCOMPARE(accessible->text(QAccessible::Value), "On"_s);
         QCOMPARE(f.changed.count(), 3);
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(!f.button->status());
+        QCOMPARE(f.changed.count(), 4);
     }
 
     void inertSwitchStaysAsItIs()
