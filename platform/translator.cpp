@@ -53,8 +53,9 @@ void Translator::setLanguage(const QLocale &locale)
         return;
     d->locale = locale;
     QCoreApplication::removeTranslator(&d->catalogue);
-    if (load(locale) || load(QLocale(QLocale::English)))
-        QCoreApplication::installTranslator(&d->catalogue);
+    if (!load(locale))
+        load(QLocale(QLocale::English));
+    QCoreApplication::installTranslator(&d->catalogue);
 
     const QString language = displayName(locale);
     if (d->language == language)
@@ -66,7 +67,7 @@ void Translator::setLanguage(const QLocale &locale)
 bool Translator::load(const QLocale &locale)
 {
     return d->catalogue.load(locale, QStringLiteral("vnawidgets"), QStringLiteral("_"),
-                            QStringLiteral(":/i18n"));
+                             QStringLiteral(":/i18n"));
 }
 
 } // namespace Utils

@@ -55,11 +55,8 @@ void WidgetMouseMoveTool::setMovable(bool movable)
     d->movable = movable;
 }
 
-bool WidgetMouseMoveTool::eventFilter(QObject *watched, QEvent *event)
+bool WidgetMouseMoveTool::eventFilter(QObject *, QEvent *event)
 {
-    if (watched != d->widget)
-        return QObject::eventFilter(watched, event);
-
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -140,7 +137,7 @@ void WidgetMouseMoveTool::moveTo(const QPoint &global)
     if (!d->movable)
         return;
     const QRect bounds = d->widget->isWindow() ? d->widget->screen()->availableGeometry()
-                                              : d->widget->parentWidget()->rect();
+                                               : d->widget->parentWidget()->rect();
     d->widget->move(
         boundedTopLeft(d->startPosition + way, d->widget->frameGeometry().size(), bounds, 0));
 }

@@ -231,12 +231,12 @@ QAccessibleInterface *PlotParts::knownObject(const Part &part) const
     return found == m_known.end() ? nullptr : QAccessible::accessibleInterface(found->id);
 }
 
-QVector<QAccessibleInterface *> PlotParts::knownTables() const
+QVector<QAccessible::Id> PlotParts::knownTables() const
 {
-    QVector<QAccessibleInterface *> tables;
+    QVector<QAccessible::Id> tables;
     for (const Known &known : m_known) {
         if (known.part.kind == Table && holds(known.part))
-            tables << QAccessible::accessibleInterface(known.id);
+            tables << known.id;
     }
     return tables;
 }
@@ -320,7 +320,10 @@ void AccessiblePlot::tellDataChanged()
 void AccessiblePlot::resetTables()
 {
     const auto tables = m_parts->knownTables();
-    for (QAccessibleInterface *const table : tables) {
+    for (const QAccessible::Id id : tables) {
+        QAccessibleInterface *const table = QAccessible::accessibleInterface(id);
+        if (!table) // a tool may have had its description removed
+            continue;
         QAccessibleTableModelChangeEvent event(table, QAccessibleTableModelChangeEvent::ModelReset);
         table->tableInterface()->modelChange(&event);
         QAccessible::updateAccessibility(&event);

@@ -59,7 +59,7 @@ public:
     /// The same, or null while nobody has asked for it.
     QAccessibleInterface *knownObject(const Part &part) const;
     /// Those of the tables that are there, as far as anybody has asked for them.
-    QVector<QAccessibleInterface *> knownTables() const;
+    QVector<QAccessible::Id> knownTables() const;
 
 private:
     struct Known {

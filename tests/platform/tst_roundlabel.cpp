@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/roundlabel.h>
 
+#include <functional>
+
 #include <vnatest.h>
 
 using Controls::RoundLabel;
@@ -46,6 +48,31 @@ private Q_SLOTS:
         label.resize(10, 40);
         label.setText("1.234567\n2.345678"_s);
         QCOMPARE(label.shownText(), label.text());
+    }
+
+    // Text that is wrapped, rich or selected stays whole and looks as in any label.
+    void leavesOtherTextAlone()
+    {
+        const std::function<void(QLabel &)> others[] = {
+            [](QLabel &label) { label.setWordWrap(true); },
+            [](QLabel &label) { label.setTextFormat(Qt::RichText); },
+            [](QLabel &label) { label.setTextInteractionFlags(Qt::TextSelectableByMouse); },
+        };
+        for (const auto &change : others) {
+            const auto pictureOf = [&change](auto &label) {
+                label.resize(60, 60);
+                change(label);
+                label.setText("1.23456789 <b>GHz</b>"_s);
+                if (label.textInteractionFlags() & Qt::TextSelectableByMouse)
+                    label.setSelection(2, 5);
+                return label.grab().toImage();
+            };
+            RoundLabel rounded;
+            QLabel plain;
+            QCOMPARE(pictureOf(rounded), pictureOf(plain));
+            if (!rounded.hasSelectedText())
+                QCOMPARE(rounded.shownText(), rounded.text());
+        }
     }
 };
 

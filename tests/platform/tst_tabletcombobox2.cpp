@@ -123,6 +123,27 @@ private Q_SLOTS:
         f.bind(nothing.get());
         QCOMPARE(f.box.count(), 3);
     }
+
+    void adapterKnowsItsEntriesOnly()
+    {
+        Scene f;
+        for (const int index : {-1, 3}) {
+            QCOMPARE(f.adapter->text(index), QString());
+            f.adapter->setCurrentIndex(index);
+        }
+        QCOMPARE(f.profile->layoutType(), LayoutType::Single);
+        QCOMPARE(f.changed.count(), 0);
+    }
+
+    void adapterMayGoAtAChoice()
+    {
+        Scene f;
+        connect(f.profile.get(), &LayoutManagerProifle::layoutTypeChanged, &f.box,
+                [&f] { f.adapter.reset(); });
+        f.box.setCurrentIndex(2);
+        QCOMPARE(f.profile->layoutType(), LayoutType::Stacked);
+        QCOMPARE(f.box.currentIndex(), -1);
+    }
 };
 
 QTEST_MAIN(tst_TabletComboBox2)

@@ -113,6 +113,14 @@ private Q_SLOTS:
             mouseMove(f.handle, {60, 60});
             QCOMPARE(f.handle->pos(), Start);
         }
+        Scene f; // disabled, it neither moves nor is tapped by what is left of the press
+        mousePress(f.handle);
+        f.handle->setEnabled(false);
+        f.handle->setEnabled(true);
+        mouseMove(f.handle, {60, 60});
+        mouseRelease(f.handle);
+        QCOMPARE(f.handle->pos(), Start);
+        QCOMPARE(f.clicked.count(), 0);
     }
 
     void windowStaysOnItsScreen()
