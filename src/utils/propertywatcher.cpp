@@ -111,7 +111,7 @@ bool PropertyWatcher::checkProperties(QObject *object, const QString &propertyNa
     // Ending the watch clears entry->object, whether a slot did it or the end of either object did.
     if (!sameValue(last, current)) {
         Q_EMIT propertyChanged(object, propertyName, last, current);
-        if (entry->object && !last.isValid() && current.isValid())
+        if (entry->object && !last.isValid())
             Q_EMIT propertyInitialized(object, propertyName, current);
     }
     if (entry->object && entry->callback) {

@@ -80,6 +80,11 @@ private Q_SLOTS:
         Watched watched;
         watched.watch();
         watched.watch("inputText"_s);
+        QObject other; // of the same name, watched for itself
+        int others = 0;
+        watched.watcher.watchProperty(&other, s_name, [&others](const QVariant &) { ++others; });
+        watched.watcher.stopWatching(&other, "inputText"_s);
+        QCOMPARE(watched.set(0), "none>0, init 0, call 0"_s);
         watched.watcher.stopWatching(&watched.object, s_name);
         QCOMPARE(watched.set(1), QString());
         QCOMPARE(watched.set(1, "inputText"), "call 1"_s);
@@ -88,6 +93,9 @@ private Q_SLOTS:
         QCOMPARE(watched.set(2, "inputText"), QString());
         watched.watch(); // starts from the value of the moment
         QCOMPARE(watched.set(2), "1>2, call 2"_s);
+        QCOMPARE(others, 0);
+        other.setProperty("cursorPos", 7);
+        QCOMPARE(others, 1);
     }
 
     void settingThePropertyInASlotIsReportedInOrder()
