@@ -219,8 +219,8 @@ void Marker::createItems(QCustomPlot *plot)
 
 void Marker::removeItems()
 {
-    const auto remove = [this](QCPAbstractItem *item) {
-        if (item && qobject_cast<QCustomPlot *>(d->plot))
+    const auto remove = [](QCPAbstractItem *item) {
+        if (item)
             item->parentPlot()->removeItem(item);
     };
     remove(d->label);

@@ -71,7 +71,7 @@ double QCPItemTracerMarker::selectTest(const QPointF &pos, bool onlySelectable,
 
 bool QCPItemTracerMarker::anchorInsideAxisRect() const
 {
-    if (!position || !position->axisRect())
+    if (!position->axisRect())
         return false;
     const QPointF anchor = position->pixelPosition();
     // contains() takes a NaN for inside, and painting at one is undefined.
@@ -81,7 +81,7 @@ bool QCPItemTracerMarker::anchorInsideAxisRect() const
 
 void QCPItemTracerMarker::draw(QCPPainter *painter)
 {
-    if (!painter || !anchorInsideAxisRect())
+    if (!anchorInsideAxisRect())
         return;
     QPointF triangle[3];
     computeTriangleVertices(triangle[0], triangle[1], triangle[2]);

@@ -85,6 +85,12 @@ private Q_SLOTS:
         QVERIFY(!marker.setPositionCoordinates(static_cast<QCPCurve *>(nullptr), 1.0, 1.0));
         QVERIFY(!marker.setPosition(static_cast<QCPGraph *>(nullptr), 1.0));
         QCOMPARE(marker.getTracer()->position->coords(), QPointF(1, 2));
+        auto *const bare = new QCPCurve(m_plot->xAxis, m_plot->yAxis);
+        bare->setData(QSharedPointer<QCPCurveDataContainer>());
+        QVERIFY(!marker.setPosition(bare, 0.0));
+        QVERIFY(m_plot->removePlottable(bare));
+        Marker loose(nullptr, 2, Plot::PointingDown); // finds a curve's point, shows it nowhere
+        QVERIFY(!loose.setPosition(m_graph, 1.0) && loose.setPosition(m_curve, 1.0));
 
         // An empty trace cannot place the marker but takes it to its axes.
         const auto *empty = new QCPCurve(m_plot->xAxis2, m_plot->yAxis2);
@@ -116,7 +122,8 @@ private Q_SLOTS:
         QVERIFY(!label.isVisible());
         QVERIFY(!label.setPositionCoordinates(m_graph, 1.0, 2.0));
         label.setPosition(m_curve, 1.0);
-        label.setType(Plot::PointingUp);
+        label.setType(Plot::PointingUp); // the label hangs on as it did
+        QCOMPARE(label.getLabel()->positionAlignment(), Qt::AlignHCenter | Qt::AlignBottom);
         Marker tracer(m_plot.get(), 2, Plot::PointingDown);
         QVERIFY(tracer.setPosition(m_graph, 1.5));
         QCOMPARE(tracer.getTracer()->position->coords(), QPointF(1.5, 30));

@@ -42,6 +42,9 @@ private Q_SLOTS:
         QCOMPARE(Plot::markerInReach(markers, tip - QPointF(0, 15 + 21), 22.0), 1);
         QCOMPARE(Plot::markerInReach(markers, tip + QPointF(25, 0), 30.0), 2);
 
+        second.setType(Plot::PointingUp); // its triangle lies below its point
+        QCOMPARE(Plot::markerInReach({&second}, tip + QPointF(40, 15 + 21), 22.0), 0);
+        QCOMPARE(Plot::markerInReach({&second}, tip + QPointF(40, -23), 22.0), -1);
         second.setVisible(false);
         QCOMPARE(Plot::markerAt(markers, tip + QPointF(40, 4), 18.0), 3);
         QCOMPARE(Plot::markerAt({}, tip, 18.0), -1);

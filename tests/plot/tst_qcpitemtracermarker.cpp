@@ -99,9 +99,11 @@ private Q_SLOTS:
         m_tracer->position->setCoords(100, 201);
         QCOMPARE(m_tracer->selectTest(m_tracer->position->pixelPosition(), false), -1.0);
         QCOMPARE(redPixels(), 0);
-        m_tracer->position->setCoords(qQNaN(), 100);
-        QCOMPARE(m_tracer->selectTest(QPointF(120, 120), false), -1.0);
-        QCOMPARE(redPixels(), 0);
+        for (const QPointF &nowhere : {QPointF(qQNaN(), 100), QPointF(100, qQNaN())}) {
+            m_tracer->position->setCoords(nowhere);
+            QCOMPARE(m_tracer->selectTest(QPointF(120, 120), false), -1.0);
+            QCOMPARE(redPixels(), 0);
+        }
     }
 
 private:
