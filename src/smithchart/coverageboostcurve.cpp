@@ -68,8 +68,7 @@ bool CoverageBoostCurve::isThin(const QCPPainter *painter) const
 /// In logical pixels; 0: both strokes at the same place.
 double CoverageBoostCurve::secondStrokeOffset(const QCPPainter *painter) const
 {
-    if (Controls::ThemeManager::instance()->currentTheme() != Controls::ThemeManager::Light
-        || !painter->device())
+    if (Controls::ThemeManager::instance()->currentTheme() != Controls::ThemeManager::Light)
         return 0.0;
     return 0.25 / std::max(painter->device()->devicePixelRatioF(), 1.0);
 }

@@ -10,10 +10,10 @@ namespace SmithRender
 
 int reachableIndex(const QVector<double> &real, const QVector<double> &imag,
                    const Viewport &viewport, const QPointF &pointer, int start,
-                   double *squaredDistance)
+                   double &squaredDistance)
 {
     const int count = static_cast<int>(std::min(real.size(), imag.size()));
-    if (!viewport.isUsable() || start < 0 || start >= count)
+    if (!viewport.isUsable() || start >= count)
         return -1;
     const double xScale = viewport.width / viewport.xSpan();
     const double yScale = viewport.height / viewport.ySpan();
@@ -39,8 +39,7 @@ int reachableIndex(const QVector<double> &real, const QVector<double> &imag,
             }
         }
     }
-    if (squaredDistance)
-        *squaredDistance = smallest;
+    squaredDistance = smallest;
     return best;
 }
 

@@ -15,9 +15,9 @@ namespace SmithRender
 /*! The point nearest to \a pointer (logical pixels from the axis rectangle's corner) among those
     that one reaches from \a start along the trace without getting farther from the pointer than one
     was there: where a trace crosses itself, those of the same branch. -1 without a finite point at
-    \a start; the squared distance is in logical pixels. */
+    \a start, which is no negative one; the squared distance is in logical pixels. */
 [[nodiscard]] VNAWIDGETS_TEST_EXPORT int
 reachableIndex(const QVector<double> &real, const QVector<double> &imag, const Viewport &viewport,
-               const QPointF &pointer, int start, double *squaredDistance);
+               const QPointF &pointer, int start, double &squaredDistance);
 
 } // namespace SmithRender

@@ -56,9 +56,10 @@ inline QString ensure(QCustomPlot *plot, const QString &name, const QString &bel
     if (plot->layer(name))
         return name;
     QCPLayer *const neighbour = plot->layer(below);
-    return neighbour && plot->addLayer(name, neighbour, QCustomPlot::limAbove)
-        ? name
-        : QStringLiteral("main");
+    if (!neighbour)
+        return QStringLiteral("main");
+    plot->addLayer(name, neighbour, QCustomPlot::limAbove);
+    return name;
 }
 
 } // namespace SmithLayers

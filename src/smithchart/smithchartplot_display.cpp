@@ -43,26 +43,21 @@ bool SmithChartPlotPrivate::refreshDisplayCurve(OwnedCurve &record, bool force)
     if (n == 0) {
         record.curve->data()->clear();
         record.keptIndices.clear();
-        record.cachedSourceRevision = record.sourceRevision;
         record.cachedViewport = viewport;
         record.cachedMarkerRevision = record.markerRevision;
-        record.cacheValid = true;
         record.displayedPointCount = 0;
         return true;
     }
 
-    if (force || !record.cacheValid || record.cachedSourceRevision != record.sourceRevision
-        || record.cachedViewport != viewport) {
+    if (force || record.cachedViewport != viewport) {
         QElapsedTimer timer;
         if (smithPerformance().isDebugEnabled())
             timer.start();
         record.keptIndices = record.index.decimate(viewport).keptIndices;
         if (timer.isValid())
             record.lastDecimationNs = timer.nsecsElapsed();
-        record.cachedSourceRevision = record.sourceRevision;
         record.cachedViewport = viewport;
-        record.cacheValid = true;
-    } else if (record.markerRevision == record.cachedMarkerRevision && record.curve->data()) {
+    } else if (record.markerRevision == record.cachedMarkerRevision) {
         record.displayedPointCount = record.curve->data()->size();
         return false;
     }

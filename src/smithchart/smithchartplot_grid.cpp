@@ -252,8 +252,7 @@ bool SmithChartPlotPrivate::isOurs(const QObject *object) const
 
 void SmithChartPlotPrivate::clearSmithChartGrid()
 {
-    if (QCustomPlot *const plot = this->plot())
-        removeFromGrid(plot, [this](const QObject *object) { return isOurs(object); });
+    removeFromGrid(plot(), [this](const QObject *object) { return isOurs(object); });
 }
 
 void SmithChartPlotPrivate::rebuildSmithChartGrid()

@@ -38,38 +38,35 @@ bool SmithChartPlot::addMarkerVisual(int traceId, int localId, double sourceInde
     auto *const trace = d->findTrace(traceId);
     // A number beyond the ids' range would read back as another trace's; 0 is none, but has a place.
     const bool isNumber = localId >= 0 && localId < markersPerTrace;
-    return isNumber && trace && trace->curve
-        && d->createMarkerVisualAt(traceId, localId, trace->curve, sourceIndex, type);
+    return isNumber && trace && trace->curve && !d->findMarker(traceId, localId)
+        && d->createMarkerVisualAt(*trace, localId, sourceIndex, type);
 }
 
-bool SmithChartPlotPrivate::createMarkerVisualAt(int traceId, int localId, QCPCurve *curve,
-                                                 double sourceIndex, Plot::MarkerType type)
+/// Adds a marker to a trace whose curve is there, and the plot with it.
+bool SmithChartPlotPrivate::createMarkerVisualAt(OwnedCurve &trace, int localId, double sourceIndex,
+                                                 Plot::MarkerType type)
 {
-    if (!plot() || !curve || findMarker(traceId, localId))
-        return false;
-    OwnedCurve *const trace = findOwnedCurve(curve);
-    const auto count = trace ? trace->real.size() : 0;
+    const auto count = trace.real.size();
     const bool valid = sourceIndex >= 0.0 && sourceIndex < static_cast<double>(count);
 
     OwnedMarker record;
     record.marker = std::make_unique<Plot::Marker>(
-        plot(), SmithChartPlot::makeMarkerId(traceId, localId), type);
-    record.curve = curve;
-    record.traceId = traceId;
+        plot(), SmithChartPlot::makeMarkerId(trace.traceId, localId), type);
+    record.curve = trace.curve;
+    record.traceId = trace.traceId;
     record.localId = localId;
     record.sourceIndex = valid ? sourceIndex : -1.0;
     if (!valid) {
         record.marker->setVisible(false);
         record.marker->getTracer()->setSelectable(false);
         record.marker->getLabel()->setSelectable(false);
-    } else if (!positionMarkerAtSourceIndex(record, sourceIndex)) {
+    } else if (!positionMarker(trace, record, sourceIndex)) {
         return false;
     }
     drawMarkerSelection(record, false);
     record.marker->getLabel()->setText(QString::number(localId));
     m_ownedMarkers.push_back(std::move(record));
-    if (trace)
-        bumpMarkerRevision(*trace);
+    bumpMarkerRevision(trace);
     requestQueuedReplot();
     return true;
 }
@@ -125,8 +122,8 @@ void SmithChartPlot::clearAllMarkers()
 
 bool SmithChartPlot::selectMarker(int traceId, int localId)
 {
-    const auto *const trace = d->findTrace(traceId);
-    if (!d->findMarker(traceId, localId) || !trace || !trace->curve || !trace->curve->visible())
+    const auto *const record = d->findMarker(traceId, localId);
+    if (!record || !record->curve || !record->curve->visible())
         return false;
     const int id = makeMarkerId(traceId, localId);
     if (id != d->m_selectedMarkerId) {
@@ -181,8 +178,7 @@ Plot::Marker *SmithChartPlot::getMarker(int traceId, int localId)
 
 const Plot::Marker *SmithChartPlot::getMarker(int traceId, int localId) const
 {
-    const auto *const record = d->findMarker(traceId, localId);
-    return record ? record->marker.get() : nullptr;
+    return const_cast<SmithChartPlot *>(this)->getMarker(traceId, localId);
 }
 
 QVector<const Plot::Marker *> SmithChartPlot::markers(int traceId) const
@@ -209,7 +205,7 @@ bool SmithChartPlot::setMarkerIndex(int traceId, int localId, double sourceIndex
     auto *const trace = d->findOwnedCurve(record->curve);
     const auto count = trace ? trace->real.size() : 0;
     if (sourceIndex < 0.0 || sourceIndex >= static_cast<double>(count)
-        || !d->positionMarkerAtSourceIndex(*record, sourceIndex))
+        || !d->positionMarker(*trace, *record, sourceIndex))
         return false;
     if (record->sourceIndex != sourceIndex) {
         record->sourceIndex = sourceIndex;
@@ -293,13 +289,6 @@ void SmithChartPlot::setMarkerHitTolerancePx(double px)
         plot->setSelectionTolerance(qRound(std::min(d->m_markerHitTolerancePx, highest)));
 }
 
-const SmithChartPlotPrivate::OwnedMarker *SmithChartPlotPrivate::findMarker(int traceId,
-                                                                            int localId) const
-{
-    const int index = findMarkerIndexByID(traceId, localId);
-    return index < 0 ? nullptr : &m_ownedMarkers[static_cast<std::size_t>(index)];
-}
-
 SmithChartPlotPrivate::OwnedMarker *SmithChartPlotPrivate::findMarker(int traceId, int localId)
 {
     const int index = findMarkerIndexByID(traceId, localId);
@@ -323,12 +312,10 @@ void SmithChartPlotPrivate::bumpMarkerRevision(OwnedCurve &record)
     refreshDisplayCurve(record, false);
 }
 
-bool SmithChartPlotPrivate::positionMarkerAtSourceIndex(OwnedMarker &record, double sourceIndex)
+bool SmithChartPlotPrivate::positionMarker(const OwnedCurve &trace, const OwnedMarker &record,
+                                           double sourceIndex)
 {
-    const OwnedCurve *const trace = findOwnedCurve(record.curve);
-    if (!trace)
-        return false;
-    const auto point = SmithChart::tracePoint(trace->real, trace->imag, sourceIndex);
+    const auto point = SmithChart::tracePoint(trace.real, trace.imag, sourceIndex);
     return point && record.marker->setPositionCoordinates(record.curve, point->x(), point->y());
 }
 
@@ -357,21 +344,12 @@ void SmithChartPlotPrivate::recolorMarkers(QCPCurve *curve)
     }
 }
 
-/// Puts the markers of a trace whose data changed back on their indices; one beyond the new end
-/// stays where it was.
-void SmithChartPlotPrivate::updateMarkersForCurve(QCPCurve *curve)
-{
-    const OwnedCurve *const trace = findOwnedCurve(curve);
-    if (!trace)
-        return;
-    replaceMarkers(*trace);
-    requestQueuedReplot();
-}
-
+/// Puts the markers of a trace back on their indices; one beyond the end of new data stays where it
+/// was.
 void SmithChartPlotPrivate::replaceMarkers(const OwnedCurve &trace)
 {
-    for (OwnedMarker &record : m_ownedMarkers) {
+    for (const OwnedMarker &record : m_ownedMarkers) {
         if (record.curve == trace.curve)
-            positionMarkerAtSourceIndex(record, record.sourceIndex);
+            positionMarker(trace, record, record.sourceIndex);
     }
 }

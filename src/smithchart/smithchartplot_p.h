@@ -26,11 +26,8 @@ public:
         QVector<double> real;
         QVector<double> imag; ///< as many as real parts
         SmithRender::IndexedTrace index; ///< over the source data
-        quint64 sourceRevision = 0;
 
         SmithRender::Viewport cachedViewport;
-        bool cacheValid = false;
-        quint64 cachedSourceRevision = 0;
         QVector<int> keptIndices;
         quint64 markerRevision = 0;
         quint64 cachedMarkerRevision = 0;
@@ -72,7 +69,6 @@ public:
 
     // Traces
     OwnedCurve *findTrace(int traceId);
-    const OwnedCurve *findTrace(int traceId) const;
     int findCurveIndexByTraceId(int traceId) const;
     OwnedCurve *findOwnedCurve(QCPCurve *curve);
     const OwnedCurve *findOwnedCurve(QCPCurve *curve) const;
@@ -112,18 +108,17 @@ public:
                               double &squaredDistance) const;
 
     // Markers
-    const OwnedMarker *findMarker(int traceId, int localId) const;
     OwnedMarker *findMarker(int traceId, int localId);
     void removeMarkersOfTrace(int traceId);
     void bumpMarkerRevision(OwnedCurve &record);
     int findMarkerIndexByID(int traceId, int localId) const;
-    bool createMarkerVisualAt(int traceId, int localId, QCPCurve *curve, double sourceIndex,
+    bool createMarkerVisualAt(OwnedCurve &trace, int localId, double sourceIndex,
                               Plot::MarkerType type);
-    bool positionMarkerAtSourceIndex(OwnedMarker &record, double sourceIndex);
+    static bool positionMarker(const OwnedCurve &trace, const OwnedMarker &record,
+                               double sourceIndex);
     void drawMarkerSelection(const OwnedMarker &record, bool selected);
     void updateMarkerVisualSelection(int traceId, int localId, bool selected);
     void recolorMarkers(QCPCurve *curve);
-    void updateMarkersForCurve(QCPCurve *curve);
     void replaceMarkers(const OwnedCurve &trace);
 
     SmithChartPlot *const q;

@@ -19,6 +19,11 @@ namespace
 
 constexpr double doubleClickToleranceSquared = 225.0; ///< 15 logical pixels
 
+bool hasAxes(const QCPCurve &curve)
+{
+    return curve.keyAxis() && curve.valueAxis();
+}
+
 } // namespace
 
 bool SmithChartPlot::eventFilter(QObject *watched, QEvent *event)
@@ -90,16 +95,15 @@ bool SmithChartPlot::handleDoubleClick(const QPoint &pos, Qt::KeyboardModifiers 
 
     if (!nearActive && !d->nearestCurveAndIndex(pos, curve, index, squaredDistance))
         return false;
-    const auto *const record = d->findOwnedCurve(curve);
-    if (squaredDistance > doubleClickToleranceSquared || !record)
+    if (squaredDistance > doubleClickToleranceSquared)
         return false;
-    Q_EMIT pointDoubleClicked(record->traceId, index, modifiers);
+    Q_EMIT pointDoubleClicked(d->findOwnedCurve(curve)->traceId, index, modifiers);
     return true;
 }
 
 void SmithChartPlotPrivate::onPlotMousePress(QMouseEvent *event)
 {
-    if (event && event->button() == Qt::LeftButton && m_pressDragsMarkers)
+    if (event->button() == Qt::LeftButton && m_pressDragsMarkers)
         catchMarkerAt(QtCompat::position(event));
 }
 
@@ -156,7 +160,7 @@ bool SmithChartPlot::nearestPoint(int traceId, const QPoint &pos, int &index,
 
 void SmithChartPlotPrivate::onPlotMouseMove(QMouseEvent *event)
 {
-    if (!event || m_draggingMarkerId < 0 || dragIsConfined())
+    if (m_draggingMarkerId < 0 || dragIsConfined())
         return;
     int traceId = 0;
     int localId = 0;
@@ -181,16 +185,12 @@ void SmithChartPlotPrivate::onPlotMouseMove(QMouseEvent *event)
 int SmithChartPlotPrivate::draggedIndex(const OwnedMarker &record, const QPoint &pos) const
 {
     const OwnedCurve *const trace = findOwnedCurve(record.curve);
-    if (m_markerDragJumpPx > 0.0 && trace && record.sourceIndex >= 0.0) {
-        const auto *const rect =
-            record.curve->keyAxis() ? record.curve->keyAxis()->axisRect() : nullptr;
+    if (m_markerDragJumpPx > 0.0 && record.sourceIndex >= 0.0 && hasAxes(*record.curve)) {
+        const QCPAxis *const xAxis = record.curve->keyAxis();
         double squaredDistance = 0.0;
-        const int reached = !rect
-            ? -1
-            : SmithRender::reachableIndex(
-                trace->real, trace->imag,
-                viewportOf(record.curve->keyAxis(), record.curve->valueAxis()),
-                pos - rect->topLeft(), qRound(record.sourceIndex), &squaredDistance);
+        const int reached = SmithRender::reachableIndex(
+            trace->real, trace->imag, viewportOf(xAxis, record.curve->valueAxis()),
+            pos - xAxis->axisRect()->topLeft(), qRound(record.sourceIndex), squaredDistance);
         if (reached >= 0 && squaredDistance <= m_markerDragJumpPx * m_markerDragJumpPx)
             return reached;
     }
@@ -201,8 +201,7 @@ int SmithChartPlotPrivate::draggedIndex(const OwnedMarker &record, const QPoint 
 void SmithChartPlotPrivate::showDragLine(const OwnedMarker &record, const QPoint &pos)
 {
     const QCPItemTracer *const tracer = record.marker->getTracer();
-    QCustomPlot *const plot = this->plot();
-    if (!tracer || !plot)
+    if (!tracer)
         return;
     constexpr double apartPx = 6.0;
     const QPointF marker = tracer->position->pixelPosition();
@@ -212,7 +211,7 @@ void SmithChartPlotPrivate::showDragLine(const OwnedMarker &record, const QPoint
         return;
     }
     if (!m_dragLine) {
-        m_dragLine = new QCPItemLine(plot);
+        m_dragLine = new QCPItemLine(tracer->parentPlot());
         m_dragLine->setLayer(Plot::markersLayerName());
         m_dragLine->setSelectable(false);
         for (QCPItemPosition *end : {m_dragLine->start, m_dragLine->end})
@@ -259,16 +258,15 @@ void SmithChartPlotPrivate::finishDrag()
 {
     if (m_finishingDrag) // a slot hides the plot, or ends the drag once more
         return;
-    const QPointer<SmithChartPlot> chart(q);
+    const QPointer<SmithChartPlot> self(q);
     hideDragLine();
-    if (!chart)
+    if (!self)
         return;
     if (q->isDraggingMarker() && !dragIsConfined()) {
         int traceId = 0;
         int localId = 0;
         SmithChartPlot::parseMarkerId(m_draggingMarkerId, traceId, localId);
         if (const OwnedMarker *const record = findMarker(traceId, localId)) {
-            const QPointer<SmithChartPlot> self(q);
             m_finishingDrag = true;
             Q_EMIT q->markerDragFinished(traceId, localId, record->sourceIndex);
             if (!self)
@@ -293,8 +291,6 @@ bool SmithChartPlotPrivate::dragIsConfined() const
 const SmithChartPlotPrivate::OwnedMarker *
 SmithChartPlotPrivate::markerToCatchAt(const QPointF &pos) const
 {
-    if (!plot())
-        return nullptr;
     QVector<const Plot::Marker *> markers;
     for (const OwnedMarker &record : m_ownedMarkers) {
         const bool isShown = record.curve && record.curve->visible();
@@ -312,7 +308,7 @@ int SmithChartPlotPrivate::nearestCurveDataIndex(QCPCurve *curve, const QPoint &
     if (squaredDistance)
         *squaredDistance = std::numeric_limits<double>::infinity();
     const OwnedCurve *const record = findOwnedCurve(curve);
-    if (!record || !curve->keyAxis() || !curve->valueAxis() || !curve->keyAxis()->axisRect())
+    if (!record || !hasAxes(*curve))
         return -1;
     const QCPAxisRect *const rect = curve->keyAxis()->axisRect();
     return record->index.nearestIndex(viewportOf(curve->keyAxis(), curve->valueAxis()),

@@ -134,13 +134,12 @@ bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencie
     record->imag = newImag;
     record->frequencies = newFrequencies;
     record->index.setSource(record->real, record->imag);
-    ++record->sourceRevision;
-    record->cacheValid = false;
     d->refreshDisplayCurve(*record, true);
     if (timer.isValid())
         d->reportPerformance(*record, timer.nsecsElapsed());
     const QPointer<SmithChartPlot> self(this);
-    d->updateMarkersForCurve(record->curve);
+    d->replaceMarkers(*record);
+    d->requestQueuedReplot();
     if (self)
         d->requestQueuedReplot();
     return true;
@@ -150,7 +149,7 @@ bool SmithChartPlot::setCurveData(int traceId, const QVector<double> &frequencie
 void SmithChartPlotPrivate::reportPerformance(OwnedCurve &record, qint64 elapsedNs)
 {
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    if (record.lastReportMs != 0 && now - record.lastReportMs < reportIntervalMs)
+    if (now - record.lastReportMs < reportIntervalMs)
         return;
     record.lastReportMs = now;
     qCDebug(smithPerformance).nospace()
@@ -333,12 +332,6 @@ SmithChartPlotPrivate::OwnedCurve *SmithChartPlotPrivate::findTrace(int traceId)
 {
     const int index = findCurveIndexByTraceId(traceId);
     return index < 0 ? nullptr : &m_curves[index];
-}
-
-const SmithChartPlotPrivate::OwnedCurve *SmithChartPlotPrivate::findTrace(int traceId) const
-{
-    const int index = findCurveIndexByTraceId(traceId);
-    return index < 0 ? nullptr : &m_curves.at(index);
 }
 
 int SmithChartPlotPrivate::findCurveIndexByTraceId(int traceId) const

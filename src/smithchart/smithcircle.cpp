@@ -99,7 +99,7 @@ bool SmithCircle::setSusceptance(double b)
 bool SmithCircle::setCircle(const QPointF &centre, double radius)
 {
     const Circle circle{centre, radius};
-    return circle.isUsable() && d->set(this, QVector<Circle>{circle}, false);
+    return d->set(this, circle.isUsable() ? std::optional<Circle>(circle) : std::nullopt, false);
 }
 
 void SmithCircle::setLabel(const QString &label)

@@ -54,7 +54,7 @@ QPen admittancePen(const GridLook &look)
 
 GridView gridViewOf(const QCPAxis *xAxis, const QCPAxis *yAxis)
 {
-    if (!xAxis || !yAxis || !xAxis->axisRect())
+    if (!xAxis || !yAxis)
         return {};
     const QCPRange x = xAxis->range();
     const QCPRange y = yAxis->range();

@@ -94,6 +94,8 @@ private Q_SLOTS:
         }
         QVERIFY(!vswrCircle(1.0));
         QVERIFY(circleLines({{0.0, 0.0}, 0.0}, wholePlane, false, 0.1).isEmpty());
+        QVERIFY(circleLines({{0.0, 0.0}, 1.0}, wholePlane, false, 0.0).isEmpty());
+        QVERIFY(qualityCircles(1e-320).isEmpty());
     }
 
     void linesAreCut()

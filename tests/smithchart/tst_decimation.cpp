@@ -170,6 +170,7 @@ private Q_SLOTS:
               Change([](Viewport &v) { v.yMax = v.yMin - 1.0; }), Change([](Viewport &v) {
                   v.xMin = -1.5e308, v.xMax = 1.5e308;
               }), // the span overflows
+              Change([](Viewport &v) { v.yMin = -1.5e308, v.yMax = 1.5e308; }),
               Change([](Viewport &v) { v.devicePixelRatio = 0.99; }),
               Change([](Viewport &v) { v.devicePixelRatio = infinity; }),
               Change([](Viewport &v) { v.tolerancePx = -0.1; }),

@@ -149,15 +149,46 @@ private Q_SLOTS:
         for (const QVector<QPointF> &corners : {QVector<QPointF>{},
                                                 {{0, 0}, {1, 1}},
                                                 {{0, 0}, {1, 0}, {2, 0}},
+                                                {{0, 0}, {0, 1}, {0, 2}},
+                                                {{-1e308, 0}, {1e308, 0}, {0, 1}},
+                                                {{0, -1e308}, {0, 1e308}, {1, 0}},
                                                 {{0, 0}, {1, nan}, {2, 0}}})
             QVERIFY(!area.setPolygon(QPolygonF(corners), inside));
-        for (const auto &[low, high, from, to] : {std::tuple(0.5, 0.5, 0, 90),
+        for (const auto &[low, high, from, to] : {std::tuple(0.5, 0.5, 0.0, 90.0),
                                                   {-0.1, 0.5, 0, 90},
                                                   {0.1, 0.5, 90, 90},
+                                                  {0.1, 0.5, 0, nan},
                                                   {0.1, nan, 0, 90}})
             QVERIFY(!area.setSector(low, high, from, to, inside));
         QCOMPARE(area.rule(), LimitArea::KeepOut);
         QVERIFY(area.contains({0.1, 0.49}) && !area.contains({0.1, 0.51}));
+    }
+
+    /// A border belongs to its area, whether it is level, upright or between.
+    void permitsByItsRule()
+    {
+        LimitArea area;
+        const QPointF anywhere(0.3, 0.4);
+        QVERIFY(!area.contains(anywhere) && area.permits(anywhere));
+        QVERIFY(area.test({0.3}, {0.4}, {1e9}, {0.0, 2e9}).passed());
+        const QPolygonF polygon({{0.0, 0.0}, {1.0, 0.0}, {1.0, 1.0}, {0.5, 0.5}, {0.0, 1.0}});
+        for (const auto rule : {LimitArea::StayInside, LimitArea::KeepOut}) {
+            QVERIFY(area.setPolygon(polygon, rule));
+            for (const QPointF &inside :
+                 {QPointF(0.5, 0.25), {0.5, 0.0}, {1.0, 0.25}, {0.0, 0.25}, {0.75, 0.75}, {1, 1}})
+                QCOMPARE(area.permits(inside), rule == LimitArea::StayInside);
+            for (const QPointF &outside :
+                 {QPointF(0.5, 0.75), {0.5, 1.0}, {1.25, 0.0}, {-1.0, 0.0}})
+                QCOMPARE(area.permits(outside), rule == LimitArea::KeepOut);
+        }
+        // Beside a level edge, and at the height where an upright one ends.
+        QVector<QPointF> notched{{0, 4}, {1, 4}, {1, 2}, {2, 2}, {2, 4}, {4, 4}, {4, 0}, {0, 0}};
+        for (int turn = 0; turn < 2; ++turn) {
+            QVERIFY(area.setPolygon(QPolygonF(notched), LimitArea::StayInside));
+            QVERIFY(area.contains({0.0, 2.0}) && area.contains({4.0, 2.0}));
+            QVERIFY(!area.contains({1.99, 4.0}) && !area.contains({1.01, 4.0}));
+            std::reverse(notched.begin(), notched.end());
+        }
     }
 
     /// What is drawn is what is tested.

@@ -87,6 +87,16 @@ private Q_SLOTS:
         QCOMPARE(f.chart->gridReference().value(), 50.0);
         QVERIFY(f.chart->setGridReference(std::nullopt));
         QCOMPARE(picture(), normalised);
+        SmithChart::GridLook look = f.chart->gridLook();
+        const SmithChart::GridLook own = look;
+        look.labelFont = QFont("DejaVu Sans"_s, 14);
+        f.chart->setGridLook(look);
+        QVERIFY(picture() != normalised);
+        f.chart->setGridLook(own);
+        QCOMPARE(picture(), normalised);
+        (void)f.picture(900, 750); // of the same section, larger
+        (void)f.picture(1, 1);
+        QCOMPARE(picture(), normalised);
 
         f.chart->setCurveVisible(1, false);
         QCOMPARE(f.visibleItems(), 0);
@@ -162,6 +172,17 @@ private Q_SLOTS:
         QCOMPARE(ground(), QColor(Qt::black));
         QCOMPARE(f.chart->gridLook().boundaryPen.color(), theme->borderColor());
         QCOMPARE(f.chart->gridLook().linePen.style(), Qt::DashLine);
+        SmithChart::GridLook look = f.chart->gridLook();
+        look.admittancePen = QPen(Qt::green);
+        look.background.reset();
+        f.chart->setGridLook(look);
+        QCOMPARE(ground(), QColor(Qt::black)); // without another one the plot keeps its own
+        theme->setTheme(ThemeManager::Light);
+        QCOMPARE(f.chart->gridLook().admittancePen->color(), theme->gridColor());
+        theme->setTheme(ThemeManager::Dark);
+        QSignalSpy replots(f.plot.get(), &QCustomPlot::beforeReplot);
+        f.chart->setFollowsTheme(true); // as before
+        QCoreApplication::processEvents();
         f.chart->setFollowsTheme(false);
         theme->setTheme(ThemeManager::Light);
         QCOMPARE(ground(), QColor(Qt::black));
@@ -184,6 +205,18 @@ private Q_SLOTS:
         other = nullptr;
         other = std::make_unique<SmithChartPlot>(f.plot.get(), SmithChart::Basic);
         QCOMPARE(f.plot->itemCount(), both + 2);
+        // What the host lays there itself is its own, and so is what lies nowhere.
+        auto *const line = new QCPItemLine(f.plot.get());
+        line->setLayer("smithGrid"_s);
+        const QPointer<QCPItemLine> nowhere = new QCPItemLine(f.plot.get());
+        nowhere->setLayer(static_cast<QCPLayer *>(nullptr));
+        other = nullptr;
+        other = std::make_unique<SmithChartPlot>(f.plot.get(), SmithChart::Basic);
+        QVERIFY(f.plot->hasItem(line));
+        QVERIFY(f.plot->removeItem(line));
+        other->setGridMode(SmithChartPlot::Admittance);
+        QVERIFY(nowhere && nowhere->visible());
+        QVERIFY(f.plot->removeItem(nowhere));
         other = nullptr;
         delete f.chart.data();
         QCOMPARE(f.visibleItems(), 0);

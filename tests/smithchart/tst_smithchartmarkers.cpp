@@ -68,8 +68,10 @@ private Q_SLOTS:
         MarkerScene f;
         f.add(1, 1, 0.0);
         QVERIFY(!f.chart->setMarkerIndex(1, 9, 0.0) && !f.chart->setMarkerVisible(1, 9, true));
-        for (const double outside : {11.0, -0.1, qQNaN()})
+        for (const double outside : {11.0, 10.5, -0.1, qQNaN()})
             QVERIFY(!f.chart->setMarkerIndex(1, 1, outside));
+        QCOMPARE(f.chart->markerIndex(1, 9), -1.0);
+        QVERIFY(!std::as_const(*f.chart).getMarker(1, 9));
         QVERIFY(f.chart->setMarkerIndex(1, 1, 10.0));
         f.first.imag[4] = qQNaN();
         f.set(1, f.first);
@@ -138,6 +140,36 @@ private Q_SLOTS:
         });
         f.chart->clearMarkerSelection();
         QCOMPARE(f.told(), "selected 2 1"_s);
+        f.chart->setCurveVisible(1, true);
+        f.chart->setQueuedReplotHandler([&f] {
+            f.chart->setQueuedReplotHandler({});
+            f.chart->removeMarkerVisual(1, 1);
+        });
+        QVERIFY(f.chart->selectMarker(1, 1)); // which is gone before it is told
+        QCOMPARE(f.told(), "cleared"_s);
+    }
+
+    /// Numbers of traces have no bound, those of markers have: such a one is shown and selected, but
+    /// another marker is never taken for it.
+    void traceBeyondTheIds()
+    {
+        MarkerScene f;
+        constexpr int beyond = 42949673; // its marker 1 has number 5
+        QVERIFY(f.chart->addCurve(beyond, QPen()));
+        f.set(beyond, f.second);
+        f.chart->setCurveVisible(2, false);
+        QVERIFY(f.add(beyond, 1, 5.0));
+        QCOMPARE(f.chart->getMarker(beyond, 1)->getId(), 5);
+        QVERIFY(f.chart->selectMarker(beyond, 1));
+        QCOMPARE(f.tracer(beyond, 1)->brush().style(), Qt::SolidPattern);
+        f.chart->clearMarkerSelection();
+        f.chart->setOnlyHandleActiveTrace(false);
+        f.press(f.pixelOf(beyond, 1));
+        f.move(f.pixel(f.second, 7));
+        f.release(f.pixel(f.second, 7));
+        QCOMPARE(f.told(), "selected %1 1|cleared|request %1 1|start %1 1"_s.arg(beyond));
+        QCOMPARE(f.positionOf(beyond, 1), f.point(f.second, 5));
+        QVERIFY(!f.chart->isDraggingMarker());
     }
 
     void removalAndClearing()

@@ -137,6 +137,12 @@ private Q_SLOTS:
             QVERIFY2(!f.chart->hasSourceDataAtIndex(1, index), qPrintable(QString::number(index)));
         QVERIFY(!f.chart->hasSourceDataAtIndex(2, 0.0));
 
+        QVERIFY(f.chart->hasSourceDataAtParameter(1, 15.0));
+        for (const double stimulus : {25.0, 35.0, 45.0}) // beside the gap, and around no stimulus
+            QVERIFY(!f.chart->hasSourceDataAtParameter(1, stimulus));
+        f.chart->setCurveData(1, {10, qQNaN()}, {0, 0}, {0, 0});
+        QVERIFY(!f.chart->hasSourceDataAtIndex(1, 0.5));
+
         // Between the largest numbers: their difference is none, their mean is.
         const double largest = std::numeric_limits<double>::max();
         f.chart->setCurveData(1, {10, 20}, {-largest, largest}, {0, 0});
@@ -246,6 +252,37 @@ private Q_SLOTS:
         QCOMPARE(f.plot->yAxis2->range(), QCPRange(-1.05, 1.05));
         f.chart->setAxes(nullptr, nullptr);
         QCOMPARE(f.chart->getCurve(1)->keyAxis(), f.plot->xAxis);
+        f.chart->setAxes(f.plot->xAxis, f.plot->yAxis2); // only one of them
+        QCOMPARE(f.chart->getCurve(1)->valueAxis(), f.plot->yAxis2);
+        const SmithChartPlot other(f.plot.get(), f.plot->xAxis2, f.plot->yAxis2, SmithChart::Basic);
+        QCOMPARE(other.xAxis(), f.plot->xAxis2);
+        QCOMPARE(other.yAxis(), f.plot->yAxis2);
+    }
+
+    /// What new data cost is logged when that is asked for, and then not too often.
+    void performanceReport()
+    {
+        static QStringList told;
+        told.clear();
+        const auto listen = [](QtMsgType, const QMessageLogContext &, const QString &text) {
+            told << text;
+        };
+        const ChartScene f;
+        f.chart->addCurve(1, QPen());
+        const auto setData = [&f] { f.chart->setCurveData(1, {}, {0.1, 0.2}, {0.1, 0.2}); };
+        const QtMessageHandler previous = qInstallMessageHandler(listen);
+        const auto restore = qScopeGuard([previous] {
+            QLoggingCategory::setFilterRules({});
+            qInstallMessageHandler(previous);
+        });
+        setData();
+        QVERIFY(told.isEmpty());
+        QLoggingCategory::setFilterRules("vna.smith.render.performance.debug=true"_s);
+        setData();
+        setData();
+        QCOMPARE(told.size(), 1);
+        QVERIFY2(told.first().startsWith("trace 1: 2 points, 2 displayed, "_s),
+                 qPrintable(told.first()));
     }
 
     // In the light theme the second stroke is shifted, which makes the line cover more of the

@@ -227,6 +227,84 @@ private Q_SLOTS:
         QVERIFY(doubleClick(onFirst).startsWith("any 2 5"_s));
     }
 
+    /// What a host draws itself is no trace of the chart, wherever it lies.
+    void theHostsOwnPlottablesAreNoTraces()
+    {
+        const MarkerScene f;
+        SmithChartPlot *const chart = f.chart.get();
+        chart->setOnlyHandleActiveTrace(false);
+        const auto add = [&f](QCPAxis *x, QCPAxis *y, const QString &layer) {
+            auto *const curve = new QCPCurve(x, y);
+            curve->setData({-0.1, 0.1}, {-0.1, 0.1});
+            curve->setLayer(f.plot->layer(layer));
+        };
+        add(f.plot->xAxis, f.plot->yAxis, "tracers"_s);
+        add(f.plot->xAxis2, f.plot->yAxis, "tracers"_s);
+        add(f.plot->xAxis, f.plot->yAxis2, "tracers"_s);
+        add(f.plot->xAxis, f.plot->yAxis, QString());
+        f.plot->addGraph()->setData(QVector<double>{-0.1, 0.1}, QVector<double>{-0.1, 0.1});
+        QVERIFY(!chart->handleDoubleClick(f.dataPixel(-0.1, -0.1), Qt::NoModifier));
+        QVERIFY(chart->handleDoubleClick(f.pixel(f.second, 3), Qt::NoModifier));
+        // Nor are keys of other widgets the chart's.
+        QVERIFY(f.add(1, 1, 5.0) && chart->selectMarker(1, 1));
+        QWidget other;
+        other.installEventFilter(chart);
+        QSignalSpy deletes(chart, &SmithChartPlot::markerDeleteRequested);
+        QTest::keyClick(&other, Qt::Key_Delete);
+        QVERIFY(deletes.isEmpty());
+        QTest::keyClick(f.plot.get(), Qt::Key_Delete);
+        QCOMPARE(deletes.size(), 1);
+    }
+
+    /// A marker that cannot reach the pointer along its trace goes to the nearest point.
+    void dragOfAMarkerWithoutAPlace()
+    {
+        using Change = std::function<void(MarkerScene &)>;
+        const Change changes[] = {
+            [](MarkerScene &f) { f.add(1, 2, -1.0); }, // never placed
+            [](MarkerScene &f) { // on a point that is gone
+                f.add(1, 2, 10.0);
+                for (QVector<double> *values : {&f.first.stimulus, &f.first.real, &f.first.imag})
+                    values->resize(8);
+                f.set(1, f.first);
+            },
+            [](MarkerScene &f) { // on a gap
+                f.add(1, 2, 3.0);
+                f.first.real[3] = qQNaN();
+                f.set(1, f.first);
+            },
+        };
+        for (const Change &change : changes) {
+            MarkerScene f;
+            change(f);
+            QVERIFY(f.chart->setMarkerDragJumpPx(10.0) && f.chart->beginMarkerDrag(1, 2));
+            (void)f.told();
+            f.chart->updateMarkerDragAt(f.pixel(f.first, 6));
+            QCOMPARE(f.told(), "move 1 2 6"_s);
+            // Of a hidden trace no marker moves, and no point is near.
+            f.chart->setCurveVisible(1, false);
+            f.chart->updateMarkerDragAt(f.pixel(f.first, 5));
+            QCOMPARE(f.told(), QString());
+            int index = -1;
+            double distance = -1.0;
+            QVERIFY(!f.chart->nearestPoint(1, f.pixel(f.first, 5), index, distance));
+            f.chart->setCurveVisible(1, true);
+            // Without its triangle it moves, but no line leads to it.
+            f.plot->removeItem(f.tracer(1, 2));
+            const int items = f.plot->itemCount();
+            f.chart->updateMarkerDragAt(f.pixel(f.first, 4) + QPoint(20, 20));
+            QVERIFY(f.told().startsWith("move 1 2 "_s));
+            QCOMPARE(f.plot->itemCount(), items);
+            // In a plot too small to show anything it stays.
+            f.plot->resize(20, 20);
+            f.plot->replot();
+            f.chart->updateMarkerDragAt({5, 5});
+            QCOMPARE(f.told(), QString());
+            f.chart.reset(); // and the resize is answered no more
+            QCoreApplication::processEvents();
+        }
+    }
+
     void hidingThePlotEndsTheDragOnce()
     {
         MarkerScene f;

@@ -65,6 +65,7 @@ private Q_SLOTS:
         QVERIFY(f.plot->itemCount() > 0);
         const QImage without = f.picture();
         QVERIFY(!circle->setVswr(1.0) && !circle->setCircle({0.0, 0.0}, 0.0));
+        QVERIFY(!circle->setCircle({qQNaN(), 0.0}, 0.5));
         QVERIFY(!circle->setQuality(-1.0) && !circle->setReactance(0.0));
         QCOMPARE(f.picture(), without);
         circle->setPen(QPen(Qt::red, 1.0));
@@ -151,6 +152,36 @@ private Q_SLOTS:
         QCOMPARE(f.plot->itemCount(), items);
     }
 
+    /// A single point that fails is seen as well as a stretch, and without a range nothing is drawn.
+    void aPointThatFails()
+    {
+        Scene f;
+        f.chart->setCurveData(1, {}, {0.1, 0.6, 0.1}, {0.0, 0.0, 0.1});
+        auto *const limit = new SmithLimit(f.chart);
+        LimitArea area;
+        area.setCircle({0.0, 0.0}, 0.5, LimitArea::StayInside);
+        limit->setArea(area);
+        QCOMPARE(limit->test(1).failing.size(), 1);
+        QVERIFY(f.isRed({0.6, 0.0}));
+        QVERIFY(!f.isRed({0.5, 0.0}) && !f.isRed({0.1, 0.0}));
+        // Without the chart's layers it goes to the plot's own.
+        f.plot->removeLayer(f.plot->layer("smithFailures"_s));
+        f.plot->removeLayer(f.plot->layer("tracers_active"_s));
+        const SmithLimit late(f.chart);
+        QCOMPARE(f.plot->item(f.plot->itemCount() - 1)->layer()->name(), "main"_s);
+        // A plot that has no size yet is not asked to draw.
+        QCustomPlot plot;
+        plot.resize(0, 0);
+        QCoreApplication::processEvents(); // it draws itself once
+        SmithChartPlot chart(&plot, SmithChart::Basic);
+        QVERIFY(chart.addCurve(1, QPen()));
+        auto *const circle = new SmithCircle(plot.xAxis, plot.yAxis);
+        QVERIFY(circle->setVswr(2.0));
+        QSignalSpy replots(&plot, &QCustomPlot::beforeReplot);
+        QCoreApplication::processEvents();
+        QVERIFY(replots.isEmpty());
+    }
+
     void whoeverGoesFirst()
     {
         Scene f;
@@ -161,7 +192,16 @@ private Q_SLOTS:
         f.plot.reset();
         QVERIFY(!limit->test(1).passed()); // the data are still there
         limit->setVisible(false);
-        delete f.chart; // and the limit with it
+        limit->setColors(Qt::black, Qt::red);
+        limit->setParent(nullptr);
+        delete f.chart; // and the limit with it, unless the host keeps that
+        QVERIFY(limit->test(1).passed() && limit->result().tested == 0);
+        limit->setArea(area);
+        limit->setVisible(true);
+        delete limit;
+        SmithLimit loose(nullptr);
+        loose.setArea(area);
+        QVERIFY(loose.test(1).passed() && loose.area().contains({0.1, 0.1}));
         SmithChartPlot chart(nullptr, SmithChart::Basic);
         QVERIFY(!chart.addCurve(1, QPen()) && !chart.beginMarkerDragAt({}) && !chart.getPlot());
         SmithLimit none(&chart);

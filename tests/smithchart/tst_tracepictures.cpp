@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "chartscene.h"
+
 #include <controls/thememanager.h>
 #include <plot/tracegraph.h>
-#include <smithchart/smithchartplot.h>
 
 #include <tracesamples.h>
 #include <vnatest.h>
@@ -223,6 +224,75 @@ private Q_SLOTS:
         };
         compare(curve, spiral);
         compare(graph, wanted);
+    }
+
+    /// What a host makes of a trace's curve is drawn as by any other.
+    void curvesWithALookOfTheirOwn()
+    {
+        using Change = std::function<void(QCPCurve *)>;
+        const Change changes[] = {
+            [](QCPCurve *curve) { curve->setBrush(Qt::red); },
+            [](QCPCurve *curve) { curve->setScatterStyle(QCPScatterStyle::ssDisc); },
+            [](QCPCurve *curve) { curve->setLineStyle(QCPCurve::lsNone); },
+            [](QCPCurve *curve) {
+                curve->setSelectable(QCP::stWhole);
+                curve->setSelection(QCPDataSelection(QCPDataRange(0, 3)));
+            },
+            [](QCPCurve *curve) {
+                curve->setKeyAxis(curve->parentPlot()->yAxis);
+                curve->setValueAxis(curve->parentPlot()->xAxis);
+            },
+            [](QCPCurve *curve) { curve->setValueAxis(curve->parentPlot()->xAxis2); },
+            [](QCPCurve *curve) { curve->keyAxis()->setScaleType(QCPAxis::stLogarithmic); },
+            [](QCPCurve *curve) { curve->valueAxis()->setScaleType(QCPAxis::stLogarithmic); },
+        };
+        for (const Change &change : changes) {
+            const ChartScene f({400, 400});
+            f.chart->addCurve(1, QPen(Qt::black));
+            f.chart->setTraceWidths(3.0, 3.0); // one stroke
+            const QVector<double> real{0.1, 0.8, 0.4}, imag{0.2, 0.3, 0.7};
+            f.chart->setCurveData(1, {}, real, imag);
+            QCPCurve *const curve = f.chart->getCurve(1);
+            auto *const plain = new QCPCurve(f.plot->xAxis, f.plot->yAxis);
+            plain->setData(real, imag);
+            plain->setPen(curve->pen());
+            plain->setAntialiased(true);
+            f.hideAll();
+            const QImage empty = f.picture(400, 400);
+            curve->setVisible(true);
+            const QImage before = f.picture(400, 400);
+            change(curve);
+            const QImage drawn = f.picture(400, 400);
+            curve->setVisible(false);
+            change(plain);
+            plain->setVisible(true);
+            QCOMPARE(drawn, f.picture(400, 400));
+            QVERIFY(drawn != before && before != empty);
+        }
+    }
+
+    /// A picture larger than any mask, and a point at infinity.
+    void graphThatNoMaskHolds()
+    {
+        QCustomPlot plot;
+        plot.xAxis->setRange(0.0, 4.0);
+        plot.yAxis->setRange(0.0, 4.0);
+        auto *const graph = new Plot::TraceGraph(plot.xAxis, plot.yAxis);
+        graph->setData(QVector<double>{0.5, 3.0}, QVector<double>{1.0, 3.5});
+        graph->setPen(QPen(Qt::blue, 2.0));
+        graph->setAntialiased(true);
+        const QImage bounded = plot.toPixmap(300, 300).toImage();
+        const QImage large = plot.toPixmap(4200, 60).toImage();
+        graph->addData(std::numeric_limits<double>::infinity(), 2.0);
+        QCOMPARE(plot.toPixmap(300, 300).toImage(), bounded);
+        graph->setVisible(false);
+        auto *const wanted = plot.addGraph();
+        wanted->setData(QVector<double>{0.5, 3.0}, QVector<double>{1.0, 3.5});
+        wanted->setPen(QPen(Qt::blue, 2.0));
+        wanted->setAntialiased(true);
+        QCOMPARE(large, plot.toPixmap(4200, 60).toImage());
+        wanted->setVisible(false);
+        QVERIFY(large != plot.toPixmap(4200, 60).toImage());
     }
 
     /// Noise goes all ways at once; what is drawn stays within the mask.

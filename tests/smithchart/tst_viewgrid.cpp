@@ -224,8 +224,11 @@ private Q_SLOTS:
             QVERIFY(viewGridLines(whole, {bad, 27.0}).isEmpty());
             QVERIFY(viewGridLines(whole, {1.0, bad}).isEmpty());
             QVERIFY(viewGridLines({whole.rect, bad}, {1.0, 27.0}).isEmpty());
-            QVERIFY(viewGridLines({QRectF(0.0, 0.0, bad, 1.0), 100.0}, {1.0, 27.0}).isEmpty());
+            for (const QRectF &rect : {QRectF(0.0, 0.0, bad, 1.0), QRectF(0.0, 0.0, 1.0, bad)})
+                QVERIFY(viewGridLines({rect, 100.0}, {1.0, 27.0}).isEmpty());
         }
+        for (const QPointF &corner : {QPointF(qQNaN(), 0.0), QPointF(0.0, qInf())})
+            QVERIFY(viewGridLines({{corner, QSizeF(1.0, 1.0)}, 100.0}, {1.0, 27.0}).isEmpty());
     }
 
     void texts()
@@ -235,6 +238,7 @@ private Q_SLOTS:
                  QChar(0x2212) + "j2"_s);
         QCOMPARE(gridLabelText(GridPart::Imaginary, 1500.0, GridUnit::Ohms), "j1.5k"_s);
         QCOMPARE(gridLabelText(GridPart::Real, 2e6, GridUnit::Ohms), "2M"_s);
+        QCOMPARE(gridLabelText(GridPart::Real, 2.5, GridUnit::Siemens), "2.5"_s);
         QCOMPARE(gridLabelText(GridPart::Real, 0.02, GridUnit::Siemens), "20m"_s);
         QCOMPARE(gridLabelText(GridPart::Imaginary, 0.01172, GridUnit::Siemens), "j11.72m"_s);
         QCOMPARE(gridLabelText(GridPart::Real, 0.0005, GridUnit::Siemens), "500"_s + QChar(0xb5));

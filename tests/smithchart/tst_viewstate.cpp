@@ -116,6 +116,7 @@ private Q_SLOTS:
         QCOMPARE(s.centerX, 0.3);
         QCOMPARE(s.centerY, 0.0);
         QVERIFY(isWholeChart(viewStateFromRanges({0.2, 0.2, 0.0, 1.0}, base)));
+        QVERIFY(isWholeChart(viewStateFromRanges({0.0, 1.0, 0.2, 0.2}, base)));
         QVERIFY(isWholeChart(viewStateFromRanges({0.0, qInf(), 0.0, 1.0}, base)));
         QVERIFY(isWholeChart(viewStateFromRanges({0.0, 1.0, qQNaN(), 1.0}, base)));
     }
