@@ -118,6 +118,8 @@ void OverlayContainer::showWithDialog(QDialog *dialog, OutsideClickAction action
     show();
     if (self && shown)
         shown->show();
+    else if (self)
+        hide(); // nothing to show, nothing to cover
     if (frozen)
         frozen->setUpdatesEnabled(true);
 }
@@ -300,10 +302,8 @@ bool OverlayContainer::isOutside(const QPointF &position, const QPointF &globalP
 /// Forgets the dialog and hides.
 void OverlayContainer::releaseDialog()
 {
-    if (d->dialog) {
-        d->dialog->disconnect(this);
-        d->dialog->removeEventFilter(this);
-    }
+    d->dialog->disconnect(this);
+    d->dialog->removeEventFilter(this);
     d->dialog = nullptr;
     d->anchor = nullptr;
     setFocusProxy(nullptr);

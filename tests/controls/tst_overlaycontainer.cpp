@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include <events.h>
 #include <pointer.h>
 #include <vnatest.h>
 
@@ -66,7 +67,24 @@ private Q_SLOTS:
         QCOMPARE(loose.parentWidget(), m_window.get());
         QCOMPARE(loose.geometry(), m_window->rect());
         dialog->accept();
+        loose.attachToHost(nullptr); // follows it no longer
+        m_window->resize(300, 200);
+        QCOMPARE(loose.geometry(), QRect(0, 0, 700, 500));
+        // Nobody but itself to cover: a dialog without a parent is shown all the same.
         loose.setParent(nullptr);
+        QDialog alone;
+        alone.setFixedSize(200, 100);
+        OverlayContainer nowhere(nullptr);
+        showOn(&nowhere, &alone);
+        QVERIFY(alone.isVisible() && alone.isWindow() && !nowhere.parentWidget());
+        alone.accept();
+        QVERIFY(nowhere.isHidden());
+        // Shown by the host without a dialog, it still covers.
+        overlay.setParent(m_window.get());
+        overlay.attachToHost(m_window.get());
+        overlay.show();
+        m_window->resize(310, 210);
+        QCOMPARE(overlay.geometry(), QRect(0, 0, 310, 210));
     }
 
     void showsCentredAndHidesWithTheDialog()
@@ -97,10 +115,13 @@ private Q_SLOTS:
         QVERIFY(overlay.isHidden());
         QVERIFY(!overlay.activeDialog());
 
-        // Shown again, it ends again; one ending is one ending.
+        // Shown again, it ends again; one ending is one ending. A host that draws nothing for now
+        // goes on drawing nothing.
+        m_window->setUpdatesEnabled(false);
         showOn(&overlay, dialog);
         showOn(&overlay, dialog);
         QVERIFY(overlay.isVisible() && dialog->isVisible());
+        QVERIFY(!m_window->updatesEnabled());
         dialog->reject();
         QVERIFY(overlay.isHidden());
     }
@@ -184,6 +205,7 @@ private Q_SLOTS:
         QVERIFY(outside.isEmpty());
 
         (void)sendTouchWithoutPoints(&overlay, QEvent::TouchBegin);
+        (void)sendTouchWithoutPoints(&overlay, QEvent::TouchCancel);
         TouchScreen screen(m_window.get());
         screen.tap(QPoint(320, 240));
         QVERIFY(outside.isEmpty());
@@ -203,6 +225,9 @@ private Q_SLOTS:
         OverlayContainer overlay(m_window.get());
         QDialog *dialog = makeDialog();
         QLineEdit first(dialog);
+        QWidget proxied(dialog); // where the focus cannot stay
+        proxied.setFocusPolicy(Qt::StrongFocus);
+        proxied.setFocusProxy(&first);
         QLineEdit second(dialog);
         QLineEdit disabled(dialog);
         disabled.setEnabled(false);
@@ -223,6 +248,30 @@ private Q_SLOTS:
         typeKey(m_window.get(), Qt::Key_Tab);
         QVERIFY(first.hasFocus());
         dialog->accept();
+        // One in a window of its own keeps its focus to itself.
+        editor.setFocus();
+        QDialog *const window = makeDialog(Qt::Dialog);
+        showOn(&overlay, window);
+        sendKey(&overlay, Qt::Key_Tab);
+        QCOMPARE(m_window->focusWidget(), m_button);
+        window->accept();
+    }
+
+    /// What is shown may be gone before it is shown, and the layer itself, too.
+    void goneWhenShown()
+    {
+        for (const auto type : {QEvent::Show, QEvent::ShowToParent}) {
+            QPointer<OverlayContainer> overlay = new OverlayContainer(m_window.get());
+            const QPointer<QDialog> dialog = makeDialog();
+            dialog->hide(); // as one that was shown before
+            const OnEvent end(overlay, type, [&] { delete dialog; });
+            showOn(overlay, dialog);
+            QVERIFY(overlay->isHidden() && m_window->updatesEnabled());
+            const QPointer<QDialog> window = makeDialog(Qt::Dialog);
+            const OnEvent last(overlay, QEvent::ShowToParent, [&] { delete overlay; });
+            showOn(overlay, window);
+            QVERIFY(!overlay && window && m_window->updatesEnabled());
+        }
     }
 
     void neverBlocksTheHostWithoutADialog()

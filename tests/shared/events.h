@@ -7,6 +7,9 @@
 #include <QPointer>
 #include <QWheelEvent>
 
+#include <functional>
+#include <utility>
+
 /*! Events sent to an object itself, past the window and the focus; pointer.h has those that take the
     way through a window. */
 namespace VnaTest
@@ -23,6 +26,30 @@ inline void sendKey(QObject *receiver, int key, const QString &text = QString(),
             QCoreApplication::sendEvent(alive, &event);
     }
 }
+
+/// Answers the first event of a type that an object is sent, after which the object may be gone.
+class OnEvent : public QObject
+{
+public:
+    OnEvent(QObject *object, QEvent::Type type, std::function<void()> answer)
+        : m_type(type)
+        , m_answer(std::move(answer))
+    {
+        object->installEventFilter(this);
+    }
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() != m_type || !m_answer)
+            return QObject::eventFilter(object, event);
+        const QPointer<QObject> alive(object);
+        std::exchange(m_answer, nullptr)();
+        return !alive;
+    }
+
+private:
+    QEvent::Type m_type;
+    std::function<void()> m_answer;
+};
 
 /// Sends an event that was refused so far; whether it is taken.
 inline bool isTaken(QObject *receiver, QEvent &event)
