@@ -154,7 +154,7 @@ void DraggableDialogTitleBar::onMaximizeClicked(bool checked)
         d->dialog->showNormal();
     else
         d->dialog->showMaximized();
-    if (!self || !d->maximizeButton || !d->dialog)
+    if (!self || !d->maximizeButton)
         return;
     d->maximizeButton->setProperty("max", d->dialog->isMaximized());
     d->maximizeButton->style()->unpolish(d->maximizeButton);
@@ -270,7 +270,7 @@ bool DraggableFramelessDialog::shouldStartDrag(QWidget *bar, const QPoint &local
     if (!bar)
         return false;
     const QWidget *child = bar->childAt(localPos);
-    if (!child || child == bar)
+    if (!child)
         return true;
     if (qobject_cast<const QAbstractButton *>(child) || qobject_cast<const QAbstractSlider *>(child)
         || qobject_cast<const QLineEdit *>(child))

@@ -351,8 +351,7 @@ void TouchNumKeyboard::clickedKey()
 /// Pages the unit column, or sends the unit of the pressed button to the focused widget.
 void TouchNumKeyboard::shortCutsKeyClicked()
 {
-    if (auto *button = qobject_cast<QPushButton *>(sender()))
-        typeKey(QApplication::focusWidget(), d_ptr->units.press(button));
+    typeKey(QApplication::focusWidget(), d_ptr->units.press(qobject_cast<QPushButton *>(sender())));
 }
 
 void TouchNumKeyboard::updateButtons()

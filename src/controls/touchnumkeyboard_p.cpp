@@ -230,7 +230,7 @@ void TouchNumKeyboardPrivate::handleIndicatorMouse(const QMouseEvent *event)
         Q_EMIT q->indicatorPress(position);
     } else if (left && event->type() == QEvent::MouseButtonDblClick) {
         Q_EMIT q->indicatorDoubleClick(position);
-    } else if (left && event->type() == QEvent::MouseButtonRelease) {
+    } else if (left) {
         Q_EMIT q->indicatorRelease(position);
     }
 }

@@ -96,7 +96,7 @@ KeySpec UnitColumn::press(QPushButton *button)
     const QString caption = button->text();
     int start = m_start;
     if (isPaging() && caption == TouchNumKeyboard::tr("PgUp"))
-        start -= start == 3 || start == 4 ? 3 : 2;
+        start -= start == 3 ? 3 : 2;
     else if (isPaging() && caption == TouchNumKeyboard::tr("PgDn"))
         start += page() == 0 ? 3 : 2;
     else if (isPaging() && caption == TouchNumKeyboard::tr("More"))

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The VnaWidgets authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <controls/baseunitadapter.h>
+#include <controls/scaledunitadapter.h>
 
 #include <cmath>
 #include <limits>
 
+#include <events.h>
 #include <vnatest.h>
 
 using namespace VnaTest;
@@ -255,6 +256,20 @@ private Q_SLOTS:
             QCOMPARE(log.join(QLatin1Char('|')),
                      result < 0 ? QString() : "finished %1"_s.arg(result));
             dialog.hide();
+        }
+    }
+
+    /// Whoever is told of a key may end the adapter.
+    void endedByWhatItTells()
+    {
+        for (const auto &[key, text] :
+             {std::pair(Qt::Key_Period, "1"_s), {Qt::Key_Return, "1..2"_s}}) {
+            QPointer<BaseUnitAdapter> adapter = new Controls::ScaledUnitAdapter({});
+            QSignalSpy refused(adapter, &BaseUnitAdapter::entryRefused);
+            connect(adapter, &BaseUnitAdapter::specialKeyHandled, this, [&] { delete adapter; });
+            publish(adapter, text);
+            sendKey(adapter, key);
+            QVERIFY(!adapter && refused.isEmpty());
         }
     }
 

@@ -42,6 +42,34 @@ private Q_SLOTS:
         }
     }
 
+    /// A row that is wider than the list loses as much at both sides; with an icon, its end.
+    void rowsWiderThanTheList()
+    {
+        ComboBox box;
+        box.addItem("123456789"_s);
+        QPixmap icon(16, 16);
+        icon.fill(Qt::red);
+        box.addItem(icon, "123456789"_s);
+        const auto paint = [&box](const QAbstractItemDelegate &delegate, int row, int missing) {
+            const QModelIndex index = box.model()->index(row, 0);
+            QStyleOptionViewItem option;
+            option.initFrom(box.view());
+            const QSize size = box.itemDelegate()->sizeHint(option, index);
+            QImage image(size - QSize(missing, 0), QImage::Format_RGB32);
+            image.fill(Qt::white);
+            option.rect = image.rect();
+            QPainter painter(&image);
+            delegate.paint(&painter, option, index);
+            return image;
+        };
+        const QStyledItemDelegate plain;
+        const QAbstractItemDelegate &ours = *box.itemDelegate();
+        const QImage whole = paint(ours, 0, 0);
+        QCOMPARE(whole, paint(plain, 0, 0));
+        QCOMPARE(paint(ours, 0, 20), whole.copy(10, 0, whole.width() - 20, whole.height()));
+        QCOMPARE(paint(ours, 1, 20), paint(plain, 1, 20));
+    }
+
     void showsTheCurrentEntry()
     {
         ComboBox box;
@@ -54,6 +82,26 @@ private Q_SLOTS:
         QTest::keyClick(box.view(), Qt::Key_Return);
         QCOMPARE(box.currentIndex(), 0);
         QVERIFY(!box.view()->isVisible());
+    }
+
+    /// A host that has taken the list apart gets a warning, and its entry all the same.
+    void listTakenApart()
+    {
+        ComboBox box;
+        box.addItems({"1"_s, "2"_s});
+        box.show();
+        QAbstractItemView *const view = box.view();
+        QWidget *const container = view->parentWidget();
+        container->setParent(nullptr);
+        QCOMPARE(box.popupWidgetAdjustSize().height(), container->height());
+        view->setParent(nullptr);
+        QCOMPARE(box.popupWidgetAdjustSize(), QSize(box.popupWidgetCalculateWidth(), 0));
+        expectWarning("ComboBox: Could not find popup widget after base showPopup()!"_s);
+        box.showPopup();
+        box.hidePopup();
+        QCOMPARE(box.currentIndex(), 0);
+        view->setParent(container);
+        container->setParent(&box);
     }
 
     void disabledEntries()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/draggableframelessdialog.h>
 
+#include <events.h>
 #include <pointer.h>
 #include <vnatest.h>
 
@@ -156,6 +157,7 @@ private Q_SLOTS:
         mouseMove(scene.bar, QPoint(5, 5));
         QCOMPARE(scene.position(), end);
 
+        QVERIFY(!sendTouchWithoutPoints(scene.bar, QEvent::TouchBegin));
         touch.press(Title);
         QVERIFY(sendTouchWithoutPoints(scene.bar, QEvent::TouchCancel));
         touch.move(Title + QPoint(20, 10));
@@ -187,6 +189,20 @@ private Q_SLOTS:
             scene.release();
             QCOMPARE(scene.position(), start);
         }
+        TouchScreen touch(&scene.dialog);
+        touch.press(QPoint(130, 10));
+        touch.move(QPoint(160, 40));
+        touch.release(QPoint(160, 40));
+        QCOMPARE(scene.position(), start);
+        // Nor does a bar that the host has put there.
+        Bar other(&scene.dialog);
+        other.installEventFilter(&scene.dialog);
+        other.setGeometry(0, 60, 200, 35);
+        other.show();
+        scene.press(Title + QPoint(0, 60));
+        scene.moveBy(QPoint(30, 30));
+        scene.release();
+        QCOMPARE(scene.position(), start);
         QVERIFY(!scene.dialog.shouldStartDrag(nullptr, Title));
         QVERIFY(scene.dialog.shouldStartDrag(scene.bar, Title));
     }
@@ -212,6 +228,10 @@ private Q_SLOTS:
             QCOMPARE(scene.dialog.isMaximized(), maximized);
             QCOMPARE(maximize->property("max"), QVariant(maximized));
         }
+
+        mouseClick(scene.bar->findChild<QPushButton *>("draggableDialogMinimizeButton"_s));
+        QVERIFY(scene.dialog.isMinimized());
+        scene.dialog.showNormal();
 
         scene.dialog.setHeaderButton(Bar::CloseButton);
         QCOMPARE(buttonsOf(scene.bar), QStringList("draggableDialogCloseButton"_s));
@@ -260,8 +280,33 @@ private Q_SLOTS:
         }
     }
 
+    /// What maximising leads to in the host may take the button away, or the whole bar.
+    void maximisedAndGone()
+    {
+        for (const bool whole : {false, true}) {
+            Scene scene;
+            scene.dialog.setHeaderButton(Bar::MaximizeButton);
+            const OnEvent end(&scene.dialog, QEvent::WindowStateChange, [&] {
+                if (whole)
+                    delete scene.bar;
+                else
+                    scene.dialog.setHeaderButton({});
+            });
+            scene.bar->findChild<QPushButton *>()->click();
+            QVERIFY(scene.dialog.isMaximized());
+            QCOMPARE(bool(scene.bar), !whole);
+        }
+    }
+
     void survivesWhatGoesBeforeIt()
     {
+        DraggableFramelessDialog unseen; // has no window yet
+        unseen.resize(200, 100);
+        auto *const bar = unseen.findChild<Bar *>();
+        bar->setGeometry(0, 0, 200, 35);
+        QTest::mousePress(bar, Qt::LeftButton, Qt::NoModifier, Title);
+        QVERIFY(unseen.pos().isNull());
+
         Bar orphan(nullptr);
         orphan.setHeaderButton(AllButtons);
         for (QPushButton *button : orphan.findChildren<QPushButton *>())
@@ -282,6 +327,10 @@ private Q_SLOTS:
         scene.dialog.setWindowTitle("gone"_s);
         scene.host.resize(300, 300);
         QCoreApplication::processEvents();
+        scene.dialog.hide();
+        scene.dialog.show(); // as wide as its content
+        scene.dialog.resize(210, 160);
+        QCOMPARE(scene.dialog.size(), QSize(210, 160));
     }
 };
 

@@ -185,6 +185,90 @@ private Q_SLOTS:
         QCOMPARE(adapter->getRealValue(), 54e9);
     }
 
+    /// Whatever a commit, or the keypad that it closes, ends in the host.
+    void commitsThatEndSomething()
+    {
+        enum What { Field, LineEdit, Keypad, FieldWithKeypad };
+        for (const What what : {Field, LineEdit, Keypad, FieldWithKeypad}) {
+            for (const bool byReturn : {true, false}) {
+                const Row row("%1, %2"_s.arg(what).arg(byReturn));
+                m_keypad = new TouchNumKeyboard(m_window.get());
+                auto *adapter = frequencyAdapter(m_window.get());
+                QPointer<EditableWidget> field = addField(adapter);
+                field->setClosesKeyboard(true);
+                m_keypad->open();
+                field->setFocus();
+                QCoreApplication::processEvents();
+                type("3"_s);
+                int commits = 0;
+                const auto end = [&] {
+                    if (what == LineEdit)
+                        delete lineEdit(field);
+                    else if (what == Keypad)
+                        delete m_keypad;
+                    else
+                        delete field;
+                };
+                connect(adapter, &BaseUnitAdapter::editingFinished, this, [&] {
+                    if (++commits == 1 && what != FieldWithKeypad)
+                        end();
+                });
+                if (what == FieldWithKeypad)
+                    connect(m_keypad, &QDialog::finished, this, end);
+                if (byReturn)
+                    type("\r"_s);
+                else
+                    m_other->setFocus();
+                QCOMPARE(commits, 1);
+                QCOMPARE(adapter->getRealValue(), 3e9);
+                delete field;
+                delete m_keypad;
+            }
+        }
+    }
+
+    void adaptersAndKeypadsChange()
+    {
+        class Field : public EditableWidget
+        {
+        public:
+            using EditableWidget::EditableWidget;
+            using IEditableTitleWidget::setKeyboard;
+        };
+        auto *first = frequencyAdapter(m_window.get());
+        auto *second = frequencyAdapter(m_window.get());
+        second->setRealValue(7e6);
+        Field field(m_keypad, first, m_window->centralWidget());
+        field.show();
+        field.setFocus();
+        QCoreApplication::processEvents();
+        // Another adapter in the middle of an edit takes it over, and so does another keypad.
+        field.setAdapter(second);
+        QCOMPARE(m_keypad->receiver(), second);
+        QTRY_COMPARE(lineEdit(&field)->selectedText(), "7"_s);
+        auto *bare = new BaseUnitAdapter(m_window.get()); // without a unit to keep out of
+        bare->setRealValue(42.0);
+        field.setAdapter(bare);
+        QTRY_COMPARE(lineEdit(&field)->selectedText(), "42"_s);
+        lineEdit(&field)->deselect();
+        Q_EMIT m_keypad->indicatorDoubleClick(0);
+        QCOMPARE(lineEdit(&field)->selectedText(), "42"_s);
+        TouchNumKeyboard other(m_window.get());
+        field.setKeyboard(&other);
+        lineEdit(&field)->setSelection(0, 1);
+        Q_EMIT m_keypad->indicatorDoubleClick(0); // no longer its own
+        QCOMPARE(lineEdit(&field)->selectedText(), "4"_s);
+        QWidget *const proxy = other.focusProxy();
+        field.overrideKeyboardFocusProxy(nullptr);
+        QCOMPARE(other.focusProxy(), proxy);
+        // One that goes before the edit has begun leaves nothing to select.
+        m_other->setFocus();
+        field.setFocus();
+        delete bare;
+        QCoreApplication::processEvents();
+        QVERIFY(!field.adapter() && lineEdit(&field)->hasFocus());
+    }
+
     void theIndicatorMirrorsTheField()
     {
         const auto *field = openEditor(m_keypad, frequencyAdapter(m_window.get()), true);

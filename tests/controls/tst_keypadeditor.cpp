@@ -4,6 +4,8 @@
 
 #include "fieldscene.h"
 
+#include <events.h>
+
 using namespace VnaTest;
 
 class tst_KeypadEditor : public TestCase, private FieldScene
@@ -42,6 +44,42 @@ private Q_SLOTS:
         QCOMPARE(edit->text(), "1.2GHz"_s);
         type("\x1b"_s);
         QCOMPARE(adapter->getRealValue(), 1.2e9);
+    }
+
+    /// The text area goes with its keypad, which the host may keep the editor beyond.
+    void outlivesItsKeypad()
+    {
+        auto *adapter = frequencyAdapter(m_window.get());
+        auto *other = frequencyAdapter(m_window.get());
+        KeypadEditor editor(m_keypad, adapter);
+        editor.setParent(nullptr);
+        m_keypad->open();
+        delete m_keypad;
+        adapter->setProperty("inputText", "3GHz"_s);
+        sendKey(adapter, Qt::Key_Return);
+        QCOMPARE(adapter->getRealValue(), 3e9);
+        editor.setEditorText("4"_s, 0, 0, 0);
+        editor.onFocus();
+        editor.setAdapter(other);
+        QCOMPARE(editor.adapter(), other);
+        delete other;
+        editor.onFocus();
+        QCoreApplication::processEvents();
+        QVERIFY(!editor.adapter());
+    }
+
+    /// One that ends itself where an edit begins.
+    void endsWhenItGetsTheFocus()
+    {
+        class Once : public KeypadEditor
+        {
+        public:
+            using KeypadEditor::KeypadEditor;
+            void onFocus() override { delete this; }
+        };
+        const QPointer<KeypadEditor> editor = new Once(m_keypad, frequencyAdapter(m_window.get()));
+        m_keypad->open();
+        QVERIFY(!editor && m_keypad->isVisible());
     }
 
     void aSecondFieldInTheKeypad()

@@ -5,6 +5,7 @@
 #include <controls/overlaycontainer.h>
 #include <controls/touchnumkeyboard.h>
 
+#include <events.h>
 #include <pointer.h>
 #include <vnatest.h>
 
@@ -184,11 +185,24 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1);
         field.setValue(43.0);
         QCOMPARE(own->getRealValue(), 43.0);
+        field.setUnit("V"_s); // for later
+        field.setSingleStep(3.0);
+        QCOMPARE(text(), "43"_s);
+        sendKey(own.get(), Qt::Key_Up);
+        QCOMPARE(field.value(), 46.0);
         field.setAdapter(nullptr);
-        QCOMPARE(text(), "-7Hz"_s);
+        field.setAdapter(nullptr);
+        QCOMPARE(text(), "-7V"_s);
         field.setAdapter(own.get());
         own.reset();
         QCOMPARE(field.value(), 0.0);
+        field.setValue(5.0); // nobody keeps it
+        static_cast<Controls::IEditableTitleWidget &>(field).onFocus();
+        field.setRange(-9.0, 9.0);
+        field.setSingleStep(1.0);
+        QCOMPARE(field.value(), 0.0);
+        field.setAdapter(nullptr);
+        QCOMPARE(text(), "-7V"_s);
     }
 
     void refusesWhatIsNoRangeOrStep()
@@ -214,9 +228,39 @@ private Q_SLOTS:
         QCOMPARE(f.field->value(), -1.0);
     }
 
+    /// A commit that comes from elsewhere, also where it ends the field.
+    void commitsWithoutItsKeypad()
+    {
+        QPointer<NumericField> field = new NumericField;
+        const auto commit = [&field](const QString &text) {
+            field->adapter()->setProperty("inputText", text);
+            sendKey(field->adapter(), Qt::Key_Return);
+            QCoreApplication::processEvents();
+        };
+        commit("5"_s);
+        QCOMPARE(field->value(), 5.0);
+        QSignalSpy finished(field->keypad(), &QDialog::finished);
+        commit("6"_s);
+        QCOMPARE(field->value(), 6.0);
+        QVERIFY(finished.isEmpty()); // it was not open
+        field->setRange(0.0, 6.5);
+        QSignalSpy entered(field, &NumericField::valueEntered);
+        QSignalSpy limited(field, &NumericField::valueClamped);
+        connect(field, &NumericField::valueChanged, this, [&field] { delete field; });
+        commit("7"_s);
+        QVERIFY(!field && entered.isEmpty() && limited.isEmpty());
+    }
+
     void keypadStaysAwayWhereNothingCanBeEntered()
     {
         Scene f;
+        f.tap();
+        f.type("12");
+        f.field->openKeypad(); // it is: what is typed stays
+        QCOMPARE(f.editor()->text(), "12 nF"_s);
+        QVERIFY(!f.editor()->hasSelectedText());
+        f.press("btnEsc"_s);
+        QTRY_VERIFY(!f.field->keypad()->isVisible());
         const auto opens = [&f](Qt::MouseButton button = Qt::LeftButton) {
             QTest::mouseClick(f.editor(), button);
             const bool opened = f.field->keypad()->isVisible();

@@ -53,6 +53,7 @@ private Q_SLOTS:
             const QString typed = QString::fromUtf8(text);
             QVERIFY2(std::isnan(adapter.convertToBase(typed)), text);
         }
+        QVERIFY(std::isnan(ScaledUnitAdapter(frequencyUnits()).convertToBase("1e305GHz"_s)));
     }
 
     void choosesAndKeepsUnits()
@@ -79,7 +80,8 @@ private Q_SLOTS:
 
     void uselessUnitsAreLeftOut()
     {
-        ScaledUnitAdapter adapter({{QString(), 1.0}, {"m"_s, 0.0}, {"k"_s, qQNaN()}, {"V"_s, 1.0}});
+        ScaledUnitAdapter adapter(
+            {{QString(), 1.0}, {"m"_s, 0.0}, {"k"_s, qQNaN()}, {"M"_s, qInf()}, {"V"_s, 1.0}});
         QCOMPARE(adapter.availableUnits(), QStringList{"V"_s});
 
         ScaledUnitAdapter bare({});

@@ -66,6 +66,7 @@ private Q_SLOTS:
         row("negative up mirrors", -3.3e3, 1, -2e3);
         row("negative up from 1", -1e3, 1, -500.0);
         row("infinite", qInf(), 1, qInf());
+        row("no step", 3e3, 0, 3e3);
     }
 
     void sequenceOf125()
@@ -128,6 +129,8 @@ private Q_SLOTS:
         QCOMPARE(value * 1e16, 5.0);
         controller.stepBy(2e-16, -1);
         QCOMPARE(value * 1e16, 1.0);
+        controller.stepBy(2e-25, 1);
+        QVERIFY(qFuzzyCompare(value * 1e25, 5.0));
         controller.stepBy(0.0, 1);
         QCOMPARE(value, 0.0);
     }

@@ -61,6 +61,16 @@ private Q_SLOTS:
         qApp->setProperty("vnaSettingsPath", "/nowhere/settings.ini"_s);
         QCOMPARE(ThemeManager::instance()->currentTheme(), ThemeManager::Dark);
         QVERIFY(qApp->styleSheet().isEmpty());
+        // What is set before any theme is in force is told, but puts none in force.
+        auto *manager = ThemeManager::instance();
+        int told = 0;
+        connect(manager, &ThemeManager::themeChanged, this, [&told] { ++told; });
+        manager->setColor(ThemeManager::Dark, "gridColor"_s, Qt::red);
+        QTRY_COMPARE(told, 1);
+        manager->disconnect(this);
+        QVERIFY(qApp->styleSheet().isEmpty());
+        QCOMPARE(manager->gridColor(), QColor(Qt::red));
+        manager->setColor(ThemeManager::Dark, "gridColor"_s, {});
     }
 
     void cleanup()
@@ -244,6 +254,20 @@ private Q_SLOTS:
         QCOMPARE(manager->getColor("dialogColor"_s), QColor(0x10, 0x20, 0x30));
         QCOMPARE(manager->textColor(), QColor(Qt::white));
         QCOMPARE(manager->getMemoryTracePalette(), QVector<QColor>{Qt::red});
+        // One theme or one list of colours is enough.
+        for (const auto &[line, isRead] : {std::pair("Light/gridColor=#010203", true),
+                                           {"Dark/tracePalette=\"#00ff00\"", true},
+                                           {"Dark/memoryTracePalette=\"#0000ff\"", true},
+                                           {"Dark/tracePalette=no", false}}) {
+            writeFile(ini, "[ThemeColors]\n" + QByteArray(line) + '\n');
+            QCOMPARE(manager->readColors(ini), isRead);
+        }
+        QCOMPARE(manager->getTracePalette(), QVector<QColor>{Qt::green});
+        QCOMPARE(manager->getMemoryTracePalette(), QVector<QColor>{Qt::blue});
+        manager->setTheme(ThemeManager::Light);
+        QCOMPARE(manager->gridColor(), QColor(1, 2, 3));
+        manager->setColor(ThemeManager::Light, "gridColor"_s, {});
+        manager->setTracePalette(ThemeManager::Dark, {});
 
         writeFile(folder.filePath("theme-dark.css"_s), "QLabel { color: @dialogColor; }");
         manager->setSheetFolder(folder.path());

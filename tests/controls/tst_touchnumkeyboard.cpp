@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keypadscene.h"
 
+#include <controls/overlaycontainer.h>
+
+#include <events.h>
+
 #include <functional>
 #include <memory>
 #include <utility>
@@ -51,6 +55,12 @@ private Q_SLOTS:
             typeKey(f.window.get(), key);
         }
         QCOMPARE(receiver.log, QStringList({"+1000004:"_s, "+1000005:"_s, "+1000000:"_s}));
+        // One that makes nothing of them leaves them to the dialog.
+        QObject indifferent;
+        f.keypad->setReceiver(&indifferent);
+        QVERIFY(f.keypad->isVisible());
+        typeKey(f.window.get(), Qt::Key_Escape);
+        QVERIFY(f.keypad->isHidden());
     }
 
     void everyKeyFitsAFinger()
@@ -157,6 +167,32 @@ private Q_SLOTS:
         f.window->resize(120, 90);
         QCOMPARE(f.keypad->pos(), QPoint(0, 0));
         f.keypad->accept();
+
+        // Another window, when the host says so, and the first again when it no longer does.
+        QWidget other;
+        other.resize(700, 600);
+        other.show();
+        auto *const inside = new QWidget(&other);
+        f.keypad->setHostWindow(inside);
+        f.keypad->setDimEnabled(true);
+        f.keypad->open();
+        QCOMPARE(f.keypad->window(), &other);
+        const auto *overlay = other.findChild<Controls::OverlayContainer *>();
+        QVERIFY(overlay && overlay->isDimEnabled());
+        f.keypad->setDimEnabled(false); // while it is shown
+        QVERIFY(!overlay->isDimEnabled());
+        f.keypad->setHostWindow(nullptr);
+        f.keypad->open();
+        QCOMPARE(f.keypad->window(), f.window.get());
+        // Shown once more by the window system, it remembers who had the focus all the same.
+        QShowEvent shown;
+        QSpontaneKeyEvent::setSpontaneous(&shown);
+        f.keypad->setFocusPolicy(Qt::StrongFocus);
+        QWidget *const before = QApplication::focusWidget();
+        f.keypad->setFocus();
+        qApp->notify(f.keypad, &shown);
+        f.keypad->accept();
+        QCOMPARE(QApplication::focusWidget(), before);
     }
 
     void titleDragsInsideTheHost()
@@ -168,6 +204,10 @@ private Q_SLOTS:
         f.keypad->open();
         const QPoint start = f.keypad->pos();
         const QPoint grip = inWindow(name, name->rect().center());
+        mousePress(f.window.get(), grip, Qt::RightButton);
+        mouseMove(f.window.get(), grip + QPoint(30, -20));
+        mouseRelease(f.window.get(), grip, Qt::RightButton);
+        QCOMPARE(f.keypad->pos(), start);
         mousePress(f.window.get(), grip);
         mouseMove(f.window.get(), grip + QPoint(30, -20));
         QCOMPARE(f.keypad->pos(), start + QPoint(30, -20));
@@ -200,6 +240,10 @@ private Q_SLOTS:
             });
             f.keypad->setResult(QDialog::Accepted);
             QCOMPARE(f.keypad->exec(), std::exchange(expected, int(QDialog::Rejected)));
+            if (f.keypad) { // hidden as soon as it is shown
+                const OnEvent hides(f.keypad, QEvent::ShowToParent, [&] { f.keypad->hide(); });
+                QCOMPARE(f.keypad->exec(), int(QDialog::Rejected));
+            }
             const auto *overlay =
                 f.window ? f.window->findChild<QWidget *>("overlayContainer"_s) : nullptr;
             QVERIFY(!overlay || !overlay->isVisible());
@@ -223,6 +267,21 @@ private Q_SLOTS:
         // Without any main window it is a dialog of its own.
         keypad.open();
         QVERIFY(keypad.isWindow() && keypad.isVisible());
+        const QRect screen = keypad.screen()->availableGeometry();
+        const QPoint title(5, 5);
+        QTest::mousePress(&keypad, Qt::LeftButton, Qt::NoModifier, title);
+        QMouseEvent far(QEvent::MouseMove, title, screen.bottomRight() * 2, Qt::NoButton,
+                        Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&keypad, &far);
+        QVERIFY(screen.contains(keypad.geometry()));
+        QTest::mouseRelease(&keypad, Qt::LeftButton, Qt::NoModifier, title);
+        keypad.reject();
+        // Also after it was one of another kind, and nobody had the focus.
+        keypad.showGlobal();
+        QVERIFY(screen.contains(keypad.geometry()));
+        keypad.hide();
+        keypad.open();
+        QVERIFY(keypad.isModal() && !(keypad.windowFlags() & Qt::WindowDoesNotAcceptFocus));
         keypad.reject();
     }
 
@@ -255,7 +314,12 @@ private Q_SLOTS:
         QCOMPARE(told.mid(0, 3), QStringList({"press 0"_s, "move 10"_s, "release 10"_s}));
         QVERIFY(told.contains("double 10"_s));
         QVERIFY(!edit->hasSelectedText() && f.editor->hasFocus());
+        told.clear();
+        mouseClick(edit, right, Qt::MiddleButton);
+        mouseDoubleClick(edit, right, Qt::MiddleButton);
+        QCOMPARE(told, QStringList());
 
+        QVERIFY(!turnWheel(edit, {3, 3}, 120)); // nobody turns anything
         int turns = 0;
         connect(f.keypad, &TouchNumKeyboard::indicatorWheel, this, [&](QWheelEvent *event) {
             turns += event->angleDelta().y();
@@ -263,6 +327,30 @@ private Q_SLOTS:
         });
         QVERIFY(turnWheel(edit, {3, 3}, 120));
         QCOMPARE(turns, 120);
+        // Nor is it bothered by events of others that a host lets it see.
+        f.editor->installEventFilter(f.keypad);
+        mouseClick(f.editor, {5, 5});
+        QCOMPARE(told, QStringList());
+    }
+
+    /// What a press or the wheel leads to may end the keypad.
+    void goneByItsIndicator()
+    {
+        for (const bool wheel : {false, true}) {
+            KeypadScene f;
+            f.keypad->setIndicatorText("12"_s, 0, 0, 0);
+            f.keypad->open();
+            const auto end = [&f] { delete f.keypad; };
+            connect(f.keypad, &TouchNumKeyboard::indicatorPress, this, end);
+            connect(f.keypad, &TouchNumKeyboard::indicatorWheel, this, end);
+            QLineEdit *const edit = f.keypad->lineEdit();
+            if (wheel)
+                (void)turnWheel(edit, {3, 3}, 120);
+            else
+                mousePress(f.window.get(), inWindow(edit, {3, 3}));
+            QVERIFY(!f.keypad);
+            mouseRelease(f.window.get(), {5, 5});
+        }
     }
 
     void titleWidgetsAreOwned()
@@ -279,6 +367,19 @@ private Q_SLOTS:
         delete second;
         QVERIFY(!f.keypad->titleWidget());
         f.keypad->setTitleWidget(nullptr);
+
+        // So is what stands below the text area.
+        QPointer<QLabel> third = new QLabel("3"_s);
+        QPointer<QLabel> fourth = new QLabel("4"_s);
+        f.keypad->setExtraWidget(third);
+        f.keypad->setExtraWidget(third);
+        QTRY_VERIFY(third->isVisible());
+        f.keypad->setExtraWidget(fourth);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!third && f.keypad->extraWidget() == fourth && f.keypad->isAncestorOf(fourth));
+        f.keypad->setExtraWidget(nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!fourth && !f.keypad->extraWidget());
     }
 
     void showGlobalLeavesTheActiveWindowAlone()

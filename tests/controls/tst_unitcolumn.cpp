@@ -116,6 +116,29 @@ private Q_SLOTS:
         f.click("btnUnit1"_s);
         QCOMPARE(column(f), "PgUp u1 u2 More"_s);
         QCOMPARE(f.editor->log.size(), 2);
+        pages[0].label = "PgDn"_s;
+        f.keypad->setShortcutKeys(pages);
+        f.click("btnUnit1"_s);
+        QCOMPARE(column(f), "PgUp u3 u4 PgDn"_s);
+    }
+
+    /// Arrows are drawn in the colours of their key, and in any, once that is gone.
+    void glyphs()
+    {
+        KeypadScene f;
+        QPushButton *const key = f.button("btnUp"_s);
+        const QIcon icon = key->icon();
+        const auto colorOf = [&icon](QIcon::Mode mode) {
+            return icon.pixmap(QSize(64, 64), mode).toImage().pixelColor(32, 32).rgb();
+        };
+        QPalette palette = key->palette();
+        palette.setColor(QPalette::Active, QPalette::ButtonText, Qt::red);
+        palette.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::green);
+        key->setPalette(palette);
+        QCOMPARE(colorOf(QIcon::Normal), QColor(Qt::red).rgb());
+        QCOMPARE(colorOf(QIcon::Disabled), QColor(Qt::green).rgb());
+        delete f.keypad;
+        QCOMPARE(colorOf(QIcon::Normal), QPalette().color(QPalette::ButtonText).rgb());
     }
 };
 
