@@ -302,8 +302,10 @@ bool OverlayContainer::isOutside(const QPointF &position, const QPointF &globalP
 /// Forgets the dialog and hides.
 void OverlayContainer::releaseDialog()
 {
-    d->dialog->disconnect(this);
-    d->dialog->removeEventFilter(this);
+    if (d->dialog) {
+        d->dialog->disconnect(this);
+        d->dialog->removeEventFilter(this);
+    }
     d->dialog = nullptr;
     d->anchor = nullptr;
     setFocusProxy(nullptr);

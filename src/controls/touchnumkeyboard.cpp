@@ -351,7 +351,9 @@ void TouchNumKeyboard::clickedKey()
 /// Pages the unit column, or sends the unit of the pressed button to the focused widget.
 void TouchNumKeyboard::shortCutsKeyClicked()
 {
-    typeKey(QApplication::focusWidget(), d_ptr->units.press(qobject_cast<QPushButton *>(sender())));
+    // A host may call a slot.
+    if (auto *button = qobject_cast<QPushButton *>(sender()))
+        typeKey(QApplication::focusWidget(), d_ptr->units.press(button));
 }
 
 void TouchNumKeyboard::updateButtons()
