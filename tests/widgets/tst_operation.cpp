@@ -167,6 +167,8 @@ private Q_SLOTS:
                  ++i) {
                 const QMetaProperty property = type->property(i);
                 const QVariant value = property.read(widget);
+                if (value.userType() == QMetaType::QIcon) // which cannot be compared
+                    continue;
                 if (property.isWritable())
                     property.write(widget, value);
                 QCOMPARE(property.read(widget), value);
