@@ -29,26 +29,6 @@ struct FailedLimit {
     QPointer<SmithLimit> limit;
 };
 
-/// A plot that a host describes by itself.
-class Described : public PlotDescription
-{
-public:
-    QString name() const override { return QStringLiteral("Plot"); }
-    QString summary() const override { return {}; }
-    QVector<int> traces() const override { return {1}; }
-    QString traceName(int) const override { return QStringLiteral("A"); }
-    QStringList columns(int) const override { return {QStringLiteral("Hz")}; }
-    int rows(int) const override { return 2; }
-    QString cell(int, int row, int) const override { return QString::number(row); }
-    QVector<MarkerId> markers() const override { return {{1, 1}}; }
-    QString markerText(const MarkerId &) const override { return QStringLiteral("M1"); }
-    MarkerValue markerValue(const MarkerId &) const override { return {value, 0.0, 9.0}; }
-    void requestMarkerValue(const MarkerId &, double wanted) override { value = wanted; }
-    QStringList verdicts() const override { return {}; }
-
-    double value = 1.0;
-};
-
 } // namespace
 
 /// The parts of a chart as screen readers keep them.
@@ -57,27 +37,6 @@ class tst_ReaderParts : public VnaTest::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void aHostDescribesItsPlot()
-    {
-        QCustomPlot plot;
-        Described description, other;
-        AccessiblePlot *const accessible = AccessiblePlot::on(&plot);
-        for (Described *const each : {&description, &description, &other})
-            accessible->add(each);
-        accessible->add(nullptr);
-        QAccessibleInterface *const tree = QAccessible::queryAccessibleInterface(&plot);
-        QCOMPARE(tree->childCount(), 5); // with the line for announcements
-        for (int i = 0; i < 4; ++i)
-            QCOMPARE(tree->indexOfChild(tree->child(i)), i);
-        tree->child(1)->valueInterface()->setCurrentValue(7.0);
-        QCOMPARE(description.value, 7.0);
-        QCOMPARE(tree->child(3)->valueInterface()->currentValue().toDouble(), 1.0);
-        accessible->tellMarkerMoved(&description, {1, 2}); // which there is not
-        accessible->remove(&description);
-        QCOMPARE(tree->childCount(), 3);
-        QVERIFY(tree->child(1)->isValid());
-    }
-
     /// What a tool still holds of what has gone, or has never been.
     void partsThatHaveGone()
     {
@@ -201,21 +160,6 @@ private Q_SLOTS:
     }
 
     /// The host may destroy what it is told of.
-    void chartGoesWhenAMarkerIsAskedFor()
-    {
-        for (const bool atOnce : {true, false}) {
-            ReaderScene scene;
-            QAccessibleInterface *const marker = scene.part(QAccessible::Slider);
-            const auto destroy = [&] { delete scene.chart; };
-            if (atOnce)
-                connect(scene.chart, &SmithChartPlot::markerDragStarted, this, destroy);
-            else
-                connect(scene.chart, &SmithChartPlot::markerPositionChanged, this, destroy);
-            marker->valueInterface()->setCurrentValue(3e9);
-            QVERIFY(!scene.chart);
-        }
-    }
-
     void chartGoesWhenAStepIsAnnounced()
     {
         ReaderScene scene;
