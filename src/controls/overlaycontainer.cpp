@@ -20,7 +20,7 @@ class OverlayContainerPrivate
 {
 public:
     QPointer<QWidget> host;
-    QPointer<QDialog> dialog;
+    QPointer<QWidget> dialog; ///< a QDialog, until the last events of its destruction
     QPointer<QWidget> anchor;
     OverlayContainer::OutsideClickAction outsideClickAction = OverlayContainer::None;
     OverlayContainer::DialogPlacement placement = OverlayContainer::Centered;
@@ -49,7 +49,7 @@ OverlayContainer::~OverlayContainer()
 
 QDialog *OverlayContainer::activeDialog() const
 {
-    return d->dialog;
+    return static_cast<QDialog *>(d->dialog.data());
 }
 
 void OverlayContainer::attachToHost(QWidget *host)
@@ -243,9 +243,9 @@ void OverlayContainer::handleOutsideClick()
     if (!self || !d->dialog)
         return;
     if (d->outsideClickAction == Accept)
-        d->dialog->accept();
+        activeDialog()->accept();
     else if (d->outsideClickAction == Reject)
-        d->dialog->reject();
+        activeDialog()->reject();
 }
 
 void OverlayContainer::updateBackground()
