@@ -258,15 +258,16 @@ void SmithChartPlotPrivate::finishDrag()
 {
     if (m_finishingDrag) // a slot hides the plot, or ends the drag once more
         return;
-    const QPointer<SmithChartPlot> self(q);
+    const QPointer<SmithChartPlot> chart(q);
     hideDragLine();
-    if (!self)
+    if (!chart)
         return;
     if (q->isDraggingMarker() && !dragIsConfined()) {
         int traceId = 0;
         int localId = 0;
         SmithChartPlot::parseMarkerId(m_draggingMarkerId, traceId, localId);
         if (const OwnedMarker *const record = findMarker(traceId, localId)) {
+            const QPointer<SmithChartPlot> self(q);
             m_finishingDrag = true;
             Q_EMIT q->markerDragFinished(traceId, localId, record->sourceIndex);
             if (!self)

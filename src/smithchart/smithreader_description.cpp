@@ -97,7 +97,7 @@ void SmithReader::Private::requestMarkerValue(const MarkerId &id, double value)
     if (of.size() == 0)
         return;
     const QPointer<SmithChartPlot> guard(chart);
-    Q_EMIT guard->markerDragStarted(id.trace, id.number);
+    Q_EMIT chart->markerDragStarted(id.trace, id.number);
     if (guard)
         Q_EMIT guard->markerPositionChanged(id.trace, id.number, std::round(of.indexOf(value)));
     if (guard)
